@@ -1,0 +1,43 @@
+# Compiler options of every target: efv_compilacion carries them.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+# Commands find the library beside them in the build tree and, installed, in ../lib.
+set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
+set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
+set(CMAKE_LIBRARY_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/lib)
+
+if(NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+    set(CMAKE_BUILD_TYPE RelWithDebInfo)
+endif()
+
+add_library(efv_compilacion INTERFACE)
+target_compile_options(efv_compilacion INTERFACE
+    # Results must not depend on the machine: no fused operations, no reordering.
+    -ffp-contract=off
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
+    -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wdouble-promotion -Wformat=2
+    -Wimplicit-fallthrough -Wextra-semi
+    -Werror)
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    target_compile_options(efv_compilacion INTERFACE
+        -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wuseless-cast)
+endif()
+
+if(EFV_SANEADORES)
+    target_compile_options(efv_compilacion INTERFACE
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
+        # The sanitizers' own code confuses this one.
+        -Wno-maybe-uninitialized)
+    target_link_options(efv_compilacion INTERFACE -fsanitize=address,undefined)
+endif()
+
+if(EFV_TIDY)
+    find_program(EFV_CLANG_TIDY NAMES clang-tidy REQUIRED)
+    set(CMAKE_CXX_CLANG_TIDY ${EFV_CLANG_TIDY} --quiet --extra-arg=-Wno-unknown-warning-option)
+endif()

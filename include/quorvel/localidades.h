@@ -1,0 +1,39 @@
+// Places with their twelve monthly radiations, for programs that have no locality database of a host.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include <quorvel/exportar.h>
+#include <quorvel/framework/CString.h>
+
+namespace efv {
+
+struct Localidad {
+    CString csNombre;
+    CString csProvincia;  ///< empty outside Spain
+    CString csPais;
+    std::vector<CString> acsAlias;             ///< other names that a search accepts
+    CString csZonaHE5;                         ///< "I" to "V"; empty outside Spain
+    CString csFuente;                          ///< where the radiations come from
+    double dLatitud = 0.0;                     ///< degrees, north positive
+    double dLongitud = 0.0;                    ///< degrees, east positive
+    double dAltitud = 0.0;                     ///< m
+    std::array<double, 12> adRadHorizontal{};  ///< mean daily global radiation by month, kJ/m²·day
+};
+
+/// Reads a file of places. Every place must have a name, a latitude in -90 to 90 and twelve radiations
+/// that are not negative.
+/// @throws CFileException with a Spanish text that names file and reason.
+EFV_API std::vector<Localidad> LeerLocalidades(const CString& csArchivo);
+
+/// The place of that name or alias, accents and case ignored; null when there is none.
+EFV_API const Localidad* BuscarLocalidad(const std::vector<Localidad>& localidades, const CString& csNombre);
+
+/// Up to `nMaximo` names near `csNombre`, nearest first, for a message that helps.
+EFV_API std::vector<CString> NombresParecidos(const std::vector<Localidad>& localidades,
+                                              const CString& csNombre, std::size_t nMaximo);
+
+}  // namespace efv

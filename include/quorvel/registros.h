@@ -1,0 +1,25 @@
+// The fields of a persisted record by name, for whoever shows, edits or exchanges records as data.
+#pragma once
+
+#include <span>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include <quorvel/exportar.h>
+#include <quorvel/framework.h>
+
+namespace efv {
+
+/// A field of a record in place: writing through it changes the record.
+using ReferenciaCampo = std::variant<int*, double*, CString*>;
+
+struct CampoRegistro {
+    std::string_view nombre;
+    ReferenciaCampo valor;
+};
+
+/// The fields of `registro` in declared order; empty when its class is no exported record.
+EFV_API std::vector<CampoRegistro> CamposDeRegistro(CObject& registro);
+
+}  // namespace efv

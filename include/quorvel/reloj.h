@@ -1,0 +1,20 @@
+// The local clock that the module asks for the current year.
+#pragma once
+
+#include <optional>
+
+#include <quorvel/exportar.h>
+
+namespace efv {
+
+/// A moment of local time.
+struct FechaHora {
+    int iAno, iMes, iDia;  ///< year, month 1 to 12, day 1 to 31
+    int iHora, iMinuto, iSegundo;
+};
+
+/// Replaces the clock by a fixed moment, for results that must repeat; an empty one gives the system's
+/// clock back.
+EFV_API void FijarReloj(std::optional<FechaHora> ahora);
+
+}  // namespace efv

@@ -1,0 +1,134 @@
+#include "platform/numero/conversion.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <limits>
+#include <string>
+
+#include <fmt/format.h>
+
+namespace efv::numero {
+
+namespace {
+
+constexpr bool EsBlanco(char c)
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+constexpr bool EsCifra(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+std::string_view SinBlancosDelante(std::string_view texto)
+{
+    while (!texto.empty() && EsBlanco(texto.front()))
+        texto.remove_prefix(1);
+    return texto;
+}
+
+// Narrow form of `texto` for the parsers below; characters beyond ASCII end any number.
+std::string Estrechar(std::wstring_view texto)
+{
+    std::string estrecho(texto.size(), '\0');
+    std::ranges::transform(texto, estrecho.begin(),
+                           [](wchar_t c) { return c > 0 && c < 128 ? static_cast<char>(c) : '\x01'; });
+    return estrecho;
+}
+
+struct NumeroLeido {
+    double d;
+    const char* fin;  // null when no number was found
+};
+
+// What a well-formed number too large or too small for a double reads as: infinite or 0. The wider
+// range of long double tells most cases apart, the sign of the exponent the rest.
+double FueraDeRango(std::string_view numero)
+{
+    long double ancho = 0.0L;
+    if (std::from_chars(numero.data(), numero.data() + numero.size(), ancho).ec == std::errc{})
+        return ancho > 1.0L ? std::numeric_limits<double>::infinity() : 0.0;
+    return numero.find("e-") != numero.npos || numero.find("E-") != numero.npos
+               ? 0.0
+               : std::numeric_limits<double>::infinity();
+}
+
+// Decimal number at the very start of `texto`. from_chars takes no '+', and would take "inf" and "nan".
+NumeroLeido LeerPrefijo(std::string_view texto)
+{
+    const bool negativo = texto.starts_with('-');
+    if (negativo || texto.starts_with('+'))
+        texto.remove_prefix(1);
+    const bool hayCifra =
+        !texto.empty() && (EsCifra(texto[0]) || (texto[0] == '.' && texto.size() > 1 && EsCifra(texto[1])));
+    if (!hayCifra)
+        return {0.0, nullptr};
+    double d = 0.0;
+    const auto [fin, error] = std::from_chars(texto.data(), texto.data() + texto.size(), d);
+    if (error == std::errc::result_out_of_range)
+        d = FueraDeRango({texto.data(), fin});
+    return {negativo ? -d : d, fin};
+}
+
+}  // namespace
+
+double LeerDoble(std::string_view texto)
+{
+    return LeerPrefijo(SinBlancosDelante(texto)).d;
+}
+
+double LeerDoble(std::wstring_view texto)
+{
+    return LeerDoble(std::string_view(Estrechar(texto)));
+}
+
+int LeerEntero(std::string_view texto)
+{
+    texto = SinBlancosDelante(texto);
+    const bool negativo = texto.starts_with('-');
+    if (negativo || texto.starts_with('+'))
+        texto.remove_prefix(1);
+    long long n = 0;
+    for (char c : texto) {
+        if (!EsCifra(c))
+            break;
+        n = std::min<long long>(n * 10 + (c - '0'), 1LL << 40);  // far beyond int, still far from overflow
+    }
+    n = negativo ? -n : n;
+    return static_cast<int>(
+        std::clamp<long long>(n, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
+int Entero(double d)
+{
+    if (std::isnan(d))
+        return 0;
+    constexpr double minimo = std::numeric_limits<int>::min();
+    constexpr double maximo = std::numeric_limits<int>::max();
+    return static_cast<int>(std::clamp(d, minimo, maximo));
+}
+
+CString nuConvertFltToIntlStr(double d, int iDecimales)
+{
+    std::string texto = fmt::format("{:.{}f}", d, std::clamp(iDecimales, 0, 15));
+    std::ranges::replace(texto, '.', ',');
+    return {texto.begin(), texto.end()};
+}
+
+bool nuConvertIntlStrToFlt(std::wstring_view texto, double& d)
+{
+    std::string estrecho = Estrechar(texto);
+    std::ranges::replace(estrecho, ',', '.');
+    std::string_view resto = SinBlancosDelante(estrecho);
+    while (!resto.empty() && EsBlanco(resto.back()))
+        resto.remove_suffix(1);
+    const auto [valor, fin] = LeerPrefijo(resto);
+    if (fin != resto.data() + resto.size() || fin == nullptr || !std::isfinite(valor))
+        return false;
+    d = valor;
+    return true;
+}
+
+}  // namespace efv::numero
