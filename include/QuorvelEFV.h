@@ -1,0 +1,12 @@
+// The whole interface of the library.
+#pragma once
+
+#include <quorvel/assistants.h>
+#include <quorvel/catalogues.h>
+#include <quorvel/frame.h>
+#include <quorvel/framework.h>
+#include <quorvel/localidades.h>
+#include <quorvel/registros.h>
+#include <quorvel/reloj.h>
+#include <quorvel/solar.h>
+#include <quorvel/ui.h>

@@ -1,0 +1,58 @@
+// Registration of the classes that can be created by name, and the records among them.
+#include <array>
+
+#include <QuorvelEFV.h>
+
+#include "assistants/asistente_red_registro.h"
+#include "platform/framework/registro_clases.h"
+
+namespace {
+
+// The order of registration is part of the module's description.
+bool RegistrarClases()
+{
+    constexpr auto clases = std::to_array<const CRuntimeClass& (*)()>({
+        &CBaseXML::GetThisClass,
+        &CBaseFactorK::GetThisClass,
+        &CBaseFactorKLatitud::GetThisClass,
+        &CBaseFactorKAlpha::GetThisClass,
+        &CSFVAsistenteRed::GetThisClass,
+    });
+    for (const auto clase : clases)
+        efv::framework::RegistrarClase(clase());
+    return true;
+}
+
+const bool kRegistradas = RegistrarClases();
+
+using Campos = std::vector<efv::CampoRegistro>;
+
+// The fields of `registro` when it is an R.
+template <class R>
+bool CamposSiEs(CObject& registro, Campos& campos)
+{
+    auto* propio = dynamic_cast<R*>(&registro);
+    if (propio != nullptr)
+        campos = efv::assistants::Campos(*propio);
+    return propio != nullptr;
+}
+
+// Every exported record.
+constexpr auto kRegistros = std::to_array<bool (*)(CObject&, Campos&)>({
+    &CamposSiEs<CSFVAsistenteRed>,
+});
+
+}  // namespace
+
+namespace efv {
+
+std::vector<CampoRegistro> CamposDeRegistro(CObject& registro)
+{
+    Campos campos;
+    for (const auto probar : kRegistros)
+        if (probar(registro, campos))
+            break;
+    return campos;
+}
+
+}  // namespace efv

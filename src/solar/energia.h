@@ -1,0 +1,42 @@
+// Radiation on a tilted field and energy of it, by correlation or by the table of factors K. Units and
+// oddities stand with the exported functions.
+#pragma once
+
+#include <optional>
+#include <span>
+
+#include <quorvel/solar.h>
+
+namespace efv::solar {
+
+/// What a query is asked. The orientation isn't here: no formula uses it.
+struct ConsultaRadiacion {
+    int iMetodo;
+    double dLatitud;
+    int iHemisferio;
+    double dInclinacion;
+    double dPotenciaPico;
+    double dPR;
+    double dFactorAdicional;
+};
+
+/// The twelve factors for the magnitude of the latitude in that hemisphere; nothing outside the table.
+std::optional<std::array<double, 12>> FactoresK(const CBaseFactorK& tabla, double dLatitud, int iHemisferio,
+                                                double dAlpha);
+
+// Each gives nothing when its query fails.
+
+/// kWh/m²·day.
+std::optional<double> RadiacionDia(const ConsultaRadiacion& c, int iMes, double dRadHorizontal,
+                                   const CBaseFactorK& tabla);
+/// kWh.
+std::optional<double> EnergiaDia(const ConsultaRadiacion& c, int iMes, double dRadHorizontal,
+                                 const CBaseFactorK& tabla);
+/// kWh.
+std::optional<double> EnergiaMes(const ConsultaRadiacion& c, int iMes, double dRadHorizontal,
+                                 const CBaseFactorK& tabla);
+/// kWh, from twelve radiations.
+std::optional<double> EnergiaAno(const ConsultaRadiacion& c, std::span<const double, 12> adRadHorizontal,
+                                 const CBaseFactorK& tabla);
+
+}  // namespace efv::solar
