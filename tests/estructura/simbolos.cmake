@@ -1,0 +1,25 @@
+# Every ph function that the library exports is served by efv rpc, and the other way round.
+#   cmake -D BIBLIOTECA=... -D EFV=... -P simbolos.cmake
+execute_process(COMMAND nm -DC --defined-only ${BIBLIOTECA} OUTPUT_VARIABLE simbolos COMMAND_ERROR_IS_FATAL ANY)
+string(REGEX MATCHALL "[\n ]ph[A-Z][A-Za-z0-9_]*\\(" exportadas "${simbolos}")
+list(TRANSFORM exportadas REPLACE "[\n (]" "")
+list(REMOVE_DUPLICATES exportadas)
+
+file(WRITE ${TRABAJO} "{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"rpc.discover\"}\n")
+execute_process(COMMAND ${EFV} rpc INPUT_FILE ${TRABAJO} OUTPUT_VARIABLE respuesta COMMAND_ERROR_IS_FATAL ANY)
+string(JSON n LENGTH "${respuesta}" result)
+math(EXPR ultimo "${n} - 1")
+foreach(i RANGE ${ultimo})
+    string(JSON nombre GET "${respuesta}" result ${i} name)
+    list(APPEND servidas ${nombre})
+endforeach()
+
+list(SORT exportadas)
+list(SORT servidas)
+list(LENGTH exportadas cuantas)
+if(cuantas LESS 30 OR NOT exportadas STREQUAL servidas)
+    set(faltan ${exportadas})
+    list(REMOVE_ITEM faltan ${servidas})
+    list(REMOVE_ITEM servidas ${exportadas})
+    message(FATAL_ERROR "exported (${cuantas}) but not served: ${faltan}\nserved but not exported: ${servidas}")
+endif()

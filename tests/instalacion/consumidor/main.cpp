@@ -1,0 +1,13 @@
+#include <cstdio>
+
+#include <QuorvelEFV.h>
+
+int main()
+{
+    const bool cargada = phCargarBaseFactorK(efv::CadenaDesdeUtf8(DATOS "/ZqFactorKHE5.xml")) == 1;
+    double dEnergia = 0.0;
+    const bool calculada = phGetEIR_kWh_mes(dEnergia, 1, 4, 40.4, 1, 23000, 30, 0, 5, 0.8, 1) == 1;
+    CSFVAsistenteRed registro;
+    std::printf("%d %d %.3f %zu\n", cargada, calculada, dEnergia, efv::CamposDeRegistro(registro).size());
+    return cargada && calculada && dEnergia > 0 ? 0 : 1;
+}
