@@ -36,11 +36,9 @@ int LeerHastaPoder(CBaseXML& base, const CString& csPath)
 
 int CBaseXML::Cargar(const CString& csPath)
 {
-    // The path may be our own csArchivo.
-    const CString csRuta = csPath;
     Vaciar();
-    iCargada = LeerHastaPoder(*this, csRuta);
-    csArchivo = iCargada != 0 ? csRuta : CString();
+    iCargada = LeerHastaPoder(*this, csPath);
+    csArchivo = iCargada != 0 ? csPath : CString();
     return iCargada;
 }
 

@@ -27,7 +27,7 @@ CString FormatearCadena(int iId, std::wstring_view csDato)
     constexpr std::wstring_view marca = L"%1";
     CString texto;
     std::wstring_view resto = cadena->texto;
-    for (std::size_t i = resto.find(marca); i != resto.npos; i = resto.find(marca)) {
+    for (std::size_t i = resto.find(marca); i != std::wstring_view::npos; i = resto.find(marca)) {
         texto.append(resto.substr(0, i)).append(csDato);
         resto.remove_prefix(i + marca.size());
     }

@@ -138,7 +138,7 @@ std::vector<CString> NombresParecidos(const std::vector<Localidad>& localidades,
         std::size_t mejor = CString::npos;
         ParaCadaNombre(l, [&](const CString& nombre) {
             const CString plegado = texto::Plegar(nombre.substr(0, 64));
-            const bool contenido = !buscado.empty() && plegado.find(buscado) != plegado.npos;
+            const bool contenido = !buscado.empty() && plegado.find(buscado) != CString::npos;
             mejor = std::min(mejor, contenido ? 0 : Distancia(plegado, buscado));
         });
         if (mejor <= std::max<std::size_t>(2, buscado.size() / 2))

@@ -50,7 +50,7 @@ double FueraDeRango(std::string_view numero)
     long double ancho = 0.0L;
     if (std::from_chars(numero.data(), numero.data() + numero.size(), ancho).ec == std::errc{})
         return ancho > 1.0L ? std::numeric_limits<double>::infinity() : 0.0;
-    return numero.find("e-") != numero.npos || numero.find("E-") != numero.npos
+    return numero.find("e-") != std::string_view::npos || numero.find("E-") != std::string_view::npos
                ? 0.0
                : std::numeric_limits<double>::infinity();
 }

@@ -60,13 +60,13 @@ std::string CodificacionDeclarada(std::string_view bytes)
         return {};
     const std::string_view declaracion = bytes.substr(0, bytes.find("?>"));
     const std::size_t clave = declaracion.find("encoding");
-    if (clave == declaracion.npos)
+    if (clave == std::string_view::npos)
         return {};
     const std::size_t inicio = declaracion.find_first_of("\"'", clave);
-    if (inicio == declaracion.npos)
+    if (inicio == std::string_view::npos)
         return {};
     const std::size_t fin = declaracion.find(declaracion[inicio], inicio + 1);
-    return Minusculas(declaracion.substr(inicio + 1, fin == declaracion.npos ? fin : fin - inicio - 1));
+    return Minusculas(declaracion.substr(inicio + 1, fin == std::string_view::npos ? fin : fin - inicio - 1));
 }
 
 bool UnoDe(std::string_view texto, std::initializer_list<std::string_view> nombres)
@@ -140,7 +140,7 @@ int xmlOpenDocument(const CString& csRuta, int /*iReservado*/)
     if (!leido)
         return 0;
     std::optional<std::string> utf8 = AUtf8(std::move(*leido));
-    if (!utf8 || utf8->find('\0') != utf8->npos)
+    if (!utf8 || utf8->find('\0') != std::string::npos)
         return 0;
 
     Documento& documento = Actual();
