@@ -1,4 +1,4 @@
-#include <quorvel/ui.h>
+#include <quorvel/ui/arbol.h>
 
 HTREEITEM CTreeCtrl::InsertItem(std::wstring_view texto, int iImagen, HTREEITEM padre)
 {

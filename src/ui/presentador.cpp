@@ -1,15 +1,10 @@
-#include <utility>
+#include <quorvel/ui/presentador.h>
 
-#include <quorvel/ui.h>
+#include <quorvel/ui/dialogo.h>
 
 namespace efv::ui {
 
 namespace {
-
-Respuesta SinRespuesta(Botones botones)
-{
-    return botones == Botones::aceptar ? Respuesta::aceptar : Respuesta::no;
-}
 
 Presentador*& Instalado()
 {
@@ -23,19 +18,29 @@ Presentador::~Presentador() = default;
 
 Respuesta PresentadorNulo::MostrarMensaje(const Mensaje& mensaje)
 {
-    return SinRespuesta(mensaje.botones);
+    return mensaje.botones == Botones::aceptar ? Respuesta::aceptar : Respuesta::no;
 }
 
-Respuesta PresentadorGuionizado::MostrarMensaje(const Mensaje& mensaje)
+void PresentadorNulo::MostrarModal(Dialogo& dialogo)
 {
-    Respuesta respuesta = SinRespuesta(mensaje.botones);
-    if (mensaje.botones != Botones::aceptar && !respuestas.empty()) {
-        respuesta = respuestas.front();
-        respuestas.pop_front();
-    }
-    mostrados.push_back({mensaje, respuesta});
-    return respuesta;
+    dialogo.Cancelar();
 }
+
+void PresentadorNulo::MostrarRechazo(Dialogo& /*dialogo*/, const Rechazo& /*rechazo*/) {}
+
+std::optional<CString> PresentadorNulo::ElegirFichero(const PeticionFichero& /*peticion*/)
+{
+    return std::nullopt;
+}
+
+CString PresentadorNulo::LeerPortapapeles()
+{
+    return {};
+}
+
+void PresentadorNulo::EscribirPortapapeles(const CString& /*csTexto*/) {}
+void PresentadorNulo::Esperar(bool /*bEmpieza*/) {}
+void PresentadorNulo::Refrescar(Dialogo& /*dialogo*/) {}
 
 void InstalarPresentador(Presentador* presentador)
 {
@@ -51,6 +56,12 @@ Presentador& PresentadorActual()
 void MostrarAviso(std::wstring_view texto, Icono icono)
 {
     PresentadorActual().MostrarMensaje({CString(kTituloModulo), CString(texto), icono, Botones::aceptar});
+}
+
+bool Preguntar(std::wstring_view texto)
+{
+    return PresentadorActual().MostrarMensaje(
+               {CString(kTituloModulo), CString(texto), Icono::pregunta, Botones::siNo}) == Respuesta::si;
 }
 
 }  // namespace efv::ui

@@ -1,0 +1,214 @@
+// The controls of a dialog, as data. A presenter draws them from their state and tells the dialog what
+// the person did; it never changes a control by itself.
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <variant>
+#include <vector>
+
+#include <quorvel/exportar.h>
+#include <quorvel/framework/CString.h>
+#include <quorvel/ui/grafica.h>
+
+namespace efv::ui {
+
+/// Where a control stands, as a hint for whoever lays the dialog out.
+struct Lugar {
+    int iPagina = -1;         ///< page of the dialog's tabs; -1 outside them
+    std::wstring_view grupo;  ///< framed group of that caption; empty for none
+    int iColumna = 0;
+    bool bEstirar = false;  ///< takes the room that is left
+};
+
+/// The value that a control stands for: none, a tick, a number, a text.
+using Valor = std::variant<std::monostate, bool, int, double, CString>;
+
+/// The variable that a control's content is exchanged with.
+using Destino = std::variant<std::monostate, int*, double*, CString*>;
+
+struct Intervalo {
+    double dMinimo, dMaximo;  ///< in stored units, both allowed
+};
+
+/// How a field takes part in the dialog's data exchange.
+enum class Intercambio {
+    automatico,
+    aMano  ///< the dialog reads and writes it itself
+};
+
+class VisitanteControl;
+
+class EFV_API Control {
+public:
+    Control(std::string nombreCampo, std::wstring_view rotulo)
+        : nombre(std::move(nombreCampo)), csRotulo(rotulo)
+    {
+    }
+    virtual ~Control();
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string nombre;  ///< name of the field that it shows, as in the code
+    CString csRotulo;          ///< caption; '&' before the letter of its key
+    bool bHabilitado = true;
+    bool bVisible = true;
+    bool bSoloLectura = false;
+    Color color = kNegro;
+    Lugar lugar;
+
+    /// What it shows, as text.
+    virtual CString Texto() const = 0;
+    virtual Valor ValorActual() const = 0;
+    virtual void Visitar(VisitanteControl& visitante) = 0;
+};
+
+/// Text that the person can't change.
+class EFV_API TextoFijo final : public Control {
+public:
+    using Control::Control;
+    CString csTexto;
+
+    CString Texto() const override { return csTexto; }
+    Valor ValorActual() const override { return csTexto; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+/// One line of text, or several.
+class EFV_API Edicion final : public Control {
+public:
+    using Control::Control;
+    CString csTexto;
+    Destino destino;
+    std::optional<Intervalo> limites;
+    int iDecimales = 2;
+    Intercambio intercambio = Intercambio::automatico;
+    bool bVariasLineas = false;
+    std::function<void()> alCambiar;  ///< after each change of the text by the person
+    std::function<void()> alSalir;    ///< when it loses the focus
+
+    CString Texto() const override { return csTexto; }
+    Valor ValorActual() const override;
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+class EFV_API Casilla final : public Control {
+public:
+    using Control::Control;
+    bool bMarcada = false;
+    Destino destino;  ///< an int, 0 or 1
+    std::function<void()> alCambiar;
+
+    CString Texto() const override { return csRotulo; }
+    Valor ValorActual() const override { return bMarcada; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+/// One entry out of several: a combo box, a radio group, the pages of a dialog (named "tab"), a button
+/// with a menu.
+class EFV_API Seleccion final : public Control {
+public:
+    enum class Forma { combo, radio, pestanas, menu };
+
+    Seleccion(std::string nombreCampo, std::wstring_view rotulo, Forma formaControl)
+        : Control(std::move(nombreCampo), rotulo), forma(formaControl)
+    {
+    }
+
+    const Forma forma;
+    std::vector<CString> acsEntradas;
+    int iSeleccion = -1;  ///< -1: none
+    Destino destino;      ///< an int, the entry's index
+    Intercambio intercambio = Intercambio::automatico;
+    std::function<void()> alElegir;  ///< after the person chose, also the same entry again
+
+    CString Texto() const override;
+    Valor ValorActual() const override { return iSeleccion; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+class EFV_API Boton final : public Control {
+public:
+    using Control::Control;
+    std::function<void()> alPulsar;
+    CString csImagen;      ///< name of its picture; empty for a button of text
+    CString csIndicacion;  ///< tool-tip
+
+    CString Texto() const override { return csRotulo; }
+    Valor ValorActual() const override { return {}; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+/// Rows asked for one by one, so that a list of thousands costs what is seen of it.
+class EFV_API ModeloFilas {
+public:
+    virtual ~ModeloFilas();
+    virtual int Filas() const = 0;
+    virtual CString Celda(int iFila, int iColumna) const = 0;
+    /// Depth of a row in a tree, 0 at the root.
+    virtual int Nivel(int /*iFila*/) const { return 0; }
+    virtual int Imagen(int /*iFila*/) const { return -1; }
+};
+
+/// A list, a table, or a tree told by the levels of its rows.
+class EFV_API Lista final : public Control {
+public:
+    enum class Forma { tabla, arbol };
+
+    Lista(std::string nombreCampo, std::wstring_view rotulo, Forma formaControl)
+        : Control(std::move(nombreCampo), rotulo), forma(formaControl)
+    {
+    }
+
+    const Forma forma;
+    std::vector<CString> acsColumnas;
+    std::shared_ptr<const ModeloFilas> modelo;  ///< null: no rows
+    int iSeleccion = -1;
+    unsigned uVersion = 0;  ///< raised with each change of the rows, so that a view knows
+    std::function<void()> alElegir;
+    std::function<void(int iFila, int iColumna)> alAbrir;  ///< double click
+
+    int Filas() const { return modelo ? modelo->Filas() : 0; }
+    CString Texto() const override;
+    Valor ValorActual() const override { return iSeleccion; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+class EFV_API Grafica final : public Control {
+public:
+    using Control::Control;
+    CCtrlCurva2D datos;
+
+    CString Texto() const override { return datos.csTitulo; }
+    Valor ValorActual() const override { return {}; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+class EFV_API Progreso final : public Control {
+public:
+    using Control::Control;
+    double dFraccion = 0.0;  ///< 0 to 1
+
+    CString Texto() const override { return {}; }
+    Valor ValorActual() const override { return dFraccion; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+/// One operation for each kind of control: a new kind can't be forgotten by anybody.
+class EFV_API VisitanteControl {
+public:
+    virtual ~VisitanteControl();
+    virtual void Ver(TextoFijo& control) = 0;
+    virtual void Ver(Edicion& control) = 0;
+    virtual void Ver(Casilla& control) = 0;
+    virtual void Ver(Seleccion& control) = 0;
+    virtual void Ver(Boton& control) = 0;
+    virtual void Ver(Lista& control) = 0;
+    virtual void Ver(Grafica& control) = 0;
+    virtual void Ver(Progreso& control) = 0;
+};
+
+}  // namespace efv::ui

@@ -1,0 +1,103 @@
+// A dialog without a screen: it declares its controls and what the person's actions do.
+#pragma once
+
+#include <concepts>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <quorvel/exportar.h>
+#include <quorvel/framework/CString.h>
+#include <quorvel/ui/controles.h>
+
+namespace efv::ui {
+
+/// Why a dialog's fields can't be taken over: the first field at fault and what to tell the person.
+struct Rechazo {
+    Control* control;
+    CString csTexto;
+};
+
+class EFV_API Dialogo {
+public:
+    enum Resultado : int { ok = 1, cancelado = 2 };
+
+    Dialogo(std::string_view nombreClase, std::wstring_view titulo);
+    virtual ~Dialogo();
+    Dialogo(const Dialogo&) = delete;
+    Dialogo& operator=(const Dialogo&) = delete;
+
+    const std::string clase;  ///< name of the dialog's class
+    CString csTitulo;
+    CString csAceptar = L"Aceptar";
+    CString csCancelar = L"Cancelar";
+    bool bAceptarVisible = true;
+    bool bMaximizable = false;
+    Control* foco = nullptr;  ///< where the next key goes; null leaves it to the presenter
+    int iTemporizador = 0;    ///< period of the dialog's timer in ms; 0: none runs
+
+    /// In tab order.
+    std::span<const std::unique_ptr<Control>> Controles() const { return m_controles; }
+
+    /// Shows the dialog through the current presenter until it ends.
+    int Mostrar();
+
+    // -- What a person can do. The control must be visible and enabled, and writable for typing.
+
+    /// Types `csTexto` over the field's content; the focus stays in it.
+    void Teclear(Edicion& control, const CString& csTexto);
+    /// Leaves the field.
+    void Salir(Edicion& control);
+    void Elegir(Seleccion& control, int iEntrada);
+    void Elegir(Lista& control, int iFila);
+    void Abrir(Lista& control, int iFila, int iColumna);
+    void Marcar(Casilla& control, bool bMarcada);
+    void Pulsar(Boton& control);
+    /// The OK button: takes the fields over, checks them and ends the dialog. A refusal of the data
+    /// exchange comes back; the dialog then stays open with the focus at fault.
+    std::optional<Rechazo> Aceptar();
+    void Cancelar();
+    void VencerTemporizador();
+
+    bool Terminado() const { return m_resultado.has_value(); }
+    int ResultadoFinal() const { return m_resultado.value_or(cancelado); }
+
+    // -- Data exchange
+
+    /// Fields to variables, in order, until the first fault. All that stood before it is taken over.
+    std::optional<Rechazo> Recoger();
+    /// The same, and a fault is shown to the person. False when there was one.
+    bool RecogerAvisando();
+    /// Variables to fields.
+    void Volcar();
+
+    /// All fields to reading only, OK hidden, Cancel as "&Cerrar".
+    void PonerSoloLectura();
+
+    void Terminar(int iResultado);
+
+protected:
+    template <std::derived_from<Control> C, class... Args>
+    C& Anadir(Args&&... args)
+    {
+        auto control = std::make_unique<C>(std::forward<Args>(args)...);
+        C& referencia = *control;
+        m_controles.push_back(std::move(control));
+        return referencia;
+    }
+
+    /// Further checks of OK, after the data exchange; true ends the dialog.
+    virtual bool AlAceptar() { return true; }
+    virtual void AlCancelar() {}
+    virtual void AlVencerTemporizador() {}
+
+private:
+    std::vector<std::unique_ptr<Control>> m_controles;
+    std::optional<int> m_resultado;
+};
+
+}  // namespace efv::ui

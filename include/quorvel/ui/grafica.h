@@ -1,0 +1,52 @@
+// Charts as data: one painter draws them on screen, another writes SVG.
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include <quorvel/exportar.h>
+#include <quorvel/framework/CString.h>
+
+namespace efv::ui {
+
+/// 0xBBGGRR.
+using Color = std::uint32_t;
+
+inline constexpr Color kNegro = 0x000000;
+inline constexpr Color kRojo = 0x0000FF;
+inline constexpr Color kAzul = 0xFF0000;
+
+/// "#RRGGBB".
+EFV_API std::string ColorHex(Color color);
+
+enum class EstiloSerie { linea, escalon, barra };
+
+struct SerieCurva {
+    std::vector<double> adX, adY;  ///< of the same length
+    Color color = kNegro;
+    int iAncho = 1;  ///< 0: invisible, the series only fixes the scale
+    EstiloSerie estilo = EstiloSerie::linea;
+};
+
+}  // namespace efv::ui
+
+/// A chart of series of points.
+struct EFV_API CCtrlCurva2D {
+    CString csTitulo, csTituloX, csTituloY;
+    int iCuadriculaX = 10, iCuadriculaY = 8;  ///< grid counts
+    std::vector<efv::ui::SerieCurva> aSeries;
+};
+
+namespace efv::ui {
+
+/// The extent of a chart: from the least to the greatest value of its finite points, 0 included.
+struct Extension {
+    double dMinX = 0, dMaxX = 1, dMinY = 0, dMaxY = 1;
+};
+EFV_API Extension ExtensionDe(const CCtrlCurva2D& grafica);
+
+/// A self-contained SVG document of `iAncho` by `iAlto` pixels, UTF-8.
+EFV_API std::string EscribirSvg(const CCtrlCurva2D& grafica, int iAncho = 800, int iAlto = 500);
+
+}  // namespace efv::ui

@@ -1,0 +1,142 @@
+#include <quorvel/ui/dialogo.h>
+
+#include <quorvel/ui/presentador.h>
+
+#include "ui/intercambio.h"
+
+namespace efv::ui {
+
+Dialogo::Dialogo(std::string_view nombreClase, std::wstring_view titulo) : clase(nombreClase), csTitulo(titulo)
+{
+}
+
+Dialogo::~Dialogo() = default;
+
+int Dialogo::Mostrar()
+{
+    PresentadorActual().MostrarModal(*this);
+    if (!Terminado())
+        Cancelar();
+    return ResultadoFinal();
+}
+
+namespace {
+
+// Runs what the dialog does on an action of the person, if anything.
+template <class F, class... Args>
+void Avisar(const F& accion, Args... args)
+{
+    if (accion)
+        accion(args...);
+}
+
+}  // namespace
+
+void Dialogo::Teclear(Edicion& control, const CString& csTexto)
+{
+    foco = &control;
+    control.csTexto = csTexto;
+    Avisar(control.alCambiar);
+}
+
+void Dialogo::Salir(Edicion& control)
+{
+    if (foco == &control)
+        foco = nullptr;
+    Avisar(control.alSalir);
+}
+
+void Dialogo::Elegir(Seleccion& control, int iEntrada)
+{
+    control.iSeleccion = iEntrada;
+    Avisar(control.alElegir);
+}
+
+void Dialogo::Elegir(Lista& control, int iFila)
+{
+    control.iSeleccion = iFila;
+    Avisar(control.alElegir);
+}
+
+void Dialogo::Abrir(Lista& control, int iFila, int iColumna)
+{
+    control.iSeleccion = iFila;
+    Avisar(control.alAbrir, iFila, iColumna);
+}
+
+void Dialogo::Marcar(Casilla& control, bool bMarcada)
+{
+    control.bMarcada = bMarcada;
+    Avisar(control.alCambiar);
+}
+
+void Dialogo::Pulsar(Boton& control)
+{
+    Avisar(control.alPulsar);
+}
+
+std::optional<Rechazo> Dialogo::Aceptar()
+{
+    if (auto rechazo = Recoger()) {
+        foco = rechazo->control;
+        return rechazo;
+    }
+    if (AlAceptar() && !Terminado())
+        Terminar(ok);
+    return std::nullopt;
+}
+
+void Dialogo::Cancelar()
+{
+    AlCancelar();
+    Terminar(cancelado);
+}
+
+void Dialogo::VencerTemporizador()
+{
+    AlVencerTemporizador();
+}
+
+std::optional<Rechazo> Dialogo::Recoger()
+{
+    for (const auto& control : m_controles)
+        if (auto csFalta = ui::Recoger(*control))
+            return Rechazo{control.get(), std::move(*csFalta)};
+    return std::nullopt;
+}
+
+bool Dialogo::RecogerAvisando()
+{
+    const auto rechazo = Recoger();
+    if (rechazo) {
+        foco = rechazo->control;
+        PresentadorActual().MostrarRechazo(*this, *rechazo);
+    }
+    return !rechazo;
+}
+
+void Dialogo::Volcar()
+{
+    for (const auto& control : m_controles)
+        ui::Volcar(*control);
+}
+
+void Dialogo::PonerSoloLectura()
+{
+    for (const auto& control : m_controles) {
+        if (dynamic_cast<Edicion*>(control.get()) != nullptr)
+            control->bSoloLectura = true;
+        else if (const auto* combo = dynamic_cast<Seleccion*>(control.get());
+                 combo != nullptr && combo->forma == Seleccion::Forma::combo)
+            control->bHabilitado = false;
+    }
+    bAceptarVisible = false;
+    csCancelar = L"&Cerrar";
+}
+
+void Dialogo::Terminar(int iResultado)
+{
+    m_resultado = iResultado;
+}
+
+}  // namespace efv::ui

@@ -1,0 +1,324 @@
+#include <quorvel/ui/guion.h>
+
+#include <algorithm>
+
+#include <quorvel/ui/dialogo.h>
+
+namespace efv::ui {
+
+// ---------------------------------------------------------------------------------------------------
+// State of a control, for the transcript
+// ---------------------------------------------------------------------------------------------------
+
+namespace {
+
+class Observador final : public VisitanteControl {
+public:
+    explicit Observador(EstadoControl& estado) : m_estado(estado) {}
+
+    void Ver(TextoFijo&) override {}
+    void Ver(Edicion&) override {}
+    void Ver(Casilla&) override {}
+    void Ver(Boton&) override {}
+    void Ver(Progreso&) override {}
+    void Ver(Grafica& c) override { m_estado.propio = c.datos; }
+
+    void Ver(Seleccion& c) override
+    {
+        m_estado.propio = EstadoControl::DeSeleccion{c.acsEntradas, c.iSeleccion};
+    }
+
+    void Ver(Lista& c) override
+    {
+        EstadoControl::DeLista lista{c.forma == Lista::Forma::arbol, c.acsColumnas, {}, {}, c.iSeleccion};
+        const int nColumnas = std::max(1, static_cast<int>(c.acsColumnas.size()));
+        for (int iFila = 0; iFila < c.Filas(); ++iFila) {
+            std::vector<CString>& celdas = lista.filas.emplace_back();
+            for (int iColumna = 0; iColumna < nColumnas; ++iColumna)
+                celdas.push_back(c.modelo->Celda(iFila, iColumna));
+            lista.niveles.push_back(c.modelo->Nivel(iFila));
+        }
+        m_estado.propio = std::move(lista);
+    }
+
+private:
+    EstadoControl& m_estado;
+};
+
+EstadoControl Observar(Control& control)
+{
+    EstadoControl estado{control.Texto(),
+                         control.ValorActual(),
+                         control.bHabilitado,
+                         control.bVisible,
+                         control.bSoloLectura,
+                         control.color,
+                         {}};
+    Observador observador(estado);
+    control.Visitar(observador);
+    return estado;
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Steps
+// ---------------------------------------------------------------------------------------------------
+
+/// A step that can't be carried out.
+struct ErrorDePaso {
+    std::string texto;
+};
+
+// A caption as a script writes it: without the mark of its key.
+CString SinMnemonico(CString rotulo)
+{
+    std::erase(rotulo, L'&');
+    return rotulo;
+}
+
+Control& Buscar(const Dialogo& dialogo, const std::string& nombre)
+{
+    const CString csNombre = CadenaDesdeUtf8(nombre);
+    Control* porRotulo = nullptr;
+    for (const auto& control : dialogo.Controles()) {
+        if (!control->nombre.empty() && control->nombre == nombre)
+            return *control;
+        if (control->csRotulo != csNombre && SinMnemonico(control->csRotulo) != csNombre)
+            continue;
+        if (porRotulo != nullptr)
+            throw ErrorDePaso{"control \"" + nombre + "\": dos controles tienen ese rótulo"};
+        porRotulo = control.get();
+    }
+    if (porRotulo == nullptr)
+        throw ErrorDePaso{"control \"" + nombre + "\": no existe en " + dialogo.clase};
+    return *porRotulo;
+}
+
+// The control as a C that a person can use now.
+template <class C>
+C& Usable(const Dialogo& dialogo, const std::string& nombre)
+{
+    Control& control = Buscar(dialogo, nombre);
+    if (!control.bVisible)
+        throw ErrorDePaso{"control \"" + nombre + "\": está oculto"};
+    if (!control.bHabilitado)
+        throw ErrorDePaso{"control \"" + nombre + "\": está inhabilitado"};
+    auto* propio = dynamic_cast<C*>(&control);
+    if (propio == nullptr)
+        throw ErrorDePaso{"control \"" + nombre + "\": no admite este paso"};
+    return *propio;
+}
+
+Edicion& Escribible(const Dialogo& dialogo, const std::string& nombre)
+{
+    auto& edicion = Usable<Edicion>(dialogo, nombre);
+    if (edicion.bSoloLectura)
+        throw ErrorDePaso{"control \"" + nombre + "\": es de solo lectura"};
+    return edicion;
+}
+
+int IndiceValido(int i, int n, const std::string& nombre)
+{
+    if (i < 0 || i >= n)
+        throw ErrorDePaso{"control \"" + nombre + "\": no tiene la entrada " + std::to_string(i)};
+    return i;
+}
+
+int IndiceDe(const std::vector<CString>& entradas, const CString& csTexto, const std::string& nombre)
+{
+    const auto hallada = std::ranges::find(entradas, csTexto);
+    if (hallada == entradas.end())
+        throw ErrorDePaso{"control \"" + nombre + "\": no tiene la entrada \"" + CadenaUtf8(csTexto) + "\""};
+    return static_cast<int>(hallada - entradas.begin());
+}
+
+// A row of a list by its first cell; in a tree also by "parent#child".
+int FilaDe(const Lista& lista, const CString& csTexto, const std::string& nombre)
+{
+    CString csPadre;
+    for (int iFila = 0; iFila < lista.Filas(); ++iFila) {
+        const CString celda = lista.modelo->Celda(iFila, 0);
+        if (celda == csTexto)
+            return iFila;
+        if (lista.modelo->Nivel(iFila) == 0)
+            csPadre = celda;
+        else if (csPadre + L"#" + celda == csTexto)
+            return iFila;
+    }
+    throw ErrorDePaso{"control \"" + nombre + "\": no tiene la fila \"" + CadenaUtf8(csTexto) + "\""};
+}
+
+class Actor {
+public:
+    Actor(PresentadorGuionizado& presentador, Dialogo& dialogo, std::deque<std::optional<CString>>& ficheros,
+          std::size_t iTranscripcion)
+        : m_presentador(presentador), m_dialogo(dialogo), m_ficheros(ficheros), m_iTranscripcion(iTranscripcion)
+    {
+    }
+
+    void operator()(const paso::Poner& p)
+    {
+        auto& edicion = Escribible(m_dialogo, p.control);
+        m_dialogo.Teclear(edicion, p.csTexto);
+        m_dialogo.Salir(edicion);
+    }
+
+    void operator()(const paso::Teclear& p) { m_dialogo.Teclear(Escribible(m_dialogo, p.control), p.csTexto); }
+
+    void operator()(const paso::Elegir& p)
+    {
+        auto& control = Usable<Control>(m_dialogo, p.control);
+        if (auto* lista = dynamic_cast<Lista*>(&control)) {
+            const int* i = std::get_if<int>(&p.entrada);
+            m_dialogo.Elegir(*lista, i != nullptr ? IndiceValido(*i, lista->Filas(), p.control)
+                                                  : FilaDe(*lista, std::get<CString>(p.entrada), p.control));
+            return;
+        }
+        auto& seleccion = Usable<Seleccion>(m_dialogo, p.control);
+        const int* i = std::get_if<int>(&p.entrada);
+        m_dialogo.Elegir(seleccion,
+                         i != nullptr
+                             ? IndiceValido(*i, static_cast<int>(seleccion.acsEntradas.size()), p.control)
+                             : IndiceDe(seleccion.acsEntradas, std::get<CString>(p.entrada), p.control));
+    }
+
+    void operator()(const paso::Marcar& p)
+    {
+        m_dialogo.Marcar(Usable<Casilla>(m_dialogo, p.control), p.bMarcada);
+    }
+
+    void operator()(const paso::Pulsar& p)
+    {
+        if (p.control == "OK")
+            Aceptar();
+        else if (p.control == "Cancel")
+            m_dialogo.Cancelar();
+        else
+            m_dialogo.Pulsar(Usable<Boton>(m_dialogo, p.control));
+    }
+
+    void operator()(const paso::Abrir& p)
+    {
+        auto& lista = Usable<Lista>(m_dialogo, p.lista);
+        IndiceValido(p.iFila, lista.Filas(), p.lista);
+        m_dialogo.Abrir(lista, p.iFila, p.iColumna);
+    }
+
+    void operator()(const paso::Fichero& p) { m_ficheros.push_back(p.csRuta); }
+    void operator()(const paso::Simbolo& p) { m_presentador.simbolos.push_back(p.iSimbolo); }
+    void operator()(const paso::Portapapeles& p) { m_presentador.csPortapapeles = p.csTexto; }
+
+    void operator()(const paso::Esperar& /*p*/)
+    {
+        if (m_dialogo.iTemporizador > 0)
+            m_dialogo.VencerTemporizador();
+    }
+
+    void operator()(const paso::Leer& p)
+    {
+        std::vector<std::pair<std::string, EstadoControl>> lectura;
+        if (p.controles.empty()) {
+            for (const auto& control : m_dialogo.Controles())
+                lectura.emplace_back(control->nombre.empty() ? CadenaUtf8(control->csRotulo) : control->nombre,
+                                     Observar(*control));
+        }
+        for (const std::string& nombre : p.controles)
+            lectura.emplace_back(nombre, Observar(Buscar(m_dialogo, nombre)));
+        Transcripcion().lecturas.push_back(std::move(lectura));
+    }
+
+private:
+    // Nested dialogs add transcripts: a reference wouldn't last.
+    ui::Transcripcion& Transcripcion() { return m_presentador.transcripciones[m_iTranscripcion]; }
+
+    void Aceptar()
+    {
+        if (!m_dialogo.bAceptarVisible)
+            throw ErrorDePaso{"control \"OK\": está oculto"};
+        const auto rechazo = m_dialogo.Aceptar();
+        Transcripcion().csRechazo = rechazo ? std::optional(rechazo->csTexto) : std::nullopt;
+    }
+
+    PresentadorGuionizado& m_presentador;
+    Dialogo& m_dialogo;
+    std::deque<std::optional<CString>>& m_ficheros;
+    std::size_t m_iTranscripcion;
+};
+
+// Carries the steps out until the dialog ends or a step can't be; the text of the failure comes back.
+std::optional<CString> Actuar(Actor& actor, const Dialogo& dialogo, const GuionDialogo& guion,
+                              const std::optional<CString>& csErrorAnidado)
+{
+    if (guion.dialogo != dialogo.clase)
+        return CadenaDesdeUtf8("se abrió el diálogo " + dialogo.clase + " y el guion es de " + guion.dialogo);
+    for (std::size_t i = 0; i < guion.pasos.size() && !dialogo.Terminado() && !csErrorAnidado; ++i) {
+        try {
+            std::visit(actor, guion.pasos[i]);
+        } catch (const ErrorDePaso& error) {
+            return CadenaDesdeUtf8("paso " + std::to_string(i) + " de " + dialogo.clase + ": " + error.texto);
+        }
+    }
+    return std::nullopt;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------------------------------------------
+// The presenter
+// ---------------------------------------------------------------------------------------------------
+
+Respuesta PresentadorGuionizado::MostrarMensaje(const Mensaje& mensaje)
+{
+    Respuesta respuesta = mensaje.botones == Botones::aceptar ? Respuesta::aceptar : Respuesta::no;
+    if (mensaje.botones != Botones::aceptar && !respuestas.empty()) {
+        respuesta = respuestas.front();
+        respuestas.pop_front();
+    }
+    mostrados.push_back({mensaje, respuesta});
+    return respuesta;
+}
+
+void PresentadorGuionizado::MostrarModal(Dialogo& dialogo)
+{
+    const std::size_t iTranscripcion = transcripciones.size();
+    transcripciones.push_back({dialogo.clase, dialogo.csTitulo, 0, {}, {}});
+    if (!guiones.empty() && !csErrorGuion) {
+        const GuionDialogo guion = std::move(guiones.front());
+        guiones.pop_front();
+        Actor actor(*this, dialogo, m_ficheros, iTranscripcion);
+        if (auto csError = Actuar(actor, dialogo, guion, csErrorGuion))
+            csErrorGuion = std::move(csError);
+    }
+    if (!dialogo.Terminado())
+        dialogo.Cancelar();
+    transcripciones[iTranscripcion].csTitulo = dialogo.csTitulo;
+    transcripciones[iTranscripcion].iResultado = dialogo.ResultadoFinal();
+}
+
+void PresentadorGuionizado::MostrarRechazo(Dialogo& /*dialogo*/, const Rechazo& rechazo)
+{
+    MostrarMensaje({CString(kTituloModulo), rechazo.csTexto, Icono::advertencia, Botones::aceptar});
+}
+
+std::optional<CString> PresentadorGuionizado::ElegirFichero(const PeticionFichero& /*peticion*/)
+{
+    if (m_ficheros.empty())
+        return std::nullopt;
+    std::optional<CString> csRuta = std::move(m_ficheros.front());
+    m_ficheros.pop_front();
+    return csRuta;
+}
+
+CString PresentadorGuionizado::LeerPortapapeles()
+{
+    return csPortapapeles;
+}
+
+void PresentadorGuionizado::EscribirPortapapeles(const CString& csTexto)
+{
+    csPortapapeles = csTexto;
+}
+
+void PresentadorGuionizado::Esperar(bool /*bEmpieza*/) {}
+void PresentadorGuionizado::Refrescar(Dialogo& /*dialogo*/) {}
+
+}  // namespace efv::ui

@@ -1,0 +1,157 @@
+#include "ui/intercambio.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "platform/numero/conversion.h"
+#include "platform/numero/tolerancia.h"
+
+namespace efv::ui {
+
+namespace {
+
+constexpr std::wstring_view kNoEsNumero = L"Introduzca un número.";
+
+// As few digits as the number needs, with a decimal comma: "0", "15000", "0,5".
+CString Breve(double d)
+{
+    std::string texto = fmt::format("{}", d);
+    if (texto.ends_with(".0"))
+        texto.resize(texto.size() - 2);
+    std::ranges::replace(texto, '.', ',');
+    return {texto.begin(), texto.end()};
+}
+
+bool Dentro(double d, const std::optional<Intervalo>& limites)
+{
+    return !limites || (numero::MayorIgual(d, limites->dMinimo) && numero::MenorIgual(d, limites->dMaximo));
+}
+
+class Recolector final : public VisitanteControl {
+public:
+    std::optional<CString> csFalta;
+
+    void Ver(TextoFijo&) override {}
+    void Ver(Boton&) override {}
+    void Ver(Lista&) override {}
+    void Ver(Grafica&) override {}
+    void Ver(Progreso&) override {}
+
+    void Ver(Casilla& c) override
+    {
+        if (auto* destino = std::get_if<int*>(&c.destino))
+            **destino = c.bMarcada ? 1 : 0;
+    }
+
+    void Ver(Seleccion& c) override
+    {
+        auto* destino = std::get_if<int*>(&c.destino);
+        if (destino != nullptr && c.intercambio == Intercambio::automatico)
+            **destino = c.iSeleccion;
+    }
+
+    void Ver(Edicion& c) override
+    {
+        if (c.intercambio == Intercambio::automatico)
+            std::visit([&](auto destino) { Tomar(c, destino); }, c.destino);
+    }
+
+private:
+    static void Tomar(const Edicion&, std::monostate) {}
+    static void Tomar(const Edicion& c, CString* destino) { *destino = c.csTexto; }
+
+    void Tomar(const Edicion& c, double* destino)
+    {
+        if (const auto d = Numero(c))
+            *destino = *d;
+    }
+
+    void Tomar(const Edicion& c, int* destino)
+    {
+        const auto d = Numero(c);
+        if (!d)
+            return;
+        // A field of whole numbers takes no fraction.
+        if (*d != std::trunc(*d))
+            csFalta = kNoEsNumero;
+        else
+            *destino = numero::Entero(*d);
+    }
+
+    std::optional<double> Numero(const Edicion& c)
+    {
+        double d = 0.0;
+        if (!numero::nuConvertIntlStrToFlt(c.csTexto, d)) {
+            csFalta = kNoEsNumero;
+            return std::nullopt;
+        }
+        if (!Dentro(d, c.limites)) {
+            csFalta = MensajeDeLimites(*c.limites);
+            return std::nullopt;
+        }
+        return d;
+    }
+};
+
+class Volcador final : public VisitanteControl {
+public:
+    void Ver(TextoFijo&) override {}
+    void Ver(Boton&) override {}
+    void Ver(Lista&) override {}
+    void Ver(Grafica&) override {}
+    void Ver(Progreso&) override {}
+
+    void Ver(Casilla& c) override
+    {
+        if (auto* origen = std::get_if<int*>(&c.destino))
+            c.bMarcada = **origen != 0;
+    }
+
+    void Ver(Seleccion& c) override
+    {
+        auto* origen = std::get_if<int*>(&c.destino);
+        if (origen == nullptr || c.intercambio != Intercambio::automatico)
+            return;
+        const bool existe = **origen >= 0 && static_cast<std::size_t>(**origen) < c.acsEntradas.size();
+        c.iSeleccion = existe ? **origen : -1;
+    }
+
+    void Ver(Edicion& c) override
+    {
+        if (c.intercambio == Intercambio::automatico)
+            std::visit([&](auto origen) { Escribir(c, origen); }, c.destino);
+    }
+
+private:
+    static void Escribir(const Edicion&, std::monostate) {}
+    static void Escribir(Edicion& c, const CString* origen) { c.csTexto = *origen; }
+    static void Escribir(Edicion& c, const int* origen) { c.csTexto = std::to_wstring(*origen); }
+    static void Escribir(Edicion& c, const double* origen)
+    {
+        c.csTexto = numero::nuConvertFltToIntlStr(*origen, c.iDecimales);
+    }
+};
+
+}  // namespace
+
+CString MensajeDeLimites(const Intervalo& limites)
+{
+    return L"Introduzca un número entre " + Breve(limites.dMinimo) + L" y " + Breve(limites.dMaximo) + L".";
+}
+
+std::optional<CString> Recoger(Control& control)
+{
+    Recolector recolector;
+    control.Visitar(recolector);
+    return recolector.csFalta;
+}
+
+void Volcar(Control& control)
+{
+    Volcador volcador;
+    control.Visitar(volcador);
+}
+
+}  // namespace efv::ui
