@@ -16,6 +16,9 @@ bool RegistrarClases()
         &CBaseFactorK::GetThisClass,
         &CBaseFactorKLatitud::GetThisClass,
         &CBaseFactorKAlpha::GetThisClass,
+        &CBasePanelFoto::GetThisClass,
+        &CBasePanelFotoFamilia::GetThisClass,
+        &CBasePanelFotoModelo::GetThisClass,
         &CSFVAsistenteRed::GetThisClass,
     });
     for (const auto clase : clases)

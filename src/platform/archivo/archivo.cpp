@@ -1,6 +1,9 @@
 #include "platform/archivo/archivo.h"
 
 #include <cerrno>
+#include <cstdlib>
+#include <system_error>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -77,6 +80,80 @@ std::optional<std::string> LeerFichero(const CString& csRuta, std::size_t maximo
     if (!LeerTodo(fichero.Numero(), bytes))
         return std::nullopt;
     return bytes;
+}
+
+namespace {
+
+[[noreturn]] void FallarEscritura(const CString& csRuta, int error)
+{
+    throw CFileException(error == EACCES || error == EPERM || error == EROFS ? CFileException::accesoDenegado
+                                                                             : CFileException::generica,
+                         CadenaUtf8(csRuta) + ": " + std::generic_category().message(error));
+}
+
+bool EscribirTodo(int fd, std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n < 0)
+            return false;
+        bytes.remove_prefix(static_cast<std::size_t>(n));
+    }
+    return true;
+}
+
+// Removes a temporary file unless it was renamed into place.
+class Temporal {
+public:
+    explicit Temporal(std::string ruta) : m_ruta(std::move(ruta)) {}
+    ~Temporal()
+    {
+        if (!m_ruta.empty())
+            ::unlink(m_ruta.c_str());
+    }
+    Temporal(const Temporal&) = delete;
+    Temporal& operator=(const Temporal&) = delete;
+    void Conservar() { m_ruta.clear(); }
+
+private:
+    std::string m_ruta;
+};
+
+// The renaming itself must survive a loss of power as well.
+void VaciarCarpeta(const std::filesystem::path& carpeta)
+{
+    const Descriptor descriptor(::open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+    if (descriptor.Numero() >= 0)
+        ::fsync(descriptor.Numero());
+}
+
+}  // namespace
+
+void ReemplazarFichero(const CString& csRuta, std::string_view bytes)
+{
+    std::error_code error;
+    std::filesystem::path destino = std::filesystem::canonical(Ruta(csRuta), error);
+    if (error)
+        destino = std::filesystem::absolute(Ruta(csRuta));
+    struct stat datos = {};
+    const bool existe = ::stat(destino.c_str(), &datos) == 0;
+    // A folder that can be written would let a file be replaced that itself must not be.
+    if (existe && (!S_ISREG(datos.st_mode) || ::access(destino.c_str(), W_OK) != 0))
+        FallarEscritura(csRuta, S_ISREG(datos.st_mode) ? errno : EINVAL);
+
+    std::string ruta = destino.string() + ".XXXXXX";
+    const Descriptor fichero(::mkostemp(ruta.data(), O_CLOEXEC));
+    if (fichero.Numero() < 0)
+        FallarEscritura(csRuta, errno);
+    Temporal temporal(ruta);
+    const mode_t permisos = existe ? datos.st_mode & 07777U : 0644U;
+    if (!EscribirTodo(fichero.Numero(), bytes) || ::fchmod(fichero.Numero(), permisos) != 0 ||
+        ::fsync(fichero.Numero()) != 0 || ::rename(ruta.c_str(), destino.c_str()) != 0)
+        FallarEscritura(csRuta, errno);
+    temporal.Conservar();
+    VaciarCarpeta(destino.parent_path());
 }
 
 }  // namespace efv::archivo

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include <quorvel/framework/CString.h>
 
@@ -16,5 +17,10 @@ std::filesystem::path Ruta(const CString& csRuta);
 /// @return nothing when it is missing, can't be read, isn't a regular file or is larger.
 /// @throws CFileException with the sharing cause while another process holds it.
 std::optional<std::string> LeerFichero(const CString& csRuta, std::size_t maximo);
+
+/// Replaces the file, or makes it: written to a temporary beside it, flushed, renamed over it, so that at
+/// any moment either the old or the new content stands there whole. A link stays a link, permissions stay.
+/// @throws CFileException with a Spanish text when it can't be done; the old file is then untouched.
+void ReemplazarFichero(const CString& csRuta, std::string_view bytes);
 
 }  // namespace efv::archivo

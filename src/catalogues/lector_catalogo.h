@@ -1,0 +1,98 @@
+// Reads a catalogue's file into families and models.
+#pragma once
+
+#include <memory>
+#include <variant>
+
+#include <quorvel/catalogues.h>
+
+#include "catalogues/campos.h"
+#include "catalogues/presupuesto_lectura.h"
+#include "platform/xml/xml.h"
+
+namespace efv::catalogues {
+
+/// One held record lives as long as the file: what a model's element lacks keeps the value of the model
+/// before it.
+template <class M>
+class LectorCatalogo {
+public:
+    explicit LectorCatalogo(CObArrayPropio<CObject>& destino) : m_destino(destino)
+    {
+        Anular(m_retenido);
+        Catalogo<M>::Preparar(m_retenido);
+    }
+
+    /// False when the file would take more memory than a file may.
+    bool LeerTabla(xml::Nodo tabla)
+    {
+        for (xml::Nodo nodo : xml::Hijos(tabla))
+            if (xml::SeLlama(nodo, "Familia") && !LeerFamilia(nodo))
+                return false;
+        return true;
+    }
+
+private:
+    using Familia = CFamiliaCatalogo<M>;
+
+    bool LeerFamilia(xml::Nodo nodo)
+    {
+        xml::xmlGetTextAttribute(nodo, "nombre", m_retenido.csFamilia);
+        if (!m_presupuesto.Gastar(sizeof(Familia) + Bytes(m_retenido.csFamilia)))
+            return false;
+        Familia& familia = m_destino.Add(std::make_unique<Familia>(m_retenido.csFamilia));
+        for (xml::Nodo hijo : xml::Hijos(nodo)) {
+            if (!xml::SeLlama(hijo, "Modelo"))
+                continue;
+            LeerModelo(hijo);
+            if (!m_presupuesto.Gastar(sizeof(M) + BytesDeTextos()))
+                return false;
+            familia.AddModelo(std::make_unique<M>(m_retenido));
+        }
+        return true;
+    }
+
+    void LeerModelo(xml::Nodo nodo)
+    {
+        Catalogo<M>::AntesDeModelo(m_retenido);
+        for (const auto& campo : Catalogo<M>::Campos())
+            std::visit([&](auto m) { Leer(nodo, campo.atributo, m_retenido.*m); }, campo.miembro);
+    }
+
+    static void Leer(xml::Nodo nodo, const char* atributo, CString& cs)
+    {
+        xml::xmlGetTextAttribute(nodo, atributo, cs);
+    }
+    static void Leer(xml::Nodo nodo, const char* atributo, int& i)
+    {
+        xml::xmlGetIntAttribute(nodo, atributo, i);
+    }
+    static void Leer(xml::Nodo nodo, const char* atributo, double& d)
+    {
+        xml::xmlGetFloatAttribute(nodo, atributo, d);
+    }
+    // Kept to the low 16 bits of the integer.
+    static void Leer(xml::Nodo nodo, const char* atributo, short& n)
+    {
+        int i = n;
+        xml::xmlGetIntAttribute(nodo, atributo, i);
+        n = static_cast<short>(i);
+    }
+
+    static std::size_t Bytes(const CString& cs) { return cs.size() * sizeof(wchar_t); }
+
+    std::size_t BytesDeTextos() const
+    {
+        std::size_t bytes = Bytes(m_retenido.csFamilia);
+        for (const auto& campo : Catalogo<M>::Campos())
+            if (const auto* texto = std::get_if<CString M::*>(&campo.miembro))
+                bytes += Bytes(m_retenido.**texto);
+        return bytes;
+    }
+
+    CObArrayPropio<CObject>& m_destino;
+    PresupuestoLectura m_presupuesto;
+    M m_retenido;
+};
+
+}  // namespace efv::catalogues

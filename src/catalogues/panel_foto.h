@@ -1,0 +1,45 @@
+// The catalogue of PV modules: its table of fields and what hangs on the cell technology.
+#pragma once
+
+#include <array>
+#include <span>
+#include <string_view>
+
+#include <quorvel/catalogues.h>
+
+#include "catalogues/campos.h"
+
+namespace efv::catalogues {
+
+template <>
+struct Catalogo<CBasePanelFotoModelo> {
+    static std::span<const CampoModelo<CBasePanelFotoModelo>> Campos();
+    static NombresCatalogo Nombres();
+    static void Preparar(CBasePanelFotoModelo& /*retenido*/) {}
+    static void AntesDeModelo(CBasePanelFotoModelo& /*retenido*/) {}
+};
+
+/// A cell technology in the three vocabularies that name it.
+struct TipoCelula {
+    std::wstring_view entrada;  ///< entry of the dialog
+    std::wstring_view nombre;
+    std::wstring_view pan;  ///< value in a PAN file; empty: any other
+};
+
+inline constexpr auto kTiposCelula = std::to_array<TipoCelula>({
+    {L"monocristalino", L"Si Monocristalino", L"mtSiMono"},
+    {L"policristalino", L"Si Policristalino", L"mtSiPoly"},
+    {L"amorfo", L"Si Amorfo", L"mtSiAmor"},
+    {L"híbrido", L"Otras", {}},
+});
+
+/// Cells a branch as the getters give them: 200 for the technologies from 3 on.
+int CelulasPorRamal(const CBasePanelFotoModelo& modelo);
+
+/// Coefficient in thousandths of a unit and degree to percent of a reference and degree. A null
+/// reference counts as 1.
+double CoeficienteAPorciento(double dCoeficiente, double dReferencia);
+/// The way back, unguarded.
+double CoeficienteDePorciento(double dPorciento, double dReferencia);
+
+}  // namespace efv::catalogues

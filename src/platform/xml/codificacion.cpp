@@ -1,0 +1,101 @@
+#include "platform/xml/codificacion.h"
+
+#include <algorithm>
+#include <initializer_list>
+#include <string_view>
+
+#include "platform/archivo/archivo.h"
+#include "platform/texto/texto.h"
+#include "platform/xml/xml.h"
+
+namespace efv::xml {
+
+namespace {
+
+std::string Minusculas(std::string_view texto)
+{
+    std::string minusculas(texto);
+    std::ranges::transform(minusculas, minusculas.begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    return minusculas;
+}
+
+// Value of encoding="…" in the declaration that `bytes` begins with, in lower case; empty without one.
+std::string CodificacionDeclarada(std::string_view bytes)
+{
+    if (!bytes.starts_with("<?xml"))
+        return {};
+    const std::string_view declaracion = bytes.substr(0, bytes.find("?>"));
+    const std::size_t clave = declaracion.find("encoding");
+    if (clave == std::string_view::npos)
+        return {};
+    const std::size_t inicio = declaracion.find_first_of("\"'", clave);
+    if (inicio == std::string_view::npos)
+        return {};
+    const std::size_t fin = declaracion.find(declaracion[inicio], inicio + 1);
+    return Minusculas(declaracion.substr(inicio + 1, fin == std::string_view::npos ? fin : fin - inicio - 1));
+}
+
+bool UnoDe(std::string_view texto, std::initializer_list<std::string_view> nombres)
+{
+    return std::ranges::find(nombres, texto) != nombres.end();
+}
+
+std::optional<std::string> DeUtf16(std::string_view bytes, bool granEndian)
+{
+    if (bytes.size() % 2 != 0)
+        return std::nullopt;
+    std::u16string unidades(bytes.size() / 2, u'\0');
+    for (std::size_t i = 0; i < unidades.size(); ++i) {
+        const auto a = static_cast<unsigned char>(bytes[2 * i]);
+        const auto b = static_cast<unsigned char>(bytes[2 * i + 1]);
+        unidades[i] = static_cast<char16_t>(granEndian ? a * 256 + b : b * 256 + a);
+    }
+    return CadenaUtf8(texto::DeUtf16(unidades));
+}
+
+// The document as UTF-8; nothing when its bytes aren't what its mark or declaration says.
+std::optional<std::string> AUtf8(std::string bytes)
+{
+    const std::string_view vista = bytes;
+    if (vista.starts_with("\xFF\xFE"))
+        return DeUtf16(vista.substr(2), false);
+    if (vista.starts_with("\xFE\xFF"))
+        return DeUtf16(vista.substr(2), true);
+    if (vista.starts_with(std::string_view("<\0", 2)))
+        return DeUtf16(vista, false);
+    if (vista.starts_with(std::string_view("\0<", 2)))
+        return DeUtf16(vista, true);
+    if (vista.starts_with("\xEF\xBB\xBF"))
+        bytes.erase(0, 3);
+    else if (const std::string codificacion = CodificacionDeclarada(vista);
+             UnoDe(codificacion, {"windows-1252", "cp1252", "cp-1252"}))
+        return texto::Windows1252AUtf8(vista);
+    else if (UnoDe(codificacion, {"iso-8859-1", "iso8859-1", "latin1", "latin-1"}))
+        return texto::Latin1AUtf8(vista);
+    else if (!UnoDe(codificacion, {"", "utf-8", "utf8", "us-ascii", "ascii"}))
+        return std::nullopt;
+    if (!texto::EsUtf8(bytes))
+        return std::nullopt;
+    return bytes;
+}
+
+}  // namespace
+
+std::optional<std::string> LeerComoUtf8(const CString& csRuta)
+{
+    std::optional<std::string> leido = archivo::LeerFichero(csRuta, kMaximoFichero);
+    if (!leido)
+        return std::nullopt;
+    std::optional<std::string> utf8 = AUtf8(std::move(*leido));
+    if (utf8 && utf8->find('\0') != std::string::npos)
+        return std::nullopt;
+    return utf8;
+}
+
+bool EsTabla(std::string_view nombre)
+{
+    return UnoDe(nombre, {"TablaFamilias", "TablaFactoresK"});
+}
+
+}  // namespace efv::xml

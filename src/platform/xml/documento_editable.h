@@ -1,0 +1,76 @@
+// A document to be changed and written back: what isn't touched survives, comments, unknown elements,
+// attributes, order and white space included.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <quorvel/framework/CString.h>
+
+namespace efv::xml {
+
+class DocumentoEditable;
+
+/// Handle of an element of a document; lives as long as the document. Null is none.
+class Elemento {
+public:
+    Elemento() = default;
+    explicit operator bool() const { return m_nodo != nullptr; }
+    bool operator==(const Elemento&) const = default;
+
+private:
+    friend class DocumentoEditable;
+    explicit Elemento(void* nodo) : m_nodo(nodo) {}
+    void* m_nodo = nullptr;
+};
+
+class DocumentoEditable {
+public:
+    using Atributos = std::vector<std::pair<CString, CString>>;
+
+    /// What brings a removed element back to its place.
+    struct Retirado {
+        Elemento elemento, padre, siguiente;
+    };
+
+    DocumentoEditable();
+    ~DocumentoEditable();
+    DocumentoEditable(DocumentoEditable&&) noexcept;
+    DocumentoEditable& operator=(DocumentoEditable&&) noexcept;
+
+    /// @return nothing when the file can't be read as a document (see xmlOpenDocument).
+    static std::optional<DocumentoEditable> Abrir(const CString& csRuta);
+
+    /// The whole document, UTF-8.
+    std::string Texto() const;
+
+    /// Top-level elements, as the reading functions give them.
+    std::vector<Elemento> Superiores() const;
+    std::vector<Elemento> Hijos(Elemento padre, std::string_view nombre) const;
+    Elemento Padre(Elemento elemento) const;
+    CString Nombre(Elemento elemento) const;
+    CString Atributo(Elemento elemento, std::string_view nombre) const;
+
+    Atributos LeerAtributos(Elemento elemento) const;
+    /// Puts exactly these attributes in place of the element's: values change where they stand.
+    void PonerAtributos(Elemento elemento, const Atributos& atributos);
+
+    /// New element behind the last element child of `padre`, indented like its siblings.
+    Elemento Anadir(Elemento padre, std::string_view nombre, const Atributos& atributos);
+    /// Copy of the element, all it holds included, directly behind it.
+    Elemento Duplicar(Elemento elemento);
+
+    Retirado Retirar(Elemento elemento);
+    void Reponer(const Retirado& retirado);
+
+private:
+    struct Interno;
+    std::unique_ptr<Interno> m;
+};
+
+}  // namespace efv::xml
