@@ -96,9 +96,13 @@ std::optional<DocumentoEditable> DocumentoEditable::Abrir(const CString& csRuta)
 std::string DocumentoEditable::Texto() const
 {
     std::ostringstream texto;
-    for (const pugi::xml_node nodo : m->arbol)
-        if (nodo != m->papelera)
-            nodo.print(texto, "", pugi::format_raw, pugi::encoding_utf8);
+    // White space outside the outermost element isn't kept: each node there gets a line of its own.
+    for (const pugi::xml_node nodo : m->arbol) {
+        if (nodo == m->papelera)
+            continue;
+        nodo.print(texto, "", pugi::format_raw, pugi::encoding_utf8);
+        texto << '\n';
+    }
     return texto.str();
 }
 
