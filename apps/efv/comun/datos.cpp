@@ -1,0 +1,41 @@
+#include "comun/datos.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include <fmt/format.h>
+
+#include "comun/consola.h"
+
+namespace efv::orden {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path Elegir(const std::string& opcion)
+{
+    if (!opcion.empty())
+        return opcion;
+    if (const char* variable = std::getenv("EFV_DATOS"); variable != nullptr && *variable != '\0')
+        return variable;
+    std::error_code fallo;
+    const fs::path ejecutable = fs::read_symlink("/proc/self/exe", fallo);
+    const fs::path instalada = ejecutable.parent_path() / EFV_DATOS_RELATIVA;
+    if (!fallo && fs::is_directory(instalada, fallo))
+        return instalada.lexically_normal();
+    return EFV_DATOS_FUENTE;
+}
+
+}  // namespace
+
+CString RutaDatos(const std::string& opcion, const char* archivo)
+{
+    const fs::path carpeta = Elegir(opcion);
+    std::error_code fallo;
+    if (!fs::is_directory(carpeta, fallo))
+        throw ErrorEjecucion(fmt::format("no existe la carpeta de datos «{}»", carpeta.string()));
+    return CadenaDesdeUtf8((carpeta / archivo).string());
+}
+
+}  // namespace efv::orden

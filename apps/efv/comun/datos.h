@@ -1,0 +1,18 @@
+// The folder of the shipped data.
+#pragma once
+
+#include <string>
+
+#include <quorvel/framework/CString.h>
+
+namespace efv::orden {
+
+/// Text of the option --datos, the same in every command.
+inline constexpr const char* kAyudaDatos =
+    "Carpeta de los datos; si falta, la de la variable EFV_DATOS, y si no la instalada con el programa";
+
+/// Path of a shipped file. Its folder is `opcion` when that isn't empty, else the environment variable
+/// EFV_DATOS, else the installed folder, else the source tree's. @throws ErrorEjecucion when it is no folder
+CString RutaDatos(const std::string& opcion, const char* archivo);
+
+}  // namespace efv::orden

@@ -1,0 +1,100 @@
+#include "comun/linea_ordenes.h"
+
+#include <string_view>
+#include <type_traits>
+
+#include <fmt/format.h>
+
+#include "comun/numeros.h"
+
+namespace efv::orden {
+
+namespace {
+
+// The part of `texto` before `marca`; empty when it isn't there.
+std::string Antes(const std::string& texto, std::string_view marca)
+{
+    const std::size_t corte = texto.find(marca);
+    return corte == std::string::npos ? std::string() : texto.substr(0, corte);
+}
+
+std::string Despues(const std::string& texto, std::string_view marca)
+{
+    const std::size_t corte = texto.find(marca);
+    return corte == std::string::npos ? std::string() : texto.substr(corte + marca.size());
+}
+
+// The parser's texts are the only place where it names the option.
+std::string NumeroDeValores(const std::string& texto)
+{
+    if (const std::string opcion = Antes(texto, " was given a disallowed"); !opcion.empty())
+        return (opcion.starts_with('-') ? "" : "--") + opcion + " no lleva valor";
+    if (const std::string opcion = Antes(texto, ": At Most"); !opcion.empty())
+        return opcion + " se ha dado más de una vez";
+    return Antes(texto, ":") + " necesita un valor";
+}
+
+constexpr std::size_t kColumna = 26;
+constexpr std::size_t kAnchura = 96;
+
+// `texto` in lines that fit right of the first column.
+std::string Partir(const std::string& texto)
+{
+    std::string resultado;
+    std::size_t nLinea = 0;
+    for (const std::string& palabra : CLI::detail::split(texto, ' ')) {
+        if (nLinea > 0 && kColumna + nLinea + 1 + Anchura(palabra) > kAnchura) {
+            resultado += '\n';
+            nLinea = 0;
+        }
+        resultado += (nLinea > 0 ? " " : "") + palabra;
+        nLinea += Anchura(palabra) + (nLinea > 0 ? 1 : 0);
+    }
+    return resultado;
+}
+
+class FormatoPartido final : public CLI::Formatter {
+public:
+    std::string make_option_desc(const CLI::Option* opcion) const override
+    {
+        return Partir(opcion->get_description());
+    }
+};
+
+}  // namespace
+
+std::shared_ptr<CLI::Formatter> FormatoEspanol()
+{
+    auto formato = std::make_shared<FormatoPartido>();
+    formato->label("Usage", "Uso");
+    formato->label("OPTIONS", "OPCIONES");
+    formato->label("SUBCOMMAND", "ORDEN");
+    formato->label("SUBCOMMANDS", "ÓRDENES");
+    formato->label("Positionals", "Argumentos");
+    formato->column_width(kColumna);
+    return formato;
+}
+
+void Castellanizar(CLI::App& app)
+{
+    app.set_help_flag("-h,--help", "Muestra esta ayuda y termina")->group("Opciones");
+    app.option_defaults()->group("Opciones");
+    app.group("Órdenes");
+}
+
+std::string TextoDeError(const CLI::ParseError& error)
+{
+    const std::string texto = error.what();
+    const auto es = [&]<class Error>(std::type_identity<Error>) {
+        return dynamic_cast<const Error*>(&error) != nullptr;
+    };
+    if (es(std::type_identity<CLI::ExtrasError>()))
+        return "argumento inesperado: " + Despues(texto, "not expected: ");
+    if (es(std::type_identity<CLI::ArgumentMismatch>()))
+        return NumeroDeValores(texto);
+    if (es(std::type_identity<CLI::ExcludesError>()))
+        return fmt::format("{} y {} se excluyen", Antes(texto, " excludes "), Despues(texto, " excludes "));
+    return "argumentos no válidos";
+}
+
+}  // namespace efv::orden

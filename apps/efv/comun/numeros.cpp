@@ -1,0 +1,97 @@
+#include "comun/numeros.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cwctype>
+
+#include <fmt/format.h>
+
+namespace efv::orden {
+
+namespace {
+
+struct Acentos {
+    wchar_t base;
+    std::wstring_view formas;
+};
+
+constexpr std::array<Acentos, 7> kAcentos{{
+    {L'a', L"áàâäãåÁÀÂÄÃÅ"},
+    {L'c', L"çÇ"},
+    {L'e', L"éèêëÉÈÊË"},
+    {L'i', L"íìîïÍÌÎÏ"},
+    {L'n', L"ñÑ"},
+    {L'o', L"óòôöõÓÒÔÖÕ"},
+    {L'u', L"úùûüÚÙÛÜ"},
+}};
+
+wchar_t PlegarLetra(wchar_t c)
+{
+    for (const auto& [base, formas] : kAcentos)
+        if (formas.find(c) != std::wstring_view::npos)
+            return base;
+    return c < 0x80 ? static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))) : c;
+}
+
+std::string ConComa(std::string texto)
+{
+    std::ranges::replace(texto, '.', ',');
+    return texto;
+}
+
+}  // namespace
+
+std::optional<double> LeerNumero(std::string_view texto)
+{
+    std::string copia(texto);
+    std::ranges::replace(copia, ',', '.');
+    const char* inicio = copia.data();
+    const char* const fin = inicio + copia.size();
+    if (copia.size() > 1 && copia[0] == '+' && copia[1] != '-')
+        ++inicio;
+    double d = 0.0;
+    const auto [leido, fallo] = std::from_chars(inicio, fin, d);
+    if (fallo != std::errc() || leido != fin || !std::isfinite(d))
+        return std::nullopt;
+    return d;
+}
+
+std::string Decimal(double d, int iDecimales)
+{
+    if (!std::isfinite(d))
+        return "—";
+    std::string texto = fmt::format("{:.{}f}", d, iDecimales);
+    if (texto.starts_with('-') && texto.find_first_of("123456789") == std::string::npos)
+        texto.erase(0, 1);
+    return ConComa(std::move(texto));
+}
+
+std::string DecimalExacto(double d)
+{
+    return std::isfinite(d) ? ConComa(fmt::format("{}", d)) : std::string();
+}
+
+std::string EnUnaLinea(std::string_view texto)
+{
+    std::string linea = CadenaUtf8(CadenaDesdeUtf8(texto));
+    const auto esControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '\x7f'; };
+    std::ranges::replace_if(linea, esControl, '?');
+    return linea;
+}
+
+std::size_t Anchura(std::string_view utf8)
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(utf8, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
+}
+
+CString Plegar(const CString& texto)
+{
+    CString plegado = texto;
+    std::ranges::transform(plegado, plegado.begin(), PlegarLetra);
+    return plegado;
+}
+
+}  // namespace efv::orden

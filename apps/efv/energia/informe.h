@@ -1,0 +1,16 @@
+// A study written for people, for programs and for spreadsheets.
+#pragma once
+
+#include <string>
+
+#include "energia/estudio.h"
+
+namespace efv::orden {
+
+std::string InformeTexto(const Estudio& estudio);
+/// A value that the method doesn't give is null.
+std::string InformeJson(const Estudio& estudio);
+/// Semicolons, decimal comma, ASCII only; a value that the method doesn't give is empty.
+std::string InformeCsv(const Estudio& estudio);
+
+}  // namespace efv::orden

@@ -1,0 +1,112 @@
+#include <cmath>
+
+#include <fmt/format.h>
+#include <nlohmann/json.hpp>
+
+#include "comun/numeros.h"
+#include "energia/informe.h"
+
+namespace efv::orden {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr double kKJporKWh = 3600.0;
+
+Json Numero(double d)
+{
+    return std::isfinite(d) ? Json(d) : Json();
+}
+
+Json DelMes(const std::optional<Resultado>& resultado, std::size_t iMes)
+{
+    if (!resultado)
+        return nullptr;
+    const MesCalculado& mes = resultado->meses[iMes];
+    return {{"ri_kWh_m2_dia", Numero(mes.dRI)},
+            {"energia_kWh_dia", Numero(mes.dEnergiaDia)},
+            {"energia_kWh_mes", Numero(mes.dEnergiaMes)}};
+}
+
+Json DelAno(const std::optional<Resultado>& resultado)
+{
+    if (!resultado)
+        return nullptr;
+    return {{"ri_media_kWh_m2_dia", Numero(resultado->RIMedia())},
+            {"energia_media_kWh_dia", Numero(resultado->EnergiaDiaMedia())},
+            {"energia_kWh", Numero(resultado->dEnergiaAno)}};
+}
+
+Json DelLugar(const std::optional<Localidad>& lugar)
+{
+    if (!lugar)
+        return nullptr;
+    return {{"nombre", CadenaUtf8(lugar->csNombre)}, {"provincia", CadenaUtf8(lugar->csProvincia)},
+            {"pais", CadenaUtf8(lugar->csPais)},     {"longitud", lugar->dLongitud},
+            {"altitud_m", lugar->dAltitud},          {"fuente", CadenaUtf8(lugar->csFuente)}};
+}
+
+// The cells of one method in a line of CSV: none when it wasn't asked for, empty ones when it has no answer.
+std::string Celdas(bool bPedido, const std::optional<Resultado>& resultado, std::size_t iMes)
+{
+    if (!resultado)
+        return bPedido ? ";;;" : "";
+    if (iMes == kMeses)
+        return fmt::format(";;;{}", DecimalExacto(resultado->dEnergiaAno));
+    const MesCalculado& mes = resultado->meses[iMes];
+    return fmt::format(";{};{};{}", DecimalExacto(mes.dRI), DecimalExacto(mes.dEnergiaDia),
+                       DecimalExacto(mes.dEnergiaMes));
+}
+
+}  // namespace
+
+std::string InformeJson(const Estudio& estudio)
+{
+    const Campo& campo = estudio.encargo.campo;
+    Json meses = Json::array();
+    for (std::size_t m = 0; m < kMeses; ++m)
+        meses.push_back({{"mes", NombreMes(m)},
+                         {"radiacion_kJ_m2_dia", campo.adRadHorizontal[m]},
+                         {"radiacion_kWh_m2_dia", campo.adRadHorizontal[m] / kKJporKWh},
+                         {"correlacion", DelMes(estudio.correlacion, m)},
+                         {"tabla", DelMes(estudio.tabla, m)}});
+    const Json documento{
+        {"lugar", DelLugar(estudio.encargo.lugar)},
+        {"latitud", campo.dLatitud},
+        {"hemisferio", campo.EsSur() ? "sur" : "norte"},
+        {"inclinacion", campo.dInclinacion},
+        {"inclinacion_correlacion", campo.InclinacionCorrelacion()},
+        {"orientacion", campo.dOrientacion},
+        {"potencia_kWp", campo.dPotencia},
+        {"pr", campo.dPR},
+        {"factor", campo.dFactor},
+        {"ano_reloj", estudio.iAnoReloj},
+        {"meses", meses},
+        {"ano", {{"correlacion", DelAno(estudio.correlacion)}, {"tabla", DelAno(estudio.tabla)}}},
+        {"notas", estudio.notas},
+    };
+    return documento.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+std::string InformeCsv(const Estudio& estudio)
+{
+    const auto celdas = [&](std::size_t iMes) {
+        return Celdas(estudio.encargo.bCorrelacion, estudio.correlacion, iMes) +
+               Celdas(estudio.encargo.bTabla, estudio.tabla, iMes);
+    };
+    std::string texto = "mes;radiacion_kJ_m2_dia;radiacion_kWh_m2_dia";
+    if (estudio.encargo.bCorrelacion)
+        texto += ";correlacion_RI_kWh_m2_dia;correlacion_kWh_dia;correlacion_kWh_mes";
+    if (estudio.encargo.bTabla)
+        texto += ";tabla_RI_kWh_m2_dia;tabla_kWh_dia;tabla_kWh_mes";
+    texto += '\n';
+    for (std::size_t m = 0; m < kMeses; ++m) {
+        const double dRad = estudio.encargo.campo.adRadHorizontal[m];
+        texto += fmt::format("{};{};{}{}\n", NombreMes(m), DecimalExacto(dRad), DecimalExacto(dRad / kKJporKWh),
+                             celdas(m));
+    }
+    return texto + "Total;;" + celdas(kMeses) + '\n';
+}
+
+}  // namespace efv::orden

@@ -1,0 +1,112 @@
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "comun/numeros.h"
+#include "comun/tabla_texto.h"
+#include "energia/informe.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr double kKJporKWh = 3600.0;
+
+std::string Coordenada(double d, const char* positiva, const char* negativa)
+{
+    return fmt::format("{}° {}", Decimal(std::abs(d), 2), d < 0.0 ? negativa : positiva);
+}
+
+std::string Cabecera(const Estudio& estudio)
+{
+    const Campo& campo = estudio.encargo.campo;
+    std::string texto = "Energía mensual de un campo fotovoltaico\n";
+    if (const auto& lugar = estudio.encargo.lugar) {
+        const std::string provincia = lugar->csProvincia.empty() ? "" : CadenaUtf8(lugar->csProvincia) + ", ";
+        texto += fmt::format("Lugar: {} ({}{}), {}, {}, {} m\n", CadenaUtf8(lugar->csNombre), provincia,
+                             CadenaUtf8(lugar->csPais), Coordenada(lugar->dLatitud, "N", "S"),
+                             Coordenada(lugar->dLongitud, "E", "O"), Decimal(lugar->dAltitud, 0));
+        texto += fmt::format("Radiación: {}\n", CadenaUtf8(lugar->csFuente));
+    } else {
+        texto += fmt::format("Lugar: latitud {}\n", Coordenada(campo.dLatitud, "N", "S"));
+    }
+    texto +=
+        fmt::format("Campo: {} kWp, inclinación {}°, PR {}, factor {}\n\n", DecimalExacto(campo.dPotencia),
+                    DecimalExacto(campo.dInclinacion), DecimalExacto(campo.dPR), DecimalExacto(campo.dFactor));
+    return texto;
+}
+
+void AnadirValores(std::vector<std::string>& fila, double dRI, double dDia, double dMes)
+{
+    fila.insert(fila.end(), {Decimal(dRI, 2), Decimal(dDia, 2), Decimal(dMes, 2)});
+}
+
+std::string Diferencia(double dTabla, double dCorrelacion)
+{
+    return Decimal((dTabla / dCorrelacion - 1.0) * 100.0, 1);
+}
+
+// One month, or the year in `iMes` = kMeses.
+std::vector<std::string> Fila(const Estudio& estudio, std::size_t iMes)
+{
+    const auto& radiaciones = estudio.encargo.campo.adRadHorizontal;
+    const bool bAno = iMes == kMeses;
+    const double dRad = bAno ? MediaAnual(radiaciones) : radiaciones[iMes];
+    std::vector<std::string> fila{bAno ? "Año" : NombreMes(iMes), Decimal(dRad, 0),
+                                  Decimal(dRad / kKJporKWh, 2)};
+    const auto valores = [&](const Resultado& r) {
+        return bAno ? MesCalculado{r.RIMedia(), r.EnergiaDiaMedia(), r.dEnergiaAno} : r.meses[iMes];
+    };
+    for (const auto& resultado : {estudio.correlacion, estudio.tabla})
+        if (resultado) {
+            const MesCalculado mes = valores(*resultado);
+            AnadirValores(fila, mes.dRI, mes.dEnergiaDia, mes.dEnergiaMes);
+        }
+    if (estudio.correlacion && estudio.tabla)
+        fila.push_back(Diferencia(valores(*estudio.tabla).dRI, valores(*estudio.correlacion).dRI));
+    return fila;
+}
+
+std::string Cuadro(const Estudio& estudio)
+{
+    std::vector<std::pair<std::string, std::size_t>> grupos{{"", 1}, {"Horizontal", 2}};
+    std::vector<std::string> titulos{"Mes", "kJ/m²·día", "kWh/m²·día"};
+    const auto anadir = [&](const char* metodo) {
+        grupos.emplace_back(metodo, 3);
+        titulos.insert(titulos.end(), {"RI", "kWh/día", "kWh/mes"});
+    };
+    if (estudio.correlacion)
+        anadir("Correlación");
+    if (estudio.tabla)
+        anadir("Tabla K");
+    if (estudio.correlacion && estudio.tabla)
+        titulos.push_back("Dif. RI %");
+    std::vector<TablaTexto::Lado> lados(titulos.size(), TablaTexto::Lado::derecha);
+    lados.front() = TablaTexto::Lado::izquierda;
+    TablaTexto tabla(std::move(lados));
+    tabla.Grupos(std::move(grupos));
+    tabla.Fila(std::move(titulos));
+    tabla.Raya();
+    for (std::size_t m = 0; m < kMeses; ++m)
+        tabla.Fila(Fila(estudio, m));
+    tabla.Raya();
+    tabla.Fila(Fila(estudio, kMeses));
+    return tabla.Texto();
+}
+
+}  // namespace
+
+std::string InformeTexto(const Estudio& estudio)
+{
+    std::string texto =
+        Cabecera(estudio) + Cuadro(estudio) +
+        "\nRI: radiación sobre el plano inclinado, kWh/m²·día. Año: medias diarias y, en kWh/mes, "
+        "el total.\n";
+    if (estudio.correlacion && estudio.tabla)
+        texto += "Dif. RI: lo que la RI de la tabla pasa de la de la correlación, en tanto por ciento.\n";
+    for (const std::string& nota : estudio.notas)
+        texto += "· " + nota + '\n';
+    return texto;
+}
+
+}  // namespace efv::orden

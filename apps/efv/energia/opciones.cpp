@@ -1,0 +1,200 @@
+#include "energia/opciones.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <fmt/format.h>
+
+#include "comun/consola.h"
+#include "comun/datos.h"
+#include "comun/linea_ordenes.h"
+#include "comun/numeros.h"
+
+namespace efv::orden {
+
+namespace {
+
+struct OpcionNumerica {
+    const char* nombre;
+    const char* unidad;
+    double Campo::*valor;
+    double dMinimo;
+    double dMaximo;
+    bool bSinMinimo;  ///< the least value itself is refused
+    const char* descripcion;
+    const char* consejo;  ///< added to the refusal
+};
+
+// The latitude stands first: defaults of others depend on it.
+constexpr std::size_t kLatitud = 0;
+constexpr std::size_t kInclinacion = 1;
+constexpr std::size_t kOrientacion = 2;
+
+constexpr auto kOpciones = std::to_array<OpcionNumerica>({
+    {"--lat", "GRADOS", &Campo::dLatitud, -90, 90, false, "Latitud del campo, norte positiva (-90 a 90)", ""},
+    {"--inclinacion", "GRADOS", &Campo::dInclinacion, 0, 90, false,
+     "Inclinación de los paneles hacia el ecuador (0 a 90); si falta, la latitud sin signo, redondeada", ""},
+    {"--orientacion", "GRADOS", &Campo::dOrientacion, -180, 180, false,
+     "Orientación, 0 sur, este negativa (-180 a 180); si falta, hacia el ecuador. No entra en ninguna "
+     "fórmula: siempre se calcula un campo orientado al ecuador",
+     ""},
+    {"--potencia", "KWP", &Campo::dPotencia, 0, 1e6, true, "Potencia pico del campo en kWp; si falta, 1", ""},
+    {"--pr", "FRACCION", &Campo::dPR, 0, 1, true,
+     "Rendimiento global (PR), mayor que 0 y hasta 1; si falta, 0,8. El método de la tabla no lo aplica",
+     "; es una fracción: 0,8 y no 80"},
+    {"--factor", "FRACCION", &Campo::dFactor, 0, 10, true,
+     "Otro factor sobre la energía, hasta 10; si falta, 1. El método de la tabla no lo aplica", ""},
+});
+
+// No plane on Earth gets more on the mean of a month than the poles at midsummer outside the air, 45 MJ.
+constexpr double kRadiacionMaxima = 50000.0;
+// Below this the year's best month can only have been given in another unit.
+constexpr double kRadiacionSospechosa = 100.0;
+
+double LeerAcotada(const OpcionNumerica& opcion, const std::string& texto)
+{
+    const std::optional<double> d = LeerNumero(texto);
+    if (!d)
+        throw ErrorUso(fmt::format("{}: se esperaba un número, llegó «{}»", opcion.nombre, texto));
+    if (*d < opcion.dMinimo || *d > opcion.dMaximo || (opcion.bSinMinimo && *d <= opcion.dMinimo))
+        throw ErrorUso(fmt::format("{} {}: debe {} {} y no pasar de {}{}", opcion.nombre, texto,
+                                   opcion.bSinMinimo ? "ser mayor que" : "ser al menos",
+                                   DecimalExacto(opcion.dMinimo), DecimalExacto(opcion.dMaximo),
+                                   opcion.consejo));
+    return *d;
+}
+
+std::vector<std::string> Partir(const std::string& texto, std::string_view separadores)
+{
+    std::vector<std::string> partes;
+    std::size_t i = texto.find_first_not_of(separadores);
+    while (i != std::string::npos) {
+        const std::size_t fin = std::min(texto.find_first_of(separadores, i), texto.size());
+        partes.push_back(texto.substr(i, fin - i));
+        i = texto.find_first_not_of(separadores, fin);
+    }
+    return partes;
+}
+
+std::vector<std::string> SepararRadiaciones(const std::vector<std::string>& palabras)
+{
+    std::string todo;
+    for (const std::string& palabra : palabras)
+        todo += palabra + ' ';
+    std::vector<std::string> partes = Partir(todo, "; ");
+    if (partes.size() != kMeses)
+        partes = Partir(todo, ",; ");
+    return partes;
+}
+
+}  // namespace
+
+std::array<double, kMeses> LeerRadiaciones(const std::vector<std::string>& palabras)
+{
+    const std::vector<std::string> partes = SepararRadiaciones(palabras);
+    if (partes.size() != kMeses)
+        throw ErrorUso(fmt::format("--radiacion: se esperaban 12 valores, de enero a diciembre, llegaron {}",
+                                   partes.size()));
+    std::array<double, kMeses> valores{};
+    for (std::size_t m = 0; m < kMeses; ++m) {
+        const std::optional<double> d = LeerNumero(partes[m]);
+        if (!d)
+            throw ErrorUso(fmt::format("--radiacion: el valor {} no es un número: «{}»", m + 1, partes[m]));
+        if (*d < 0.0 || *d > kRadiacionMaxima)
+            throw ErrorUso(fmt::format("--radiacion: el valor {}, {}, debe estar entre 0 y {} kJ/m²·día", m + 1,
+                                       partes[m], DecimalExacto(kRadiacionMaxima)));
+        valores[m] = *d;
+    }
+    const double dMayor = std::ranges::max(valores);
+    if (dMayor > 0.0 && dMayor < kRadiacionSospechosa)
+        throw ErrorUso(
+            fmt::format("--radiacion: ningún mes llega a {} kJ/m²·día; si los valores están en "
+                        "kWh/m²·día, multiplíquelos por 3600",
+                        DecimalExacto(kRadiacionSospechosa)));
+    return valores;
+}
+
+Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos)
+{
+    const CString csArchivo = RutaDatos(csDatos, "localidades.xml");
+    const std::vector<Localidad> localidades = LeerLocalidades(csArchivo);
+    const CString csNombre = CadenaDesdeUtf8(nombre);
+    if (const Localidad* localidad = BuscarLocalidad(localidades, csNombre))
+        return *localidad;
+    std::string parecidos;
+    for (const CString& parecido : NombresParecidos(localidades, csNombre, 3))
+        parecidos += fmt::format("{}{}", parecidos.empty() ? "; parecidos: " : ", ", CadenaUtf8(parecido));
+    throw ErrorEjecucion(fmt::format("no hay ningún lugar «{}»{} (todos: efv lugares)", nombre, parecidos));
+}
+
+void OpcionesEnergia::Declarar(CLI::App& linea)
+{
+    static_assert(kOpciones.size() == kNumericas);
+    linea.add_option("--lugar", m_lugar, "Lugar de la lista de «efv lugares», con sus radiaciones")
+        ->type_name("NOMBRE");
+    for (std::size_t i = 0; i < kNumericas; ++i) {
+        linea.add_option(kOpciones[i].nombre, m_numericas[i], kOpciones[i].descripcion)
+            ->type_name(kOpciones[i].unidad);
+        if (i == kLatitud)
+            linea
+                .add_option("--radiacion", m_radiacion,
+                            "Con --lat: radiación global diaria sobre la horizontal de los 12 meses, en "
+                            "kJ/m²·día, separadas por espacios, comas o punto y coma")
+                ->type_name("VALORES");
+    }
+    linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")->type_name("METODO");
+    CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON");
+    CLI::Option* csv = linea.add_flag(
+        "--csv", m_bCsv, "Escribe CSV con punto y coma y coma decimal, como lo leen las hojas de cálculo");
+    json->option_text(" ")->excludes(csv)->disable_flag_override();
+    csv->option_text(" ")->disable_flag_override();
+    linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
+}
+
+Encargo OpcionesEnergia::Leer() const
+{
+    Encargo encargo;
+    encargo.csDatos = m_datos;
+    encargo.formato = m_bJson ? Formato::json : m_bCsv ? Formato::csv : Formato::texto;
+    encargo.bCorrelacion = m_metodo != "tabla";
+    encargo.bTabla = m_metodo != "correlacion";
+    if (m_metodo != "tabla" && m_metodo != "correlacion" && m_metodo != "ambos")
+        throw ErrorUso(fmt::format("--metodo: se esperaba correlacion, tabla o ambos, llegó «{}»", m_metodo));
+    LeerNumericas(encargo);
+    LeerLugar(encargo);
+    Campo& campo = encargo.campo;
+    encargo.bInclinacionPropia = !m_numericas[kInclinacion];
+    if (encargo.bInclinacionPropia)
+        campo.dInclinacion = std::round(std::abs(campo.dLatitud));
+    if (!m_numericas[kOrientacion])
+        campo.dOrientacion = campo.OrientacionEcuador();
+    return encargo;
+}
+
+void OpcionesEnergia::LeerNumericas(Encargo& encargo) const
+{
+    for (std::size_t i = 0; i < kNumericas; ++i)
+        if (m_numericas[i])
+            encargo.campo.*kOpciones[i].valor = LeerAcotada(kOpciones[i], *m_numericas[i]);
+}
+
+void OpcionesEnergia::LeerLugar(Encargo& encargo) const
+{
+    const bool bLatitud = m_numericas[kLatitud].has_value();
+    const bool bRadiacion = !m_radiacion.empty();
+    if (m_lugar && (bLatitud || bRadiacion))
+        throw ErrorUso("--lugar ya da la latitud y las radiaciones: sobran --lat y --radiacion");
+    if (!m_lugar && bLatitud != bRadiacion)
+        throw ErrorUso(bLatitud ? "con --lat hace falta --radiacion" : "con --radiacion hace falta --lat");
+    if (m_lugar) {
+        encargo.lugar = BuscarLugar(*m_lugar, m_datos);
+        encargo.campo.dLatitud = encargo.lugar->dLatitud;
+        encargo.campo.adRadHorizontal = encargo.lugar->adRadHorizontal;
+    } else if (bLatitud) {
+        encargo.campo.adRadHorizontal = LeerRadiaciones(m_radiacion);
+    } else {
+        throw ErrorUso("falta el lugar: --lugar NOMBRE, o --lat con --radiacion (ayuda: efv energia --help)");
+    }
+}
+
+}  // namespace efv::orden

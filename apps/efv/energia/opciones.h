@@ -1,0 +1,59 @@
+// The options of `efv energia`, read and checked.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <CLI/CLI.hpp>
+
+#include <quorvel/localidades.h>
+
+#include "energia/campo.h"
+
+namespace efv::orden {
+
+enum class Formato { texto, json, csv };
+
+/// What the command is asked for.
+struct Encargo {
+    Campo campo;
+    std::optional<Localidad> lugar;   ///< none when latitude and radiations were given
+    bool bInclinacionPropia = false;  ///< the tilt was chosen by the command
+    bool bCorrelacion = true;
+    bool bTabla = true;
+    Formato formato = Formato::texto;
+    std::string csDatos;  ///< option --datos
+};
+
+class OpcionesEnergia {
+public:
+    void Declarar(CLI::App& linea);
+
+    /// Checks all options and looks the place up. @throws ErrorUso, ErrorEjecucion, CFileException
+    Encargo Leer() const;
+
+private:
+    static constexpr std::size_t kNumericas = 6;
+
+    void LeerLugar(Encargo& encargo) const;
+    void LeerNumericas(Encargo& encargo) const;
+
+    std::optional<std::string> m_lugar;
+    std::vector<std::string> m_radiacion;
+    std::array<std::optional<std::string>, kNumericas> m_numericas;  ///< as typed, in the table's order
+    std::string m_metodo = "ambos";
+    std::string m_datos;
+    bool m_bJson = false;
+    bool m_bCsv = false;
+};
+
+/// Twelve numbers separated by blanks, commas or semicolons. A comma is a decimal mark where another
+/// separator makes twelve. @throws ErrorUso
+std::array<double, kMeses> LeerRadiaciones(const std::vector<std::string>& palabras);
+
+/// The place of that name in the data folder. @throws ErrorEjecucion with the nearest names
+Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos);
+
+}  // namespace efv::orden

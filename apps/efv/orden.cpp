@@ -1,0 +1,119 @@
+#include "orden.h"
+
+#include <algorithm>
+#include <memory>
+#include <new>
+
+#include <fmt/format.h>
+
+#include <QuorvelEFV.h>
+
+#include "comun/linea_ordenes.h"
+#include "comun/numeros.h"
+#include "comun/reloj.h"
+#include "comun/suborden.h"
+#include "energia/suborden_energia.h"
+#include "lugares/suborden_lugares.h"
+#include "rpc/suborden_rpc.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr int kFallo = 1;
+constexpr int kMalUso = 2;
+
+struct Declarada {
+    std::unique_ptr<Suborden> orden;
+    CLI::App* linea;
+};
+
+class LineaOrdenes {
+public:
+    LineaOrdenes()
+    {
+        m_raiz.formatter(FormatoEspanol());
+        Castellanizar(m_raiz);
+        m_raiz.set_version_flag("--version", CadenaUtf8(Version()), "Muestra la versión y termina")
+            ->group("Opciones");
+        m_raiz.footer(
+            "Cada orden tiene su ayuda: efv ORDEN --help\n"
+            "La variable de entorno EFV_AHORA (2028-02-01T12:00:00) sustituye al reloj.");
+        Anadir(CrearSubordenEnergia());
+        Anadir(CrearSubordenLugares());
+        Anadir(CrearSubordenRpc());
+        m_raiz.require_subcommand(0, 1);
+    }
+
+    // Reads the arguments and runs what they ask for. @return exit status
+    int Ejecutar(const std::vector<std::string>& argumentos, std::ostream& salida)
+    {
+        try {
+            m_raiz.parse(std::vector(argumentos.rbegin(), argumentos.rend()));
+        } catch (const CLI::CallForHelp&) {
+            salida << m_raiz.help();
+            return 0;
+        } catch (const CLI::CallForVersion& version) {
+            salida << version.what() << '\n';
+            return 0;
+        } catch (const CLI::ParseError& error) {
+            throw ErrorUso(fmt::format("{} (ayuda: {} --help)", TextoDeError(error), Nombre()));
+        }
+        Suborden* orden = Elegida();
+        if (orden == nullptr)
+            throw ErrorUso("falta la orden (ayuda: efv --help)");
+        FijarRelojDelEntorno();
+        return orden->Ejecutar(salida);
+    }
+
+    // "efv", or "efv ORDEN" once one was recognised.
+    std::string Nombre() const
+    {
+        const auto elegidas = m_raiz.get_subcommands();
+        return elegidas.empty() ? "efv" : "efv " + elegidas.front()->get_name();
+    }
+
+private:
+    void Anadir(std::unique_ptr<Suborden> orden)
+    {
+        CLI::App& linea = orden->Declarar(m_raiz);
+        linea.group("Órdenes");
+        m_ordenes.push_back({std::move(orden), &linea});
+    }
+
+    Suborden* Elegida() const
+    {
+        for (const Declarada& declarada : m_ordenes)
+            if (declarada.linea->parsed())
+                return declarada.orden.get();
+        return nullptr;
+    }
+
+    CLI::App m_raiz{"Cálculo de instalaciones solares fotovoltaicas", "efv"};
+    std::vector<Declarada> m_ordenes;
+};
+
+}  // namespace
+
+int Ejecutar(const std::vector<std::string>& argumentos, Consola consola)
+{
+    LineaOrdenes linea;
+    const auto fallar = [&](std::string_view texto, int iEstado) {
+        consola.errores << linea.Nombre() << ": " << EnUnaLinea(texto) << std::endl;
+        return iEstado;
+    };
+    try {
+        const int iEstado = linea.Ejecutar(argumentos, consola.salida);
+        if (!consola.salida.flush())
+            return fallar("no se puede escribir la salida", kFallo);
+        return iEstado;
+    } catch (const ErrorUso& e) {
+        return fallar(e.what(), kMalUso);
+    } catch (const std::bad_alloc&) {
+        return fallar("memoria insuficiente", kFallo);
+    } catch (const std::exception& e) {
+        return fallar(e.what(), kFallo);
+    }
+}
+
+}  // namespace efv::orden

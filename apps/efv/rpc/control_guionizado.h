@@ -1,0 +1,54 @@
+// The host's control that a request describes, in place of a drawing.
+#pragma once
+
+#include <deque>
+#include <map>
+#include <vector>
+
+#include <quorvel/frame.h>
+
+#include "rpc/json.h"
+
+namespace efv::orden::rpc {
+
+/// What the control knows. Whatever it doesn't know is 0, empty or false.
+struct Dibujo {
+    struct Posicion {
+        bool bResultado = false;
+        int iTipo = 0;  ///< type word
+    };
+    struct Bloque {
+        bool bCalifica = false;
+        std::vector<Posicion> posiciones;
+    };
+    struct Simbolo {
+        int iCategoria = 0;
+        CString csNombre;
+    };
+
+    std::map<int, Bloque> bloques;      ///< by block reference
+    std::map<CString, int> categorias;  ///< number by name
+    std::map<int, Simbolo> simbolos;    ///< by symbol number
+};
+
+/// Reads the member `control` of a request; an unknown member is an error, since a misspelt one would
+/// silently answer 0. @throws ErrorValor
+Dibujo LeerDibujo(const Json& j);
+
+class ControlGuionizado final : public IBIMCtrl {
+public:
+    void Fijar(Dibujo dibujo) { m_dibujo = std::move(dibujo); }
+
+    /// Symbols that the next choices of a symbol answer, in order. Without one the choice is cancelled.
+    std::deque<int> simbolosElegidos;
+
+    Resultado Invocar(int iMetodo, std::span<const Argumento> argumentos) override;
+
+private:
+    Resultado PosicionDeBloque(std::span<const Argumento> argumentos) const;
+    Resultado ElegirSimbolo(std::span<const Argumento> argumentos);
+
+    Dibujo m_dibujo;
+};
+
+}  // namespace efv::orden::rpc

@@ -1,0 +1,249 @@
+// A row of the function table. From the function's type follow its signature, the decoding of the
+// arguments and the encoding of what comes back; the row adds the names.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "rpc/errores.h"
+#include "rpc/json.h"
+#include "rpc/valores.h"
+
+namespace efv::orden::rpc {
+
+/// What arguments refer to besides their JSON value.
+struct Contexto {
+    IBIMCtrl& control;  ///< the scripted host's control
+};
+
+/// Name of a type as a header writes it.
+template <class T>
+std::string NombreTipo()
+{
+    if constexpr (std::is_reference_v<T>) {
+        using Referido = std::remove_reference_t<T>;
+        return NombreTipo<Referido>() + (std::is_array_v<Referido> ? "" : "&");
+    } else if constexpr (std::is_array_v<T>) {
+        const std::string interior = NombreTipo<std::remove_extent_t<T>>();
+        // The first dimension stands before those of the element type.
+        const std::size_t corchete = std::min(interior.find('['), interior.size());
+        return fmt::format("{}[{}]{}", interior.substr(0, corchete), std::extent_v<T>,
+                           interior.substr(corchete));
+    } else if constexpr (std::is_pointer_v<T>) {
+        return NombreTipo<std::remove_pointer_t<T>>() + "*";
+    } else if constexpr (std::is_const_v<T>) {
+        return "const " + NombreTipo<std::remove_const_t<T>>();
+    } else if constexpr (std::is_void_v<T>) {
+        return "void";
+    } else if constexpr (std::is_same_v<T, int>) {
+        return "int";
+    } else if constexpr (std::is_same_v<T, short>) {
+        return "short";
+    } else if constexpr (std::is_same_v<T, double>) {
+        return "double";
+    } else if constexpr (std::is_same_v<T, wchar_t>) {
+        return "wchar_t";
+    } else if constexpr (std::is_same_v<T, CString>) {
+        return "CString";
+    } else if constexpr (std::is_same_v<T, CStringArray>) {
+        return "CStringArray";
+    } else if constexpr (std::is_same_v<T, CArray<double, double&>>) {
+        return "CArray<double,double&>";
+    } else if constexpr (std::is_same_v<T, IBIMCtrl>) {
+        return "IBIMCtrl";
+    } else {
+        return std::string(T::GetThisClass().m_szClassName);
+    }
+}
+
+/// The variable behind an argument of declared type T: filled from JSON, handed to the function by value
+/// or by reference, written back after the call.
+template <class T>
+class Argumento {
+public:
+    void Leer(const Json& j, const Contexto&) { LeerValor(j, m_valor); }
+    T Pasar() { return m_valor; }
+    void Escribir(std::string& salida) const { EscribirValor(salida, m_valor); }
+
+private:
+    std::remove_cvref_t<T> m_valor{};
+};
+
+template <class T>
+requires std::is_array_v<std::remove_reference_t<T>>
+class Argumento<T> {
+public:
+    void Leer(const Json& j, const Contexto&) { LeerValor(j, EnFila(m_valores)); }
+    T Pasar() { return m_valores; }
+    void Escribir(std::string& salida) { EscribirValor(salida, std::span<const double>(EnFila(m_valores))); }
+
+private:
+    std::remove_const_t<std::remove_reference_t<T>> m_valores{};
+};
+
+/// A text that may be missing: null stays null.
+template <>
+class Argumento<const wchar_t*> {
+public:
+    void Leer(const Json& j, const Contexto&)
+    {
+        if (j.is_null())
+            return;
+        LeerValor(j, m_texto.emplace());
+        if (m_texto->find(L'\0') != CString::npos)
+            throw ErrorValor("se esperaba un texto sin carácter nulo, que lo cortaría");
+    }
+    const wchar_t* Pasar() const { return m_texto ? m_texto->c_str() : nullptr; }
+    void Escribir(std::string& salida) const { EscribirValor(salida, Pasar()); }
+
+private:
+    std::optional<CString> m_texto;
+};
+
+/// Always the scripted host's own control; a request can't name another.
+template <>
+class Argumento<IBIMCtrl&> {
+public:
+    void Leer(const Json& j, const Contexto& contexto)
+    {
+        if (!j.is_null())
+            Esperaba("null (el control es el del miembro «control» de la petición)", j);
+        m_control = &contexto.control;
+    }
+    IBIMCtrl& Pasar() const { return *m_control; }
+    void Escribir(std::string& salida) const { salida += "null"; }
+
+private:
+    IBIMCtrl* m_control = nullptr;
+};
+
+/// Types and names of a function.
+struct Firma {
+    struct Parametro {
+        std::string nombre;
+        std::string tipo;
+    };
+    std::string retorno;
+    std::vector<Parametro> parametros;
+};
+
+class Funcion {
+public:
+    using Invocador = void (*)(const Funcion&, const Json&, const Contexto&, std::string&);
+    using Descriptor = Firma (*)(const Funcion&);
+
+    /// A row for F. `argumentos` are the names of its arguments, with ", " between them; a wrong number
+    /// of names doesn't compile.
+    template <auto F>
+    static consteval Funcion De(std::string_view nombre, std::string_view argumentos)
+    {
+        return Hacer<F>(F, nombre, argumentos);
+    }
+
+    std::string_view GetNombre() const { return m_nombre; }
+    Firma GetFirma() const { return m_describir(*this); }
+
+    /// "int phGetHora(int iHoraAno)"
+    std::string Declaracion() const;
+
+    /// Calls the function with the list `argumentos` and appends `"return":…,"params":[…]`.
+    void Invocar(const Json& argumentos, const Contexto& contexto, std::string& salida) const
+    {
+        m_invocar(*this, argumentos, contexto, salida);
+    }
+
+    constexpr bool MismaQue(const Funcion& otra) const
+    {
+        return m_nombre == otra.m_nombre || m_invocar == otra.m_invocar;
+    }
+
+private:
+    constexpr Funcion(std::string_view nombre, std::string_view argumentos, Invocador invocar,
+                      Descriptor describir)
+        : m_nombre(nombre), m_argumentos(argumentos), m_invocar(invocar), m_describir(describir)
+    {
+    }
+
+    template <auto F, class R, class... A>
+    static consteval Funcion Hacer(R (*)(A...), std::string_view nombre, std::string_view argumentos)
+    {
+        if (Contar(argumentos) != sizeof...(A))
+            throw "the number of argument names isn't the function's";
+        return {nombre, argumentos, &InvocarCon<F, R, A...>, &DescribirCon<R, A...>};
+    }
+
+    static constexpr std::size_t Contar(std::string_view argumentos)
+    {
+        std::size_t n = argumentos.empty() ? 0 : 1;
+        for (const char c : argumentos)
+            n += c == ',' ? 1 : 0;
+        return n;
+    }
+
+    std::string_view NombreArgumento(std::size_t i) const;
+    void ComprobarNumero(const Json& argumentos, std::size_t n) const;
+
+    template <class A>
+    void Leer(Argumento<A>& argumento, std::size_t i, const Json& j, const Contexto& contexto) const
+    {
+        NombrarLugar([&] { return fmt::format("argumento «{}» ({})", NombreArgumento(i), NombreTipo<A>()); },
+                     [&] { argumento.Leer(j, contexto); });
+    }
+
+    template <class A>
+    static void Escribir(Argumento<A>& argumento, std::size_t i, std::string& salida)
+    {
+        if (i > 0)
+            salida += ',';
+        argumento.Escribir(salida);
+    }
+
+    template <auto F, class R, class... A>
+    static void InvocarCon(const Funcion& funcion, const Json& j, [[maybe_unused]] const Contexto& contexto,
+                           std::string& salida)
+    {
+        funcion.ComprobarNumero(j, sizeof...(A));
+        std::tuple<Argumento<A>...> argumentos;
+        [&]<std::size_t... I>(std::index_sequence<I...>)
+        {
+            (funcion.Leer(std::get<I>(argumentos), I, j[I], contexto), ...);
+            salida += "\"return\":";
+            if constexpr (std::is_void_v<R>) {
+                F(std::get<I>(argumentos).Pasar()...);
+                salida += "null";
+            } else {
+                EscribirValor(salida, F(std::get<I>(argumentos).Pasar()...));
+            }
+            salida += ",\"params\":[";
+            (Escribir(std::get<I>(argumentos), I, salida), ...);
+            salida += ']';
+        }
+        (std::index_sequence_for<A...>());
+    }
+
+    template <class R, class... A>
+    static Firma DescribirCon(const Funcion& funcion)
+    {
+        Firma firma{NombreTipo<R>(), {}};
+        (firma.parametros.push_back(
+             {std::string(funcion.NombreArgumento(firma.parametros.size())), NombreTipo<A>()}),
+         ...);
+        return firma;
+    }
+
+    std::string_view m_nombre;
+    std::string_view m_argumentos;
+    Invocador m_invocar;
+    Descriptor m_describir;
+};
+
+}  // namespace efv::orden::rpc

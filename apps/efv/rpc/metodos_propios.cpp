@@ -1,0 +1,143 @@
+#include "rpc/metodos_propios.h"
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include <fmt/format.h>
+
+#include "rpc/errores.h"
+#include "rpc/tabla_funciones.h"
+#include "rpc/valores.h"
+
+namespace efv::orden::rpc {
+
+namespace {
+
+constexpr std::string_view kHexadecimal = "0123456789abcdef";
+
+std::string EnHexadecimal(std::span<const std::byte> bytes)
+{
+    std::string texto;
+    texto.reserve(2 * bytes.size());
+    for (const std::byte b : bytes) {
+        texto += kHexadecimal[std::to_integer<std::size_t>(b >> 4)];
+        texto += kHexadecimal[std::to_integer<std::size_t>(b & std::byte{15})];
+    }
+    return texto;
+}
+
+std::byte Cifra(char c)
+{
+    const std::size_t valor = kHexadecimal.find(c >= 'A' && c <= 'F' ? static_cast<char>(c - 'A' + 'a') : c);
+    if (valor == std::string_view::npos)
+        throw ErrorValor("se esperaban solo cifras hexadecimales");
+    return static_cast<std::byte>(valor);
+}
+
+std::vector<std::byte> DesdeHexadecimal(const Json& j)
+{
+    if (!j.is_string())
+        Esperaba("un texto de cifras hexadecimales", j);
+    const auto& texto = j.get_ref<const std::string&>();
+    if (texto.size() % 2 != 0)
+        throw ErrorValor(
+            fmt::format("se esperaba un número par de cifras hexadecimales, llegaron {}", texto.size()));
+    std::vector<std::byte> bytes(texto.size() / 2);
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        bytes[i] = (Cifra(texto[2 * i]) << 4) | Cifra(texto[2 * i + 1]);
+    return bytes;
+}
+
+const Json& Miembro(const Json& params, std::string_view nombre, std::string_view esperado)
+{
+    const auto miembro = params.is_object() ? params.find(nombre) : params.end();
+    if (miembro == params.end())
+        throw ErrorValor(fmt::format("{}: se esperaba {}", nombre, esperado));
+    return *miembro;
+}
+
+std::unique_ptr<CObject> CrearRegistro(const Json& nombre)
+{
+    if (!nombre.is_string())
+        Esperaba("el nombre de un registro", nombre);
+    const CRuntimeClass* clase = CRuntimeClass::FromName(nombre.get_ref<const std::string&>());
+    std::unique_ptr<CObject> registro = clase == nullptr ? nullptr : clase->CreateObject();
+    if (!registro || CamposDeRegistro(*registro).empty())
+        Esperaba("el nombre de un registro", nombre);
+    return registro;
+}
+
+void Discover(const Json& params, std::string& salida)
+{
+    if (!params.empty())
+        throw ErrorRpc(Codigo::argumentos, "rpc.discover no lleva argumentos");
+    char separador = '[';
+    for (const Funcion& funcion : Funciones()) {
+        const Firma firma = funcion.GetFirma();
+        salida += fmt::format("{}{{\"name\":\"{}\",\"returns\":\"{}\",\"params\":[", separador,
+                              funcion.GetNombre(), firma.retorno);
+        separador = ',';
+        std::string_view coma;
+        for (const Firma::Parametro& parametro : firma.parametros) {
+            salida +=
+                fmt::format("{}{{\"name\":\"{}\",\"type\":\"{}\"}}", coma, parametro.nombre, parametro.tipo);
+            coma = ",";
+        }
+        salida += "]}";
+    }
+    salida += ']';
+}
+
+// A record to its archive bytes or back.
+void Archive(const Json& params, std::string& salida)
+{
+    const Json& nombre = Miembro(params, "record", "el nombre de un registro");
+    std::unique_ptr<CObject> registro;
+    NombrarLugar([] { return "record"; }, [&] { registro = CrearRegistro(nombre); });
+    const bool bEscribir = params.contains("value");
+    if (bEscribir == params.contains("bytes"))
+        throw ErrorRpc(Codigo::argumentos, "se esperaba o bien value o bien bytes");
+    if (bEscribir) {
+        NombrarLugar([] { return "value"; }, [&] { LeerRegistro(params["value"], *registro); });
+        std::vector<std::byte> bytes;
+        CArchive ar(bytes);
+        registro->Serialize(ar);
+        EscribirTexto(salida, EnHexadecimal(bytes));
+    } else {
+        std::vector<std::byte> bytes;
+        NombrarLugar([] { return "bytes"; }, [&] { bytes = DesdeHexadecimal(params["bytes"]); });
+        CArchive ar{std::span<const std::byte>(bytes)};
+        registro->Serialize(ar);
+        EscribirRegistro(salida, *registro);
+    }
+}
+
+// A text of the module's string table.
+void String(const Json& params, std::string& salida)
+{
+    const Json& numero = Miembro(params, "id", "el número de un texto");
+    int iId = 0;
+    NombrarLugar([] { return "id"; }, [&] { LeerValor(numero, iId); });
+    CString cs;
+    if (!CargarCadena(iId, cs))
+        throw ErrorRpc(Codigo::argumentos, fmt::format("id: no hay texto con el número {}", iId));
+    salida += "{\"text\":";
+    EscribirValor(salida, cs);
+    salida += '}';
+}
+
+}  // namespace
+
+MetodoPropio BuscarMetodoPropio(std::string_view nombre)
+{
+    if (nombre == "rpc.discover")
+        return Discover;
+    if (nombre == "rpc.archive")
+        return Archive;
+    if (nombre == "rpc.string")
+        return String;
+    return nullptr;
+}
+
+}  // namespace efv::orden::rpc

@@ -1,0 +1,17 @@
+// The methods of the scripted host itself, beside the library's functions.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "rpc/json.h"
+
+namespace efv::orden::rpc {
+
+/// Appends the method's whole `result` to `salida`. @throws ErrorRpc
+using MetodoPropio = void (*)(const Json& params, std::string& salida);
+
+/// `rpc.discover`, `rpc.archive`, `rpc.string`; null for another name.
+MetodoPropio BuscarMetodoPropio(std::string_view nombre);
+
+}  // namespace efv::orden::rpc

@@ -1,0 +1,16 @@
+// `efv rpc`: the scripted host over standard input and output.
+#pragma once
+
+#include <iosfwd>
+#include <string>
+
+namespace efv::orden::rpc {
+
+/// Answers every line of standard input until its end, or until nobody reads the answers any more.
+/// Sets the process's memory limit. @return exit status
+int AtenderEntrada();
+
+/// One declaration a line.
+std::string ListaDeFunciones();
+
+}  // namespace efv::orden::rpc

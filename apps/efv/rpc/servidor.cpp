@@ -1,0 +1,266 @@
+#include "rpc/servidor.h"
+
+#include <array>
+#include <new>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include "rpc/errores.h"
+#include "rpc/metodos_propios.h"
+#include "rpc/presupuesto.h"
+#include "rpc/tabla_funciones.h"
+
+namespace efv::orden::rpc {
+
+namespace {
+
+using ui::Icono;
+using ui::Respuesta;
+
+constexpr std::array<std::pair<Respuesta, std::string_view>, 4> kRespuestas{{
+    {Respuesta::aceptar, "ok"},
+    {Respuesta::si, "yes"},
+    {Respuesta::no, "no"},
+    {Respuesta::cancelar, "cancel"},
+}};
+
+constexpr std::array<std::pair<Icono, std::string_view>, 4> kIconos{{
+    {Icono::error, "error"},
+    {Icono::advertencia, "warning"},
+    {Icono::informacion, "information"},
+    {Icono::pregunta, "question"},
+}};
+
+template <class Valor, std::size_t N>
+std::string_view NombreDe(const std::array<std::pair<Valor, std::string_view>, N>& tabla, Valor valor)
+{
+    for (const auto& [candidato, nombre] : tabla)
+        if (candidato == valor)
+            return nombre;
+    return {};
+}
+
+// The control outlives every server: the library keeps its address as long as the process runs.
+ControlGuionizado& ControlDelProceso()
+{
+    static ControlGuionizado control;
+    return control;
+}
+
+void EscribirError(std::string& salida, std::string_view id, Codigo codigo, std::string_view texto)
+{
+    salida += fmt::format("{{\"jsonrpc\":\"2.0\",\"id\":{},\"error\":{{\"code\":{},\"message\":", id,
+                          static_cast<int>(codigo));
+    EscribirTexto(salida, texto);
+    salida += "}}\n";
+}
+
+Json Interpretar(std::string_view linea)
+{
+    try {
+        return Json::parse(linea.begin(), linea.end());
+    } catch (const Json::parse_error& e) {
+        throw ErrorRpc(Codigo::noEsJson,
+                       linea.empty() ? "línea vacía" : fmt::format("no es JSON: fallo en el byte {}", e.byte));
+    } catch (const Json::out_of_range&) {
+        throw ErrorRpc(Codigo::noEsJson, "no es JSON admisible: un número no cabe en un double");
+    }
+}
+
+// What can't be admitted is still told apart from what is no JSON at all, without building it.
+[[noreturn]] void Rehusar(Veredicto veredicto, std::string_view linea)
+{
+    if (veredicto == Veredicto::conNulo || !Json::accept(linea.begin(), linea.end()))
+        throw ErrorRpc(Codigo::noEsJson, "no es JSON");
+    throw ErrorRpc(Codigo::noEsPeticion,
+                   veredicto == Veredicto::demasiadoProfunda
+                       ? fmt::format("más de {} listas u objetos anidados", kProfundidadMaxima)
+                       : std::string("la petición ocuparía demasiada memoria"));
+}
+
+void ComprobarPeticion(const Json& documento)
+{
+    if (documento.is_array())
+        throw ErrorRpc(Codigo::noEsPeticion, "no se admiten lotes: una petición por línea");
+    if (!documento.is_object())
+        throw ErrorRpc(Codigo::noEsPeticion, "una petición es un objeto");
+}
+
+const Json& Miembro(const Json& documento, const char* nombre)
+{
+    static const Json ninguno;
+    const auto miembro = documento.find(nombre);
+    return miembro == documento.end() ? ninguno : *miembro;
+}
+
+std::string LeerId(const Json& id)
+{
+    if (!id.is_string() && !id.is_number() && !id.is_null())
+        throw ErrorRpc(Codigo::noEsPeticion, "id debe ser un texto, un número o null");
+    return id.dump();
+}
+
+std::string_view LeerMetodo(const Json& documento)
+{
+    if (Miembro(documento, "jsonrpc") != "2.0")
+        throw ErrorRpc(Codigo::noEsPeticion, "falta \"jsonrpc\":\"2.0\"");
+    const Json& metodo = Miembro(documento, "method");
+    if (!metodo.is_string())
+        throw ErrorRpc(Codigo::noEsPeticion, "falta method, un texto");
+    return metodo.get_ref<const std::string&>();
+}
+
+// A list member of the request; absent or null counts as empty.
+const Json& Lista(const Json& documento, const char* nombre)
+{
+    static const Json vacia = Json::array();
+    const Json& miembro = Miembro(documento, nombre);
+    if (miembro.is_null())
+        return vacia;
+    NombrarLugar([&] { return std::string(nombre); },
+                 [&] {
+                     if (!miembro.is_array())
+                         Esperaba("una lista", miembro);
+                 });
+    return miembro;
+}
+
+Respuesta LeerRespuesta(const Json& j)
+{
+    for (const auto& [respuesta, nombre] : kRespuestas)
+        if (j == nombre)
+            return respuesta;
+    throw ErrorValor("answers: se esperaban los textos ok, yes, no o cancel");
+}
+
+// The scripts' shape is checked although no dialog opens that would run them.
+void ComprobarDialogos(const Json& guiones)
+{
+    for (const Json& guion : guiones) {
+        const bool bForma = guion.is_object() && Miembro(guion, "dialog").is_string();
+        const Json& pasos = bForma ? Miembro(guion, "steps") : guion;
+        if (!bForma || !(pasos.is_array() || pasos.is_null()))
+            throw ErrorValor("dialogs: se esperaban objetos con dialog, un texto, y steps, una lista");
+        for (const Json& paso : pasos)
+            if (!paso.is_object() || paso.size() != 1)
+                throw ErrorValor("dialogs: se esperaba que cada paso fuera un objeto de un miembro");
+    }
+}
+
+}  // namespace
+
+Servidor::Servidor()
+{
+    ui::InstalarPresentador(&m_presentador);
+}
+
+Servidor::~Servidor()
+{
+    ui::InstalarPresentador(nullptr);
+}
+
+std::string Servidor::Responder(std::string_view linea)
+{
+    std::string salida;
+    Responder(linea, salida);
+    salida.pop_back();
+    return salida;
+}
+
+void Servidor::Responder(std::string_view linea, std::string& salida)
+{
+    const std::size_t inicio = salida.size();
+    std::string id = "null";
+    const auto fallar = [&](Codigo codigo, std::string_view texto) {
+        salida.resize(inicio);
+        EscribirError(salida, id, codigo, texto);
+    };
+    if (linea.ends_with('\r'))
+        linea.remove_suffix(1);
+    try {
+        Atender(linea, id, salida);
+    } catch (const ErrorRpc& e) {
+        fallar(e.GetCodigo(), e.what());
+    } catch (const std::bad_alloc&) {
+        fallar(Codigo::excepcion, "memoria insuficiente");
+    } catch (const std::exception& e) {
+        fallar(Codigo::excepcion, e.what());
+    } catch (...) {
+        fallar(Codigo::excepcion, "excepción desconocida");
+    }
+}
+
+void Servidor::RechazarLinea(std::string& salida)
+{
+    EscribirError(salida, "null", Codigo::noEsPeticion, fmt::format("la línea pasa de {} bytes", kLineaMaxima));
+}
+
+void Servidor::Atender(std::string_view linea, std::string& id, std::string& salida)
+{
+    const Peso peso = Sopesar(linea);
+    if (peso.veredicto != Veredicto::admisible)
+        Rehusar(peso.veredicto, linea);
+    Json documento;
+    const ReservaDeMemoria reserva(peso, linea.size());
+    documento = Interpretar(linea);
+    ComprobarPeticion(documento);
+    id = LeerId(Miembro(documento, "id"));
+    salida += "{\"jsonrpc\":\"2.0\",\"id\":";
+    salida += id;
+    salida += ",\"result\":";
+    Llamar(documento, salida);
+    salida += "}\n";
+}
+
+void Servidor::Llamar(const Json& documento, std::string& salida)
+{
+    const std::string_view metodo = LeerMetodo(documento);
+    const Funcion* funcion = BuscarFuncion(metodo);
+    const MetodoPropio propio = funcion == nullptr ? BuscarMetodoPropio(metodo) : nullptr;
+    if (funcion == nullptr && propio == nullptr)
+        throw ErrorRpc(Codigo::noExiste, fmt::format("no hay función «{}»", metodo.substr(0, kCitaMaxima)));
+    PrepararGuion(documento);
+    if (propio != nullptr) {
+        propio(Miembro(documento, "params"), salida);
+        return;
+    }
+    salida += '{';
+    funcion->Invocar(Lista(documento, "params"), {ControlDelProceso()}, salida);
+    salida += ",\"messages\":";
+    EscribirMensajes(salida);
+    salida += ",\"dialogs\":[]}";
+}
+
+// Answers hold for this request only; the control stands until another one comes.
+void Servidor::PrepararGuion(const Json& documento)
+{
+    m_presentador.mostrados.clear();
+    m_presentador.respuestas.clear();
+    ControlDelProceso().simbolosElegidos.clear();
+    for (const Json& respuesta : Lista(documento, "answers"))
+        m_presentador.respuestas.push_back(LeerRespuesta(respuesta));
+    ComprobarDialogos(Lista(documento, "dialogs"));
+    if (const Json& control = Miembro(documento, "control"); !control.is_null()) {
+        NombrarLugar([] { return "control"; }, [&] { ControlDelProceso().Fijar(LeerDibujo(control)); });
+        phSetQuorvelBIMCtrl(ControlDelProceso());
+    }
+}
+
+void Servidor::EscribirMensajes(std::string& salida) const
+{
+    salida += '[';
+    std::string_view coma;
+    for (const auto& [mensaje, respuesta] : m_presentador.mostrados) {
+        salida += std::exchange(coma, ",");
+        salida += "{\"title\":";
+        EscribirTexto(salida, CadenaUtf8(mensaje.csTitulo));
+        salida += ",\"text\":";
+        EscribirTexto(salida, CadenaUtf8(mensaje.csTexto));
+        salida += fmt::format(",\"icon\":\"{}\",\"answer\":\"{}\"}}", NombreDe(kIconos, mensaje.icono),
+                              NombreDe(kRespuestas, respuesta));
+    }
+    salida += ']';
+}
+
+}  // namespace efv::orden::rpc

@@ -1,0 +1,111 @@
+#include "rpc/tabla_funciones.h"
+
+#include <array>
+#include <unordered_map>
+
+#include <QuorvelEFV.h>
+
+namespace efv::orden::rpc {
+
+namespace {
+
+constexpr auto kFunciones = std::to_array<Funcion>({
+    // Module and host
+    Funcion::De<&phSetQuorvelBIMCtrl>("phSetQuorvelBIMCtrl", "ctrl"),
+    Funcion::De<&phGetFirstPositionTypeAlimentacionInSmartBlockRef>(
+        "phGetFirstPositionTypeAlimentacionInSmartBlockRef", "iBloque"),
+    Funcion::De<&phGetFirstPositionTypeDistribucionInSmartBlockRef>(
+        "phGetFirstPositionTypeDistribucionInSmartBlockRef", "iBloque"),
+    Funcion::De<&phSetPathApp>("phSetPathApp", "csPath"),
+    Funcion::De<&phGetPathApp>("phGetPathApp", ""),
+    Funcion::De<&phSetPathModHE5>("phSetPathModHE5", "csPath"),
+    Funcion::De<&phGetPathModHE5>("phGetPathModHE5", ""),
+    Funcion::De<&phSetPathHE5BD>("phSetPathHE5BD", "csPath"),
+    Funcion::De<&phGetPathHE5BD>("phGetPathHE5BD", ""),
+    Funcion::De<&phShowVersion>("phShowVersion", ""),
+
+    // Calendar
+    Funcion::De<&phGetHora>("phGetHora", "iHoraAno"),
+    Funcion::De<&phGetDia>("phGetDia", "iHoraAno"),
+    Funcion::De<&phGetMes>("phGetMes", "iHoraAno"),
+    Funcion::De<&phGetAnoActual>("phGetAnoActual", ""),
+    Funcion::De<&phIsAnoBisiesto>("phIsAnoBisiesto", "iAno"),
+    Funcion::De<&phGetNumDiasMes>("phGetNumDiasMes", "iAno, iMes"),
+    Funcion::De<&phGetTipoDiaMes>("phGetTipoDiaMes", "nAno, nMes, nDia"),
+    Funcion::De<&phGetTipoDiaMes2>("phGetTipoDiaMes2", "nAno, iDiaAno"),
+    Funcion::De<&phGetTipoDiaSemana>("phGetTipoDiaSemana", "iMes, iDia"),
+    Funcion::De<&phGetNombreDiaMes>("phGetNombreDiaMes", "csDia, csMes, iAno, iMes, iDia"),
+    Funcion::De<&phGetNombreDiaSemana>("phGetNombreDiaSemana", "csNombre, iTipoDia"),
+    Funcion::De<&phGetNombreMes>("phGetNombreMes", "iMes, csNombre"),
+    Funcion::De<&phGetNombreMesLT>("phGetNombreMesLT", "iMes, csNombre"),
+
+    // Sun position
+    Funcion::De<&phGetDEC>("phGetDEC", "dDia"),
+    Funcion::De<&phGetHOR>("phGetHOR", "dHora"),
+    Funcion::De<&phGetALT>("phGetALT", "dLatitud, dDeclinacion, dAnguloHorario"),
+    Funcion::De<&phGetALT2>("phGetALT2", "dLatitud, iMes, iDia, iHora"),
+    Funcion::De<&phGetAZI>("phGetAZI", "dLatitud, dDeclinacion, dAltura, dAnguloHorario"),
+
+    // Radiation and energy
+    Funcion::De<&phGetRI_kWh_m2_dia>("phGetRI_kWh_m2_dia",
+                                     "dResultado, iMetodo, iMes, dLatitud, iHemisferio, dRadHorizontal, "
+                                     "dInclinacion, dOrientacion, dPR, dFactorAdicional"),
+    Funcion::De<&phGetRI_kJ_m2_dia>("phGetRI_kJ_m2_dia",
+                                    "dResultado, iMetodo, iMes, dLatitud, iHemisferio, dRadHorizontal, "
+                                    "dInclinacion, dOrientacion, dPR, dFactorAdicional"),
+    Funcion::De<&phGetEIR_kWh_dia>("phGetEIR_kWh_dia",
+                                   "dResultado, iMetodo, iMes, dLatitud, iHemisferio, dRadHorizontal, "
+                                   "dInclinacion, dOrientacion, dPotenciaPico, dPR, dFactorAdicional"),
+    Funcion::De<&phGetEIR_kWh_mes>("phGetEIR_kWh_mes",
+                                   "dResultado, iMetodo, iMes, dLatitud, iHemisferio, dRadHorizontal, "
+                                   "dInclinacion, dOrientacion, dPotenciaPico, dPR, dFactorAdicional"),
+    Funcion::De<&phGetEIR_kWh_ano>("phGetEIR_kWh_ano",
+                                   "dResultado, iMetodo, dLatitud, iHemisferio, adRadHorizontal, "
+                                   "dInclinacion, dOrientacion, dPotenciaPico, dPR, dFactorAdicional"),
+    Funcion::De<&phGetEIR_kJ_dia>("phGetEIR_kJ_dia",
+                                  "dResultado, iMetodo, iMes, dLatitud, iHemisferio, dRadHorizontal, "
+                                  "dInclinacion, dOrientacion, dPotenciaPico, dPR, dFactorAdicional"),
+    Funcion::De<&phGetEIR_kJ_mes>("phGetEIR_kJ_mes",
+                                  "dResultado, iMetodo, iMes, dLatitud, iHemisferio, dRadHorizontal, "
+                                  "dInclinacion, dOrientacion, dPotenciaPico, dPR, dFactorAdicional"),
+    Funcion::De<&phGetEIR_kJ_ano>("phGetEIR_kJ_ano",
+                                  "dResultado, iMetodo, dLatitud, iHemisferio, adRadHorizontal, "
+                                  "dInclinacion, dOrientacion, dPotenciaPico, dPR, dFactorAdicional"),
+
+    // Table of factors K
+    Funcion::De<&phCargarBaseFactorK>("phCargarBaseFactorK", "csPath"),
+    Funcion::De<&phGetBaseFactorK>("phGetBaseFactorK", ""),
+    Funcion::De<&phGetDataFactorK>("phGetDataFactorK", "dLatitud, iHemisferio, dAlpha, adK"),
+});
+
+// A row copied and not wholly changed would answer for another function.
+consteval bool SinRepetidas()
+{
+    for (std::size_t i = 0; i < kFunciones.size(); ++i)
+        for (std::size_t k = 0; k < i; ++k)
+            if (kFunciones[i].MismaQue(kFunciones[k]))
+                return false;
+    return true;
+}
+static_assert(SinRepetidas());
+
+}  // namespace
+
+std::span<const Funcion> Funciones()
+{
+    return kFunciones;
+}
+
+const Funcion* BuscarFuncion(std::string_view nombre)
+{
+    static const auto indice = [] {
+        std::unordered_map<std::string_view, const Funcion*> porNombre;
+        for (const Funcion& funcion : kFunciones)
+            porNombre.emplace(funcion.GetNombre(), &funcion);
+        return porNombre;
+    }();
+    const auto fila = indice.find(nombre);
+    return fila == indice.end() ? nullptr : fila->second;
+}
+
+}  // namespace efv::orden::rpc

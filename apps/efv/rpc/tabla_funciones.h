@@ -1,0 +1,17 @@
+// Every exported function, callable by name.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+#include "rpc/funcion.h"
+
+namespace efv::orden::rpc {
+
+/// The table, in the order of the public headers.
+std::span<const Funcion> Funciones();
+
+/// The function of that very name; null when there is none.
+const Funcion* BuscarFuncion(std::string_view nombre);
+
+}  // namespace efv::orden::rpc
