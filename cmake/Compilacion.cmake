@@ -26,14 +26,14 @@ target_compile_options(efv_compilacion INTERFACE
     -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(efv_compilacion INTERFACE
-        -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wuseless-cast)
+        -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wuseless-cast
+        # GCC 12 takes the empty state of a std::optional for an uninitialised value.
+        -Wno-maybe-uninitialized)
 endif()
 
 if(EFV_SANEADORES)
     target_compile_options(efv_compilacion INTERFACE
-        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer
-        # The sanitizers' own code confuses this one.
-        -Wno-maybe-uninitialized)
+        -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(efv_compilacion INTERFACE -fsanitize=address,undefined)
 endif()
 

@@ -3,6 +3,7 @@
 
 #include <quorvel/assistants.h>
 #include <quorvel/catalogues.h>
+#include <quorvel/electrical.h>
 #include <quorvel/frame.h>
 #include <quorvel/framework.h>
 #include <quorvel/localidades.h>

@@ -149,9 +149,8 @@ int FilaDe(const Lista& lista, const CString& csTexto, const std::string& nombre
 
 class Actor {
 public:
-    Actor(PresentadorGuionizado& presentador, Dialogo& dialogo, std::deque<std::optional<CString>>& ficheros,
-          std::size_t iTranscripcion)
-        : m_presentador(presentador), m_dialogo(dialogo), m_ficheros(ficheros), m_iTranscripcion(iTranscripcion)
+    Actor(PresentadorGuionizado& presentador, Dialogo& dialogo, std::size_t iTranscripcion)
+        : m_presentador(presentador), m_dialogo(dialogo), m_iTranscripcion(iTranscripcion)
     {
     }
 
@@ -203,7 +202,7 @@ public:
         m_dialogo.Abrir(lista, p.iFila, p.iColumna);
     }
 
-    void operator()(const paso::Fichero& p) { m_ficheros.push_back(p.csRuta); }
+    void operator()(const paso::Fichero& p) { m_presentador.ficheros.push_back(p.csRuta); }
     void operator()(const paso::Simbolo& p) { m_presentador.simbolos.push_back(p.iSimbolo); }
     void operator()(const paso::Portapapeles& p) { m_presentador.csPortapapeles = p.csTexto; }
 
@@ -240,7 +239,6 @@ private:
 
     PresentadorGuionizado& m_presentador;
     Dialogo& m_dialogo;
-    std::deque<std::optional<CString>>& m_ficheros;
     std::size_t m_iTranscripcion;
 };
 
@@ -284,7 +282,7 @@ void PresentadorGuionizado::MostrarModal(Dialogo& dialogo)
     if (!guiones.empty() && !csErrorGuion) {
         const GuionDialogo guion = std::move(guiones.front());
         guiones.pop_front();
-        Actor actor(*this, dialogo, m_ficheros, iTranscripcion);
+        Actor actor(*this, dialogo, iTranscripcion);
         if (auto csError = Actuar(actor, dialogo, guion, csErrorGuion))
             csErrorGuion = std::move(csError);
     }
@@ -301,10 +299,10 @@ void PresentadorGuionizado::MostrarRechazo(Dialogo& /*dialogo*/, const Rechazo& 
 
 std::optional<CString> PresentadorGuionizado::ElegirFichero(const PeticionFichero& /*peticion*/)
 {
-    if (m_ficheros.empty())
+    if (ficheros.empty())
         return std::nullopt;
-    std::optional<CString> csRuta = std::move(m_ficheros.front());
-    m_ficheros.pop_front();
+    std::optional<CString> csRuta = std::move(ficheros.front());
+    ficheros.pop_front();
     return csRuta;
 }
 

@@ -90,6 +90,18 @@ private:
     std::remove_const_t<std::remove_reference_t<T>> m_valores{};
 };
 
+/// An output by pointer: like one by reference, the variable is always there.
+template <>
+class Argumento<double*> {
+public:
+    void Leer(const Json& j, const Contexto&) { LeerValor(j, m_valor); }
+    double* Pasar() { return &m_valor; }
+    void Escribir(std::string& salida) const { EscribirValor(salida, m_valor); }
+
+private:
+    double m_valor = 0.0;
+};
+
 /// A text that may be missing: null stays null.
 template <>
 class Argumento<const wchar_t*> {

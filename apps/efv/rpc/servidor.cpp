@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include "rpc/errores.h"
+#include "rpc/guiones.h"
 #include "rpc/metodos_propios.h"
 #include "rpc/presupuesto.h"
 #include "rpc/tabla_funciones.h"
@@ -134,20 +135,6 @@ Respuesta LeerRespuesta(const Json& j)
     throw ErrorValor("answers: se esperaban los textos ok, yes, no o cancel");
 }
 
-// The scripts' shape is checked although no dialog opens that would run them.
-void ComprobarDialogos(const Json& guiones)
-{
-    for (const Json& guion : guiones) {
-        const bool bForma = guion.is_object() && Miembro(guion, "dialog").is_string();
-        const Json& pasos = bForma ? Miembro(guion, "steps") : guion;
-        if (!bForma || !(pasos.is_array() || pasos.is_null()))
-            throw ErrorValor("dialogs: se esperaban objetos con dialog, un texto, y steps, una lista");
-        for (const Json& paso : pasos)
-            if (!paso.is_object() || paso.size() != 1)
-                throw ErrorValor("dialogs: se esperaba que cada paso fuera un objeto de un miembro");
-    }
-}
-
 }  // namespace
 
 Servidor::Servidor()
@@ -227,9 +214,13 @@ void Servidor::Llamar(const Json& documento, std::string& salida)
     }
     salida += '{';
     funcion->Invocar(Lista(documento, "params"), {ControlDelProceso()}, salida);
+    if (m_presentador.csErrorGuion)
+        throw ErrorRpc(Codigo::argumentos, "dialogs: " + CadenaUtf8(*m_presentador.csErrorGuion));
     salida += ",\"messages\":";
     EscribirMensajes(salida);
-    salida += ",\"dialogs\":[]}";
+    salida += ",\"dialogs\":";
+    EscribirDialogos(salida, m_presentador.transcripciones);
+    salida += '}';
 }
 
 // Answers hold for this request only; the control stands until another one comes.
@@ -237,10 +228,13 @@ void Servidor::PrepararGuion(const Json& documento)
 {
     m_presentador.mostrados.clear();
     m_presentador.respuestas.clear();
+    m_presentador.transcripciones.clear();
+    m_presentador.ficheros.clear();
+    m_presentador.csErrorGuion.reset();
     ControlDelProceso().simbolosElegidos.clear();
     for (const Json& respuesta : Lista(documento, "answers"))
         m_presentador.respuestas.push_back(LeerRespuesta(respuesta));
-    ComprobarDialogos(Lista(documento, "dialogs"));
+    m_presentador.guiones = LeerGuiones(Lista(documento, "dialogs"));
     if (const Json& control = Miembro(documento, "control"); !control.is_null()) {
         NombrarLugar([] { return "control"; }, [&] { ControlDelProceso().Fijar(LeerDibujo(control)); });
         phSetQuorvelBIMCtrl(ControlDelProceso());

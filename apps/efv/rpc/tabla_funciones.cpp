@@ -76,6 +76,29 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phCargarBaseFactorK>("phCargarBaseFactorK", "csPath"),
     Funcion::De<&phGetBaseFactorK>("phGetBaseFactorK", ""),
     Funcion::De<&phGetDataFactorK>("phGetDataFactorK", "dLatitud, iHemisferio, dAlpha, adK"),
+
+    // Module curves
+    Funcion::De<&phCalcValoresTipicos>(
+        "phCalcValoresTipicos",
+        "dIsc, dVoc, dImpm, dVmpm, dPmpm, dG, dT, dCTVoc, dCTIsc, dCTPmpm, pdIsc, "
+        "pdVoc, pdImp, pdVmp, pdPmp"),
+    Funcion::De<&phCalcCurve>("phCalcCurve", "aI, aV, aP, dIsc, dVoc, dImp, dVmp, dT, dNs, dNp, dN, iN"),
+
+    // Catalogue of PV modules
+    Funcion::De<&phCargarBasePanelesFotovoltaicos>("phCargarBasePanelesFotovoltaicos", "csPath"),
+    Funcion::De<&phEditarBasePanelesFotovoltaicos>("phEditarBasePanelesFotovoltaicos", "iModo"),
+    Funcion::De<&phSeleccionPanelFoto>("phSeleccionPanelFoto", "csId"),
+    Funcion::De<&phGetBasePanelFoto>("phGetBasePanelFoto", ""),
+    Funcion::De<&phGetFabricantePanelFoto>("phGetFabricantePanelFoto", "csId, csFamilia"),
+    Funcion::De<&phCadenaIdentificacionModeloPanelFoto>("phCadenaIdentificacionModeloPanelFoto",
+                                                        "csModelo, csId"),
+    Funcion::De<&phGetDataPanelFoto>(
+        "phGetDataPanelFoto",
+        "csId, csFamilia, dVsmax, dPmpm, dVmpm, dImpm, dVoc, dIsc, dCTVoc, dCTIsc, "
+        "dCTPmpm, dCEf, iNp, iNs, dAcel, iTipoCelula, dH, dB, dA, dP, csCodPrecio"),
+    Funcion::De<&phGetDimPanelFoto>("phGetDimPanelFoto", "csId, csFamilia, dH, dB, dA, dP"),
+    Funcion::De<&phGetCsTipoCelula>("phGetCsTipoCelula", "iTipoCelula, csNombre"),
+    Funcion::De<&phTranslateValor>("phTranslateValor", "iModo, dValor, dRef"),
 });
 
 // A row copied and not wholly changed would answer for another function.

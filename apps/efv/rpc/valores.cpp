@@ -194,12 +194,24 @@ void EscribirValor(std::string& salida, std::span<const double> ad)
     EscribirLista(salida, ad);
 }
 
-void EscribirValor(std::string& salida, const CBaseFactorK& base)
+namespace {
+
+CString NombreDeFamilia(CObject& familia)
 {
-    CStringArray latitudes;
+    if (const auto* latitud = dynamic_cast<const CBaseFactorKLatitud*>(&familia))
+        return latitud->GetNombre();
+    if (const auto* deModulos = dynamic_cast<const CBasePanelFotoFamilia*>(&familia))
+        return deModulos->GetNombre();
+    return {};
+}
+
+}  // namespace
+
+void EscribirValor(std::string& salida, const CBaseXML& base)
+{
+    CStringArray nombres;
     for (const auto& familia : base.aFamilias)
-        if (const auto* latitud = dynamic_cast<const CBaseFactorKLatitud*>(familia.get()))
-            latitudes.Add(latitud->GetNombre());
+        nombres.Add(NombreDeFamilia(*familia));
     salida += "{\"csArchivo\":";
     EscribirValor(salida, base.csArchivo);
     salida += ",\"bEdicion\":";
@@ -207,7 +219,7 @@ void EscribirValor(std::string& salida, const CBaseFactorK& base)
     salida += ",\"iCargada\":";
     EscribirValor(salida, base.iCargada);
     salida += ",\"aFamilias\":";
-    EscribirValor(salida, latitudes);
+    EscribirValor(salida, nombres);
     salida += '}';
 }
 

@@ -34,8 +34,8 @@ void EscribirValor(std::string& salida, const wchar_t* cs);
 void EscribirValor(std::string& salida, const CArray<double, double&>& ad);
 void EscribirValor(std::string& salida, const CStringArray& acs);
 void EscribirValor(std::string& salida, std::span<const double> ad);
-/// {"csArchivo","bEdicion","iCargada","aFamilias":[latitudes]}
-void EscribirValor(std::string& salida, const CBaseFactorK& base);
+/// {"csArchivo","bEdicion","iCargada","aFamilias":[names of the latitudes or families]}
+void EscribirValor(std::string& salida, const CBaseXML& base);
 
 /// The record as an object, fields in declared order.
 void EscribirRegistro(std::string& salida, CObject& registro);

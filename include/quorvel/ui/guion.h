@@ -105,6 +105,8 @@ public:
     std::deque<GuionDialogo> guiones;
     /// Answers of the host's symbol choices, in order.
     std::deque<int> simbolos;
+    /// Answers of the file choosers to come, in order; one without an answer is cancelled.
+    std::deque<std::optional<CString>> ficheros;
     CString csPortapapeles;
 
     /// Every box shown, in order.
@@ -122,9 +124,6 @@ public:
     void EscribirPortapapeles(const CString& csTexto) override;
     void Esperar(bool bEmpieza) override;
     void Refrescar(Dialogo& dialogo) override;
-
-private:
-    std::deque<std::optional<CString>> m_ficheros;
 };
 
 }  // namespace efv::ui
