@@ -135,11 +135,11 @@ ui::Paso LeerPaso(const Json& j)
 {
     if (!j.is_object() || j.size() != 1)
         Esperaba("un objeto de un miembro", j);
-    const auto& [nombre, argumentos] = *j.items().begin();
+    const auto miembro = j.begin();
     for (const auto& [conocido, leer] : kPasos)
-        if (conocido == nombre)
-            return leer(argumentos);
-    throw ErrorValor(fmt::format("no hay paso «{}»", nombre.substr(0, kCitaMaxima)));
+        if (conocido == miembro.key())
+            return leer(miembro.value());
+    throw ErrorValor(fmt::format("no hay paso «{}»", miembro.key().substr(0, kCitaMaxima)));
 }
 
 const Json& Miembro(const Json& j, const char* nombre)
