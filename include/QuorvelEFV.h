@@ -2,6 +2,7 @@
 #pragma once
 
 #include <quorvel/assistants.h>
+#include <quorvel/catalogo_herramientas.h>
 #include <quorvel/catalogues.h>
 #include <quorvel/electrical.h>
 #include <quorvel/frame.h>

@@ -1,8 +1,10 @@
 // Electrical models: operating values and curves of a photovoltaic module.
 #pragma once
 
+#include <quorvel/catalogues.h>
 #include <quorvel/exportar.h>
 #include <quorvel/framework/CArray.h>
+#include <quorvel/ui/grafica.h>
 
 // ---------------------------------------------------------------------------------------------------
 // Module curves. No argument is checked: what has no answer is infinite or not-a-number, or leaves points
@@ -62,3 +64,18 @@ EFV_API int phCalcValoresTipicos(double dIsc, double dVoc, double dImpm, double 
 EFV_API int phCalcCurve(CArray<double, double&>& aI, CArray<double, double&>& aV, CArray<double, double&>& aP,
                         double dIsc, double dVoc, double dImp, double dVmp, double dT, double dNs, double dNp,
                         double dN, int iN);
+
+namespace efv {
+
+/// The two charts of a family of curves.
+struct GraficasPanel {
+    CCtrlCurva2D corriente;  ///< current over voltage
+    CCtrlCurva2D potencia;   ///< power over current
+};
+
+/// Curves of a module at 25 ºC for 1000, 800, 600, 400 and 200 W/m².
+EFV_API GraficasPanel GraficasATemperaturaConstante(const CBasePanelFotoModelo& modelo);
+/// Curves of a module at 1000 W/m² for 0, 50, 75 and 25 ºC.
+EFV_API GraficasPanel GraficasAIrradiacionConstante(const CBasePanelFotoModelo& modelo);
+
+}  // namespace efv

@@ -33,25 +33,31 @@ CString ConFinesDeLinea(const CString& csTexto)
 
 }  // namespace
 
-std::optional<CString> LeerTextoImportado(const CString& csRuta)
+std::optional<CString> LeerTexto(const CString& csRuta)
 {
-    std::optional<std::string> bytes;
-    try {
-        bytes = archivo::LeerFichero(csRuta, kMaximo);
-    } catch (const CFileException& error) {
-        ui::MostrarAviso(
-            L"El archivo " + csRuta + L" no puede ser cargado (Error " + std::to_wstring(error.m_cause) + L").",
-            ui::Icono::advertencia);
+    const std::optional<std::string> bytes = archivo::LeerFichero(csRuta, kMaximo);
+    if (!bytes)
         return std::nullopt;
-    }
-    if (!bytes) {
-        ui::MostrarAviso(L"El archivo " + csRuta + L" no puede ser cargado.", ui::Icono::advertencia);
-        return std::nullopt;
-    }
     std::string_view vista = *bytes;
     if (vista.starts_with("\xEF\xBB\xBF"))
         vista.remove_prefix(3);
     return ConFinesDeLinea(texto::EsUtf8(vista) ? CadenaDesdeUtf8(vista) : texto::DeWindows1252(vista));
+}
+
+std::optional<CString> LeerTextoImportado(const CString& csRuta)
+{
+    const auto avisar = [&](const CString& csFinal) {
+        ui::MostrarAviso(L"El archivo " + csRuta + L" no puede ser cargado" + csFinal, ui::Icono::advertencia);
+    };
+    try {
+        std::optional<CString> csTexto = LeerTexto(csRuta);
+        if (!csTexto)
+            avisar(L".");
+        return csTexto;
+    } catch (const CFileException& error) {
+        avisar(L" (Error " + std::to_wstring(error.m_cause) + L").");
+        return std::nullopt;
+    }
 }
 
 CString ValorDeClave(std::wstring_view texto, std::wstring_view clave)

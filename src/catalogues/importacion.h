@@ -9,8 +9,10 @@
 namespace efv::catalogues {
 
 /// The whole file as text, each line ended by CR LF whatever ended it there. UTF-8 when it is
-/// well-formed UTF-8, else Windows-1252. A file that can't be read is told to the person and gives
-/// nothing.
+/// well-formed UTF-8, else Windows-1252. Nothing when it can't be read.
+std::optional<CString> LeerTexto(const CString& csRuta);
+
+/// The same; a file that can't be read is told to the person.
 std::optional<CString> LeerTextoImportado(const CString& csRuta);
 
 /// What stands between the first "KEY=" and the next CR LF; empty when either is missing. The search

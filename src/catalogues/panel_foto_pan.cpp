@@ -76,4 +76,18 @@ void ImportarPan(std::wstring_view csTexto, M& modelo)
     modelo.dCTPmpm = (modelo.dPmpm / 100) * (modelo.dCTPmpm * 1000);
 }
 
+std::vector<CString> ClavesAusentes(std::wstring_view csTexto)
+{
+    std::vector<CString> ausentes;
+    for (const ClavePan& fila : kClaves)
+        if (csTexto.find(CString(fila.clave) + L"=") == std::wstring_view::npos)
+            ausentes.emplace_back(fila.clave);
+    return ausentes;
+}
+
+std::size_t NumeroDeClavesPan()
+{
+    return kClaves.size();
+}
+
 }  // namespace efv::catalogues

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-CDlgItemDatosGraficaPanelFoto::CDlgItemDatosGraficaPanelFoto(efv::electrical::GraficasModulo graficas)
+CDlgItemDatosGraficaPanelFoto::CDlgItemDatosGraficaPanelFoto(efv::GraficasPanel graficas)
     : Dialogo("CDlgItemDatosGraficaPanelFoto", L"Curvas del panel fotovoltaico")
 {
     bMaximizable = true;

@@ -7,5 +7,5 @@
 
 class CDlgItemDatosGraficaPanelFoto : public efv::ui::Dialogo {
 public:
-    explicit CDlgItemDatosGraficaPanelFoto(efv::electrical::GraficasModulo graficas);
+    explicit CDlgItemDatosGraficaPanelFoto(efv::GraficasPanel graficas);
 };

@@ -95,12 +95,12 @@ CCtrlCurva2D Empezar(CString csTitulo, std::wstring_view csTituloX, std::wstring
     return g;
 }
 
-GraficasModulo Dibujar(const HojaModulo& hoja, const std::vector<NivelCurva>& niveles, CString csCorriente,
-                       CString csPotencia)
+GraficasPanel Dibujar(const HojaModulo& hoja, const std::vector<NivelCurva>& niveles, CString csCorriente,
+                      CString csPotencia)
 {
     constexpr double kMargenX = 10.0 / 9.0;
     constexpr double kMargenY = 8.0 / 7.0;
-    GraficasModulo graficas{
+    GraficasPanel graficas{
         Empezar(std::move(csCorriente), kVoltaje, kCorriente, kMargenX * hoja.dVoc, kMargenY * hoja.dIsc),
         Empezar(std::move(csPotencia), kCorriente, kPotencia, kMargenX * hoja.dIsc,
                 kMargenY * hoja.dVmpm * hoja.dImpm)};
@@ -138,15 +138,15 @@ std::vector<NivelCurva> CurvasGConstante(const HojaModulo& hoja)
     return niveles;
 }
 
-GraficasModulo GraficasTConstante(const HojaModulo& hoja, std::wstring_view csModelo,
-                                  std::wstring_view csTemperatura)
+GraficasPanel GraficasTConstante(const HojaModulo& hoja, std::wstring_view csModelo,
+                                 std::wstring_view csTemperatura)
 {
     const std::array datos = {csModelo, csTemperatura};
     return Dibujar(hoja, CurvasTConstante(hoja), Formatear(kTituloCorrienteT, datos),
                    Formatear(kTituloPotenciaT, datos));
 }
 
-GraficasModulo GraficasGConstante(const HojaModulo& hoja, std::wstring_view csModelo)
+GraficasPanel GraficasGConstante(const HojaModulo& hoja, std::wstring_view csModelo)
 {
     const std::array datos = {csModelo};
     return Dibujar(hoja, CurvasGConstante(hoja), Formatear(kTituloCorrienteG, datos),
@@ -154,3 +154,35 @@ GraficasModulo GraficasGConstante(const HojaModulo& hoja, std::wstring_view csMo
 }
 
 }  // namespace efv::electrical
+
+namespace efv {
+
+namespace {
+
+electrical::HojaModulo HojaDe(const CBasePanelFotoModelo& m)
+{
+    return {.dPmpm = m.dPmpm,
+            .dVmpm = m.dVmpm,
+            .dImpm = m.dImpm,
+            .dVoc = m.dVoc,
+            .dIsc = m.dIsc,
+            .dCTVoc = m.dCTVoc,
+            .dCTIsc = m.dCTIsc,
+            .dCTPmpm = m.dCTPmpm,
+            .iNs = m.iNs,
+            .iNp = m.iNp};
+}
+
+}  // namespace
+
+GraficasPanel GraficasATemperaturaConstante(const CBasePanelFotoModelo& modelo)
+{
+    return electrical::GraficasTConstante(HojaDe(modelo), modelo.csModelo, L"25 ºC");
+}
+
+GraficasPanel GraficasAIrradiacionConstante(const CBasePanelFotoModelo& modelo)
+{
+    return electrical::GraficasGConstante(HojaDe(modelo), modelo.csModelo);
+}
+
+}  // namespace efv

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include <quorvel/electrical.h>
 #include <quorvel/framework/CString.h>
 #include <quorvel/ui/grafica.h>
 
@@ -27,16 +28,11 @@ std::vector<NivelCurva> CurvasTConstante(const HojaModulo& hoja);
 /// voltage of all four is that of 25 ºC.
 std::vector<NivelCurva> CurvasGConstante(const HojaModulo& hoja);
 
-struct GraficasModulo {
-    CCtrlCurva2D corriente;  ///< current over voltage
-    CCtrlCurva2D potencia;   ///< power over current
-};
-
 /// Charts at constant temperature; `csTemperatura` is 25 ºC as the project's temperature unit writes it.
-GraficasModulo GraficasTConstante(const HojaModulo& hoja, std::wstring_view csModelo,
-                                  std::wstring_view csTemperatura);
+GraficasPanel GraficasTConstante(const HojaModulo& hoja, std::wstring_view csModelo,
+                                 std::wstring_view csTemperatura);
 
 /// Charts at constant irradiance.
-GraficasModulo GraficasGConstante(const HojaModulo& hoja, std::wstring_view csModelo);
+GraficasPanel GraficasGConstante(const HojaModulo& hoja, std::wstring_view csModelo);
 
 }  // namespace efv::electrical

@@ -1,27 +1,12 @@
 // Commands of a dialog that belong to a later layer than the dialog.
+#include <quorvel/electrical.h>
+
 #include "catalogues/panel_foto_dialogo.h"
 #include "electrical/graficas_dialogo.h"
 
 namespace {
 
-using efv::electrical::GraficasModulo;
-using efv::electrical::HojaModulo;
-
-HojaModulo HojaDe(const CBasePanelFotoModelo& m)
-{
-    return {.dPmpm = m.dPmpm,
-            .dVmpm = m.dVmpm,
-            .dImpm = m.dImpm,
-            .dVoc = m.dVoc,
-            .dIsc = m.dIsc,
-            .dCTVoc = m.dCTVoc,
-            .dCTIsc = m.dCTIsc,
-            .dCTPmpm = m.dCTPmpm,
-            .iNs = m.iNs,
-            .iNp = m.iNp};
-}
-
-void Mostrar(GraficasModulo graficas)
+void Mostrar(efv::GraficasPanel graficas)
 {
     CDlgItemDatosGraficaPanelFoto(std::move(graficas)).Mostrar();
 }
@@ -29,12 +14,8 @@ void Mostrar(GraficasModulo graficas)
 bool ConectarOrdenes()
 {
     CDlgItemDatosPanelFoto::ComandosGraficos() = {
-        [](const CBasePanelFotoModelo& m) {
-            Mostrar(efv::electrical::GraficasTConstante(HojaDe(m), m.csModelo, L"25 ºC"));
-        },
-        [](const CBasePanelFotoModelo& m) {
-            Mostrar(efv::electrical::GraficasGConstante(HojaDe(m), m.csModelo));
-        },
+        [](const CBasePanelFotoModelo& m) { Mostrar(efv::GraficasATemperaturaConstante(m)); },
+        [](const CBasePanelFotoModelo& m) { Mostrar(efv::GraficasAIrradiacionConstante(m)); },
     };
     return true;
 }

@@ -5,14 +5,17 @@
 #include <cstddef>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include <quorvel/ui/dialogo.h>
 #include <quorvel/ui/presentador.h>
 
 #include "platform/numero/tolerancia.h"
+#include "ui/intercambio.h"
 
 namespace efv::ui {
 
@@ -65,6 +68,20 @@ class DialogoFicha : public Dialogo {
 public:
     P datos;
 
+    /// Everything that keeps the record from being accepted: the checks of OK, then the fields outside
+    /// their limits, each with its caption.
+    std::vector<CString> Faltas()
+    {
+        std::vector<CString> faltas;
+        for (const auto& c : m_comprobaciones)
+            if (c.mal(datos))
+                faltas.emplace_back(c.texto);
+        for (const auto& control : Controles())
+            if (auto csFalta = Falta(*control))
+                faltas.push_back(control->csRotulo + L" " + *csFalta);
+        return faltas;
+    }
+
 protected:
     DialogoFicha(std::string_view nombreClase, std::wstring_view titulo, const P& inicial,
                  std::span<const Comprobacion<P>> comprobaciones)
@@ -104,6 +121,16 @@ protected:
     }
 
 private:
+    // Why the control doesn't hold its variable's value as it stands.
+    static std::optional<CString> Falta(Control& control)
+    {
+        const auto* combo = dynamic_cast<const Seleccion*>(&control);
+        if (combo == nullptr)
+            return ui::Recoger(control);
+        const bool bElegido = combo->forma != Seleccion::Forma::combo || combo->iSeleccion >= 0;
+        return bElegido ? std::nullopt : std::optional<CString>(L"El valor no es ninguno de la lista.");
+    }
+
     Control& AnadirEdicion(const Fila<P>& fila)
     {
         auto& edicion = Anadir<Edicion>(fila.nombre, fila.rotulo);

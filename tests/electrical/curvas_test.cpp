@@ -18,7 +18,7 @@
 
 namespace {
 
-using efv::electrical::GraficasModulo;
+using efv::GraficasPanel;
 using efv::electrical::HojaModulo;
 using efv::pruebas::CalcularCurvaLiteral;
 using efv::pruebas::CurvaLiteral;
@@ -294,7 +294,7 @@ struct NivelEsperado {
     double dIsc, dVoc, dImp, dVmp;
 };
 
-void EsperarGraficas(const GraficasModulo& g, const std::vector<NivelEsperado>& niveles)
+void EsperarGraficas(const GraficasPanel& g, const std::vector<NivelEsperado>& niveles)
 {
     EXPECT_EQ(g.corriente.csTituloX + L'/' + g.corriente.csTituloY,
               L"Voltaje de salida (V)/Corriente de carga (A)");
@@ -320,7 +320,7 @@ void EsperarGraficas(const GraficasModulo& g, const std::vector<NivelEsperado>& 
 // as it is, whatever it holds.
 TEST(Graficas, SeriesYTitulosSalenDeLaHoja)
 {
-    const GraficasModulo t = efv::electrical::GraficasTConstante(kHoja, L"M%s-1", L"25,0 ºC");
+    const GraficasPanel t = efv::electrical::GraficasTConstante(kHoja, L"M%s-1", L"25,0 ºC");
     EsperarGraficas(t, {{0x0000FF, 3, 9, 38, 8, 31.25},
                         {0x0080FF, 2, 7.2, 37.449, 6.4, 31.25},
                         {0x93936F, 2, 5.4, 36.898, 4.8, 31.25},
@@ -332,7 +332,7 @@ TEST(Graficas, SeriesYTitulosSalenDeLaHoja)
         L"W/m²(N), 600 W/m²(V), 400 W/m²(A) y 200 W/m²(M)]");
 
     // 0, 50, 75 and 25 ºC, with the thermal voltage of 25 ºC in all of them.
-    const GraficasModulo g = efv::electrical::GraficasGConstante(kHoja, L"M1");
+    const GraficasPanel g = efv::electrical::GraficasGConstante(kHoja, L"M1");
     EsperarGraficas(g, {{0xFF0000, 2, 8.9, 41, 8, 34.375},
                         {0x0080FF, 2, 9.1, 35, 8, 28.125},
                         {0x93936F, 2, 9.2, 32, 8, 25},

@@ -23,6 +23,8 @@ const std::map<std::string, int> kCapas = {
 int CapaDeCabecera(const std::string& nombre)
 {
     const std::string sinSufijo = nombre.substr(0, nombre.find('.'));
+    if (sinSufijo.starts_with("catalogo"))
+        return kCapas.at("catalogues");
     const auto capa = kCapas.find(sinSufijo);
     return capa != kCapas.end() ? capa->second : kCapas.at("platform");
 }

@@ -17,4 +17,7 @@ EFV_API std::string CadenaUtf8(std::wstring_view texto);
 /// Wide form of UTF-8 `bytes`. Each malformed sequence becomes one U+FFFD.
 EFV_API CString CadenaDesdeUtf8(std::string_view bytes);
 
+/// Lower case without accents, letter by letter, for searches: "Ávila" and "AVILA" give "avila".
+EFV_API CString PlegarTexto(std::wstring_view texto);
+
 }  // namespace efv

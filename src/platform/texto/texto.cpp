@@ -225,4 +225,10 @@ CString Plegar(std::wstring_view texto)
 }
 
 }  // namespace texto
+
+CString PlegarTexto(std::wstring_view texto)
+{
+    return texto::Plegar(texto);
+}
+
 }  // namespace efv

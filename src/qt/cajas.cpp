@@ -1,0 +1,159 @@
+#include "qt/cajas.h"
+
+#include <algorithm>
+#include <exception>
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QPushButton>
+
+#include "qt/texto.h"
+
+namespace efv::qt {
+
+namespace {
+
+int& Cuenta()
+{
+    static int nCajas = 0;
+    return nCajas;
+}
+
+QMessageBox::Icon IconoDeCaja(ui::Icono icono)
+{
+    switch (icono) {
+        case ui::Icono::informacion:
+            return QMessageBox::Information;
+        case ui::Icono::advertencia:
+            return QMessageBox::Warning;
+        case ui::Icono::error:
+            return QMessageBox::Critical;
+        case ui::Icono::pregunta:
+            return QMessageBox::Question;
+    }
+    return QMessageBox::NoIcon;
+}
+
+// "*.pan;*.txt" as Qt lists patterns. Every file has the pattern "*": "*.*" asks for a dot.
+QString Patrones(std::wstring_view patron)
+{
+    QString patrones = AQt(patron).replace(';', ' ').simplified();
+    return patrones == "*.*" ? QString("*") : patrones;
+}
+
+QString Filtro(const ui::FiltroFichero& filtro)
+{
+    QString rotulo = AQt(filtro.rotulo);
+    // Qt reads the patterns in the last parentheses: they must be those of the filter.
+    if (const qsizetype i = rotulo.lastIndexOf('('); i > 0)
+        rotulo.truncate(i);
+    return rotulo.trimmed() + " (" + Patrones(filtro.patron) + ')';
+}
+
+QString Extension(const ui::PeticionFichero& peticion, const QString& elegido)
+{
+    for (const ui::FiltroFichero& filtro : peticion.filtros) {
+        const QString patron = Patrones(filtro.patron).section(' ', 0, 0);
+        if (Filtro(filtro) == elegido && patron.startsWith("*.") && !patron.mid(2).contains('*'))
+            return patron.mid(1);
+    }
+    return {};
+}
+
+}  // namespace
+
+int CajasMostradas()
+{
+    return Cuenta();
+}
+
+void ContarCaja()
+{
+    ++Cuenta();
+}
+
+QWidget* PadreActual(QWidget* padre)
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    return padre;
+}
+
+ui::Respuesta MostrarCaja(QWidget* padre, const ui::Mensaje& mensaje)
+{
+    ContarCaja();
+    QMessageBox caja(IconoDeCaja(mensaje.icono), AQt(mensaje.csTitulo), AQt(mensaje.csTexto), QMessageBox::NoButton,
+                     padre);
+    caja.setTextFormat(Qt::PlainText);
+    caja.setTextInteractionFlags(Qt::TextSelectableByMouse);
+    if (mensaje.botones == ui::Botones::aceptar) {
+        caja.setEscapeButton(caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole));
+        caja.exec();
+        return ui::Respuesta::aceptar;
+    }
+    QPushButton* si = caja.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
+    QPushButton* no = caja.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+    QPushButton* cancelar = mensaje.botones == ui::Botones::siNoCancelar
+                                ? caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole)
+                                : nullptr;
+    caja.setDefaultButton(si);
+    caja.setEscapeButton(cancelar != nullptr ? cancelar : no);
+    caja.exec();
+    if (caja.clickedButton() == si)
+        return ui::Respuesta::si;
+    return cancelar != nullptr && caja.clickedButton() != no ? ui::Respuesta::cancelar : ui::Respuesta::no;
+}
+
+void MostrarFallo(QWidget* padre, const char* texto) noexcept
+{
+    try {
+        MostrarCaja(padre, {CString(ui::kTituloModulo), CadenaDesdeUtf8(texto), ui::Icono::error, ui::Botones::aceptar});
+    } catch (const std::exception&) {
+        // No memory for a box: the dialog goes on without it.
+        qWarning("%s", texto);
+    }
+}
+
+std::optional<CString> ElegirFichero(QWidget* padre, const ui::PeticionFichero& peticion)
+{
+    ContarCaja();
+    QString titulo = AQt(peticion.csTitulo);
+    if (titulo.isEmpty())
+        titulo = peticion.bGuardar ? QStringLiteral("Guardar como") : QStringLiteral("Abrir");
+    QFileDialog selector(padre, titulo);
+    selector.setAcceptMode(peticion.bGuardar ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    selector.setFileMode(peticion.bGuardar ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    // Asked below, once the extension is known and in Spanish.
+    selector.setOption(QFileDialog::DontConfirmOverwrite);
+    selector.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
+    selector.setLabelText(QFileDialog::FileName, QStringLiteral("Nombre:"));
+    selector.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
+    selector.setLabelText(QFileDialog::Accept, titulo == "Abrir" || !peticion.bGuardar ? QStringLiteral("Abrir")
+                                                                                       : QStringLiteral("Guardar"));
+    selector.setLabelText(QFileDialog::Reject, QStringLiteral("Cancelar"));
+    QStringList filtros;
+    for (const ui::FiltroFichero& filtro : peticion.filtros)
+        filtros << Filtro(filtro);
+    if (!filtros.isEmpty())
+        selector.setNameFilters(filtros);
+    if (!peticion.csPropuesto.empty())
+        selector.selectFile(AQt(peticion.csPropuesto));
+
+    while (selector.exec() == QDialog::Accepted && !selector.selectedFiles().isEmpty()) {
+        QString ruta = selector.selectedFiles().constFirst();
+        if (peticion.bGuardar && QFileInfo(ruta).suffix().isEmpty())
+            ruta += Extension(peticion, selector.selectedNameFilter());
+        const CString csRuta = DeQt(QDir::toNativeSeparators(ruta));
+        if (!peticion.bGuardar || !QFileInfo::exists(ruta) ||
+            MostrarCaja(&selector, {DeQt(titulo), L"El archivo \"" + csRuta + L"\" ya existe.\n¿Desea reemplazarlo?",
+                                    ui::Icono::advertencia, ui::Botones::siNo}) == ui::Respuesta::si)
+            return csRuta;
+    }
+    return std::nullopt;
+}
+
+}  // namespace efv::qt

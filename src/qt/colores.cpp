@@ -1,0 +1,54 @@
+#include "qt/colores.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace efv::qt {
+
+namespace {
+
+// Least contrast of thick letters and of drawings that must be told apart (WCAG 2.1, 1.4.3 and 1.4.11).
+constexpr double kContraste = 3.0;
+
+// Relative luminance of WCAG 2.1.
+double Luminancia(const QColor& color)
+{
+    const auto lineal = [](double d) { return d <= 0.04045 ? d / 12.92 : std::pow((d + 0.055) / 1.055, 2.4); };
+    return 0.2126 * lineal(color.redF()) + 0.7152 * lineal(color.greenF()) + 0.0722 * lineal(color.blueF());
+}
+
+double Contraste(const QColor& a, const QColor& b)
+{
+    const double dA = Luminancia(a);
+    const double dB = Luminancia(b);
+    return (std::max(dA, dB) + 0.05) / (std::min(dA, dB) + 0.05);
+}
+
+}  // namespace
+
+QColor DeColor(ui::Color color)
+{
+    return {static_cast<int>(color & 0xFFU), static_cast<int>(color >> 8U & 0xFFU),
+            static_cast<int>(color >> 16U & 0xFFU)};
+}
+
+QColor Legible(const QColor& color, const QColor& fondo)
+{
+    const QColor meta = Luminancia(fondo) < 0.18 ? Qt::white : Qt::black;
+    QColor legible = color;
+    constexpr float kPasos = 20.0F;
+    for (float f = 1.0F; f <= kPasos && Contraste(legible, fondo) < kContraste; ++f) {
+        const float t = f / kPasos;
+        legible = QColor::fromRgbF(color.redF() + t * (meta.redF() - color.redF()),
+                                   color.greenF() + t * (meta.greenF() - color.greenF()),
+                                   color.blueF() + t * (meta.blueF() - color.blueF()));
+    }
+    return legible;
+}
+
+QColor ColorDeTexto(ui::Color color, const QColor& texto, const QColor& fondo)
+{
+    return color == ui::kNegro ? texto : Legible(DeColor(color), fondo);
+}
+
+}  // namespace efv::qt

@@ -1,0 +1,306 @@
+#include "qt/disposicion.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QStyle>
+
+#include "qt/texto.h"
+
+namespace efv::qt {
+
+namespace {
+
+constexpr std::size_t kLetrasDeBotones = 70;  // captions in one row of buttons
+constexpr std::size_t kLetrasDeUnidad = 16;   // a text no longer than this may be a unit behind a field
+constexpr int kSeparacionColumnas = 18;
+// Columns of the grid that a column of the form takes: caption and field.
+constexpr int kAnchoColumna = 2;
+
+/// What gets a place of its own: a field with what follows on its line, a row of buttons, a group.
+struct Elemento {
+    std::vector<Vista*> vistas;  // of a group: all of its content
+    std::wstring_view grupo;
+    int iColumna = 0;
+};
+
+bool EsBoton(const Vista& vista)
+{
+    if (dynamic_cast<const ui::Boton*>(&vista.control) != nullptr)
+        return true;
+    const auto* seleccion = dynamic_cast<const ui::Seleccion*>(&vista.control);
+    return seleccion != nullptr && seleccion->forma == ui::Seleccion::Forma::menu;
+}
+
+bool EsCampo(const Vista& vista)
+{
+    return !vista.EsAncha() && !vista.control.csRotulo.empty();
+}
+
+// Whether it belongs on the line of the field before it: it says nothing by itself.
+bool Acompana(const Vista& vista)
+{
+    const ui::Control& control = vista.control;
+    if (const auto* boton = dynamic_cast<const ui::Boton*>(&control))
+        return boton->csImagen.empty() && (boton->csRotulo == L"..." || boton->csRotulo == L"…");
+    if (!control.csRotulo.empty())
+        return false;
+    if (const auto* texto = dynamic_cast<const ui::TextoFijo*>(&control))
+        return texto->csTexto.size() <= kLetrasDeUnidad;
+    if (const auto* seleccion = dynamic_cast<const ui::Seleccion*>(&control))
+        return seleccion->forma == ui::Seleccion::Forma::combo;
+    if (const auto* edicion = dynamic_cast<const ui::Edicion*>(&control))
+        return !edicion->bVariasLineas;
+    return dynamic_cast<const ui::Casilla*>(&control) != nullptr;
+}
+
+class Area {
+public:
+    Area(std::vector<GrupoDispuesto>& grupos, bool bHayEstirados) : m_grupos(grupos), m_bHayEstirados(bHayEstirados)
+    {
+    }
+
+    void Disponer(QWidget* contenedor, const std::vector<Elemento>& elementos)
+    {
+        auto* pila = new QVBoxLayout(contenedor);
+        const bool bEstira = std::ranges::any_of(elementos, [&](const Elemento& e) { return Estira(e); });
+        for (const auto& banda : EnBandas(elementos)) {
+            const bool bBandaEstira = std::ranges::any_of(banda, [&](const Elemento& e) { return Estira(e); });
+            pila->addLayout(LeidaPorFilas(elementos) ? PorFilas(contenedor, banda) : PorColumnas(contenedor, banda),
+                            bBandaEstira ? 1 : 0);
+        }
+        if (!bEstira)
+            pila->addStretch();
+    }
+
+    // Fields with what follows on their line, rows of buttons, and groups where their first control stands.
+    static std::vector<Elemento> Reunir(const std::vector<Vista*>& vistas, bool bDentroDeGrupo)
+    {
+        std::vector<Elemento> elementos;
+        std::map<std::wstring_view, std::size_t> grupos;
+        for (Vista* vista : vistas) {
+            const ui::Lugar& lugar = vista->control.lugar;
+            if (!bDentroDeGrupo && !lugar.grupo.empty()) {
+                const auto [grupo, bNuevo] = grupos.try_emplace(lugar.grupo, elementos.size());
+                if (bNuevo)
+                    elementos.push_back({{}, lugar.grupo, lugar.iColumna});
+                Elemento& elemento = elementos[grupo->second];
+                elemento.vistas.push_back(vista);
+                elemento.iColumna = std::min(elemento.iColumna, lugar.iColumna);
+                continue;
+            }
+            if (!elementos.empty() && SeUne(elementos.back(), *vista))
+                elementos.back().vistas.push_back(vista);
+            else
+                elementos.push_back({{vista}, {}, lugar.iColumna});
+        }
+        return elementos;
+    }
+
+private:
+    static bool SeUne(const Elemento& elemento, const Vista& vista)
+    {
+        if (!elemento.grupo.empty() || elemento.iColumna != vista.control.lugar.iColumna)
+            return false;
+        const Vista& primera = *elemento.vistas.front();
+        if (EsCampo(primera))
+            return Acompana(vista);
+        if (!EsBoton(primera) || !EsBoton(vista))
+            return false;
+        std::size_t nLetras = vista.control.csRotulo.size();
+        for (const Vista* otra : elemento.vistas)
+            nLetras += otra->control.csRotulo.size();
+        return nLetras <= kLetrasDeBotones;
+    }
+
+    bool Estira(const Vista& vista) const
+    {
+        return vista.control.lugar.bEstirar || dynamic_cast<const VistaPaginas*>(&vista) != nullptr ||
+               (!m_bHayEstirados && vista.QuiereSitio());
+    }
+    bool Estira(const Elemento& elemento) const
+    {
+        return std::ranges::any_of(elemento.vistas, [&](const Vista* vista) { return Estira(*vista); });
+    }
+
+    // Stretches of the sequence in which the column doesn't go back.
+    static std::vector<std::vector<Elemento>> EnTramos(const std::vector<Elemento>& elementos)
+    {
+        std::vector<std::vector<Elemento>> tramos;
+        int iAnterior = 0;
+        for (const Elemento& elemento : elementos) {
+            if (tramos.empty() || elemento.iColumna < iAnterior)
+                tramos.emplace_back();
+            tramos.back().push_back(elemento);
+            iAnterior = elemento.iColumna;
+        }
+        return tramos;
+    }
+
+    // Columns may be declared one after the other, or line by line. Two lines tell the latter.
+    static bool LeidaPorFilas(const std::vector<Elemento>& elementos)
+    {
+        int nFilas = 0;
+        for (const auto& tramo : EnTramos(elementos)) {
+            std::set<int> columnas;
+            for (const Elemento& elemento : tramo)
+                columnas.insert(elemento.iColumna);
+            if (columnas.size() > 1 && columnas.size() == tramo.size())
+                ++nFilas;
+        }
+        return nFilas > 1;
+    }
+
+    static std::vector<std::vector<Elemento>> EnBandas(const std::vector<Elemento>& elementos)
+    {
+        if (LeidaPorFilas(elementos))
+            return {elementos};
+        return EnTramos(elementos);
+    }
+
+    QLayout* PorFilas(QWidget* contenedor, const std::vector<Elemento>& elementos)
+    {
+        auto* rejilla = NuevaRejilla();
+        int iFila = -1;
+        int iAnterior = 0;
+        for (const Elemento& elemento : elementos) {
+            if (iFila < 0 || elemento.iColumna <= iAnterior)
+                ++iFila;
+            iAnterior = elemento.iColumna;
+            Colocar(contenedor, *rejilla, elemento, iFila, elemento.iColumna);
+            rejilla->setColumnStretch(elemento.iColumna * kAnchoColumna + 1, 1);
+        }
+        return rejilla;
+    }
+
+    QLayout* PorColumnas(QWidget* contenedor, const std::vector<Elemento>& banda)
+    {
+        auto* fila = new QHBoxLayout;
+        fila->setSpacing(kSeparacionColumnas);
+        const bool bEstira = std::ranges::any_of(banda, [&](const Elemento& e) { return Estira(e); });
+        for (auto desde = banda.begin(); desde != banda.end();) {
+            const auto hasta = std::find_if(desde, banda.end(),
+                                            [&](const Elemento& e) { return e.iColumna != desde->iColumna; });
+            auto* rejilla = NuevaRejilla();
+            rejilla->setColumnStretch(1, 1);
+            bool bColumnaEstira = false;
+            int iFila = 0;
+            for (auto e = desde; e != hasta; ++e) {
+                bColumnaEstira = bColumnaEstira || Estira(*e);
+                Colocar(contenedor, *rejilla, *e, iFila++, 0);
+            }
+            if (!bColumnaEstira)
+                rejilla->setRowStretch(iFila, 1);
+            fila->addLayout(rejilla, bColumnaEstira || !bEstira ? 1 : 0);
+            desde = hasta;
+        }
+        return fila;
+    }
+
+    static QGridLayout* NuevaRejilla()
+    {
+        auto* rejilla = new QGridLayout;
+        rejilla->setHorizontalSpacing(8);
+        rejilla->setVerticalSpacing(6);
+        return rejilla;
+    }
+
+    void Colocar(QWidget* contenedor, QGridLayout& rejilla, const Elemento& elemento, int iFila, int iColumna)
+    {
+        const int iDesde = iColumna * kAnchoColumna;
+        if (iColumna > 0)
+            rejilla.setColumnMinimumWidth(iDesde, kSeparacionColumnas);
+        if (Estira(elemento))
+            rejilla.setRowStretch(iFila, 1);
+        if (!elemento.grupo.empty()) {
+            rejilla.addWidget(Grupo(contenedor, elemento), iFila, iDesde, 1, kAnchoColumna);
+            return;
+        }
+        Vista& primera = *elemento.vistas.front();
+        if (EsBoton(primera)) {
+            rejilla.addLayout(EnLinea(elemento.vistas, true), iFila, iDesde, 1, kAnchoColumna);
+        } else if (EsCampo(primera)) {
+            rejilla.addWidget(Rotulo(contenedor, primera), iFila, iDesde);
+            rejilla.addLayout(EnLinea(elemento.vistas, false), iFila, iDesde + 1);
+        } else if (primera.control.csRotulo.empty() || primera.RotulaPorSiMisma()) {
+            rejilla.addWidget(primera.widget, iFila, iDesde, 1, kAnchoColumna);
+        } else {
+            auto* pila = new QVBoxLayout;
+            pila->addWidget(Rotulo(contenedor, primera));
+            pila->addWidget(primera.widget, 1);
+            rejilla.addLayout(pila, iFila, iDesde, 1, kAnchoColumna);
+        }
+    }
+
+    static QLayout* EnLinea(const std::vector<Vista*>& vistas, bool bBotones)
+    {
+        auto* linea = new QHBoxLayout;
+        linea->setSpacing(6);
+        for (const Vista* vista : vistas)
+            linea->addWidget(vista->widget, vista == vistas.front() && !bBotones ? 1 : 0);
+        if (bBotones)
+            linea->addStretch();
+        return linea;
+    }
+
+    static QLabel* Rotulo(QWidget* contenedor, Vista& vista)
+    {
+        auto* rotulo = new QLabel(contenedor);
+        rotulo->setTextFormat(Qt::PlainText);
+        if (dynamic_cast<const ui::TextoFijo*>(&vista.control) == nullptr)
+            rotulo->setBuddy(vista.widget);
+        vista.rotulo = rotulo;
+        return rotulo;
+    }
+
+    QWidget* Grupo(QWidget* contenedor, const Elemento& elemento)
+    {
+        auto* marco = new QGroupBox(SinMnemonico(elemento.grupo), contenedor);
+        m_grupos.push_back({marco, {elemento.vistas.begin(), elemento.vistas.end()}});
+        for (Vista* vista : elemento.vistas)
+            vista->widget->setParent(marco);
+        std::vector<Elemento> elementos = Reunir(elemento.vistas, true);
+        for (Elemento& e : elementos)
+            e.iColumna -= elemento.iColumna;
+        Disponer(marco, elementos);
+        return marco;
+    }
+
+    std::vector<GrupoDispuesto>& m_grupos;
+    bool m_bHayEstirados;
+};
+
+void DisponerArea(QWidget* contenedor, const std::vector<Vista*>& vistas, std::vector<GrupoDispuesto>& grupos)
+{
+    const bool bHayEstirados = std::ranges::any_of(vistas, [](const Vista* v) { return v->control.lugar.bEstirar; });
+    for (Vista* vista : vistas)
+        vista->widget->setParent(contenedor);
+    Area(grupos, bHayEstirados).Disponer(contenedor, Area::Reunir(vistas, false));
+}
+
+}  // namespace
+
+std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas, VistaPaginas* paginas)
+{
+    std::vector<GrupoDispuesto> grupos;
+    std::vector<Vista*> fuera;
+    std::map<int, std::vector<Vista*>> porPagina;
+    for (Vista* vista : vistas) {
+        const int iPagina = vista->control.lugar.iPagina;
+        if (paginas != nullptr && vista != paginas && iPagina >= 0)
+            porPagina[iPagina].push_back(vista);
+        else
+            fuera.push_back(vista);
+    }
+    DisponerArea(contenedor, fuera, grupos);
+    for (const auto& [iPagina, dentro] : porPagina)
+        DisponerArea(paginas->Pagina(iPagina), dentro, grupos);
+    return grupos;
+}
+
+}  // namespace efv::qt

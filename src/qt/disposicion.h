@@ -1,0 +1,22 @@
+// Where the views of a dialog stand: their hints turned into Qt's layouts.
+#pragma once
+
+#include <vector>
+
+#include <QWidget>
+
+#include "qt/vistas.h"
+
+namespace efv::qt {
+
+/// A framed group with the views inside: it hides when all of them are hidden.
+struct GrupoDispuesto {
+    QWidget* marco;
+    std::vector<const Vista*> vistas;
+};
+
+/// Lays the views out in `contenedor`, which has no layout yet, in their order. Labels are made here;
+/// `paginas`, if any, is one of the views.
+std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas, VistaPaginas* paginas);
+
+}  // namespace efv::qt

@@ -1,0 +1,147 @@
+#include "qt/modelo_filas.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QPalette>
+
+#include "qt/iconos.h"
+#include "qt/texto.h"
+
+namespace efv::qt {
+
+namespace {
+
+bool PareceNumero(const QString& texto)
+{
+    return !texto.isEmpty() && std::ranges::all_of(texto, [](QChar c) {
+        return c.isDigit() || c == ',' || c == '.' || c == '-' || c == '+' || c == '%' || c == ' ';
+    });
+}
+
+}  // namespace
+
+ModeloLista::ModeloLista(const ui::Lista& lista, QObject* padre) : QAbstractItemModel(padre), m_lista(lista)
+{
+    Recargar();
+}
+
+void ModeloLista::Recargar()
+{
+    beginResetModel();
+    m_filas = m_lista.modelo;
+    m_nFilas = m_lista.Filas();
+    m_nColumnas = std::max(1, static_cast<int>(m_lista.acsColumnas.size()));
+    m_enCache = {-1, -1};
+    if (EsArbol())
+        ContarArbol();
+    endResetModel();
+}
+
+void ModeloLista::ContarArbol()
+{
+    const auto nFilas = static_cast<std::size_t>(m_nFilas);
+    m_nodos.assign(nFilas, {-1, 0, 0, 0});
+    m_nRaices = 0;
+    // The open branch: its last row at each depth. A row that skips a depth hangs from the last one there is.
+    std::vector<int> rama;
+    for (int iFila = 0; iFila < m_nFilas; ++iFila) {
+        const int iNivel = std::clamp(m_filas->Nivel(iFila), 0, static_cast<int>(rama.size()));
+        rama.resize(static_cast<std::size_t>(iNivel));
+        Nodo& nodo = m_nodos[static_cast<std::size_t>(iFila)];
+        nodo.iPadre = rama.empty() ? -1 : rama.back();
+        nodo.iPosicion = nodo.iPadre < 0 ? m_nRaices++ : m_nodos[static_cast<std::size_t>(nodo.iPadre)].nHijos++;
+        rama.push_back(iFila);
+    }
+    int iSiguiente = m_nRaices;
+    for (Nodo& nodo : m_nodos) {
+        nodo.iHijos = iSiguiente;
+        iSiguiente += nodo.nHijos;
+    }
+    m_hijos.assign(nFilas, 0);
+    for (int iFila = 0; iFila < m_nFilas; ++iFila) {
+        const Nodo& nodo = m_nodos[static_cast<std::size_t>(iFila)];
+        const int iPrimero = nodo.iPadre < 0 ? 0 : m_nodos[static_cast<std::size_t>(nodo.iPadre)].iHijos;
+        m_hijos[static_cast<std::size_t>(iPrimero + nodo.iPosicion)] = iFila;
+    }
+}
+
+QModelIndex ModeloLista::Indice(int iFila, int iColumna) const
+{
+    if (iFila < 0 || iFila >= m_nFilas || iColumna < 0 || iColumna >= m_nColumnas)
+        return {};
+    const int iPosicion = EsArbol() ? m_nodos[static_cast<std::size_t>(iFila)].iPosicion : iFila;
+    return createIndex(iPosicion, iColumna, static_cast<quintptr>(iFila));
+}
+
+int ModeloLista::Fila(const QModelIndex& indice)
+{
+    return indice.isValid() ? static_cast<int>(indice.internalId()) : -1;
+}
+
+QModelIndex ModeloLista::index(int fila, int columna, const QModelIndex& padre) const
+{
+    if (fila < 0 || fila >= rowCount(padre))
+        return {};
+    if (!EsArbol())
+        return Indice(fila, columna);
+    const int iPrimero = padre.isValid() ? m_nodos[static_cast<std::size_t>(Fila(padre))].iHijos : 0;
+    return Indice(m_hijos[static_cast<std::size_t>(iPrimero + fila)], columna);
+}
+
+QModelIndex ModeloLista::parent(const QModelIndex& indice) const
+{
+    if (!EsArbol() || !indice.isValid())
+        return {};
+    return Indice(m_nodos[static_cast<std::size_t>(Fila(indice))].iPadre);
+}
+
+int ModeloLista::rowCount(const QModelIndex& padre) const
+{
+    if (!EsArbol())
+        return padre.isValid() ? 0 : m_nFilas;
+    if (!padre.isValid())
+        return m_nRaices;
+    return padre.column() == 0 ? m_nodos[static_cast<std::size_t>(Fila(padre))].nHijos : 0;
+}
+
+int ModeloLista::columnCount(const QModelIndex& /*padre*/) const
+{
+    return m_nColumnas;
+}
+
+const QString& ModeloLista::Celda(int iFila, int iColumna) const
+{
+    if (m_enCache != std::pair(iFila, iColumna)) {
+        m_cache = AQt(m_filas->Celda(iFila, iColumna));
+        m_enCache = {iFila, iColumna};
+    }
+    return m_cache;
+}
+
+QVariant ModeloLista::data(const QModelIndex& indice, int papel) const
+{
+    const int iFila = Fila(indice);
+    // The rows may have shrunk before the view was told.
+    if (iFila < 0 || iFila >= m_filas->Filas())
+        return {};
+    if (papel == Qt::DisplayRole)
+        return Celda(iFila, indice.column());
+    if (papel == Qt::TextAlignmentRole && indice.column() > 0 && PareceNumero(Celda(iFila, indice.column())))
+        return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+    if (papel == Qt::DecorationRole && indice.column() == 0) {
+        if (const QIcon icono = IconoDeFila(m_filas->Imagen(iFila), QApplication::palette()); !icono.isNull())
+            return icono;
+    }
+    return {};
+}
+
+QVariant ModeloLista::headerData(int seccion, Qt::Orientation orientacion, int papel) const
+{
+    if (orientacion != Qt::Horizontal || papel != Qt::DisplayRole)
+        return {};
+    const auto i = static_cast<std::size_t>(seccion);
+    return i < m_lista.acsColumnas.size() ? AQt(m_lista.acsColumnas[i]) : QString();
+}
+
+}  // namespace efv::qt

@@ -1,0 +1,367 @@
+#include "qt/ventana.h"
+
+#include <algorithm>
+#include <exception>
+
+#include <QApplication>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPointer>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+#include <quorvel/ui/presentador.h>
+
+#include "qt/cajas.h"
+#include "qt/texto.h"
+
+namespace efv::qt {
+
+namespace {
+
+// The windows that exist, the innermost last.
+std::vector<VentanaDialogo*>& Abiertas()
+{
+    static std::vector<VentanaDialogo*> abiertas;
+    return abiertas;
+}
+
+constexpr double kParteDePantalla = 0.92;
+
+}  // namespace
+
+VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre)
+    : QDialog(padre), m_dialogo(dialogo), m_marco(marco)
+{
+    Abiertas().push_back(this);
+    setObjectName(QString::fromStdString(dialogo.clase));
+    if (marco == Marco::panel)
+        setWindowFlags(Qt::Widget);
+    else
+        setWindowFlag(Qt::WindowMaximizeButtonHint, dialogo.bMaximizable);
+    auto* contenido = new QWidget;
+    CrearVistas();
+    std::vector<Vista*> vistas;
+    for (const auto& vista : m_vistas)
+        vistas.push_back(vista.get());
+    auto* controles = new QWidget(contenido);
+    m_grupos = Disponer(controles, vistas, m_paginas);
+    controles->layout()->setContentsMargins(0, 0, 0, 0);
+    auto* pila = new QVBoxLayout(contenido);
+    pila->addWidget(controles, 1);
+    if (marco == Marco::ventana)
+        CrearBotones(contenido);
+    else
+        pila->setContentsMargins(0, 0, 0, 0);
+    // Tab order is that of the declaration, wherever the views stand.
+    QWidget* anterior = nullptr;
+    const auto encadenar = [&](QWidget* siguiente) {
+        if (anterior != nullptr)
+            setTabOrder(anterior, siguiente);
+        anterior = siguiente;
+    };
+    for (const auto& vista : m_vistas)
+        vista->Encadenar(encadenar);
+    if (m_aceptar != nullptr) {
+        encadenar(m_aceptar);
+        encadenar(m_cancelar);
+    }
+
+    connect(&m_temporizador, &QTimer::timeout, this, &VentanaDialogo::AtenderTemporizador);
+    connect(qApp, &QApplication::focusChanged, this,
+            [this](QWidget* /*antes*/, QWidget* ahora) { AtenderFoco(ahora); });
+    Refrescar();
+    Encajar(contenido);
+}
+
+VentanaDialogo::~VentanaDialogo()
+{
+    std::erase(Abiertas(), this);
+    // Children may still lose the focus or change while they go.
+    ++m_nAcciones;
+}
+
+VentanaDialogo* VentanaDialogo::De(const ui::Dialogo& dialogo)
+{
+    const auto& abiertas = Abiertas();
+    const auto hallada = std::find_if(abiertas.rbegin(), abiertas.rend(),
+                                      [&](const VentanaDialogo* v) { return &v->m_dialogo == &dialogo; });
+    return hallada == abiertas.rend() ? nullptr : *hallada;
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Construction
+// ---------------------------------------------------------------------------------------------------
+
+void VentanaDialogo::CrearVistas()
+{
+    const bool bPaginado = std::ranges::any_of(m_dialogo.Controles(), [](const auto& c) { return c->lugar.iPagina >= 0; });
+    for (const auto& control : m_dialogo.Controles()) {
+        auto* pestanas = dynamic_cast<ui::Seleccion*>(control.get());
+        if (bPaginado && m_paginas == nullptr && pestanas != nullptr &&
+            pestanas->forma == ui::Seleccion::Forma::pestanas) {
+            auto paginas = CrearPaginas(*pestanas, this, *this);
+            m_paginas = paginas.get();
+            m_vistas.push_back(std::move(paginas));
+        } else {
+            m_vistas.push_back(CrearVista(*control, this, *this));
+        }
+    }
+}
+
+void VentanaDialogo::CrearBotones(QWidget* contenido)
+{
+    m_aceptar = new QPushButton(contenido);
+    m_aceptar->setObjectName("aceptar");
+    m_aceptar->setDefault(true);
+    m_cancelar = new QPushButton(contenido);
+    m_cancelar->setObjectName("cancelar");
+    // A click on it must not make the field that has the focus complain first.
+    m_cancelar->setFocusPolicy(Qt::TabFocus);
+    connect(m_aceptar, &QPushButton::clicked, this, &VentanaDialogo::Aceptar);
+    connect(m_cancelar, &QPushButton::clicked, this, &VentanaDialogo::reject);
+    auto* fila = new QHBoxLayout;
+    fila->addStretch();
+    fila->addWidget(m_aceptar);
+    fila->addWidget(m_cancelar);
+    static_cast<QVBoxLayout*>(contenido->layout())->addSpacing(6);
+    static_cast<QVBoxLayout*>(contenido->layout())->addLayout(fila);
+}
+
+// What is larger than the screen scrolls.
+void VentanaDialogo::Encajar(QWidget* contenido)
+{
+    auto* todo = new QVBoxLayout(this);
+    todo->setContentsMargins(0, 0, 0, 0);
+    const QSize sitio = screen()->availableSize() * kParteDePantalla;
+    const QSize pedido = contenido->sizeHint();
+    if (m_marco == Marco::panel || (pedido.width() <= sitio.width() && pedido.height() <= sitio.height())) {
+        todo->addWidget(contenido);
+        return;
+    }
+    auto* rollo = new QScrollArea;
+    rollo->setFrameShape(QFrame::NoFrame);
+    rollo->setWidgetResizable(true);
+    rollo->setWidget(contenido);
+    todo->addWidget(rollo);
+    const QSize barras(rollo->verticalScrollBar()->sizeHint().width(), rollo->horizontalScrollBar()->sizeHint().height());
+    resize((pedido + barras).boundedTo(sitio));
+}
+
+// ---------------------------------------------------------------------------------------------------
+// State to widgets
+// ---------------------------------------------------------------------------------------------------
+
+void VentanaDialogo::Refrescar()
+{
+    // What the widgets signal while they are set isn't the person's doing.
+    ++m_nAcciones;
+    setWindowTitle(AQt(m_dialogo.csTitulo));
+    for (const auto& vista : m_vistas)
+        vista->Refrescar();
+    for (const GrupoDispuesto& grupo : m_grupos)
+        grupo.marco->setVisible(
+            std::ranges::any_of(grupo.vistas, [](const Vista* vista) { return vista->control.bVisible; }));
+    if (m_aceptar != nullptr) {
+        m_aceptar->setText(ConMnemonico(m_dialogo.csAceptar));
+        m_aceptar->setVisible(m_dialogo.bAceptarVisible);
+        m_cancelar->setText(ConMnemonico(m_dialogo.csCancelar));
+        // The Enter key needs somebody to press.
+        (m_dialogo.bAceptarVisible ? m_aceptar : m_cancelar)->setDefault(true);
+    }
+    if (m_dialogo.iTemporizador <= 0 || m_dialogo.Terminado())
+        m_temporizador.stop();
+    else if (!m_temporizador.isActive() || m_temporizador.interval() != m_dialogo.iTemporizador)
+        m_temporizador.start(m_dialogo.iTemporizador);
+    --m_nAcciones;
+}
+
+// ---------------------------------------------------------------------------------------------------
+// The person's actions
+// ---------------------------------------------------------------------------------------------------
+
+void VentanaDialogo::Ejecutar(const std::function<void(ui::Dialogo&)>& accion)
+{
+    // An exception must not reach Qt's loop: it would take the whole host with it.
+    try {
+        accion(m_dialogo);
+    } catch (const std::exception& fallo) {
+        MostrarFallo(this, fallo.what());
+    } catch (...) {
+        MostrarFallo(this, "Error inesperado.");
+    }
+}
+
+void VentanaDialogo::ActuarSinSalir(const std::function<void(ui::Dialogo&)>& accion)
+{
+    if (m_nAcciones > 0 || m_dialogo.Terminado())
+        return;
+    const QPointer<VentanaDialogo> yo(this);
+    const int nCajas = CajasMostradas();
+    ++m_nAcciones;
+    Ejecutar(accion);
+    if (!yo)
+        return;
+    --m_nAcciones;
+    Refrescar();
+    if (m_dialogo.Terminado()) {
+        if (m_marco == Marco::ventana)
+            done(m_dialogo.ResultadoFinal());
+        return;
+    }
+    PonerFoco(CajasMostradas() != nCajas);
+}
+
+void VentanaDialogo::Actuar(const std::function<void(ui::Dialogo&)>& accion)
+{
+    if (m_nAcciones > 0)
+        return;
+    const QPointer<VentanaDialogo> yo(this);
+    if (VaciarSalida())
+        ActuarSinSalir(accion);
+    else if (yo)
+        Refrescar();
+}
+
+void VentanaDialogo::HaSalido(ui::Edicion& control)
+{
+    if (m_bMoviendoFoco || m_nAcciones > 0 || m_dialogo.Terminado() || control.bSoloLectura)
+        return;
+    // Later, from the loop: the answer may be a box, and a mouse button may still be down.
+    m_porSalir = &control;
+    QMetaObject::invokeMethod(this, [this] { VaciarSalida(); }, Qt::QueuedConnection);
+}
+
+// Tells the dialog that a field was left, if one was. False when the person was told something about it,
+// or the dialog ended: what was to come next is off.
+bool VentanaDialogo::VaciarSalida()
+{
+    if (m_porSalir == nullptr || m_nAcciones > 0)
+        return true;
+    ui::Edicion& control = *std::exchange(m_porSalir, nullptr);
+    const QPointer<VentanaDialogo> yo(this);
+    const int nCajas = CajasMostradas();
+    ActuarSinSalir([&](ui::Dialogo& dialogo) { dialogo.Salir(control); });
+    return yo && !m_dialogo.Terminado() && CajasMostradas() == nCajas;
+}
+
+void VentanaDialogo::Aceptar()
+{
+    if (m_nAcciones > 0 || !m_dialogo.bAceptarVisible)
+        return;
+    // Enter accepts from within a field: it counts as left.
+    Vista* conFoco = VistaDe(focusWidget());
+    auto* edicion = conFoco == nullptr ? nullptr : dynamic_cast<ui::Edicion*>(&conFoco->control);
+    if (edicion != nullptr && !edicion->bSoloLectura)
+        m_porSalir = edicion;
+    Actuar([this](ui::Dialogo& dialogo) {
+        if (const auto rechazo = dialogo.Aceptar())
+            ui::PresentadorActual().MostrarRechazo(dialogo, *rechazo);
+    });
+}
+
+void VentanaDialogo::reject()
+{
+    if (m_marco == Marco::panel)
+        return;
+    m_porSalir = nullptr;
+    ActuarSinSalir([](ui::Dialogo& dialogo) { dialogo.Cancelar(); });
+}
+
+void VentanaDialogo::keyPressEvent(QKeyEvent* evento)
+{
+    if (m_marco == Marco::panel)
+        evento->ignore();
+    else
+        QDialog::keyPressEvent(evento);
+}
+
+void VentanaDialogo::AtenderTemporizador()
+{
+    ActuarSinSalir([](ui::Dialogo& dialogo) { dialogo.VencerTemporizador(); });
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Focus
+// ---------------------------------------------------------------------------------------------------
+
+Vista* VentanaDialogo::VistaDe(const ui::Control* control) const
+{
+    const auto hallada = std::ranges::find_if(m_vistas, [&](const auto& vista) { return &vista->control == control; });
+    return hallada == m_vistas.end() ? nullptr : hallada->get();
+}
+
+// The view that the widget is, or is a part of.
+Vista* VentanaDialogo::VistaDe(const QWidget* w) const
+{
+    for (; w != nullptr && w != this; w = w->parentWidget())
+        for (const auto& vista : m_vistas)
+            if (vista->widget == w && vista.get() != m_paginas)
+                return vista.get();
+    return nullptr;
+}
+
+// The dialog's focus is the screen's.
+void VentanaDialogo::AtenderFoco(QWidget* conFoco)
+{
+    if (m_nAcciones > 0 || m_bMoviendoFoco || conFoco == nullptr || !isAncestorOf(conFoco) ||
+        conFoco->window() != window())
+        return;
+    const Vista* vista = VistaDe(conFoco);
+    m_dialogo.foco = vista == nullptr ? nullptr : &vista->control;
+}
+
+// Follows the dialog's focus when an action moved it; after a box also to the same field, to have its text
+// selected.
+void VentanaDialogo::PonerFoco(bool bSeAviso)
+{
+    ui::Control* control = std::exchange(m_focoPedido, nullptr);
+    if (control == nullptr)
+        control = m_dialogo.foco;
+    Vista* vista = VistaDe(control);
+    if (vista == nullptr || (!bSeAviso && vista == VistaDe(focusWidget())))
+        return;
+    m_bMoviendoFoco = bSeAviso;
+    if (m_paginas != nullptr && control->lugar.iPagina >= 0) {
+        // The person sees that page now; it wasn't chosen, so nothing follows from it.
+        static_cast<ui::Seleccion&>(m_paginas->control).iSeleccion = control->lugar.iPagina;
+        m_paginas->Mostrar(control->lugar.iPagina);
+    }
+    vista->Enfocar();
+    m_dialogo.foco = control;
+    m_bMoviendoFoco = false;
+}
+
+void VentanaDialogo::EnfocarPrimera()
+{
+    Vista* primera = VistaDe(m_dialogo.foco);
+    for (const auto& vista : m_vistas) {
+        const int iPagina = vista->control.lugar.iPagina;
+        const bool bALaVista = iPagina < 0 || m_paginas == nullptr ||
+                               iPagina == std::max(0, static_cast<const ui::Seleccion&>(m_paginas->control).iSeleccion);
+        if (primera == nullptr && vista->AdmiteFoco() && bALaVista)
+            primera = vista.get();
+    }
+    if (primera != nullptr)
+        primera->Enfocar();
+}
+
+void VentanaDialogo::showEvent(QShowEvent* evento)
+{
+    QDialog::showEvent(evento);
+    if (!std::exchange(m_bMostrada, true) && m_marco == Marco::ventana)
+        EnfocarPrimera();
+}
+
+void VentanaDialogo::changeEvent(QEvent* evento)
+{
+    QDialog::changeEvent(evento);
+    if (evento->type() == QEvent::PaletteChange && m_nAcciones == 0)
+        Refrescar();
+}
+
+}  // namespace efv::qt

@@ -1,0 +1,81 @@
+// A dialog as a window: its views, buttons, keys, focus and timer.
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include <QDialog>
+#include <QTimer>
+
+#include <quorvel/ui/dialogo.h>
+
+#include "qt/disposicion.h"
+#include "qt/vistas.h"
+
+QT_BEGIN_NAMESPACE
+class QPushButton;
+QT_END_NAMESPACE
+
+namespace efv::qt {
+
+class VentanaDialogo final : public QDialog, private Accionador {
+public:
+    enum class Marco {
+        ventana,  ///< with OK and Cancel
+        panel     ///< a part of the host's window
+    };
+
+    VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre);
+
+    /// The open window of that dialog, the innermost; null without one.
+    static VentanaDialogo* De(const ui::Dialogo& dialogo);
+
+    /// Shows the state of all controls.
+    void Refrescar();
+    /// Puts the focus into that control once the action that runs is over.
+    void PedirFoco(ui::Control& control) { m_focoPedido = &control; }
+
+    ~VentanaDialogo() override;
+
+protected:
+    void reject() override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+
+private:
+    void Actuar(const std::function<void(ui::Dialogo&)>& accion) override;
+    void HaSalido(ui::Edicion& control) override;
+
+    void CrearVistas();
+    void CrearBotones(QWidget* contenido);
+    void Encajar(QWidget* contenido);
+
+    void ActuarSinSalir(const std::function<void(ui::Dialogo&)>& accion);
+    void Ejecutar(const std::function<void(ui::Dialogo&)>& accion);
+    bool VaciarSalida();
+    void Aceptar();
+    void PonerFoco(bool bSeAviso);
+    void AtenderFoco(QWidget* conFoco);
+    void AtenderTemporizador();
+    Vista* VistaDe(const ui::Control* control) const;
+    Vista* VistaDe(const QWidget* w) const;
+    void EnfocarPrimera();
+
+    ui::Dialogo& m_dialogo;
+    Marco m_marco;
+    std::vector<std::unique_ptr<Vista>> m_vistas;
+    std::vector<GrupoDispuesto> m_grupos;
+    VistaPaginas* m_paginas = nullptr;
+    QPushButton* m_aceptar = nullptr;
+    QPushButton* m_cancelar = nullptr;
+    QTimer m_temporizador;
+
+    int m_nAcciones = 0;                    // running now, one inside the other
+    bool m_bMoviendoFoco = false;           // by us, not by the person
+    ui::Edicion* m_porSalir = nullptr;      // left, and the dialog not told yet
+    ui::Control* m_focoPedido = nullptr;
+    bool m_bMostrada = false;
+};
+
+}  // namespace efv::qt

@@ -1,0 +1,248 @@
+#include "qt/vista_lista.h"
+
+#include <algorithm>
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QScrollBar>
+#include <QTableView>
+#include <QTreeView>
+
+#include "qt/modelo_filas.h"
+
+namespace efv::qt {
+
+namespace {
+
+constexpr int kFilasMedidas = 40;   // rows that a column's width is taken from
+constexpr int kAnchoMaximo = 680;   // a list asks for no more
+constexpr int kAnchoMinimo = 220;
+constexpr int kFilasMinimas = 7;
+
+// Both kinds of view tell when they get their size, and open the current cell by the keyboard.
+template <class BASE>
+class Rejilla final : public BASE {
+public:
+    using BASE::BASE;
+    std::function<void()> alCambiarTamano;
+    std::function<void(const QModelIndex&)> alPedirAbrir;
+
+protected:
+    void resizeEvent(QResizeEvent* evento) override
+    {
+        BASE::resizeEvent(evento);
+        if (alCambiarTamano)
+            alCambiarTamano();
+    }
+    void keyPressEvent(QKeyEvent* evento) override
+    {
+        if (evento->key() == Qt::Key_F2 && alPedirAbrir && BASE::currentIndex().isValid())
+            alPedirAbrir(BASE::currentIndex());
+        else
+            BASE::keyPressEvent(evento);
+    }
+};
+
+QTableView* NuevaTabla(QWidget* padre)
+{
+    auto* tabla = new Rejilla<QTableView>(padre);
+    tabla->verticalHeader()->hide();
+    tabla->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    tabla->verticalHeader()->setDefaultSectionSize(tabla->fontMetrics().height() + 6);
+    tabla->setWordWrap(false);
+    tabla->setTabKeyNavigation(false);
+    tabla->setAlternatingRowColors(true);
+    return tabla;
+}
+
+QTreeView* NuevoArbol(QWidget* padre)
+{
+    auto* arbol = new Rejilla<QTreeView>(padre);
+    arbol->setUniformRowHeights(true);
+    arbol->setExpandsOnDoubleClick(false);
+    return arbol;
+}
+
+class VistaLista final : public Vista {
+public:
+    VistaLista(ui::Lista& lista, QWidget* padre, Accionador& accionador)
+        : Vista(lista, lista.forma == ui::Lista::Forma::arbol ? static_cast<QWidget*>(NuevoArbol(padre))
+                                                             : static_cast<QWidget*>(NuevaTabla(padre))),
+          m_lista(lista), m_accionador(accionador), m_modelo(new ModeloLista(lista, widget)),
+          m_uVersion(lista.uVersion), m_filas(lista.modelo)
+    {
+        Rejas().setModel(m_modelo);
+        Rejas().setSelectionBehavior(QAbstractItemView::SelectRows);
+        Rejas().setSelectionMode(QAbstractItemView::SingleSelection);
+        Rejas().setEditTriggers(QAbstractItemView::NoEditTriggers);
+        Rejas().setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+        Cabecera().setVisible(!lista.acsColumnas.empty());
+        Cabecera().setResizeContentsPrecision(kFilasMedidas);
+        Cabecera().setHighlightSections(false);
+        Cabecera().setDefaultAlignment(Qt::AlignCenter);
+        if (lista.acsColumnas.size() <= 1)
+            Cabecera().setStretchLastSection(true);
+        Conectar();
+        if (Arbol() != nullptr)
+            Arbol()->expandAll();
+        PedirSitio();
+    }
+
+    bool EsAncha() const override { return true; }
+    bool QuiereSitio() const override { return true; }
+
+private:
+    QAbstractItemView& Rejas() const { return static_cast<QAbstractItemView&>(*widget); }
+    QTreeView* Arbol() const
+    {
+        return m_lista.forma == ui::Lista::Forma::arbol ? static_cast<QTreeView*>(widget) : nullptr;
+    }
+    QHeaderView& Cabecera() const
+    {
+        return Arbol() != nullptr ? *Arbol()->header() : *static_cast<QTableView*>(widget)->horizontalHeader();
+    }
+
+    void Conectar()
+    {
+        QObject::connect(Rejas().selectionModel(), &QItemSelectionModel::currentRowChanged, widget,
+                         [this](const QModelIndex& actual) {
+                             const int iFila = ModeloLista::Fila(actual);
+                             if (!m_bRefrescando && iFila >= 0)
+                                 m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(m_lista, iFila); });
+                         });
+        const auto abrir = [this](const QModelIndex& indice) {
+            m_accionador.Actuar([&](ui::Dialogo& dialogo) {
+                dialogo.Abrir(m_lista, ModeloLista::Fila(indice), indice.column());
+            });
+        };
+        QObject::connect(&Rejas(), &QAbstractItemView::doubleClicked, widget, abrir);
+        const auto conectarPropias = [&](auto& rejilla) {
+            rejilla.alPedirAbrir = abrir;
+            rejilla.alCambiarTamano = [this] { RepartirColumnas(); };
+        };
+        if (Arbol() != nullptr)
+            conectarPropias(static_cast<Rejilla<QTreeView>&>(*widget));
+        else
+            conectarPropias(static_cast<Rejilla<QTableView>&>(*widget));
+    }
+
+    // Width from the first rows, height for a few of them.
+    void PedirSitio()
+    {
+        int iAncho = 2 * Rejas().frameWidth() + Rejas().verticalScrollBar()->sizeHint().width();
+        m_aiAnchos.clear();
+        for (int i = 0; i < Cabecera().count(); ++i) {
+            const int iContenido = Rejas().sizeHintForColumn(i);
+            m_aiAnchos.push_back(std::max(iContenido, Cabecera().sectionSizeHint(i)) + 8);
+            iAncho += m_aiAnchos.back();
+        }
+        widget->setMinimumWidth(std::clamp(iAncho, kAnchoMinimo, kAnchoMaximo));
+        widget->setMinimumHeight((kFilasMinimas + 1) * (widget->fontMetrics().height() + 6));
+        RepartirColumnas();
+    }
+
+    // Columns as wide as their contents; what is left goes to all of them alike. Not once the person has
+    // moved a border.
+    void RepartirColumnas()
+    {
+        const auto nColumnas = static_cast<int>(m_aiAnchos.size());
+        if (Cabecera().stretchLastSection() || nColumnas != Cabecera().count() || nColumnas == 0)
+            return;
+        for (std::size_t i = 0; i < m_aiPuestos.size() && m_aiPuestos.size() == m_aiAnchos.size(); ++i)
+            if (Cabecera().sectionSize(static_cast<int>(i)) != m_aiPuestos[i])
+                return;
+        int iSobra = Rejas().viewport()->width();
+        for (const int iAncho : m_aiAnchos)
+            iSobra -= iAncho;
+        m_aiPuestos.clear();
+        for (int i = 0; i < nColumnas; ++i) {
+            const int iParte = iSobra > 0 ? iSobra / nColumnas + (i < iSobra % nColumnas ? 1 : 0) : 0;
+            Cabecera().resizeSection(i, m_aiAnchos[static_cast<std::size_t>(i)] + iParte);
+            m_aiPuestos.push_back(Cabecera().sectionSize(i));
+        }
+    }
+
+    void RefrescarContenido() override
+    {
+        m_bRefrescando = true;
+        if (m_uVersion != m_lista.uVersion || m_filas != m_lista.modelo || m_nColumnas != m_lista.acsColumnas.size())
+            Recargar();
+        const QModelIndex actual = Rejas().currentIndex();
+        if (ModeloLista::Fila(actual) != m_lista.iSeleccion) {
+            const QModelIndex indice = m_modelo->Indice(m_lista.iSeleccion, std::max(0, actual.column()));
+            if (indice.isValid()) {
+                Rejas().setCurrentIndex(indice);
+                Rejas().scrollTo(indice);
+            } else {
+                Rejas().selectionModel()->clear();
+            }
+        }
+        m_bRefrescando = false;
+    }
+
+    void Recargar()
+    {
+        const int iVertical = Rejas().verticalScrollBar()->value();
+        const std::vector<int> plegadas = Plegadas();
+        const int nFilas = m_nFilas;
+        m_uVersion = m_lista.uVersion;
+        m_filas = m_lista.modelo;
+        m_nColumnas = m_lista.acsColumnas.size();
+        m_nFilas = m_lista.Filas();
+        m_modelo->Recargar();
+        Cabecera().setVisible(!m_lista.acsColumnas.empty());
+        if (Arbol() != nullptr) {
+            Arbol()->expandAll();
+            // With the same number of rows they are taken for the same ones.
+            if (nFilas == m_nFilas)
+                for (const int iFila : plegadas)
+                    Arbol()->collapse(m_modelo->Indice(iFila));
+        }
+        // The first rows tell how wide the columns have to be; later ones don't move them.
+        if (static_cast<int>(m_aiAnchos.size()) != Cabecera().count() || nFilas == 0)
+            PedirSitio();
+        Rejas().verticalScrollBar()->setValue(iVertical);
+    }
+
+    // Rows of the tree that the person has closed.
+    std::vector<int> Plegadas() const
+    {
+        std::vector<int> plegadas;
+        if (Arbol() == nullptr)
+            return plegadas;
+        std::vector<QModelIndex> pendientes{QModelIndex()};
+        while (!pendientes.empty()) {
+            const QModelIndex padre = pendientes.back();
+            pendientes.pop_back();
+            for (int i = 0; i < m_modelo->rowCount(padre); ++i) {
+                const QModelIndex hijo = m_modelo->index(i, 0, padre);
+                if (m_modelo->rowCount(hijo) == 0)
+                    continue;
+                if (!Arbol()->isExpanded(hijo))
+                    plegadas.push_back(ModeloLista::Fila(hijo));
+                pendientes.push_back(hijo);
+            }
+        }
+        return plegadas;
+    }
+
+    ui::Lista& m_lista;
+    Accionador& m_accionador;
+    ModeloLista* m_modelo;
+    unsigned m_uVersion;
+    std::shared_ptr<const ui::ModeloFilas> m_filas;
+    std::size_t m_nColumnas = m_lista.acsColumnas.size();
+    int m_nFilas = m_lista.Filas();
+    bool m_bRefrescando = false;
+    std::vector<int> m_aiAnchos;   // of the contents
+    std::vector<int> m_aiPuestos;  // as last set here
+};
+
+}  // namespace
+
+std::unique_ptr<Vista> CrearVistaLista(ui::Lista& control, QWidget* padre, Accionador& accionador)
+{
+    return std::make_unique<VistaLista>(control, padre, accionador);
+}
+
+}  // namespace efv::qt

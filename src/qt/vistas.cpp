@@ -1,0 +1,77 @@
+#include "qt/vistas.h"
+
+#include <algorithm>
+
+#include <QLabel>
+#include <QPalette>
+#include <QStyle>
+
+#include "qt/colores.h"
+#include "qt/texto.h"
+
+namespace efv::qt {
+
+Vista::Vista(ui::Control& controlVisto, QWidget* widgetPropio) : control(controlVisto), widget(widgetPropio)
+{
+    const QString nombre = control.nombre.empty() ? SinMnemonico(control.csRotulo) : QString::fromStdString(control.nombre);
+    widget->setObjectName(nombre);
+    widget->setAccessibleName(SinMnemonico(control.csRotulo));
+}
+
+Vista::~Vista() = default;
+
+void Vista::Refrescar()
+{
+    RefrescarContenido();
+    RefrescarColores();
+    const bool bUtilizable = Utilizable();
+    if (widget->isEnabledTo(widget->parentWidget()) != bUtilizable)
+        widget->setEnabled(bUtilizable);
+    if (widget->isHidden() == control.bVisible)
+        widget->setVisible(control.bVisible);
+    if (rotulo == nullptr)
+        return;
+    const QString texto = rotulo->buddy() != nullptr ? ConMnemonico(control.csRotulo) : SinMnemonico(control.csRotulo);
+    if (rotulo->text() != texto)
+        rotulo->setText(texto);
+    rotulo->setEnabled(control.bHabilitado);
+    rotulo->setVisible(control.bVisible);
+}
+
+void Vista::RefrescarColores()
+{
+    const QPalette base = widget->parentWidget()->palette();
+    // The colour in the low bits, "made by us" above them, the theme above that.
+    const quint64 aspecto = (static_cast<quint64>(base.cacheKey()) << 26U) | (quint64{1} << 25U) |
+                            (static_cast<quint64>(control.bSoloLectura) << 24U) | (control.color & 0xFFFFFFU);
+    if (aspecto == m_aspecto)
+        return;
+    m_aspecto = aspecto;
+    QPalette paleta;
+    const QColor fondo = base.color(QPalette::Window);
+    for (const auto grupo : {QPalette::Active, QPalette::Inactive}) {
+        if (control.color != ui::kNegro) {
+            for (const auto papel : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+                paleta.setColor(grupo, papel, Legible(DeColor(control.color), fondo));
+        }
+        // What can only be read looks like the background, as a field that is written on doesn't.
+        if (control.bSoloLectura)
+            paleta.setColor(grupo, QPalette::Base, fondo);
+    }
+    widget->setPalette(paleta);
+    // A text of a caption alone has its colour there.
+    if (rotulo != nullptr && dynamic_cast<const ui::TextoFijo*>(&control) != nullptr)
+        rotulo->setPalette(paleta);
+}
+
+void Vista::Enfocar()
+{
+    widget->setFocus(Qt::OtherFocusReason);
+}
+
+bool Vista::AdmiteFoco() const
+{
+    return control.bVisible && Utilizable() && widget->focusPolicy() != Qt::NoFocus;
+}
+
+}  // namespace efv::qt

@@ -1,0 +1,80 @@
+// Controls as widgets: one view for each kind. A view shows what its control says and turns the person's
+// actions into the dialog's methods; it keeps nothing of its own.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include <QWidget>
+
+#include <quorvel/ui/dialogo.h>
+
+QT_BEGIN_NAMESPACE
+class QLabel;
+QT_END_NAMESPACE
+
+namespace efv::qt {
+
+/// Where the views' actions go.
+class Accionador {
+public:
+    /// Runs what the person did and then shows what came of it. Throws nothing.
+    virtual void Actuar(const std::function<void(ui::Dialogo&)>& accion) = 0;
+    /// The person left the field; told to the dialog before anything else happens to it.
+    virtual void HaSalido(ui::Edicion& control) = 0;
+
+protected:
+    ~Accionador() = default;
+};
+
+class Vista {
+public:
+    Vista(ui::Control& controlVisto, QWidget* widgetPropio);
+    virtual ~Vista();
+    Vista(const Vista&) = delete;
+    Vista& operator=(const Vista&) = delete;
+
+    /// Shows the control's state.
+    void Refrescar();
+    /// Takes the focus, with its text selected.
+    virtual void Enfocar();
+    virtual bool AdmiteFoco() const;
+    /// Names its widgets that take the focus, in order.
+    virtual void Encadenar(const std::function<void(QWidget*)>& siguiente) { siguiente(widget); }
+
+    /// Wants room of its own rather than a line of a form.
+    virtual bool EsAncha() const { return false; }
+    /// Makes use of all the room that there is.
+    virtual bool QuiereSitio() const { return false; }
+    /// Shows its caption itself.
+    virtual bool RotulaPorSiMisma() const { return false; }
+
+    ui::Control& control;
+    QWidget* const widget;
+    QLabel* rotulo = nullptr;  ///< its caption, when it stands beside it
+
+protected:
+    virtual void RefrescarContenido() = 0;
+    /// Whether the person can use it at all.
+    virtual bool Utilizable() const { return control.bHabilitado; }
+
+private:
+    void RefrescarColores();
+
+    quint64 m_aspecto = 0;  // what the colours were worked out from
+};
+
+std::unique_ptr<Vista> CrearVista(ui::Control& control, QWidget* padre, Accionador& accionador);
+
+/// The pages of a dialog: its tabs with a widget for each entry.
+class VistaPaginas : public Vista {
+public:
+    using Vista::Vista;
+    virtual QWidget* Pagina(int iPagina) = 0;
+    /// Shows that page without telling the dialog.
+    virtual void Mostrar(int iPagina) = 0;
+};
+
+std::unique_ptr<VistaPaginas> CrearPaginas(ui::Seleccion& control, QWidget* padre, Accionador& accionador);
+
+}  // namespace efv::qt

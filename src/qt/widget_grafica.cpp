@@ -1,0 +1,226 @@
+#include "qt/widget_grafica.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QMenu>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSaveFile>
+
+#include "qt/cajas.h"
+#include "qt/colores.h"
+#include "qt/texto.h"
+
+namespace efv::qt {
+
+namespace {
+
+constexpr double kRadioLectura = 40.0;  // pixels around the pointer in which a point is read
+constexpr double kEscalaPng = 2.0;
+
+class LienzoQt final : public ui::Lienzo {
+public:
+    LienzoQt(QPainter& pintor, const QPalette& paleta)
+        : m_pintor(pintor),
+          m_fondo(paleta.color(QPalette::Base)),
+          m_texto(paleta.color(QPalette::Text))
+    {
+    }
+
+    double AnchoTexto(std::wstring_view texto, double dCuerpo) const override
+    {
+        return QFontMetricsF(Letra(dCuerpo)).horizontalAdvance(AQt(texto));
+    }
+
+    void Linea(ui::Punto desde, ui::Punto hasta, ui::Tinta tinta) override
+    {
+        // Between text and background, so that it suits a light and a dark theme.
+        const double dParte = tinta == ui::Tinta::cuadricula ? 0.15 : 0.65;
+        m_pintor.setPen(QPen(Mezcla(dParte), 1.0));
+        m_pintor.drawLine(QPointF(desde.dX, desde.dY), QPointF(hasta.dX, hasta.dY));
+    }
+
+    void Texto(ui::Punto base, std::wstring_view texto, double dCuerpo, ui::Ancla ancla, bool bVertical) override
+    {
+        const double dAncho = AnchoTexto(texto, dCuerpo);
+        const double dDesvio = ancla == ui::Ancla::inicio ? 0.0 : ancla == ui::Ancla::centro ? -0.5 * dAncho : -dAncho;
+        m_pintor.save();
+        m_pintor.setFont(Letra(dCuerpo));
+        m_pintor.setPen(m_texto);
+        m_pintor.translate(base.dX, base.dY);
+        if (bVertical)
+            m_pintor.rotate(-90.0);
+        m_pintor.drawText(QPointF(dDesvio, 0.0), AQt(texto));
+        m_pintor.restore();
+    }
+
+    void EmpezarSeries(const ui::Recuadro& r) override
+    {
+        m_pintor.save();
+        // Half a thick line more, so that one along the edge isn't cut lengthwise.
+        m_pintor.setClipRect(QRectF(r.dX, r.dY, r.dAncho, r.dAlto).adjusted(-2.0, -2.0, 2.0, 2.0));
+    }
+    void AcabarSeries() override { m_pintor.restore(); }
+
+    void Polilinea(std::span<const ui::Punto> puntos, ui::Color color, int iAncho) override
+    {
+        const QColor tinta = ColorDeTexto(color, m_texto, m_fondo);
+        if (puntos.size() == 1) {
+            m_pintor.setPen(Qt::NoPen);
+            m_pintor.setBrush(tinta);
+            m_pintor.drawEllipse(QPointF(puntos[0].dX, puntos[0].dY), iAncho + 1.0, iAncho + 1.0);
+            return;
+        }
+        QPolygonF linea;
+        linea.reserve(static_cast<qsizetype>(puntos.size()));
+        for (const ui::Punto& punto : puntos)
+            linea << QPointF(punto.dX, punto.dY);
+        m_pintor.setPen(QPen(tinta, iAncho, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        m_pintor.drawPolyline(linea);
+    }
+
+    void Barra(const ui::Recuadro& r, ui::Color color) override
+    {
+        m_pintor.fillRect(QRectF(r.dX, r.dY, r.dAncho, r.dAlto), ColorDeTexto(color, m_texto, m_fondo));
+    }
+
+    QColor Mezcla(double dParteDeTexto) const
+    {
+        const auto t = static_cast<float>(dParteDeTexto);
+        return QColor::fromRgbF(m_fondo.redF() + t * (m_texto.redF() - m_fondo.redF()),
+                                m_fondo.greenF() + t * (m_texto.greenF() - m_fondo.greenF()),
+                                m_fondo.blueF() + t * (m_texto.blueF() - m_fondo.blueF()));
+    }
+
+private:
+    QFont Letra(double dCuerpo) const
+    {
+        QFont letra = m_pintor.font();
+        letra.setPixelSize(std::max(1, qRound(dCuerpo)));
+        return letra;
+    }
+
+    QPainter& m_pintor;
+    QColor m_fondo, m_texto;
+};
+
+double CuerpoDe(const QWidget& widget)
+{
+    return QFontInfo(widget.font()).pixelSize() * 0.92;
+}
+
+}  // namespace
+
+WidgetGrafica::WidgetGrafica(const CCtrlCurva2D& datos, QWidget* padre) : QWidget(padre), m_datos(datos)
+{
+    setMouseTracking(true);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void WidgetGrafica::paintEvent(QPaintEvent* /*evento*/)
+{
+    QPainter pintor(this);
+    Pintar(pintor, true);
+}
+
+void WidgetGrafica::Pintar(QPainter& pintor, bool bConLectura) const
+{
+    pintor.setFont(font());
+    pintor.setRenderHint(QPainter::Antialiasing);
+    pintor.fillRect(rect(), palette().color(QPalette::Base));
+    LienzoQt lienzo(pintor, palette());
+    const ui::Trazado trazado(m_datos, width(), height(), CuerpoDe(*this), lienzo);
+    trazado.Dibujar(lienzo);
+    if (bConLectura)
+        PintarLectura(pintor, trazado);
+}
+
+void WidgetGrafica::PintarLectura(QPainter& pintor, const ui::Trazado& trazado) const
+{
+    if (!m_puntero)
+        return;
+    const auto cercano = trazado.PuntoCercano({m_puntero->x(), m_puntero->y()}, kRadioLectura);
+    if (!cercano)
+        return;
+    const LienzoQt lienzo(pintor, palette());
+    const ui::Recuadro& marco = trazado.Marco();
+    const QPointF punto(cercano->enPantalla.dX, cercano->enPantalla.dY);
+    pintor.setPen(QPen(lienzo.Mezcla(0.5), 1.0, Qt::DashLine));
+    pintor.drawLine(QPointF(marco.dX, punto.y()), QPointF(marco.dX + marco.dAncho, punto.y()));
+    pintor.drawLine(QPointF(punto.x(), marco.dY), QPointF(punto.x(), marco.dY + marco.dAlto));
+    const ui::SerieCurva& serie = m_datos.aSeries[cercano->iSerie];
+    pintor.setBrush(ColorDeTexto(serie.color, palette().color(QPalette::Text), palette().color(QPalette::Base)));
+    pintor.setPen(QPen(palette().color(QPalette::Base), 1.5));
+    pintor.drawEllipse(punto, 4.5, 4.5);
+
+    const QString texto = "x = " + AQt(ui::RotuloValor(cercano->dX)) + "\ny = " + AQt(ui::RotuloValor(cercano->dY));
+    const QFontMetricsF medidas(font());
+    QRectF caja = medidas.boundingRect(QRectF(0, 0, width(), height()), Qt::AlignLeft, texto).adjusted(-6, -4, 6, 4);
+    caja.moveBottomLeft(punto + QPointF(10, -10));
+    if (caja.right() > width())
+        caja.moveRight(punto.x() - 10);
+    if (caja.top() < 0)
+        caja.moveTop(punto.y() + 10);
+    pintor.setPen(lienzo.Mezcla(0.4));
+    pintor.setBrush(palette().color(QPalette::ToolTipBase));
+    pintor.drawRoundedRect(caja, 3, 3);
+    pintor.setPen(palette().color(QPalette::ToolTipText));
+    pintor.drawText(caja.adjusted(6, 4, -6, -4), Qt::AlignLeft, texto);
+}
+
+void WidgetGrafica::mouseMoveEvent(QMouseEvent* evento)
+{
+    m_puntero = evento->position();
+    update();
+}
+
+void WidgetGrafica::leaveEvent(QEvent* /*evento*/)
+{
+    m_puntero.reset();
+    update();
+}
+
+void WidgetGrafica::contextMenuEvent(QContextMenuEvent* evento)
+{
+    QMenu menu(this);
+    menu.addAction(QStringLiteral("Guardar imagen…"), this, [this] { PreguntarYGuardar(); });
+    menu.addAction(QStringLiteral("Copiar imagen"), this,
+                   [this] { QApplication::clipboard()->setPixmap(grab()); });
+    menu.exec(evento->globalPos());
+}
+
+void WidgetGrafica::PreguntarYGuardar()
+{
+    const auto csRuta =
+        ElegirFichero(this, {L"Guardar imagen", {{L"Imagen PNG", L"*.png"}, {L"Imagen SVG", L"*.svg"}}, true, L"grafica.png"});
+    if (csRuta && !Guardar(AQt(*csRuta)))
+        MostrarCaja(this, {L"Guardar imagen", L"No se puede escribir el archivo \"" + *csRuta + L"\".",
+                           ui::Icono::error, ui::Botones::aceptar});
+}
+
+bool WidgetGrafica::Guardar(const QString& ruta) const
+{
+    QSaveFile fichero(ruta);
+    if (!fichero.open(QIODevice::WriteOnly))
+        return false;
+    if (ruta.endsWith(".svg", Qt::CaseInsensitive)) {
+        const std::string documento = ui::EscribirSvg(m_datos, width(), height());
+        fichero.write(documento.data(), static_cast<qint64>(documento.size()));
+    } else {
+        QImage imagen((QSizeF(size()) * kEscalaPng).toSize(), QImage::Format_ARGB32_Premultiplied);
+        imagen.setDevicePixelRatio(kEscalaPng);
+        QPainter pintor(&imagen);
+        Pintar(pintor, false);
+        pintor.end();
+        if (!imagen.save(&fichero, "PNG"))
+            fichero.cancelWriting();
+    }
+    return fichero.commit();
+}
+
+}  // namespace efv::qt
