@@ -20,6 +20,8 @@ add_library(efv_compilacion INTERFACE)
 target_compile_options(efv_compilacion INTERFACE
     # Results must not depend on the machine: no fused operations, no reordering.
     -ffp-contract=off
+    # Attributes are asked for one by one across a library's border.
+    -fno-plt
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wdouble-promotion -Wformat=2
     -Wimplicit-fallthrough -Wextra-semi

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <variant>
+#include <vector>
 
 #include <quorvel/catalogues.h>
 
@@ -21,6 +22,9 @@ public:
     {
         Anular(m_retenido);
         Catalogo<M>::Preparar(m_retenido);
+        for (const auto& campo : Catalogo<M>::Campos())
+            if (const auto* texto = std::get_if<CString M::*>(&campo.miembro))
+                m_textos.push_back(*texto);
     }
 
     /// False when the file would take more memory than a file may.
@@ -84,15 +88,15 @@ private:
     std::size_t BytesDeTextos() const
     {
         std::size_t bytes = Bytes(m_retenido.csFamilia);
-        for (const auto& campo : Catalogo<M>::Campos())
-            if (const auto* texto = std::get_if<CString M::*>(&campo.miembro))
-                bytes += Bytes(m_retenido.**texto);
+        for (CString M::*texto : m_textos)
+            bytes += Bytes(m_retenido.*texto);
         return bytes;
     }
 
     CObArrayPropio<CObject>& m_destino;
     PresupuestoLectura m_presupuesto;
     M m_retenido;
+    std::vector<CString M::*> m_textos;
 };
 
 }  // namespace efv::catalogues

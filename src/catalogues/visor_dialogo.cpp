@@ -42,8 +42,8 @@ std::optional<CString> PedirNombre(std::wstring_view titulo, const CString& csIn
 // Name
 // ---------------------------------------------------------------------------------------------------
 
-CDlgVisorNombre::CDlgVisorNombre(std::wstring_view titulo, const CString& csInicial)
-    : Dialogo("CDlgVisorNombre", titulo), csNombre(csInicial)
+CDlgVisorNombre::CDlgVisorNombre(std::wstring_view titulo, CString csInicial)
+    : Dialogo("CDlgVisorNombre", titulo), csNombre(std::move(csInicial))
 {
     auto& campo = Anadir<ui::Edicion>("csNombre", L"&Nombre:");
     campo.destino = &csNombre;

@@ -55,7 +55,7 @@ private:
 /// Asks for a name.
 class CDlgVisorNombre : public efv::ui::Dialogo {
 public:
-    CDlgVisorNombre(std::wstring_view titulo, const CString& csInicial);
+    CDlgVisorNombre(std::wstring_view titulo, CString csInicial);
     CString csNombre;
 
 private:

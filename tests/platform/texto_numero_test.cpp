@@ -1,5 +1,7 @@
 #include <cmath>
+#include <cstdlib>
 #include <limits>
+#include <random>
 
 #include <gtest/gtest.h>
 
@@ -41,6 +43,25 @@ TEST(Numero, LeeElPrefijoDecimal)
     EXPECT_TRUE(std::isinf(numero::LeerDoble("-1e99999")));
     EXPECT_EQ(numero::LeerDoble("1e-99999"), 0.0);
     EXPECT_EQ(numero::LeerDoble(L"27º"), 27.0);
+}
+
+// The short cut for plain forms must agree with the general way in every bit.
+TEST(Numero, ElAtajoDaElMismoDoble)
+{
+    std::mt19937_64 azar(7);
+    for (int i = 0; i < 200'000; ++i) {
+        std::string texto = std::to_string(azar() % 1'000'000'000'000'000'000ULL >> (azar() % 60));
+        if (azar() % 4 != 0)
+            texto.insert(azar() % (texto.size() + 1), ".");
+        if (texto.front() == '.')
+            texto.insert(0, "0");
+        const double esperado = std::strtod(texto.c_str(), nullptr);
+        ASSERT_EQ(numero::LeerDoble(texto), esperado) << texto;
+        ASSERT_EQ(numero::LeerDoble("-" + texto + " kW"), -esperado) << texto;
+    }
+    EXPECT_TRUE(std::signbit(numero::LeerDoble("-0")));
+    EXPECT_EQ(numero::LeerDoble("12e2"), 1200);
+    EXPECT_EQ(numero::LeerDoble("12.e1"), 120);
 }
 
 TEST(Numero, EnterosSaturan)

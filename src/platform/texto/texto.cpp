@@ -1,6 +1,8 @@
 #include "platform/texto/texto.h"
 
+#include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace efv {
 
@@ -85,13 +87,23 @@ std::string CadenaUtf8(std::wstring_view texto)
 CString CadenaDesdeUtf8(std::string_view bytes)
 {
     CString destino;
+    texto::AsignarUtf8(destino, bytes);
+    return destino;
+}
+
+void texto::AsignarUtf8(CString& destino, std::string_view bytes)
+{
+    if (std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
+        destino.assign(bytes.begin(), bytes.end());
+        return;
+    }
+    destino.clear();
     destino.reserve(bytes.size());
     while (!bytes.empty()) {
         const Leido leido = LeerUtf8(bytes);
         destino += static_cast<wchar_t>(leido.caracter);
         bytes.remove_prefix(leido.bytes);
     }
-    return destino;
 }
 
 namespace texto {
@@ -131,23 +143,35 @@ CString DeUtf16(std::u16string_view unidades)
     return texto;
 }
 
+namespace {
+
+// How many of the first bytes are surely plain ASCII, thirty-two at a time: most of a catalogue is.
+std::size_t PrefijoAscii(std::string_view bytes)
+{
+    std::size_t i = 0;
+    for (; i + 32 <= bytes.size(); i += 32) {
+        std::array<std::uint64_t, 4> grupo;
+        std::memcpy(grupo.data(), bytes.data() + i, sizeof grupo);
+        if (((grupo[0] | grupo[1] | grupo[2] | grupo[3]) & 0x8080808080808080U) != 0)
+            break;
+    }
+    return i;
+}
+
+}  // namespace
+
 bool EsUtf8(std::string_view bytes)
 {
     while (!bytes.empty()) {
-        // Plain ASCII, eight bytes at a time: most of a catalogue is.
-        while (bytes.size() >= 8) {
-            std::uint64_t grupo = 0;
-            bytes.copy(reinterpret_cast<char*>(&grupo), 8);
-            if ((grupo & 0x8080808080808080U) != 0)
-                break;
-            bytes.remove_prefix(8);
+        bytes.remove_prefix(PrefijoAscii(bytes));
+        // One group at the most before the fast way is tried again.
+        for (std::size_t n = 0; n < 32 && !bytes.empty();) {
+            const Leido leido = LeerUtf8(bytes);
+            if (!leido.valido)
+                return false;
+            bytes.remove_prefix(leido.bytes);
+            n += leido.bytes;
         }
-        if (bytes.empty())
-            break;
-        const Leido leido = LeerUtf8(bytes);
-        if (!leido.valido)
-            return false;
-        bytes.remove_prefix(leido.bytes);
     }
     return true;
 }

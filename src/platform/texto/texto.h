@@ -16,6 +16,9 @@ namespace efv::texto {
 std::u16string AUtf16(std::wstring_view texto);
 CString DeUtf16(std::u16string_view unidades);
 
+/// CadenaDesdeUtf8 into a text that exists, whose memory serves again.
+void AsignarUtf8(CString& destino, std::string_view bytes);
+
 /// True when `bytes` is well-formed UTF-8: no overlong form, no surrogate, nothing above 10FFFF.
 bool EsUtf8(std::string_view bytes);
 

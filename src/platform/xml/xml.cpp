@@ -9,6 +9,7 @@
 #include <pugixml.hpp>
 
 #include "platform/numero/conversion.h"
+#include "platform/texto/texto.h"
 #include "platform/xml/codificacion.h"
 
 namespace efv::xml {
@@ -24,10 +25,11 @@ struct Documento {
     pugi::xml_attribute pista;
 };
 
+Documento gActual;
+
 Documento& Actual()
 {
-    static Documento documento;
-    return documento;
+    return gActual;
 }
 
 pugi::xml_node Interno(Nodo nodo)
@@ -134,7 +136,7 @@ const char* Valor(Nodo nodo, const char* nombre)
 void xmlGetTextAttribute(Nodo nodo, const char* nombre, CString& csValor)
 {
     if (const char* valor = Valor(nodo, nombre))
-        csValor = CadenaDesdeUtf8(valor);
+        texto::AsignarUtf8(csValor, valor);
 }
 
 void xmlGetIntAttribute(Nodo nodo, const char* nombre, int& iValor)
