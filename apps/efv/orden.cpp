@@ -8,10 +8,12 @@
 
 #include <QuorvelEFV.h>
 
+#include "catalogo/suborden_catalogo.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
 #include "comun/reloj.h"
 #include "comun/suborden.h"
+#include "curvas/suborden_curvas.h"
 #include "energia/suborden_energia.h"
 #include "lugares/suborden_lugares.h"
 #include "rpc/suborden_rpc.h"
@@ -41,6 +43,8 @@ public:
             "La variable de entorno EFV_AHORA (2028-02-01T12:00:00) sustituye al reloj.");
         Anadir(CrearSubordenEnergia());
         Anadir(CrearSubordenLugares());
+        Anadir(CrearSubordenCatalogo());
+        Anadir(CrearSubordenCurvas());
         Anadir(CrearSubordenRpc());
         m_raiz.require_subcommand(0, 1);
     }

@@ -17,6 +17,7 @@ fs::path Elegir(const std::string& opcion)
 {
     if (!opcion.empty())
         return opcion;
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread, and nobody changes the environment
     if (const char* variable = std::getenv("EFV_DATOS"); variable != nullptr && *variable != '\0')
         return variable;
     std::error_code fallo;

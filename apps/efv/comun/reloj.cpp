@@ -54,6 +54,7 @@ std::optional<FechaHora> LeerMomento(std::string_view texto)
 
 void FijarRelojDelEntorno()
 {
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread, and nobody changes the environment
     const char* variable = std::getenv("EFV_AHORA");
     if (variable == nullptr || *variable == '\0')
         return;

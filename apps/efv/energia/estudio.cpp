@@ -85,11 +85,12 @@ void AnotarCampo(Estudio& estudio)
     if (campo.dOrientacion != campo.OrientacionEcuador())
         orientacion += fmt::format(", aunque se pida {}°", DecimalExacto(campo.dOrientacion));
     estudio.notas.push_back(orientacion + ".");
-    if (campo.EsSur() && estudio.correlacion)
+    if (campo.EsSur() && estudio.correlacion) {
         estudio.notas.push_back(
             fmt::format("Hemisferio sur: la correlación inclina hacia el sur, por lo que se consulta con {}° "
                         "para que sea el mismo campo, inclinado {}° hacia el norte.",
                         DecimalExacto(campo.InclinacionCorrelacion()), DecimalExacto(campo.dInclinacion)));
+    }
 }
 
 void AnotarCorrelacion(Estudio& estudio)
@@ -97,7 +98,7 @@ void AnotarCorrelacion(Estudio& estudio)
     const Resultado& resultado = *estudio.correlacion;
     estudio.notas.push_back(fmt::format("Correlación: febrero con {} días, por el año del reloj ({}).",
                                         phGetNumDiasMes(estudio.iAnoReloj, kFebrero), estudio.iAnoReloj));
-    estudio.notas.push_back(
+    estudio.notas.emplace_back(
         "Correlación: octubre lleva la declinación del día 270 del año (27 de septiembre); de ahí que difiera "
         "de la tabla más que los otros meses.");
     const auto sinValor = [&](std::size_t m) { return !std::isfinite(resultado.meses[m].dRI); };
@@ -109,11 +110,12 @@ void AnotarCorrelacion(Estudio& estudio)
         const double dHorizontal = estudio.encargo.campo.adRadHorizontal[m] / kKJporKWh;
         return dRI < 0.0 || dRI > std::min(kRIMaxima, kRazonMaxima * dHorizontal);
     };
-    if (const std::string meses = NombresDeMeses(dudoso); !meses.empty())
+    if (const std::string meses = NombresDeMeses(dudoso); !meses.empty()) {
         estudio.notas.push_back(
             fmt::format("Correlación dudosa en {}: el sol apenas sale, o la radiación dada "
                         "no concuerda con la latitud.",
                         meses));
+    }
 }
 
 void AnotarTabla(Estudio& estudio)

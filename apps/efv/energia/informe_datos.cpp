@@ -65,12 +65,13 @@ std::string InformeJson(const Estudio& estudio)
 {
     const Campo& campo = estudio.encargo.campo;
     Json meses = Json::array();
-    for (std::size_t m = 0; m < kMeses; ++m)
+    for (std::size_t m = 0; m < kMeses; ++m) {
         meses.push_back({{"mes", NombreMes(m)},
                          {"radiacion_kJ_m2_dia", campo.adRadHorizontal[m]},
                          {"radiacion_kWh_m2_dia", campo.adRadHorizontal[m] / kKJporKWh},
                          {"correlacion", DelMes(estudio.correlacion, m)},
                          {"tabla", DelMes(estudio.tabla, m)}});
+    }
     const Json documento{
         {"lugar", DelLugar(estudio.encargo.lugar)},
         {"latitud", campo.dLatitud},

@@ -57,11 +57,12 @@ std::vector<std::string> Fila(const Estudio& estudio, std::size_t iMes)
     const auto valores = [&](const Resultado& r) {
         return bAno ? MesCalculado{r.RIMedia(), r.EnergiaDiaMedia(), r.dEnergiaAno} : r.meses[iMes];
     };
-    for (const auto& resultado : {estudio.correlacion, estudio.tabla})
-        if (resultado) {
-            const MesCalculado mes = valores(*resultado);
-            AnadirValores(fila, mes.dRI, mes.dEnergiaDia, mes.dEnergiaMes);
-        }
+    for (const auto& resultado : {estudio.correlacion, estudio.tabla}) {
+        if (!resultado)
+            continue;
+        const MesCalculado mes = valores(*resultado);
+        AnadirValores(fila, mes.dRI, mes.dEnergiaDia, mes.dEnergiaMes);
+    }
     if (estudio.correlacion && estudio.tabla)
         fila.push_back(Diferencia(valores(*estudio.tabla).dRI, valores(*estudio.correlacion).dRI));
     return fila;
@@ -80,7 +81,7 @@ std::string Cuadro(const Estudio& estudio)
     if (estudio.tabla)
         anadir("Tabla K");
     if (estudio.correlacion && estudio.tabla)
-        titulos.push_back("Dif. RI %");
+        titulos.emplace_back("Dif. RI %");
     std::vector<TablaTexto::Lado> lados(titulos.size(), TablaTexto::Lado::derecha);
     lados.front() = TablaTexto::Lado::izquierda;
     TablaTexto tabla(std::move(lados));

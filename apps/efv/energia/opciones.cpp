@@ -46,6 +46,10 @@ constexpr auto kOpciones = std::to_array<OpcionNumerica>({
      "Otro factor sobre la energía, hasta 10; si falta, 1. El método de la tabla no lo aplica", ""},
 });
 
+constexpr const char* kAyudaRadiacion =
+    "Con --lat: radiación global diaria sobre la horizontal de los 12 meses, en kJ/m²·día, separadas por "
+    "espacios, comas o punto y coma";
+
 // No plane on Earth gets more on the mean of a month than the poles at midsummer outside the air, 45 MJ.
 constexpr double kRadiacionMaxima = 50000.0;
 // Below this the year's best month can only have been given in another unit.
@@ -56,11 +60,12 @@ double LeerAcotada(const OpcionNumerica& opcion, const std::string& texto)
     const std::optional<double> d = LeerNumero(texto);
     if (!d)
         throw ErrorUso(fmt::format("{}: se esperaba un número, llegó «{}»", opcion.nombre, texto));
-    if (*d < opcion.dMinimo || *d > opcion.dMaximo || (opcion.bSinMinimo && *d <= opcion.dMinimo))
+    if (*d < opcion.dMinimo || *d > opcion.dMaximo || (opcion.bSinMinimo && *d <= opcion.dMinimo)) {
         throw ErrorUso(fmt::format("{} {}: debe {} {} y no pasar de {}{}", opcion.nombre, texto,
                                    opcion.bSinMinimo ? "ser mayor que" : "ser al menos",
                                    DecimalExacto(opcion.dMinimo), DecimalExacto(opcion.dMaximo),
                                    opcion.consejo));
+    }
     return *d;
 }
 
@@ -106,11 +111,12 @@ std::array<double, kMeses> LeerRadiaciones(const std::vector<std::string>& palab
         valores[m] = *d;
     }
     const double dMayor = std::ranges::max(valores);
-    if (dMayor > 0.0 && dMayor < kRadiacionSospechosa)
+    if (dMayor > 0.0 && dMayor < kRadiacionSospechosa) {
         throw ErrorUso(
             fmt::format("--radiacion: ningún mes llega a {} kJ/m²·día; si los valores están en "
                         "kWh/m²·día, multiplíquelos por 3600",
                         DecimalExacto(kRadiacionSospechosa)));
+    }
     return valores;
 }
 
@@ -136,11 +142,7 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
         linea.add_option(kOpciones[i].nombre, m_numericas[i], kOpciones[i].descripcion)
             ->type_name(kOpciones[i].unidad);
         if (i == kLatitud)
-            linea
-                .add_option("--radiacion", m_radiacion,
-                            "Con --lat: radiación global diaria sobre la horizontal de los 12 meses, en "
-                            "kJ/m²·día, separadas por espacios, comas o punto y coma")
-                ->type_name("VALORES");
+            linea.add_option("--radiacion", m_radiacion, kAyudaRadiacion)->type_name("VALORES");
     }
     linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")->type_name("METODO");
     CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON");

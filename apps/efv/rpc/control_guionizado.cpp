@@ -19,8 +19,9 @@ void LeerMiembros(const Json& j, Leer&& leer)
         return;
     if (!j.is_object())
         Esperaba("un objeto", j);
-    for (const auto& [nombre, valor] : j.items())
-        NombrarLugar([&] { return nombre.substr(0, kCitaMaxima); }, [&] { leer(nombre, valor); });
+    for (const auto& miembro : j.items())
+        NombrarLugar([&] { return miembro.key().substr(0, kCitaMaxima); },
+                     [&] { leer(miembro.key(), miembro.value()); });
 }
 
 [[noreturn]] void Desconocido()
@@ -101,7 +102,7 @@ const T* Tomar(std::span<const IBIMCtrl::Argumento> argumentos, std::size_t i)
 template <class Clave, class Valor>
 Valor Entrada(const std::map<Clave, Valor>& mapa, std::span<const IBIMCtrl::Argumento> argumentos)
 {
-    const Clave* clave = Tomar<Clave>(argumentos, 0);
+    const auto* clave = Tomar<Clave>(argumentos, 0);
     const auto entrada = clave == nullptr ? mapa.end() : mapa.find(*clave);
     return entrada == mapa.end() ? Valor{} : entrada->second;
 }
@@ -112,20 +113,21 @@ Dibujo LeerDibujo(const Json& j)
 {
     Dibujo dibujo;
     LeerMiembros(j, [&](const std::string& nombre, const Json& valor) {
-        if (nombre == "blocks")
+        if (nombre == "blocks") {
             LeerMiembros(valor, [&](const std::string& numero, const Json& bloque) {
                 dibujo.bloques[Numero(numero)] = LeerBloque(bloque);
             });
-        else if (nombre == "categories")
+        } else if (nombre == "categories") {
             LeerMiembros(valor, [&](const std::string& categoria, const Json& numero) {
                 LeerValor(numero, dibujo.categorias[CadenaDesdeUtf8(categoria)]);
             });
-        else if (nombre == "symbols")
+        } else if (nombre == "symbols") {
             LeerMiembros(valor, [&](const std::string& numero, const Json& simbolo) {
                 dibujo.simbolos[Numero(numero)] = LeerSimbolo(simbolo);
             });
-        else
+        } else {
             Desconocido();
+        }
     });
     return dibujo;
 }

@@ -10,9 +10,9 @@ namespace efv::orden::rpc {
 
 namespace {
 
-constexpr std::size_t kBufer = 256 * 1024;
+constexpr std::size_t kBufer = std::size_t{256} * 1024;
 // A partial line's memory is kept for the next one up to this size.
-constexpr std::size_t kParcialRetenida = 1024 * 1024;
+constexpr std::size_t kParcialRetenida = std::size_t{1024} * 1024;
 
 // True when the call is worth repeating: interrupted, or a descriptor that doesn't block wasn't ready.
 bool Reintentar(int iDescriptor, short nSuceso)

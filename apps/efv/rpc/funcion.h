@@ -173,7 +173,8 @@ public:
         m_invocar(*this, argumentos, contexto, salida);
     }
 
-    constexpr bool MismaQue(const Funcion& otra) const
+    /// True when the two rows share name or function: one was copied and not wholly changed.
+    bool MismaQue(const Funcion& otra) const
     {
         return m_nombre == otra.m_nombre || m_invocar == otra.m_invocar;
     }

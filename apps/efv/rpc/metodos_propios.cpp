@@ -75,13 +75,12 @@ void Discover(const Json& params, std::string& salida)
     char separador = '[';
     for (const Funcion& funcion : Funciones()) {
         const Firma firma = funcion.GetFirma();
-        salida += fmt::format("{}{{\"name\":\"{}\",\"returns\":\"{}\",\"params\":[", separador,
-                              funcion.GetNombre(), firma.retorno);
+        salida += fmt::format(R"({}{{"name":"{}","returns":"{}","params":[)", separador, funcion.GetNombre(),
+                              firma.retorno);
         separador = ',';
         std::string_view coma;
         for (const Firma::Parametro& parametro : firma.parametros) {
-            salida +=
-                fmt::format("{}{{\"name\":\"{}\",\"type\":\"{}\"}}", coma, parametro.nombre, parametro.tipo);
+            salida += fmt::format(R"({}{{"name":"{}","type":"{}"}})", coma, parametro.nombre, parametro.tipo);
             coma = ",";
         }
         salida += "]}";

@@ -19,7 +19,7 @@ namespace efv::orden::rpc {
 namespace {
 
 // Answers are held back, while more requests wait, up to this size.
-constexpr std::size_t kVolcado = 1024 * 1024;
+constexpr std::size_t kVolcado = std::size_t{1024} * 1024;
 [[maybe_unused]] constexpr int kBloqueGrande = 256 * 1024;
 
 #if defined(__SANITIZE_ADDRESS__)
@@ -38,7 +38,7 @@ constexpr bool kConSaneador = false;
 // sanitizer reserves address space far beyond any such limit.
 void LimitarMemoria()
 {
-    constexpr rlim_t maximo = 1024 * 1024 * 1024;
+    constexpr rlim_t maximo = rlim_t{1024} * 1024 * 1024;
     rlimit limite{};
     if (kConSaneador || ::getrlimit(RLIMIT_AS, &limite) != 0)
         return;
@@ -46,11 +46,20 @@ void LimitarMemoria()
     ::setrlimit(RLIMIT_AS, &limite);
 }
 
+// A closed output shows in the failing write.
+void IgnorarTuberiaRota()
+{
+    struct sigaction accion {};
+    accion.sa_handler = SIG_IGN;
+    ::sigaction(SIGPIPE, &accion, nullptr);
+}
+
 // Large blocks go back to the system as soon as they are freed, so that a large request leaves room for
 // the next one.
 void DevolverMemoria()
 {
 #if defined(__GLIBC__)
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread
     ::mallopt(M_MMAP_THRESHOLD, kBloqueGrande);
 #endif
 }
@@ -68,8 +77,7 @@ int AtenderEntrada()
 {
     LimitarMemoria();
     DevolverMemoria();
-    // A closed output shows in the failing write.
-    std::signal(SIGPIPE, SIG_IGN);
+    IgnorarTuberiaRota();
     Servidor servidor;
     LectorLineas lector(STDIN_FILENO, kLineaMaxima);
     std::string respuestas;

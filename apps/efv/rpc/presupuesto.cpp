@@ -14,7 +14,7 @@ constexpr std::size_t kElemento = 48;
 constexpr std::size_t kMedioTexto = 32;
 
 // Documents of shorter lines need no reserve, bytes.
-constexpr std::size_t kLineaPequena = 64 * 1024;
+constexpr std::size_t kLineaPequena = std::size_t{64} * 1024;
 
 constexpr auto kCoste = [] {
     std::array<unsigned char, 256> coste{};

@@ -9,11 +9,11 @@
 namespace efv::orden::rpc {
 
 /// Longest line that is read, bytes.
-inline constexpr std::size_t kLineaMaxima = 64 * 1024 * 1024;
+inline constexpr std::size_t kLineaMaxima = std::size_t{64} * 1024 * 1024;
 /// Deepest nesting of lists and objects.
 inline constexpr int kProfundidadMaxima = 64;
 /// Most memory that a document may take besides the bytes of its texts.
-inline constexpr std::size_t kDocumentoMaximo = 200 * 1000 * 1000;
+inline constexpr std::size_t kDocumentoMaximo = std::size_t{200} * 1000 * 1000;
 
 enum class Veredicto { admisible, demasiadoProfunda, demasiadoGrande, conNulo };
 

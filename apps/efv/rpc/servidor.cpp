@@ -51,7 +51,7 @@ ControlGuionizado& ControlDelProceso()
 
 void EscribirError(std::string& salida, std::string_view id, Codigo codigo, std::string_view texto)
 {
-    salida += fmt::format("{{\"jsonrpc\":\"2.0\",\"id\":{},\"error\":{{\"code\":{},\"message\":", id,
+    salida += fmt::format(R"({{"jsonrpc":"2.0","id":{},"error":{{"code":{},"message":)", id,
                           static_cast<int>(codigo));
     EscribirTexto(salida, texto);
     salida += "}}\n";
@@ -105,7 +105,7 @@ std::string LeerId(const Json& id)
 std::string_view LeerMetodo(const Json& documento)
 {
     if (Miembro(documento, "jsonrpc") != "2.0")
-        throw ErrorRpc(Codigo::noEsPeticion, "falta \"jsonrpc\":\"2.0\"");
+        throw ErrorRpc(Codigo::noEsPeticion, R"(falta "jsonrpc":"2.0")");
     const Json& metodo = Miembro(documento, "method");
     if (!metodo.is_string())
         throw ErrorRpc(Codigo::noEsPeticion, "falta method, un texto");
@@ -193,7 +193,7 @@ void Servidor::Atender(std::string_view linea, std::string& id, std::string& sal
     documento = Interpretar(linea);
     ComprobarPeticion(documento);
     id = LeerId(Miembro(documento, "id"));
-    salida += "{\"jsonrpc\":\"2.0\",\"id\":";
+    salida += R"({"jsonrpc":"2.0","id":)";
     salida += id;
     salida += ",\"result\":";
     Llamar(documento, salida);
@@ -251,7 +251,7 @@ void Servidor::EscribirMensajes(std::string& salida) const
         EscribirTexto(salida, CadenaUtf8(mensaje.csTitulo));
         salida += ",\"text\":";
         EscribirTexto(salida, CadenaUtf8(mensaje.csTexto));
-        salida += fmt::format(",\"icon\":\"{}\",\"answer\":\"{}\"}}", NombreDe(kIconos, mensaje.icono),
+        salida += fmt::format(R"(,"icon":"{}","answer":"{}"}})", NombreDe(kIconos, mensaje.icono),
                               NombreDe(kRespuestas, respuesta));
     }
     salida += ']';

@@ -101,17 +101,6 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phTranslateValor>("phTranslateValor", "iModo, dValor, dRef"),
 });
 
-// A row copied and not wholly changed would answer for another function.
-consteval bool SinRepetidas()
-{
-    for (std::size_t i = 0; i < kFunciones.size(); ++i)
-        for (std::size_t k = 0; k < i; ++k)
-            if (kFunciones[i].MismaQue(kFunciones[k]))
-                return false;
-    return true;
-}
-static_assert(SinRepetidas());
-
 }  // namespace
 
 std::span<const Funcion> Funciones()

@@ -242,13 +242,15 @@ void LeerRegistro(const Json& j, CObject& registro)
     if (!j.is_object())
         Esperaba("un objeto con los campos del registro", j);
     const std::vector<CampoRegistro> campos = CamposDeRegistro(registro);
-    for (const auto& [nombre, valor] : j.items()) {
+    for (const auto& miembro : j.items()) {
+        const std::string& nombre = miembro.key();
         const auto campo = std::ranges::find(campos, std::string_view(nombre), &CampoRegistro::nombre);
         if (campo == campos.end())
             throw ErrorValor(fmt::format("no hay campo «{}»; los campos son {}", nombre.substr(0, kCitaMaxima),
                                          NombresDeCampos(campos)));
-        NombrarLugar([&] { return "campo " + nombre; },
-                     [&] { std::visit([&](auto* destino) { LeerValor(valor, *destino); }, campo->valor); });
+        NombrarLugar(
+            [&] { return "campo " + nombre; },
+            [&] { std::visit([&](auto* destino) { LeerValor(miembro.value(), *destino); }, campo->valor); });
     }
 }
 
