@@ -83,12 +83,34 @@ QWidget* PadreActual(QWidget* padre)
     return padre;
 }
 
+namespace {
+
+// A text of more lines than a screen has goes behind a button, but for its first ones.
+void PonerTexto(QMessageBox& caja, const QString& texto)
+{
+    constexpr qsizetype kLineas = 20;
+    caja.setTextFormat(Qt::PlainText);
+    if (texto.count('\n') <= kLineas) {
+        caja.setText(texto);
+        return;
+    }
+    caja.setText(texto.section('\n', 0, kLineas - 1) + "\n…");
+    caja.setDetailedText(texto);
+    for (QAbstractButton* boton : caja.buttons()) {
+        // The button writes its own caption at each click.
+        const auto rotular = [boton] { boton->setText(QStringLiteral("&Detalles")); };
+        rotular();
+        QObject::connect(boton, &QAbstractButton::clicked, boton, rotular, Qt::QueuedConnection);
+    }
+}
+
+}  // namespace
+
 ui::Respuesta MostrarCaja(QWidget* padre, const ui::Mensaje& mensaje)
 {
     ContarCaja();
-    QMessageBox caja(IconoDeCaja(mensaje.icono), AQt(mensaje.csTitulo), AQt(mensaje.csTexto), QMessageBox::NoButton,
-                     padre);
-    caja.setTextFormat(Qt::PlainText);
+    QMessageBox caja(IconoDeCaja(mensaje.icono), AQt(mensaje.csTitulo), {}, QMessageBox::NoButton, padre);
+    PonerTexto(caja, AQt(mensaje.csTexto));
     caja.setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (mensaje.botones == ui::Botones::aceptar) {
         caja.setEscapeButton(caja.addButton(QStringLiteral("Aceptar"), QMessageBox::AcceptRole));
@@ -111,7 +133,8 @@ ui::Respuesta MostrarCaja(QWidget* padre, const ui::Mensaje& mensaje)
 void MostrarFallo(QWidget* padre, const char* texto) noexcept
 {
     try {
-        MostrarCaja(padre, {CString(ui::kTituloModulo), CadenaDesdeUtf8(texto), ui::Icono::error, ui::Botones::aceptar});
+        MostrarCaja(padre, {CString(ui::kTituloModulo), CadenaDesdeUtf8(texto), ui::Icono::error,
+                            ui::Botones::aceptar});
     } catch (const std::exception&) {
         // No memory for a box: the dialog goes on without it.
         qWarning("%s", texto);
@@ -132,8 +155,8 @@ std::optional<CString> ElegirFichero(QWidget* padre, const ui::PeticionFichero& 
     selector.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
     selector.setLabelText(QFileDialog::FileName, QStringLiteral("Nombre:"));
     selector.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));
-    selector.setLabelText(QFileDialog::Accept, titulo == "Abrir" || !peticion.bGuardar ? QStringLiteral("Abrir")
-                                                                                       : QStringLiteral("Guardar"));
+    selector.setLabelText(QFileDialog::Accept,
+                          peticion.bGuardar ? QStringLiteral("Guardar") : QStringLiteral("Abrir"));
     selector.setLabelText(QFileDialog::Reject, QStringLiteral("Cancelar"));
     QStringList filtros;
     for (const ui::FiltroFichero& filtro : peticion.filtros)
@@ -149,8 +172,9 @@ std::optional<CString> ElegirFichero(QWidget* padre, const ui::PeticionFichero& 
             ruta += Extension(peticion, selector.selectedNameFilter());
         const CString csRuta = DeQt(QDir::toNativeSeparators(ruta));
         if (!peticion.bGuardar || !QFileInfo::exists(ruta) ||
-            MostrarCaja(&selector, {DeQt(titulo), L"El archivo \"" + csRuta + L"\" ya existe.\n¿Desea reemplazarlo?",
-                                    ui::Icono::advertencia, ui::Botones::siNo}) == ui::Respuesta::si)
+            MostrarCaja(&selector,
+                        {DeQt(titulo), L"El archivo \"" + csRuta + L"\" ya existe.\n¿Desea reemplazarlo?",
+                         ui::Icono::advertencia, ui::Botones::siNo}) == ui::Respuesta::si)
             return csRuta;
     }
     return std::nullopt;

@@ -7,8 +7,10 @@ namespace efv::qt {
 
 namespace {
 
-// Least contrast of thick letters and of drawings that must be told apart (WCAG 2.1, 1.4.3 and 1.4.11).
-constexpr double kContraste = 3.0;
+// Least contrasts of WCAG 2.1, 1.4.3 and 1.4.11. Colours are chosen for a light background: there they
+// change only when even a drawing couldn't be told apart.
+constexpr double kContrasteClaro = 3.0;
+constexpr double kContrasteOscuro = 4.5;
 
 // Relative luminance of WCAG 2.1.
 double Luminancia(const QColor& color)
@@ -34,10 +36,12 @@ QColor DeColor(ui::Color color)
 
 QColor Legible(const QColor& color, const QColor& fondo)
 {
-    const QColor meta = Luminancia(fondo) < 0.18 ? Qt::white : Qt::black;
+    const bool bOscuro = Luminancia(fondo) < 0.18;
+    const QColor meta = bOscuro ? Qt::white : Qt::black;
+    const double dContraste = bOscuro ? kContrasteOscuro : kContrasteClaro;
     QColor legible = color;
     constexpr float kPasos = 20.0F;
-    for (float f = 1.0F; f <= kPasos && Contraste(legible, fondo) < kContraste; ++f) {
+    for (float f = 1.0F; f <= kPasos && Contraste(legible, fondo) < dContraste; ++f) {
         const float t = f / kPasos;
         legible = QColor::fromRgbF(color.redF() + t * (meta.redF() - color.redF()),
                                    color.greenF() + t * (meta.greenF() - color.greenF()),

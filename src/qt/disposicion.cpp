@@ -3,12 +3,11 @@
 #include <algorithm>
 #include <map>
 #include <set>
+#include <type_traits>
 
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QLabel>
-#include <QLineEdit>
-#include <QStyle>
 
 #include "qt/texto.h"
 
@@ -17,10 +16,13 @@ namespace efv::qt {
 namespace {
 
 constexpr std::size_t kLetrasDeBotones = 70;  // captions in one row of buttons
+constexpr std::size_t kLetrasDeIcono = 4;     // what a button with a picture takes of them
 constexpr std::size_t kLetrasDeUnidad = 16;   // a text no longer than this may be a unit behind a field
 constexpr int kSeparacionColumnas = 18;
-// Columns of the grid that a column of the form takes: caption and field.
-constexpr int kAnchoColumna = 2;
+constexpr int kSeparacion = 8;
+// Columns of the grid that a column of the form takes: caption, field, a gap to the next.
+constexpr int kAnchoColumna = 3;
+constexpr int kRotuloYCampo = 2;
 
 /// What gets a place of its own: a field with what follows on its line, a row of buttons, a group.
 struct Elemento {
@@ -61,18 +63,21 @@ bool Acompana(const Vista& vista)
 
 class Area {
 public:
-    Area(std::vector<GrupoDispuesto>& grupos, bool bHayEstirados) : m_grupos(grupos), m_bHayEstirados(bHayEstirados)
+    Area(std::vector<GrupoDispuesto>& grupos, bool bHayEstirados)
+        : m_grupos(grupos), m_bHayEstirados(bHayEstirados)
     {
     }
 
     void Disponer(QWidget* contenedor, const std::vector<Elemento>& elementos)
     {
-        auto* pila = new QVBoxLayout(contenedor);
+        auto* pila = new QVBoxLayout;
+        contenedor->setLayout(pila);
         const bool bEstira = std::ranges::any_of(elementos, [&](const Elemento& e) { return Estira(e); });
         for (const auto& banda : EnBandas(elementos)) {
             const bool bBandaEstira = std::ranges::any_of(banda, [&](const Elemento& e) { return Estira(e); });
-            pila->addLayout(LeidaPorFilas(elementos) ? PorFilas(contenedor, banda) : PorColumnas(contenedor, banda),
-                            bBandaEstira ? 1 : 0);
+            pila->addLayout(
+                LeidaPorFilas(elementos) ? PorFilas(contenedor, banda) : PorColumnas(contenedor, banda),
+                bBandaEstira ? 1 : 0);
         }
         if (!bEstira)
             pila->addStretch();
@@ -110,12 +115,19 @@ private:
         const Vista& primera = *elemento.vistas.front();
         if (EsCampo(primera))
             return Acompana(vista);
-        if (!EsBoton(primera) || !EsBoton(vista))
+        // Buttons in a column beside others stand one below the other.
+        if (elemento.iColumna > 0 || !EsBoton(primera) || !EsBoton(vista))
             return false;
-        std::size_t nLetras = vista.control.csRotulo.size();
+        std::size_t nLetras = LetrasDe(vista.control);
         for (const Vista* otra : elemento.vistas)
-            nLetras += otra->control.csRotulo.size();
+            nLetras += LetrasDe(otra->control);
         return nLetras <= kLetrasDeBotones;
+    }
+
+    static std::size_t LetrasDe(const ui::Control& control)
+    {
+        const auto* boton = dynamic_cast<const ui::Boton*>(&control);
+        return boton != nullptr && !boton->csImagen.empty() ? kLetrasDeIcono : control.csRotulo.size();
     }
 
     bool Estira(const Vista& vista) const
@@ -166,14 +178,30 @@ private:
     QLayout* PorFilas(QWidget* contenedor, const std::vector<Elemento>& elementos)
     {
         auto* rejilla = NuevaRejilla();
-        int iFila = -1;
-        int iAnterior = 0;
-        for (const Elemento& elemento : elementos) {
-            if (iFila < 0 || elemento.iColumna <= iAnterior)
-                ++iFila;
-            iAnterior = elemento.iColumna;
-            Colocar(contenedor, *rejilla, elemento, iFila, elemento.iColumna);
-            rejilla->setColumnStretch(elemento.iColumna * kAnchoColumna + 1, 1);
+        int iUltima = 0;
+        for (const Elemento& elemento : elementos)
+            iUltima = std::max(iUltima, elemento.iColumna);
+        for (int iColumna = 0; iColumna <= iUltima; ++iColumna) {
+            rejilla->setColumnStretch(iColumna * kAnchoColumna + 1, 1);
+            if (iColumna < iUltima)
+                rejilla->setColumnMinimumWidth(iColumna * kAnchoColumna + 2,
+                                               kSeparacionColumnas - 2 * kSeparacion);
+        }
+        int iFila = 0;
+        for (auto desde = elementos.begin(); desde != elementos.end(); ++iFila) {
+            auto hasta = std::next(desde);
+            while (hasta != elementos.end() && hasta->iColumna > std::prev(hasta)->iColumna)
+                ++hasta;
+            // What is alone in its row and no field has the whole of it.
+            const bool bSolo = std::next(desde) == hasta && !EsCampo(*desde->vistas.front());
+            const bool bSoloCampos =
+                std::all_of(desde, hasta, [](const Elemento& e) { return EsDeUnaLinea(e); });
+            for (; desde != hasta; ++desde) {
+                const int nColumnas =
+                    bSolo ? (iUltima - desde->iColumna) * kAnchoColumna + kRotuloYCampo : kRotuloYCampo;
+                Colocar(contenedor, *rejilla, *desde,
+                        {iFila, desde->iColumna * kAnchoColumna, nColumnas, !bSoloCampos});
+            }
         }
         return rejilla;
     }
@@ -192,7 +220,7 @@ private:
             int iFila = 0;
             for (auto e = desde; e != hasta; ++e) {
                 bColumnaEstira = bColumnaEstira || Estira(*e);
-                Colocar(contenedor, *rejilla, *e, iFila++, 0);
+                Colocar(contenedor, *rejilla, *e, {iFila++, 0, kRotuloYCampo, false});
             }
             if (!bColumnaEstira)
                 rejilla->setRowStretch(iFila, 1);
@@ -205,36 +233,52 @@ private:
     static QGridLayout* NuevaRejilla()
     {
         auto* rejilla = new QGridLayout;
-        rejilla->setHorizontalSpacing(8);
+        rejilla->setHorizontalSpacing(kSeparacion);
         rejilla->setVerticalSpacing(6);
         return rejilla;
     }
 
-    void Colocar(QWidget* contenedor, QGridLayout& rejilla, const Elemento& elemento, int iFila, int iColumna)
+    struct Celda {
+        int iFila, iColumna, nColumnas;
+        bool bArriba;  // its row is taller than a line
+    };
+
+    static bool EsDeUnaLinea(const Elemento& elemento)
     {
-        const int iDesde = iColumna * kAnchoColumna;
-        if (iColumna > 0)
-            rejilla.setColumnMinimumWidth(iDesde, kSeparacionColumnas);
+        return elemento.grupo.empty() && !elemento.vistas.front()->QuiereSitio() &&
+               dynamic_cast<const ui::TextoFijo*>(&elemento.vistas.front()->control) == nullptr;
+    }
+
+    void Colocar(QWidget* contenedor, QGridLayout& rejilla, const Elemento& elemento, const Celda& celda)
+    {
         if (Estira(elemento))
-            rejilla.setRowStretch(iFila, 1);
-        if (!elemento.grupo.empty()) {
-            rejilla.addWidget(Grupo(contenedor, elemento), iFila, iDesde, 1, kAnchoColumna);
+            rejilla.setRowStretch(celda.iFila, 1);
+        const auto alineacion = celda.bArriba && EsDeUnaLinea(elemento) ? Qt::AlignTop : Qt::Alignment();
+        const auto aTodoLoAncho = [&](auto* cosa) {
+            if constexpr (std::is_base_of_v<QWidget, std::remove_pointer_t<decltype(cosa)>>)
+                rejilla.addWidget(cosa, celda.iFila, celda.iColumna, 1, celda.nColumnas, alineacion);
+            else
+                rejilla.addLayout(cosa, celda.iFila, celda.iColumna, 1, celda.nColumnas, alineacion);
+        };
+        if (!elemento.grupo.empty())
+            return aTodoLoAncho(Grupo(contenedor, elemento));
+        Vista& primera = *elemento.vistas.front();
+        if (EsBoton(primera))
+            return aTodoLoAncho(EnLinea(elemento.vistas, elemento.iColumna == 0));
+        if (EsCampo(primera)) {
+            QLabel* rotulo = Rotulo(contenedor, primera);
+            if (celda.bArriba)
+                rotulo->setMinimumHeight(primera.widget->sizeHint().height());
+            rejilla.addWidget(rotulo, celda.iFila, celda.iColumna, alineacion);
+            rejilla.addLayout(EnLinea(elemento.vistas, false), celda.iFila, celda.iColumna + 1, alineacion);
             return;
         }
-        Vista& primera = *elemento.vistas.front();
-        if (EsBoton(primera)) {
-            rejilla.addLayout(EnLinea(elemento.vistas, true), iFila, iDesde, 1, kAnchoColumna);
-        } else if (EsCampo(primera)) {
-            rejilla.addWidget(Rotulo(contenedor, primera), iFila, iDesde);
-            rejilla.addLayout(EnLinea(elemento.vistas, false), iFila, iDesde + 1);
-        } else if (primera.control.csRotulo.empty() || primera.RotulaPorSiMisma()) {
-            rejilla.addWidget(primera.widget, iFila, iDesde, 1, kAnchoColumna);
-        } else {
-            auto* pila = new QVBoxLayout;
-            pila->addWidget(Rotulo(contenedor, primera));
-            pila->addWidget(primera.widget, 1);
-            rejilla.addLayout(pila, iFila, iDesde, 1, kAnchoColumna);
-        }
+        if (primera.control.csRotulo.empty() || primera.RotulaPorSiMisma())
+            return aTodoLoAncho(primera.widget);
+        auto* pila = new QVBoxLayout;
+        pila->addWidget(Rotulo(contenedor, primera));
+        pila->addWidget(primera.widget, 1);
+        aTodoLoAncho(pila);
     }
 
     static QLayout* EnLinea(const std::vector<Vista*>& vistas, bool bBotones)
@@ -277,7 +321,8 @@ private:
 
 void DisponerArea(QWidget* contenedor, const std::vector<Vista*>& vistas, std::vector<GrupoDispuesto>& grupos)
 {
-    const bool bHayEstirados = std::ranges::any_of(vistas, [](const Vista* v) { return v->control.lugar.bEstirar; });
+    const bool bHayEstirados =
+        std::ranges::any_of(vistas, [](const Vista* v) { return v->control.lugar.bEstirar; });
     for (Vista* vista : vistas)
         vista->widget->setParent(contenedor);
     Area(grupos, bHayEstirados).Disponer(contenedor, Area::Reunir(vistas, false));
@@ -285,7 +330,8 @@ void DisponerArea(QWidget* contenedor, const std::vector<Vista*>& vistas, std::v
 
 }  // namespace
 
-std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas, VistaPaginas* paginas)
+std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas,
+                                     VistaPaginas* paginas)
 {
     std::vector<GrupoDispuesto> grupos;
     std::vector<Vista*> fuera;

@@ -17,6 +17,7 @@ struct GrupoDispuesto {
 
 /// Lays the views out in `contenedor`, which has no layout yet, in their order. Labels are made here;
 /// `paginas`, if any, is one of the views.
-std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas, VistaPaginas* paginas);
+std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas,
+                                     VistaPaginas* paginas);
 
 }  // namespace efv::qt

@@ -4,6 +4,7 @@
 #include <array>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include <QIconEngine>
 #include <QPainter>
@@ -48,22 +49,31 @@ constexpr auto kDibujos = std::to_array<Dibujo>({
        {"M 2 4 L 9 4 L 11 6 L 12 13", kAzulVivo},
        {"M 2 4 L 11 4 L 13 6 L 14 13", kVerdeVivo}}}},
     {L"grafica", {{{kEjes, 0}, {"M 3 12 L 6 7 L 9 9 L 14 2", kAzulVivo}}}},
-    {L"barras", {{{kEjes, 0}, {"M 4 9 L 6 9 L 6 13 L 4 13 Z M 8 5 L 10 5 L 10 13 L 8 13 Z M 12 7 L 14 7 L 14 13 L 12 13 Z", kAzulVivo, true}}}},
+    {L"barras",
+     {{{kEjes, 0},
+       {"M 4 9 L 6 9 L 6 13 L 4 13 Z M 8 5 L 10 5 L 10 13 L 8 13 Z M 12 7 L 14 7 L 14 13 L 12 13 Z", kAzulVivo,
+        true}}}},
     {L"anadir", {{{"M 8 2 L 8 14 M 2 8 L 14 8", kVerdeVivo}}}},
     {L"borrar", {{{"M 3 3 L 13 13 M 13 3 L 3 13", kRojoVivo}}}},
     {L"editar", {{{"M 3 13 L 4 10 L 11 3 L 13 5 L 6 12 Z", 0}}}},
     {L"buscar", {{{"O 4.5 6.5 6.5", 0}, {"M 10 10 L 14 14", 0}}}},
     {L"copiar", {{{"M 2 5 L 9 5 L 9 14 L 2 14 Z M 6 5 L 6 2 L 14 2 L 14 11 L 9 11", 0}}}},
-    {L"pegar", {{{"M 3 3 L 13 3 L 13 14 L 3 14 Z M 6 1.5 L 10 1.5 L 10 4 L 6 4 Z M 5 8 L 11 8 M 5 11 L 11 11", 0}}}},
-    {L"guardar", {{{"M 2 2 L 12 2 L 14 4 L 14 14 L 2 14 Z M 5 2 L 5 6 L 11 6 L 11 2 M 4 14 L 4 9 L 12 9 L 12 14", 0}}}},
+    {L"pegar",
+     {{{"M 3 3 L 13 3 L 13 14 L 3 14 Z M 6 1.5 L 10 1.5 L 10 4 L 6 4 Z M 5 8 L 11 8 M 5 11 L 11 11", 0}}}},
+    {L"guardar",
+     {{{"M 2 2 L 12 2 L 14 4 L 14 14 L 2 14 Z M 5 2 L 5 6 L 11 6 L 11 2 M 4 14 L 4 9 L 12 9 L 12 14", 0}}}},
     {L"abrir", {{{"M 1 13 L 1 3 L 6 3 L 7 5 L 13 5 L 13 7 M 1 13 L 4 7 L 15 7 L 12 13 Z", 0}}}},
     {L"subir", {{{"M 8 14 L 8 2 M 3 7 L 8 2 L 13 7", 0}}}},
     {L"bajar", {{{"M 8 2 L 8 14 M 3 9 L 8 14 L 13 9", 0}}}},
-    {L"ayuda", {{{"M 5 5.5 L 6 3.5 L 8 3 L 10 3.5 L 11 5.5 L 10 7.5 L 8 8.5 L 8 10.5", kAzulVivo}, {"O 0.7 8 13", kAzulVivo, true}}}},
+    {L"ayuda",
+     {{{"M 5 5.5 L 6 3.5 L 8 3 L 10 3.5 L 11 5.5 L 10 7.5 L 8 8.5 L 8 10.5", kAzulVivo},
+       {"O 0.7 8 13", kAzulVivo, true}}}},
 });
 
 constexpr Dibujo kGrupo{L"", {{{"M 1 13 L 1 3 L 6 3 L 7 5 L 15 5 L 15 13 Z", kOcre, true}}}};
-constexpr Dibujo kHoja{L"", {{{"M 2 3 L 14 3 L 14 13 L 2 13 Z", kAzulVivo}, {"M 6 3 L 6 13 M 10 3 L 10 13 M 2 8 L 14 8", kAzulVivo}}}};
+constexpr Dibujo kHoja{
+    L"",
+    {{{"M 2 3 L 14 3 L 14 13 L 2 13 Z", kAzulVivo}, {"M 6 3 L 6 13 M 10 3 L 10 13 M 2 8 L 14 8", kAzulVivo}}}};
 
 QPainterPath Camino(const char* instrucciones)
 {
@@ -90,7 +100,7 @@ QPainterPath Camino(const char* instrucciones)
 
 class MotorDibujo final : public QIconEngine {
 public:
-    MotorDibujo(const Dibujo& dibujo, const QPalette& paleta) : m_dibujo(dibujo), m_paleta(paleta) {}
+    MotorDibujo(const Dibujo& dibujo, QPalette paleta) : m_dibujo(dibujo), m_paleta(std::move(paleta)) {}
 
     void paint(QPainter* pintor, const QRect& rect, QIcon::Mode modo, QIcon::State /*estado*/) override
     {

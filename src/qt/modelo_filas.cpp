@@ -50,7 +50,8 @@ void ModeloLista::ContarArbol()
         rama.resize(static_cast<std::size_t>(iNivel));
         Nodo& nodo = m_nodos[static_cast<std::size_t>(iFila)];
         nodo.iPadre = rama.empty() ? -1 : rama.back();
-        nodo.iPosicion = nodo.iPadre < 0 ? m_nRaices++ : m_nodos[static_cast<std::size_t>(nodo.iPadre)].nHijos++;
+        nodo.iPosicion =
+            nodo.iPadre < 0 ? m_nRaices++ : m_nodos[static_cast<std::size_t>(nodo.iPadre)].nHijos++;
         rama.push_back(iFila);
     }
     int iSiguiente = m_nRaices;
@@ -62,7 +63,8 @@ void ModeloLista::ContarArbol()
     for (int iFila = 0; iFila < m_nFilas; ++iFila) {
         const Nodo& nodo = m_nodos[static_cast<std::size_t>(iFila)];
         const int iPrimero = nodo.iPadre < 0 ? 0 : m_nodos[static_cast<std::size_t>(nodo.iPadre)].iHijos;
-        m_hijos[static_cast<std::size_t>(iPrimero + nodo.iPosicion)] = iFila;
+        const int iLugar = iPrimero + nodo.iPosicion;
+        m_hijos[static_cast<std::size_t>(iLugar)] = iFila;
     }
 }
 
@@ -86,7 +88,8 @@ QModelIndex ModeloLista::index(int fila, int columna, const QModelIndex& padre) 
     if (!EsArbol())
         return Indice(fila, columna);
     const int iPrimero = padre.isValid() ? m_nodos[static_cast<std::size_t>(Fila(padre))].iHijos : 0;
-    return Indice(m_hijos[static_cast<std::size_t>(iPrimero + fila)], columna);
+    const int iLugar = iPrimero + fila;
+    return Indice(m_hijos[static_cast<std::size_t>(iLugar)], columna);
 }
 
 QModelIndex ModeloLista::parent(const QModelIndex& indice) const

@@ -27,9 +27,9 @@ public:
 
 private:
     struct Nodo {
-        int iPadre;      // row, -1 at the root
-        int iPosicion;   // among its siblings
-        int iHijos;      // where its children begin in m_hijos
+        int iPadre;     // row, -1 at the root
+        int iPosicion;  // among its siblings
+        int iHijos;     // where its children begin in m_hijos
         int nHijos;
     };
 

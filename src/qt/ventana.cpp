@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include <QApplication>
 #include <QEvent>
@@ -31,6 +32,9 @@ std::vector<VentanaDialogo*>& Abiertas()
 }
 
 constexpr double kParteDePantalla = 0.92;
+constexpr QSize kTamanoMinimo(300, 0);
+constexpr QSize kTamanoMaximizable(760, 540);  // of what is meant to be looked at large
+constexpr int kAdornosDeTitulo = 140;          // icon and buttons of a title bar
 
 }  // namespace
 
@@ -43,18 +47,17 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
         setWindowFlags(Qt::Widget);
     else
         setWindowFlag(Qt::WindowMaximizeButtonHint, dialogo.bMaximizable);
-    auto* contenido = new QWidget;
     CrearVistas();
     std::vector<Vista*> vistas;
     for (const auto& vista : m_vistas)
         vistas.push_back(vista.get());
-    auto* controles = new QWidget(contenido);
+    auto* controles = new QWidget(this);
     m_grupos = Disponer(controles, vistas, m_paginas);
     controles->layout()->setContentsMargins(0, 0, 0, 0);
-    auto* pila = new QVBoxLayout(contenido);
+    auto* pila = new QVBoxLayout(this);
     pila->addWidget(controles, 1);
     if (marco == Marco::ventana)
-        CrearBotones(contenido);
+        CrearBotones(*pila);
     else
         pila->setContentsMargins(0, 0, 0, 0);
     // Tab order is that of the declaration, wherever the views stand.
@@ -72,17 +75,26 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     }
 
     connect(&m_temporizador, &QTimer::timeout, this, &VentanaDialogo::AtenderTemporizador);
+    m_salida.setSingleShot(true);
+    connect(&m_salida, &QTimer::timeout, this, [this] {
+        if (m_porSalir != nullptr)
+            Actuar([](ui::Dialogo&) {});
+    });
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*antes*/, QWidget* ahora) { AtenderFoco(ahora); });
     Refrescar();
-    Encajar(contenido);
+    if (marco == Marco::ventana)
+        DarTamano(*pila, controles);
 }
 
 VentanaDialogo::~VentanaDialogo()
 {
     std::erase(Abiertas(), this);
-    // Children may still lose the focus or change while they go.
+    // The widgets may still signal while they go: they go while there is somebody to hear it, who doesn't
+    // listen.
     ++m_nAcciones;
+    disconnect(qApp, nullptr, this, nullptr);
+    qDeleteAll(findChildren<QWidget*>(Qt::FindDirectChildrenOnly));
 }
 
 VentanaDialogo* VentanaDialogo::De(const ui::Dialogo& dialogo)
@@ -99,7 +111,8 @@ VentanaDialogo* VentanaDialogo::De(const ui::Dialogo& dialogo)
 
 void VentanaDialogo::CrearVistas()
 {
-    const bool bPaginado = std::ranges::any_of(m_dialogo.Controles(), [](const auto& c) { return c->lugar.iPagina >= 0; });
+    const bool bPaginado =
+        std::ranges::any_of(m_dialogo.Controles(), [](const auto& c) { return c->lugar.iPagina >= 0; });
     for (const auto& control : m_dialogo.Controles()) {
         auto* pestanas = dynamic_cast<ui::Seleccion*>(control.get());
         if (bPaginado && m_paginas == nullptr && pestanas != nullptr &&
@@ -113,12 +126,12 @@ void VentanaDialogo::CrearVistas()
     }
 }
 
-void VentanaDialogo::CrearBotones(QWidget* contenido)
+void VentanaDialogo::CrearBotones(QVBoxLayout& pila)
 {
-    m_aceptar = new QPushButton(contenido);
+    m_aceptar = new QPushButton(this);
     m_aceptar->setObjectName("aceptar");
     m_aceptar->setDefault(true);
-    m_cancelar = new QPushButton(contenido);
+    m_cancelar = new QPushButton(this);
     m_cancelar->setObjectName("cancelar");
     // A click on it must not make the field that has the focus complain first.
     m_cancelar->setFocusPolicy(Qt::TabFocus);
@@ -128,28 +141,29 @@ void VentanaDialogo::CrearBotones(QWidget* contenido)
     fila->addStretch();
     fila->addWidget(m_aceptar);
     fila->addWidget(m_cancelar);
-    static_cast<QVBoxLayout*>(contenido->layout())->addSpacing(6);
-    static_cast<QVBoxLayout*>(contenido->layout())->addLayout(fila);
+    pila.addSpacing(6);
+    pila.addLayout(fila);
 }
 
-// What is larger than the screen scrolls.
-void VentanaDialogo::Encajar(QWidget* contenido)
+// Room for the controls and the title; on a screen too small for them the controls scroll.
+void VentanaDialogo::DarTamano(QVBoxLayout& pila, QWidget* controles)
 {
-    auto* todo = new QVBoxLayout(this);
-    todo->setContentsMargins(0, 0, 0, 0);
     const QSize sitio = screen()->availableSize() * kParteDePantalla;
-    const QSize pedido = contenido->sizeHint();
-    if (m_marco == Marco::panel || (pedido.width() <= sitio.width() && pedido.height() <= sitio.height())) {
-        todo->addWidget(contenido);
-        return;
+    QSize pedido = sizeHint();
+    if (pedido.width() > sitio.width() || pedido.height() > sitio.height()) {
+        auto* rollo = new QScrollArea(this);
+        rollo->setFrameShape(QFrame::NoFrame);
+        rollo->setWidgetResizable(true);
+        rollo->setFocusPolicy(Qt::NoFocus);
+        delete pila.replaceWidget(controles, rollo);
+        controles->layout()->setContentsMargins(0, 0, 6, 0);
+        rollo->setWidget(controles);
+        pedido += QSize(rollo->verticalScrollBar()->sizeHint().width(),
+                        rollo->horizontalScrollBar()->sizeHint().height());
     }
-    auto* rollo = new QScrollArea;
-    rollo->setFrameShape(QFrame::NoFrame);
-    rollo->setWidgetResizable(true);
-    rollo->setWidget(contenido);
-    todo->addWidget(rollo);
-    const QSize barras(rollo->verticalScrollBar()->sizeHint().width(), rollo->horizontalScrollBar()->sizeHint().height());
-    resize((pedido + barras).boundedTo(sitio));
+    const QSize minimo = m_dialogo.bMaximizable ? kTamanoMaximizable : kTamanoMinimo;
+    const QSize titulo(fontMetrics().horizontalAdvance(windowTitle()) + kAdornosDeTitulo, 0);
+    resize(pedido.expandedTo(minimo).expandedTo(titulo).boundedTo(sitio));
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -186,6 +200,8 @@ void VentanaDialogo::Refrescar()
 
 void VentanaDialogo::Ejecutar(const std::function<void(ui::Dialogo&)>& accion)
 {
+    const QPointer<VentanaDialogo> yo(this);
+    ++m_nAcciones;
     // An exception must not reach Qt's loop: it would take the whole host with it.
     try {
         accion(m_dialogo);
@@ -194,37 +210,32 @@ void VentanaDialogo::Ejecutar(const std::function<void(ui::Dialogo&)>& accion)
     } catch (...) {
         MostrarFallo(this, "Error inesperado.");
     }
-}
-
-void VentanaDialogo::ActuarSinSalir(const std::function<void(ui::Dialogo&)>& accion)
-{
-    if (m_nAcciones > 0 || m_dialogo.Terminado())
-        return;
-    const QPointer<VentanaDialogo> yo(this);
-    const int nCajas = CajasMostradas();
-    ++m_nAcciones;
-    Ejecutar(accion);
-    if (!yo)
-        return;
-    --m_nAcciones;
-    Refrescar();
-    if (m_dialogo.Terminado()) {
-        if (m_marco == Marco::ventana)
-            done(m_dialogo.ResultadoFinal());
-        return;
-    }
-    PonerFoco(CajasMostradas() != nCajas);
+    if (yo)
+        --m_nAcciones;
 }
 
 void VentanaDialogo::Actuar(const std::function<void(ui::Dialogo&)>& accion)
 {
-    if (m_nAcciones > 0)
+    if (m_nAcciones > 0 || m_dialogo.Terminado())
         return;
+    // The host may delete the window of a panel in the middle of all this.
     const QPointer<VentanaDialogo> yo(this);
-    if (VaciarSalida())
-        ActuarSinSalir(accion);
-    else if (yo)
-        Refrescar();
+    const int nCajas = CajasMostradas();
+    bool bSeguir = true;
+    if (ui::Edicion* salida = std::exchange(m_porSalir, nullptr)) {
+        Ejecutar([salida](ui::Dialogo& dialogo) { dialogo.Salir(*salida); });
+        // When the person was told something about the field that they left, the rest is off.
+        bSeguir = yo && !m_dialogo.Terminado() && CajasMostradas() == nCajas;
+    }
+    if (bSeguir)
+        Ejecutar(accion);
+    if (!yo)
+        return;
+    Refrescar();
+    if (!m_dialogo.Terminado())
+        PonerFoco(CajasMostradas() != nCajas);
+    else if (m_marco == Marco::ventana)
+        done(m_dialogo.ResultadoFinal());
 }
 
 void VentanaDialogo::HaSalido(ui::Edicion& control)
@@ -233,20 +244,7 @@ void VentanaDialogo::HaSalido(ui::Edicion& control)
         return;
     // Later, from the loop: the answer may be a box, and a mouse button may still be down.
     m_porSalir = &control;
-    QMetaObject::invokeMethod(this, [this] { VaciarSalida(); }, Qt::QueuedConnection);
-}
-
-// Tells the dialog that a field was left, if one was. False when the person was told something about it,
-// or the dialog ended: what was to come next is off.
-bool VentanaDialogo::VaciarSalida()
-{
-    if (m_porSalir == nullptr || m_nAcciones > 0)
-        return true;
-    ui::Edicion& control = *std::exchange(m_porSalir, nullptr);
-    const QPointer<VentanaDialogo> yo(this);
-    const int nCajas = CajasMostradas();
-    ActuarSinSalir([&](ui::Dialogo& dialogo) { dialogo.Salir(control); });
-    return yo && !m_dialogo.Terminado() && CajasMostradas() == nCajas;
+    m_salida.start(0);
 }
 
 void VentanaDialogo::Aceptar()
@@ -269,7 +267,9 @@ void VentanaDialogo::reject()
     if (m_marco == Marco::panel)
         return;
     m_porSalir = nullptr;
-    ActuarSinSalir([](ui::Dialogo& dialogo) { dialogo.Cancelar(); });
+    if (m_dialogo.Terminado())
+        done(m_dialogo.ResultadoFinal());
+    Actuar([](ui::Dialogo& dialogo) { dialogo.Cancelar(); });
 }
 
 void VentanaDialogo::keyPressEvent(QKeyEvent* evento)
@@ -282,7 +282,7 @@ void VentanaDialogo::keyPressEvent(QKeyEvent* evento)
 
 void VentanaDialogo::AtenderTemporizador()
 {
-    ActuarSinSalir([](ui::Dialogo& dialogo) { dialogo.VencerTemporizador(); });
+    Actuar([](ui::Dialogo& dialogo) { dialogo.VencerTemporizador(); });
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -291,7 +291,8 @@ void VentanaDialogo::AtenderTemporizador()
 
 Vista* VentanaDialogo::VistaDe(const ui::Control* control) const
 {
-    const auto hallada = std::ranges::find_if(m_vistas, [&](const auto& vista) { return &vista->control == control; });
+    const auto hallada =
+        std::ranges::find_if(m_vistas, [&](const auto& vista) { return &vista->control == control; });
     return hallada == m_vistas.end() ? nullptr : hallada->get();
 }
 
@@ -332,6 +333,8 @@ void VentanaDialogo::PonerFoco(bool bSeAviso)
         m_paginas->Mostrar(control->lugar.iPagina);
     }
     vista->Enfocar();
+    if (auto* rollo = findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
+        rollo->ensureWidgetVisible(vista->widget);
     m_dialogo.foco = control;
     m_bMoviendoFoco = false;
 }
@@ -341,8 +344,9 @@ void VentanaDialogo::EnfocarPrimera()
     Vista* primera = VistaDe(m_dialogo.foco);
     for (const auto& vista : m_vistas) {
         const int iPagina = vista->control.lugar.iPagina;
-        const bool bALaVista = iPagina < 0 || m_paginas == nullptr ||
-                               iPagina == std::max(0, static_cast<const ui::Seleccion&>(m_paginas->control).iSeleccion);
+        const bool bALaVista =
+            iPagina < 0 || m_paginas == nullptr ||
+            iPagina == std::max(0, static_cast<const ui::Seleccion&>(m_paginas->control).iSeleccion);
         if (primera == nullptr && vista->AdmiteFoco() && bALaVista)
             primera = vista.get();
     }

@@ -14,6 +14,7 @@
 
 QT_BEGIN_NAMESPACE
 class QPushButton;
+class QVBoxLayout;
 QT_END_NAMESPACE
 
 namespace efv::qt {
@@ -48,12 +49,10 @@ private:
     void HaSalido(ui::Edicion& control) override;
 
     void CrearVistas();
-    void CrearBotones(QWidget* contenido);
-    void Encajar(QWidget* contenido);
+    void CrearBotones(QVBoxLayout& pila);
+    void DarTamano(QVBoxLayout& pila, QWidget* controles);
 
-    void ActuarSinSalir(const std::function<void(ui::Dialogo&)>& accion);
     void Ejecutar(const std::function<void(ui::Dialogo&)>& accion);
-    bool VaciarSalida();
     void Aceptar();
     void PonerFoco(bool bSeAviso);
     void AtenderFoco(QWidget* conFoco);
@@ -70,10 +69,11 @@ private:
     QPushButton* m_aceptar = nullptr;
     QPushButton* m_cancelar = nullptr;
     QTimer m_temporizador;
+    QTimer m_salida;  // to the next turn of the loop, after a field was left
 
-    int m_nAcciones = 0;                    // running now, one inside the other
-    bool m_bMoviendoFoco = false;           // by us, not by the person
-    ui::Edicion* m_porSalir = nullptr;      // left, and the dialog not told yet
+    int m_nAcciones = 0;                // running now, one inside the other
+    bool m_bMoviendoFoco = false;       // by us, not by the person
+    ui::Edicion* m_porSalir = nullptr;  // left, and the dialog not told yet
     ui::Control* m_focoPedido = nullptr;
     bool m_bMostrada = false;
 };

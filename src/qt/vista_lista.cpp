@@ -14,10 +14,12 @@ namespace efv::qt {
 
 namespace {
 
-constexpr int kFilasMedidas = 40;   // rows that a column's width is taken from
-constexpr int kAnchoMaximo = 680;   // a list asks for no more
+constexpr int kFilasMedidas = 40;  // rows that a column's width is taken from
+constexpr int kAnchoMaximo = 680;  // a list asks for no more
 constexpr int kAnchoMinimo = 220;
-constexpr int kFilasMinimas = 7;
+constexpr int kAireDeFila = 6;  // above and below a row's letters
+constexpr int kFilasMinimas = 5;
+constexpr int kFilasMaximas = 14;
 
 // Both kinds of view tell when they get their size, and open the current cell by the keyboard.
 template <class BASE>
@@ -26,6 +28,9 @@ public:
     using BASE::BASE;
     std::function<void()> alCambiarTamano;
     std::function<void(const QModelIndex&)> alPedirAbrir;
+    QSize propuesto;
+
+    QSize sizeHint() const override { return propuesto; }
 
 protected:
     void resizeEvent(QResizeEvent* evento) override
@@ -48,7 +53,7 @@ QTableView* NuevaTabla(QWidget* padre)
     auto* tabla = new Rejilla<QTableView>(padre);
     tabla->verticalHeader()->hide();
     tabla->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    tabla->verticalHeader()->setDefaultSectionSize(tabla->fontMetrics().height() + 6);
+    tabla->verticalHeader()->setDefaultSectionSize(tabla->fontMetrics().height() + kAireDeFila);
     tabla->setWordWrap(false);
     tabla->setTabKeyNavigation(false);
     tabla->setAlternatingRowColors(true);
@@ -67,9 +72,12 @@ class VistaLista final : public Vista {
 public:
     VistaLista(ui::Lista& lista, QWidget* padre, Accionador& accionador)
         : Vista(lista, lista.forma == ui::Lista::Forma::arbol ? static_cast<QWidget*>(NuevoArbol(padre))
-                                                             : static_cast<QWidget*>(NuevaTabla(padre))),
-          m_lista(lista), m_accionador(accionador), m_modelo(new ModeloLista(lista, widget)),
-          m_uVersion(lista.uVersion), m_filas(lista.modelo)
+                                                              : static_cast<QWidget*>(NuevaTabla(padre))),
+          m_lista(lista),
+          m_accionador(accionador),
+          m_modelo(new ModeloLista(lista, widget)),
+          m_uVersion(lista.uVersion),
+          m_filas(lista.modelo)
     {
         Rejas().setModel(m_modelo);
         Rejas().setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -79,6 +87,7 @@ public:
         Cabecera().setVisible(!lista.acsColumnas.empty());
         Cabecera().setResizeContentsPrecision(kFilasMedidas);
         Cabecera().setHighlightSections(false);
+        Cabecera().setSectionsClickable(false);
         Cabecera().setDefaultAlignment(Qt::AlignCenter);
         if (lista.acsColumnas.size() <= 1)
             Cabecera().setStretchLastSection(true);
@@ -102,14 +111,20 @@ private:
         return Arbol() != nullptr ? *Arbol()->header() : *static_cast<QTableView*>(widget)->horizontalHeader();
     }
 
+    // A view that gets the focus makes a row the current one; chosen it is only once it is selected.
+    int FilaElegida() const
+    {
+        const QModelIndexList filas = Rejas().selectionModel()->selectedRows();
+        return filas.isEmpty() ? -1 : ModeloLista::Fila(filas.constFirst());
+    }
+
     void Conectar()
     {
-        QObject::connect(Rejas().selectionModel(), &QItemSelectionModel::currentRowChanged, widget,
-                         [this](const QModelIndex& actual) {
-                             const int iFila = ModeloLista::Fila(actual);
-                             if (!m_bRefrescando && iFila >= 0)
-                                 m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(m_lista, iFila); });
-                         });
+        QObject::connect(Rejas().selectionModel(), &QItemSelectionModel::selectionChanged, widget, [this] {
+            const int iFila = FilaElegida();
+            if (!m_bRefrescando && iFila >= 0)
+                m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(m_lista, iFila); });
+        });
         const auto abrir = [this](const QModelIndex& indice) {
             m_accionador.Actuar([&](ui::Dialogo& dialogo) {
                 dialogo.Abrir(m_lista, ModeloLista::Fila(indice), indice.column());
@@ -126,7 +141,7 @@ private:
             conectarPropias(static_cast<Rejilla<QTableView>&>(*widget));
     }
 
-    // Width from the first rows, height for a few of them.
+    // Width from the first rows, height for as many as are usual.
     void PedirSitio()
     {
         int iAncho = 2 * Rejas().frameWidth() + Rejas().verticalScrollBar()->sizeHint().width();
@@ -136,8 +151,16 @@ private:
             m_aiAnchos.push_back(std::max(iContenido, Cabecera().sectionSizeHint(i)) + 8);
             iAncho += m_aiAnchos.back();
         }
-        widget->setMinimumWidth(std::clamp(iAncho, kAnchoMinimo, kAnchoMaximo));
-        widget->setMinimumHeight((kFilasMinimas + 1) * (widget->fontMetrics().height() + 6));
+        const int iLinea = widget->fontMetrics().height() + kAireDeFila;
+        const int iMarco =
+            2 * Rejas().frameWidth() + (m_lista.acsColumnas.empty() ? 0 : Cabecera().sizeHint().height());
+        const QSize propuesto(std::clamp(iAncho, kAnchoMinimo, kAnchoMaximo),
+                              iMarco + std::clamp(m_nFilas, kFilasMinimas, kFilasMaximas) * iLinea);
+        if (auto* arbol = dynamic_cast<Rejilla<QTreeView>*>(widget))
+            arbol->propuesto = propuesto;
+        else if (auto* tabla = dynamic_cast<Rejilla<QTableView>*>(widget))
+            tabla->propuesto = propuesto;
+        widget->setMinimumSize(propuesto.width(), iMarco + kFilasMinimas * iLinea);
         RepartirColumnas();
     }
 
@@ -165,11 +188,12 @@ private:
     void RefrescarContenido() override
     {
         m_bRefrescando = true;
-        if (m_uVersion != m_lista.uVersion || m_filas != m_lista.modelo || m_nColumnas != m_lista.acsColumnas.size())
+        if (m_uVersion != m_lista.uVersion || m_filas != m_lista.modelo ||
+            m_nColumnas != m_lista.acsColumnas.size())
             Recargar();
-        const QModelIndex actual = Rejas().currentIndex();
-        if (ModeloLista::Fila(actual) != m_lista.iSeleccion) {
-            const QModelIndex indice = m_modelo->Indice(m_lista.iSeleccion, std::max(0, actual.column()));
+        if (FilaElegida() != m_lista.iSeleccion) {
+            const int iColumna = std::max(0, Rejas().currentIndex().column());
+            const QModelIndex indice = m_modelo->Indice(m_lista.iSeleccion, iColumna);
             if (indice.isValid()) {
                 Rejas().setCurrentIndex(indice);
                 Rejas().scrollTo(indice);

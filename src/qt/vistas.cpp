@@ -13,7 +13,8 @@ namespace efv::qt {
 
 Vista::Vista(ui::Control& controlVisto, QWidget* widgetPropio) : control(controlVisto), widget(widgetPropio)
 {
-    const QString nombre = control.nombre.empty() ? SinMnemonico(control.csRotulo) : QString::fromStdString(control.nombre);
+    const QString nombre =
+        control.nombre.empty() ? SinMnemonico(control.csRotulo) : QString::fromStdString(control.nombre);
     widget->setObjectName(nombre);
     widget->setAccessibleName(SinMnemonico(control.csRotulo));
 }
@@ -31,7 +32,8 @@ void Vista::Refrescar()
         widget->setVisible(control.bVisible);
     if (rotulo == nullptr)
         return;
-    const QString texto = rotulo->buddy() != nullptr ? ConMnemonico(control.csRotulo) : SinMnemonico(control.csRotulo);
+    const QString texto =
+        rotulo->buddy() != nullptr ? ConMnemonico(control.csRotulo) : SinMnemonico(control.csRotulo);
     if (rotulo->text() != texto)
         rotulo->setText(texto);
     rotulo->setEnabled(control.bHabilitado);

@@ -71,7 +71,8 @@ private:
 // Tells when the person, and not another window, takes the focus away.
 class GuardaDeFoco final : public QObject {
 public:
-    GuardaDeFoco(QWidget* widget, std::function<void()> alSalir) : QObject(widget), m_alSalir(std::move(alSalir))
+    GuardaDeFoco(QWidget* widget, std::function<void()> alSalir)
+        : QObject(widget), m_alSalir(std::move(alSalir))
     {
         widget->installEventFilter(this);
     }
@@ -180,8 +181,8 @@ private:
         Campo().setReadOnly(m_edicion.bSoloLectura);
         CString csTexto = m_edicion.csTexto;
         // A text keeps the ends of line that it came with.
-        if (csTexto.find(L'\n') != csTexto.npos)
-            m_bRetornos = csTexto.find(L"\r\n") != csTexto.npos;
+        if (csTexto.find(L'\n') != CString::npos)
+            m_bRetornos = csTexto.find(L"\r\n") != CString::npos;
         std::erase(csTexto, L'\r');
         if (DeQt(Campo().toPlainText()) == csTexto)
             return;
@@ -232,9 +233,8 @@ public:
     VistaBoton(ui::Boton& boton, QWidget* padre, Accionador& accionador)
         : Vista(boton, new QPushButton(padre)), m_boton(boton)
     {
-        QObject::connect(&Pulsador(), &QPushButton::clicked, &Pulsador(), [&] {
-            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Pulsar(boton); });
-        });
+        QObject::connect(&Pulsador(), &QPushButton::clicked, &Pulsador(),
+                         [&] { accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Pulsar(boton); }); });
     }
 
     bool EsAncha() const override { return true; }
@@ -253,8 +253,8 @@ private:
         const bool bConImagen = !Pulsador().icon().isNull();
         const CString& csRotulo = m_boton.csRotulo.empty() ? m_boton.csIndicacion : m_boton.csRotulo;
         Pulsador().setText(bConImagen ? QString() : ConMnemonico(csRotulo));
-        Pulsador().setToolTip(Indicacion(m_boton.csIndicacion.empty() && bConImagen ? m_boton.csRotulo
-                                                                                    : m_boton.csIndicacion));
+        Pulsador().setToolTip(
+            Indicacion(m_boton.csIndicacion.empty() && bConImagen ? m_boton.csRotulo : m_boton.csIndicacion));
         // A few letters don't need a whole button's width.
         const bool bBreve = bConImagen || Pulsador().text().size() <= 3;
         if (bBreve)
@@ -327,18 +327,24 @@ private:
 class VistaRadio final : public Vista {
 public:
     VistaRadio(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
-        : Vista(seleccion, Caja(seleccion, padre)), m_seleccion(seleccion), m_accionador(accionador),
+        : Vista(seleccion, Caja(seleccion, padre)),
+          m_seleccion(seleccion),
+          m_accionador(accionador),
           m_grupo(new QButtonGroup(widget))
     {
         auto* columna = new QVBoxLayout(widget);
         if (seleccion.csRotulo.empty())
             columna->setContentsMargins(0, 0, 0, 0);
+        columna->addStretch();
         PonerEntradas();
     }
 
     bool EsAncha() const override { return true; }
     bool RotulaPorSiMisma() const override { return true; }
-    bool AdmiteFoco() const override { return control.bVisible && Utilizable() && !m_grupo->buttons().isEmpty(); }
+    bool AdmiteFoco() const override
+    {
+        return control.bVisible && Utilizable() && !m_grupo->buttons().isEmpty();
+    }
 
     void Encadenar(const std::function<void(QWidget*)>& siguiente) override
     {
@@ -388,7 +394,7 @@ private:
     {
         auto* boton = new QRadioButton(widget);
         m_grupo->addButton(boton, i);
-        widget->layout()->addWidget(boton);
+        static_cast<QVBoxLayout*>(widget->layout())->insertWidget(i, boton);
         QObject::connect(boton, &QRadioButton::clicked, boton, [this, i] {
             auto& seleccion = static_cast<ui::Seleccion&>(control);
             m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, i); });
@@ -403,7 +409,9 @@ private:
 class VistaMenu final : public Vista {
 public:
     VistaMenu(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
-        : Vista(seleccion, new QPushButton(padre)), m_seleccion(seleccion), m_accionador(accionador),
+        : Vista(seleccion, new QPushButton(padre)),
+          m_seleccion(seleccion),
+          m_accionador(accionador),
           m_menu(new QMenu(widget))
     {
         Pulsador().setMenu(m_menu);
@@ -418,20 +426,23 @@ private:
 
     void RefrescarContenido() override
     {
-        Pulsador().setText(ConMnemonico(m_seleccion.csRotulo.empty() ? m_seleccion.Texto() : m_seleccion.csRotulo));
+        Pulsador().setText(
+            ConMnemonico(m_seleccion.csRotulo.empty() ? m_seleccion.Texto() : m_seleccion.csRotulo));
         if (m_acsEntradas == m_seleccion.acsEntradas)
             return;
         m_acsEntradas = m_seleccion.acsEntradas;
         m_menu->clear();
-        for (std::size_t i = 0; i < m_acsEntradas.size(); ++i) {
-            if (m_acsEntradas[i].empty() || m_acsEntradas[i] == L"-") {
+        int iEntrada = -1;
+        for (const CString& entrada : m_acsEntradas) {
+            ++iEntrada;
+            if (entrada.empty() || entrada == L"-") {
                 m_menu->addSeparator();
                 continue;
             }
             // From the loop, once the menu has closed: what follows may open another dialog.
             QObject::connect(
-                m_menu->addAction(ConMnemonico(m_acsEntradas[i])), &QAction::triggered, widget,
-                [this, iEntrada = static_cast<int>(i)] {
+                m_menu->addAction(ConMnemonico(entrada)), &QAction::triggered, widget,
+                [this, iEntrada] {
                     auto& seleccion = static_cast<ui::Seleccion&>(control);
                     m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
                 },
@@ -484,8 +495,8 @@ public:
     PaginasConPestanas(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
         : VistaPaginas(seleccion, new QTabWidget(padre)), m_seleccion(seleccion)
     {
-        for (std::size_t i = 0; i < seleccion.acsEntradas.size(); ++i)
-            Pestanas().addTab(new QWidget, ConMnemonico(seleccion.acsEntradas[i]));
+        for (const CString& entrada : seleccion.acsEntradas)
+            Pestanas().addTab(new QWidget, ConMnemonico(entrada));
         QObject::connect(&Pestanas(), &QTabWidget::currentChanged, &Pestanas(), [&](int iPagina) {
             accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iPagina); });
         });
@@ -533,7 +544,9 @@ private:
 
 class VistaGrafica final : public Vista {
 public:
-    VistaGrafica(ui::Grafica& grafica, QWidget* padre) : Vista(grafica, new WidgetGrafica(grafica.datos, padre)) {}
+    VistaGrafica(ui::Grafica& grafica, QWidget* padre) : Vista(grafica, new WidgetGrafica(grafica.datos, padre))
+    {
+    }
 
     bool EsAncha() const override { return true; }
     bool QuiereSitio() const override { return true; }

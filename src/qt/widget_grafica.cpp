@@ -20,15 +20,12 @@ namespace efv::qt {
 
 namespace {
 
-constexpr double kRadioLectura = 40.0;  // pixels around the pointer in which a point is read
 constexpr double kEscalaPng = 2.0;
 
 class LienzoQt final : public ui::Lienzo {
 public:
     LienzoQt(QPainter& pintor, const QPalette& paleta)
-        : m_pintor(pintor),
-          m_fondo(paleta.color(QPalette::Base)),
-          m_texto(paleta.color(QPalette::Text))
+        : m_pintor(pintor), m_fondo(paleta.color(QPalette::Base)), m_texto(paleta.color(QPalette::Text))
     {
     }
 
@@ -45,10 +42,13 @@ public:
         m_pintor.drawLine(QPointF(desde.dX, desde.dY), QPointF(hasta.dX, hasta.dY));
     }
 
-    void Texto(ui::Punto base, std::wstring_view texto, double dCuerpo, ui::Ancla ancla, bool bVertical) override
+    void Texto(ui::Punto base, std::wstring_view texto, double dCuerpo, ui::Ancla ancla,
+               bool bVertical) override
     {
         const double dAncho = AnchoTexto(texto, dCuerpo);
-        const double dDesvio = ancla == ui::Ancla::inicio ? 0.0 : ancla == ui::Ancla::centro ? -0.5 * dAncho : -dAncho;
+        const double dDesvio = ancla == ui::Ancla::inicio   ? 0.0
+                               : ancla == ui::Ancla::centro ? -0.5 * dAncho
+                                                            : -dAncho;
         m_pintor.save();
         m_pintor.setFont(Letra(dCuerpo));
         m_pintor.setPen(m_texto);
@@ -126,6 +126,9 @@ void WidgetGrafica::paintEvent(QPaintEvent* /*evento*/)
 {
     QPainter pintor(this);
     Pintar(pintor, true);
+    pintor.setPen(palette().color(QPalette::Mid));
+    pintor.setBrush(Qt::NoBrush);
+    pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
 
 void WidgetGrafica::Pintar(QPainter& pintor, bool bConLectura) const
@@ -142,25 +145,28 @@ void WidgetGrafica::Pintar(QPainter& pintor, bool bConLectura) const
 
 void WidgetGrafica::PintarLectura(QPainter& pintor, const ui::Trazado& trazado) const
 {
-    if (!m_puntero)
+    const ui::Recuadro& marco = trazado.Marco();
+    if (!m_puntero || !QRectF(marco.dX, marco.dY, marco.dAncho, marco.dAlto).contains(*m_puntero))
         return;
-    const auto cercano = trazado.PuntoCercano({m_puntero->x(), m_puntero->y()}, kRadioLectura);
+    const auto cercano = trazado.PuntoCercano({m_puntero->x(), m_puntero->y()}, width() + height());
     if (!cercano)
         return;
     const LienzoQt lienzo(pintor, palette());
-    const ui::Recuadro& marco = trazado.Marco();
     const QPointF punto(cercano->enPantalla.dX, cercano->enPantalla.dY);
     pintor.setPen(QPen(lienzo.Mezcla(0.5), 1.0, Qt::DashLine));
     pintor.drawLine(QPointF(marco.dX, punto.y()), QPointF(marco.dX + marco.dAncho, punto.y()));
     pintor.drawLine(QPointF(punto.x(), marco.dY), QPointF(punto.x(), marco.dY + marco.dAlto));
     const ui::SerieCurva& serie = m_datos.aSeries[cercano->iSerie];
-    pintor.setBrush(ColorDeTexto(serie.color, palette().color(QPalette::Text), palette().color(QPalette::Base)));
+    pintor.setBrush(
+        ColorDeTexto(serie.color, palette().color(QPalette::Text), palette().color(QPalette::Base)));
     pintor.setPen(QPen(palette().color(QPalette::Base), 1.5));
     pintor.drawEllipse(punto, 4.5, 4.5);
 
-    const QString texto = "x = " + AQt(ui::RotuloValor(cercano->dX)) + "\ny = " + AQt(ui::RotuloValor(cercano->dY));
+    const QString texto =
+        "x = " + AQt(ui::RotuloValor(cercano->dX)) + "\ny = " + AQt(ui::RotuloValor(cercano->dY));
     const QFontMetricsF medidas(font());
-    QRectF caja = medidas.boundingRect(QRectF(0, 0, width(), height()), Qt::AlignLeft, texto).adjusted(-6, -4, 6, 4);
+    QRectF caja =
+        medidas.boundingRect(QRectF(0, 0, width(), height()), Qt::AlignLeft, texto).adjusted(-6, -4, 6, 4);
     caja.moveBottomLeft(punto + QPointF(10, -10));
     if (caja.right() > width())
         caja.moveRight(punto.x() - 10);
@@ -196,8 +202,9 @@ void WidgetGrafica::contextMenuEvent(QContextMenuEvent* evento)
 
 void WidgetGrafica::PreguntarYGuardar()
 {
-    const auto csRuta =
-        ElegirFichero(this, {L"Guardar imagen", {{L"Imagen PNG", L"*.png"}, {L"Imagen SVG", L"*.svg"}}, true, L"grafica.png"});
+    const auto csRuta = ElegirFichero(
+        this,
+        {L"Guardar imagen", {{L"Imagen PNG", L"*.png"}, {L"Imagen SVG", L"*.svg"}}, true, L"grafica.png"});
     if (csRuta && !Guardar(AQt(*csRuta)))
         MostrarCaja(this, {L"Guardar imagen", L"No se puede escribir el archivo \"" + *csRuta + L"\".",
                            ui::Icono::error, ui::Botones::aceptar});

@@ -129,7 +129,7 @@ std::vector<CString> EnLineas(const CString& texto, double dAncho, double dCuerp
             while (medidor.AnchoTexto(std::wstring_view(texto).substr(inicio, fin - inicio), dCuerpo) >
                    dAncho) {
                 const std::size_t blanco = texto.rfind(L' ', fin - 1);
-                if (blanco == texto.npos || blanco <= inicio)
+                if (blanco == CString::npos || blanco <= inicio)
                     break;
                 fin = blanco;
             }
@@ -162,6 +162,16 @@ bool EsDeBarras(const SerieCurva& serie)
     return EsVisible(serie) && serie.estilo == EstiloSerie::barra;
 }
 
+// Where the last step ends: its value holds as long as the one before it did. Nothing for other series.
+std::optional<double> FinDeEscalones(const SerieCurva& serie)
+{
+    const std::size_t n = Puntos(serie);
+    if (!EsVisible(serie) || serie.estilo != EstiloSerie::escalon || n < 2 || !EsFinito(serie, n - 1) ||
+        !EsFinito(serie, n - 2))
+        return std::nullopt;
+    return serie.adX[n - 1] + (serie.adX[n - 1] - serie.adX[n - 2]);
+}
+
 // Distance between the nearest two bars; 0 with less than two.
 double HuecoDeBarras(const CCtrlCurva2D& grafica)
 {
@@ -183,7 +193,7 @@ double HuecoDeBarras(const CCtrlCurva2D& grafica)
 
 Trazado::Trazado(const CCtrlCurva2D& grafica, double dAncho, double dAlto, double dCuerpo,
                  const Lienzo& medidor)
-    : m_grafica(grafica), m_dAlto(dAlto), m_dCuerpo(dCuerpo)
+    : m_grafica(grafica), m_dAncho(dAncho), m_dAlto(dAlto), m_dCuerpo(dCuerpo)
 {
     Extension extension = ExtensionDe(grafica);
     m_nBarras = static_cast<std::size_t>(std::ranges::count_if(grafica.aSeries, EsDeBarras));
@@ -200,6 +210,9 @@ Trazado::Trazado(const CCtrlCurva2D& grafica, double dAncho, double dAlto, doubl
             }
         }
     }
+    for (const SerieCurva& serie : grafica.aSeries)
+        if (const auto dFin = FinDeEscalones(serie))
+            extension.dMaxX = std::max(extension.dMaxX, *dFin);
     // A series that only fixes the scale has the last word on it.
     const bool bEscalaDada = !std::ranges::all_of(grafica.aSeries, EsVisible);
     m_ejeX = CalcularEje(extension.dMinX, extension.dMaxX, grafica.iCuadriculaX, false);
@@ -342,7 +355,8 @@ void Trazado::DibujarEjes(Lienzo& lienzo) const
     lienzo.Texto({(kMargen + 0.9) * m_dCuerpo, m_marco.dY + 0.5 * m_marco.dAlto}, m_csTituloY, m_dCuerpo,
                  Ancla::centro, true);
     for (const Linea& linea : m_titulo)
-        lienzo.Texto({dCentro, linea.dBase}, linea.csTexto, kCuerpoTitulo * m_dCuerpo, Ancla::centro, false);
+        lienzo.Texto({0.5 * m_dAncho, linea.dBase}, linea.csTexto, kCuerpoTitulo * m_dCuerpo, Ancla::centro,
+                     false);
 }
 
 void Trazado::DibujarLinea(Lienzo& lienzo, const SerieCurva& serie) const
@@ -362,6 +376,8 @@ void Trazado::DibujarLinea(Lienzo& lienzo, const SerieCurva& serie) const
         pluma.Poner(punto);
         anterior = punto;
     }
+    if (const auto dFin = FinDeEscalones(serie); dFin && anterior)
+        pluma.Poner({APantalla(*dFin, 0.0).dX, anterior->dY});
     pluma.Cortar();
 }
 

@@ -72,7 +72,7 @@ public:
 
     struct Cercano {
         std::size_t iSerie;
-        double dX, dY;   ///< values
+        double dX, dY;  ///< values
         Punto enPantalla;
     };
     /// The point of a visible series nearest to `punto`, not farther than `dRadio` pixels.
@@ -94,7 +94,7 @@ private:
     void DibujarBarras(Lienzo& lienzo, const SerieCurva& serie, std::size_t iBarras) const;
 
     const CCtrlCurva2D& m_grafica;
-    double m_dAlto;
+    double m_dAncho, m_dAlto;
     double m_dCuerpo;
     Eje m_ejeX, m_ejeY;
     Recuadro m_marco{};

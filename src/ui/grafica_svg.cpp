@@ -68,8 +68,9 @@ public:
         if (texto.empty())
             return;
         static constexpr std::array<const char*, 3> kAnclas = {"start", "middle", "end"};
-        documento += "<text fill=\"#222222\" x=\"" + Cifra(base.dX) + "\" y=\"" + Cifra(base.dY) + "\" font-size=\"" +
-                     Cifra(dCuerpo) + "\" text-anchor=\"" + kAnclas[static_cast<std::size_t>(ancla)] + '"';
+        documento += "<text fill=\"#222222\" x=\"" + Cifra(base.dX) + "\" y=\"" + Cifra(base.dY) +
+                     "\" font-size=\"" + Cifra(dCuerpo) + "\" text-anchor=\"" +
+                     kAnclas[static_cast<std::size_t>(ancla)] + '"';
         if (bVertical)
             documento += " transform=\"rotate(-90 " + Cifra(base.dX) + ' ' + Cifra(base.dY) + ")\"";
         documento += '>' + Escapado(texto) + "</text>\n";

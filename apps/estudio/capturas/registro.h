@@ -1,0 +1,25 @@
+// The screens of which pictures are made: one row each.
+#pragma once
+
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <quorvel/ui.h>
+
+namespace efv::estudio {
+
+struct Pantalla {
+    std::string nombre;
+    /// The dialog to show. Null for a screen that only the library can open, through `abrir`.
+    std::function<std::unique_ptr<ui::Dialogo>()> crear;
+    std::function<void()> abrir;
+    /// What is done in each dialog that opens, once its picture is taken: it may open further ones.
+    std::function<void(ui::Dialogo&)> recorrer;
+};
+
+std::vector<Pantalla> Pantallas(const std::filesystem::path& datos);
+
+}  // namespace efv::estudio

@@ -1,0 +1,71 @@
+#include "datos.h"
+
+#include <cstdlib>
+#include <stdexcept>
+
+#include <QCoreApplication>
+#include <QStandardPaths>
+
+#include <QuorvelEFV.h>
+
+namespace efv::estudio {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+void CopiarLoQueFalte(const fs::path& desde, const fs::path& hasta)
+{
+    fs::create_directories(hasta);
+    for (const auto& entrada : fs::directory_iterator(desde)) {
+        const fs::path copia = hasta / entrada.path().filename();
+        if (!entrada.is_regular_file() || fs::exists(copia))
+            continue;
+        fs::copy_file(entrada.path(), copia);
+        // Installed files may be for reading only.
+        fs::permissions(copia, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add);
+    }
+}
+
+}  // namespace
+
+fs::path CarpetaDistribuida()
+{
+    const fs::path programa = QCoreApplication::applicationDirPath().toStdString();
+    const fs::path instalada = programa / EFV_DATOS_RELATIVA;
+    std::error_code fallo;
+    return fs::is_directory(instalada, fallo) ? instalada.lexically_normal() : fs::path(EFV_DATOS_FUENTE);
+}
+
+fs::path CarpetaDeTrabajo(const std::string& opcion)
+{
+    fs::path carpeta = opcion;
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread, and nobody changes the environment
+    if (const char* variable = std::getenv("EFV_DATOS"); carpeta.empty() && variable != nullptr)
+        carpeta = variable;
+    if (carpeta.empty()) {
+        carpeta = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation).toStdString();
+        CopiarLoQueFalte(CarpetaDistribuida(), carpeta);
+    }
+    std::error_code fallo;
+    if (!fs::is_directory(carpeta, fallo))
+        throw std::runtime_error("No existe la carpeta de datos «" + carpeta.string() + "».");
+    return fs::absolute(carpeta);
+}
+
+CString Ruta(const fs::path& carpeta, const char* archivo)
+{
+    return CadenaDesdeUtf8((carpeta / archivo).string());
+}
+
+void PonerDatos(const fs::path& carpeta)
+{
+    phSetPathApp(CadenaDesdeUtf8(QCoreApplication::applicationDirPath().toStdString()).c_str());
+    phSetPathModHE5(CadenaDesdeUtf8(QCoreApplication::applicationDirPath().toStdString()).c_str());
+    // With its separator: file names are joined to it as it stands.
+    phSetPathHE5BD(Ruta(carpeta, "").c_str());
+    phCargarBaseFactorK(Ruta(carpeta, "ZqFactorKHE5.xml"));
+    phCargarBasePanelesFotovoltaicos(Ruta(carpeta, "ZqModFotoHE5.xml"));
+}
+
+}  // namespace efv::estudio

@@ -1,0 +1,50 @@
+// Energy of a field at a place, month by month, by both methods of the library.
+#pragma once
+
+#include <array>
+#include <limits>
+#include <vector>
+
+#include <QuorvelEFV.h>
+
+namespace efv::estudio {
+
+inline constexpr std::size_t kMeses = 12;
+
+/// One month, or the year. What a method has no answer for is not-a-number.
+struct FilaEnergia {
+    static constexpr double kNada = std::numeric_limits<double>::quiet_NaN();
+
+    CString csNombre;
+    double dHorizontal = 0.0;                       ///< kWh/m²·day
+    std::array<double, 2> adRI{kNada, kNada};       ///< kWh/m²·day; 0 correlation, 1 table
+    std::array<double, 2> adEnergia{kNada, kNada};  ///< kWh
+};
+
+class PanelEnergia final : public ui::Dialogo {
+public:
+    explicit PanelEnergia(std::vector<Localidad> localidades);
+
+    const std::vector<FilaEnergia>& Filas() const { return *m_filas; }
+
+private:
+    void AlElegirLugar();
+    void AlCambiar();
+    void Calcular();
+    void Mostrar();
+
+    std::vector<Localidad> m_localidades;
+    int m_iLugar = 0;
+    double m_dInclinacion = 30.0;  // degrees toward the equator
+    double m_dPotencia = 1.0;      // kWp
+    double m_dPR = 0.8;
+    std::shared_ptr<std::vector<FilaEnergia>> m_filas;
+
+    ui::TextoFijo* m_ficha = nullptr;
+    ui::TextoFijo* m_nota = nullptr;
+    ui::Edicion* m_inclinacion = nullptr;
+    ui::Lista* m_tabla = nullptr;
+    ui::Grafica* m_grafica = nullptr;
+};
+
+}  // namespace efv::estudio

@@ -1,0 +1,101 @@
+#include <algorithm>
+#include <cstdlib>
+#include <exception>
+#include <iostream>
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QLibraryInfo>
+#include <QTemporaryFile>
+#include <QTranslator>
+
+#include <QuorvelEFV.h>
+#include <quorvel/qt.h>
+
+#include "capturas/capturar.h"
+#include "datos.h"
+#include "ventana_principal.h"
+
+namespace {
+
+using namespace efv::estudio;
+
+// Pictures need no screen: they are made on one that isn't there, of a usual size.
+void PrepararPantalla(int argc, char** argv, QTemporaryFile& descripcion)
+{
+    const bool bCapturas = std::any_of(argv, argv + argc, [](const char* palabra) {
+        return QByteArrayView(palabra).startsWith("--capturas");
+    });
+    if (!bCapturas || qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !descripcion.open())
+        return;
+    descripcion.write(
+        R"({"screens":[{"name":"capturas","x":0,"y":0,"width":1920,"height":1080,"logicalDpi":96}]})");
+    descripcion.flush();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + descripcion.fileName().toUtf8());
+}
+
+int Capturar(const std::filesystem::path& datos, const std::filesystem::path& carpeta)
+{
+    std::filesystem::create_directories(carpeta);
+    VentanaPrincipal ventana(datos);
+    ventana.show();
+    CapturarVentana(ventana, carpeta / "ventana-principal.png");
+    std::cout << efv::estudio::Capturar(Pantallas(datos), carpeta) + 1 << " capturas en " << carpeta.string()
+              << '\n';
+    return EXIT_SUCCESS;
+}
+
+int Ejecutar(QApplication& programa)
+{
+    QCommandLineParser orden;
+    orden.setApplicationDescription("Estudio de instalaciones fotovoltaicas.");
+    const QCommandLineOption ayuda({"h", "help", "ayuda"}, "Muestra esta ayuda.");
+    const QCommandLineOption version({"v", "version"}, "Muestra la versión.");
+    const QCommandLineOption datos("datos", "Carpeta de catálogos y lugares.", "DIR");
+    const QCommandLineOption capturas("capturas", "Escribe una imagen PNG de cada pantalla y termina.", "DIR");
+    orden.addOptions({ayuda, version, datos, capturas});
+    orden.process(programa);
+    if (orden.isSet(ayuda)) {
+        std::cout << orden.helpText().toStdString();
+        return EXIT_SUCCESS;
+    }
+    if (orden.isSet(version)) {
+        std::cout << efv::CadenaUtf8(efv::Version()) << '\n';
+        return EXIT_SUCCESS;
+    }
+
+    efv::qt::InstalarPresentadorQt();
+    const bool bCapturas = orden.isSet(capturas);
+    // Pictures show the shipped data, whatever the person has made of their own.
+    const std::string opcion = orden.value(datos).toStdString();
+    const std::filesystem::path carpeta =
+        bCapturas && opcion.empty() ? CarpetaDistribuida() : CarpetaDeTrabajo(opcion);
+    PonerDatos(carpeta);
+    if (bCapturas)
+        return Capturar(carpeta, orden.value(capturas).toStdString());
+    VentanaPrincipal ventana(carpeta);
+    efv::qt::InstalarPresentadorQt(&ventana);
+    ventana.show();
+    return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    QTemporaryFile pantalla;
+    PrepararPantalla(argc, argv, pantalla);
+    QApplication programa(argc, argv);
+    QApplication::setApplicationName("efv-estudio");
+    QApplication::setApplicationVersion(QString::fromStdWString(efv::Version()));
+    // What Qt itself says, such as the menu of a text field.
+    QTranslator espanol;
+    if (espanol.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(&espanol);
+    try {
+        return Ejecutar(programa);
+    } catch (const std::exception& fallo) {
+        std::cerr << "efv-estudio: " << fallo.what() << '\n';
+        return EXIT_FAILURE;
+    }
+}

@@ -1,0 +1,144 @@
+// Lists and trees over rows that are asked for one by one, charts, the program's own screens.
+#include "muestra.h"
+
+#include <filesystem>
+
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableView>
+#include <QTreeView>
+
+#include "capturas/capturar.h"
+#include "datos.h"
+
+namespace {
+
+using namespace efv;
+using namespace efv::pruebas;
+
+class Larga : public ui::Dialogo {
+public:
+    explicit Larga(ui::Lista::Forma forma)
+        : Dialogo("Larga", L"Larga"), lista(Anadir<ui::Lista>("lista", L"", forma))
+    {
+        lista.acsColumnas = {L"a", L"b", L"c"};
+        lista.modelo = filas;
+    }
+    std::shared_ptr<FilasContadas> filas = std::make_shared<FilasContadas>(100'000, 10);
+    ui::Lista& lista;
+};
+
+TEST(Listas, CienMilFilasNoSePidenEnteras)
+{
+    for (const auto forma : {ui::Lista::Forma::tabla, ui::Lista::Forma::arbol}) {
+        Larga d(forma);
+        Mostrar(d, [&](QDialog& v) {
+            auto& rejas = Hijo<QAbstractItemView>(v, "lista");
+            QTest::qWait(20);
+            EXPECT_GT(d.filas->nCeldas, 10);
+            EXPECT_LT(d.filas->nCeldas, 2000);
+            d.lista.iSeleccion = 99'998;
+            ++d.lista.uVersion;
+            qt::RefrescarVentana(&v);
+            QTest::qWait(20);
+            EXPECT_LT(d.filas->nCeldas, 4000);
+            EXPECT_EQ(rejas.currentIndex().data().toString(), "99998:0");
+            EXPECT_TRUE(rejas.viewport()->rect().intersects(rejas.visualRect(rejas.currentIndex())));
+        });
+    }
+}
+
+TEST(Listas, ElegirYAbrirDanFilaYColumna)
+{
+    Muestra d;
+    int nElecciones = 0;
+    d.tabla.alElegir = [&] { ++nElecciones; };
+    Mostrar(d, [&](QDialog& v) {
+        auto& tabla = Hijo<QTableView>(v, "tabla");
+        const QPoint celda = tabla.visualRect(tabla.model()->index(2, 1)).center();
+        QTest::mouseClick(tabla.viewport(), Qt::LeftButton, {}, celda);
+        EXPECT_EQ(d.tabla.iSeleccion, 2);
+        EXPECT_EQ(nElecciones, 1);
+        QTest::mouseDClick(tabla.viewport(), Qt::LeftButton, {}, celda);
+        EXPECT_EQ(d.abierta, std::pair(2, 1));
+        tabla.setFocus();
+        QTest::keyClick(&tabla, Qt::Key_Down);
+        EXPECT_EQ(d.tabla.iSeleccion, 3);
+        QTest::keyClick(&tabla, Qt::Key_F2);
+        EXPECT_EQ(d.abierta, std::pair(3, 1));
+
+        // Fewer rows, and nothing chosen: the view follows and tells the dialog nothing.
+        nElecciones = 0;
+        d.tabla.modelo = std::make_shared<FilasContadas>(2, 1);
+        d.tabla.iSeleccion = -1;
+        qt::RefrescarVentana(&v);
+        EXPECT_EQ(tabla.model()->rowCount(), 2);
+        EXPECT_FALSE(tabla.currentIndex().isValid());
+        EXPECT_EQ(nElecciones, 0);
+    });
+}
+
+TEST(Listas, LosNivelesDeLasFilasSonElArbol)
+{
+    class FilasConNivel final : public ui::ModeloFilas {
+    public:
+        // The last skips a depth and hangs from what there is.
+        std::vector<int> niveles{0, 1, 2, 1, 0, 2};
+        int Filas() const override { return static_cast<int>(niveles.size()); }
+        CString Celda(int iFila, int /*iColumna*/) const override { return std::to_wstring(iFila); }
+        int Nivel(int iFila) const override { return niveles[static_cast<std::size_t>(iFila)]; }
+    };
+    class Arbol : public ui::Dialogo {
+    public:
+        Arbol() : Dialogo("Arbol", L"Árbol") { lista.modelo = std::make_shared<FilasConNivel>(); }
+        ui::Lista& lista = Anadir<ui::Lista>("lista", L"", ui::Lista::Forma::arbol);
+    } d;
+    Mostrar(d, [&](QDialog& v) {
+        auto& arbol = Hijo<QTreeView>(v, "lista");
+        const auto& m = *arbol.model();
+        const QModelIndex primera = m.index(0, 0);
+        ASSERT_EQ(m.rowCount(), 2);
+        ASSERT_EQ(m.rowCount(primera), 2);
+        EXPECT_EQ(m.index(0, 0, m.index(0, 0, primera)).data().toString(), "2");
+        EXPECT_EQ(m.index(1, 0, primera).data().toString(), "3");
+        EXPECT_EQ(m.index(0, 0, m.index(1, 0)).data().toString(), "5");
+        EXPECT_EQ(m.parent(m.index(0, 0, m.index(1, 0))), m.index(1, 0));
+        // What the person folded stays so when the rows are read again.
+        arbol.collapse(primera);
+        ++d.lista.uVersion;
+        d.lista.iSeleccion = 4;
+        qt::RefrescarVentana(&v);
+        EXPECT_FALSE(arbol.isExpanded(m.index(0, 0)));
+        EXPECT_TRUE(arbol.isExpanded(m.index(1, 0)));
+        EXPECT_EQ(arbol.currentIndex().data().toString(), "4");
+    });
+}
+
+TEST(Graficas, LaSerieSePintaEnSuColor)
+{
+    Muestra d;
+    d.paginas.iSeleccion = 1;
+    Mostrar(d, [&](QDialog& v) {
+        const QImage imagen = Hijo<QWidget>(v, "grafica").grab().toImage();
+        int nRojos = 0;
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 0; x < imagen.width(); ++x)
+                nRojos += imagen.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+        EXPECT_GT(nRojos, 100);
+    });
+}
+
+// The screens that pictures are made of open, one and all, on the shipped data.
+TEST(Capturas, TodasLasPantallasRegistradasSeAbren)
+{
+    const std::filesystem::path carpeta = std::filesystem::temp_directory_path() / "efv-capturas-prueba";
+    std::filesystem::remove_all(carpeta);
+    std::filesystem::create_directories(carpeta);
+    estudio::PonerDatos(EFV_CARPETA_DATOS);
+    for (const estudio::Pantalla& pantalla : estudio::Pantallas(EFV_CARPETA_DATOS)) {
+        EXPECT_GE(estudio::Capturar({pantalla}, carpeta), 1) << pantalla.nombre;
+    }
+    std::filesystem::remove_all(carpeta);
+}
+
+}  // namespace
