@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <exception>
+#include <initializer_list>
 #include <iostream>
 
 #include <QApplication>
@@ -20,18 +21,27 @@ namespace {
 
 using namespace efv::estudio;
 
-// Pictures need no screen: they are made on one that isn't there, of a usual size.
+bool HayOpcion(int argc, char** argv, std::initializer_list<QByteArrayView> opciones)
+{
+    return std::any_of(argv, argv + argc, [&](const char* palabra) {
+        return std::ranges::any_of(opciones,
+                                   [&](QByteArrayView o) { return QByteArrayView(palabra).startsWith(o); });
+    });
+}
+
+// Help and pictures need no screen. Pictures are made on one that isn't there, of a usual size.
 void PrepararPantalla(int argc, char** argv, QTemporaryFile& descripcion)
 {
-    const bool bCapturas = std::any_of(argv, argv + argc, [](const char* palabra) {
-        return QByteArrayView(palabra).startsWith("--capturas");
-    });
-    if (!bCapturas || qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !descripcion.open())
+    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return;
-    descripcion.write(
-        R"({"screens":[{"name":"capturas","x":0,"y":0,"width":1920,"height":1080,"logicalDpi":96}]})");
-    descripcion.flush();
-    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + descripcion.fileName().toUtf8());
+    if (HayOpcion(argc, argv, {"--capturas"}) && descripcion.open()) {
+        descripcion.write(
+            R"({"screens":[{"name":"capturas","x":0,"y":0,"width":1920,"height":1080,"logicalDpi":96}]})");
+        descripcion.flush();
+        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + descripcion.fileName().toUtf8());
+    } else if (HayOpcion(argc, argv, {"--help", "--ayuda", "--version", "-h", "-v"})) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
 }
 
 int Capturar(const std::filesystem::path& datos, const std::filesystem::path& carpeta)

@@ -29,16 +29,22 @@ bool Dentro(double d, const std::optional<Intervalo>& limites)
     return !limites || (numero::MayorIgual(d, limites->dMinimo) && numero::MenorIgual(d, limites->dMaximo));
 }
 
-class Recolector final : public VisitanteControl {
+// Controls that show and are never exchanged.
+class VisitanteDeCampos : public VisitanteControl {
 public:
-    std::optional<CString> csFalta;
-
+    using VisitanteControl::Ver;
     void Ver(TextoFijo&) override {}
     void Ver(Boton&) override {}
     void Ver(Lista&) override {}
     void Ver(Grafica&) override {}
     void Ver(Progreso&) override {}
+};
 
+class Recolector final : public VisitanteDeCampos {
+public:
+    std::optional<CString> csFalta;
+
+    using VisitanteDeCampos::Ver;
     void Ver(Casilla& c) override
     {
         if (auto* destino = std::get_if<int*>(&c.destino))
@@ -95,14 +101,9 @@ private:
     }
 };
 
-class Volcador final : public VisitanteControl {
+class Volcador final : public VisitanteDeCampos {
 public:
-    void Ver(TextoFijo&) override {}
-    void Ver(Boton&) override {}
-    void Ver(Lista&) override {}
-    void Ver(Grafica&) override {}
-    void Ver(Progreso&) override {}
-
+    using VisitanteDeCampos::Ver;
     void Ver(Casilla& c) override
     {
         if (auto* origen = std::get_if<int*>(&c.destino))

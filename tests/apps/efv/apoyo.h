@@ -3,17 +3,35 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 #include <unistd.h>
 #include <nlohmann/json.hpp>
 
+#include "orden.h"
 #include "rpc/servidor.h"
 
 namespace efv::orden::pruebas {
 
 using Json = nlohmann::json;
+
+/// What one run of the command gave.
+struct Corrida {
+    int iEstado;
+    std::string salida;
+    std::string errores;
+};
+
+/// Runs the command in this process.
+inline Corrida Correr(const std::vector<std::string>& argumentos)
+{
+    std::ostringstream salida, errores;
+    const int iEstado = Ejecutar(argumentos, {salida, errores});
+    return {iEstado, salida.str(), errores.str()};
+}
 
 /// A folder that lives as long as the test.
 class CarpetaTemporal {

@@ -7,25 +7,11 @@
 
 #include "apoyo.h"
 #include "curvas/ficheros.h"
-#include "orden.h"
 
 namespace efv::orden::pruebas {
 namespace {
 
 namespace fs = std::filesystem;
-
-struct Corrida {
-    int iEstado;
-    std::string salida;
-    std::string errores;
-};
-
-Corrida Correr(const std::vector<std::string>& argumentos)
-{
-    std::ostringstream salida, errores;
-    const int iEstado = Ejecutar(argumentos, {salida, errores});
-    return {iEstado, salida.str(), errores.str()};
-}
 
 std::string Modelo(const std::string& nombre, const std::string& voc = "50")
 {

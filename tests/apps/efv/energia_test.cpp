@@ -4,23 +4,9 @@
 
 #include "apoyo.h"
 #include "comun/reloj.h"
-#include "orden.h"
 
 namespace efv::orden::pruebas {
 namespace {
-
-struct Corrida {
-    int iEstado;
-    std::string salida;
-    std::string errores;
-};
-
-Corrida Correr(const std::vector<std::string>& argumentos)
-{
-    std::ostringstream salida, errores;
-    const int iEstado = Ejecutar(argumentos, {salida, errores});
-    return {iEstado, salida.str(), errores.str()};
-}
 
 // Sets a variable of the environment, or removes it. The tests run in one thread.
 void Entorno(const char* nombre, const char* valor)
