@@ -21,6 +21,7 @@ struct Documento {
     pugi::xml_document arbol;
     pugi::xml_node raiz;
     // Attributes are mostly asked for in file order: the search goes on behind the last one found.
+    Nodo manejadorPista = nullptr;
     pugi::xml_node nodoPista;
     pugi::xml_attribute pista;
 };
@@ -84,6 +85,7 @@ int xmlOpenDocument(const CString& csRuta, int /*iReservado*/)
 void xmlCloseDocument()
 {
     Documento& documento = Actual();
+    documento.manejadorPista = nullptr;
     documento.nodoPista = pugi::xml_node();
     documento.pista = pugi::xml_attribute();
     documento.raiz = pugi::xml_node();
@@ -122,12 +124,12 @@ namespace {
 const char* Valor(Nodo nodo, const char* nombre)
 {
     Documento& documento = Actual();
-    const pugi::xml_node interno = Interno(nodo);
-    if (documento.nodoPista != interno) {
-        documento.nodoPista = interno;
+    if (documento.manejadorPista != nodo) {
+        documento.manejadorPista = nodo;
+        documento.nodoPista = Interno(nodo);
         documento.pista = pugi::xml_attribute();
     }
-    const pugi::xml_attribute atributo = interno.attribute(nombre, documento.pista);
+    const pugi::xml_attribute atributo = documento.nodoPista.attribute(nombre, documento.pista);
     return atributo ? atributo.value() : nullptr;
 }
 
