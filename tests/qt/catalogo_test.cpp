@@ -1,0 +1,80 @@
+// The catalogue of PV modules through real windows: viewer, module sheet, refusal, acceptance, file.
+#include <filesystem>
+
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeView>
+
+#include <QuorvelEFV.h>
+
+#include "muestra.h"
+
+namespace {
+
+using namespace efv;
+using namespace efv::pruebas;
+
+namespace fs = std::filesystem;
+
+void Escribir(QDialog& ventana, const char* campo, const QString& texto)
+{
+    auto& linea = Hijo<QLineEdit>(ventana, campo);
+    linea.setFocus();
+    linea.selectAll();
+    QTest::keyClicks(&linea, texto);
+}
+
+// Too much power, then none, then a possible one.
+void CorregirLaPotencia(QDialog& ficha)
+{
+    QString aviso;
+    Escribir(ficha, "dPmpm", "15001");
+    ResponderCaja("Aceptar", &aviso);
+    QTest::keyClick(&ficha, Qt::Key_Return);
+    EXPECT_EQ(aviso, "Introduzca un número entre 0 y 15000.");
+    EXPECT_EQ(Hijo<QLineEdit>(ficha, "dPmpm").selectedText(), "15001");
+
+    Escribir(ficha, "dPmpm", "0");
+    ResponderCaja("Aceptar", &aviso);
+    QTest::keyClick(&ficha, Qt::Key_Return);
+    EXPECT_EQ(aviso, "La potencia máxima (Pmpm), no puede tener un valor nulo");
+    EXPECT_TRUE(ficha.isVisible());
+
+    Escribir(ficha, "dPmpm", "251,5");
+    QTest::keyClick(&ficha, Qt::Key_Return);
+    EXPECT_FALSE(ficha.isVisible());
+}
+
+TEST(Catalogo, UnModeloSeCorrigeYSeGuarda)
+{
+    const fs::path carpeta = fs::temp_directory_path() / "efv-catalogo-qt";
+    fs::remove_all(carpeta);
+    fs::create_directories(carpeta);
+    fs::copy_file(EFV_CARPETA_DATOS "/ZqModFotoHE5.xml", carpeta / "ZqModFotoHE5.xml");
+    phSetPathHE5BD((CadenaDesdeUtf8(carpeta.string()) + L"/").c_str());
+    qt::InstalarPresentadorQt();
+    CuandoSeAbra([&](QDialog& visor) {
+        Escribir(visor, "csBuscar", "cs3u-350");
+        auto& arbol = Hijo<QTreeView>(visor, "arbol");
+        const QModelIndex familia = arbol.model()->index(0, 0);
+        EXPECT_EQ(familia.data().toString(), "Canadian Solar");
+        arbol.setCurrentIndex(arbol.model()->index(0, 0, familia));
+        CuandoSeAbra(CorregirLaPotencia);
+        Hijo<QPushButton>(visor, "Editar").click();
+        EXPECT_TRUE(Hijo<QPushButton>(visor, "Deshacer").isEnabled());
+        QTest::keyClick(&arbol, Qt::Key_Return);
+        for (QPushButton* boton : visor.findChildren<QPushButton*>())
+            if (visor.isVisible() && boton->text() == "Aceptar")
+                boton->click();
+    });
+    EXPECT_EQ(phEditarBasePanelesFotovoltaicos(0), 1);
+    const CBasePanelFotoModelo* modelo = phGetBasePanelFoto().BuscarModelo(L"CS3U-350P");
+    ASSERT_NE(modelo, nullptr);
+    EXPECT_EQ(modelo->dPmpm, 251.5);
+    ui::InstalarPresentador(nullptr);
+    phGetBasePanelFoto().Vaciar();
+    phSetPathHE5BD(L"");
+    fs::remove_all(carpeta);
+}
+
+}  // namespace
