@@ -38,10 +38,10 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
     std::vector<std::string_view> nombres;
     for (const CRuntimeClass* clase : CRuntimeClass::Registradas())
         nombres.push_back(clase->m_szClassName);
-    EXPECT_EQ(nombres,
-              (std::vector<std::string_view>{"CBaseXML", "CBaseFactorK", "CBaseFactorKLatitud",
-                                             "CBaseFactorKAlpha", "CBasePanelFoto", "CBasePanelFotoFamilia",
-                                             "CBasePanelFotoModelo", "CSFVAsistenteRed"}));
+    EXPECT_EQ(nombres, (std::vector<std::string_view>{"CBaseXML", "CBaseFactorK", "CBaseFactorKLatitud",
+                                                      "CBaseFactorKAlpha", "CBasePanelFoto",
+                                                      "CBasePanelFotoFamilia", "CBasePanelFotoModelo",
+                                                      "CSFVAsistenteAislada", "CSFVAsistenteRed"}));
 }
 
 }  // namespace
