@@ -267,7 +267,7 @@ void DevolverAlRegistro(const ValoresAislada& v, CSFVAsistenteAislada& registro)
     std::swap(nuevo.acsModelo, registro.acsModelo);
     std::swap(nuevo.adHorasDia, registro.adHorasDia);
     std::swap(nuevo.adHorario, registro.adHorario);
-    registro = std::move(nuevo);
+    registro = nuevo;
 }
 
 }  // namespace efv::assistants
