@@ -13,12 +13,27 @@ bool RegistrarClases()
 {
     constexpr auto clases = std::to_array<const CRuntimeClass& (*)()>({
         &CBaseXML::GetThisClass,
+        &CBaseAcumuladores::GetThisClass,
+        &CBaseAcumuladorFamilia::GetThisClass,
+        &CBaseAcumuladorModelo::GetThisClass,
+        &CBaseConvertidores::GetThisClass,
+        &CBaseConvertidorFamilia::GetThisClass,
+        &CBaseConvertidorModelo::GetThisClass,
         &CBaseFactorK::GetThisClass,
         &CBaseFactorKLatitud::GetThisClass,
         &CBaseFactorKAlpha::GetThisClass,
+        &CBaseInversores::GetThisClass,
+        &CBaseInversorFamilia::GetThisClass,
+        &CBaseInversorModelo::GetThisClass,
+        &CBaseMicroInversores::GetThisClass,
+        &CBaseMicroInversorFamilia::GetThisClass,
+        &CBaseMicroInversorModelo::GetThisClass,
         &CBasePanelFoto::GetThisClass,
         &CBasePanelFotoFamilia::GetThisClass,
         &CBasePanelFotoModelo::GetThisClass,
+        &CBaseReceptores::GetThisClass,
+        &CBaseReceptorFamilia::GetThisClass,
+        &CBaseReceptorModelo::GetThisClass,
         &CSFVAsistenteRed::GetThisClass,
     });
     for (const auto clase : clases)
