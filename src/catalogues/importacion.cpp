@@ -1,9 +1,9 @@
 #include "catalogues/importacion.h"
 
 #include <quorvel/framework/CException.h>
-#include <quorvel/ui/presentador.h>
 
 #include "platform/archivo/archivo.h"
+#include "platform/numero/conversion.h"
 #include "platform/texto/texto.h"
 
 namespace efv::catalogues {
@@ -44,13 +44,18 @@ std::optional<CString> LeerTexto(const CString& csRuta)
     return ConFinesDeLinea(texto::EsUtf8(vista) ? CadenaDesdeUtf8(vista) : texto::DeWindows1252(vista));
 }
 
-std::optional<CString> LeerTextoImportado(const CString& csRuta)
+std::optional<CString> PedirTextoImportado(const ui::FiltroFichero& propio)
 {
+    ui::PeticionFichero peticion;
+    peticion.filtros = {propio, {L"Texto (*.txt)", L"*.txt"}, {L"Todos los ficheros (*.*)", L"*.*"}};
+    const auto csRuta = ui::PresentadorActual().ElegirFichero(peticion);
+    if (!csRuta)
+        return std::nullopt;
     const auto avisar = [&](const CString& csFinal) {
-        ui::MostrarAviso(L"El archivo " + csRuta + L" no puede ser cargado" + csFinal, ui::Icono::advertencia);
+        ui::MostrarAviso(L"El archivo " + *csRuta + L" no puede ser cargado" + csFinal, ui::Icono::advertencia);
     };
     try {
-        std::optional<CString> csTexto = LeerTexto(csRuta);
+        std::optional<CString> csTexto = LeerTexto(*csRuta);
         if (!csTexto)
             avisar(L".");
         return csTexto;
@@ -70,6 +75,16 @@ CString ValorDeClave(std::wstring_view texto, std::wstring_view clave)
         return {};
     const std::size_t valor = inicio + clave.size() + 1;
     return CString(texto.substr(valor, fin - valor));
+}
+
+double NumeroImportado(const CString& csValor)
+{
+    return numero::LeerDoble(std::wstring_view(csValor));
+}
+
+int EnteroImportado(const CString& csValor)
+{
+    return numero::LeerEntero(CadenaUtf8(csValor));
 }
 
 }  // namespace efv::catalogues
