@@ -61,9 +61,12 @@ void RecalcularAislada(benchmark::State& estado)
     const ConsultaFactoresK factores = [&tabla](double dLatitud, int iHemisferio, double dAlpha) {
         return efv::solar::FactoresK(tabla, dLatitud, iHemisferio, dAlpha);
     };
-    const ModeloAcumulador acumulador{.dCapC10 = 500, .dCapC100 = 620, .dVnom = 2, .dPeso = 40};
-    const ModeloPanel panel{
-        .dPmpm = 400, .dVmpm = 31, .dImpm = 12.9, .dVoc = 37.1, .dH = 1722, .dB = 1134, .dP = 21.5};
+    CBaseAcumuladorModelo acumulador;
+    acumulador.dCapC100 = 620;
+    acumulador.dVnom = 2;
+    CBasePanelFotoModelo panel;
+    panel.dPmpm = 400;
+    panel.dVoc = 37.1;
     const std::vector<Carga> cargas(50, Carga{2, 60.5, 3.25});
     ValoresAislada v;
     v.dLatitud = 40.42;

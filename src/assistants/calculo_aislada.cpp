@@ -217,8 +217,8 @@ void DimensionarCampo(V& v, bool bForzar)
 void Recalcular(ValoresAislada& v, const EntradaAislada& entrada, bool bForzar)
 {
     if (entrada.acumulador != nullptr) {
-        v.acumulador = *entrada.acumulador;
-        v.dCapacidadAcumulador = CapacidadEnVigor(v.acumulador).value_or(v.dCapacidadAcumulador);
+        v.acumulador = LeerAcumulador(*entrada.acumulador);
+        v.dCapacidadAcumulador = CapacidadEnVigor(*entrada.acumulador).value_or(v.dCapacidadAcumulador);
         DimensionarAcumuladores(v, entrada.cargas, bForzar);
         ProponerPosicion(v, bForzar);
     }
@@ -235,7 +235,7 @@ void Recalcular(ValoresAislada& v, const EntradaAislada& entrada, bool bForzar)
         v.adRadiacionInclinada[m] = k[m] * v.adRadiacion[m];
 }
 
-void EspaciarFilas(ValoresAislada& v, const ModeloPanel& panel)
+void EspaciarFilas(ValoresAislada& v, const CBasePanelFotoModelo& panel)
 {
     v.dDistanciaFilas = DistanciaFilas(v.dLatitud, v.dInclinacion, panel.dH);
     v.iTotalPaneles = Producto(v.iPanelesParalelo, v.iPanelesSerie);

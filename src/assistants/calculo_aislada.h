@@ -27,7 +27,7 @@ struct ValoresAislada : CSFVAsistenteAislada {
 
     // Models, as last found
     double dCapacidadAcumulador = 0.0;  ///< rated capacity in force, Ah
-    ModeloAcumulador acumulador;
+    DatosAcumulador acumulador;
     DatosPanel panel;
 
     // Energy and batteries
@@ -77,8 +77,9 @@ using ConsultaFactoresK =
 
 /// What a recalculation asks others for.
 struct EntradaAislada {
-    const ModeloAcumulador* acumulador;  ///< null: unknown model; only the radiation row is then worked out
-    const ModeloPanel* panel;            ///< null: unknown model; the panels then keep their results
+    const CBaseAcumuladorModelo*
+        acumulador;                     ///< null: unknown model; only the radiation row is then worked out
+    const CBasePanelFotoModelo* panel;  ///< null: unknown model; the panels then keep their results
     std::span<const Carga> cargas;
     ConsultaFactoresK factoresK;
 };
@@ -89,7 +90,7 @@ void Recalcular(ValoresAislada& v, const EntradaAislada& entrada, bool bForzar);
 
 /// The shorter calculation of row spacing and areas at the tilt in force, from the panel's own length,
 /// however it is disposed.
-void EspaciarFilas(ValoresAislada& v, const ModeloPanel& panel);
+void EspaciarFilas(ValoresAislada& v, const CBasePanelFotoModelo& panel);
 
 /// The battery's self-discharge at its temperature (`dKaAjustado`) and overall performance (`dR`), from
 /// its coefficients. No other result depends on them.

@@ -28,7 +28,7 @@ void ProponerPosicionEInversores(V& v, double dPotencia, bool bForzar)
 // voltage window.
 Ramales ProponerRamales(const V& v, double dParte)
 {
-    const DatosInversor& inversor = v.inversor;
+    const InversorLeido& inversor = v.inversor;
     const DatosPanel& panel = v.panel;
     const int iSerieMaxima = SueloDesdeUno(ElMenor(dParte / panel.dPmpm, inversor.dVMPPMax / panel.dVmpm));
     const auto mejor = BuscarRamales({.dPotencia = dParte,
@@ -100,7 +100,7 @@ double DistanciaFilas(const V& v, double dInclinacion)
 
 }  // namespace
 
-DatosInversor LeerInversor(const ModeloInversor& m)
+InversorLeido LeerInversor(const CBaseInversorModelo& m)
 {
     return {.dPCANom = m.dPCANom,
             .dPCAMax = m.dPCAMax,

@@ -10,37 +10,25 @@
 
 namespace efv::assistants {
 
-struct ModeloInversor {
-    double dPCANom = 0.0;                   ///< nominal output, W
-    double dPCAMax = 0.0;                   ///< W
-    double dVMPPMax = 0.0, dVMPPMin = 0.0;  ///< V
-    double dVCCMax = 0.0;                   ///< V
-    double dICCMax = 0.0;                   ///< A
+/// An inverter as the sizing takes it.
+struct InversorLeido {
+    double dPCANom = 0.0, dPCAMax = 0.0;    ///< nominal and maximum output, W
+    double dVMPPMax = 0.0, dVMPPMin = 0.0;  ///< window of the voltage at maximum power, V
+    double dVCCMax = 0.0;                   ///< most input voltage, V
+    double dIMaxEntrada = 0.0;              ///< current that each panel field must keep to, A
     int iNumMPPT = 0, iNumEntradas = 0;
     int iUsoPrincipal = 0;  ///< 0: for connection to the grid
     int iTipoSalida = 0;
-    CString csICCMaxMPPT;  ///< currents of the trackers, "12,5/9"; empty when not known
 };
 
-/// An inverter as the sizing takes it.
-struct DatosInversor {
-    double dPCANom = 0.0, dPCAMax = 0.0;
-    double dVMPPMax = 0.0, dVMPPMin = 0.0;
-    double dVCCMax = 0.0;
-    double dIMaxEntrada = 0.0;  ///< current that each panel field must keep to, A
-    int iNumMPPT = 0, iNumEntradas = 0;
-    int iUsoPrincipal = 0;
-    int iTipoSalida = 0;
-};
-
-DatosInversor LeerInversor(const ModeloInversor& modelo);
+InversorLeido LeerInversor(const CBaseInversorModelo& modelo);
 
 /// Working values of the assistant. The record's fields stand in it as the person last left them.
 struct ValoresRed : CSFVAsistenteRed {
     double dLatitud = 0.0;        ///< degrees
     CString csHemisferio = L"N";  ///< "N" north, else south
 
-    DatosInversor inversor;
+    InversorLeido inversor;
     DatosPanel panel;
 
     int iInversoresP = 0;

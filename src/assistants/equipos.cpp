@@ -10,7 +10,7 @@ namespace efv::assistants {
 
 namespace {
 
-using M = ModeloAcumulador;
+using M = CBaseAcumuladorModelo;
 using Capacidad = double M::*;
 
 struct Regla {
@@ -29,7 +29,7 @@ constexpr auto kReglas = std::to_array<Regla>({
 
 }  // namespace
 
-std::optional<double> CapacidadEnVigor(const ModeloAcumulador& modelo)
+std::optional<double> CapacidadEnVigor(const CBaseAcumuladorModelo& modelo)
 {
     for (const Regla& regla : kReglas) {
         const double d = modelo.*regla.candidata;
@@ -39,7 +39,12 @@ std::optional<double> CapacidadEnVigor(const ModeloAcumulador& modelo)
     return std::nullopt;
 }
 
-DatosPanel Disponer(const ModeloPanel& modelo, int iDisposicion)
+DatosAcumulador LeerAcumulador(const CBaseAcumuladorModelo& m)
+{
+    return {.dVnom = m.dVnom, .dH = m.dH, .dW = m.dW, .dL = m.dL, .dPeso = m.dPeso};
+}
+
+DatosPanel Disponer(const CBasePanelFotoModelo& modelo, int iDisposicion)
 {
     DatosPanel p{.dPmpm = modelo.dPmpm, .dVmpm = modelo.dVmpm, .dImpm = modelo.dImpm, .dVoc = modelo.dVoc};
     p.dLargoPanel = iDisposicion == 0 ? modelo.dH : modelo.dB;

@@ -1,41 +1,33 @@
-// Catalogue data of batteries, panels and inverters as the sizings need them.
+// What the sizings take from the catalogue models of batteries, panels and inverters.
 #pragma once
 
 #include <optional>
 #include <string_view>
 
-#include <quorvel/framework/CString.h>
+#include <quorvel/catalogues.h>
 
 namespace efv::assistants {
 
-struct ModeloAcumulador {
-    // Rated capacities for a discharge in 1 to 120 hours, Ah.
-    double dCapC1 = 0.0, dCapC5 = 0.0, dCapC10 = 0.0, dCapC20 = 0.0, dCapC100 = 0.0, dCapC120 = 0.0;
+/// A battery as the sizing takes it, but for its capacity.
+struct DatosAcumulador {
     double dVnom = 0.0;                   ///< V
     double dH = 0.0, dW = 0.0, dL = 0.0;  ///< mm
     double dPeso = 0.0;                   ///< kg
 };
 
+DatosAcumulador LeerAcumulador(const CBaseAcumuladorModelo& modelo);
+
 /// The rated capacity that exceeds the others; nothing when two share the highest place. The one at 20
 /// hours is not compared with those at 10 and 100, nor any other with it: at equal rights the shorter
 /// discharge wins.
-std::optional<double> CapacidadEnVigor(const ModeloAcumulador& modelo);
-
-struct ModeloPanel {
-    double dPmpm = 0.0;         ///< maximum power, W
-    double dVmpm = 0.0;         ///< voltage at it, V
-    double dImpm = 0.0;         ///< current at it, A
-    double dVoc = 0.0;          ///< open-circuit voltage, V
-    double dH = 0.0, dB = 0.0;  ///< length and width, mm
-    double dP = 0.0;            ///< weight, kg
-};
+std::optional<double> CapacidadEnVigor(const CBaseAcumuladorModelo& modelo);
 
 /// A panel as it stands in the field: its length runs up the slope.
 struct DatosPanel {
-    double dPmpm = 0.0;
-    double dVmpm = 0.0;
-    double dImpm = 0.0;
-    double dVoc = 0.0;
+    double dPmpm = 0.0;        ///< maximum power, W
+    double dVmpm = 0.0;        ///< voltage at it, V
+    double dImpm = 0.0;        ///< current at it, A
+    double dVoc = 0.0;         ///< open-circuit voltage, V
     double dLargoPanel = 0.0;  ///< mm
     double dAnchoPanel = 0.0;  ///< mm
     double dAreaPanel = 0.0;   ///< m²
@@ -43,7 +35,7 @@ struct DatosPanel {
 };
 
 /// `iDisposicion` 0: standing; anything else: lying.
-DatosPanel Disponer(const ModeloPanel& modelo, int iDisposicion);
+DatosPanel Disponer(const CBasePanelFotoModelo& modelo, int iDisposicion);
 
 /// The lowest positive current of a list such as "12,5/9/0", A: the weakest tracker limits all. `dICCMax`
 /// when the list holds none.

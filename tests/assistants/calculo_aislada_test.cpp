@@ -1,5 +1,7 @@
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <tuple>
 
 #include <gtest/gtest.h>
 
@@ -49,7 +51,7 @@ pruebas::Valores Nombrados(ValoresAislada& v)
     return n;
 }
 
-pruebas::Valores Nombrados(ModeloAcumulador& a, ModeloPanel& p)
+pruebas::Valores Nombrados(CBaseAcumuladorModelo& a, CBasePanelFotoModelo& p)
 {
     return {{"dVnom", &a.dVnom}, {"dPeso", &a.dPeso}, {"dPmpm", &p.dPmpm},
             {"dVmpm", &p.dVmpm}, {"dImpm", &p.dImpm}, {"dVoc", &p.dVoc},
@@ -77,8 +79,8 @@ TEST(CalculoAislada, DaLosVectores)
     for (std::size_t i = 0; i < vectores.size(); ++i) {
         const auto& vector = vectores[i];
         ValoresAislada v;
-        ModeloAcumulador acumulador;
-        ModeloPanel panel;
+        CBaseAcumuladorModelo acumulador;
+        CBasePanelFotoModelo panel;
         for (const auto& [nombre, texto] : vector.entradas) {
             pruebas::Asignar(Nombrados(v), nombre, texto);
             pruebas::Asignar(Nombrados(acumulador, panel), nombre, texto);
@@ -103,14 +105,20 @@ TEST(CalculoAislada, DaLosVectores)
 class CalculoAisladaAMano : public testing::Test {
 protected:
     ValoresAislada v;
-    ModeloAcumulador acumulador{.dCapC100 = 100.0, .dVnom = 12.0, .dPeso = 10.0};
-    ModeloPanel panel{
-        .dPmpm = 100.0, .dVmpm = 18.0, .dImpm = 5.5, .dVoc = 22.0, .dH = 1000.0, .dB = 500.0, .dP = 8.0};
+    CBaseAcumuladorModelo acumulador;
+    CBasePanelFotoModelo panel;
     std::vector<Carga> cargas{{2, 100.0, 3.0}, {1, 50.0, 8.0}};
     ConsultaFactoresK factores = [](double, int, double) { return Todos(1.0); };
 
     CalculoAisladaAMano()
     {
+        acumulador.dCapC100 = 100.0;
+        acumulador.dVnom = 12.0;
+        acumulador.dPeso = 10.0;
+        panel.dPmpm = 100.0;
+        panel.dVoc = 22.0;
+        panel.dH = 1000.0;
+        panel.dB = 500.0;
         v.dLatitud = 40.0;
         for (int m = 0; m < 12; ++m)
             v.adRadiacion[static_cast<std::size_t>(m)] = 3600.0 * (m + 1);
@@ -281,16 +289,24 @@ TEST_F(CalculoAisladaAMano, LasFilasSeEspacianConElLargoDelModelo)
     EXPECT_NEAR(v.dSuperficieProyectada, v.dSuperficieTotal * std::sqrt(0.75), 1e-12);
 }
 
+// Capacities at 1, 5, 10, 20, 100 and 120 hours.
+std::optional<double> EnVigor(const std::array<double, 6>& c)
+{
+    CBaseAcumuladorModelo m;
+    std::tie(m.dCapC1, m.dCapC5, m.dCapC10, m.dCapC20, m.dCapC100, m.dCapC120) = std::tuple_cat(c);
+    return CapacidadEnVigor(m);
+}
+
 TEST(Equipos, LaCapacidadEnVigorEsLaQueSobresale)
 {
-    EXPECT_EQ(CapacidadEnVigor({.dCapC10 = 80, .dCapC100 = 100, .dCapC120 = 105}), 105.0);
-    EXPECT_EQ(CapacidadEnVigor({.dCapC100 = 100, .dCapC120 = 100}), std::nullopt);
-    // 20 hours aren't compared with 10 nor with 100: the shorter discharge wins over them, they don't hide it.
-    EXPECT_EQ(CapacidadEnVigor({.dCapC10 = 90, .dCapC20 = 95}), 90.0);
-    EXPECT_EQ(CapacidadEnVigor({.dCapC20 = 120, .dCapC100 = 100}), 120.0);
-    EXPECT_EQ(CapacidadEnVigor({.dCapC20 = 100, .dCapC100 = 120}), 120.0);
-    EXPECT_EQ(CapacidadEnVigor({.dCapC1 = 5.0000005, .dCapC5 = 5}), std::nullopt);
-    EXPECT_EQ(CapacidadEnVigor({}), std::nullopt);
+    EXPECT_EQ(EnVigor({0, 0, 80, 0, 100, 105}), 105.0);
+    EXPECT_EQ(EnVigor({0, 0, 0, 0, 100, 100}), std::nullopt);
+    // 20 hours aren't compared with 10 nor with 100: the shorter discharge wins, and hides nothing.
+    EXPECT_EQ(EnVigor({0, 0, 90, 95, 0, 0}), 90.0);
+    EXPECT_EQ(EnVigor({0, 0, 0, 120, 100, 0}), 120.0);
+    EXPECT_EQ(EnVigor({0, 0, 0, 100, 120, 0}), 120.0);
+    EXPECT_EQ(EnVigor({5.0000005, 5, 0, 0, 0, 0}), std::nullopt);
+    EXPECT_EQ(EnVigor({}), std::nullopt);
 }
 
 TEST(ValoresAislada, VanYVuelvenDelRegistroSinSusCargas)

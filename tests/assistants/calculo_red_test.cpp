@@ -45,7 +45,7 @@ pruebas::Valores Nombrados(ValoresRed& v)
     return n;
 }
 
-pruebas::Valores Nombrados(ModeloInversor& i, ModeloPanel& p)
+pruebas::Valores Nombrados(CBaseInversorModelo& i, CBasePanelFotoModelo& p)
 {
     return {{"dPCANom", &i.dPCANom},
             {"dVMPPMin", &i.dVMPPMin},
@@ -69,8 +69,8 @@ TEST(CalculoRed, DaLosVectores)
     for (std::size_t i = 0; i < vectores.size(); ++i) {
         const auto& vector = vectores[i];
         ValoresRed v;
-        ModeloInversor inversor;
-        ModeloPanel panel;
+        CBaseInversorModelo inversor;
+        CBasePanelFotoModelo panel;
         for (const auto& [nombre, texto] : vector.entradas) {
             pruebas::Asignar(Nombrados(v), nombre, texto);
             pruebas::Asignar(Nombrados(inversor, panel), nombre, texto);
@@ -95,7 +95,13 @@ protected:
         v.dLatitud = 40.0;
         v.dPotenciaObjetivo = 3.0;
         v.inversor = {.dPCANom = 2500, .dVMPPMax = 400, .dVMPPMin = 100, .dVCCMax = 500, .dIMaxEntrada = 20};
-        v.panel = Disponer({.dPmpm = 250, .dVmpm = 30, .dImpm = 8, .dVoc = 36, .dH = 1600, .dB = 1000}, 0);
+        v.panel = {.dPmpm = 250,
+                   .dVmpm = 30,
+                   .dImpm = 8,
+                   .dVoc = 36,
+                   .dLargoPanel = 1600,
+                   .dAnchoPanel = 1000,
+                   .dAreaPanel = 1.6};
     }
 
     Ramales Propuesta(bool bForzar = true)
