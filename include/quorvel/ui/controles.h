@@ -18,7 +18,7 @@ namespace efv::ui {
 
 /// Where a control stands, as a hint for whoever lays the dialog out.
 struct Lugar {
-    int iPagina = -1;         ///< page of the dialog's tabs; -1 outside them
+    int iPagina = -1;              ///< page of the dialog's tabs; -1 outside them
     std::wstring_view grupo = {};  ///< framed group of that caption; empty for none
     int iColumna = 0;
     bool bEstirar = false;  ///< takes the room that is left
@@ -53,7 +53,8 @@ private:
 /// How a field takes part in the dialog's data exchange.
 enum class Intercambio {
     automatico,
-    aMano  ///< the dialog reads and writes it itself
+    soloMuestra,  ///< written from its variable, never taken back
+    aMano         ///< the dialog reads and writes it itself
 };
 
 class VisitanteControl;
