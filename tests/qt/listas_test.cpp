@@ -128,6 +128,31 @@ TEST(Graficas, LaSerieSePintaEnSuColor)
     });
 }
 
+TEST(Graficas, UnaLineaDePuntosTieneHuecosYUnaContinuaNo)
+{
+    Muestra d;
+    d.paginas.iSeleccion = 1;
+    // Above the axis and below the frame's top, so that nothing else is red there.
+    d.grafica.datos.aSeries = {{{0, 2}, {2, 2}, ui::kRojo, 1}, {{0, 2}, {1, 1}, ui::kAzul, 3}};
+    d.grafica.datos.aSeries[1].iEstilo = 3;
+    Mostrar(d, [&](QDialog& v) {
+        const QImage imagen = Hijo<QWidget>(v, "grafica").grab().toImage();
+        // Most stretches of the colour in one row of pixels.
+        const auto trozos = [&](auto es) {
+            int nMayor = 0;
+            for (int y = 0; y < imagen.height(); ++y) {
+                int n = 0;
+                for (int x = 1; x < imagen.width(); ++x)
+                    n += es(imagen.pixelColor(x, y)) && !es(imagen.pixelColor(x - 1, y)) ? 1 : 0;
+                nMayor = std::max(nMayor, n);
+            }
+            return nMayor;
+        };
+        EXPECT_EQ(trozos([](const QColor& c) { return c.red() > c.blue() + 40; }), 1);
+        EXPECT_GT(trozos([](const QColor& c) { return c.blue() > c.red() + 120; }), 20);
+    });
+}
+
 // The screens that pictures are made of open, one and all, on the shipped data.
 TEST(Capturas, TodasLasPantallasRegistradasSeAbren)
 {
