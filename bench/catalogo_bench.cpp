@@ -1,9 +1,7 @@
 // Catalogue of 20,000 modules: load and lookup. Floor of the load: the parser's own parse of the file
 // plus the bare conversion of the same numbers. Load and floor take turns, so that both meet the same
 // memory and the same noise; the counter "cociente" is the ratio of their medians.
-#include <algorithm>
 #include <charconv>
-#include <chrono>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,12 +13,12 @@
 
 #include <quorvel/catalogues.h>
 
-#include "catalogo_grande.h"
+#include "medidor.h"
 
 namespace {
 
 using efv::bench::FicheroDe;
-using Reloj = std::chrono::steady_clock;
+using efv::bench::Mediana;
 
 void LeerSinMas(const std::string& ruta)
 {
@@ -40,19 +38,12 @@ void LeerSinMas(const std::string& ruta)
     benchmark::DoNotOptimize(numeros.data());
 }
 
-double Mediana(std::vector<double>& valores)
-{
-    const auto medio = valores.begin() + static_cast<std::ptrdiff_t>(valores.size() / 2);
-    std::ranges::nth_element(valores, medio);
-    return *medio;
-}
-
 template <class F>
 double Segundos(F trabajo)
 {
-    const auto inicio = Reloj::now();
+    const auto inicio = efv::bench::Reloj::now();
     trabajo();
-    return std::chrono::duration<double>(Reloj::now() - inicio).count();
+    return efv::bench::SegundosDesde(inicio);
 }
 
 void CargarCatalogo(benchmark::State& estado)
