@@ -44,5 +44,46 @@ TEST(Transcripcion, LasSeriesDicenSuFormaYSuTrazo)
     EXPECT_EQ(series[2]["style"], 1);
 }
 
+class Horario : public ui::Dialogo {
+public:
+    Horario() : Dialogo("Horario", L"Horario")
+    {
+        inicio.iMaximo = 1440;
+        inicio.alMover = [this] { aiValores.push_back(inicio.iValor); };
+        Anadir<ui::Deslizador>("apagado", L"").bHabilitado = false;
+        Anadir<ui::Imagen>("esquema", L"Esquema").csImagen = L"grafica";
+    }
+    ui::Deslizador& inicio = Anadir<ui::Deslizador>("I1", L"&Inicio:");
+    std::vector<int> aiValores;
+};
+
+TEST(Guiones, UnDeslizadorSeMueveAUnNumero)
+{
+    Horario d;
+    const Json t = Representar(
+        d, R"([{"set":["I1","1440"]},{"type":["Inicio:","0"]},{"set":["I1","450,0"]},{"read":"*"}])");
+    EXPECT_EQ(t.count("error"), 0U) << t;
+    EXPECT_EQ(d.aiValores, (std::vector<int>{1440, 0, 450}));
+    const Json estado = t["reads"][0];
+    EXPECT_EQ(estado["I1"]["value"], 450);
+    EXPECT_EQ(estado["I1"]["text"], "450");
+    EXPECT_EQ(estado["esquema"]["text"], "grafica");
+    EXPECT_EQ(estado["esquema"]["value"], nullptr);
+}
+
+TEST(Guiones, LoQueUnaPersonaNoPuedeMoverEsUnError)
+{
+    for (const char* paso :
+         {R"({"set":["I1","1441"]})", R"({"set":["I1","-1"]})", R"({"set":["I1","1,5"]})",
+          R"({"set":["I1",""]})", R"({"set":["I1","1e99"]})", R"({"set":["apagado","1"]})",
+          R"({"check":["I1",true]})", R"({"press":"esquema"})", R"({"set":["esquema","1"]})"}) {
+        Horario d;
+        const Json t = Representar(d, "[" + std::string(paso) + "]");
+        EXPECT_EQ(t.value("error", "").find("paso 0 de Horario: control"), 0U) << paso << t;
+        EXPECT_TRUE(d.aiValores.empty()) << paso;
+        EXPECT_EQ(t["result"], "Cancel");
+    }
+}
+
 }  // namespace
 }  // namespace efv::orden::pruebas
