@@ -54,7 +54,8 @@ constexpr int kCifrasExactas = 15;
 constexpr std::array<double, kCifrasExactas + 1> kPotencias = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-std::optional<double> LeerSencillo(const char* p, const char* fin)
+// Without `fin` the text ends at its zero, which is no part of a number.
+inline std::optional<double> LeerSencillo(const char* p, const char* fin)
 {
     const bool negativo = p != fin && *p == '-';
     p += negativo ? 1 : 0;
@@ -108,6 +109,13 @@ NumeroLeido LeerPrefijo(std::string_view texto)
 double LeerDoble(std::string_view texto)
 {
     if (const auto d = LeerSencillo(texto.data(), texto.data() + texto.size()))
+        return *d;
+    return LeerPrefijo(SinBlancosDelante(texto)).d;
+}
+
+double LeerDoble(const char* texto)
+{
+    if (const auto d = LeerSencillo(texto, nullptr))
         return *d;
     return LeerPrefijo(SinBlancosDelante(texto)).d;
 }
