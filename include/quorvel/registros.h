@@ -12,7 +12,7 @@
 namespace efv {
 
 /// A field of a record in place: writing through it changes the record.
-using ReferenciaCampo = std::variant<int*, double*, CString*>;
+using ReferenciaCampo = std::variant<int*, double*, CString*, CArray<double, double&>*, CStringArray*>;
 
 struct CampoRegistro {
     std::string_view nombre;

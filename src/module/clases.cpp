@@ -3,6 +3,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "assistants/asistente_aislada_registro.h"
 #include "assistants/asistente_red_registro.h"
 #include "platform/framework/registro_clases.h"
 
@@ -34,6 +35,7 @@ bool RegistrarClases()
         &CBaseReceptores::GetThisClass,
         &CBaseReceptorFamilia::GetThisClass,
         &CBaseReceptorModelo::GetThisClass,
+        &CSFVAsistenteAislada::GetThisClass,
         &CSFVAsistenteRed::GetThisClass,
     });
     for (const auto clase : clases)
@@ -57,6 +59,7 @@ bool CamposSiEs(CObject& registro, Campos& campos)
 
 // Every exported record.
 constexpr auto kRegistros = std::to_array<bool (*)(CObject&, Campos&)>({
+    &CamposSiEs<CSFVAsistenteAislada>,
     &CamposSiEs<CSFVAsistenteRed>,
 });
 

@@ -60,6 +60,7 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
                                                       "CBaseReceptores",
                                                       "CBaseReceptorFamilia",
                                                       "CBaseReceptorModelo",
+                                                      "CSFVAsistenteAislada",
                                                       "CSFVAsistenteRed"}));
 }
 

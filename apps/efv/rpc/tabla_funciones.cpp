@@ -77,6 +77,14 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phGetBaseFactorK>("phGetBaseFactorK", ""),
     Funcion::De<&phGetDataFactorK>("phGetDataFactorK", "dLatitud, iHemisferio, dAlpha, adK"),
 
+    // Row spacing
+    Funcion::De<&phGetDistanciaMinimaGEN>("phGetDistanciaMinimaGEN",
+                                          "iNumPaneles, dLongitudPanel, dInclinacion, dAlturaSolar, "
+                                          "dDistanciaFilas, dDistanciaLibre, dAlturaPanel, dAlturaFila"),
+    Funcion::De<&phGetDistanciaMinimaPCT>("phGetDistanciaMinimaPCT",
+                                          "iNumPaneles, dLongitudPanel, dInclinacion, dPendiente, dLatitud, "
+                                          "dDistanciaFilas, dDistanciaLibre, dAlturaPanel, dAlturaFila"),
+
     // Module curves
     Funcion::De<&phCalcValoresTipicos>(
         "phCalcValoresTipicos",

@@ -14,7 +14,8 @@
 namespace efv::framework {
 
 template <class R>
-using MiembroRegistro = std::variant<int R::*, double R::*, CString R::*>;
+using MiembroRegistro =
+    std::variant<int R::*, double R::*, CString R::*, CArray<double, double&> R::*, CStringArray R::*>;
 
 template <class R>
 struct CampoDeclarado {

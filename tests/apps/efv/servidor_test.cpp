@@ -324,6 +324,25 @@ TEST(Archivo, UnRegistroVaABytesYVuelve)
     EXPECT_EQ(porDefecto["iInversores"], 1);
 }
 
+TEST(Archivo, LasListasDeUnRegistroVanYVuelven)
+{
+    Anfitrion anfitrion;
+    const auto archivar = [&](const char* que, const Json& valor) {
+        return anfitrion.Resultado("rpc.archive", {{"record", "CSFVAsistenteAislada"}, {que, valor}});
+    };
+    Json registro = archivar("bytes", archivar("value", Json::object()));
+    EXPECT_EQ(registro["acsModelo"], Json::array());
+    registro["adCantidad"] = {2.0, 1.5};
+    registro["acsModelo"] = {"A#ñ", ""};
+    registro["adHorario"] = {480.0};
+    EXPECT_EQ(archivar("bytes", archivar("value", registro)), registro);
+    EXPECT_EQ(
+        anfitrion
+            .Error("rpc.archive", {{"record", "CSFVAsistenteAislada"}, {"value", {{"adCantidad", {1, "x"}}}}})
+            .first,
+        -32602);
+}
+
 TEST(Archivo, LoQueNoEsUnRegistroSeRechaza)
 {
     Anfitrion anfitrion;
