@@ -4,6 +4,7 @@
 #include <QuorvelEFV.h>
 
 #include "assistants/asistente_red_registro.h"
+#include "consumption/registros.h"
 #include "platform/framework/registro_clases.h"
 
 namespace {
@@ -13,6 +14,7 @@ bool RegistrarClases()
 {
     constexpr auto clases = std::to_array<const CRuntimeClass& (*)()>({
         &CBaseXML::GetThisClass,
+        &CItemConsumo::GetThisClass,
         &CBaseFactorK::GetThisClass,
         &CBaseFactorKLatitud::GetThisClass,
         &CBaseFactorKAlpha::GetThisClass,
@@ -20,6 +22,7 @@ bool RegistrarClases()
         &CBasePanelFotoFamilia::GetThisClass,
         &CBasePanelFotoModelo::GetThisClass,
         &CSFVAsistenteRed::GetThisClass,
+        &CSFVDataReceptor::GetThisClass,
     });
     for (const auto clase : clases)
         efv::framework::RegistrarClase(clase());
@@ -28,21 +31,25 @@ bool RegistrarClases()
 
 const bool kRegistradas = RegistrarClases();
 
-using Campos = std::vector<efv::CampoRegistro>;
+using ListaCampos = std::vector<efv::CampoRegistro>;
+using efv::assistants::Campos;
+using efv::consumption::Campos;
 
 // The fields of `registro` when it is an R.
 template <class R>
-bool CamposSiEs(CObject& registro, Campos& campos)
+bool CamposSiEs(CObject& registro, ListaCampos& campos)
 {
     auto* propio = dynamic_cast<R*>(&registro);
     if (propio != nullptr)
-        campos = efv::assistants::Campos(*propio);
+        campos = Campos(*propio);
     return propio != nullptr;
 }
 
 // Every exported record.
-constexpr auto kRegistros = std::to_array<bool (*)(CObject&, Campos&)>({
+constexpr auto kRegistros = std::to_array<bool (*)(CObject&, ListaCampos&)>({
     &CamposSiEs<CSFVAsistenteRed>,
+    &CamposSiEs<CSFVDataReceptor>,
+    &CamposSiEs<CItemConsumo>,
 });
 
 }  // namespace
@@ -51,7 +58,7 @@ namespace efv {
 
 std::vector<CampoRegistro> CamposDeRegistro(CObject& registro)
 {
-    Campos campos;
+    ListaCampos campos;
     for (const auto probar : kRegistros)
         if (probar(registro, campos))
             break;
