@@ -8,6 +8,7 @@
 #include <array>
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string_view>
 #include <vector>
@@ -167,6 +168,10 @@ EFV_API wchar_t CaracterSeparador(int iSeparador);
 
 /// The hours of a period, each × `dEscala`, with two decimals and followed by the separator.
 EFV_API CString TextoDeHoras(AnoHorarioVista ano, double dEscala, TramoHoras tramo, wchar_t separador);
+
+/// The text of a file of values, of any encoding and line ends; nothing when it can't be read, isn't text or
+/// has more than 16 MiB. @throws CFileException while another process holds it
+EFV_API std::optional<CString> LeerFicheroDeValores(const CString& csRuta);
 
 /// Values of a file's text as text of values: line ends, tabs, ";" and the marker "~#~" become blanks, runs
 /// of blanks one, blanks the separator, points commas. A comma is a decimal mark, never a separator.

@@ -3,6 +3,7 @@
 
 #include <quorvel/consumption.h>
 
+#include "platform/archivo/fichero_texto.h"
 #include "platform/numero/conversion.h"
 
 namespace efv {
@@ -44,6 +45,11 @@ CString TextoDeHoras(AnoHorarioVista ano, double dEscala, TramoHoras tramo, wcha
         texto += separador;
     }
     return texto;
+}
+
+std::optional<CString> LeerFicheroDeValores(const CString& csRuta)
+{
+    return archivo::LeerTexto(csRuta);
 }
 
 CString NormalizarValores(std::wstring_view texto, wchar_t separador)
