@@ -7,8 +7,8 @@ Fields, sources and what is derived are told in docs/modulos.md.
 """
 
 import math
-from xml.sax.saxutils import quoteattr
 
+from catalogo_xml import decimal, documento, escribir
 from fuentes_clima import RAIZ, leer_csv
 
 SALIDA = RAIZ / "data" / "ZqModFotoHE5.xml"
@@ -169,41 +169,27 @@ def atributos(fila):
     medidas = {"dH": float(fila["largo"]), "dB": float(fila["ancho"]),
                "dA": float(fila["canto"]), "dP": float(fila["peso"])}
     salida = {"csModelo": fila["modelo"]}
-    salida |= {n: f"{v:f}" for n, v in decimales.items()}
+    salida |= {n: decimal(v) for n, v in decimales.items()}
     salida |= {"iNp": fila["np"], "iNs": fila["ns"]}
-    salida |= {"dAcel": f"{100 * float(fila['celula'] or 0):f}", "iTipoCelula": fila["tipo"]}
-    salida |= {n: f"{v:f}" for n, v in medidas.items()}
+    salida |= {"dAcel": decimal(100 * float(fila["celula"] or 0)), "iTipoCelula": fila["tipo"]}
+    salida |= {n: decimal(v) for n, v in medidas.items()}
     return salida | {"nColor": "0", "csCodPrecio": ""}
 
 
-CABECERA = """<?xml version="1.0" encoding="UTF-8"?>
-<!--
-  PV modules by manufacturer. Values at 1000 W/m2, 25 C. dCT* in mV, mA and mW per C; dCEf in %;
-  dAcel in mm2; dH, dB, dA in mm; dP in kg.
-  Written by tools/generar_modulos.py; told in docs/modulos.md. Do not edit by hand.
--->
-<QuorvelEFV><TablaFamilias>
+NOTA = """
+PV modules by manufacturer. Values at 1000 W/m2, 25 C. dCT* in mV, mA and mW per C; dCEf in %;
+dAcel in mm2; dH, dB, dA in mm; dP in kg.
+Written by tools/generar_modulos.py; told in docs/modulos.md. Do not edit by hand.
 """
-PIE = "</TablaFamilias></QuorvelEFV>\n"
-
-
-def elemento(fila):
-    return "<Modelo " + " ".join(f"{n}={quoteattr(v)}" for n, v in atributos(fila).items()) + "/>\n"
 
 
 def generar():
     """The whole file as text."""
-    familias = {}
-    for fila in leer_csv("modulos.csv"):
-        familias.setdefault(fila["fabricante"], []).append(fila)
-    cuerpo = "".join(f"<Familia nombre={quoteattr(nombre)}>\n" + "".join(map(elemento, filas))
-                     + "</Familia>\n" for nombre, filas in familias.items())
-    return CABECERA + cuerpo + PIE
+    return documento(NOTA, leer_csv("modulos.csv"), atributos)
 
 
 def main():
-    SALIDA.write_text(generar(), encoding="utf-8", newline="\n")
-    print(f"{SALIDA.relative_to(RAIZ)} written")
+    escribir(SALIDA, generar())
 
 
 if __name__ == "__main__":

@@ -5,19 +5,22 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <variant>
 
-#include <quorvel/framework/CString.h>
+#include <quorvel/catalogues/base.h>
 
 namespace efv::catalogues {
 
+/// Without a member: the attribute belongs to the file's models, and no field holds it.
 template <class M>
-using MiembroModelo = std::variant<int M::*, short M::*, double M::*, CString M::*>;
+using MiembroModelo = std::variant<std::monostate, int M::*, short M::*, double M::*, CString M::*>;
 
 template <class M>
 struct CampoModelo {
     const char* atributo;  ///< name in the file, and of the field
     MiembroModelo<M> miembro;
+    std::wstring_view columna = {};  ///< heading in lists of models; empty: not shown there
 };
 
 /// What a catalogue is called.
@@ -27,22 +30,56 @@ struct NombresCatalogo {
     const char* claseModelo;
     std::wstring_view rotulo;  ///< label in the viewer
     std::wstring_view titulo;  ///< title of the viewer
+    int iCadenaFichero;        ///< number of the text that names its file
 };
 
-/// To be given for each model class M:
+/// What is to be given for each model class M, derived from ReglasCatalogo<M>:
 ///   static std::span<const CampoModelo<M>> Campos();
 ///   static NombresCatalogo Nombres();
-///   static void Preparar(M& retenido);   what the held record starts with besides zeros
-///   static void AntesDeModelo(M& retenido);   what isn't carried over from the model before
 template <class M>
 struct Catalogo;
+
+/// What a catalogue may have of its own in reading and editing; most have nothing.
+template <class M>
+struct ReglasCatalogo {
+    using Base = CBaseCatalogo<M>;
+
+    /// What the held record of a file starts with besides zeros.
+    static void Preparar(M& /*retenido*/) {}
+    /// What isn't carried over from the model before.
+    static void AntesDeModelo(M& /*retenido*/) {}
+    /// After the attributes of a model were read.
+    static void Sanear(M& /*leido*/) {}
+    /// After an element of the document was read for editing.
+    static void PrepararEdicion(M& /*modelo*/, bool /*bNuevo*/) {}
+    /// Attributes that an accepted element gets when it lacks them.
+    static std::span<const char* const> AnadirSiFaltan() { return {}; }
+};
+
+template <class M>
+bool EsNumerico(const CampoModelo<M>& campo)
+{
+    return !std::holds_alternative<CString M::*>(campo.miembro);
+}
+
+/// Calls `accion` with the model's field of that row; not when it has none.
+template <class MODELO, class M, class ACCION>
+void AlMiembro(MODELO& modelo, const CampoModelo<M>& campo, ACCION accion)
+{
+    std::visit(
+        [&](auto miembro) {
+            if constexpr (!std::is_same_v<decltype(miembro), std::monostate>)
+                accion(modelo.*miembro);
+        },
+        campo.miembro);
+}
 
 /// All of the file's fields to 0 and empty.
 template <class M>
 void Anular(M& modelo)
 {
     for (const auto& campo : Catalogo<M>::Campos())
-        std::visit([&](auto m) { modelo.*m = {}; }, campo.miembro);
+        AlMiembro(modelo, campo, [](auto& valor) { valor = {}; });
 }
 
 /// Copies members of a model to the outputs of a getter, one for one: count and types are checked by

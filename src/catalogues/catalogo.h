@@ -15,6 +15,24 @@
 #include "platform/xml/xml.h"
 
 // ---------------------------------------------------------------------------------------------------
+// Model
+// ---------------------------------------------------------------------------------------------------
+
+template <class M>
+const CRuntimeClass& CModeloCatalogo<M>::GetThisClass()
+{
+    static const CRuntimeClass clase{efv::catalogues::Catalogo<M>::Nombres().claseModelo,
+                                     &CObject::GetThisClass(), &efv::framework::Crear<M>};
+    return clase;
+}
+
+template <class M>
+const CRuntimeClass& CModeloCatalogo<M>::GetRuntimeClass() const
+{
+    return GetThisClass();
+}
+
+// ---------------------------------------------------------------------------------------------------
 // Family
 // ---------------------------------------------------------------------------------------------------
 
@@ -66,8 +84,9 @@ M* CFamiliaCatalogo<M>::BuscarModelo(const CString& csId) const
 template <class M>
 const CRuntimeClass& CBaseCatalogo<M>::GetThisClass()
 {
-    static const CRuntimeClass clase{efv::catalogues::Catalogo<M>::Nombres().claseBase,
-                                     &CBaseXML::GetThisClass(), &efv::framework::Crear<CBaseCatalogo<M>>};
+    using efv::catalogues::Catalogo;
+    static const CRuntimeClass clase{Catalogo<M>::Nombres().claseBase, &CBaseXML::GetThisClass(),
+                                     &efv::framework::Crear<typename Catalogo<M>::Base>};
     return clase;
 }
 

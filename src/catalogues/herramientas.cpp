@@ -4,7 +4,7 @@
 #include <quorvel/catalogo_herramientas.h>
 #include <quorvel/framework/CException.h>
 
-#include "catalogues/arbol_documento.h"
+#include "catalogues/anadir_modelos.h"
 #include "catalogues/importacion.h"
 #include "catalogues/panel_foto.h"
 #include "catalogues/panel_foto_dialogo.h"
@@ -24,38 +24,6 @@ using M = CBasePanelFotoModelo;
 [[noreturn]] void Fallar(const CString& csFichero, const std::string& motivo)
 {
     throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": " + motivo);
-}
-
-xml::Elemento BuscarTabla(const xml::DocumentoEditable& documento)
-{
-    for (const xml::Elemento superior : documento.Superiores())
-        if (documento.Nombre(superior) == L"TablaFamilias")
-            return superior;
-    return {};
-}
-
-// The family of that name, the first of them; none when the file lacks it.
-xml::Elemento BuscarFamilia(const xml::DocumentoEditable& documento, xml::Elemento tabla,
-                            const CString& csFamilia)
-{
-    for (const xml::Elemento familia : documento.Hijos(tabla, "Familia"))
-        if (documento.Atributo(familia, "nombre") == csFamilia)
-            return familia;
-    return {};
-}
-
-// An element with the catalogue's full list of attributes.
-xml::DocumentoEditable::Atributos AtributosDe(const M& modelo)
-{
-    catalogues::CXMLElemento elemento(L"Modelo");
-    for (const auto& campo : Catalogo<M>::Campos())
-        elemento.AddAtributo(catalogues::NombreAncho(campo.atributo),
-                             std::holds_alternative<CString M::*>(campo.miembro) ? L"" : L"0");
-    catalogues::EscribirEn(elemento, modelo);
-    xml::DocumentoEditable::Atributos atributos;
-    for (const auto& atributo : elemento.aAtributos)
-        atributos.emplace_back(atributo->csNombre, atributo->csValor);
-    return atributos;
 }
 
 }  // namespace
@@ -87,8 +55,8 @@ ModuloImportado LeerPan(const CString& csFichero)
     if (!csTexto)
         Fallar(csFichero, "no se puede leer");
     ModuloImportado importado;
-    std::vector<CString> ausentes = catalogues::ClavesAusentes(*csTexto);
-    if (ausentes.size() == catalogues::NumeroDeClavesPan())
+    std::vector<CString> ausentes = catalogues::ClavesAusentes(*csTexto, catalogues::ClavesPan());
+    if (ausentes.size() == catalogues::ClavesPan().size())
         Fallar(csFichero, "no es un archivo PAN: no tiene ninguna de sus claves");
     catalogues::ImportarPan(*csTexto, importado.modelo);
     importado.csFabricante = catalogues::ValorDeClave(*csTexto, L"Manufacturer");
@@ -106,23 +74,10 @@ ModuloImportado LeerPan(const CString& csFichero)
 
 void AnadirModelos(const CString& csCatalogo, const CString& csFamilia, std::span<const M> modelos)
 {
-    auto documento = xml::DocumentoEditable::Abrir(csCatalogo);
-    if (!documento)
-        Fallar(csCatalogo, "no existe, no se puede leer o no es XML bien formado");
-    const xml::Elemento tabla = BuscarTabla(*documento);
-    if (!tabla)
-        Fallar(csCatalogo, "no es un catálogo: no tiene TablaFamilias");
-    xml::Elemento familia = BuscarFamilia(*documento, tabla, csFamilia);
-    if (!familia)
-        familia = documento->Anadir(tabla, "Familia", {{L"nombre", csFamilia}});
-    for (const M& modelo : modelos) {
-        for (const xml::Elemento otro : documento->Hijos(familia, "Modelo"))
-            if (documento->Atributo(otro, "csModelo") == modelo.csModelo)
-                Fallar(csCatalogo, "la familia " + CadenaUtf8(csFamilia) + " ya tiene el modelo " +
-                                       CadenaUtf8(modelo.csModelo));
-        documento->Anadir(familia, "Modelo", AtributosDe(modelo));
-    }
-    archivo::ReemplazarFichero(csCatalogo, documento->Texto());
+    std::vector<catalogues::ModeloNuevo> nuevos;
+    for (const M& modelo : modelos)
+        nuevos.emplace_back(modelo.csModelo, catalogues::AtributosDe(modelo));
+    catalogues::AnadirModelos(csCatalogo, csFamilia, nuevos);
 }
 
 }  // namespace efv

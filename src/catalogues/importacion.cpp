@@ -1,6 +1,17 @@
 #include "catalogues/importacion.h"
 
+#include "platform/numero/conversion.h"
+#include "ui/fichero_texto.h"
+
 namespace efv::catalogues {
+
+std::optional<CString> PedirTextoImportado(const ui::FiltroFichero& propio)
+{
+    ui::PeticionFichero peticion;
+    peticion.filtros = {propio, {L"Texto (*.txt)", L"*.txt"}, {L"Todos los ficheros (*.*)", L"*.*"}};
+    const auto csRuta = ui::PresentadorActual().ElegirFichero(peticion);
+    return csRuta ? ui::LeerTextoImportado(*csRuta) : std::nullopt;
+}
 
 CString ValorDeClave(std::wstring_view texto, std::wstring_view clave)
 {
@@ -12,6 +23,16 @@ CString ValorDeClave(std::wstring_view texto, std::wstring_view clave)
         return {};
     const std::size_t valor = inicio + clave.size() + 1;
     return CString(texto.substr(valor, fin - valor));
+}
+
+double NumeroImportado(const CString& csValor)
+{
+    return numero::LeerDoble(std::wstring_view(csValor));
+}
+
+int EnteroImportado(const CString& csValor)
+{
+    return numero::LeerEntero(CadenaUtf8(csValor));
 }
 
 }  // namespace efv::catalogues

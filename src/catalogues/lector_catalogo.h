@@ -60,7 +60,8 @@ private:
     {
         Catalogo<M>::AntesDeModelo(m_retenido);
         for (const auto& campo : Catalogo<M>::Campos())
-            std::visit([&](auto m) { Leer(nodo, campo.atributo, m_retenido.*m); }, campo.miembro);
+            AlMiembro(m_retenido, campo, [&](auto& valor) { Leer(nodo, campo.atributo, valor); });
+        Catalogo<M>::Sanear(m_retenido);
     }
 
     static void Leer(xml::Nodo nodo, const char* atributo, CString& cs)

@@ -13,10 +13,10 @@ using M = CBasePanelFotoModelo;
 // In the order of reading.
 constexpr auto kCampos = std::to_array<CampoModelo<M>>({
     {"csModelo", &M::csModelo},
-    {"dPmpm", &M::dPmpm},
+    {"dPmpm", &M::dPmpm, L"Pmpm (W)"},
     {"dVsmax", &M::dVsmax},
-    {"dVmpm", &M::dVmpm},
-    {"dImpm", &M::dImpm},
+    {"dVmpm", &M::dVmpm, L"Vmpm (V)"},
+    {"dImpm", &M::dImpm, L"Impm (A)"},
     {"dVoc", &M::dVoc},
     {"dIsc", &M::dIsc},
     {"dCTVoc", &M::dCTVoc},
@@ -26,7 +26,7 @@ constexpr auto kCampos = std::to_array<CampoModelo<M>>({
     {"iNp", &M::iNp},
     {"iNs", &M::iNs},
     {"dAcel", &M::dAcel},
-    {"iTipoCelula", &M::iTipoCelula},
+    {"iTipoCelula", &M::iTipoCelula, L"Tecnología"},
     {"dH", &M::dH},
     {"dB", &M::dB},
     {"dA", &M::dA},
@@ -44,23 +44,23 @@ std::span<const CampoModelo<M>> Catalogo<M>::Campos()
 
 NombresCatalogo Catalogo<M>::Nombres()
 {
-    return {"CBasePanelFoto", "CBasePanelFotoFamilia", "CBasePanelFotoModelo", L"Panel Fotovoltaico",
-            L"Base de Datos de Paneles Fotovoltaicos"};
+    return {"CBasePanelFoto",
+            "CBasePanelFotoFamilia",
+            "CBasePanelFotoModelo",
+            L"Panel Fotovoltaico",
+            L"Base de Datos de Paneles Fotovoltaicos",
+            20442};
 }
 
 template <>
-bool MostrarDialogo(M& modelo)
+std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura)
 {
-    CDlgItemDatosPanelFoto dialogo(modelo, SoloLectura<M>() != 0);
-    if (dialogo.Mostrar() != ui::Dialogo::ok)
-        return false;
-    modelo = dialogo.datos;
-    return true;
+    return std::make_unique<CDlgItemDatosPanelFoto>(modelo, bSoloLectura);
 }
 
-int CelulasPorRamal(const M& modelo)
+int CelulasPorRamal(int iTipoCelula, int iNs)
 {
-    return modelo.iTipoCelula >= 3 ? 200 : modelo.iNs;
+    return iTipoCelula >= 3 ? 200 : iNs;
 }
 
 double CoeficienteAPorciento(double dCoeficiente, double dReferencia)
@@ -76,19 +76,6 @@ double CoeficienteDePorciento(double dPorciento, double dReferencia)
 
 }  // namespace efv::catalogues
 
-const CRuntimeClass& CBasePanelFotoModelo::GetThisClass()
-{
-    static const CRuntimeClass clase{"CBasePanelFotoModelo", &CObject::GetThisClass(),
-                                     &efv::framework::Crear<CBasePanelFotoModelo>};
-    return clase;
-}
-
-const CRuntimeClass& CBasePanelFotoModelo::GetRuntimeClass() const
-{
-    return GetThisClass();
-}
-
-CBasePanelFotoModelo::~CBasePanelFotoModelo() = default;
-
+template class CModeloCatalogo<CBasePanelFotoModelo>;
 template class CFamiliaCatalogo<CBasePanelFotoModelo>;
 template class CBaseCatalogo<CBasePanelFotoModelo>;

@@ -12,11 +12,9 @@
 namespace efv::catalogues {
 
 template <>
-struct Catalogo<CBasePanelFotoModelo> {
+struct Catalogo<CBasePanelFotoModelo> : ReglasCatalogo<CBasePanelFotoModelo> {
     static std::span<const CampoModelo<CBasePanelFotoModelo>> Campos();
     static NombresCatalogo Nombres();
-    static void Preparar(CBasePanelFotoModelo& /*retenido*/) {}
-    static void AntesDeModelo(CBasePanelFotoModelo& /*retenido*/) {}
 };
 
 /// A cell technology in the three vocabularies that name it.
@@ -34,7 +32,7 @@ inline constexpr auto kTiposCelula = std::to_array<TipoCelula>({
 });
 
 /// Cells a branch as the getters give them: 200 for the technologies from 3 on.
-int CelulasPorRamal(const CBasePanelFotoModelo& modelo);
+int CelulasPorRamal(int iTipoCelula, int iNs);
 
 /// Coefficient in thousandths of a unit and degree to percent of a reference and degree. A null
 /// reference counts as 1.

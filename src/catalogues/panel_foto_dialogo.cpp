@@ -17,109 +17,38 @@ constexpr auto kEntradasTipo = [] {
     return entradas;
 }();
 
-constexpr std::wstring_view kElectricos = L"Características eléctricas";
-constexpr std::wstring_view kTermicos = L"Coeficientes de temperatura";
-constexpr std::wstring_view kFisicos = L"Características físicas";
-
-constexpr auto kFilasElectricas = std::to_array<ui::Fila<P>>({
+constexpr auto kGenerales = std::to_array<ui::Fila<P>>({
     {"csModelo", &P::csModelo, L"Modelo:"},
     {"csCodPrecio", &P::csCodPrecio, L"Cod.Precios:"},
-    {"dVsmax",
-     &P::dVsmax,
-     L"Tensión máxima del sistema [Vsmax] (V):",
-     ui::Intervalo{0, 10000},
-     2,
-     {},
-     {},
-     {.grupo = kElectricos}},
-    {"dPmpm",
-     &P::dPmpm,
-     L"Potencia máxima [Pmpm] (W):",
-     ui::Intervalo{0, 15000},
-     2,
-     {},
-     {},
-     {.grupo = kElectricos}},
-    {"dVmpm",
-     &P::dVmpm,
-     L"Tensión en máxima potencia [Vmpm] (V):",
-     ui::Intervalo{0, 15000},
-     2,
-     {},
-     {},
-     {.grupo = kElectricos}},
-    {"dImpm",
-     &P::dImpm,
-     L"Corriente en máxima potencia [Impm] (A):",
-     ui::Intervalo{0, 5000},
-     2,
-     {},
-     {},
-     {.grupo = kElectricos}},
-    {"dVoc",
-     &P::dVoc,
-     L"Tensión a circuito abierto [Voc] (V):",
-     ui::Intervalo{0, 15000},
-     2,
-     {},
-     {},
-     {.grupo = kElectricos}},
-    {"dIsc",
-     &P::dIsc,
-     L"Corriente en cortocircuito [Isc] (A):",
-     ui::Intervalo{0, 5000},
-     2,
-     {},
-     {},
-     {.grupo = kElectricos}},
+});
+constexpr auto kElectricos = std::to_array<ui::Fila<P>>({
+    {"dVsmax", &P::dVsmax, L"Tensión máxima del sistema [Vsmax] (V):", {0, 10000}},
+    {"dPmpm", &P::dPmpm, L"Potencia máxima [Pmpm] (W):", {0, 15000}},
+    {"dVmpm", &P::dVmpm, L"Tensión en máxima potencia [Vmpm] (V):", {0, 15000}},
+    {"dImpm", &P::dImpm, L"Corriente en máxima potencia [Impm] (A):", {0, 5000}},
+    {"dVoc", &P::dVoc, L"Tensión a circuito abierto [Voc] (V):", {0, 15000}},
+    {"dIsc", &P::dIsc, L"Corriente en cortocircuito [Isc] (A):", {0, 5000}},
+});
+constexpr auto kTermicos = std::to_array<ui::Fila<P>>({
+    {"dCEf", &P::dCEf, L"Reducción efic. [1000 a 200 W/m² ](%):", {0, 100}},
+});
+constexpr auto kFisicos = std::to_array<ui::Fila<P>>({
+    {"dAcel", &P::dAcel, L"Dimensiones de la célula [AxB] (mm²):"},
+    {"dH", &P::dH, L"Longitud (mm):", {0, 50000}, 0},
+    {"dB", &P::dB, L"Ancho (mm):", {0, 50000}, 0},
+    {"dA", &P::dA, L"Canto (mm):", {0, 50000}, 0},
+    {"dP", &P::dP, L"Peso (kg):", {0, 50000}},
+    {.nombre = "iTipoCelula",
+     .campo = &P::iTipoCelula,
+     .rotulo = L"Tecnología de la célula:",
+     .entradas = kEntradasTipo},
+    {"iNp", &P::iNp, L"Número de ramales paralelo:", {1, 1000}},
+    {"iNs", &P::iNs, L"Número de células por ramal:", {1, 1000}},
 });
 
-constexpr auto kFilasFisicas = std::to_array<ui::Fila<P>>({
-    {"dCEf",
-     &P::dCEf,
-     L"Reducción efic. [1000 a 200 W/m² ](%):",
-     ui::Intervalo{0, 100},
-     2,
-     {},
-     {},
-     {.grupo = kTermicos}},
-    {"dAcel",
-     &P::dAcel,
-     L"Dimensiones de la célula [AxB] (mm²):",
-     {},
-     2,
-     {},
-     {},
-     {.grupo = kFisicos, .iColumna = 1}},
-    {"dH", &P::dH, L"Longitud (mm):", ui::Intervalo{0, 50000}, 0, {}, {}, {.grupo = kFisicos, .iColumna = 1}},
-    {"dB", &P::dB, L"Ancho (mm):", ui::Intervalo{0, 50000}, 0, {}, {}, {.grupo = kFisicos, .iColumna = 1}},
-    {"dA", &P::dA, L"Canto (mm):", ui::Intervalo{0, 50000}, 0, {}, {}, {.grupo = kFisicos, .iColumna = 1}},
-    {"dP", &P::dP, L"Peso (kg):", ui::Intervalo{0, 50000}, 2, {}, {}, {.grupo = kFisicos, .iColumna = 1}},
-    {"iTipoCelula",
-     &P::iTipoCelula,
-     L"Tecnología de la célula:",
-     {},
-     0,
-     kEntradasTipo,
-     {},
-     {.grupo = kFisicos, .iColumna = 1}},
-    {"iNp",
-     &P::iNp,
-     L"Número de ramales paralelo:",
-     ui::Intervalo{1, 1000},
-     0,
-     {},
-     {},
-     {.grupo = kFisicos, .iColumna = 1}},
-    {"iNs",
-     &P::iNs,
-     L"Número de células por ramal:",
-     ui::Intervalo{1, 1000},
-     0,
-     {},
-     {},
-     {.grupo = kFisicos, .iColumna = 1}},
-});
+const ui::Lugar kLugarElectricos{.grupo = L"Características eléctricas"};
+const ui::Lugar kLugarTermicos{.grupo = L"Coeficientes de temperatura"};
+const ui::Lugar kLugarFisicos{.grupo = L"Características físicas", .iColumna = 1};
 
 constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
     {"csModelo", ui::Vacio<&P::csModelo>, L"El modelo del panel, necesita un nombre válido"},
@@ -148,16 +77,16 @@ CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectu
                    kComprobaciones),
       m_coeficientes{{{&P::dCTVoc, &P::dVoc}, {&P::dCTIsc, &P::dIsc}, {&P::dCTPmpm, &P::dPmpm}}}
 {
-    for (const auto& fila : kFilasElectricas)
-        Anadir(fila);
+    Anadir(kGenerales);
+    Anadir(kElectricos, kLugarElectricos);
     AnadirCoeficiente(m_coeficientes[0], "dCTVoc", L"Coeficiente de Tª de Voc:    (mV/ºC):", "iUnidadVoc",
                       L"mV/ºC");
     AnadirCoeficiente(m_coeficientes[1], "dCTIsc", L"Coeficiente de Tª de Isc:     (mA/ºC)", "iUnidadIsc",
                       L"mA/ºC");
     AnadirCoeficiente(m_coeficientes[2], "dCTPmpm", L"Coeficiente de Tª a Pmpm:    (mW/ºC):", "iUnidadPmpm",
                       L"mW/ºC");
-    for (const auto& fila : kFilasFisicas)
-        Anadir(fila);
+    Anadir(kTermicos, kLugarTermicos);
+    Anadir(kFisicos, kLugarFisicos);
     AnadirBotones();
     Volcar();
     for (const Coeficiente& coeficiente : m_coeficientes)
@@ -176,7 +105,7 @@ void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, const c
     campo.destino = &(datos.*coeficiente.valor);
     campo.iDecimales = 3;
     campo.intercambio = ui::Intercambio::aMano;
-    campo.lugar.grupo = kTermicos;
+    campo.lugar = kLugarTermicos;
     campo.alCambiar = [this] { bCambio = 1; };
     campo.alSalir = [this, &coeficiente] { AlSalirDe(coeficiente); };
     coeficiente.campo = &campo;
@@ -184,7 +113,7 @@ void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, const c
     auto& unidad = Anadir<ui::Seleccion>(nombreUnidad, L"", ui::Seleccion::Forma::combo);
     unidad.acsEntradas = {CString(unidadAbsoluta), L"%/ºC"};
     unidad.iSeleccion = coeficiente.iUnidad;
-    unidad.lugar.grupo = kTermicos;
+    unidad.lugar = kLugarTermicos;
     unidad.alElegir = [this, &coeficiente] { AlCambiarUnidad(coeficiente); };
     coeficiente.unidad = &unidad;
 }
@@ -244,14 +173,7 @@ void CDlgItemDatosPanelFoto::AlSalirDe(Coeficiente& c)
 
 void CDlgItemDatosPanelFoto::AlImportar()
 {
-    ui::PeticionFichero peticion;
-    peticion.filtros = {{L"Archivo PAN de PVSyst (*.pan)", L"*.pan"},
-                        {L"Texto (*.txt)", L"*.txt"},
-                        {L"Todos los ficheros (*.*)", L"*.*"}};
-    const auto csRuta = ui::PresentadorActual().ElegirFichero(peticion);
-    if (!csRuta)
-        return;
-    const auto csTexto = efv::catalogues::LeerTextoImportado(*csRuta);
+    const auto csTexto = efv::catalogues::PedirTextoImportado({L"Archivo PAN de PVSyst (*.pan)", L"*.pan"});
     if (!csTexto || csTexto->empty())
         return;
     efv::catalogues::ImportarPan(*csTexto, datos);

@@ -2,11 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <variant>
 
-#include "catalogues/importacion.h"
 #include "catalogues/panel_foto.h"
-#include "platform/numero/conversion.h"
 
 namespace efv::catalogues {
 
@@ -14,14 +11,8 @@ namespace {
 
 using M = CBasePanelFotoModelo;
 
-struct ClavePan {
-    std::wstring_view clave;
-    std::variant<CString M::*, double M::*, int M::*> miembro;
-    double dFactor = 1.0;
-};
-
 // Lengths come in metres.
-constexpr auto kClaves = std::to_array<ClavePan>({
+constexpr auto kClaves = std::to_array<ClaveImportada<M>>({
     {L"Model", &M::csModelo},
     {L"PNom", &M::dPmpm},
     {L"Vmp", &M::dVmpm},
@@ -40,21 +31,6 @@ constexpr auto kClaves = std::to_array<ClavePan>({
     {L"VMaxUL", &M::dVsmax},
 });
 
-void Tomar(const CString& csValor, double /*dFactor*/, CString& cs)
-{
-    cs = csValor;
-}
-
-void Tomar(const CString& csValor, double dFactor, double& d)
-{
-    d = numero::LeerDoble(std::wstring_view(csValor)) * dFactor;
-}
-
-void Tomar(const CString& csValor, double /*dFactor*/, int& i)
-{
-    i = numero::LeerEntero(CadenaUtf8(csValor));
-}
-
 // Index of the technology; the last entry is any other.
 int TipoDe(const CString& csTecnologia)
 {
@@ -67,27 +43,15 @@ int TipoDe(const CString& csTecnologia)
 
 void ImportarPan(std::wstring_view csTexto, M& modelo)
 {
-    for (const ClavePan& fila : kClaves) {
-        const CString csValor = ValorDeClave(csTexto, fila.clave);
-        std::visit([&](auto m) { Tomar(csValor, fila.dFactor, modelo.*m); }, fila.miembro);
-    }
+    Importar<M>(csTexto, kClaves, modelo);
     modelo.iTipoCelula = TipoDe(ValorDeClave(csTexto, L"Technol"));
     // The file gives this coefficient in percent a degree.
     modelo.dCTPmpm = (modelo.dPmpm / 100) * (modelo.dCTPmpm * 1000);
 }
 
-std::vector<CString> ClavesAusentes(std::wstring_view csTexto)
+std::span<const ClaveImportada<M>> ClavesPan()
 {
-    std::vector<CString> ausentes;
-    for (const ClavePan& fila : kClaves)
-        if (csTexto.find(CString(fila.clave) + L"=") == std::wstring_view::npos)
-            ausentes.emplace_back(fila.clave);
-    return ausentes;
-}
-
-std::size_t NumeroDeClavesPan()
-{
-    return kClaves.size();
+    return kClaves;
 }
 
 }  // namespace efv::catalogues

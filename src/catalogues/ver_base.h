@@ -1,6 +1,10 @@
 // Managing a catalogue and choosing from it: what stands between a catalogue and the viewer.
 #pragma once
 
+#include <memory>
+#include <optional>
+#include <utility>
+
 #include <fmt/format.h>
 #include <fmt/xchar.h>
 
@@ -10,6 +14,8 @@
 #include "catalogues/campos.h"
 #include "catalogues/visor.h"
 #include "frame/recursos.h"
+#include "platform/xml/documento_editable.h"
+#include "ui/filas.h"
 
 namespace efv::catalogues {
 
@@ -37,9 +43,9 @@ private:
     int m_anterior;
 };
 
-/// Shows a model's dialog over `modelo`; true when the person accepted it. Each catalogue has its own.
+/// The dialog of a model's data sheet; each catalogue has its own.
 template <class M>
-bool MostrarDialogo(M& modelo);
+std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura);
 
 // ---------------------------------------------------------------------------------------------------
 // One element of the document
@@ -50,47 +56,77 @@ CString NombreAncho(const char* nombre);
 double NumeroDe(const CString& csTexto);
 int EnteroDe(const CString& csTexto);
 
-/// Values of an element as a model: an absent attribute is 0 or empty.
+inline void DeTexto(const CString& csValor, CString& cs)
+{
+    cs = csValor;
+}
+inline void DeTexto(const CString& csValor, double& d)
+{
+    d = NumeroDe(csValor);
+}
+inline void DeTexto(const CString& csValor, int& i)
+{
+    i = EnteroDe(csValor);
+}
+// The 16-bit colour index is no field of any dialog: it is neither read nor written here and survives.
+inline void DeTexto(const CString& /*csValor*/, short& /*n*/) {}
+
+inline void Escribir(CXMLElemento& elemento, const CString& csNombre, const CString& cs)
+{
+    elemento.SetAtributoVariant(csNombre, cs);
+}
+inline void Escribir(CXMLElemento& elemento, const CString& csNombre, double d)
+{
+    elemento.SetAtributoDouble(csNombre, d);
+}
+inline void Escribir(CXMLElemento& elemento, const CString& csNombre, int i)
+{
+    elemento.SetAtributoInt(csNombre, i);
+}
+inline void Escribir(CXMLElemento& /*elemento*/, const CString& /*csNombre*/, short /*n*/) {}
+
+/// Values of an element as a model: an absent attribute is 0 or empty. A new one's name starts empty.
 template <class M>
-M ModeloDe(const CXMLElemento& elemento)
+M ModeloDe(const CXMLElemento& elemento, bool bNuevo)
 {
     M modelo;
     for (const auto& campo : Catalogo<M>::Campos()) {
-        const CString csValor = elemento.GetAtributo(NombreAncho(campo.atributo));
-        struct Asignar {
-            M& modelo;
-            const CString& csValor;
-            void operator()(CString M::*m) const { modelo.*m = csValor; }
-            void operator()(double M::*m) const { modelo.*m = NumeroDe(csValor); }
-            void operator()(int M::*m) const { modelo.*m = EnteroDe(csValor); }
-            void operator()(short M::*m) const { modelo.*m = 0; }
-        };
-        std::visit(Asignar{modelo, csValor}, campo.miembro);
+        AlMiembro(modelo, campo,
+                  [&](auto& valor) { DeTexto(elemento.GetAtributo(NombreAncho(campo.atributo)), valor); });
     }
+    if (bNuevo)
+        modelo.csModelo.clear();
+    Catalogo<M>::PrepararEdicion(modelo, bNuevo);
     return modelo;
 }
 
-/// Writes the model's values into the attributes that the element has. The 16-bit colour index is no
-/// field of any dialog and survives as it stands.
+/// Writes the model's values into the attributes that the element has.
 template <class M>
 void EscribirEn(CXMLElemento& elemento, const M& modelo)
 {
+    for (const char* atributo : Catalogo<M>::AnadirSiFaltan())
+        elemento.AddAtributo(NombreAncho(atributo), L"");
     for (const auto& campo : Catalogo<M>::Campos()) {
-        const CString csNombre = NombreAncho(campo.atributo);
-        struct Poner {
-            CXMLElemento& elemento;
-            const M& modelo;
-            const CString& csNombre;
-            void operator()(short M::* /*m*/) const {}
-            void operator()(int M::*m) const { elemento.SetAtributoInt(csNombre, modelo.*m); }
-            void operator()(double M::*m) const { elemento.SetAtributoDouble(csNombre, modelo.*m); }
-            void operator()(CString M::*m) const { elemento.SetAtributoVariant(csNombre, modelo.*m); }
-        };
-        std::visit(Poner{elemento, modelo, csNombre}, campo.miembro);
+        AlMiembro(modelo, campo,
+                  [&](const auto& valor) { Escribir(elemento, NombreAncho(campo.atributo), valor); });
     }
 }
 
-/// Lets the person edit one element of the document. A new one's name starts empty.
+/// All attributes of a model's element, in file order. Those without a field are 0.
+template <class M>
+xml::DocumentoEditable::Atributos AtributosDe(const M& modelo)
+{
+    CXMLElemento elemento(L"Modelo");
+    for (const auto& campo : Catalogo<M>::Campos())
+        elemento.AddAtributo(NombreAncho(campo.atributo), EsNumerico(campo) ? L"0" : L"");
+    EscribirEn(elemento, modelo);
+    xml::DocumentoEditable::Atributos atributos;
+    for (const auto& atributo : elemento.aAtributos)
+        atributos.emplace_back(atributo->csNombre, atributo->csValor);
+    return atributos;
+}
+
+/// Lets the person edit one element of the document.
 template <class M>
 Edicion EditarElemento(CXMLElemento* elemento, bool bNuevo)
 {
@@ -98,13 +134,12 @@ Edicion EditarElemento(CXMLElemento* elemento, bool bNuevo)
         return Edicion::sinCambio;
     if (elemento->csNombre != L"Modelo")
         return elemento->csNombre == L"Familia" ? Edicion::familia : Edicion::sinCambio;
-    M modelo = ModeloDe<M>(*elemento);
-    if (bNuevo)
-        modelo.csModelo.clear();
+    const M modelo = ModeloDe<M>(*elemento, bNuevo);
     const frame::AmbitoRecursos ambito;
-    if (!MostrarDialogo(modelo))
+    const auto dialogo = CrearDialogo(modelo, SoloLectura<M>() != 0);
+    if (dialogo->Mostrar() != ui::Dialogo::ok)
         return Edicion::sinCambio;
-    EscribirEn(*elemento, modelo);
+    EscribirEn(*elemento, dialogo->datos);
     return Edicion::cambiado;
 }
 
@@ -122,7 +157,7 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, bool bModificable)
     peticion.bModificable = bModificable;
     for (const auto& campo : Catalogo<M>::Campos()) {
         peticion.atributos.push_back(campo.atributo);
-        peticion.abNumerico.push_back(!std::holds_alternative<CString M::*>(campo.miembro));
+        peticion.abNumerico.push_back(EsNumerico(campo));
     }
     peticion.editar = [](CXMLElemento* e) { return EditarElemento<M>(e, false); };
     peticion.rellenar = [](CXMLElemento* e) { return EditarElemento<M>(e, true); };

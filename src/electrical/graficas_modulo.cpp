@@ -4,6 +4,8 @@
 #include <span>
 #include <utility>
 
+#include "platform/unidades/unidades.h"
+
 namespace efv::electrical {
 
 namespace {
@@ -177,7 +179,8 @@ electrical::HojaModulo HojaDe(const CBasePanelFotoModelo& m)
 
 GraficasPanel GraficasATemperaturaConstante(const CBasePanelFotoModelo& modelo)
 {
-    return electrical::GraficasTConstante(HojaDe(modelo), modelo.csModelo, L"25 ºC");
+    return electrical::GraficasTConstante(HojaDe(modelo), modelo.csModelo,
+                                          unidades::cuCadena(L"Temperatura", 25.0, 0));
 }
 
 GraficasPanel GraficasAIrradiacionConstante(const CBasePanelFotoModelo& modelo)

@@ -1,18 +1,61 @@
 #include "module/singletons.h"
 
+#include "catalogues/acumulador.h"
+#include "catalogues/convertidor.h"
+#include "catalogues/inversor.h"
+#include "catalogues/micro_inversor.h"
+#include "catalogues/panel_foto.h"
+#include "catalogues/receptor.h"
+
 namespace {
 
-// Constructed with the library, before the first call that can reach it.
+// Constructed with the library, before the first call that can reach them.
 CBasePanelFoto gBasePanelFoto;
+CBaseAcumuladores gBaseAcumuladores;
+CBaseInversores gBaseInversores;
+CBaseMicroInversores gBaseMicroInversores;
+CBaseConvertidores gBaseConvertidores;
+CBaseReceptores gBaseReceptores;
 CBaseFactorK gBaseFactorK;
 
 }  // namespace
 
 namespace efv::module {
 
-CBasePanelFoto& BasePanelFoto()
+template <>
+CBasePanelFoto& Base<CBasePanelFotoModelo>()
 {
     return gBasePanelFoto;
+}
+
+template <>
+CBaseAcumuladores& Base<CBaseAcumuladorModelo>()
+{
+    return gBaseAcumuladores;
+}
+
+template <>
+CBaseInversores& Base<CBaseInversorModelo>()
+{
+    return gBaseInversores;
+}
+
+template <>
+CBaseMicroInversores& Base<CBaseMicroInversorModelo>()
+{
+    return gBaseMicroInversores;
+}
+
+template <>
+CBaseConvertidores& Base<CBaseConvertidorModelo>()
+{
+    return gBaseConvertidores;
+}
+
+template <>
+CBaseReceptores& Base<CBaseReceptorModelo>()
+{
+    return gBaseReceptores;
 }
 
 CBaseFactorK& BaseFactorK()

@@ -4,9 +4,14 @@
 #include <quorvel/catalogues.h>
 #include <quorvel/solar.h>
 
+#include "catalogues/campos.h"
+
 namespace efv::module {
 
-CBasePanelFoto& BasePanelFoto();
+/// The catalogue of the models M.
+template <class M>
+typename catalogues::Catalogo<M>::Base& Base();
+
 CBaseFactorK& BaseFactorK();
 
 }  // namespace efv::module

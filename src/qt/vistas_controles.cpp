@@ -93,7 +93,7 @@ private:
 
 bool EsNumerica(const ui::Edicion& edicion)
 {
-    return edicion.limites || std::holds_alternative<int*>(edicion.destino) ||
+    return edicion.limites.Alguno() || std::holds_alternative<int*>(edicion.destino) ||
            std::holds_alternative<double*>(edicion.destino);
 }
 

@@ -77,9 +77,14 @@ void Dialogo::Pulsar(Boton& control)
 
 std::optional<Rechazo> Dialogo::Aceptar()
 {
-    if (auto rechazo = Recoger()) {
-        foco = rechazo->control;
-        return rechazo;
+    const int nPaginas = m_paginas != nullptr ? static_cast<int>(m_paginas->acsEntradas.size()) : 0;
+    for (int iPagina = -1; iPagina < nPaginas; ++iPagina) {
+        if (auto rechazo = RecogerPagina(iPagina)) {
+            IrA(*rechazo->control);
+            return rechazo;
+        }
+        if (!AlRecogerPagina(iPagina))
+            return std::nullopt;
     }
     if (AlAceptar() && !Terminado())
         Terminar(ok);
@@ -99,17 +104,46 @@ void Dialogo::VencerTemporizador()
 
 std::optional<Rechazo> Dialogo::Recoger()
 {
+    return RecogerLosQue([](const Control&) { return true; });
+}
+
+// Without pages of its own a dialog is taken over as a whole.
+std::optional<Rechazo> Dialogo::RecogerPagina(int iPagina)
+{
+    return RecogerLosQue(
+        [&](const Control& control) { return m_paginas == nullptr || control.lugar.iPagina == iPagina; });
+}
+
+std::optional<Rechazo> Dialogo::RecogerLosQue(const std::function<bool(const Control&)>& elegido)
+{
     for (const auto& control : m_controles)
-        if (auto csFalta = ui::Recoger(*control))
-            return Rechazo{control.get(), std::move(*csFalta)};
+        if (elegido(*control))
+            if (auto csFalta = ui::Recoger(*control))
+                return Rechazo{control.get(), std::move(*csFalta)};
     return std::nullopt;
+}
+
+// The focus goes there, on its page.
+void Dialogo::IrA(Control& control)
+{
+    if (m_paginas != nullptr && control.lugar.iPagina >= 0)
+        m_paginas->iSeleccion = control.lugar.iPagina;
+    foco = &control;
+}
+
+Seleccion& Dialogo::AnadirPaginas(std::vector<CString> acsTitulos)
+{
+    m_paginas = &Anadir<Seleccion>("tab", L"", Seleccion::Forma::pestanas);
+    m_paginas->acsEntradas = std::move(acsTitulos);
+    m_paginas->iSeleccion = 0;
+    return *m_paginas;
 }
 
 bool Dialogo::RecogerAvisando()
 {
     const auto rechazo = Recoger();
     if (rechazo) {
-        foco = rechazo->control;
+        IrA(*rechazo->control);
         PresentadorActual().MostrarRechazo(*this, *rechazo);
     }
     return !rechazo;

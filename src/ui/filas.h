@@ -2,12 +2,13 @@
 // data exchange and the checks of OK follow.
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -15,6 +16,7 @@
 #include <quorvel/ui/presentador.h>
 
 #include "platform/numero/tolerancia.h"
+#include "platform/unidades/unidades.h"
 #include "ui/intercambio.h"
 
 namespace efv::ui {
@@ -22,17 +24,50 @@ namespace efv::ui {
 template <class P>
 using Miembro = std::variant<int P::*, double P::*, CString P::*>;
 
+/// An end of a field's limits: a number, or the record's own value of another field.
+template <class P>
+struct Extremo {
+    constexpr Extremo(int i) : valor(static_cast<double>(i)) {}  // NOLINT(*-explicit-*)
+    constexpr Extremo(double d) : valor(d) {}                    // NOLINT(*-explicit-*)
+    constexpr Extremo(int P::*miembro) : valor(miembro) {}       // NOLINT(*-explicit-*)
+    constexpr Extremo(double P::*miembro) : valor(miembro) {}    // NOLINT(*-explicit-*)
+
+    double En(const P& datos) const
+    {
+        if (const auto* fijo = std::get_if<double>(&valor))
+            return *fijo;
+        if (const auto* entero = std::get_if<int P::*>(&valor))
+            return datos.*(*entero);
+        return datos.*std::get<double P::*>(valor);
+    }
+
+    std::variant<double, int P::*, double P::*> valor;
+};
+
+/// Limits of a field, in stored units; empty ones let any number pass. They hold when `cuando` says so.
+template <class P>
+struct LimitesFila {
+    constexpr LimitesFila() = default;
+    constexpr LimitesFila(Extremo<P> minimo, Extremo<P> maximo, bool (*siempreQue)(const P&) = nullptr)
+        : extremos(std::pair(minimo, maximo)), cuando(siempreQue)
+    {
+    }
+
+    std::optional<std::pair<Extremo<P>, Extremo<P>>> extremos;
+    bool (*cuando)(const P& datos) = nullptr;
+};
+
 /// One field.
 template <class P>
 struct Fila {
     const char* nombre;  ///< of the member, as in the code
     Miembro<P> campo;
     std::wstring_view rotulo;
-    std::optional<Intervalo> limites = {};
+    LimitesFila<P> limites = {};
     int decimales = 2;
     std::span<const std::wstring_view> entradas = {};  ///< not empty: a combo over an int
-    Intercambio intercambio = Intercambio::automatico;
-    Lugar lugar = {};
+    std::wstring_view magnitud = {};                   ///< of a decimal that is shown in the person's unit
+    bool casilla = false;                              ///< a check box over an int, 0 or 1
 };
 
 /// One check of OK: the first that `mal` finds shows its text and keeps the dialog open.
@@ -78,7 +113,7 @@ public:
                 faltas.emplace_back(c.texto);
         for (const auto& control : Controles())
             if (auto csFalta = Falta(*control))
-                faltas.push_back(control->csRotulo + L" " + *csFalta);
+                faltas.push_back(NombreVisible(*control) + L" " + *csFalta);
         return faltas;
     }
 
@@ -89,23 +124,14 @@ protected:
     {
     }
 
-    /// Adds the control of a row.
-    Control& Anadir(const Fila<P>& fila)
+    /// Adds the controls of rows, all of them at the same place.
+    template <std::size_t N>
+    void Anadir(const std::array<Fila<P>, N>& filas, const Lugar& lugar = {})
     {
-        Control& control = fila.entradas.empty() ? AnadirEdicion(fila) : AnadirCombo(fila);
-        control.lugar = fila.lugar;
-        return control;
+        for (const Fila<P>& fila : filas)
+            AnadirControl(fila).lugar = lugar;
     }
     using Dialogo::Anadir;
-
-    /// The edit field of that name; the row must exist.
-    Edicion& Campo(std::string_view nombre) const
-    {
-        for (const auto& control : Controles())
-            if (control->nombre == nombre)
-                return dynamic_cast<Edicion&>(*control);
-        throw std::out_of_range(std::string(nombre));
-    }
 
     bool AlAceptar() override
     {
@@ -113,7 +139,7 @@ protected:
             if (!c.mal(datos))
                 continue;
             if (c.foco != nullptr)
-                foco = &Campo(c.foco);
+                foco = &ControlDe<Control>(c.foco);
             MostrarAviso(c.texto, c.icono);
             return false;
         }
@@ -121,6 +147,12 @@ protected:
     }
 
 private:
+    // A field may stand on the line of the one before it, without a caption of its own.
+    static CString NombreVisible(const Control& control)
+    {
+        return control.csRotulo.empty() ? CadenaDesdeUtf8(control.nombre) + L":" : control.csRotulo;
+    }
+
     // Why the control doesn't hold its variable's value as it stands.
     static std::optional<CString> Falta(Control& control)
     {
@@ -131,14 +163,36 @@ private:
         return bElegido ? std::nullopt : std::optional<CString>(L"El valor no es ninguno de la lista.");
     }
 
+    Control& AnadirControl(const Fila<P>& fila)
+    {
+        if (fila.casilla)
+            return AnadirCasilla(fila);
+        return fila.entradas.empty() ? AnadirEdicion(fila) : AnadirCombo(fila);
+    }
+
     Control& AnadirEdicion(const Fila<P>& fila)
     {
-        auto& edicion = Anadir<Edicion>(fila.nombre, fila.rotulo);
+        auto& edicion = Anadir<Edicion>(fila.nombre, unidades::cuCompletarEtiquetas(fila.rotulo));
         edicion.destino = std::visit([&](auto m) { return Destino(&(datos.*m)); }, fila.campo);
-        edicion.limites = fila.limites;
+        edicion.magnitud = fila.magnitud;
         edicion.iDecimales = fila.decimales;
-        edicion.intercambio = fila.intercambio;
+        if (fila.limites.extremos)
+            edicion.limites = Limites([this, limites = fila.limites] { return IntervaloDe(limites); });
         return edicion;
+    }
+
+    std::optional<Intervalo> IntervaloDe(const LimitesFila<P>& limites) const
+    {
+        if (limites.cuando != nullptr && !limites.cuando(datos))
+            return std::nullopt;
+        return Intervalo{limites.extremos->first.En(datos), limites.extremos->second.En(datos)};
+    }
+
+    Control& AnadirCasilla(const Fila<P>& fila)
+    {
+        auto& casilla = Anadir<Casilla>(fila.nombre, fila.rotulo);
+        casilla.destino = &(datos.*std::get<int P::*>(fila.campo));
+        return casilla;
     }
 
     Control& AnadirCombo(const Fila<P>& fila)
@@ -146,7 +200,6 @@ private:
         auto& combo = Anadir<Seleccion>(fila.nombre, fila.rotulo, Seleccion::Forma::combo);
         combo.acsEntradas.assign(fila.entradas.begin(), fila.entradas.end());
         combo.destino = &(datos.*std::get<int P::*>(fila.campo));
-        combo.intercambio = fila.intercambio;
         return combo;
     }
 

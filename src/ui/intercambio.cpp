@@ -7,6 +7,7 @@
 
 #include "platform/numero/conversion.h"
 #include "platform/numero/tolerancia.h"
+#include "platform/unidades/unidades.h"
 
 namespace efv::ui {
 
@@ -24,9 +25,19 @@ CString Breve(double d)
     return {texto.begin(), texto.end()};
 }
 
-bool Dentro(double d, const std::optional<Intervalo>& limites)
+bool Dentro(double d, const Intervalo& limites)
 {
-    return !limites || (numero::MayorIgual(d, limites->dMinimo) && numero::MenorIgual(d, limites->dMaximo));
+    return numero::MayorIgual(d, limites.dMinimo) && numero::MenorIgual(d, limites.dMaximo);
+}
+
+double AlUsuario(const Edicion& c, double d)
+{
+    return c.magnitud.empty() ? d : unidades::AlUsuario(c.magnitud, d);
+}
+
+double DelUsuario(const Edicion& c, double d)
+{
+    return c.magnitud.empty() ? d : unidades::DelUsuario(c.magnitud, d);
 }
 
 // Controls that show and are never exchanged.
@@ -90,11 +101,14 @@ private:
     {
         double d = 0.0;
         if (!numero::nuConvertIntlStrToFlt(c.csTexto, d)) {
-            csFalta = kNoEsNumero;
+            // Nobody could mend what isn't seen: its variable keeps what it has.
+            if (c.bVisible)
+                csFalta = kNoEsNumero;
             return std::nullopt;
         }
-        if (!Dentro(d, c.limites)) {
-            csFalta = MensajeDeLimites(*c.limites);
+        d = DelUsuario(c, d);
+        if (const auto limites = c.limites.Ahora(); limites && !Dentro(d, *limites)) {
+            csFalta = MensajeDeLimites({AlUsuario(c, limites->dMinimo), AlUsuario(c, limites->dMaximo)});
             return std::nullopt;
         }
         return d;
@@ -131,7 +145,7 @@ private:
     static void Escribir(Edicion& c, const int* origen) { c.csTexto = std::to_wstring(*origen); }
     static void Escribir(Edicion& c, const double* origen)
     {
-        c.csTexto = numero::nuConvertFltToIntlStr(*origen, c.iDecimales);
+        c.csTexto = numero::nuConvertFltToIntlStr(AlUsuario(c, *origen), c.iDecimales);
     }
 };
 

@@ -38,10 +38,31 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
     std::vector<std::string_view> nombres;
     for (const CRuntimeClass* clase : CRuntimeClass::Registradas())
         nombres.push_back(clase->m_szClassName);
-    EXPECT_EQ(nombres,
-              (std::vector<std::string_view>{"CBaseXML", "CBaseFactorK", "CBaseFactorKLatitud",
-                                             "CBaseFactorKAlpha", "CBasePanelFoto", "CBasePanelFotoFamilia",
-                                             "CBasePanelFotoModelo", "CSFVAsistenteRed"}));
+    EXPECT_EQ(nombres, (std::vector<std::string_view>{"CBaseXML",
+                                                      "CBaseAcumuladores",
+                                                      "CBaseAcumuladorFamilia",
+                                                      "CBaseAcumuladorModelo",
+                                                      "CItemConsumo",
+                                                      "CBaseConvertidores",
+                                                      "CBaseConvertidorFamilia",
+                                                      "CBaseConvertidorModelo",
+                                                      "CBaseFactorK",
+                                                      "CBaseFactorKLatitud",
+                                                      "CBaseFactorKAlpha",
+                                                      "CBaseInversores",
+                                                      "CBaseInversorFamilia",
+                                                      "CBaseInversorModelo",
+                                                      "CBaseMicroInversores",
+                                                      "CBaseMicroInversorFamilia",
+                                                      "CBaseMicroInversorModelo",
+                                                      "CBasePanelFoto",
+                                                      "CBasePanelFotoFamilia",
+                                                      "CBasePanelFotoModelo",
+                                                      "CBaseReceptores",
+                                                      "CBaseReceptorFamilia",
+                                                      "CBaseReceptorModelo",
+                                                      "CSFVAsistenteRed",
+                                                      "CSFVDataReceptor"}));
 }
 
 }  // namespace

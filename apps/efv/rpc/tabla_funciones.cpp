@@ -99,6 +99,90 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phGetDimPanelFoto>("phGetDimPanelFoto", "csId, csFamilia, dH, dB, dA, dP"),
     Funcion::De<&phGetCsTipoCelula>("phGetCsTipoCelula", "iTipoCelula, csNombre"),
     Funcion::De<&phTranslateValor>("phTranslateValor", "iModo, dValor, dRef"),
+
+    // Catalogue of batteries
+    Funcion::De<&phCargarBaseAcumuladores>("phCargarBaseAcumuladores", "csPath"),
+    Funcion::De<&phEditarBaseAcumuladores>("phEditarBaseAcumuladores", "iModo"),
+    Funcion::De<&phSeleccionAcumulador>("phSeleccionAcumulador", "csId"),
+    Funcion::De<&phGetBaseAcumuladores>("phGetBaseAcumuladores", ""),
+    Funcion::De<&phGetFabricanteAcumulador>("phGetFabricanteAcumulador", "csId, csFamilia"),
+    Funcion::De<&phCadenaIdentificacionModeloAcumulador>("phCadenaIdentificacionModeloAcumulador",
+                                                         "csModelo, csId"),
+    Funcion::De<&phGetDataAcumulador>(
+        "phGetDataAcumulador",
+        "csId, csFamilia, iTipo, dCapC1, dVccC1, dCapC5, dVccC5, dCapC10, dVccC10, dCapC20, dVccC20, dCapC100, "
+        "dVccC100, dCapC120, dVccC120, dImax, dVnom, iVidaUtil, dH, dW, dL, dPeso, csCodPrecio"),
+    Funcion::De<&phGetDimAcumulador>("phGetDimAcumulador", "csId, csFamilia, dH, dW, dL, dPeso"),
+
+    // Catalogue of inverters
+    Funcion::De<&phCargarBaseInversores>("phCargarBaseInversores", "csPath"),
+    Funcion::De<&phEditarBaseInversores>("phEditarBaseInversores", "iModo"),
+    Funcion::De<&phSeleccionInversor>("phSeleccionInversor", "csId"),
+    Funcion::De<&phGetBaseInversores>("phGetBaseInversores", ""),
+    Funcion::De<&phGetFabricanteInversor>("phGetFabricanteInversor", "csId, csFamilia"),
+    Funcion::De<&phCadenaIdentificacionModeloInversor>("phCadenaIdentificacionModeloInversor",
+                                                       "csModelo, csId"),
+    Funcion::De<&phGetDataInversor>(
+        "phGetDataInversor",
+        "csId, csFamilia, iUsoPrincipal, iTipoSalida, dPCCMax, dVMPPMax, dVMPPMin, dVCCMax, dVCCMin, dICCMax, "
+        "dICCMin, dIScMax, iNumMPPT, iNumEntradas, dPCANom, dPCAMax, dVCANom, dICAMax, dICAMin, dFP, dRendMax, "
+        "dAncho, dLargo, dAlto, dPeso, csCodPrecio"),
+    Funcion::De<&phGetDataInversor2>(
+        "phGetDataInversor2",
+        "csId, csFamilia, iUsoPrincipal, iTipoSalida, dPCCMax, dVMPPMax, dVMPPMin, dVCCMax, dVCCMin, aICCMax, "
+        "aICCMin, dIScMax, iNumMPPT, iNumEntradas, dPCANom, dPCAMax, dVCANom, dICAMax, dICAMin, dFP, dRendMax, "
+        "dAncho, dLargo, dAlto, dPeso, csCodPrecio"),
+    Funcion::De<&phGetDataInversor3>(
+        "phGetDataInversor3",
+        "csId, csFamilia, iUsoPrincipal, iTipoSalida, dPCCMax, dVMPPMax, dVMPPMin, dVCCMax, dVCCMin, aICCMax, "
+        "aICCMin, dICCMax, dICCMin, dIScMax, iNumMPPT, iNumEntradas, dPCANom, dPCAMax, dVCANom, dICAMax, "
+        "dICAMin, dFP, dRendMax, dAncho, dLargo, dAlto, dPeso, csCodPrecio"),
+    Funcion::De<&phGetDataInversorCorrientesMPPT>("phGetDataInversorCorrientesMPPT",
+                                                  "csId, csICCMaxMPPT, csICCMinMPPT"),
+    Funcion::De<&phGetDataInversorDim>("phGetDataInversorDim",
+                                       "csId, csFamilia, iNumMPPT, iNumEntradas, dAncho, dLargo, dAlto, dPeso"),
+
+    // Catalogue of micro-inverters
+    Funcion::De<&phCargarBaseMicroInversores>("phCargarBaseMicroInversores", "csPath"),
+    Funcion::De<&phEditarBaseMicroInversores>("phEditarBaseMicroInversores", "iModo"),
+    Funcion::De<&phSeleccionMicroInversor>("phSeleccionMicroInversor", "csId"),
+    Funcion::De<&phGetBaseMicroInversores>("phGetBaseMicroInversores", ""),
+    Funcion::De<&phGetFabricanteMicroInversor>("phGetFabricanteMicroInversor", "csId, csFamilia"),
+    Funcion::De<&phCadenaIdentificacionModeloMicroInversor>("phCadenaIdentificacionModeloMicroInversor",
+                                                            "csModelo, csId"),
+    Funcion::De<&phGetDataMicroInversor>(
+        "phGetDataMicroInversor",
+        "csId, csFamilia, iTipoSalida, dPCCMax, dVMPPMax, dVMPPMin, dVCCMax, dVCCMin, dICCMax, dICCMin, "
+        "dIScMax, iNumMPPT, iNumEntradas, dPCANom, dPCAMax, dVCANom, dICAMax, dICAMin, dFP, dRendMax, dAncho, "
+        "dLargo, dAlto, dPeso, csCodPrecio"),
+    Funcion::De<&phGetDataMicroInversorDim>(
+        "phGetDataMicroInversorDim", "csId, csFamilia, iNumMPPT, iNumEntradas, dAncho, dLargo, dAlto, dPeso"),
+
+    // Catalogue of DC/DC converters
+    Funcion::De<&phCargarBaseConvertidoresCC>("phCargarBaseConvertidoresCC", "csPath"),
+    Funcion::De<&phEditarBaseConvertidorCC>("phEditarBaseConvertidorCC", "iModo"),
+    Funcion::De<&phSeleccionConvertidor>("phSeleccionConvertidor", "csId"),
+    Funcion::De<&phGetBaseConvertidores>("phGetBaseConvertidores", ""),
+    Funcion::De<&phGetFabricanteConvertidor>("phGetFabricanteConvertidor", "csId, csFamilia"),
+    Funcion::De<&phCadenaIdentificacionModeloConvertidor>("phCadenaIdentificacionModeloConvertidor",
+                                                          "csModelo, csId"),
+    Funcion::De<&phGetDataConvertidor>("phGetDataConvertidor",
+                                       "csId, csFamilia, dVInMin, dVInMax, dPAutoCons, dVOutNom, dPOutNom, "
+                                       "dRendMax, dAncho, dLargo, dAlto, dPeso"),
+
+    // Catalogue of electrical loads
+    Funcion::De<&phCargarBaseReceptores>("phCargarBaseReceptores", "csPath"),
+    Funcion::De<&phEditarBaseReceptores>("phEditarBaseReceptores", "iModo"),
+    Funcion::De<&phSeleccionReceptor>("phSeleccionReceptor", "csId"),
+    Funcion::De<&phGetBaseReceptores>("phGetBaseReceptores", ""),
+    Funcion::De<&phGetFabricanteReceptor>("phGetFabricanteReceptor", "csId, csFamilia"),
+    Funcion::De<&phCadenaIdentificacionModeloReceptor>("phCadenaIdentificacionModeloReceptor",
+                                                       "csModelo, csId"),
+    Funcion::De<&phGetDataReceptor>("phGetDataReceptor",
+                                    "csId, csFamilia, dP, dVs, dVsMin, dRend, iTipoRed, bIlum"),
+
+    // All catalogues
+    Funcion::De<&phCargarBasesHE5>("phCargarBasesHE5", "lista"),
 });
 
 }  // namespace

@@ -200,8 +200,8 @@ CString NombreDeFamilia(CObject& familia)
 {
     if (const auto* latitud = dynamic_cast<const CBaseFactorKLatitud*>(&familia))
         return latitud->GetNombre();
-    if (const auto* deModulos = dynamic_cast<const CBasePanelFotoFamilia*>(&familia))
-        return deModulos->GetNombre();
+    if (const auto* deModelos = dynamic_cast<const CFamilia*>(&familia))
+        return deModelos->csNombre;
     return {};
 }
 

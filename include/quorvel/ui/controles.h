@@ -19,7 +19,7 @@ namespace efv::ui {
 /// Where a control stands, as a hint for whoever lays the dialog out.
 struct Lugar {
     int iPagina = -1;         ///< page of the dialog's tabs; -1 outside them
-    std::wstring_view grupo;  ///< framed group of that caption; empty for none
+    std::wstring_view grupo = {};  ///< framed group of that caption; empty for none
     int iColumna = 0;
     bool bEstirar = false;  ///< takes the room that is left
 };
@@ -32,6 +32,22 @@ using Destino = std::variant<std::monostate, int*, double*, CString*>;
 
 struct Intervalo {
     double dMinimo, dMaximo;  ///< in stored units, both allowed
+};
+
+/// What a number must lie between: nothing, two constants, or what holds at the moment of asking.
+class Limites {
+public:
+    using Regla = std::function<std::optional<Intervalo>()>;
+
+    Limites() = default;
+    Limites(Intervalo intervalo) : m_regla([intervalo] { return intervalo; }) {}  // NOLINT(*-explicit-*)
+    Limites(Regla regla) : m_regla(std::move(regla)) {}                           // NOLINT(*-explicit-*)
+
+    std::optional<Intervalo> Ahora() const { return m_regla ? m_regla() : std::nullopt; }
+    bool Alguno() const { return m_regla != nullptr; }
+
+private:
+    Regla m_regla;
 };
 
 /// How a field takes part in the dialog's data exchange.
@@ -83,7 +99,8 @@ public:
     using Control::Control;
     CString csTexto;
     Destino destino;
-    std::optional<Intervalo> limites;
+    Limites limites;
+    std::wstring_view magnitud;  ///< of a decimal number that is shown in the person's unit; empty: as stored
     int iDecimales = 2;
     Intercambio intercambio = Intercambio::automatico;
     bool bVariasLineas = false;

@@ -2,9 +2,11 @@
 #pragma once
 
 #include <concepts>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -90,13 +92,34 @@ protected:
         return referencia;
     }
 
+    /// The control of that name; it must exist and be a C.
+    template <std::derived_from<Control> C>
+    C& ControlDe(std::string_view nombre) const
+    {
+        for (const auto& control : m_controles)
+            if (control->nombre == nombre)
+                return dynamic_cast<C&>(*control);
+        throw std::out_of_range(std::string(nombre));
+    }
+
+    /// The pages of the dialog (control "tab"); OK takes them over one after the other.
+    Seleccion& AnadirPaginas(std::vector<CString> acsTitulos);
+
+    /// After OK has taken over the fields outside the pages (-1), then those of each page; false keeps
+    /// the dialog open.
+    virtual bool AlRecogerPagina(int /*iPagina*/) { return true; }
     /// Further checks of OK, after the data exchange; true ends the dialog.
     virtual bool AlAceptar() { return true; }
     virtual void AlCancelar() {}
     virtual void AlVencerTemporizador() {}
 
 private:
+    std::optional<Rechazo> RecogerPagina(int iPagina);
+    std::optional<Rechazo> RecogerLosQue(const std::function<bool(const Control&)>& elegido);
+    void IrA(Control& control);
+
     std::vector<std::unique_ptr<Control>> m_controles;
+    Seleccion* m_paginas = nullptr;
     std::optional<int> m_resultado;
 };
 
