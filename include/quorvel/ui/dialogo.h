@@ -79,7 +79,7 @@ public:
     /// Variables to fields.
     void Volcar();
 
-    /// All fields to reading only, what isn't text disabled, OK hidden, Cancel as "&Cerrar".
+    /// All fields to reading only, combos and sliders disabled, OK hidden, Cancel as "&Cerrar".
     void PonerSoloLectura();
 
     void Terminar(int iResultado);
