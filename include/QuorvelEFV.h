@@ -4,6 +4,7 @@
 #include <quorvel/assistants.h>
 #include <quorvel/catalogo_herramientas.h>
 #include <quorvel/catalogues.h>
+#include <quorvel/consumption.h>
 #include <quorvel/electrical.h>
 #include <quorvel/frame.h>
 #include <quorvel/framework.h>

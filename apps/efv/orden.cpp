@@ -13,6 +13,7 @@
 #include "comun/numeros.h"
 #include "comun/reloj.h"
 #include "comun/suborden.h"
+#include "consumo/suborden_consumo.h"
 #include "curvas/suborden_curvas.h"
 #include "energia/suborden_energia.h"
 #include "lugares/suborden_lugares.h"
@@ -45,6 +46,7 @@ public:
         Anadir(CrearSubordenLugares());
         Anadir(CrearSubordenCatalogo());
         Anadir(CrearSubordenCurvas());
+        Anadir(CrearSubordenConsumo());
         Anadir(CrearSubordenRpc());
         m_raiz.require_subcommand(0, 1);
     }

@@ -7,4 +7,5 @@
 #include <quorvel/ui/dialogo.h>
 #include <quorvel/ui/grafica.h>
 #include <quorvel/ui/guion.h>
+#include <quorvel/ui/lista.h>
 #include <quorvel/ui/presentador.h>

@@ -10,14 +10,14 @@
 #include <quorvel/framework/CString.h>
 #include <quorvel/ui/presentador.h>
 
+#include "platform/archivo/fichero_texto.h"
+
 namespace efv::catalogues {
 
-/// The whole file as text, each line ended by CR LF whatever ended it there. UTF-8 when it is
-/// well-formed UTF-8, else Windows-1252. Nothing when it can't be read.
-std::optional<CString> LeerTexto(const CString& csRuta);
+using archivo::LeerTexto;
 
-/// The same of a file that the person chooses, of kind `propio` or any; one that can't be read is told
-/// to the person.
+/// The text of a file that the person chooses, of kind `propio` or any; one that can't be read is told to
+/// the person.
 std::optional<CString> PedirTextoImportado(const ui::FiltroFichero& propio);
 
 /// What stands between the first "KEY=" and the next CR LF; empty when either is missing. The search

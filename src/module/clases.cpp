@@ -5,6 +5,7 @@
 
 #include "assistants/asistente_aislada_registro.h"
 #include "assistants/asistente_red_registro.h"
+#include "consumption/registros.h"
 #include "platform/framework/registro_clases.h"
 
 namespace {
@@ -17,6 +18,7 @@ bool RegistrarClases()
         &CBaseAcumuladores::GetThisClass,
         &CBaseAcumuladorFamilia::GetThisClass,
         &CBaseAcumuladorModelo::GetThisClass,
+        &CItemConsumo::GetThisClass,
         &CBaseConvertidores::GetThisClass,
         &CBaseConvertidorFamilia::GetThisClass,
         &CBaseConvertidorModelo::GetThisClass,
@@ -37,6 +39,7 @@ bool RegistrarClases()
         &CBaseReceptorModelo::GetThisClass,
         &CSFVAsistenteAislada::GetThisClass,
         &CSFVAsistenteRed::GetThisClass,
+        &CSFVDataReceptor::GetThisClass,
     });
     for (const auto clase : clases)
         efv::framework::RegistrarClase(clase());
@@ -45,22 +48,26 @@ bool RegistrarClases()
 
 const bool kRegistradas = RegistrarClases();
 
-using Campos = std::vector<efv::CampoRegistro>;
+using ListaCampos = std::vector<efv::CampoRegistro>;
+using efv::assistants::Campos;
+using efv::consumption::Campos;
 
 // The fields of `registro` when it is an R.
 template <class R>
-bool CamposSiEs(CObject& registro, Campos& campos)
+bool CamposSiEs(CObject& registro, ListaCampos& campos)
 {
     auto* propio = dynamic_cast<R*>(&registro);
     if (propio != nullptr)
-        campos = efv::assistants::Campos(*propio);
+        campos = Campos(*propio);
     return propio != nullptr;
 }
 
 // Every exported record.
-constexpr auto kRegistros = std::to_array<bool (*)(CObject&, Campos&)>({
+constexpr auto kRegistros = std::to_array<bool (*)(CObject&, ListaCampos&)>({
     &CamposSiEs<CSFVAsistenteAislada>,
     &CamposSiEs<CSFVAsistenteRed>,
+    &CamposSiEs<CSFVDataReceptor>,
+    &CamposSiEs<CItemConsumo>,
 });
 
 }  // namespace
@@ -69,7 +76,7 @@ namespace efv {
 
 std::vector<CampoRegistro> CamposDeRegistro(CObject& registro)
 {
-    Campos campos;
+    ListaCampos campos;
     for (const auto probar : kRegistros)
         if (probar(registro, campos))
             break;

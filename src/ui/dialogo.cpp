@@ -1,5 +1,7 @@
 #include <quorvel/ui/dialogo.h>
 
+#include <algorithm>
+
 #include <quorvel/ui/presentador.h>
 
 #include "ui/intercambio.h"
@@ -73,6 +75,12 @@ void Dialogo::Marcar(Casilla& control, bool bMarcada)
 void Dialogo::Pulsar(Boton& control)
 {
     Avisar(control.alPulsar);
+}
+
+void Dialogo::Mover(Deslizador& control, int iValor)
+{
+    control.iValor = std::max(control.iMinimo, std::min(iValor, control.iMaximo));
+    Avisar(control.alMover);
 }
 
 std::optional<Rechazo> Dialogo::Aceptar()
@@ -160,10 +168,11 @@ void Dialogo::Volcar()
 void Dialogo::PonerSoloLectura()
 {
     for (const auto& control : m_controles) {
-        if (dynamic_cast<Edicion*>(control.get()) != nullptr)
+        const auto* seleccion = dynamic_cast<const Seleccion*>(control.get());
+        if (dynamic_cast<const Edicion*>(control.get()) != nullptr)
             control->bSoloLectura = true;
-        else if (const auto* combo = dynamic_cast<Seleccion*>(control.get());
-                 combo != nullptr && combo->forma == Seleccion::Forma::combo)
+        else if (dynamic_cast<const Deslizador*>(control.get()) != nullptr ||
+                 (seleccion != nullptr && seleccion->forma == Seleccion::Forma::combo))
             control->bHabilitado = false;
     }
     bAceptarVisible = false;

@@ -42,6 +42,7 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
                                                       "CBaseAcumuladores",
                                                       "CBaseAcumuladorFamilia",
                                                       "CBaseAcumuladorModelo",
+                                                      "CItemConsumo",
                                                       "CBaseConvertidores",
                                                       "CBaseConvertidorFamilia",
                                                       "CBaseConvertidorModelo",
@@ -61,7 +62,8 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
                                                       "CBaseReceptorFamilia",
                                                       "CBaseReceptorModelo",
                                                       "CSFVAsistenteAislada",
-                                                      "CSFVAsistenteRed"}));
+                                                      "CSFVAsistenteRed",
+                                                      "CSFVDataReceptor"}));
 }
 
 }  // namespace

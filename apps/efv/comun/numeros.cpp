@@ -41,6 +41,18 @@ std::string ConComa(std::string texto)
     return texto;
 }
 
+std::vector<std::string> Partir(const std::string& texto, std::string_view separadores)
+{
+    std::vector<std::string> partes;
+    std::size_t i = texto.find_first_not_of(separadores);
+    while (i != std::string::npos) {
+        const std::size_t fin = std::min(texto.find_first_of(separadores, i), texto.size());
+        partes.push_back(texto.substr(i, fin - i));
+        i = texto.find_first_not_of(separadores, fin);
+    }
+    return partes;
+}
+
 }  // namespace
 
 std::optional<double> LeerNumero(std::string_view texto)
@@ -56,6 +68,15 @@ std::optional<double> LeerNumero(std::string_view texto)
     if (fallo != std::errc() || leido != fin || !std::isfinite(d))
         return std::nullopt;
     return d;
+}
+
+std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras, std::size_t cuantos)
+{
+    std::string todo;
+    for (const std::string& palabra : palabras)
+        todo += palabra + ' ';
+    std::vector<std::string> partes = Partir(todo, "; ");
+    return partes.size() == cuantos ? partes : Partir(todo, ",; ");
 }
 
 std::string Decimal(double d, int iDecimales)

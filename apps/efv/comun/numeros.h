@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <quorvel/framework/CString.h>
 
@@ -11,6 +12,10 @@ namespace efv::orden {
 
 /// The finite number that `texto` is, wholly; comma or point as decimal mark.
 std::optional<double> LeerNumero(std::string_view texto);
+
+/// The parts of a list of `cuantos` numbers, separated by blanks, commas or semicolons: a comma is a decimal
+/// mark where another separator makes that many.
+std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras, std::size_t cuantos);
 
 /// `d` with that many decimals and a comma; "—" when it isn't finite.
 std::string Decimal(double d, int iDecimales);

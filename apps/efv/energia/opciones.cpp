@@ -69,34 +69,11 @@ double LeerAcotada(const OpcionNumerica& opcion, const std::string& texto)
     return *d;
 }
 
-std::vector<std::string> Partir(const std::string& texto, std::string_view separadores)
-{
-    std::vector<std::string> partes;
-    std::size_t i = texto.find_first_not_of(separadores);
-    while (i != std::string::npos) {
-        const std::size_t fin = std::min(texto.find_first_of(separadores, i), texto.size());
-        partes.push_back(texto.substr(i, fin - i));
-        i = texto.find_first_not_of(separadores, fin);
-    }
-    return partes;
-}
-
-std::vector<std::string> SepararRadiaciones(const std::vector<std::string>& palabras)
-{
-    std::string todo;
-    for (const std::string& palabra : palabras)
-        todo += palabra + ' ';
-    std::vector<std::string> partes = Partir(todo, "; ");
-    if (partes.size() != kMeses)
-        partes = Partir(todo, ",; ");
-    return partes;
-}
-
 }  // namespace
 
 std::array<double, kMeses> LeerRadiaciones(const std::vector<std::string>& palabras)
 {
-    const std::vector<std::string> partes = SepararRadiaciones(palabras);
+    const std::vector<std::string> partes = SepararNumeros(palabras, kMeses);
     if (partes.size() != kMeses)
         throw ErrorUso(fmt::format("--radiacion: se esperaban 12 valores, de enero a diciembre, llegaron {}",
                                    partes.size()));

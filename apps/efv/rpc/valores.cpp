@@ -223,6 +223,32 @@ void EscribirValor(std::string& salida, const CBaseXML& base)
     salida += '}';
 }
 
+namespace {
+
+template <class T>
+void EscribirCampo(std::string& salida, const T* valor)
+{
+    EscribirValor(salida, *valor);
+}
+
+void EscribirCampo(std::string& salida, std::span<const double> valores)
+{
+    EscribirValor(salida, valores);
+}
+
+template <class T>
+void LeerCampo(const Json& j, T* destino)
+{
+    LeerValor(j, *destino);
+}
+
+void LeerCampo(const Json& j, std::span<double> destino)
+{
+    LeerValor(j, destino);
+}
+
+}  // namespace
+
 void EscribirRegistro(std::string& salida, CObject& registro)
 {
     char separador = '{';
@@ -230,7 +256,7 @@ void EscribirRegistro(std::string& salida, CObject& registro)
         salida += std::exchange(separador, ',');
         EscribirTexto(salida, campo.nombre);
         salida += ':';
-        std::visit([&](const auto* valor) { EscribirValor(salida, *valor); }, campo.valor);
+        std::visit([&](auto valor) { EscribirCampo(salida, valor); }, campo.valor);
     }
     salida += '}';
 }
@@ -250,7 +276,7 @@ void LeerRegistro(const Json& j, CObject& registro)
                                          NombresDeCampos(campos)));
         NombrarLugar(
             [&] { return "campo " + nombre; },
-            [&] { std::visit([&](auto* destino) { LeerValor(miembro.value(), *destino); }, campo->valor); });
+            [&] { std::visit([&](auto destino) { LeerCampo(miembro.value(), destino); }, campo->valor); });
     }
 }
 

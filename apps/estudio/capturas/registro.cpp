@@ -64,7 +64,7 @@ void RecorrerUsos(ui::Dialogo& dialogo)
 {
     if (dialogo.clase != "CDlgVisorXML")
         return;
-    for (const wchar_t* csModelo : {L"SUN2000", L"Phoenix"}) {
+    for (const wchar_t* csModelo : {L"SUN2000", L"AJ 500"}) {
         if (auto* buscar = dynamic_cast<ui::Edicion*>(Buscar(dialogo, "csBuscar")))
             dialogo.Teclear(*buscar, csModelo);
         ElegirFila(dialogo, "arbol", 1);

@@ -48,30 +48,52 @@ struct NumeroLeido {
 
 // The plain forms "250" and "-12.345000" of up to fifteen digits and no exponent, which nearly all
 // numbers of a file have: digits and power of ten are then exact doubles, and their quotient is the
-// correctly rounded value (Clinger, 1990), the one that the general way gives. Null when `texto` begins
-// with another form; `fin` is where the number ends.
+// correctly rounded value (Clinger, 1990), the one that the general way gives.
 constexpr int kCifrasExactas = 15;
 constexpr std::array<double, kCifrasExactas + 1> kPotencias = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
-std::optional<double> LeerSencillo(const char* p, const char* fin)
+constexpr auto kEsPunto = [](char c) { return c == '.'; };
+
+template <class C>
+struct Sencillo {
+    double d;
+    const C* fin;  // where the number ends; null when the text begins with another form
+};
+
+template <class C>
+constexpr bool EsExponente(C c)
 {
-    const bool negativo = p != fin && *p == '-';
+    return c == C('e') || c == C('E');
+}
+
+// Without `fin` the text ends at its zero, which is no part of a number.
+template <class C>
+Sencillo<C> LeerSencillo(const C* p, const C* fin, bool (*esMarca)(C))
+{
+    const bool negativo = p != fin && *p == C('-');
     p += negativo ? 1 : 0;
     std::uint64_t cifras = 0;
-    int nCifras = 0;
-    int nDecimales = 0;
-    for (; p != fin && EsCifra(*p); ++p, ++nCifras)
-        cifras = cifras * 10 + static_cast<std::uint64_t>(*p - '0');
-    if (nCifras == 0)
-        return std::nullopt;
-    if (p != fin && *p == '.')
-        for (++p; p != fin && EsCifra(*p); ++p, ++nDecimales)
-            cifras = cifras * 10 + static_cast<std::uint64_t>(*p - '0');
-    if (nCifras + nDecimales > kCifrasExactas || (p != fin && (*p == 'e' || *p == 'E')))
-        return std::nullopt;
+    const C* const inicio = p;
+    const auto leerCifras = [&] {
+        const C* const desde = p;
+        for (; p != fin && *p >= C('0') && *p <= C('9'); ++p)
+            cifras = cifras * 10 + static_cast<std::uint64_t>(*p - C('0'));
+        return p - desde;
+    };
+    if (leerCifras() == 0)
+        return {0.0, nullptr};
+    std::ptrdiff_t nDecimales = 0;
+    std::ptrdiff_t nMarcas = 0;
+    if (p != fin && esMarca(*p)) {
+        ++p;
+        nMarcas = 1;
+        nDecimales = leerCifras();
+    }
+    if (p - inicio - nMarcas > kCifrasExactas || (p != fin && EsExponente(*p)))
+        return {0.0, nullptr};
     const double d = static_cast<double>(cifras) / kPotencias[static_cast<std::size_t>(nDecimales)];
-    return negativo ? -d : d;
+    return {negativo ? -d : d, p};
 }
 
 // What a well-formed number too large or too small for a double reads as: infinite or 0. The wider
@@ -107,8 +129,16 @@ NumeroLeido LeerPrefijo(std::string_view texto)
 
 double LeerDoble(std::string_view texto)
 {
-    if (const auto d = LeerSencillo(texto.data(), texto.data() + texto.size()))
-        return *d;
+    if (const auto sencillo = LeerSencillo<char>(texto.data(), texto.data() + texto.size(), kEsPunto);
+        sencillo.fin)
+        return sencillo.d;
+    return LeerPrefijo(SinBlancosDelante(texto)).d;
+}
+
+double LeerDoble(const char* texto)
+{
+    if (const auto sencillo = LeerSencillo<char>(texto, nullptr, kEsPunto); sencillo.fin)
+        return sencillo.d;
     return LeerPrefijo(SinBlancosDelante(texto)).d;
 }
 
@@ -152,6 +182,13 @@ CString nuConvertFltToIntlStr(double d, int iDecimales)
 
 bool nuConvertIntlStrToFlt(std::wstring_view texto, double& d)
 {
+    constexpr auto esMarca = [](wchar_t c) { return c == L',' || c == L'.'; };
+    const wchar_t* const final = texto.data() + texto.size();
+    if (const auto sencillo = LeerSencillo<wchar_t>(texto.data(), final, esMarca);
+        sencillo.fin == final && !texto.empty()) {
+        d = sencillo.d;
+        return true;
+    }
     std::string estrecho = Estrechar(texto);
     std::ranges::replace(estrecho, ',', '.');
     std::string_view resto = SinBlancosDelante(estrecho);

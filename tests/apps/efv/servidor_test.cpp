@@ -201,7 +201,7 @@ TEST(Mensajes, SonLosDeEstaPeticionConSuRespuesta)
     Anfitrion anfitrion;
     const CarpetaTemporal carpeta;
     const std::string conHueco =
-        carpeta.Escribir("hueco.xml", TablaK(LatitudK(39, "1.1") + LatitudK(40, "1.2", 35)));
+        carpeta.Crear("hueco.xml", TablaK(LatitudK(39, "1.1") + LatitudK(40, "1.2", 35)));
     Json r = anfitrion.Resultado("phCargarBaseFactorK", {conHueco}, {{"answers", {"yes"}}});
     EXPECT_EQ(r["return"], 0);
     EXPECT_EQ(r["messages"], Json::array({{{"title", "QuorvelEFv"},

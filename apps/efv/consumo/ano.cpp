@@ -1,0 +1,151 @@
+#include "consumo/ano.h"
+
+#include <algorithm>
+#include <fstream>
+
+#include <fmt/format.h>
+
+#include <quorvel/framework/CException.h>
+
+#include "comun/consola.h"
+#include "comun/numeros.h"
+#include "rpc/errores.h"
+#include "rpc/valores.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr wchar_t kSeparador = L';';
+constexpr std::size_t kMaximoJson = std::size_t{64} << 20;
+constexpr double kWhPorKWh = 1000.0;
+
+const PatronConsumo& Patron(int iPatron)
+{
+    const auto patrones = PatronesConsumo();
+    if (iPatron < 1 || static_cast<std::size_t>(iPatron) > patrones.size())
+        throw ErrorUso(fmt::format("no hay patrón {}; los hay de 1 a {} (efv consumo patron --help)", iPatron,
+                                   patrones.size()));
+    return patrones[static_cast<std::size_t>(iPatron - 1)];
+}
+
+// The values of a text must all be numbers: a heading would shift the year.
+void ComprobarValores(std::wstring_view texto, const std::string& ruta)
+{
+    for (std::size_t nValor = 1; !texto.empty(); ++nValor) {
+        const std::size_t fin = std::min(texto.find(kSeparador), texto.size());
+        const std::string valor = CadenaUtf8(texto.substr(0, fin));
+        if (!LeerNumero(valor))
+            throw ErrorEjecucion(
+                fmt::format("«{}»: el valor {} no es un número: «{}»", ruta, nValor, valor.substr(0, 40)));
+        texto.remove_prefix(std::min(fin + 1, texto.size()));
+    }
+}
+
+CString TextoDeValores(const std::string& ruta)
+{
+    const auto texto = LeerFicheroDeValores(CadenaDesdeUtf8(ruta));
+    if (!texto)
+        throw ErrorEjecucion(
+            fmt::format("no se puede leer «{}»: no existe, no es texto o pasa de 16 MiB", ruta));
+    CString normal = NormalizarValores(*texto, kSeparador);
+    normal.erase(0, normal.find_first_not_of(kSeparador));
+    if (normal.empty())
+        throw ErrorEjecucion(fmt::format("«{}» no tiene ningún valor", ruta));
+    ComprobarValores(normal, ruta);
+    return normal;
+}
+
+double Maximo(const AnoHorario& horas)
+{
+    return std::ranges::max(horas);
+}
+
+}  // namespace
+
+AnoConsumo AnoDePatron(int iPatron, double dPotencia)
+{
+    const PatronConsumo& patron = Patron(iPatron);
+    AnoConsumo ano;
+    ano.origen = fmt::format("Patrón {}: {}", iPatron, CadenaUtf8(patron.csTitulo));
+    ano.dPotMaxima = dPotencia;
+    AnoDeSemana(patron.adFactor, *ano.horas);
+    for (double& d : *ano.horas)
+        d *= dPotencia;
+    return ano;
+}
+
+AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, bool bIncompleto)
+{
+    // Months of quarter hours hold four values an hour here, whatever the screens make of them.
+    const int nEsperados = HorasDePeriodo(formato.iPeriodo).Horas() * (formato.bCuartosDeHora ? 4 : 1);
+    const std::vector<double> valores = LeerValores(TextoDeValores(ruta), kSeparador, nEsperados + 1);
+    const int nLeidos = static_cast<int>(valores.size());
+    if (nLeidos > nEsperados)
+        throw ErrorEjecucion(fmt::format(
+            "«{}» tiene más de los {} valores esperados; compruebe --tiempo y --periodo", ruta, nEsperados));
+    if (nLeidos < nEsperados && !bIncompleto)
+        throw ErrorEjecucion(
+            fmt::format("«{}» tiene {} valores y se esperaban {}; con --incompleto, los que "
+                        "faltan cuentan 0",
+                        ruta, nLeidos, nEsperados));
+    AnoConsumo ano;
+    ano.origen = fmt::format("Fichero: {}", ruta);
+    AsignarValores(valores, formato, *ano.horas);
+    ano.dPotMaxima = Maximo(*ano.horas);
+    return ano;
+}
+
+AnoConsumo AnoDeMeses(const EnergiasMensuales& datos)
+{
+    double adMes[12][6] = {};
+    int aiPeriodoHora[24] = {};
+    for (std::size_t h = 0; h < 24; ++h)
+        aiPeriodoHora[h] = datos.aiPeriodo[h] - 1;
+    for (std::size_t p = 0; p < datos.adMes.size(); ++p) {
+        const bool bConHoras = std::ranges::count(datos.aiPeriodo, static_cast<int>(p) + 1) > 0;
+        if (!bConHoras && std::ranges::any_of(datos.adMes[p], [](double d) { return d != 0.0; }))
+            throw ErrorUso(fmt::format("--p{}: ninguna hora del día tiene ese período (--horas)", p + 1));
+        for (std::size_t m = 0; m < 12; ++m)
+            adMes[m][p] = datos.adMes[p][m];
+    }
+    const PatronConsumo& patron = Patron(datos.iPatron);
+    auto factores = std::make_unique<AnoHorario>();
+    AnoDeSemana(patron.adFactor, *factores);
+    AnoConsumo ano;
+    ano.origen =
+        fmt::format("Energías mensuales con el patrón {}: {}", datos.iPatron, CadenaUtf8(patron.csTitulo));
+    RepartirMeses(adMes, aiPeriodoHora, *factores, *ano.horas);
+    for (double& d : *ano.horas)
+        d *= kWhPorKWh;
+    ano.dPotMaxima = Maximo(*ano.horas);
+    return ano;
+}
+
+AnoConsumo AnoDeListaDeReceptores(const std::string& ruta)
+{
+    std::ifstream fichero(ruta, std::ios::binary);
+    std::string bytes(kMaximoJson + 1, '\0');
+    fichero.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(fichero.gcount(), 0)));
+    if (bytes.empty() || bytes.size() > kMaximoJson)
+        throw ErrorEjecucion(
+            fmt::format("no se puede leer «{}»: no existe, está vacío o pasa de 64 MiB", ruta));
+    const rpc::Json lista = rpc::Json::parse(bytes, nullptr, false);
+    if (!lista.is_array())
+        throw ErrorEjecucion(fmt::format("«{}» no es una lista JSON de receptores", ruta));
+    AnoConsumo ano;
+    ano.origen = fmt::format("Receptores: {}", ruta);
+    for (const rpc::Json& elemento : lista) {
+        try {
+            rpc::LeerRegistro(elemento, ano.receptores.Add(std::make_unique<CSFVDataReceptor>()));
+        } catch (const rpc::ErrorValor& error) {
+            throw ErrorEjecucion(
+                fmt::format("«{}»: receptor {}: {}", ruta, ano.receptores.GetSize(), error.what()));
+        }
+    }
+    ano.dPotMaxima = AnoDeReceptores(ano.receptores, *ano.horas);
+    return ano;
+}
+
+}  // namespace efv::orden

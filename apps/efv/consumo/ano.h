@@ -1,0 +1,41 @@
+// Where an hourly year of consumption comes from.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <quorvel/consumption.h>
+
+namespace efv::orden {
+
+/// An hourly year with what is told of it.
+struct AnoConsumo {
+    std::string origen;                                                  ///< one line
+    double dPotMaxima = 0.0;                                             ///< W
+    std::unique_ptr<AnoHorario> horas = std::make_unique<AnoHorario>();  ///< Wh
+    CObArrayPropio<CSFVDataReceptor> receptores;                         ///< when it comes from loads
+};
+
+/// Pattern 1 to 9 whose factor 1 is that power. @throws ErrorUso
+AnoConsumo AnoDePatron(int iPatron, double dPotencia);
+
+/// The values of a file. A month's hours alone are set when the format asks for a month.
+/// @throws ErrorEjecucion when it can't be read, a value is no number, or there are more or (unless
+/// `bIncompleto`) less of them than the format asks for
+AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, bool bIncompleto);
+
+/// Energies of the months by tariff period, kWh, and the period 1 to 3 of each hour of the day.
+struct EnergiasMensuales {
+    std::array<std::array<double, 12>, 3> adMes{};
+    std::array<int, 24> aiPeriodo{};
+    int iPatron = 1;
+};
+/// @throws ErrorUso when a period has energy that the pattern or the hours leave no place for
+AnoConsumo AnoDeMeses(const EnergiasMensuales& datos);
+
+/// A JSON list of loads, fields as in the scripted host. @throws ErrorEjecucion
+AnoConsumo AnoDeListaDeReceptores(const std::string& ruta);
+
+}  // namespace efv::orden

@@ -1,0 +1,322 @@
+#include "consumo/suborden_consumo.h"
+
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include <quorvel/solar.h>
+
+#include "catalogo/ficha.h"
+#include "comun/linea_ordenes.h"
+#include "comun/numeros.h"
+#include "consumo/ano.h"
+#include "consumo/vistas.h"
+#include "curvas/ficheros.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr double kPotenciaMaxima = 1e10;  // W
+constexpr double kEnergiaMaxima = 1e7;    // kWh a month and period
+
+// Every hour with its place in the year, as spreadsheets read it.
+std::string InformeCsv(const AnoConsumo& ano)
+{
+    std::string texto = "mes;dia;hora;consumo_Wh\n";
+    for (int h = 0; h < static_cast<int>(kHorasDelAno); ++h)
+        texto += fmt::format("{};{};{};{}\n", phGetMes(h) + 1, phGetDia(h) + 1, phGetHora(h),
+                             DecimalExacto((*ano.horas)[static_cast<std::size_t>(h)]));
+    return texto;
+}
+
+Json Numero(double d)
+{
+    return std::isfinite(d) ? Json(d) : Json();
+}
+
+std::string InformeJson(const AnoConsumo& ano)
+{
+    Json meses = Json::array();
+    for (int iMes = 0; iMes < 12; ++iMes)
+        meses.push_back(Numero(SumaDeHoras(*ano.horas, HorasDePeriodo(iMes))));
+    Json horas = Json::array();
+    for (const double d : *ano.horas)
+        horas.push_back(Numero(d));
+    return TextoJson({{"origen", ano.origen},
+                      {"potencia_maxima_W", ano.dPotMaxima},
+                      {"energia_ano_Wh", Numero(SumaDeHoras(*ano.horas, HorasDePeriodo(12)))},
+                      {"energia_mes_Wh", meses},
+                      {"horas_Wh", horas}});
+}
+
+// One of a few words. @throws ErrorUso
+template <class T, std::size_t N>
+T Elegir(const char* opcion, const std::string& texto, const std::array<std::pair<const char*, T>, N>& palabras)
+{
+    std::string lista;
+    for (const auto& [palabra, valor] : palabras) {
+        if (texto == palabra)
+            return valor;
+        lista += fmt::format("{}{}", lista.empty() ? "" : ", ", palabra);
+    }
+    throw ErrorUso(fmt::format("{}: se esperaba una de {}, llegó «{}»", opcion, lista, texto));
+}
+
+double LeerEntre(const char* opcion, const std::string& texto, double dMinimo, double dMaximo)
+{
+    const std::optional<double> d = LeerNumero(texto);
+    if (!d || *d < dMinimo || *d > dMaximo)
+        throw ErrorUso(fmt::format("{}: se esperaba un número de {} a {}, llegó «{}»", opcion,
+                                   DecimalExacto(dMinimo), DecimalExacto(dMaximo), texto));
+    return *d;
+}
+
+int LeerEntero(const char* opcion, const std::string& texto, int iMinimo, int iMaximo)
+{
+    const double d = LeerEntre(opcion, texto, iMinimo, iMaximo);
+    if (d != std::trunc(d))
+        throw ErrorUso(fmt::format("{}: se esperaba un número entero, llegó «{}»", opcion, texto));
+    return static_cast<int>(d);
+}
+
+constexpr std::array<std::pair<const char*, bool>, 2> kUnidades = {{{"Wh", false}, {"kWh", true}}};
+constexpr std::array<std::pair<const char*, bool>, 2> kTiempos = {{{"1", false}, {"1/4", true}}};
+constexpr std::array<std::pair<const char*, Vista>, 3> kVistas = {
+    {{"dia", Vista::dia}, {"semana", Vista::semana}, {"ano", Vista::ano}}};
+
+std::string PiePatrones()
+{
+    std::string texto = "Patrones:\n";
+    int i = 0;
+    for (const PatronConsumo& patron : PatronesConsumo())
+        texto += fmt::format("  {}  {}\n", ++i, CadenaUtf8(patron.csTitulo));
+    return texto + "Ejemplo:\n  efv consumo patron 1 --potencia 3500 --svg casa.svg";
+}
+
+class SubordenConsumo final : public Suborden {
+public:
+    CLI::App& Declarar(CLI::App& raiz) override
+    {
+        CLI::App& linea = *raiz.add_subcommand("consumo", "Consumo de cada hora del año");
+        Castellanizar(linea);
+        linea.require_subcommand(0, 1);
+        linea.footer(
+            "Cada orden tiene su ayuda: efv consumo ORDEN --help\n"
+            "Las horas son solares, de un año de 365 días que empieza en lunes; la energía, en Wh.");
+        DeclararPatron(linea);
+        DeclararImportar(linea);
+        DeclararMensual(linea);
+        DeclararReceptores(linea);
+        return linea;
+    }
+
+    int Ejecutar(std::ostream& salida) override
+    {
+        for (const auto& [orden, calcular] : m_ordenes) {
+            if (!orden->parsed())
+                continue;
+            const Salida como = LeerSalida();
+            Emitir((this->*calcular)(), como, salida);
+            return 0;
+        }
+        throw ErrorUso("falta la orden (ayuda: efv consumo --help)");
+    }
+
+private:
+    using Calculo = AnoConsumo (SubordenConsumo::*)() const;
+
+    // How the year goes out, as asked for.
+    struct Salida {
+        Vista vista = Vista::ano;
+        int iMes = 0, iDia = 0;
+    };
+
+    CLI::App& Orden(CLI::App& linea, const char* nombre, const char* descripcion, Calculo calculo)
+    {
+        CLI::App& orden = *linea.add_subcommand(nombre, descripcion);
+        Castellanizar(orden);
+        orden
+            .add_flag("--json", m_bJson,
+                      "Escribe JSON con las sumas y las 8760 horas; si falta, CSV con punto y "
+                      "coma y coma decimal")
+            ->option_text(" ")
+            ->disable_flag_override();
+        orden.add_option("--svg", m_svg, "Dibuja el consumo en el fichero, en lugar de escribirlo")
+            ->type_name("FICHERO");
+        orden.add_option("--vista", m_vista, "Lo que se dibuja: dia, semana o ano; si falta, ano")
+            ->type_name("VISTA");
+        orden.add_option("--mes", m_mes, "Mes del día, o del primero de la semana, 1 a 12; si falta, enero")
+            ->type_name("MES");
+        orden.add_option("--dia", m_dia, "Día del mes, desde 1; si falta, el primero")->type_name("DIA");
+        m_ordenes.emplace_back(&orden, calculo);
+        return orden;
+    }
+
+    void DeclararPatron(CLI::App& linea)
+    {
+        CLI::App& orden = Orden(linea, "patron", "Un patrón semanal a una potencia", &SubordenConsumo::Patron);
+        orden.add_option("N", m_palabra, "Patrón, 1 a 9")->option_text(" ");
+        orden.add_option("--potencia", m_potencia, "Potencia del factor 1, en W (0,01 a 1e10)")->type_name("W");
+        orden.footer(PiePatrones());
+    }
+
+    void DeclararImportar(CLI::App& linea)
+    {
+        CLI::App& orden =
+            Orden(linea, "importar", "Los valores de un fichero de texto", &SubordenConsumo::Importar);
+        orden
+            .add_option("FICHERO", m_palabra,
+                        "Valores separados por líneas, tabuladores, blancos o punto y coma")
+            ->option_text(" ");
+        orden.add_option("--unidad", m_unidad, "Wh o kWh; si falta, Wh")->type_name("UNIDAD");
+        orden.add_option("--tiempo", m_tiempo, "Horas que abarca cada valor: 1 o 1/4; si falta, 1")
+            ->type_name("HORAS");
+        orden
+            .add_option("--periodo", m_periodo,
+                        "Mes de los valores, 1 a 12; si falta, el año. Las horas de los demás meses son 0")
+            ->type_name("MES");
+        orden.add_flag("--incompleto", m_bIncompleto, "Admite menos valores: los que faltan cuentan 0")
+            ->option_text(" ")
+            ->disable_flag_override();
+        orden.footer(
+            "La coma y el punto son decimales.\nEjemplo:\n"
+            "  efv consumo importar contador.csv --unidad kWh --tiempo 1/4 --json");
+    }
+
+    void DeclararMensual(CLI::App& linea)
+    {
+        CLI::App& orden = Orden(linea, "mensual", "Las energías de cada mes, repartidas según un patrón",
+                                &SubordenConsumo::Mensual);
+        static constexpr std::array<const char*, 3> kOpciones = {"--p1", "--p2", "--p3"};
+        static constexpr std::array<const char*, 3> kPeriodos = {"punta", "llano", "valle"};
+        for (std::size_t p = 0; p < kOpciones.size(); ++p) {
+            orden
+                .add_option(kOpciones[p], m_energias[p],
+                            fmt::format("kWh de enero a diciembre en las horas {}", kPeriodos[p]))
+                ->type_name("VALORES")
+                ->expected(1, 12);
+        }
+        orden
+            .add_option("--horas", m_horas,
+                        "Período de cada hora del día: 24 cifras 1, 2 o 3; si falta, todas 1")
+            ->type_name("CIFRAS");
+        orden
+            .add_option("--patron", m_patron,
+                        "Patrón del reparto, 1 a 9 (efv consumo patron --help); si falta, 1")
+            ->type_name("N");
+        orden.footer(
+            "Ejemplo:\n  efv consumo mensual --patron 2 --horas 333333332211112222111122 \\\n"
+            "      --p1 90 80 75 70 68 66 72 74 70 72 80 88 --p2 60 55 52 50 48 47 50 51 50 52 56 60 \\\n"
+            "      --p3 110 99 95 90 85 80 84 86 85 92 100 108");
+    }
+
+    void DeclararReceptores(CLI::App& linea)
+    {
+        CLI::App& orden = Orden(linea, "receptores", "Los receptores de una lista, con sus franjas de uso",
+                                &SubordenConsumo::Receptores);
+        orden.add_option("FICHERO", m_palabra, "Lista JSON de registros CSFVDataReceptor")->option_text(" ");
+        orden.footer(
+            "Cada receptor es un objeto: iCantidad, dPotencia (W), bNoCalcular y dHorario, una lista de 504\n"
+            "minutos desde medianoche: por mes y tipo de día (lunes primero), inicio y fin de tres franjas.");
+    }
+
+    const std::string& Palabra(const char* que) const
+    {
+        if (m_palabra.empty())
+            throw ErrorUso(fmt::format("falta {} (ayuda: efv consumo --help)", que));
+        return m_palabra;
+    }
+
+    AnoConsumo Patron() const
+    {
+        const int iPatron =
+            LeerEntero("N", Palabra("el patrón"), 1, static_cast<int>(PatronesConsumo().size()));
+        if (!m_potencia)
+            throw ErrorUso("falta --potencia, en W");
+        return AnoDePatron(iPatron, LeerEntre("--potencia", *m_potencia, 0.01, kPotenciaMaxima));
+    }
+
+    AnoConsumo Importar() const
+    {
+        FormatoValores formato;
+        if (m_periodo)
+            formato.iPeriodo = LeerEntero("--periodo", *m_periodo, 1, 12) - 1;
+        formato.bKWh = Elegir("--unidad", m_unidad, kUnidades);
+        formato.bCuartosDeHora = Elegir("--tiempo", m_tiempo, kTiempos);
+        return AnoDeFichero(Palabra("el fichero"), formato, m_bIncompleto);
+    }
+
+    AnoConsumo Mensual() const
+    {
+        EnergiasMensuales datos;
+        bool bAlguna = false;
+        for (std::size_t p = 0; p < m_energias.size(); ++p) {
+            if (m_energias[p].empty())
+                continue;
+            bAlguna = true;
+            const std::string opcion = fmt::format("--p{}", p + 1);
+            const std::vector<std::string> partes = SepararNumeros(m_energias[p], 12);
+            if (partes.size() != 12)
+                throw ErrorUso(fmt::format("{}: se esperaban 12 valores, llegaron {}", opcion, partes.size()));
+            for (std::size_t m = 0; m < 12; ++m)
+                datos.adMes[p][m] = LeerEntre(opcion.c_str(), partes[m], 0, kEnergiaMaxima);
+        }
+        if (!bAlguna)
+            throw ErrorUso("faltan las energías: --p1, --p2 o --p3");
+        if (m_horas.size() != datos.aiPeriodo.size() || m_horas.find_first_not_of("123") != std::string::npos)
+            throw ErrorUso(fmt::format("--horas: se esperaban 24 cifras 1, 2 o 3, llegó «{}»", m_horas));
+        for (std::size_t h = 0; h < datos.aiPeriodo.size(); ++h)
+            datos.aiPeriodo[h] = m_horas[h] - '0';
+        datos.iPatron = LeerEntero("--patron", m_patron, 1, static_cast<int>(PatronesConsumo().size()));
+        return AnoDeMeses(datos);
+    }
+
+    AnoConsumo Receptores() const { return AnoDeListaDeReceptores(Palabra("el fichero")); }
+
+    Salida LeerSalida() const
+    {
+        if (!m_svg && (m_vista || m_mes || m_dia))
+            throw ErrorUso("--vista, --mes y --dia necesitan --svg");
+        if (m_svg && (m_bJson || m_svg->empty()))
+            throw ErrorUso(m_bJson ? "--svg y --json se excluyen" : "--svg: el nombre está vacío");
+        Salida como;
+        como.vista = Elegir("--vista", m_vista.value_or("ano"), kVistas);
+        como.iMes = LeerEntero("--mes", m_mes.value_or("1"), 1, 12) - 1;
+        como.iDia = LeerEntero("--dia", m_dia.value_or("1"), 1, HorasDePeriodo(como.iMes).Horas() / 24) - 1;
+        return como;
+    }
+
+    void Emitir(const AnoConsumo& ano, const Salida& como, std::ostream& salida) const
+    {
+        if (!m_svg) {
+            salida << (m_bJson ? InformeJson(ano) : InformeCsv(ano));
+            return;
+        }
+        const std::filesystem::path ruta(*m_svg);
+        const auto escritos =
+            EscribirFicheros(ruta.has_parent_path() ? ruta.parent_path() : std::filesystem::path("."),
+                             {{ruta.filename().string(), DibujarAno(ano, como.vista, como.iMes, como.iDia)}});
+        salida << fmt::format("{}\nEnergía del año: {} kWh\nGráfica escrita: {}\n", EnUnaLinea(ano.origen),
+                              Decimal(SumaDeHoras(*ano.horas, HorasDePeriodo(12)) / 1000.0, 2),
+                              EnUnaLinea(escritos.at(0).lexically_normal().string()));
+    }
+
+    std::vector<std::pair<CLI::App*, Calculo>> m_ordenes;
+    std::string m_palabra;
+    std::optional<std::string> m_potencia, m_periodo, m_svg, m_vista, m_mes, m_dia;
+    std::string m_unidad = "Wh", m_tiempo = "1", m_patron = "1", m_horas = std::string(24, '1');
+    std::array<std::vector<std::string>, 3> m_energias;
+    bool m_bJson = false, m_bIncompleto = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Suborden> CrearSubordenConsumo()
+{
+    return std::make_unique<SubordenConsumo>();
+}
+
+}  // namespace efv::orden

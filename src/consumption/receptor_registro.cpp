@@ -1,0 +1,133 @@
+// The load's record: fields, archive, figures and its row in a list.
+#include <array>
+
+#include <quorvel/framework/CArchive.h>
+
+#include "consumption/franjas.h"
+#include "consumption/horas_texto.h"
+#include "consumption/registros.h"
+#include "platform/framework/registro_clases.h"
+#include "platform/framework/tabla_registro.h"
+#include "platform/numero/conversion.h"
+
+namespace {
+
+using R = CSFVDataReceptor;
+using efv::numero::nuConvertFltToIntlStr;
+
+constexpr auto kHorario = efv::framework::Bloque<R, &R::dHorario>();
+
+constexpr auto kCampos = std::to_array<efv::framework::CampoDeclarado<R>>({
+    {"csModelo", &R::csModelo},
+    {"csFabricante", &R::csFabricante},
+    {"iCantidad", &R::iCantidad},
+    {"dPotencia", &R::dPotencia},
+    {"dVoltaje", &R::dVoltaje},
+    {"dVoltajeMinimo", &R::dVoltajeMinimo},
+    {"dRendimiento", &R::dRendimiento},
+    {"iLuminaria", &R::iLuminaria},
+    {"iTipoRed", &R::iTipoRed},
+    {"dHorasDia", &R::dHorasDia},
+    {"iReservadoA", &R::iReservadoA},
+    {"iReservadoB", &R::iReservadoB},
+    {"bNoCalcular", &R::bNoCalcular},
+    {"dHorario", kHorario},
+});
+
+// The declared order is the archive's, and there is one schema.
+constexpr int kEsquema = 1;
+constexpr auto kArchivo = [] {
+    std::array<efv::framework::ItemArchivo<R>, kCampos.size()> items{};
+    for (std::size_t i = 0; i < items.size(); ++i)
+        items[i] = {kEsquema, kCampos[i].miembro};
+    return items;
+}();
+
+efv::consumption::Franjas FranjasDe(const R& receptor, int iMes, int iDia)
+{
+    return receptor.dHorario[iMes][iDia];
+}
+
+void EscribirFila(R& receptor, CListCtrl& lista, int iFila, int iMes, int iDia)
+{
+    const double dHoras = receptor.GetNHdia(iMes, iDia);
+    lista.SetItemText(iFila, 0, nuConvertFltToIntlStr(receptor.iCantidad, 0));
+    lista.SetItemText(iFila, 1, receptor.csModelo);
+    lista.SetItemText(iFila, 2, receptor.iTipoRed == 0 ? L"CC" : L"CA");
+    lista.SetItemText(iFila, 3, nuConvertFltToIntlStr(receptor.dPotencia, 2));
+    lista.SetItemText(iFila, 4, efv::consumption::HorasYMinutos(dHoras) + L" h");
+    lista.SetItemText(iFila, 5, nuConvertFltToIntlStr(receptor.iCantidad * receptor.dPotencia * dHoras, 2));
+    lista.SetCheck(iFila, receptor.bNoCalcular == 0);
+}
+
+}  // namespace
+
+CSFVDataReceptor::~CSFVDataReceptor() = default;
+CSFVDataReceptor& CSFVDataReceptor::operator=(const CSFVDataReceptor& otro) = default;
+
+const CRuntimeClass& CSFVDataReceptor::GetThisClass()
+{
+    static const CRuntimeClass clase{"CSFVDataReceptor", &CObject::GetThisClass(),
+                                     &efv::framework::Crear<CSFVDataReceptor>};
+    return clase;
+}
+
+const CRuntimeClass& CSFVDataReceptor::GetRuntimeClass() const
+{
+    return GetThisClass();
+}
+
+void CSFVDataReceptor::Serialize(CArchive& ar)
+{
+    efv::framework::SerializarPorTabla(ar, *this, kArchivo, kEsquema);
+}
+
+unsigned CSFVDataReceptor::InsertarEnLista(CListCtrl& lista, int iMes, int iDia)
+{
+    const int iFila = lista.InsertItem(lista.GetItemCount(), L"");
+    lista.SetItemData(iFila, this);
+    EscribirFila(*this, lista, iFila, iMes, iDia);
+    return 1;
+}
+
+unsigned CSFVDataReceptor::ActualizarEnLista(CListCtrl& lista, int iMes, int iDia)
+{
+    if (lista.GetSelectionMark() >= 0)
+        EscribirFila(*this, lista, lista.GetSelectionMark(), iMes, iDia);
+    return 1;
+}
+
+unsigned CSFVDataReceptor::EliminarEnLista(CListCtrl& /*lista*/)
+{
+    return 1;
+}
+
+double CSFVDataReceptor::GetNHdia(int iMes, int iDia)
+{
+    dHorasDia = efv::consumption::HorasDeUso(FranjasDe(*this, iMes, iDia));
+    return dHorasDia;
+}
+
+double CSFVDataReceptor::GetNHoraHora(int iMes, int iDia, int iHora) const
+{
+    return efv::consumption::FraccionDeHora(FranjasDe(*this, iMes, iDia), iHora);
+}
+
+double CSFVDataReceptor::GetPcc() const
+{
+    return iCantidad * dPotencia;
+}
+
+int CSFVDataReceptor::IsNoCalcular() const
+{
+    return bNoCalcular;
+}
+
+namespace efv::consumption {
+
+std::vector<CampoRegistro> Campos(CSFVDataReceptor& registro)
+{
+    return framework::Campos(registro, kCampos);
+}
+
+}  // namespace efv::consumption
