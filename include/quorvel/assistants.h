@@ -112,6 +112,16 @@ public:
 /// @return 0 connected to the grid, 1 stand-alone, 3 when the person cancelled.
 EFV_API int phSeleccionAsistenteSFV();
 
+/// Runs the stand-alone assistant on the project's record. Batteries, panels, loads and factors K come from
+/// the loaded catalogues. Branches of batteries, the panels, tilt, orientation and row spacing in the record
+/// are replaced by proposals as the assistant opens. The record's loads are replaced at OK, even at one that
+/// is refused afterwards.
+/// @param dLatitud degrees  @param iHemisferio 1 north, 0 south
+/// @param adRadiacion mean daily horizontal radiation of each month, kJ/m²·day, January first
+/// @return 1 accepted, with the design in `asistente`; 0 cancelled.
+EFV_API int phAsistenteSFVAislada(CString csLugar, double dLatitud, int iHemisferio,
+                                  const double (&adRadiacion)[12], CSFVAsistenteAislada& asistente);
+
 /// Runs the grid-connected assistant on the project's record. Inverters and panels come from the loaded
 /// catalogues. Counts, tilt, orientation and row spacing in the record are replaced by proposals as the
 /// assistant opens.

@@ -1,6 +1,5 @@
 #include "assistants/red_dialogo.h"
 
-#include <algorithm>
 #include <utility>
 
 #include <fmt/format.h>
@@ -93,21 +92,6 @@ CString RotuloDe(const CString& csId)
 }
 
 }  // namespace
-
-namespace efv::assistants {
-
-TextoLugar PartirLugar(const CString& csTexto)
-{
-    constexpr std::wstring_view kMarca = L"~#SFV#~";
-    const std::size_t posicion = csTexto.find(kMarca);
-    if (posicion == 0)
-        return {csTexto, {}};
-    if (posicion == CString::npos)
-        return {{}, csTexto.substr(std::min(csTexto.size(), kMarca.size() - 1))};
-    return {csTexto.substr(0, posicion), csTexto.substr(posicion + kMarca.size())};
-}
-
-}  // namespace efv::assistants
 
 CDlgAsistenteSFVRed::CDlgAsistenteSFVRed(const V& inicial, const as::TextoLugar& lugar)
     : DialogoAsistente("CDlgAsistenteSFVRed", L"Asistente de SFV conectada a Red", inicial)

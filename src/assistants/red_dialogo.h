@@ -3,19 +3,7 @@
 
 #include "assistants/calculo_red.h"
 #include "assistants/dialogo_asistente.h"
-
-namespace efv::assistants {
-
-/// The place as the host gives it.
-struct TextoLugar {
-    CString csLocalidad, csLocalidad2;
-};
-
-/// Splits "place~#SFV#~more" at the mark. With the mark at the very beginning the first part is the whole
-/// text; without a mark the first part is empty and the second what stands behind the sixth character.
-TextoLugar PartirLugar(const CString& csTexto);
-
-}  // namespace efv::assistants
+#include "assistants/lugar.h"
 
 class CDlgAsistenteSFVRed : public efv::assistants::DialogoAsistente<efv::assistants::ValoresRed> {
 public:

@@ -1,6 +1,9 @@
 // Exported functions of the design assistants.
+#include <algorithm>
+
 #include <quorvel/assistants.h>
 
+#include "assistants/aislada_dialogo.h"
 #include "assistants/perdidas_dialogo.h"
 #include "assistants/red_dialogo.h"
 #include "assistants/tipo_instalacion_dialogo.h"
@@ -16,6 +19,22 @@ int phSeleccionAsistenteSFV()
     CDlgAsistenteTipoInstalacion dialogo;
     dialogo.Mostrar();
     return dialogo.iTipo;
+}
+
+int phAsistenteSFVAislada(CString csLugar, double dLatitud, int iHemisferio, const double (&adRadiacion)[12],
+                          CSFVAsistenteAislada& asistente)
+{
+    const AmbitoRecursos ambito;
+    as::ValoresAislada valores;
+    as::TomarDelRegistro(valores, asistente);
+    valores.dLatitud = dLatitud;
+    valores.iHemisferio = iHemisferio;
+    std::ranges::copy(adRadiacion, valores.adRadiacion.begin());
+    CDlgAsistenteSFVAislada dialogo(valores, as::PartirLugar(csLugar), asistente);
+    if (dialogo.Mostrar() != Dialogo::ok)
+        return 0;
+    as::DevolverAlRegistro(dialogo.datos, asistente);
+    return 1;
 }
 
 int phAsistenteSFVRed(CString csLugar, double dLatitud, int iHemisferio, CSFVAsistenteRed& asistente)

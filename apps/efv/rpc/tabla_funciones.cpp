@@ -94,6 +94,8 @@ constexpr auto kFunciones = std::to_array<Funcion>({
 
     // Design assistants
     Funcion::De<&phSeleccionAsistenteSFV>("phSeleccionAsistenteSFV", ""),
+    Funcion::De<&phAsistenteSFVAislada>("phAsistenteSFVAislada",
+                                        "csLugar, dLatitud, iHemisferio, adRadiacion, asistente"),
     Funcion::De<&phAsistenteSFVRed>("phAsistenteSFVRed", "csLugar, dLatitud, iHemisferio, asistente"),
     Funcion::De<&phDatosPerdidasAislada>("phDatosPerdidasAislada",
                                          "dPerdidaCableado, dPerdidaAcumulador, dPerdidaAcoplamiento"),
