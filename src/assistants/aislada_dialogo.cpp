@@ -161,6 +161,7 @@ CDlgAsistenteSFVAislada::CDlgAsistenteSFVAislada(const V& inicial, const as::Tex
 {
     AnadirTexto("csLocalidad", L"Localidad:", lugar.csLocalidad);
     AnadirTexto("csLocalidad2", L"", lugar.csLocalidad2);
+    AnadirTexto("csHemisferio", L"Hemisferio:", datos.iHemisferio == 1 ? L"Norte" : L"Sur");
     AnadirCargas();
     m_paginas = &AnadirPaginas(
         {L"Acumuladores", L"Paneles fotovoltaicos", L"Regulación", L"Perdidas", L"Solución del sistema"});
@@ -484,11 +485,12 @@ constexpr auto kMinimos = std::to_array<Minimo>({
 
 bool ConfirmarPaneles(const V& v)
 {
-    if (v.iPanelesParalelo > 100)
+    if (v.iPanelesParalelo > 100) {
         return ui::Preguntar(
             fmt::format(L"El número de ramas de paneles ({}) es una cantidad muy elevada y "
                         L"puede afectar al trazado de la instalación. ¿Desea continuar?",
                         v.iPanelesParalelo));
+    }
     return v.iTotalPaneles < 2000 ||
            ui::Preguntar(fmt::format(
                L"El número de paneles de la intalación ({}) es una cantidad muy elevada. ¿Desea continuar?",
@@ -497,11 +499,12 @@ bool ConfirmarPaneles(const V& v)
 
 bool ConfirmarAcumuladores(const V& v)
 {
-    if (v.iAcumuladoresParalelo > 25)
+    if (v.iAcumuladoresParalelo > 25) {
         return ui::Preguntar(
             fmt::format(L"El número de ramas de acumuladores ({}) es una cantidad muy elevada y puede afectar "
                         L"al trazado de la instalación. ¿Desea continuar?.",
                         v.iAcumuladoresParalelo));
+    }
     return v.iTotalAcumuladores < 2000 ||
            ui::Preguntar(fmt::format(L"El número de acumuladores de la intalación ({}) es una cantidad muy "
                                      L"elevada. ¿Desea continuar?.",

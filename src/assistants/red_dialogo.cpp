@@ -232,9 +232,10 @@ bool CDlgAsistenteSFVRed::AntesDeAceptar()
         ui::MostrarAviso(csTexto, ui::Icono::error);
         return false;
     };
-    if (ui::EsNulo(datos.dPotenciaObjetivo))
+    if (ui::EsNulo(datos.dPotenciaObjetivo)) {
         return error(fmt::format(L"Potencia mínima instalada ({} Kw), no válida.",
                                  efv::numero::nuConvertFltToIntlStr(datos.dPotenciaObjetivo, 2)));
+    }
     if (datos.inversor.iUsoPrincipal != 0)
         return error(L"Inversor no indicado para uso en conexión a red. Elija otro modelo.");
     if (datos.iTotalPaneles >= 2000 &&
@@ -242,10 +243,11 @@ bool CDlgAsistenteSFVRed::AntesDeAceptar()
             L"El número de paneles de la intalación ({}) es una cantidad muy elevada. ¿Desea continuar?.",
             datos.iTotalPaneles)))
         return false;
-    if (datos.iPanelesParalelo > datos.inversor.iNumEntradas)
+    if (datos.iPanelesParalelo > datos.inversor.iNumEntradas) {
         return error(fmt::format(
             L"El número de ramales en paralelo ({}), supera al número de entradas del inversor ({}). "
             L"Modifique la configuración o seleccione otro modelo de inversor.",
             datos.iPanelesParalelo, datos.inversor.iNumEntradas));
+    }
     return true;
 }
