@@ -47,8 +47,8 @@ public:
     /// Schema 1. The number read isn't looked at: there is one layout.
     void Serialize(CArchive& ar) override;
 
-    virtual CSFVDataReceptor& operator=(
-        const CSFVDataReceptor& otro);  // NOLINT(*-assign-operator): part of the interface
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): an operation among the virtual ones
+    virtual CSFVDataReceptor& operator=(const CSFVDataReceptor& otro);
 
     /// Appends the load's row, with the load as its object: units, model, "CC" or "CA", power of a unit (W),
     /// hours of use, energy of that day (Wh); ticked when it counts in consumption sums. @return 1
@@ -87,8 +87,8 @@ public:
     /// Schema 1 as a 16-bit number, which isn't looked at when read.
     void Serialize(CArchive& ar) override;
 
-    virtual CItemConsumo& operator=(
-        const CItemConsumo& otro);  // NOLINT(*-assign-operator): part of the interface
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): an operation among the virtual ones
+    virtual CItemConsumo& operator=(const CItemConsumo& otro);
 
     static const CRuntimeClass& GetThisClass();
 };
