@@ -47,6 +47,7 @@ public:
     /// Schema 1. The number read isn't looked at: there is one layout.
     void Serialize(CArchive& ar) override;
 
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): an operation among the virtual ones
     virtual CSFVDataReceptor& operator=(const CSFVDataReceptor& otro);
 
     /// Appends the load's row, with the load as its object: units, model, "CC" or "CA", power of a unit (W),
@@ -86,6 +87,7 @@ public:
     /// Schema 1 as a 16-bit number, which isn't looked at when read.
     void Serialize(CArchive& ar) override;
 
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): an operation among the virtual ones
     virtual CItemConsumo& operator=(const CItemConsumo& otro);
 
     static const CRuntimeClass& GetThisClass();
