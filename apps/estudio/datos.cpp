@@ -58,14 +58,15 @@ CString Ruta(const fs::path& carpeta, const char* archivo)
     return CadenaDesdeUtf8((carpeta / archivo).string());
 }
 
-void PonerDatos(const fs::path& carpeta)
+CStringArray PonerDatos(const fs::path& carpeta)
 {
     phSetPathApp(CadenaDesdeUtf8(QCoreApplication::applicationDirPath().toStdString()).c_str());
     phSetPathModHE5(CadenaDesdeUtf8(QCoreApplication::applicationDirPath().toStdString()).c_str());
     // With its separator: file names are joined to it as it stands.
     phSetPathHE5BD(Ruta(carpeta, "").c_str());
-    phCargarBaseFactorK(Ruta(carpeta, "ZqFactorKHE5.xml"));
-    phCargarBasePanelesFotovoltaicos(Ruta(carpeta, "ZqModFotoHE5.xml"));
+    CStringArray fallidas;
+    phCargarBasesHE5(fallidas);
+    return fallidas;
 }
 
 }  // namespace efv::estudio

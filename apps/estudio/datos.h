@@ -4,6 +4,7 @@
 #include <filesystem>
 #include <string>
 
+#include <quorvel/framework/CArray.h>
 #include <quorvel/framework/CString.h>
 
 namespace efv::estudio {
@@ -16,8 +17,9 @@ std::filesystem::path CarpetaDistribuida();
 /// @throws std::runtime_error with a Spanish text when it doesn't exist or can't be made.
 std::filesystem::path CarpetaDeTrabajo(const std::string& opcion);
 
-/// Tells the library its paths and loads what it calculates with.
-void PonerDatos(const std::filesystem::path& carpeta);
+/// Tells the library its paths and loads its catalogues.
+/// @return the files that couldn't be loaded.
+CStringArray PonerDatos(const std::filesystem::path& carpeta);
 
 /// A file of the folder, as the library takes it.
 CString Ruta(const std::filesystem::path& carpeta, const char* archivo);

@@ -55,6 +55,16 @@ int Capturar(const std::filesystem::path& datos, const std::filesystem::path& ca
     return EXIT_SUCCESS;
 }
 
+// Work goes on without them.
+void AvisarDe(const CStringArray& fallidas)
+{
+    CString csTexto = L"No se han podido cargar estos archivos:\n";
+    for (const CString& csFichero : fallidas)
+        csTexto += L"\n" + csFichero;
+    if (!fallidas.IsEmpty())
+        efv::ui::MostrarAviso(csTexto, efv::ui::Icono::advertencia);
+}
+
 int Ejecutar(QApplication& programa)
 {
     QCommandLineParser orden;
@@ -80,12 +90,13 @@ int Ejecutar(QApplication& programa)
     const std::string opcion = orden.value(datos).toStdString();
     const std::filesystem::path carpeta =
         bCapturas && opcion.empty() ? CarpetaDistribuida() : CarpetaDeTrabajo(opcion);
-    PonerDatos(carpeta);
+    const CStringArray fallidas = PonerDatos(carpeta);
     if (bCapturas)
         return Capturar(carpeta, orden.value(capturas).toStdString());
     VentanaPrincipal ventana(carpeta);
     efv::qt::InstalarPresentadorQt(&ventana);
     ventana.show();
+    AvisarDe(fallidas);
     return QApplication::exec();
 }
 

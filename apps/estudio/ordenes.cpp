@@ -15,6 +15,11 @@ constexpr const char* kAyuda = "Ay&uda";
 
 constexpr auto kOrdenes = std::to_array<Orden>({
     {kCatalogos, "&Paneles fotovoltaicos…", [] { phEditarBasePanelesFotovoltaicos(kEditar); }},
+    {kCatalogos, "&Acumuladores…", [] { phEditarBaseAcumuladores(kEditar); }},
+    {kCatalogos, "&Inversores…", [] { phEditarBaseInversores(kEditar); }},
+    {kCatalogos, "&Microinversores…", [] { phEditarBaseMicroInversores(kEditar); }},
+    {kCatalogos, "&Convertidores de CC…", [] { phEditarBaseConvertidorCC(kEditar); }},
+    {kCatalogos, "&Receptores…", [] { phEditarBaseReceptores(kEditar); }},
     {kAyuda, "&Versión…", [] { phShowVersion(); }},
 });
 

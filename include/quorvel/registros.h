@@ -13,7 +13,8 @@ namespace efv {
 
 /// A field of a record in place: writing through it changes the record. A fixed array of doubles, of any
 /// number of dimensions, is one span in memory order.
-using ReferenciaCampo = std::variant<int*, double*, CString*, std::span<double>>;
+using ReferenciaCampo =
+    std::variant<int*, double*, CString*, CArray<double, double&>*, CStringArray*, std::span<double>>;
 
 struct CampoRegistro {
     std::string_view nombre;

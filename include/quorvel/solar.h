@@ -233,3 +233,24 @@ EFV_API CBaseFactorK& phGetBaseFactorK();
 /// The twelve factors for the magnitude of `dLatitud` in that hemisphere (1 north, else south, which
 /// looks for negative latitudes) and an inclination in degrees. @return as CBaseFactorK::GetFactoresK.
 EFV_API int phGetDataFactorK(double dLatitud, int iHemisferio, double dAlpha, double (&adK)[12]);
+
+// ---------------------------------------------------------------------------------------------------
+// Row spacing. A row is `iNumPaneles` panels one above the other; lengths in the unit of
+// `dLongitudPanel`, angles in degrees. Nothing is guarded: what divides by zero is infinite or
+// not-a-number.
+//
+//   dDistanciaFilas  from the foot of a row to the foot of the next
+//   dDistanciaLibre  of it, what no panel covers
+//   dAlturaPanel     height that one panel adds
+//   dAlturaFila      height of the row
+// ---------------------------------------------------------------------------------------------------
+
+/// Rows that don't shade each other while the sun stands at `dAlturaSolar` or higher.
+EFV_API void phGetDistanciaMinimaGEN(int iNumPaneles, double dLongitudPanel, double dInclinacion,
+                                     double dAlturaSolar, double& dDistanciaFilas, double& dDistanciaLibre,
+                                     double& dAlturaPanel, double& dAlturaFila);
+/// Rows by the Spanish technical conditions for installations on the grid (shadow coefficient
+/// 1 / tan(61º − latitude)), on ground of slope `dPendiente`.
+EFV_API void phGetDistanciaMinimaPCT(int iNumPaneles, double dLongitudPanel, double dInclinacion,
+                                     double dPendiente, double dLatitud, double& dDistanciaFilas,
+                                     double& dDistanciaLibre, double& dAlturaPanel, double& dAlturaFila);

@@ -25,8 +25,8 @@ struct Magnitud {
     std::span<const Unidad> unidades;
 };
 
-/// All magnitudes: "Dimensiones" (mm), "Masa" (kg), "Temperatura" (ºC), "Radiación solar" (kJ/m²),
-/// "Grados" (º), "Longitud" (m), "Superficie" (m²).
+/// All magnitudes: "Dimensiones" (mm), "Masa" (kg), "Temperatura" (ºC), "Radiación solar" (kJ, of a
+/// square metre: texts add "/m²"), "Grados" (º), "Longitud" (m), "Superficie" (m²).
 EFV_API std::span<const Magnitud> Magnitudes();
 
 /// From now on the magnitude is shown in the unit of that symbol.

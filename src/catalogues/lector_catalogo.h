@@ -9,6 +9,7 @@
 
 #include "catalogues/campos.h"
 #include "catalogues/presupuesto_lectura.h"
+#include "platform/xml/atributos.h"
 #include "platform/xml/xml.h"
 
 namespace efv::catalogues {
@@ -59,28 +60,22 @@ private:
     void LeerModelo(xml::Nodo nodo)
     {
         Catalogo<M>::AntesDeModelo(m_retenido);
+        xml::Atributos atributos(nodo);
         for (const auto& campo : Catalogo<M>::Campos())
-            AlMiembro(m_retenido, campo, [&](auto& valor) { Leer(nodo, campo.atributo, valor); });
+            AlMiembro(m_retenido, campo, [&](auto& valor) { Leer(atributos, campo.atributo, valor); });
         Catalogo<M>::Sanear(m_retenido);
     }
 
-    static void Leer(xml::Nodo nodo, const char* atributo, CString& cs)
+    template <class T>
+    static void Leer(xml::Atributos& atributos, const char* nombre, T& valor)
     {
-        xml::xmlGetTextAttribute(nodo, atributo, cs);
-    }
-    static void Leer(xml::Nodo nodo, const char* atributo, int& i)
-    {
-        xml::xmlGetIntAttribute(nodo, atributo, i);
-    }
-    static void Leer(xml::Nodo nodo, const char* atributo, double& d)
-    {
-        xml::xmlGetFloatAttribute(nodo, atributo, d);
+        atributos.Leer(nombre, valor);
     }
     // Kept to the low 16 bits of the integer.
-    static void Leer(xml::Nodo nodo, const char* atributo, short& n)
+    static void Leer(xml::Atributos& atributos, const char* nombre, short& n)
     {
         int i = n;
-        xml::xmlGetIntAttribute(nodo, atributo, i);
+        atributos.Leer(nombre, i);
         n = static_cast<short>(i);
     }
 

@@ -10,7 +10,7 @@ namespace {
 constexpr int kMinutosDia = 1440;
 
 CCtrlCurva2D Grafica(std::wstring_view titulo, std::wstring_view tituloX, std::wstring_view tituloY,
-                     ui::EstiloSerie estilo)
+                     ui::FormaSerie forma)
 {
     CCtrlCurva2D grafica;
     grafica.csTitulo = titulo;
@@ -19,7 +19,7 @@ CCtrlCurva2D Grafica(std::wstring_view titulo, std::wstring_view tituloX, std::w
     ui::SerieCurva& serie = grafica.aSeries.emplace_back();
     serie.color = ui::kRojo;
     serie.iAncho = 2;
-    serie.estilo = estilo;
+    serie.forma = forma;
     return grafica;
 }
 
@@ -34,7 +34,7 @@ void Poner(ui::SerieCurva& serie, double dX, double dY)
 CCtrlCurva2D GraficaDiaDeHoras(DiaHorarioVista adDia)
 {
     CCtrlCurva2D grafica = Grafica(L"Desarrollo diario del consumo (precisión de horas) [Hora solar]", L"Hora",
-                                   L"Energía (Wh)", ui::EstiloSerie::escalon);
+                                   L"Energía (Wh)", ui::FormaSerie::escalon);
     for (std::size_t h = 0; h < adDia.size(); ++h)
         Poner(grafica.aSeries[0], static_cast<double>(h), adDia[h]);
     return grafica;
@@ -43,7 +43,7 @@ CCtrlCurva2D GraficaDiaDeHoras(DiaHorarioVista adDia)
 CCtrlCurva2D GraficaDiaDeReceptores(const CObArrayPropio<CSFVDataReceptor>& lReceptores, int iMes, int iDiaTipo)
 {
     CCtrlCurva2D grafica = Grafica(L"Desarrollo diario del consumo (precisión de minutos) [Hora solar]",
-                                   L"Hora", L"Potencia (W)", ui::EstiloSerie::linea);
+                                   L"Hora", L"Potencia (W)", ui::FormaSerie::linea);
     for (int m = 0; m < kMinutosDia; ++m) {
         double dPotencia = 0.0;
         for (const auto& receptor : lReceptores)

@@ -3,6 +3,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "assistants/asistente_aislada_registro.h"
 #include "assistants/asistente_red_registro.h"
 #include "consumption/registros.h"
 #include "platform/framework/registro_clases.h"
@@ -36,6 +37,7 @@ bool RegistrarClases()
         &CBaseReceptores::GetThisClass,
         &CBaseReceptorFamilia::GetThisClass,
         &CBaseReceptorModelo::GetThisClass,
+        &CSFVAsistenteAislada::GetThisClass,
         &CSFVAsistenteRed::GetThisClass,
         &CSFVDataReceptor::GetThisClass,
     });
@@ -62,6 +64,7 @@ bool CamposSiEs(CObject& registro, ListaCampos& campos)
 
 // Every exported record.
 constexpr auto kRegistros = std::to_array<bool (*)(CObject&, ListaCampos&)>({
+    &CamposSiEs<CSFVAsistenteAislada>,
     &CamposSiEs<CSFVAsistenteRed>,
     &CamposSiEs<CSFVDataReceptor>,
     &CamposSiEs<CItemConsumo>,

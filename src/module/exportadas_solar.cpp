@@ -2,6 +2,7 @@
 // have no scope.
 #include <algorithm>
 #include <optional>
+#include <tuple>
 
 #include <quorvel/solar.h>
 
@@ -9,6 +10,7 @@
 #include "module/singletons.h"
 #include "solar/calendario.h"
 #include "solar/energia.h"
+#include "solar/filas.h"
 #include "solar/posicion_sol.h"
 
 using efv::frame::AmbitoRecursos;
@@ -226,4 +228,28 @@ int phGetDataFactorK(double dLatitud, int iHemisferio, double dAlpha, double (&a
         return 0;
     std::ranges::copy(*k, adK);
     return 1;
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Row spacing
+// ---------------------------------------------------------------------------------------------------
+
+void phGetDistanciaMinimaGEN(int iNumPaneles, double dLongitudPanel, double dInclinacion, double dAlturaSolar,
+                             double& dDistanciaFilas, double& dDistanciaLibre, double& dAlturaPanel,
+                             double& dAlturaFila)
+{
+    const auto s =
+        efv::solar::SeparacionPorAlturaSolar(iNumPaneles, dLongitudPanel, dInclinacion, dAlturaSolar);
+    std::tie(dDistanciaFilas, dDistanciaLibre, dAlturaPanel, dAlturaFila) =
+        std::tie(s.dDistanciaFilas, s.dDistanciaLibre, s.dAlturaPanel, s.dAlturaFila);
+}
+
+void phGetDistanciaMinimaPCT(int iNumPaneles, double dLongitudPanel, double dInclinacion, double dPendiente,
+                             double dLatitud, double& dDistanciaFilas, double& dDistanciaLibre,
+                             double& dAlturaPanel, double& dAlturaFila)
+{
+    const auto s = efv::solar::SeparacionPorCondicionesTecnicas(iNumPaneles, dLongitudPanel, dInclinacion,
+                                                                dPendiente, dLatitud);
+    std::tie(dDistanciaFilas, dDistanciaLibre, dAlturaPanel, dAlturaFila) =
+        std::tie(s.dDistanciaFilas, s.dDistanciaLibre, s.dAlturaPanel, s.dAlturaFila);
 }

@@ -58,7 +58,8 @@ bool Acompana(const Vista& vista)
         return seleccion->forma == ui::Seleccion::Forma::combo;
     if (const auto* edicion = dynamic_cast<const ui::Edicion*>(&control))
         return !edicion->bVariasLineas;
-    return dynamic_cast<const ui::Casilla*>(&control) != nullptr;
+    return dynamic_cast<const ui::Casilla*>(&control) != nullptr ||
+           dynamic_cast<const ui::Deslizador*>(&control) != nullptr;
 }
 
 class Area {
@@ -245,8 +246,10 @@ private:
 
     static bool EsDeUnaLinea(const Elemento& elemento)
     {
+        const ui::Control& primero = elemento.vistas.front()->control;
         return elemento.grupo.empty() && !elemento.vistas.front()->QuiereSitio() &&
-               dynamic_cast<const ui::TextoFijo*>(&elemento.vistas.front()->control) == nullptr;
+               dynamic_cast<const ui::TextoFijo*>(&primero) == nullptr &&
+               dynamic_cast<const ui::Imagen*>(&primero) == nullptr;
     }
 
     void Colocar(QWidget* contenedor, QGridLayout& rejilla, const Elemento& elemento, const Celda& celda)

@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QSlider>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -539,7 +540,7 @@ private:
 };
 
 // ---------------------------------------------------------------------------------------------------
-// Charts, progress
+// Charts, progress, sliders, pictures
 // ---------------------------------------------------------------------------------------------------
 
 class VistaGrafica final : public Vista {
@@ -579,6 +580,69 @@ private:
     const ui::Progreso& m_progreso;
 };
 
+class VistaDeslizador final : public Vista {
+public:
+    VistaDeslizador(ui::Deslizador& deslizador, QWidget* padre, Accionador& accionador)
+        : Vista(deslizador, new QSlider(Qt::Horizontal, padre)), m_deslizador(deslizador)
+    {
+        Mando().setFocusPolicy(Qt::StrongFocus);
+        Mando().setMinimumWidth(Mando().fontMetrics().averageCharWidth() * 20);
+        new SinRueda(widget);
+        QObject::connect(&Mando(), &QSlider::valueChanged, &Mando(), [&](int iValor) {
+            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Mover(deslizador, iValor); });
+        });
+    }
+
+private:
+    QSlider& Mando() const { return static_cast<QSlider&>(*widget); }
+    bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
+
+    void RefrescarContenido() override
+    {
+        const QSignalBlocker silencio(Mando());
+        Mando().setRange(m_deslizador.iMinimo, m_deslizador.iMaximo);
+        Mando().setSingleStep(m_deslizador.iPaso);
+        Mando().setPageStep(m_deslizador.iPasoGrande);
+        Mando().setValue(m_deslizador.iValor);
+    }
+
+    const ui::Deslizador& m_deslizador;
+};
+
+class VistaImagen final : public Vista {
+public:
+    VistaImagen(ui::Imagen& imagen, QWidget* padre) : Vista(imagen, new QLabel(padre)), m_imagen(imagen)
+    {
+        Etiqueta().setTextFormat(Qt::PlainText);
+        Etiqueta().setAlignment(Qt::AlignCenter);
+    }
+
+    bool EsAncha() const override { return true; }
+    bool RotulaPorSiMisma() const override { return true; }
+
+private:
+    static constexpr int kLineas = 4;  // of text, as high as the picture
+    QLabel& Etiqueta() const { return static_cast<QLabel&>(*widget); }
+
+    void RefrescarContenido() override
+    {
+        if (m_csImagen == m_imagen.csImagen && m_paleta == widget->palette().cacheKey())
+            return;
+        m_csImagen = m_imagen.csImagen;
+        m_paleta = widget->palette().cacheKey();
+        const QIcon dibujo = IconoDe(m_csImagen, widget->palette());
+        const int iLado = kLineas * widget->fontMetrics().height();
+        if (dibujo.isNull())
+            Etiqueta().setText(SinMnemonico(m_imagen.csRotulo));
+        else
+            Etiqueta().setPixmap(dibujo.pixmap(QSize(iLado, iLado), widget->devicePixelRatioF()));
+    }
+
+    const ui::Imagen& m_imagen;
+    CString m_csImagen;
+    qint64 m_paleta = 0;
+};
+
 class Fabrica final : public ui::VisitanteControl {
 public:
     Fabrica(QWidget* padre, Accionador& accionador) : m_padre(padre), m_accionador(accionador) {}
@@ -590,6 +654,11 @@ public:
     void Ver(ui::Lista& c) override { vista = CrearVistaLista(c, m_padre, m_accionador); }
     void Ver(ui::Grafica& c) override { vista = std::make_unique<VistaGrafica>(c, m_padre); }
     void Ver(ui::Progreso& c) override { vista = std::make_unique<VistaProgreso>(c, m_padre); }
+    void Ver(ui::Deslizador& c) override
+    {
+        vista = std::make_unique<VistaDeslizador>(c, m_padre, m_accionador);
+    }
+    void Ver(ui::Imagen& c) override { vista = std::make_unique<VistaImagen>(c, m_padre); }
 
     void Ver(ui::Edicion& c) override
     {

@@ -67,20 +67,26 @@ public:
     }
     void AcabarSeries() override { m_pintor.restore(); }
 
-    void Polilinea(std::span<const ui::Punto> puntos, ui::Color color, int iAncho) override
+    void Polilinea(std::span<const ui::Punto> puntos, const ui::SerieCurva& serie) override
     {
-        const QColor tinta = ColorDeTexto(color, m_texto, m_fondo);
+        const QColor tinta = ColorDeTexto(serie.color, m_texto, m_fondo);
         if (puntos.size() == 1) {
             m_pintor.setPen(Qt::NoPen);
             m_pintor.setBrush(tinta);
-            m_pintor.drawEllipse(QPointF(puntos[0].dX, puntos[0].dY), iAncho + 1.0, iAncho + 1.0);
+            m_pintor.drawEllipse(QPointF(puntos[0].dX, puntos[0].dY), serie.iAncho + 1.0, serie.iAncho + 1.0);
             return;
         }
         QPolygonF linea;
         linea.reserve(static_cast<qsizetype>(puntos.size()));
         for (const ui::Punto& punto : puntos)
             linea << QPointF(punto.dX, punto.dY);
-        m_pintor.setPen(QPen(tinta, iAncho, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        QPen pluma(tinta, serie.iAncho, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+        if (const auto guiones = ui::Guiones(serie.iEstilo); !guiones.empty()) {
+            pluma.setDashPattern({guiones.begin(), guiones.end()});
+            // Round ends would close the gaps.
+            pluma.setCapStyle(Qt::FlatCap);
+        }
+        m_pintor.setPen(pluma);
         m_pintor.drawPolyline(linea);
     }
 

@@ -38,6 +38,14 @@ void Progreso::Visitar(VisitanteControl& v)
 {
     v.Ver(*this);
 }
+void Deslizador::Visitar(VisitanteControl& v)
+{
+    v.Ver(*this);
+}
+void Imagen::Visitar(VisitanteControl& v)
+{
+    v.Ver(*this);
+}
 
 Valor Edicion::ValorActual() const
 {

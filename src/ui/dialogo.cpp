@@ -1,5 +1,7 @@
 #include <quorvel/ui/dialogo.h>
 
+#include <algorithm>
+
 #include <quorvel/ui/presentador.h>
 
 #include "ui/intercambio.h"
@@ -73,6 +75,12 @@ void Dialogo::Marcar(Casilla& control, bool bMarcada)
 void Dialogo::Pulsar(Boton& control)
 {
     Avisar(control.alPulsar);
+}
+
+void Dialogo::Mover(Deslizador& control, int iValor)
+{
+    control.iValor = std::max(control.iMinimo, std::min(iValor, control.iMaximo));
+    Avisar(control.alMover);
 }
 
 std::optional<Rechazo> Dialogo::Aceptar()
@@ -162,6 +170,8 @@ void Dialogo::PonerSoloLectura()
             control->bSoloLectura = true;
         else if (const auto* combo = dynamic_cast<Seleccion*>(control.get());
                  combo != nullptr && combo->forma == Seleccion::Forma::combo)
+            control->bHabilitado = false;
+        else if (dynamic_cast<Deslizador*>(control.get()) != nullptr)
             control->bHabilitado = false;
     }
     bAceptarVisible = false;

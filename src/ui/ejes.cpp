@@ -94,6 +94,26 @@ CString RotuloValor(double d)
     return ConComa(Cifras(d, std::chars_format::general, 6));
 }
 
+std::span<const double> Guiones(int iEstilo)
+{
+    static constexpr std::array<double, 2> kRayas{6, 3};
+    static constexpr std::array<double, 2> kPuntos{1.5, 2.5};
+    static constexpr std::array<double, 4> kRayaPunto{6, 3, 1.5, 3};
+    static constexpr std::array<double, 6> kRayaDosPuntos{6, 3, 1.5, 3, 1.5, 3};
+    switch (iEstilo) {
+        case 2:
+            return kRayas;
+        case 3:
+            return kPuntos;
+        case 4:
+            return kRayaPunto;
+        case 5:
+            return kRayaDosPuntos;
+        default:
+            return {};
+    }
+}
+
 // ---------------------------------------------------------------------------------------------------
 // Room of each part
 // ---------------------------------------------------------------------------------------------------
@@ -159,14 +179,14 @@ bool EsVisible(const SerieCurva& serie)
 
 bool EsDeBarras(const SerieCurva& serie)
 {
-    return EsVisible(serie) && serie.estilo == EstiloSerie::barra;
+    return EsVisible(serie) && serie.forma == FormaSerie::barra;
 }
 
 // Where the last step ends: its value holds as long as the one before it did. Nothing for other series.
 std::optional<double> FinDeEscalones(const SerieCurva& serie)
 {
     const std::size_t n = Puntos(serie);
-    if (!EsVisible(serie) || serie.estilo != EstiloSerie::escalon || n < 2 || !EsFinito(serie, n - 1) ||
+    if (!EsVisible(serie) || serie.forma != FormaSerie::escalon || n < 2 || !EsFinito(serie, n - 1) ||
         !EsFinito(serie, n - 2))
         return std::nullopt;
     return serie.adX[n - 1] + (serie.adX[n - 1] - serie.adX[n - 2]);
@@ -277,7 +297,7 @@ public:
     {
         VaciarColumna();
         if (!m_puntos.empty())
-            m_lienzo.Polilinea(m_puntos, m_serie.color, m_serie.iAncho);
+            m_lienzo.Polilinea(m_puntos, m_serie);
         m_puntos.clear();
     }
 
@@ -371,7 +391,7 @@ void Trazado::DibujarLinea(Lienzo& lienzo, const SerieCurva& serie) const
             continue;
         }
         const Punto punto = APantalla(serie.adX[i], serie.adY[i]);
-        if (anterior && serie.estilo == EstiloSerie::escalon)
+        if (anterior && serie.forma == FormaSerie::escalon)
             pluma.Poner({punto.dX, anterior->dY});
         pluma.Poner(punto);
         anterior = punto;

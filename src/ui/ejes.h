@@ -21,12 +21,16 @@ struct Eje {
     std::vector<double> adMarcas;
 };
 
-/// The axis from `dMin` to `dMax` with about `iDivisiones` divisions. With `bAmpliar` it reaches to the
-/// marks around its ends.
+/// The axis from `dMin` to `dMax` with about `iDivisiones` divisions, 1 to 50. With `bAmpliar` it reaches to
+/// the marks around its ends; without, it ends where told and the marks lie inside. Ends in the wrong order
+/// are exchanged, what isn't a number counts as 0, and equal ends are put apart by at least 1.
 Eje CalcularEje(double dMin, double dMax, int iDivisiones, bool bAmpliar);
 
 /// A mark's label, with a decimal comma and as many decimals as the step needs.
 CString RotuloMarca(const Eje& eje, double d);
+
+/// Lengths of the dashes of a line style and of the gaps behind each, in line widths; empty for a solid line.
+std::span<const double> Guiones(int iEstilo);
 
 /// A value in six significant digits.
 CString RotuloValor(double d);
@@ -57,15 +61,17 @@ public:
     /// What comes between stays inside the frame.
     virtual void EmpezarSeries(const Recuadro& recuadro) = 0;
     virtual void AcabarSeries() = 0;
-    /// A single point is a dot.
-    virtual void Polilinea(std::span<const Punto> puntos, Color color, int iAncho) = 0;
+    /// The line through the points; a single one is a dot. Takes colour, width and line style from `serie`.
+    virtual void Polilinea(std::span<const Punto> puntos, const SerieCurva& serie) = 0;
     virtual void Barra(const Recuadro& recuadro, Color color) = 0;
 };
 
 /// A chart laid out: where its frame stands and how values turn into pixels.
 class Trazado {
 public:
-    /// Lays the chart out on `dAncho` by `dAlto` pixels with letters of `dCuerpo` pixels.
+    /// Lays the chart out on `dAncho` by `dAlto` pixels with letters of `dCuerpo` pixels. The axes hold all
+    /// finite points and 0, the last step's end and the whole of each bar. The horizontal one ends with them,
+    /// the vertical one at the next mark; once a series of width 0 fixes the scale, it ends with them too.
     Trazado(const CCtrlCurva2D& grafica, double dAncho, double dAlto, double dCuerpo, const Lienzo& medidor);
 
     void Dibujar(Lienzo& lienzo) const;

@@ -85,19 +85,28 @@ public:
 
     void AcabarSeries() override { documento += "</svg>\n"; }
 
-    void Polilinea(std::span<const Punto> puntos, Color color, int iAncho) override
+    void Polilinea(std::span<const Punto> puntos, const SerieCurva& serie) override
     {
         if (puntos.size() == 1) {
             documento += "<circle cx=\"" + Cifra(puntos[0].dX) + "\" cy=\"" + Cifra(puntos[0].dY) + "\" r=\"" +
-                         std::to_string(iAncho + 1) + "\" fill=\"" + ColorHex(color) + "\"/>\n";
+                         std::to_string(serie.iAncho + 1) + "\" fill=\"" + ColorHex(serie.color) + "\"/>\n";
             return;
         }
         documento += "<polyline points=\"";
         for (const Punto& punto : puntos)
             documento += Coordenadas(punto) + ' ';
         documento.back() = '"';
-        documento += " stroke=\"" + ColorHex(color) + "\" stroke-width=\"" + std::to_string(iAncho) +
-                     "\" stroke-linejoin=\"round\"/>\n";
+        documento += " stroke=\"" + ColorHex(serie.color) + "\" stroke-width=\"" +
+                     std::to_string(serie.iAncho) + "\" stroke-linejoin=\"round\"";
+        std::string_view separador = " stroke-dasharray=\"";
+        for (const double d : Guiones(serie.iEstilo)) {
+            documento += separador;
+            documento += Cifra(d * serie.iAncho);
+            separador = " ";
+        }
+        if (separador == " ")
+            documento += '"';
+        documento += "/>\n";
     }
 
     void Barra(const Recuadro& r, Color color) override

@@ -1,8 +1,11 @@
 #include <quorvel/ui/guion.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include <quorvel/ui/dialogo.h>
+
+#include "platform/numero/conversion.h"
 
 namespace efv::ui {
 
@@ -21,6 +24,8 @@ public:
     void Ver(Casilla&) override {}
     void Ver(Boton&) override {}
     void Ver(Progreso&) override {}
+    void Ver(Deslizador&) override {}
+    void Ver(Imagen&) override {}
     void Ver(Grafica& c) override { m_estado.propio = c.datos; }
 
     void Ver(Seleccion& c) override
@@ -108,12 +113,24 @@ C& Usable(const Dialogo& dialogo, const std::string& nombre)
     return *propio;
 }
 
-Edicion& Escribible(const Dialogo& dialogo, const std::string& nombre)
+template <class C>
+C& Escribible(const Dialogo& dialogo, const std::string& nombre)
 {
-    auto& edicion = Usable<Edicion>(dialogo, nombre);
-    if (edicion.bSoloLectura)
+    auto& control = Usable<C>(dialogo, nombre);
+    if (control.bSoloLectura)
         throw ErrorDePaso{"control \"" + nombre + "\": es de solo lectura"};
-    return edicion;
+    return control;
+}
+
+// Where a script drags to: a whole number between the ends.
+int PosicionEn(const Deslizador& deslizador, const CString& csTexto, const std::string& nombre)
+{
+    double d = 0.0;
+    if (!numero::nuConvertIntlStrToFlt(csTexto, d) || d != std::trunc(d) || d < deslizador.iMinimo ||
+        d > deslizador.iMaximo)
+        throw ErrorDePaso{"control \"" + nombre + "\": no llega a \"" + CadenaUtf8(csTexto) + "\", va de " +
+                          std::to_string(deslizador.iMinimo) + " a " + std::to_string(deslizador.iMaximo)};
+    return numero::Entero(d);
 }
 
 int IndiceValido(int i, int n, const std::string& nombre)
@@ -156,12 +173,18 @@ public:
 
     void operator()(const paso::Poner& p)
     {
-        auto& edicion = Escribible(m_dialogo, p.control);
+        if (Mover(p.control, p.csTexto))
+            return;
+        auto& edicion = Escribible<Edicion>(m_dialogo, p.control);
         m_dialogo.Teclear(edicion, p.csTexto);
         m_dialogo.Salir(edicion);
     }
 
-    void operator()(const paso::Teclear& p) { m_dialogo.Teclear(Escribible(m_dialogo, p.control), p.csTexto); }
+    void operator()(const paso::Teclear& p)
+    {
+        if (!Mover(p.control, p.csTexto))
+            m_dialogo.Teclear(Escribible<Edicion>(m_dialogo, p.control), p.csTexto);
+    }
 
     void operator()(const paso::Elegir& p)
     {
@@ -228,6 +251,16 @@ public:
 private:
     // Nested dialogs add transcripts: a reference wouldn't last.
     ui::Transcripcion& Transcripcion() { return m_presentador.transcripciones[m_iTranscripcion]; }
+
+    // A slider is set by a number's text, like a field; false when the control is none.
+    bool Mover(const std::string& nombre, const CString& csTexto)
+    {
+        if (dynamic_cast<const Deslizador*>(&Buscar(m_dialogo, nombre)) == nullptr)
+            return false;
+        auto& deslizador = Escribible<Deslizador>(m_dialogo, nombre);
+        m_dialogo.Mover(deslizador, PosicionEn(deslizador, csTexto, nombre));
+        return true;
+    }
 
     void Aceptar()
     {

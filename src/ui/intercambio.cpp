@@ -49,6 +49,8 @@ public:
     void Ver(Lista&) override {}
     void Ver(Grafica&) override {}
     void Ver(Progreso&) override {}
+    void Ver(Deslizador&) override {}
+    void Ver(Imagen&) override {}
 };
 
 class Recolector final : public VisitanteDeCampos {

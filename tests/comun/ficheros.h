@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,7 +19,9 @@ public:
     CarpetaTemporal()
     {
         std::string plantilla = (std::filesystem::temp_directory_path() / "efv-XXXXXX").string();
-        m_ruta = ::mkdtemp(plantilla.data());
+        if (::mkdtemp(plantilla.data()) == nullptr)
+            throw std::runtime_error(plantilla);
+        m_ruta = plantilla;
     }
     ~CarpetaTemporal()
     {
@@ -30,12 +33,18 @@ public:
 
     const std::filesystem::path& Ruta() const { return m_ruta; }
 
-    /// Writes a file into the folder; returns its path as the library takes it.
-    CString Escribir(const std::string& nombre, std::string_view bytes) const
+    /// Writes a file into the folder; returns its path as a command takes it.
+    std::string Crear(const std::string& nombre, std::string_view bytes) const
     {
         const std::filesystem::path ruta = m_ruta / nombre;
         std::ofstream(ruta, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-        return CadenaDesdeUtf8(ruta.string());
+        return ruta.string();
+    }
+
+    /// The same; the path as the library takes it.
+    CString Escribir(const std::string& nombre, std::string_view bytes) const
+    {
+        return CadenaDesdeUtf8(Crear(nombre, bytes));
     }
 
 private:

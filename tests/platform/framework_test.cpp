@@ -61,6 +61,7 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
                                                       "CBaseReceptores",
                                                       "CBaseReceptorFamilia",
                                                       "CBaseReceptorModelo",
+                                                      "CSFVAsistenteAislada",
                                                       "CSFVAsistenteRed",
                                                       "CSFVDataReceptor"}));
 }

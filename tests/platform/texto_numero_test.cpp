@@ -58,6 +58,9 @@ TEST(Numero, ElAtajoDaElMismoDoble)
         const double esperado = std::strtod(texto.c_str(), nullptr);
         ASSERT_EQ(numero::LeerDoble(texto), esperado) << texto;
         ASSERT_EQ(numero::LeerDoble("-" + texto + " kW"), -esperado) << texto;
+        ASSERT_EQ(numero::LeerDoble(texto.c_str()), esperado) << texto;
+        // Up to the end of what was handed over, though digits follow.
+        ASSERT_EQ(numero::LeerDoble(std::string_view(texto + "7").substr(0, texto.size())), esperado) << texto;
     }
     EXPECT_TRUE(std::signbit(numero::LeerDoble("-0")));
     EXPECT_EQ(numero::LeerDoble("12e2"), 1200);

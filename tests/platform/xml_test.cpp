@@ -1,8 +1,14 @@
+#include <algorithm>
+#include <map>
+#include <string>
+#include <vector>
+
 #include <sys/stat.h>
 
 #include <gtest/gtest.h>
 
 #include "comun/ficheros.h"
+#include "platform/xml/atributos.h"
 #include "platform/xml/xml.h"
 
 namespace {
@@ -66,6 +72,32 @@ TEST_F(Xml, LosAtributosAusentesDejanLaVariable)
     EXPECT_EQ(d, 0.0);
     xmlGetIntAttribute(a, "z", i);
     EXPECT_EQ(i, 9);
+}
+
+// Whoever asks in turns, backwards or for what isn't there is answered like who asks in file order.
+TEST_F(Xml, ElOrdenDeLasPreguntasNoCambiaLasRespuestas)
+{
+    ASSERT_EQ(Abrir("<R><A a='1' b='2' c='3'/><A c='30' a='10' d=''/></R>"), 1);
+    const Nodo primero = xmlGetFirstChildNode(nullptr);
+    const Nodo segundo = xmlGetNextSiblingNode(primero);
+    const std::map<std::string, int> uno{{"a", 1}, {"b", 2}, {"c", 3}, {"d", -1}};
+    const std::map<std::string, int> dos{{"a", 10}, {"b", -1}, {"c", 30}, {"d", 0}};
+    std::vector<std::string> orden{"a", "b", "c", "d"};
+    do {
+        Atributos delPrimero(primero);
+        Atributos delSegundo(segundo);
+        for (const std::string& nombre : orden) {
+            int i = -1, j = -1, k = -1, l = -1;
+            xmlGetIntAttribute(primero, nombre.c_str(), i);
+            xmlGetIntAttribute(segundo, nombre.c_str(), j);
+            delPrimero.Leer(nombre.c_str(), k);
+            delSegundo.Leer(nombre.c_str(), l);
+            EXPECT_EQ(i, uno.at(nombre)) << nombre;
+            EXPECT_EQ(j, dos.at(nombre)) << nombre;
+            EXPECT_EQ(k, i) << nombre;
+            EXPECT_EQ(l, j) << nombre;
+        }
+    } while (std::ranges::next_permutation(orden).found);
 }
 
 TEST_F(Xml, LeeLasCodificacionesQueSeDeclaran)

@@ -7,14 +7,13 @@
 
 #include <QuorvelEFV.h>
 
+#include "comun/ficheros.h"
 #include "muestra.h"
 
 namespace {
 
 using namespace efv;
 using namespace efv::pruebas;
-
-namespace fs = std::filesystem;
 
 void Escribir(QDialog& ventana, const char* campo, const QString& texto)
 {
@@ -47,11 +46,9 @@ void CorregirLaPotencia(QDialog& ficha)
 
 TEST(Catalogo, UnModeloSeCorrigeYSeGuarda)
 {
-    const fs::path carpeta = fs::temp_directory_path() / "efv-catalogo-qt";
-    fs::remove_all(carpeta);
-    fs::create_directories(carpeta);
-    fs::copy_file(EFV_CARPETA_DATOS "/ZqModFotoHE5.xml", carpeta / "ZqModFotoHE5.xml");
-    phSetPathHE5BD((CadenaDesdeUtf8(carpeta.string()) + L"/").c_str());
+    const CarpetaTemporal carpeta;
+    std::filesystem::copy_file(EFV_CARPETA_DATOS "/ZqModFotoHE5.xml", carpeta.Ruta() / "ZqModFotoHE5.xml");
+    phSetPathHE5BD((CadenaDesdeUtf8(carpeta.Ruta().string()) + L"/").c_str());
     qt::InstalarPresentadorQt();
     CuandoSeAbra([&](QDialog& visor) {
         Escribir(visor, "csBuscar", "cs3u-350");
@@ -74,7 +71,6 @@ TEST(Catalogo, UnModeloSeCorrigeYSeGuarda)
     ui::InstalarPresentador(nullptr);
     phGetBasePanelFoto().Vaciar();
     phSetPathHE5BD(L"");
-    fs::remove_all(carpeta);
 }
 
 }  // namespace

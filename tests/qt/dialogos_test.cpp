@@ -11,7 +11,9 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QSlider>
 #include <QTabWidget>
+#include <QWheelEvent>
 
 namespace {
 
@@ -127,6 +129,80 @@ TEST(Ventana, ElCursorNoSaltaMientrasSeTeclea)
     });
 }
 
+TEST(Ventana, UnDeslizadorSeMueveConTeclasYNoConLaRuedaDePaso)
+{
+    Muestra d;
+    d.boton.alPulsar = [&] { d.deslizador.iMaximo = 600; };
+    Mostrar(d, [&](QDialog& v) {
+        auto& mando = Hijo<QSlider>(v, "deslizador");
+        EXPECT_EQ(mando.value(), 480);
+        QWheelEvent rueda(QPointF(5, 5), mando.mapToGlobal(QPointF(5, 5)), {}, {0, 120}, {}, {}, {}, false);
+        QApplication::sendEvent(&mando, &rueda);
+        EXPECT_EQ(d.deslizador.iValor, 480);
+        QTest::keyClick(&mando, Qt::Key_Right);
+        EXPECT_EQ(d.deslizador.iValor, 485);
+        QTest::keyClick(&mando, Qt::Key_PageDown);
+        EXPECT_EQ(d.deslizador.iValor, 425);
+        EXPECT_EQ(Hijo<QLabel>(v, "hora").text(), "425");
+        QTest::keyClick(&mando, Qt::Key_End);
+        EXPECT_EQ(d.deslizador.iValor, 1440);
+
+        // A dialog that has the last word, and ends that come nearer.
+        d.deslizador.alMover = [&] { d.deslizador.iValor = std::min(d.deslizador.iValor, 700); };
+        QTest::keyClick(&mando, Qt::Key_PageDown);
+        EXPECT_EQ(mando.value(), 700);
+        Hijo<QPushButton>(v, "boton").click();
+        EXPECT_EQ(mando.value(), 600);
+        EXPECT_EQ(d.deslizador.iValor, 700);  // nobody moved it
+        d.PonerSoloLectura();
+        qt::RefrescarVentana(&v);
+        EXPECT_FALSE(mando.isEnabled());
+    });
+}
+
+TEST(Ventana, UnaImagenSeDibujaYSinElloSeDice)
+{
+    Muestra d;
+    d.boton.alPulsar = [&] { d.imagen.csImagen = L"no-existe"; };
+    Mostrar(d, [&](QDialog& v) {
+        const auto& imagen = Hijo<QLabel>(v, "imagen");
+        EXPECT_GE(imagen.pixmap(Qt::ReturnByValue).height(), 3 * imagen.fontMetrics().height());
+        EXPECT_TRUE(imagen.text().isEmpty());
+        Hijo<QPushButton>(v, "boton").click();
+        EXPECT_TRUE(imagen.pixmap(Qt::ReturnByValue).isNull());
+        EXPECT_EQ(imagen.text(), "Esquema");
+    });
+}
+
+// What says nothing by itself stands on the line of the field before it: a second field, a unit, a button.
+TEST(Ventana, LoQueNoTieneRotuloSigueEnSuLinea)
+{
+    class Rango : public ui::Dialogo {
+    public:
+        Rango() : Dialogo("Rango", L"Rango")
+        {
+            Anadir<ui::Edicion>("dMaximo", L"Rango de tensiones MPPT (V) [máx - mín]:");
+            Anadir<ui::Edicion>("dMinimo", L"");
+            Anadir<ui::TextoFijo>("unidad", L"").csTexto = L"V";
+            Anadir<ui::Boton>("elegir", L"...");
+            Anadir<ui::Edicion>("otro", L"Otro:");
+        }
+    } d;
+    Mostrar(d, [](QDialog& v) {
+        const auto centro = [&](const char* nombre) {
+            auto& w = Hijo<QWidget>(v, nombre);
+            return w.mapTo(&v, w.rect().center());
+        };
+        int iAnterior = centro("dMaximo").x();
+        for (const char* nombre : {"dMinimo", "unidad", "elegir"}) {
+            EXPECT_NEAR(centro(nombre).y(), centro("dMaximo").y(), 2) << nombre;
+            EXPECT_GT(centro(nombre).x(), iAnterior) << nombre;
+            iAnterior = centro(nombre).x();
+        }
+        EXPECT_GT(centro("otro").y(), centro("dMaximo").y() + 10);
+    });
+}
+
 TEST(Ventana, ElTabuladorSigueElOrdenDeDeclaracion)
 {
     Muestra d;
@@ -144,9 +220,9 @@ TEST(Ventana, ElTabuladorSigueElOrdenDeDeclaracion)
         }
         // The bar of the tabs is Qt's own widget.
         orden.replaceInStrings("qt_tabwidget_tabbar", "tab");
-        EXPECT_EQ(
-            orden.join(' ').toStdString(),
-            "csNombre dPotencia iTipo iActivo iConexion tab csTexto tabla boton curvas menu aceptar cancelar");
+        EXPECT_EQ(orden.join(' ').toStdString(),
+                  "csNombre dPotencia iTipo iActivo iConexion tab csTexto tabla boton curvas menu deslizador "
+                  "aceptar cancelar");
     });
 }
 

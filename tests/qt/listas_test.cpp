@@ -1,14 +1,18 @@
 // Lists and trees over rows that are asked for one by one, charts, the program's own screens.
 #include "muestra.h"
 
-#include <filesystem>
-
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFileDialog>
 #include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
 #include <QPushButton>
 #include <QTableView>
 #include <QTreeView>
 
 #include "capturas/capturar.h"
+#include "comun/ficheros.h"
 #include "datos.h"
 
 namespace {
@@ -128,17 +132,114 @@ TEST(Graficas, LaSerieSePintaEnSuColor)
     });
 }
 
+TEST(Graficas, UnaLineaDePuntosTieneHuecosYUnaContinuaNo)
+{
+    Muestra d;
+    d.paginas.iSeleccion = 1;
+    // Above the axis and below the frame's top, so that nothing else is red there.
+    d.grafica.datos.aSeries = {{{0, 2}, {2, 2}, ui::kRojo, 1}, {{0, 2}, {1, 1}, ui::kAzul, 3}};
+    d.grafica.datos.aSeries[1].iEstilo = 3;
+    Mostrar(d, [&](QDialog& v) {
+        const QImage imagen = Hijo<QWidget>(v, "grafica").grab().toImage();
+        // Most stretches of the colour in one row of pixels.
+        const auto trozos = [&](auto es) {
+            int nMayor = 0;
+            for (int y = 0; y < imagen.height(); ++y) {
+                int n = 0;
+                for (int x = 1; x < imagen.width(); ++x)
+                    n += es(imagen.pixelColor(x, y)) && !es(imagen.pixelColor(x - 1, y)) ? 1 : 0;
+                nMayor = std::max(nMayor, n);
+            }
+            return nMayor;
+        };
+        EXPECT_EQ(trozos([](const QColor& c) { return c.red() > c.blue() + 40; }), 1);
+        EXPECT_GT(trozos([](const QColor& c) { return c.blue() > c.red() + 120; }), 20);
+    });
+}
+
+// Opens the widget's own menu and takes its entry of that caption.
+void ElegirDelMenu(QWidget& widget, const QString& rotulo)
+{
+    bool bElegido = false;
+    QTimer::singleShot(0, &widget, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* entrada : menu->actions()) {
+            if (entrada->text() == rotulo) {
+                bElegido = true;
+                menu->setActiveAction(entrada);
+                QTest::keyClick(menu, Qt::Key_Return);
+            }
+        }
+        menu->close();
+    });
+    QContextMenuEvent pedido(QContextMenuEvent::Keyboard, QPoint(5, 5), widget.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&widget, &pedido);
+    EXPECT_TRUE(bElegido) << rotulo.toStdString();
+}
+
+TEST(Graficas, SuMenuGuardaYCopiaLaImagen)
+{
+    const CarpetaTemporal carpeta;
+    Muestra d;
+    d.paginas.iSeleccion = 1;
+    const auto esRojo = [](const QImage& imagen) {
+        for (int y = 0; y < imagen.height(); ++y)
+            for (int x = 0; x < imagen.width(); ++x)
+                if (imagen.pixelColor(x, y) == QColor(Qt::red))
+                    return true;
+        return false;
+    };
+    Mostrar(d, [&](QDialog& v) {
+        auto& grafica = Hijo<QWidget>(v, "grafica");
+        const auto guardar = [&](const std::string& nombre, int iTipo, QString* aviso = nullptr) {
+            CuandoSeAbra([&](QDialog& ventana) {
+                auto& selector = dynamic_cast<QFileDialog&>(ventana);
+                selector.selectNameFilter(selector.nameFilters().at(iTipo));
+                auto& linea = Hijo<QLineEdit>(selector, "fileNameEdit");
+                linea.setText(QString::fromStdString((carpeta.Ruta() / nombre).string()));
+                if (aviso != nullptr)
+                    ResponderCaja("Aceptar", aviso);
+                QTest::keyClick(&linea, Qt::Key_Return);
+            });
+            ElegirDelMenu(grafica, "Guardar imagen…");
+        };
+        // Without an extension that of the kind chosen counts.
+        for (const auto& [nombre, iTipo] : {std::pair("curva.png", 0), {"otra", 0}}) {
+            guardar(nombre, iTipo);
+            const auto ruta = (carpeta.Ruta() / nombre).replace_extension("png").string();
+            const QImage imagen(QString::fromStdString(ruta), "PNG");
+            EXPECT_EQ(imagen.size(), 2 * grafica.size()) << ruta;
+            EXPECT_TRUE(esRojo(imagen)) << ruta;
+        }
+        for (const auto& [nombre, iTipo] : {std::pair("curva.SVG", 1), {"tercera", 1}}) {
+            guardar(nombre, iTipo);
+            std::filesystem::path ruta = carpeta.Ruta() / nombre;
+            if (!ruta.has_extension())
+                ruta += ".svg";
+            std::stringstream documento;
+            documento << std::ifstream(ruta).rdbuf();
+            EXPECT_EQ(documento.str(), ui::EscribirSvg(d.grafica.datos, grafica.width(), grafica.height()))
+                << ruta;
+        }
+        ElegirDelMenu(grafica, "Copiar imagen");
+        EXPECT_TRUE(esRojo(QApplication::clipboard()->image()));
+
+        // What can't be written is said.
+        QString aviso;
+        guardar("no/existe.png", 0, &aviso);
+        EXPECT_TRUE(aviso.startsWith("No se puede escribir el archivo")) << aviso.toStdString();
+    });
+}
+
 // The screens that pictures are made of open, one and all, on the shipped data.
 TEST(Capturas, TodasLasPantallasRegistradasSeAbren)
 {
-    const std::filesystem::path carpeta = std::filesystem::temp_directory_path() / "efv-capturas-prueba";
-    std::filesystem::remove_all(carpeta);
-    std::filesystem::create_directories(carpeta);
+    const CarpetaTemporal carpeta;
     estudio::PonerDatos(EFV_CARPETA_DATOS);
     for (const estudio::Pantalla& pantalla : estudio::Pantallas(EFV_CARPETA_DATOS)) {
-        EXPECT_GE(estudio::Capturar({pantalla}, carpeta), 1) << pantalla.nombre;
+        EXPECT_GE(estudio::Capturar({pantalla}, carpeta.Ruta()), 1) << pantalla.nombre;
     }
-    std::filesystem::remove_all(carpeta);
 }
 
 }  // namespace

@@ -77,6 +77,12 @@ public:
         curvas.csImagen = L"curvas-t";
         curvas.csIndicacion = L"Curvas <I-V>";
         progreso.dFraccion = 0.4;
+        deslizador.iMaximo = 1440;
+        deslizador.iValor = 480;
+        deslizador.iPaso = 5;
+        deslizador.iPasoGrande = 60;
+        deslizador.alMover = [this] { hora.csTexto = std::to_wstring(deslizador.iValor); };
+        imagen.csImagen = L"grafica";
         Volcar();
     }
 
@@ -102,6 +108,9 @@ public:
     ui::Boton& curvas = Anadir<ui::Boton>("curvas", L"Curvas");
     ui::Seleccion& menu = Anadir<ui::Seleccion>("menu", L"Más", ui::Seleccion::Forma::menu);
     ui::Progreso& progreso = Anadir<ui::Progreso>("progreso", L"");
+    ui::Deslizador& deslizador = Anadir<ui::Deslizador>("deslizador", L"&Inicio:");
+    ui::TextoFijo& hora = Anadir<ui::TextoFijo>("hora", L"");
+    ui::Imagen& imagen = Anadir<ui::Imagen>("imagen", L"Esquema");
 };
 
 /// Once a modal window other than those open now shows, calls `accion` with it; what it leaves open is

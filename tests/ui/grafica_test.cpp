@@ -101,8 +101,8 @@ TEST(Svg, CadaEstiloSeDibujaYLoQueNoEsUnNumeroCorta)
 {
     CCtrlCurva2D g{L"Título <&> \"x\" \x01", L"V", L"A", 10, 8, {}};
     g.aSeries = {{{0, 1, kNan, 3, 4}, {1, 2, 3, 4, 5}, kRojo, 2},  // two pieces
-                 {{0, 1, 2}, {1, 2, 0}, kAzul, 1, EstiloSerie::escalon},
-                 {{1, 2, 3}, {-1, kInf, 2}, 0x00FF00, 1, EstiloSerie::barra},
+                 {{0, 1, 2}, {1, 2, 0}, kAzul, 1, FormaSerie::escalon},
+                 {{1, 2, 3}, {-1, kInf, 2}, 0x00FF00, 1, FormaSerie::barra},
                  {{0, 9}, {9, 9}, 0x123456, 0}};  // scale only
     const std::string svg = EscribirSvg(g);
     ComprobarSvg(svg);
@@ -116,6 +116,25 @@ TEST(Svg, CadaEstiloSeDibujaYLoQueNoEsUnNumeroCorta)
     std::smatch hallado;
     ASSERT_TRUE(std::regex_search(svg, hallado, puntos));
     EXPECT_EQ(Veces(hallado[1], ","), 6U);
+}
+
+TEST(Svg, ElTrazoDeUnaLineaCreceConSuAncho)
+{
+    CCtrlCurva2D g;
+    for (const auto& [forma, iAncho, iEstilo] : {std::tuple{FormaSerie::linea, 1, 1},
+                                                 {FormaSerie::linea, 3, 2},
+                                                 {FormaSerie::escalon, 2, 3},
+                                                 {FormaSerie::linea, 1, 4},
+                                                 {FormaSerie::linea, 1, 99}})
+        g.aSeries.push_back({{0, 1, 2}, {1, 2, 3}, kRojo, iAncho, forma, iEstilo});
+    const std::string svg = EscribirSvg(g);
+    ComprobarSvg(svg);
+    std::vector<std::string> trazos;
+    const std::regex linea(R"re(<polyline [^>]*stroke-linejoin="round"([^>]*)/>)re");
+    for (std::sregex_iterator i(svg.begin(), svg.end(), linea), fin; i != fin; ++i)
+        trazos.push_back((*i)[1]);
+    EXPECT_EQ(trazos, (std::vector<std::string>{"", " stroke-dasharray=\"18 9\"", " stroke-dasharray=\"3 5\"",
+                                                " stroke-dasharray=\"6 3 1.5 3\"", ""}));
 }
 
 TEST(Svg, LaEscalaDadaFijaLosEjesYElPuntoCae)
@@ -163,7 +182,7 @@ TEST(Trazado, ElPuntoCercanoEsElDeUnaSerieVisible)
         void Texto(Punto, std::wstring_view, double, Ancla, bool) override {}
         void EmpezarSeries(const Recuadro&) override {}
         void AcabarSeries() override {}
-        void Polilinea(std::span<const Punto>, Color, int) override {}
+        void Polilinea(std::span<const Punto>, const SerieCurva&) override {}
         void Barra(const Recuadro&, Color) override {}
     } papel;
     const CCtrlCurva2D g{L"", L"", L"", 10, 8, {{{5}, {5}, kNegro, 0}, {{0, 10, kNan}, {0, 10, 5}, kRojo, 1}}};

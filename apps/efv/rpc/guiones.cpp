@@ -215,6 +215,19 @@ private:
     std::string& m_salida;
 };
 
+std::string_view NombreDe(ui::FormaSerie forma)
+{
+    switch (forma) {
+        case ui::FormaSerie::linea:
+            return "line";
+        case ui::FormaSerie::escalon:
+            return "step";
+        case ui::FormaSerie::barra:
+            return "bar";
+    }
+    return {};
+}
+
 // What only controls of one kind have.
 class EscritorPropio {
 public:
@@ -254,8 +267,9 @@ public:
         std::string_view coma;
         for (const ui::SerieCurva& serie : g.aSeries) {
             m_salida += std::exchange(coma, ",");
-            m_salida += fmt::format("{{\"colour\":\"{}\",\"width\":{},\"style\":{}", ui::ColorHex(serie.color),
-                                    serie.iAncho, static_cast<int>(serie.estilo) + 1);
+            m_salida +=
+                fmt::format("{{\"colour\":\"{}\",\"width\":{},\"style\":{},\"kind\":\"{}\"",
+                            ui::ColorHex(serie.color), serie.iAncho, serie.iEstilo, NombreDe(serie.forma));
             EscribirMiembro(m_salida, "x", serie.adX);
             EscribirMiembro(m_salida, "y", serie.adY);
             m_salida += '}';

@@ -77,6 +77,14 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phGetBaseFactorK>("phGetBaseFactorK", ""),
     Funcion::De<&phGetDataFactorK>("phGetDataFactorK", "dLatitud, iHemisferio, dAlpha, adK"),
 
+    // Row spacing
+    Funcion::De<&phGetDistanciaMinimaGEN>("phGetDistanciaMinimaGEN",
+                                          "iNumPaneles, dLongitudPanel, dInclinacion, dAlturaSolar, "
+                                          "dDistanciaFilas, dDistanciaLibre, dAlturaPanel, dAlturaFila"),
+    Funcion::De<&phGetDistanciaMinimaPCT>("phGetDistanciaMinimaPCT",
+                                          "iNumPaneles, dLongitudPanel, dInclinacion, dPendiente, dLatitud, "
+                                          "dDistanciaFilas, dDistanciaLibre, dAlturaPanel, dAlturaFila"),
+
     // Module curves
     Funcion::De<&phCalcValoresTipicos>(
         "phCalcValoresTipicos",
@@ -183,6 +191,16 @@ constexpr auto kFunciones = std::to_array<Funcion>({
 
     // All catalogues
     Funcion::De<&phCargarBasesHE5>("phCargarBasesHE5", "lista"),
+
+    // Consumption
+    Funcion::De<&phShowPropertyConsumo>(
+        "phShowPropertyConsumo",
+        "csReferencia, lReceptores, iTipoEntrada, iPatron, dPotMaxima, adHoras, adMes, aiPeriodoHora, "
+        "bExcluir, iRotulacion, iAux, dHusoHorario"),
+    Funcion::De<&phShowPropertyReceptor>(
+        "phShowPropertyReceptor",
+        "csReferencia, csModelo, bModelo, dHorario, bExcluir, iReservado, iCantidad, bPedirCantidad, "
+        "iReservado1, iReservado2"),
 });
 
 }  // namespace

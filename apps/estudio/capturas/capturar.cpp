@@ -32,7 +32,7 @@ public:
         for (int i = 2; !m_escritos.insert(nombre).second; ++i)
             nombre = m_pantalla.nombre + '-' + dialogo.clase + '-' + std::to_string(i);
         ventana->show();
-        CapturarVentana(*ventana, m_carpeta / (nombre + ".png"));
+        CapturarPaginas(dialogo, *ventana, nombre);
         if (m_pantalla.recorrer)
             m_pantalla.recorrer(dialogo);
         if (!dialogo.Terminado())
@@ -54,6 +54,25 @@ public:
     void Refrescar(ui::Dialogo& /*dialogo*/) override {}
 
 private:
+    // One picture, or one of each page.
+    void CapturarPaginas(ui::Dialogo& dialogo, QDialog& ventana, const std::string& nombre)
+    {
+        ui::Seleccion* paginas = nullptr;
+        for (const auto& control : dialogo.Controles())
+            if (auto* seleccion = dynamic_cast<ui::Seleccion*>(control.get());
+                seleccion != nullptr && seleccion->forma == ui::Seleccion::Forma::pestanas)
+                paginas = seleccion;
+        if (paginas == nullptr)
+            return CapturarVentana(ventana, m_carpeta / (nombre + ".png"));
+        const int iAntes = paginas->iSeleccion;
+        for (int i = 0; i < static_cast<int>(paginas->acsEntradas.size()); ++i) {
+            dialogo.Elegir(*paginas, i);
+            qt::RefrescarVentana(&ventana);
+            CapturarVentana(ventana, m_carpeta / (nombre + "-p" + std::to_string(i + 1) + ".png"));
+        }
+        dialogo.Elegir(*paginas, iAntes);
+    }
+
     const Pantalla& m_pantalla;
     const std::filesystem::path& m_carpeta;
     ui::PresentadorNulo m_nadie;

@@ -31,7 +31,8 @@ void ElegirFila(ui::Dialogo& dialogo, std::string_view nombre, int iFila)
         dialogo.Elegir(*lista, iFila);
 }
 
-void RecorrerPaneles(ui::Dialogo& dialogo)
+// Opens what hangs on a model's dialog.
+void RecorrerFicha(ui::Dialogo& dialogo)
 {
     if (dialogo.clase == "CDlgVisorXML") {
         Pulsar(dialogo, "Editar");
@@ -39,6 +40,35 @@ void RecorrerPaneles(ui::Dialogo& dialogo)
     } else if (dialogo.clase == "CDlgItemDatosPanelFoto") {
         Pulsar(dialogo, "Curvas I-V y P-A a T constante");
         Pulsar(dialogo, "Curvas I-V y P-A a G constante");
+    } else if (dialogo.clase == "CDlgItemDatosAcumulador") {
+        ElegirFila(dialogo, "listaRegimenes", 0);
+        Pulsar(dialogo, "Modificar ...");
+    }
+}
+
+// Managing a catalogue: the first model and what hangs on it.
+Pantalla DeCatalogo(std::string nombre, int (*editar)(int))
+{
+    return {std::move(nombre),
+            {},
+            [editar] { editar(0); },
+            [](ui::Dialogo& dialogo) {
+                if (dialogo.clase == "CDlgVisorXML")
+                    ElegirFila(dialogo, "arbol", 1);
+                RecorrerFicha(dialogo);
+            }};
+}
+
+// An inverter of each use.
+void RecorrerUsos(ui::Dialogo& dialogo)
+{
+    if (dialogo.clase != "CDlgVisorXML")
+        return;
+    for (const wchar_t* csModelo : {L"SUN2000", L"AJ 500"}) {
+        if (auto* buscar = dynamic_cast<ui::Edicion*>(Buscar(dialogo, "csBuscar")))
+            dialogo.Teclear(*buscar, csModelo);
+        ElegirFila(dialogo, "arbol", 1);
+        Pulsar(dialogo, "Editar");
     }
 }
 
@@ -67,15 +97,14 @@ std::vector<Pantalla> Pantallas(const std::filesystem::path& datos)
              CString csId = PrimerModelo();
              phSeleccionPanelFoto(csId);
          },
-         RecorrerPaneles},
-        {"paneles-editar",
-         {},
-         [] { phEditarBasePanelesFotovoltaicos(0); },
-         [](ui::Dialogo& dialogo) {
-             if (dialogo.clase == "CDlgVisorXML")
-                 ElegirFila(dialogo, "arbol", 1);
-             RecorrerPaneles(dialogo);
-         }},
+         RecorrerFicha},
+        DeCatalogo("paneles", &phEditarBasePanelesFotovoltaicos),
+        DeCatalogo("acumuladores", &phEditarBaseAcumuladores),
+        DeCatalogo("inversores", &phEditarBaseInversores),
+        {"inversores-usos", {}, [] { phEditarBaseInversores(0); }, RecorrerUsos},
+        DeCatalogo("microinversores", &phEditarBaseMicroInversores),
+        DeCatalogo("convertidores", &phEditarBaseConvertidorCC),
+        DeCatalogo("receptores", &phEditarBaseReceptores),
     };
 }
 

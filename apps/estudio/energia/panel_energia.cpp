@@ -169,7 +169,7 @@ void PanelEnergia::Mostrar()
     datos.aSeries.assign(2, {});
     for (std::size_t i = 0; i < 2; ++i) {
         ui::SerieCurva& serie = datos.aSeries[i];
-        serie.estilo = ui::EstiloSerie::barra;
+        serie.forma = ui::FormaSerie::barra;
         serie.color = kColores[i];
         for (std::size_t m = 0; m < kMeses; ++m) {
             serie.adX.push_back(static_cast<double>(m + 1));

@@ -18,7 +18,7 @@ namespace efv::ui {
 
 /// Where a control stands, as a hint for whoever lays the dialog out.
 struct Lugar {
-    int iPagina = -1;         ///< page of the dialog's tabs; -1 outside them
+    int iPagina = -1;              ///< page of the dialog's tabs; -1 outside them
     std::wstring_view grupo = {};  ///< framed group of that caption; empty for none
     int iColumna = 0;
     bool bEstirar = false;  ///< takes the room that is left
@@ -214,6 +214,33 @@ public:
     void Visitar(VisitanteControl& visitante) override;
 };
 
+/// A whole number that is set by dragging.
+class EFV_API Deslizador final : public Control {
+public:
+    using Control::Control;
+    int iMinimo = 0, iMaximo = 100;  ///< both reached
+    int iValor = 0;
+    int iPaso = 1;                     ///< of an arrow key
+    int iPasoGrande = 10;              ///< of the keys of a page and of a click beside the knob
+    std::function<void()> alMover;     ///< after each movement by the person, at every place on the way
+    std::function<CString(int)> leer;  ///< how a value reads; none: as its number
+
+    CString Texto() const override { return leer ? leer(iValor) : std::to_wstring(iValor); }
+    Valor ValorActual() const override { return iValor; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+/// A picture that is only looked at; its caption is what is said of it to whoever can't see it.
+class EFV_API Imagen final : public Control {
+public:
+    using Control::Control;
+    CString csImagen;  ///< name of the picture
+
+    CString Texto() const override { return csImagen; }
+    Valor ValorActual() const override { return {}; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
 /// One operation for each kind of control: a new kind can't be forgotten by anybody.
 class EFV_API VisitanteControl {
 public:
@@ -226,6 +253,8 @@ public:
     virtual void Ver(Lista& control) = 0;
     virtual void Ver(Grafica& control) = 0;
     virtual void Ver(Progreso& control) = 0;
+    virtual void Ver(Deslizador& control) = 0;
+    virtual void Ver(Imagen& control) = 0;
 };
 
 }  // namespace efv::ui

@@ -59,6 +59,8 @@ public:
     void Abrir(Lista& control, int iFila, int iColumna);
     void Marcar(Casilla& control, bool bMarcada);
     void Pulsar(Boton& control);
+    /// Drags to `iValor`, or to the end before it.
+    void Mover(Deslizador& control, int iValor);
     /// The OK button: takes the fields over, checks them and ends the dialog. A refusal of the data
     /// exchange comes back; the dialog then stays open with the focus at fault.
     std::optional<Rechazo> Aceptar();
@@ -77,7 +79,7 @@ public:
     /// Variables to fields.
     void Volcar();
 
-    /// All fields to reading only, OK hidden, Cancel as "&Cerrar".
+    /// All fields to reading only, what isn't text disabled, OK hidden, Cancel as "&Cerrar".
     void PonerSoloLectura();
 
     void Terminar(int iResultado);

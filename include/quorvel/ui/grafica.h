@@ -20,13 +20,21 @@ inline constexpr Color kAzul = 0xFF0000;
 /// "#RRGGBB".
 EFV_API std::string ColorHex(Color color);
 
-enum class EstiloSerie { linea, escalon, barra };
+/// How a series turns its points into a picture.
+enum class FormaSerie {
+    linea,
+    escalon,  ///< each value holds until the next point; the last one as long as the one before it
+    barra     ///< one bar a point, from 0; the series of bars of a chart share the place of a point
+};
 
 struct SerieCurva {
     std::vector<double> adX, adY;  ///< of the same length
     Color color = kNegro;
     int iAncho = 1;  ///< 0: invisible, the series only fixes the scale
-    EstiloSerie estilo = EstiloSerie::linea;
+    FormaSerie forma = FormaSerie::linea;
+    /// Style of the line: 1 solid, 2 dashed, 3 dotted, 4 dashes and dots, 5 dashes and two dots; any other
+    /// number is drawn solid. Bars have none.
+    int iEstilo = 1;
 };
 
 }  // namespace efv::ui

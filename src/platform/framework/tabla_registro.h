@@ -39,7 +39,8 @@ constexpr BloqueRegistro<R> Bloque()
 }
 
 template <class R>
-using MiembroRegistro = std::variant<int R::*, double R::*, CString R::*, BloqueRegistro<R>>;
+using MiembroRegistro = std::variant<int R::*, double R::*, CString R::*, CArray<double, double&> R::*,
+                                     CStringArray R::*, BloqueRegistro<R>>;
 
 template <class R>
 struct CampoDeclarado {

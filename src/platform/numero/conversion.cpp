@@ -65,8 +65,9 @@ constexpr bool EsExponente(C c)
     return c == C('e') || c == C('E');
 }
 
-template <class C>
-Sencillo<C> LeerSencillo(const C* p, const C* fin, bool (*esMarca)(C))
+// Without `fin` the text ends at its zero, which is no part of a number.
+template <class C, class MARCA>
+Sencillo<C> LeerSencillo(const C* p, const C* fin, MARCA esMarca)
 {
     const bool negativo = p != fin && *p == C('-');
     p += negativo ? 1 : 0;
@@ -124,11 +125,26 @@ NumeroLeido LeerPrefijo(std::string_view texto)
 
 }  // namespace
 
+namespace {
+
+constexpr bool EsPunto(char c)
+{
+    return c == '.';
+}
+
+}  // namespace
+
 double LeerDoble(std::string_view texto)
 {
-    constexpr auto esPunto = [](char c) { return c == '.'; };
-    if (const auto sencillo = LeerSencillo<char>(texto.data(), texto.data() + texto.size(), esPunto);
+    if (const auto sencillo = LeerSencillo<char>(texto.data(), texto.data() + texto.size(), EsPunto);
         sencillo.fin)
+        return sencillo.d;
+    return LeerPrefijo(SinBlancosDelante(texto)).d;
+}
+
+double LeerDoble(const char* texto)
+{
+    if (const auto sencillo = LeerSencillo<char>(texto, nullptr, EsPunto); sencillo.fin)
         return sencillo.d;
     return LeerPrefijo(SinBlancosDelante(texto)).d;
 }

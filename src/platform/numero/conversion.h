@@ -12,6 +12,7 @@ namespace efv::numero {
 /// forms are no numbers.
 double LeerDoble(std::string_view texto);
 double LeerDoble(std::wstring_view texto);
+double LeerDoble(const char* texto);  ///< up to its zero
 
 /// The whole number at the start of `texto`; 0 when there is none. Saturates at the limits of int.
 int LeerEntero(std::string_view texto);

@@ -93,12 +93,16 @@ CString CadenaDesdeUtf8(std::string_view bytes)
 
 void texto::AsignarUtf8(CString& destino, std::string_view bytes)
 {
-    if (std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; })) {
-        destino.assign(bytes.begin(), bytes.end());
-        return;
+    destino.resize(bytes.size());
+    unsigned todos = 0;
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        const auto byte = static_cast<unsigned char>(bytes[i]);
+        todos |= byte;
+        destino[i] = static_cast<wchar_t>(byte);
     }
+    if (todos < 0x80)
+        return;
     destino.clear();
-    destino.reserve(bytes.size());
     while (!bytes.empty()) {
         const Leido leido = LeerUtf8(bytes);
         destino += static_cast<wchar_t>(leido.caracter);

@@ -16,7 +16,7 @@ constexpr auto kDimensiones = std::to_array<Unidad>({{L"mm"}, {L"cm", 0.1}, {L"m
 constexpr auto kMasa = std::to_array<Unidad>({{L"kg"}, {L"g", 1000}, {L"t", 0.001}, {L"lb", 1 / 0.45359237}});
 constexpr auto kTemperatura = std::to_array<Unidad>({{L"ºC"}, {L"ºF", 1.8, 32}, {L"K", 1, 273.15}});
 constexpr auto kRadiacion =
-    std::to_array<Unidad>({{L"kJ/m²"}, {L"MJ/m²", 0.001}, {L"kWh/m²", 1 / 3600.0}, {L"Wh/m²", 1 / 3.6}});
+    std::to_array<Unidad>({{L"kJ"}, {L"MJ", 0.001}, {L"kWh", 1 / 3600.0}, {L"Wh", 1 / 3.6}});
 constexpr auto kGrados = std::to_array<Unidad>({{L"º"}, {L"rad", std::numbers::pi / 180}});
 constexpr auto kLongitud = std::to_array<Unidad>({{L"m"}, {L"cm", 100}, {L"km", 0.001}, {L"ft", 1 / 0.3048}});
 constexpr auto kSuperficie =

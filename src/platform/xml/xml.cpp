@@ -8,8 +8,7 @@
 
 #include <pugixml.hpp>
 
-#include "platform/numero/conversion.h"
-#include "platform/texto/texto.h"
+#include "platform/xml/atributos.h"
 #include "platform/xml/codificacion.h"
 
 namespace efv::xml {
@@ -20,10 +19,9 @@ struct Documento {
     std::string bytes;  // the parser works in place: names and values point into it
     pugi::xml_document arbol;
     pugi::xml_node raiz;
-    // Attributes are mostly asked for in file order: the search goes on behind the last one found.
-    Nodo manejadorPista = nullptr;
-    pugi::xml_node nodoPista;
-    pugi::xml_attribute pista;
+    // Attributes of one element are mostly asked for one after the other.
+    Nodo preguntado = nullptr;
+    Atributos atributos{nullptr};
 };
 
 Documento gActual;
@@ -85,9 +83,8 @@ int xmlOpenDocument(const CString& csRuta, int /*iReservado*/)
 void xmlCloseDocument()
 {
     Documento& documento = Actual();
-    documento.manejadorPista = nullptr;
-    documento.nodoPista = pugi::xml_node();
-    documento.pista = pugi::xml_attribute();
+    documento.preguntado = nullptr;
+    documento.atributos = Atributos(nullptr);
     documento.raiz = pugi::xml_node();
     documento.arbol.reset();
     documento.bytes = {};
@@ -118,39 +115,41 @@ bool SeLlama(Nodo nodo, const char* nombre)
     return std::strcmp(Interno(nodo).name(), nombre) == 0;
 }
 
+Atributos::Atributos(Nodo nodo) : m_nodo(Interno(nodo)), m_siguiente(m_nodo.first_attribute()) {}
+
+const char* Atributos::Buscar(const char* nombre)
+{
+    const pugi::xml_attribute atributo = m_nodo.attribute(nombre, m_siguiente);
+    return atributo ? atributo.value() : nullptr;
+}
+
 namespace {
 
-// Text of the attribute; null when it is absent.
-const char* Valor(Nodo nodo, const char* nombre)
+Atributos& AtributosDe(Nodo nodo)
 {
     Documento& documento = Actual();
-    if (documento.manejadorPista != nodo) {
-        documento.manejadorPista = nodo;
-        documento.nodoPista = Interno(nodo);
-        documento.pista = pugi::xml_attribute();
+    if (documento.preguntado != nodo) {
+        documento.preguntado = nodo;
+        documento.atributos = Atributos(nodo);
     }
-    const pugi::xml_attribute atributo = documento.nodoPista.attribute(nombre, documento.pista);
-    return atributo ? atributo.value() : nullptr;
+    return documento.atributos;
 }
 
 }  // namespace
 
 void xmlGetTextAttribute(Nodo nodo, const char* nombre, CString& csValor)
 {
-    if (const char* valor = Valor(nodo, nombre))
-        texto::AsignarUtf8(csValor, valor);
+    AtributosDe(nodo).Leer(nombre, csValor);
 }
 
 void xmlGetIntAttribute(Nodo nodo, const char* nombre, int& iValor)
 {
-    if (const char* valor = Valor(nodo, nombre))
-        iValor = numero::LeerEntero(valor);
+    AtributosDe(nodo).Leer(nombre, iValor);
 }
 
 void xmlGetFloatAttribute(Nodo nodo, const char* nombre, double& dValor)
 {
-    if (const char* valor = Valor(nodo, nombre))
-        dValor = numero::LeerDoble(std::string_view(valor));
+    AtributosDe(nodo).Leer(nombre, dValor);
 }
 
 }  // namespace efv::xml

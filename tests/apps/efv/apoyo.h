@@ -1,22 +1,21 @@
 // What the tests of the command share: requests, a folder of their own, a small factor table.
 #pragma once
 
-#include <filesystem>
-#include <fstream>
 #include <sstream>
 #include <string>
 #include <vector>
 
 #include <gtest/gtest.h>
-#include <unistd.h>
 #include <nlohmann/json.hpp>
 
+#include "comun/ficheros.h"
 #include "orden.h"
 #include "rpc/servidor.h"
 
 namespace efv::orden::pruebas {
 
 using Json = nlohmann::json;
+using efv::pruebas::CarpetaTemporal;
 
 /// What one run of the command gave.
 struct Corrida {
@@ -32,31 +31,6 @@ inline Corrida Correr(const std::vector<std::string>& argumentos)
     const int iEstado = Ejecutar(argumentos, {salida, errores});
     return {iEstado, salida.str(), errores.str()};
 }
-
-/// A folder that lives as long as the test.
-class CarpetaTemporal {
-public:
-    CarpetaTemporal()
-    {
-        std::string plantilla = (std::filesystem::temp_directory_path() / "efv_orden_XXXXXX").string();
-        if (::mkdtemp(plantilla.data()) == nullptr)
-            throw std::runtime_error("mkdtemp");
-        m_ruta = plantilla;
-    }
-    ~CarpetaTemporal() { std::filesystem::remove_all(m_ruta); }
-    CarpetaTemporal(const CarpetaTemporal&) = delete;
-    CarpetaTemporal& operator=(const CarpetaTemporal&) = delete;
-
-    std::string Ruta() const { return m_ruta.string(); }
-    std::string Escribir(const std::string& nombre, const std::string& contenido) const
-    {
-        std::ofstream(m_ruta / nombre, std::ios::binary) << contenido;
-        return (m_ruta / nombre).string();
-    }
-
-private:
-    std::filesystem::path m_ruta;
-};
 
 /// One latitude with the same factor in all months and inclinations, but for those left out.
 inline std::string LatitudK(int iLatitud, const std::string& factor, int iSinAlpha = -1)

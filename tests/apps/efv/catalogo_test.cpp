@@ -41,7 +41,7 @@ std::string Pan(const std::string& fabricante, const std::string& modelo, const 
 
 class CatalogoModulos : public ::testing::Test {
 protected:
-    void SetUp() override { m_catalogo = m_carpeta.Escribir("c.xml", Catalogo()); }
+    void SetUp() override { m_catalogo = m_carpeta.Crear("c.xml", Catalogo()); }
 
     std::string Contenido() const
     {
@@ -120,7 +120,7 @@ TEST_F(CatalogoModulos, ValidarTerminaConUnoSiHayHallazgos)
 {
     EXPECT_EQ(Orden({"catalogo", "validar"}).salida, "4 modelos, sin hallazgos\n");
     EXPECT_EQ(Orden({"catalogo", "validar"}).iEstado, 0);
-    m_carpeta.Escribir("c.xml", Catalogo(Modelo("Mala", "0")));
+    m_carpeta.Crear("c.xml", Catalogo(Modelo("Mala", "0")));
     const Corrida corrida = Orden({"catalogo", "validar"});
     EXPECT_EQ(corrida.iEstado, 1);
     EXPECT_TRUE(corrida.salida.starts_with("Otra#Mala: ")) << corrida.salida;
@@ -132,8 +132,7 @@ TEST_F(CatalogoModulos, ValidarTerminaConUnoSiHayHallazgos)
 
 TEST_F(CatalogoModulos, UnPanSeAnadeALaFamiliaDeSuFabricante)
 {
-    const Corrida corrida =
-        Orden({"catalogo", "importar-pan", m_carpeta.Escribir("a.pan", Pan("Otra", "Nueva"))});
+    const Corrida corrida = Orden({"catalogo", "importar-pan", m_carpeta.Crear("a.pan", Pan("Otra", "Nueva"))});
     EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
     EXPECT_NE(corrida.salida.find("Otra#Nueva\n  aviso: falta VMaxUL"), std::string::npos) << corrida.salida;
     const Json ficha = OrdenJson({"catalogo", "ver", "Otra#Nueva"});
@@ -146,15 +145,15 @@ TEST_F(CatalogoModulos, UnPanSeAnadeALaFamiliaDeSuFabricante)
 
 TEST_F(CatalogoModulos, VariosPanSeAnadenTodosONinguno)
 {
-    const std::string a = m_carpeta.Escribir("a.pan", Pan("Una", "A"));
-    const std::string b = m_carpeta.Escribir("b.pan", Pan("Dos", "B"));
-    const std::string mala = m_carpeta.Escribir("mala.pan", Pan("Una", "Mala", "0"));
+    const std::string a = m_carpeta.Crear("a.pan", Pan("Una", "A"));
+    const std::string b = m_carpeta.Crear("b.pan", Pan("Dos", "B"));
+    const std::string mala = m_carpeta.Crear("mala.pan", Pan("Una", "Mala", "0"));
     EsperarFallo({"catalogo", "importar-pan", a, b}, 1, "--familia");
     EsperarFallo({"catalogo", "importar-pan", a, a}, 1, "ya tiene el modelo A");
-    EsperarFallo({"catalogo", "importar-pan", a, m_carpeta.Ruta() + "/no.pan"}, 1, "no.pan");
-    EsperarFallo({"catalogo", "importar-pan", a, m_carpeta.Escribir("no_es.pan", "texto\n")}, 1, "no_es.pan");
+    EsperarFallo({"catalogo", "importar-pan", a, m_carpeta.Ruta().string() + "/no.pan"}, 1, "no.pan");
+    EsperarFallo({"catalogo", "importar-pan", a, m_carpeta.Crear("no_es.pan", "texto\n")}, 1, "no_es.pan");
     EsperarFallo({"catalogo", "importar-pan", a, "--familia", "x#y"}, 1, "#");
-    EsperarFallo({"catalogo", "importar-pan", m_carpeta.Escribir("sin.pan", Pan("", "A"))}, 1, "--familia");
+    EsperarFallo({"catalogo", "importar-pan", m_carpeta.Crear("sin.pan", Pan("", "A"))}, 1, "--familia");
 
     const std::string antes = Contenido();
     const Corrida corrida = Orden({"catalogo", "importar-pan", a, mala});
@@ -204,7 +203,7 @@ TEST_F(CatalogoModulos, CadaCurvaLlevaSuCondicion)
 
 TEST_F(CatalogoModulos, LasGraficasSeEscribenEnteras)
 {
-    const std::string base = m_carpeta.Ruta() + "/nueva/graficas";
+    const std::string base = m_carpeta.Ruta().string() + "/nueva/graficas";
     const auto nombres = [&] {
         std::set<std::string> hallados;
         for (const auto& entrada : fs::directory_iterator(base))
@@ -260,12 +259,12 @@ TEST_F(CatalogoModulos, UnaLlamadaMalHechaDiceQueYTerminaConDos)
 TEST_F(CatalogoModulos, UnCatalogoQueNoSirveTerminaConUno)
 {
     for (const char* orden : {"listar", "validar"}) {
-        m_carpeta.Escribir("c.xml", "<roto");
+        m_carpeta.Crear("c.xml", "<roto");
         EsperarFallo({"catalogo", orden}, 1, "XML");
-        m_carpeta.Escribir("c.xml", "<otro/>");
+        m_carpeta.Crear("c.xml", "<otro/>");
         EsperarFallo({"catalogo", orden}, 1, "ningún modelo");
     }
-    EXPECT_EQ(Correr({"catalogo", "listar", "--fichero", m_carpeta.Ruta() + "/no.xml"}).iEstado, 1);
+    EXPECT_EQ(Correr({"catalogo", "listar", "--fichero", m_carpeta.Ruta().string() + "/no.xml"}).iEstado, 1);
     // The shipped one has no findings.
     const Corrida corrida = Correr({"catalogo", "validar"});
     EXPECT_EQ(corrida.iEstado, 0) << corrida.salida << corrida.errores;

@@ -40,8 +40,8 @@ protected:
     {
         Entorno("EFV_DATOS", m_datos.Ruta().c_str());
         Entorno("EFV_AHORA", "2028-02-01T12:00:00");
-        m_datos.Escribir("ZqFactorKHE5.xml",
-                         TablaK(LatitudK(40, "1.2") + LatitudK(41, "1.4") + LatitudK(-40, "0.8")));
+        m_datos.Crear("ZqFactorKHE5.xml",
+                      TablaK(LatitudK(40, "1.2") + LatitudK(41, "1.4") + LatitudK(-40, "0.8")));
     }
     void TearDown() override
     {
@@ -167,9 +167,9 @@ TEST_F(Energia, UnaLlamadaMalHechaDiceQueYTerminaConDos)
 TEST_F(Energia, LoQueFaltaEnLosDatosTerminaConUno)
 {
     EsperarFallo({"energia", "--lugar", "Madrid"}, 1, "localidades.xml");
-    m_datos.Escribir("ZqFactorKHE5.xml", TablaK(LatitudK(40, "1.2", 35) + LatitudK(41, "1.4", 40)));
+    m_datos.Crear("ZqFactorKHE5.xml", TablaK(LatitudK(40, "1.2", 35) + LatitudK(41, "1.4", 40)));
     EsperarFallo(Mas({"energia"}, kCampo), 1, "falta datos para Alpha: 35.00º");
-    m_datos.Escribir("ZqFactorKHE5.xml", "<roto");
+    m_datos.Crear("ZqFactorKHE5.xml", "<roto");
     EsperarFallo(Mas({"energia"}, kCampo), 1, "ZqFactorKHE5.xml");
     // The correlation needs no table.
     EXPECT_EQ(Correr(Mas({"energia", "--metodo", "correlacion"}, kCampo)).iEstado, 0);

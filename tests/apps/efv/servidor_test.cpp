@@ -201,7 +201,7 @@ TEST(Mensajes, SonLosDeEstaPeticionConSuRespuesta)
     Anfitrion anfitrion;
     const CarpetaTemporal carpeta;
     const std::string conHueco =
-        carpeta.Escribir("hueco.xml", TablaK(LatitudK(39, "1.1") + LatitudK(40, "1.2", 35)));
+        carpeta.Crear("hueco.xml", TablaK(LatitudK(39, "1.1") + LatitudK(40, "1.2", 35)));
     Json r = anfitrion.Resultado("phCargarBaseFactorK", {conHueco}, {{"answers", {"yes"}}});
     EXPECT_EQ(r["return"], 0);
     EXPECT_EQ(r["messages"], Json::array({{{"title", "QuorvelEFv"},
@@ -322,6 +322,25 @@ TEST(Archivo, UnRegistroVaABytesYVuelve)
     EXPECT_EQ(porDefecto["dPotenciaObjetivo"], 5.0);
     EXPECT_EQ(porDefecto["dPanelesPorFila"], 25.0);
     EXPECT_EQ(porDefecto["iInversores"], 1);
+}
+
+TEST(Archivo, LasListasDeUnRegistroVanYVuelven)
+{
+    Anfitrion anfitrion;
+    const auto archivar = [&](const char* que, const Json& valor) {
+        return anfitrion.Resultado("rpc.archive", {{"record", "CSFVAsistenteAislada"}, {que, valor}});
+    };
+    Json registro = archivar("bytes", archivar("value", Json::object()));
+    EXPECT_EQ(registro["acsModelo"], Json::array());
+    registro["adCantidad"] = {2.0, 1.5};
+    registro["acsModelo"] = {"A#ñ", ""};
+    registro["adHorario"] = {480.0};
+    EXPECT_EQ(archivar("bytes", archivar("value", registro)), registro);
+    EXPECT_EQ(
+        anfitrion
+            .Error("rpc.archive", {{"record", "CSFVAsistenteAislada"}, {"value", {{"adCantidad", {1, "x"}}}}})
+            .first,
+        -32602);
 }
 
 TEST(Archivo, LoQueNoEsUnRegistroSeRechaza)

@@ -1,0 +1,57 @@
+// The attributes of one element, for readers of thousands of elements: the getters of xml.h without a call
+// for each.
+#pragma once
+
+#include <cstring>
+
+#include <pugixml.hpp>
+
+#include <quorvel/framework/CString.h>
+
+#include "platform/numero/conversion.h"
+#include "platform/texto/texto.h"
+#include "platform/xml/xml.h"
+
+namespace efv::xml {
+
+/// Fastest when the attributes are asked for in file order. Lives no longer than the document.
+class Atributos {
+public:
+    explicit Atributos(Nodo nodo);
+
+    /// Text of the attribute of that name, which isn't empty; null when it is absent.
+    const char* Valor(const char* nombre)
+    {
+        // Behind the last one this is the empty name, which no attribute has.
+        if (std::strcmp(m_siguiente.name(), nombre) != 0)
+            return Buscar(nombre);
+        const char* valor = m_siguiente.value();
+        m_siguiente = m_siguiente.next_attribute();
+        return valor;
+    }
+
+    // As the getters of xml.h: an absent attribute leaves the variable alone.
+    void Leer(const char* nombre, CString& csValor)
+    {
+        if (const char* valor = Valor(nombre))
+            texto::AsignarUtf8(csValor, valor);
+    }
+    void Leer(const char* nombre, int& iValor)
+    {
+        if (const char* valor = Valor(nombre))
+            iValor = numero::LeerEntero(valor);
+    }
+    void Leer(const char* nombre, double& dValor)
+    {
+        if (const char* valor = Valor(nombre))
+            dValor = numero::LeerDoble(valor);
+    }
+
+private:
+    const char* Buscar(const char* nombre);
+
+    pugi::xml_node m_nodo;
+    pugi::xml_attribute m_siguiente;  // behind the last one found, where the search goes on
+};
+
+}  // namespace efv::xml
