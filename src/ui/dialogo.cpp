@@ -85,6 +85,8 @@ void Dialogo::Mover(Deslizador& control, int iValor)
 
 std::optional<Rechazo> Dialogo::Aceptar()
 {
+    if (!AntesDeAceptar())
+        return std::nullopt;
     const int nPaginas = m_paginas != nullptr ? static_cast<int>(m_paginas->acsEntradas.size()) : 0;
     for (int iPagina = -1; iPagina < nPaginas; ++iPagina) {
         if (auto rechazo = RecogerPagina(iPagina)) {

@@ -59,6 +59,10 @@ struct EnTexto {
     {
         return Unir(ad, [](double d) { return Numero(d); });
     }
+    std::string operator()(std::span<double> ad) const
+    {
+        return Unir(ad, [](double d) { return Numero(d); });
+    }
     std::string operator()(const CStringArray* acs) const
     {
         return Unir(*acs, [](const CString& cs) { return efv::CadenaUtf8(cs); });

@@ -1,0 +1,9 @@
+#include "solar/coordenadas_dialogo.h"
+
+CDlgImgCoordenadas::CDlgImgCoordenadas() : Dialogo("CDlgImgCoordenadas", L"Orientación")
+{
+    bAceptarVisible = false;
+    csCancelar = L"&Cerrar";
+    for (const auto* texto : {L"Sur: 0º", L"Este: -90º", L"Oeste: 90º", L"Norte: ±180º"})
+        Anadir<efv::ui::TextoFijo>("", L"").csTexto = texto;
+}
