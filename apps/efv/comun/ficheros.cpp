@@ -1,4 +1,4 @@
-#include "curvas/ficheros.h"
+#include "comun/ficheros.h"
 
 #include <fstream>
 #include <utility>
