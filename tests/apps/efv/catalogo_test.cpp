@@ -273,10 +273,16 @@ TEST_F(OrdenCatalogo, UnCatalogoQueNoSirveTerminaConUno)
 
 TEST(AyudaCatalogo, EstaTodaEnEspanol)
 {
-    const std::vector<Textos> ordenes = {
-        {"catalogo"},        {"catalogo", "listar"},  {"catalogo", "buscar"},
-        {"catalogo", "ver"}, {"catalogo", "validar"}, {"catalogo", "importar-pan"},
-        {"curvas"}};
+    const std::vector<Textos> ordenes = {{"catalogo"},
+                                         {"catalogo", "listar"},
+                                         {"catalogo", "buscar"},
+                                         {"catalogo", "ver"},
+                                         {"catalogo", "validar"},
+                                         {"catalogo", "importar-pan"},
+                                         {"catalogo", "importar-ond"},
+                                         {"catalogo", "importar-cec"},
+                                         {"catalogo", "exportar"},
+                                         {"curvas"}};
     for (Textos argumentos : ordenes) {
         argumentos.emplace_back("--help");
         const Corrida corrida = Correr(argumentos);
