@@ -50,9 +50,10 @@ void OpcionesCatalogo::Declarar(CLI::App& linea, const std::string& ayudaFichero
     linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
 }
 
-void OpcionesCatalogo::DeclararTipo(CLI::App& linea, std::span<const std::string_view> tipos)
+void OpcionesCatalogo::DeclararTipo(CLI::App& linea, std::span<const std::string_view> tipos, const char* ayuda)
 {
-    linea.add_option("--tipo", m_tipo, fmt::format("{}; si falta, {}", Enumerar(tipos), tipos.front()))
+    linea
+        .add_option("--tipo", m_tipo, fmt::format("{}{}; si falta, {}", ayuda, Enumerar(tipos), tipos.front()))
         ->type_name("TIPO");
 }
 

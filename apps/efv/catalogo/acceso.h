@@ -20,7 +20,8 @@ class OpcionesCatalogo {
 public:
     void Declarar(CLI::App& linea, const std::string& ayudaFichero);
     /// @param tipos names of the kinds that the command knows, the default first
-    void DeclararTipo(CLI::App& linea, std::span<const std::string_view> tipos);
+    /// @param ayuda stands before them in the help
+    void DeclararTipo(CLI::App& linea, std::span<const std::string_view> tipos, const char* ayuda);
 
     bool ConTipo() const { return m_tipo.has_value(); }
     /// The kind given, else the first of `tipos`. @throws ErrorUso when it is none of them

@@ -10,6 +10,9 @@
 
 namespace efv::orden {
 
+/// Exit status when models have findings.
+inline constexpr int kConHallazgos = 1;
+
 std::string HallazgosTexto(const std::vector<HallazgoModelo>& hallazgos);
 Json HallazgosJson(const std::vector<HallazgoModelo>& hallazgos);
 
