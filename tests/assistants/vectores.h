@@ -69,7 +69,7 @@ inline Valores CamposDe(CObject& registro)
     Valores valores;
     for (const auto& campo : CamposDeRegistro(registro))
         std::visit(
-            [&](auto* valor) {
+            [&](auto valor) {
                 if constexpr (std::is_constructible_v<Referencia, decltype(valor)>)
                     valores[std::string(campo.nombre)] = valor;
             },
