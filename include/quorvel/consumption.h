@@ -46,6 +46,7 @@ public:
     /// Schema 1. The number read isn't looked at: there is one layout.
     void Serialize(CArchive& ar) override;
 
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): an operation among the virtual ones
     virtual CSFVDataReceptor& operator=(const CSFVDataReceptor& otro);
 
     /// Opens the load's dialog with month `iMes` (0 to 11) and day type 0 on view. On acceptance model, units,
@@ -90,6 +91,7 @@ public:
     /// Schema 1 as a 16-bit number, which isn't looked at when read.
     void Serialize(CArchive& ar) override;
 
+    // NOLINTNEXTLINE(misc-unconventional-assign-operator): an operation among the virtual ones
     virtual CItemConsumo& operator=(const CItemConsumo& otro);
 
     static const CRuntimeClass& GetThisClass();

@@ -118,9 +118,9 @@ public:
     }
 
 protected:
-    DialogoFicha(std::string_view nombreClase, std::wstring_view titulo, const P& inicial,
+    DialogoFicha(std::string_view nombreClase, std::wstring_view titulo, P inicial,
                  std::span<const Comprobacion<P>> comprobaciones)
-        : Dialogo(nombreClase, titulo), datos(inicial), m_comprobaciones(comprobaciones)
+        : Dialogo(nombreClase, titulo), datos(std::move(inicial)), m_comprobaciones(comprobaciones)
     {
     }
 

@@ -132,6 +132,8 @@ TEST_F(ConsumoDialogo, LosReceptoresSeRefrescanDelCatalogo)
     const auto& grafica = std::get<CCtrlCurva2D>(guion.Estado(0, 0, "grafica").propio);
     EXPECT_EQ(grafica.csTituloY, L"Potencia (W)");
     EXPECT_EQ(std::ranges::count(grafica.aSeries[0].adY, 1600.0), 121);
+    EXPECT_EQ(std::get<ui::EstadoControl::DeLista>(guion.Estado(0, 0, "lReceptores").propio).abMarcas,
+              (std::vector<bool>{true, false}));
     EXPECT_EQ(dialogo->lReceptores.GetSize(), 3);
     EXPECT_EQ(lista[1].dPotencia, 100);  // copies
 }
