@@ -1,4 +1,4 @@
-// The records that the design assistants keep between two runs.
+// The two design assistants, and the records that they keep between two runs.
 #pragma once
 
 #include <quorvel/exportar.h>
@@ -102,3 +102,35 @@ public:
 
     static const CRuntimeClass& GetThisClass();
 };
+
+// ---------------------------------------------------------------------------------------------------
+// The assistants. `csLugar` is the place in two parts with the mark "~#SFV#~" between them; the mark must
+// stand there even with nothing behind it.
+// ---------------------------------------------------------------------------------------------------
+
+/// Asks which kind of installation to design.
+/// @return 0 connected to the grid, 1 stand-alone, 3 when the person cancelled.
+EFV_API int phSeleccionAsistenteSFV();
+
+/// Runs the stand-alone assistant on the project's record. Batteries, panels, loads and factors K come from
+/// the loaded catalogues. Branches of batteries, the panels, tilt, orientation and row spacing in the record
+/// are replaced by proposals as the assistant opens. The record's loads are replaced at OK, even at one that
+/// is refused afterwards.
+/// @param dLatitud degrees  @param iHemisferio 1 north, 0 south
+/// @param adRadiacion mean daily horizontal radiation of each month, kJ/m²·day, January first
+/// @return 1 accepted, with the design in `asistente`; 0 cancelled.
+EFV_API int phAsistenteSFVAislada(CString csLugar, double dLatitud, int iHemisferio,
+                                  const double (&adRadiacion)[12], CSFVAsistenteAislada& asistente);
+
+/// Runs the grid-connected assistant on the project's record. Inverters and panels come from the loaded
+/// catalogues. Counts, tilt, orientation and row spacing in the record are replaced by proposals as the
+/// assistant opens.
+/// @param dLatitud degrees  @param iHemisferio 1 north, 0 south
+/// @return 1 accepted, with the design in `asistente`; 0 cancelled, nothing written.
+EFV_API int phAsistenteSFVRed(CString csLugar, double dLatitud, int iHemisferio, CSFVAsistenteRed& asistente);
+
+/// Lets the person edit the three losses of a stand-alone installation, percentages of 0 to 100 that
+/// together stay below 100.
+/// @return 1 accepted; 0 cancelled, nothing written.
+EFV_API int phDatosPerdidasAislada(double& dPerdidaCableado, double& dPerdidaAcumulador,
+                                   double& dPerdidaAcoplamiento);

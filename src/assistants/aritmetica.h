@@ -20,16 +20,23 @@ constexpr double ElMenor(double a, double b)
     return a < b ? a : b;
 }
 
+/// `d` as a count. One that can't be said, a quotient by 0 of a model that is missing, is 1: its field then
+/// stays inside its limits and the person can go on.
+inline int Cuenta(double d)
+{
+    return std::isfinite(d) ? numero::Entero(d) : 1;
+}
+
 /// `d` rounded up, as a count.
 inline int Techo(double d)
 {
-    return numero::Entero(std::ceil(d));
+    return Cuenta(std::ceil(d));
 }
 
 /// `d` rounded down, at least 1.
 inline int SueloDesdeUno(double d)
 {
-    return numero::Entero(ElMayor(std::floor(d), 1.0));
+    return Cuenta(ElMayor(std::floor(d), 1.0));
 }
 
 /// Product of two counts; saturates.

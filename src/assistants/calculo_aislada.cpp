@@ -172,9 +172,7 @@ void DimensionarPaneles(V& v, bool bForzar)
 
     v.iPanelesSerieP = SueloDesdeUno(v.dTensionMaxFV / v.panel.dVoc);
     const double dPotenciaRamal = v.iPanelesSerieP * dPmpm;
-    const auto ramales = [&](double d) {
-        return numero::Entero(ElMayor(std::ceil(d * dPmpm / dPotenciaRamal), 1.0));
-    };
+    const auto ramales = [&](double d) { return SueloDesdeUno(std::ceil(d * dPmpm / dPotenciaRamal)); };
     v.iPanelesParaleloP = ramales(dPanelesP);
     v.iRamalesNecesarios = ramales(dPaneles);
     if (bForzar) {

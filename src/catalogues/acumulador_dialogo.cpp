@@ -72,7 +72,8 @@ public:
         : DialogoFicha("CDlgItemDatosAcumuladorCap", L"Datos de descarga del acumulador", inicial, {})
     {
         using P = ParametrosDescarga;
-        Anadir<ui::TextoFijo>("csParametros", L"").csTexto = fmt::format(L"Parámetros de descarga para {}: ", csRegimen);
+        Anadir<ui::TextoFijo>("csParametros", L"").csTexto =
+            fmt::format(L"Parámetros de descarga para {}: ", csRegimen);
         Anadir(std::to_array<ui::Fila<P>>({
             {"dCap", &P::dCap, fmt::format(L"Capacidad para {} (Ah):", csRegimen), {0.1, 100000000}},
             {"dVcc", &P::dVcc, fmt::format(L"Voltaje para {} (V):", csRegimen), {0.1, 5000}},

@@ -34,8 +34,8 @@ struct NombresCatalogo {
 };
 
 /// What is to be given for each model class M, derived from ReglasCatalogo<M>:
-///   static std::span<const CampoModelo<M>> Campos();
-///   static NombresCatalogo Nombres();
+///   static constexpr NombresCatalogo kNombres;
+///   static constexpr auto kCampos;   an array of CampoModelo<M>, in the order of reading
 template <class M>
 struct Catalogo;
 
@@ -43,6 +43,9 @@ struct Catalogo;
 template <class M>
 struct ReglasCatalogo {
     using Base = CBaseCatalogo<M>;
+
+    static std::span<const CampoModelo<M>> Campos() { return Catalogo<M>::kCampos; }
+    static const NombresCatalogo& Nombres() { return Catalogo<M>::kNombres; }
 
     /// What the held record of a file starts with besides zeros.
     static void Preparar(M& /*retenido*/) {}

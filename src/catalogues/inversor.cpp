@@ -1,27 +1,14 @@
 #include "catalogues/inversor.h"
 
-#include <array>
+#include <algorithm>
 
 #include "catalogues/catalogo.h"
-#include "catalogues/inversores_comun.h"
 
 namespace efv::catalogues {
 
 namespace {
 
 using M = CBaseInversorModelo;
-
-// In the order of reading.
-constexpr auto kCampos = Unir(std::to_array<CampoModelo<M>>({
-                                  {"csModelo", &M::csModelo},
-                                  {"iUsoPrincipal", &M::iUsoPrincipal, L"Uso"},
-                              }),
-                              kCamposEntrada<M>,
-                              std::to_array<CampoModelo<M>>({
-                                  {"csICCMaxMPPT", &M::csICCMaxMPPT},
-                                  {"csICCMinMPPT", &M::csICCMinMPPT},
-                              }),
-                              kCamposRestantes<M>);
 
 void NormalizarListas(M& modelo)
 {
@@ -31,22 +18,6 @@ void NormalizarListas(M& modelo)
 
 }  // namespace
 
-std::span<const CampoModelo<M>> Catalogo<M>::Campos()
-{
-    return kCampos;
-}
-
-NombresCatalogo Catalogo<M>::Nombres()
-{
-    return {"CBaseInversores", "CBaseInversorFamilia",         "CBaseInversorModelo",
-            L"Inversores",     L"Base de Datos de Inversores", 20444};
-}
-
-void Catalogo<M>::Preparar(M& retenido)
-{
-    SanearContadores(retenido);
-}
-
 void Catalogo<M>::AntesDeModelo(M& retenido)
 {
     retenido.csICCMaxMPPT.clear();
@@ -55,14 +26,14 @@ void Catalogo<M>::AntesDeModelo(M& retenido)
 
 void Catalogo<M>::Sanear(M& leido)
 {
-    SanearInversor(leido);
+    ReglasInversor::Sanear(leido);
     leido.iUsoPrincipal = std::max(leido.iUsoPrincipal, 0);
     NormalizarListas(leido);
 }
 
 void Catalogo<M>::PrepararEdicion(M& modelo, bool bNuevo)
 {
-    PrepararEdicionInversor(modelo, bNuevo);
+    ReglasInversor::PrepararEdicion(modelo, bNuevo);
     NormalizarListas(modelo);
 }
 

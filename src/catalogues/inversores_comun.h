@@ -68,28 +68,32 @@ inline void SanearContadores(DatosInversor& datos)
     datos.iNumEntradas = std::clamp(datos.iNumEntradas, 1, kMaximoMPPT);
 }
 
-/// Old files hold negative values for what isn't known.
 template <class M>
-void SanearInversor(M& leido)
-{
-    for (const auto& campo : Catalogo<M>::Campos()) {
-        AlMiembro(leido, campo, [](auto& valor) {
-            if constexpr (std::is_same_v<std::remove_reference_t<decltype(valor)>, double>)
-                valor = numero::MenorIgual(valor, 0.0) ? 0.0 : valor;
-        });
-    }
-    leido.iTipoSalida = std::max(leido.iTipoSalida, 0);
-    SanearContadores(leido);
-}
+struct ReglasInversor : ReglasCatalogo<M> {
+    static void Preparar(M& retenido) { SanearContadores(retenido); }
 
-inline void PrepararEdicionInversor(DatosInversor& datos, bool bNuevo)
-{
-    SanearContadores(datos);
-    if (bNuevo) {
-        datos.dFP = 1.0;
-        datos.dRendMax = 99.0;
+    /// Old files hold negative values for what isn't known.
+    static void Sanear(M& leido)
+    {
+        for (const auto& campo : Catalogo<M>::kCampos) {
+            AlMiembro(leido, campo, [](auto& valor) {
+                if constexpr (std::is_same_v<std::remove_reference_t<decltype(valor)>, double>)
+                    valor = numero::MenorIgual(valor, 0.0) ? 0.0 : valor;
+            });
+        }
+        leido.iTipoSalida = std::max(leido.iTipoSalida, 0);
+        SanearContadores(leido);
     }
-}
+
+    static void PrepararEdicion(M& modelo, bool bNuevo)
+    {
+        SanearContadores(modelo);
+        if (bNuevo) {
+            modelo.dFP = 1.0;
+            modelo.dRendMax = 99.0;
+        }
+    }
+};
 
 // ---------------------------------------------------------------------------------------------------
 // OND file, the inverter description of the simulation program PVsyst

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <array>
-#include <span>
 #include <string_view>
 
 #include <quorvel/catalogues.h>
@@ -13,8 +12,37 @@ namespace efv::catalogues {
 
 template <>
 struct Catalogo<CBasePanelFotoModelo> : ReglasCatalogo<CBasePanelFotoModelo> {
-    static std::span<const CampoModelo<CBasePanelFotoModelo>> Campos();
-    static NombresCatalogo Nombres();
+    using M = CBasePanelFotoModelo;
+
+    static constexpr NombresCatalogo kNombres{"CBasePanelFoto",
+                                              "CBasePanelFotoFamilia",
+                                              "CBasePanelFotoModelo",
+                                              L"Panel Fotovoltaico",
+                                              L"Base de Datos de Paneles Fotovoltaicos",
+                                              20442};
+    static constexpr auto kCampos = std::to_array<CampoModelo<M>>({
+        {"csModelo", &M::csModelo},
+        {"dPmpm", &M::dPmpm, L"Pmpm (W)"},
+        {"dVsmax", &M::dVsmax},
+        {"dVmpm", &M::dVmpm, L"Vmpm (V)"},
+        {"dImpm", &M::dImpm, L"Impm (A)"},
+        {"dVoc", &M::dVoc},
+        {"dIsc", &M::dIsc},
+        {"dCTVoc", &M::dCTVoc},
+        {"dCTIsc", &M::dCTIsc},
+        {"dCTPmpm", &M::dCTPmpm},
+        {"dCEf", &M::dCEf},
+        {"iNp", &M::iNp},
+        {"iNs", &M::iNs},
+        {"dAcel", &M::dAcel},
+        {"iTipoCelula", &M::iTipoCelula, L"Tecnología"},
+        {"dH", &M::dH},
+        {"dB", &M::dB},
+        {"dA", &M::dA},
+        {"dP", &M::dP},
+        {"nColor", &M::nColor},
+        {"csCodPrecio", &M::csCodPrecio},
+    });
 };
 
 /// A cell technology in the three vocabularies that name it.

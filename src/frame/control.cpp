@@ -48,4 +48,16 @@ int PrimeraPosicion(IBIMCtrl* ctrl, int iBloque, TipoPosicion tipo)
     return 0;
 }
 
+SimboloElegido ElegirSimbolo(IBIMCtrl& ctrl, const CString& csCategoria, int iActual)
+{
+    const int iCategoria = Preguntar<int, 1>(ctrl, IBIMCtrl::numeroDeCategoria, {csCategoria});
+    SimboloElegido elegido{iActual, true, {}};
+    Preguntar<bool, 2>(ctrl, IBIMCtrl::elegirSimbolo, {iCategoria, &elegido.iSimbolo});
+    if (Preguntar<int, 1>(ctrl, IBIMCtrl::categoriaDeSimbolo, {elegido.iSimbolo}) != iCategoria) {
+        elegido.bValido = false;
+        elegido.csNombre = Preguntar<CString, 1>(ctrl, IBIMCtrl::nombreDeSimbolo, {elegido.iSimbolo});
+    }
+    return elegido;
+}
+
 }  // namespace efv::frame

@@ -13,4 +13,14 @@ enum class TipoPosicion : int { alimentacion = 0x1F, distribucion = 0x20 };
 /// @throws CInvalidArgException when `ctrl` is null.
 int PrimeraPosicion(IBIMCtrl* ctrl, int iBloque, TipoPosicion tipo);
 
+struct SimboloElegido {
+    int iSimbolo;
+    bool bValido;      ///< false: the symbol is of another category
+    CString csNombre;  ///< then its name
+};
+
+/// Lets the person choose a symbol of a category, beginning with `iActual`. The host's answer whether one
+/// was chosen isn't looked at: the symbol that stands afterwards counts, also the one before.
+SimboloElegido ElegirSimbolo(IBIMCtrl& ctrl, const CString& csCategoria, int iActual);
+
 }  // namespace efv::frame

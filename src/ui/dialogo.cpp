@@ -85,6 +85,8 @@ void Dialogo::Mover(Deslizador& control, int iValor)
 
 std::optional<Rechazo> Dialogo::Aceptar()
 {
+    if (!AntesDeAceptar())
+        return std::nullopt;
     const int nPaginas = m_paginas != nullptr ? static_cast<int>(m_paginas->acsEntradas.size()) : 0;
     for (int iPagina = -1; iPagina < nPaginas; ++iPagina) {
         if (auto rechazo = RecogerPagina(iPagina)) {
@@ -166,12 +168,11 @@ void Dialogo::Volcar()
 void Dialogo::PonerSoloLectura()
 {
     for (const auto& control : m_controles) {
-        if (dynamic_cast<Edicion*>(control.get()) != nullptr)
+        const auto* seleccion = dynamic_cast<const Seleccion*>(control.get());
+        if (dynamic_cast<const Edicion*>(control.get()) != nullptr)
             control->bSoloLectura = true;
-        else if (const auto* combo = dynamic_cast<Seleccion*>(control.get());
-                 combo != nullptr && combo->forma == Seleccion::Forma::combo)
-            control->bHabilitado = false;
-        else if (dynamic_cast<Deslizador*>(control.get()) != nullptr)
+        else if (dynamic_cast<const Deslizador*>(control.get()) != nullptr ||
+                 (seleccion != nullptr && seleccion->forma == Seleccion::Forma::combo))
             control->bHabilitado = false;
     }
     bAceptarVisible = false;

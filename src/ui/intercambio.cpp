@@ -129,7 +129,7 @@ public:
     void Ver(Seleccion& c) override
     {
         auto* origen = std::get_if<int*>(&c.destino);
-        if (origen == nullptr || c.intercambio != Intercambio::automatico)
+        if (origen == nullptr || c.intercambio == Intercambio::aMano)
             return;
         const bool existe = **origen >= 0 && static_cast<std::size_t>(**origen) < c.acsEntradas.size();
         c.iSeleccion = existe ? **origen : -1;
@@ -137,7 +137,7 @@ public:
 
     void Ver(Edicion& c) override
     {
-        if (c.intercambio == Intercambio::automatico)
+        if (c.intercambio != Intercambio::aMano)
             std::visit([&](auto origen) { Escribir(c, origen); }, c.destino);
     }
 

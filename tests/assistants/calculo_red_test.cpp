@@ -184,13 +184,10 @@ TEST_F(CalculoRedAMano, LasFilasSiguenLaPropuestaOLaPersona)
 TEST_F(CalculoRedAMano, UnModeloQueFaltaNoDetieneElCalculo)
 {
     v.panel = {};
-    EXPECT_EQ(Propuesta().iParalelo, 2147483647);
-    v.inversor = {};
-    RecalcularRed(v, true);
-    EXPECT_EQ(v.iInversores, 2147483647);
+    EXPECT_EQ(Propuesta(), (Ramales{1, 1}));
     v = {};
-    RecalcularRed(v, true);
-    EXPECT_EQ(v.iTotalPaneles, 2147483647);
+    EXPECT_EQ(Propuesta(), (Ramales{1, 1}));
+    EXPECT_EQ(v.iInversores, 1);
 }
 
 TEST(Equipos, LaCorrienteLimiteEsLaMenorPositiva)

@@ -55,6 +55,14 @@ struct EnTexto {
     {
         return Unir(*ad, [](double d) { return Numero(d); });
     }
+    std::string operator()(std::span<const double> ad) const
+    {
+        return Unir(ad, [](double d) { return Numero(d); });
+    }
+    std::string operator()(std::span<double> ad) const
+    {
+        return Unir(ad, [](double d) { return Numero(d); });
+    }
     std::string operator()(const CStringArray* acs) const
     {
         return Unir(*acs, [](const CString& cs) { return efv::CadenaUtf8(cs); });
@@ -77,8 +85,8 @@ private:
     static std::string Unir(const auto& lista, auto texto)
     {
         std::string todo;
-        for (std::ptrdiff_t i = 0; i < lista.GetSize(); ++i)
-            todo += (i == 0 ? "" : "/") + texto(lista[i]);
+        for (const auto& valor : lista)
+            todo += (todo.empty() ? "" : "/") + texto(valor);
         return todo;
     }
 };

@@ -169,10 +169,10 @@ IBIMCtrl::Resultado ControlGuionizado::PosicionDeBloque(std::span<const Argument
 IBIMCtrl::Resultado ControlGuionizado::ElegirSimbolo(std::span<const Argumento> argumentos)
 {
     int* const* simbolo = Tomar<int*>(argumentos, 1);
-    if (simbolo == nullptr || simbolosElegidos.empty())
+    if (simbolo == nullptr || simbolosElegidos == nullptr || simbolosElegidos->empty())
         return false;
-    **simbolo = simbolosElegidos.front();
-    simbolosElegidos.pop_front();
+    **simbolo = simbolosElegidos->front();
+    simbolosElegidos->pop_front();
     return true;
 }
 

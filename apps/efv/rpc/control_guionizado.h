@@ -39,8 +39,9 @@ class ControlGuionizado final : public IBIMCtrl {
 public:
     void Fijar(Dibujo dibujo) { m_dibujo = std::move(dibujo); }
 
-    /// Symbols that the next choices of a symbol answer, in order. Without one the choice is cancelled.
-    std::deque<int> simbolosElegidos;
+    /// Symbols that the next choices of a symbol answer, in order, taken out as they are used. Without one
+    /// the choice is cancelled. Not owned.
+    std::deque<int>* simbolosElegidos = nullptr;
 
     Resultado Invocar(int iMetodo, std::span<const Argumento> argumentos) override;
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -92,6 +93,19 @@ private:
     using Elemento = std::remove_const_t<std::remove_all_extents_t<std::remove_reference_t<T>>>;
 
     std::remove_const_t<std::remove_reference_t<T>> m_valores{};
+};
+
+/// A record, as an object with its fields.
+template <class T>
+requires std::derived_from<std::remove_cvref_t<T>, CObject>
+class Argumento<T> {
+public:
+    void Leer(const Json& j, const Contexto&) { LeerRegistro(j, m_registro); }
+    T Pasar() { return m_registro; }
+    void Escribir(std::string& salida) { EscribirRegistro(salida, m_registro); }
+
+private:
+    std::remove_cvref_t<T> m_registro;
 };
 
 /// An output by pointer: like one by reference, the variable is always there.

@@ -231,7 +231,8 @@ void Servidor::PrepararGuion(const Json& documento)
     m_presentador.transcripciones.clear();
     m_presentador.ficheros.clear();
     m_presentador.csErrorGuion.reset();
-    ControlDelProceso().simbolosElegidos.clear();
+    m_presentador.simbolos.clear();
+    ControlDelProceso().simbolosElegidos = &m_presentador.simbolos;
     for (const Json& respuesta : Lista(documento, "answers"))
         m_presentador.respuestas.push_back(LeerRespuesta(respuesta));
     m_presentador.guiones = LeerGuiones(Lista(documento, "dialogs"));

@@ -92,6 +92,14 @@ constexpr auto kFunciones = std::to_array<Funcion>({
         "pdVoc, pdImp, pdVmp, pdPmp"),
     Funcion::De<&phCalcCurve>("phCalcCurve", "aI, aV, aP, dIsc, dVoc, dImp, dVmp, dT, dNs, dNp, dN, iN"),
 
+    // Design assistants
+    Funcion::De<&phSeleccionAsistenteSFV>("phSeleccionAsistenteSFV", ""),
+    Funcion::De<&phAsistenteSFVAislada>("phAsistenteSFVAislada",
+                                        "csLugar, dLatitud, iHemisferio, adRadiacion, asistente"),
+    Funcion::De<&phAsistenteSFVRed>("phAsistenteSFVRed", "csLugar, dLatitud, iHemisferio, asistente"),
+    Funcion::De<&phDatosPerdidasAislada>("phDatosPerdidasAislada",
+                                         "dPerdidaCableado, dPerdidaAcumulador, dPerdidaAcoplamiento"),
+
     // Catalogue of PV modules
     Funcion::De<&phCargarBasePanelesFotovoltaicos>("phCargarBasePanelesFotovoltaicos", "csPath"),
     Funcion::De<&phEditarBasePanelesFotovoltaicos>("phEditarBasePanelesFotovoltaicos", "iModo"),

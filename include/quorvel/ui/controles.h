@@ -53,7 +53,8 @@ private:
 /// How a field takes part in the dialog's data exchange.
 enum class Intercambio {
     automatico,
-    aMano  ///< the dialog reads and writes it itself
+    soloMuestra,  ///< written from its variable, never taken back
+    aMano         ///< the dialog reads and writes it itself
 };
 
 class VisitanteControl;

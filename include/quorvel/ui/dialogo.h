@@ -79,7 +79,7 @@ public:
     /// Variables to fields.
     void Volcar();
 
-    /// All fields to reading only, what isn't text disabled, OK hidden, Cancel as "&Cerrar".
+    /// All fields to reading only, combos and sliders disabled, OK hidden, Cancel as "&Cerrar".
     void PonerSoloLectura();
 
     void Terminar(int iResultado);
@@ -107,6 +107,8 @@ protected:
     /// The pages of the dialog (control "tab"); OK takes them over one after the other.
     Seleccion& AnadirPaginas(std::vector<CString> acsTitulos);
 
+    /// First of all at OK, before any field is taken over; false keeps the dialog open.
+    virtual bool AntesDeAceptar() { return true; }
     /// After OK has taken over the fields outside the pages (-1), then those of each page; false keeps
     /// the dialog open.
     virtual bool AlRecogerPagina(int /*iPagina*/) { return true; }

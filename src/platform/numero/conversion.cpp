@@ -53,6 +53,8 @@ constexpr int kCifrasExactas = 15;
 constexpr std::array<double, kCifrasExactas + 1> kPotencias = {1e0, 1e1, 1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                                                1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
 
+constexpr auto kEsPunto = [](char c) { return c == '.'; };
+
 template <class C>
 struct Sencillo {
     double d;
@@ -125,18 +127,9 @@ NumeroLeido LeerPrefijo(std::string_view texto)
 
 }  // namespace
 
-namespace {
-
-constexpr bool EsPunto(char c)
-{
-    return c == '.';
-}
-
-}  // namespace
-
 double LeerDoble(std::string_view texto)
 {
-    if (const auto sencillo = LeerSencillo<char>(texto.data(), texto.data() + texto.size(), EsPunto);
+    if (const auto sencillo = LeerSencillo<char>(texto.data(), texto.data() + texto.size(), kEsPunto);
         sencillo.fin)
         return sencillo.d;
     return LeerPrefijo(SinBlancosDelante(texto)).d;
@@ -144,7 +137,7 @@ double LeerDoble(std::string_view texto)
 
 double LeerDoble(const char* texto)
 {
-    if (const auto sencillo = LeerSencillo<char>(texto, nullptr, EsPunto); sencillo.fin)
+    if (const auto sencillo = LeerSencillo<char>(texto, nullptr, kEsPunto); sencillo.fin)
         return sencillo.d;
     return LeerPrefijo(SinBlancosDelante(texto)).d;
 }

@@ -41,7 +41,7 @@ TEST(Consumo, UnFicheroSeImportaEnSuUnidadYTiempo)
     std::string texto;
     for (int i = 0; i < 744 * 4; ++i)
         texto += "0,25\n";
-    const std::string ruta = carpeta.Escribir("enero.csv", texto);
+    const std::string ruta = carpeta.Crear("enero.csv", texto);
     const Json json = Calcular({"importar", ruta, "--unidad", "kWh", "--tiempo", "1/4", "--periodo", "1"});
     EXPECT_EQ(json["energia_mes_Wh"][0], 744000.0);
     EXPECT_EQ(json["energia_ano_Wh"], 744000.0);
@@ -50,9 +50,9 @@ TEST(Consumo, UnFicheroSeImportaEnSuUnidadYTiempo)
     EsperarFallo({"importar", ruta}, 1, "2976 valores y se esperaban 8760");
     EsperarFallo({"importar", ruta, "--periodo", "1"}, 1, "más de los 744");
     EXPECT_EQ(Calcular({"importar", ruta, "--incompleto"})["energia_ano_Wh"], 744.0);
-    EsperarFallo({"importar", carpeta.Escribir("c.csv", "Consumo;1;2")}, 1, "el valor 1 no es un número");
-    EsperarFallo({"importar", carpeta.Escribir("v.csv", "\n\n")}, 1, "no tiene ningún valor");
-    EsperarFallo({"importar", carpeta.Escribir("b.csv", std::string("1\0;", 3))}, 1, "no es texto");
+    EsperarFallo({"importar", carpeta.Crear("c.csv", "Consumo;1;2")}, 1, "el valor 1 no es un número");
+    EsperarFallo({"importar", carpeta.Crear("v.csv", "\n\n")}, 1, "no tiene ningún valor");
+    EsperarFallo({"importar", carpeta.Crear("b.csv", std::string("1\0;", 3))}, 1, "no es texto");
     EsperarFallo({"importar", carpeta.Ruta()}, 1, "no se puede leer");
     EsperarFallo({"importar", ruta, "--unidad", "W"}, 2, "Wh, kWh");
 }
@@ -81,13 +81,13 @@ TEST(Consumo, LosReceptoresDeUnaLista)
     }
     Json excluido = receptor;
     excluido["bNoCalcular"] = 1;
-    const std::string ruta = carpeta.Escribir("r.json", Json({receptor, excluido}).dump());
+    const std::string ruta = carpeta.Crear("r.json", Json({receptor, excluido}).dump());
     const Json json = Calcular({"receptores", ruta});
     EXPECT_EQ(json["potencia_maxima_W"], 120.0);
     EXPECT_EQ(json["energia_ano_Wh"], 365 * 180.0);
-    EsperarFallo({"receptores", carpeta.Escribir("o.json", "{}")}, 1, "no es una lista");
-    EsperarFallo({"receptores", carpeta.Escribir("m.json", "[{},{\"dHorario\":[1]}]")}, 1, "receptor 2");
-    EsperarFallo({"receptores", carpeta.Escribir("v.json", "")}, 1, "está vacío");
+    EsperarFallo({"receptores", carpeta.Crear("o.json", "{}")}, 1, "no es una lista");
+    EsperarFallo({"receptores", carpeta.Crear("m.json", "[{},{\"dHorario\":[1]}]")}, 1, "receptor 2");
+    EsperarFallo({"receptores", carpeta.Crear("v.json", "")}, 1, "está vacío");
 }
 
 TEST(Consumo, SeDibujaComoDiaSemanaOAno)
@@ -95,12 +95,12 @@ TEST(Consumo, SeDibujaComoDiaSemanaOAno)
     const CarpetaTemporal carpeta;
     const auto dibujar = [&](std::vector<std::string> mas) {
         std::vector<std::string> argumentos = {
-            "consumo", "patron", "1", "--potencia", "1000", "--svg", carpeta.Ruta() + "/c.svg"};
+            "consumo", "patron", "1", "--potencia", "1000", "--svg", carpeta.Ruta().string() + "/c.svg"};
         argumentos.insert(argumentos.end(), mas.begin(), mas.end());
         const Corrida corrida = Correr(argumentos);
         EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
         EXPECT_NE(corrida.salida.find("Gráfica escrita"), std::string::npos);
-        std::ifstream fichero(carpeta.Ruta() + "/c.svg");
+        std::ifstream fichero(carpeta.Ruta().string() + "/c.svg");
         return std::string(std::istreambuf_iterator<char>(fichero), {});
     };
     const std::string mapa = dibujar({});

@@ -89,7 +89,7 @@ TEST(Getters, DanCadaCampoEnSuSitioYNadaDeUnModeloQueNoExiste)
             xml += " " + nombre + "=\"" + valor + "\"";
         xml += "/></Familia></TablaFamilias></Q>";
         Anfitrion anfitrion;
-        EXPECT_EQ(anfitrion.Resultado(caso.cargar, {carpeta.Escribir("c.xml", xml)})["return"], 1);
+        EXPECT_EQ(anfitrion.Resultado(caso.cargar, {carpeta.Crear("c.xml", xml)})["return"], 1);
 
         Json vacios = {"F#m", nullptr};
         Json esperados = {"F#m", "F"};

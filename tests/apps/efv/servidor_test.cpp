@@ -286,7 +286,8 @@ TEST(Control, ContestaPorSimbolosYCategorias)
     int iSimbolo = 5;
     EXPECT_EQ(invocar(IBIMCtrl::elegirSimbolo, {3, &iSimbolo}), IBIMCtrl::Resultado(false));
     EXPECT_EQ(iSimbolo, 5);
-    control.simbolosElegidos = {12};
+    std::deque<int> simbolos = {12};
+    control.simbolosElegidos = &simbolos;
     EXPECT_EQ(invocar(IBIMCtrl::elegirSimbolo, {3, &iSimbolo}), IBIMCtrl::Resultado(true));
     EXPECT_EQ(iSimbolo, 12);
     EXPECT_EQ(invocar(9999, {}), IBIMCtrl::Resultado());
