@@ -2,6 +2,7 @@
 #pragma once
 
 #include <quorvel/assistants.h>
+#include <quorvel/assistants_calculo.h>
 #include <quorvel/catalogues.h>
 #include <quorvel/consumption.h>
 #include <quorvel/electrical.h>

@@ -15,6 +15,7 @@
 #include "comun/suborden.h"
 #include "consumo/suborden_consumo.h"
 #include "curvas/suborden_curvas.h"
+#include "diseno/suborden_diseno.h"
 #include "energia/suborden_energia.h"
 #include "lugares/suborden_lugares.h"
 #include "rpc/suborden_rpc.h"
@@ -47,6 +48,8 @@ public:
         Anadir(CrearSubordenCatalogo());
         Anadir(CrearSubordenCurvas());
         Anadir(CrearSubordenConsumo());
+        Anadir(CrearSubordenAislada());
+        Anadir(CrearSubordenRed());
         Anadir(CrearSubordenRpc());
         m_raiz.require_subcommand(0, 1);
     }

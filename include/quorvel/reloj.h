@@ -17,4 +17,7 @@ struct FechaHora {
 /// clock back.
 EFV_API void FijarReloj(std::optional<FechaHora> ahora);
 
+/// The local time of that clock; nothing when the system's clock fails.
+EFV_API std::optional<FechaHora> LeerReloj();
+
 }  // namespace efv

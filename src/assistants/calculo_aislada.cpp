@@ -268,4 +268,18 @@ void DevolverAlRegistro(const ValoresAislada& v, CSFVAsistenteAislada& registro)
     registro = nuevo;
 }
 
+void GuardarReceptores(const CObArrayPropio<CSFVDataReceptor>& lReceptores, CSFVAsistenteAislada& registro)
+{
+    registro.Reset();
+    for (const auto& receptor : lReceptores) {
+        registro.adCantidad.Add(receptor->iCantidad);
+        registro.acsModelo.Add(receptor->csModelo);
+        registro.adHorasDia.Add(receptor->dHorasDia);
+        for (const auto& mes : receptor->dHorario)
+            for (const auto& dia : mes)
+                for (const double dMinuto : dia)
+                    registro.adHorario.Add(dMinuto);
+    }
+}
+
 }  // namespace efv::assistants

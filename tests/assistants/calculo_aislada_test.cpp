@@ -16,38 +16,8 @@ namespace pruebas = efv::pruebas;
 // Every result by name, beside the record's fields.
 pruebas::Valores Nombrados(ValoresAislada& v)
 {
-    pruebas::Valores n = pruebas::CamposDe(v);
-    n.insert({{"dLatitud", &v.dLatitud},
-              {"iHemisferio", &v.iHemisferio},
-              {"dEnergiaNecesaria", &v.dEnergiaNecesaria},
-              {"dEnergiaAcumulador", &v.dEnergiaAcumulador},
-              {"dCapacidadAcumulador", &v.dCapacidadAcumulador},
-              {"dCapacidadNecesaria", &v.dCapacidadNecesaria},
-              {"dCapacidadResultante", &v.dCapacidadResultante},
-              {"dCapacidadResultanteP", &v.dCapacidadResultanteP},
-              {"iAcumuladoresSerieP", &v.iAcumuladoresSerieP},
-              {"iAcumuladoresParaleloP", &v.iAcumuladoresParaleloP},
-              {"iTotalAcumuladores", &v.iTotalAcumuladores},
-              {"dPesoAcumuladores", &v.dPesoAcumuladores},
-              {"dInclinacionP", &v.dInclinacionP},
-              {"dOrientacionP", &v.dOrientacionP},
-              {"dHSP", &v.dHSP},
-              {"dHSPP", &v.dHSPP},
-              {"csMesReferencia", &v.csMesReferencia},
-              {"radiacion7", &v.adRadiacionInclinada[7]},
-              {"dPotenciaMinima", &v.dPotenciaMinima},
-              {"dPotenciaMinimaP", &v.dPotenciaMinimaP},
-              {"iPanelesNecesariosP", &v.iPanelesNecesariosP},
-              {"iPanelesSerieP", &v.iPanelesSerieP},
-              {"iPanelesParaleloP", &v.iPanelesParaleloP},
-              {"iRamalesNecesarios", &v.iRamalesNecesarios},
-              {"iTotalPaneles", &v.iTotalPaneles},
-              {"dPotenciaInstalada", &v.dPotenciaInstalada},
-              {"dPotenciaInstaladaP", &v.dPotenciaInstaladaP},
-              {"dPesoPaneles", &v.dPesoPaneles},
-              {"dDistanciaFilasP", &v.dDistanciaFilasP},
-              {"dSuperficieTotal", &v.dSuperficieTotal},
-              {"dSuperficieProyectada", &v.dSuperficieProyectada}});
+    pruebas::Valores n = pruebas::Sueltos(ValoresPorNombre(v));
+    n["radiacion7"] = &v.adRadiacionInclinada[7];
     return n;
 }
 

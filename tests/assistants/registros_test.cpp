@@ -59,20 +59,9 @@ struct EnTexto {
     {
         return Unir(ad, [](double d) { return Numero(d); });
     }
-    std::string operator()(std::span<double> ad) const
-    {
-        return Unir(ad, [](double d) { return Numero(d); });
-    }
     std::string operator()(const CStringArray* acs) const
     {
         return Unir(*acs, [](const CString& cs) { return efv::CadenaUtf8(cs); });
-    }
-    std::string operator()(std::span<const double> ad) const
-    {
-        std::string todo;
-        for (const double d : ad)
-            todo += (todo.empty() ? "" : "/") + Numero(d);
-        return todo;
     }
 
 private:

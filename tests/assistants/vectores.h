@@ -63,11 +63,11 @@ inline std::vector<double> Numeros(const std::string& texto)
     return numeros;
 }
 
-/// The record's own fields.
-inline Valores CamposDe(CObject& registro)
+/// The values that are one number or one text.
+inline Valores Sueltos(const std::vector<CampoRegistro>& campos)
 {
     Valores valores;
-    for (const auto& campo : CamposDeRegistro(registro))
+    for (const auto& campo : campos)
         std::visit(
             [&](auto valor) {
                 if constexpr (std::is_constructible_v<Referencia, decltype(valor)>)

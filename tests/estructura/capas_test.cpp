@@ -25,6 +25,8 @@ int CapaDeCabecera(const std::string& nombre)
     const std::string sinSufijo = nombre.substr(0, nombre.find('.'));
     if (sinSufijo.starts_with("catalogo"))
         return kCapas.at("catalogues");
+    if (sinSufijo.starts_with("assistants"))
+        return kCapas.at("assistants");
     const auto capa = kCapas.find(sinSufijo);
     return capa != kCapas.end() ? capa->second : kCapas.at("platform");
 }

@@ -11,6 +11,12 @@ namespace efv::orden {
 
 inline constexpr std::size_t kMeses = 12;
 
+/// No plane on Earth gets more on the mean of a month than the poles at midsummer outside the air, 45 MJ;
+/// kJ/m²·day.
+inline constexpr double kRadiacionMaxima = 50000.0;
+/// Below this the year's best month can only have been given in another unit; kJ/m²·day.
+inline constexpr double kRadiacionSospechosa = 100.0;
+
 struct Campo {
     double dLatitud = 0.0;                         ///< degrees, north positive
     std::array<double, kMeses> adRadHorizontal{};  ///< kJ/m²·day

@@ -8,8 +8,8 @@
 #include <QuorvelEFV.h>
 
 #include "comun/consola.h"
-#include "comun/datos.h"
 #include "comun/numeros.h"
+#include "comun/tabla_k.h"
 
 namespace efv::orden {
 
@@ -21,46 +21,6 @@ constexpr double kRIMaxima = 15.0;
 // A tilt that multiplies the radiation by more stands on a sun that hardly rises.
 constexpr double kRazonMaxima = 5.0;
 constexpr double kKJporKWh = 3600.0;
-
-// Shows nothing: what the library says goes into the command's own error.
-class PresentadorPrestado {
-public:
-    PresentadorPrestado() { ui::InstalarPresentador(&m_presentador); }
-    ~PresentadorPrestado() { ui::InstalarPresentador(nullptr); }
-    PresentadorPrestado(const PresentadorPrestado&) = delete;
-    PresentadorPrestado& operator=(const PresentadorPrestado&) = delete;
-
-    std::string PrimerTexto() const
-    {
-        return m_presentador.mostrados.empty() ? std::string()
-                                               : CadenaUtf8(m_presentador.mostrados.front().mensaje.csTexto);
-    }
-
-private:
-    ui::PresentadorGuionizado m_presentador;
-};
-
-// The first two lines of a text, in one.
-std::string EnBreve(const std::string& texto)
-{
-    const std::size_t primera = texto.find('\n');
-    if (primera == std::string::npos)
-        return texto;
-    const std::size_t segunda = texto.find('\n', primera + 1);
-    return texto.substr(0, primera) + " " + texto.substr(primera + 1, segunda - primera - 1);
-}
-
-void CargarTabla(const std::string& csDatos)
-{
-    const CString csArchivo = RutaDatos(csDatos, "ZqFactorKHE5.xml");
-    const PresentadorPrestado presentador;
-    if (phCargarBaseFactorK(csArchivo) != 0)
-        return;
-    if (const std::string incoherencia = presentador.PrimerTexto(); !incoherencia.empty())
-        throw ErrorEjecucion(fmt::format("tabla de factores K incompleta, «{}»: {}", CadenaUtf8(csArchivo),
-                                         EnBreve(incoherencia)));
-    throw ErrorEjecucion(fmt::format("no se puede leer la tabla de factores K «{}»", CadenaUtf8(csArchivo)));
-}
 
 // Names of the months that `elegido(month)` picks.
 template <class Elegido>
@@ -140,7 +100,7 @@ Estudio Estudiar(Encargo encargo)
 {
     Estudio estudio;
     if (encargo.bTabla)
-        CargarTabla(encargo.csDatos);
+        CargarTablaK(encargo.csDatos);
     if (encargo.bTabla)
         estudio.tabla = Calcular(encargo.campo, Metodo::tabla);
     if (encargo.bCorrelacion)

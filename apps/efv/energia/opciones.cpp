@@ -50,11 +50,6 @@ constexpr const char* kAyudaRadiacion =
     "Con --lat: radiación global diaria sobre la horizontal de los 12 meses, en kJ/m²·día, separadas por "
     "espacios, comas o punto y coma";
 
-// No plane on Earth gets more on the mean of a month than the poles at midsummer outside the air, 45 MJ.
-constexpr double kRadiacionMaxima = 50000.0;
-// Below this the year's best month can only have been given in another unit.
-constexpr double kRadiacionSospechosa = 100.0;
-
 double LeerAcotada(const OpcionNumerica& opcion, const std::string& texto)
 {
     const std::optional<double> d = LeerNumero(texto);

@@ -32,6 +32,11 @@ void FijarReloj(std::optional<FechaHora> ahora)
     gFuente = ahora ? &Fijado : nullptr;
 }
 
+std::optional<FechaHora> LeerReloj()
+{
+    return reloj::Ahora();
+}
+
 namespace reloj {
 
 std::optional<FechaHora> Ahora()

@@ -1,0 +1,201 @@
+#include "diseno/aislada.h"
+
+#include <algorithm>
+#include <array>
+
+#include <fmt/format.h>
+
+#include <quorvel/solar.h>
+
+#include "comun/numeros.h"
+#include "comun/tabla_k.h"
+#include "diseno/diseno.h"
+#include "diseno/receptores.h"
+#include "diseno/salida.h"
+#include "rpc/valores.h"
+
+namespace efv::orden {
+
+namespace {
+
+using assistants::ValoresAislada;
+
+constexpr double kMaximo = 1e9;
+
+constexpr auto kRangos = std::to_array<RangoCampo>({
+    {"dDiasAutonomia", {0.01, 365}},
+    {"iAcumuladoresSerie", {1, 100000}},
+    {"iAcumuladoresParalelo", {1, 100000}},
+    {"iPanelesSerie", {1, 100000}},
+    {"iPanelesParalelo", {1, 100000}},
+    {"iMesCalculo", {0, 14}},
+    {"dTensionSistema", {12, 72}},
+    {"dPotenciaMaxFV", {0, kMaximo}},
+    {"dCorrienteMaxFV", {0, kMaximo}},
+    {"dTensionMaxFV", {0, 10000}},
+    {"dTensionMinFV", {0, 10000}},
+    {"bSalidaCA", {0, 1}},
+    {"dTensionSalidaCA", {0, 10000}},
+    {"dPotenciaSalidaCA", {0, kMaximo}},
+    {"iTipoSalidaCA", {0, 1}},
+    {"dProfundidadDescarga", {1, 100}},
+    {"dPerdidaCableado", {0, 99.99}},
+    {"dPerdidaAcumulador", {0, 99.99}},
+    {"dPerdidaAcoplamiento", {0, 99.99}},
+    {"dInclinacion", {0, 90}},
+    {"dOrientacion", {-180, 180}},
+    {"iDisposicion", {0, 1}},
+    {"iPanelesPorFila", {0, 100000}},
+    {"dDistanciaPaneles", {0, 25000}},
+    {"dDistanciaFilas", {0, 25000}},
+    {"dKb", {0, 1}},
+    {"dKa", {0, 1}},
+    {"dKc", {0, 1}},
+    {"dKv", {0, 1}},
+    {"dTemperaturaAcumulador", {-10, 50}},
+    {"adCantidad", {0, 1e6}},
+    {"adHorasDia", {0, 24}},
+    {"adHorario", {0, 1440}},
+});
+
+constexpr std::array kTensiones = {12.0, 24.0, 36.0, 48.0, 60.0, 72.0};
+
+// The catalogues that a project draws on; its models live as long as they.
+struct Catalogos {
+    CatalogoDatos acumuladores, modulos, receptores;
+
+    explicit Catalogos(const std::string& csDatos)
+        : acumuladores("acumuladores", csDatos), modulos("modulos", csDatos), receptores("receptores", csDatos)
+    {
+    }
+};
+
+void LeerCargas(Objeto& objeto, ProyectoAislada& proyecto, const Catalogos& catalogos)
+{
+    const JsonLeido* lista = objeto.Buscar("receptores");
+    if (lista != nullptr && proyecto.registro.adCantidad.GetSize() > 0)
+        throw rpc::ErrorValor("«receptores» ya da los receptores: sobra «adCantidad»");
+    if (lista != nullptr)
+        rpc::NombrarLugar([] { return "receptores"; },
+                          [&] { proyecto.receptores = LeerReceptores(*lista, catalogos.receptores); });
+    else
+        proyecto.receptores = ReceptoresDelRegistro(proyecto.registro, catalogos.receptores);
+}
+
+ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const std::string& csDatos)
+{
+    Objeto objeto(j);
+    ProyectoAislada proyecto;
+    LeerCabecera(objeto, "aislada", proyecto.titulo);
+    proyecto.lugar = LeerLugar(objeto, csDatos, true);
+    proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);
+    if (std::ranges::find(kTensiones, proyecto.registro.dTensionSistema) == kTensiones.end())
+        throw rpc::ErrorValor("dTensionSistema: se esperaba 12, 24, 36, 48, 60 o 72 (V)");
+    if (proyecto.registro.dTensionMaxFV <= 0.0)
+        throw rpc::ErrorValor("dTensionMaxFV: debe ser mayor que 0");
+    proyecto.acumulador = &ElegirModelo<CBaseAcumuladorModelo>(objeto, "csAcumulador", catalogos.acumuladores,
+                                                               proyecto.registro.csAcumulador);
+    proyecto.panel =
+        &ElegirModelo<CBasePanelFotoModelo>(objeto, "csPanel", catalogos.modulos, proyecto.registro.csPanel);
+    LeerCargas(objeto, proyecto, catalogos);
+    objeto.Terminar();
+    return proyecto;
+}
+
+// kWh of a month of the reference year by the bands of each day.
+double EnergiaDelMes(const CObArrayPropio<CSFVDataReceptor>& receptores, int iMes)
+{
+    double dSuma = 0.0;
+    for (int d = 0; d < DiasDelMes(static_cast<std::size_t>(iMes)); ++d)
+        for (const auto& receptor : receptores)
+            dSuma += receptor->GetPcc() * receptor->GetNHdia(iMes, phGetTipoDiaSemana(iMes, d));
+    return dSuma / 1000.0;
+}
+
+JsonEscrito ReceptoresJson(const CObArrayPropio<CSFVDataReceptor>& receptores)
+{
+    JsonEscrito lista = JsonEscrito::array();
+    for (const auto& receptor : receptores) {
+        auto campos = CamposDeRegistro(*receptor);
+        std::erase_if(campos, [](const CampoRegistro& campo) { return campo.nombre == "dHorario"; });
+        lista.push_back(ValoresJson(campos));
+    }
+    return lista;
+}
+
+}  // namespace
+
+double HorasDeCalculo(CSFVDataReceptor& receptor)
+{
+    return receptor.GetNHdia(0, 0);
+}
+
+EstudioAislada Calcular(ProyectoAislada& proyecto)
+{
+    EstudioAislada estudio;
+    ValoresAislada& v = estudio.v;
+    assistants::TomarDelRegistro(v, proyecto.registro);
+    v.dLatitud = proyecto.lugar.dLatitud;
+    v.iHemisferio = proyecto.lugar.Hemisferio();
+    v.adRadiacion = proyecto.lugar.adRadiacion.value_or(std::array<double, kMeses>{});
+
+    for (std::size_t m = 0; m < kMeses; ++m)
+        estudio.ano[m].dNecesaria = EnergiaDelMes(proyecto.receptores, static_cast<int>(m));
+    std::vector<assistants::Carga> cargas;
+    for (const auto& receptor : proyecto.receptores)
+        cargas.push_back({receptor->iCantidad, receptor->dPotencia, HorasDeCalculo(*receptor)});
+    const assistants::EntradaAislada entrada = {
+        .acumulador = proyecto.acumulador,
+        .panel = proyecto.panel,
+        .cargas = cargas,
+        .factoresK = [&](double /*dLatitud*/, int /*iHemisferio*/, double dAlpha) {
+            return FactoresK(proyecto.lugar, dAlpha);
+        }};
+    assistants::Recalcular(v, entrada, true);
+    CopiarCampos(proyecto.registro, v, proyecto.fijados);
+    assistants::Recalcular(v, entrada, false);
+
+    const double dRendimiento = (100 - v.dPerdidaAcumulador) / 100 * ((100 - v.dPerdidaCableado) / 100) *
+                                ((100 - v.dPerdidaAcoplamiento) / 100);
+    const AnoDiseno campo =
+        CalcularAno(v.adRadiacion, v.adRadiacionInclinada, v.dPotenciaInstalada / 1000.0, dRendimiento);
+    for (std::size_t m = 0; m < kMeses; ++m) {
+        const std::optional<double> dNecesaria = estudio.ano[m].dNecesaria;
+        estudio.ano[m] = campo[m];
+        estudio.ano[m].dNecesaria = dNecesaria;
+    }
+    return estudio;
+}
+
+Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
+{
+    JsonLeido j = proyectoJson;
+    if (j.is_object() && j.contains("iMesCalculo") && j["iMesCalculo"].is_string())
+        rpc::NombrarLugar([] { return "iMesCalculo"; },
+                          [&] { j["iMesCalculo"] = LeerMes(j["iMesCalculo"], kMesDesfavorable); });
+    CargarTablaK(csDatos);
+    const Catalogos catalogos(csDatos);
+    ProyectoAislada proyecto = LeerProyecto(j, catalogos, csDatos);
+    EstudioAislada estudio = Calcular(proyecto);
+    const std::vector<Aviso> avisos = Avisos(proyecto, estudio);
+
+    Diseno diseno;
+    diseno.documento = EscribirDocumento(proyecto, estudio, avisos);
+    const auto modelos =
+        std::to_array<ModeloElegido>({{"Acumulador", &catalogos.acumuladores.Tipo(), proyecto.acumulador},
+                                      {"Panel fotovoltaico", &catalogos.modulos.Tipo(), proyecto.panel}});
+    diseno.documento.secciones.push_back(SeccionModelos(modelos));
+    diseno.valores = {{"tipo", "aislada"},
+                      {"titulo", proyecto.titulo},
+                      {"lugar", LugarJson(proyecto.lugar)},
+                      {"valores", ValoresJson(assistants::ValoresPorNombre(estudio.v))},
+                      {"receptores", ReceptoresJson(proyecto.receptores)},
+                      {"meses", AnoJson(estudio.ano)},
+                      {"avisos", AvisosJson(avisos)}};
+    assistants::DevolverAlRegistro(estudio.v, proyecto.registro);
+    assistants::GuardarReceptores(proyecto.receptores, proyecto.registro);
+    diseno.archivo = Archivar(proyecto.registro);
+    return diseno;
+}
+
+}  // namespace efv::orden

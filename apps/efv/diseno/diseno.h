@@ -1,0 +1,29 @@
+// The two designs: a project file in, a document, the values and the record's archive out.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "diseno/documento.h"
+#include "diseno/lectura.h"
+
+namespace efv::orden {
+
+struct Diseno {
+    Documento documento;
+    nlohmann::ordered_json valores;  ///< what --json writes
+    std::vector<std::byte> archivo;  ///< the record's items alone
+};
+
+/// A stand-alone installation. As in the assistant, a forced recalculation first; then the values that the
+/// project fixes are put in, and all is recalculated unforced. @param csDatos option --datos
+/// @throws rpc::ErrorValor, ErrorEjecucion, CException
+Diseno DisenarAislada(const JsonLeido& proyecto, const std::string& csDatos);
+
+/// A grid-connected installation, in the same way.
+Diseno DisenarRed(const JsonLeido& proyecto, const std::string& csDatos);
+
+}  // namespace efv::orden

@@ -1,0 +1,179 @@
+#include "diseno/lectura.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <limits>
+
+#include <fmt/format.h>
+
+#include <quorvel/localidades.h>
+
+#include "comun/consola.h"
+#include "comun/numeros.h"
+#include "rpc/valores.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr std::size_t kFicheroMaximo = std::size_t{1} << 20;
+constexpr std::size_t kParecidos = 3;
+
+std::string Cita(const std::string& nombre)
+{
+    return EnUnaLinea(nombre.substr(0, rpc::kCitaMaxima));
+}
+
+// "línea 3, columna 14" of the byte before `nByte`.
+std::string Lugar(std::string_view bytes, std::size_t nByte)
+{
+    const std::string_view antes = bytes.substr(0, std::min(nByte, bytes.size()));
+    const std::size_t fin = antes.rfind('\n');
+    const std::string_view linea = fin == std::string_view::npos ? antes : antes.substr(fin + 1);
+    return fmt::format("línea {}, columna {}", 1 + std::ranges::count(antes, '\n'),
+                       std::max<std::size_t>(Anchura(linea), 1));
+}
+
+// Watches over the names of each object while it is parsed.
+class SinRepetidos {
+public:
+    bool operator()(int /*iNivel*/, JsonLeido::parse_event_t evento, const JsonLeido& valor)
+    {
+        using enum JsonLeido::parse_event_t;
+        if (evento == object_start)
+            m_abiertos.emplace_back();
+        else if (evento == object_end)
+            m_abiertos.pop_back();
+        else if (evento == key && !m_abiertos.back().insert(valor.get<std::string>()).second)
+            throw rpc::ErrorValor(fmt::format("«{}» está dos veces", Cita(valor.get<std::string>())));
+        return true;
+    }
+
+private:
+    std::vector<std::set<std::string>> m_abiertos;
+};
+
+std::string RangoTexto(Rango rango)
+{
+    constexpr double kSinFin = std::numeric_limits<double>::max();
+    if (rango.dMinimo == -kSinFin && rango.dMaximo == kSinFin)
+        return "un número";
+    return fmt::format("un número de {} a {}", DecimalExacto(rango.dMinimo), DecimalExacto(rango.dMaximo));
+}
+
+}  // namespace
+
+JsonLeido AnalizarJson(std::string_view bytes)
+{
+    SinRepetidos vigilante;
+    try {
+        return JsonLeido::parse(bytes, [&](int iNivel, JsonLeido::parse_event_t evento, JsonLeido& valor) {
+            return vigilante(iNivel, evento, valor);
+        });
+    } catch (const JsonLeido::parse_error& error) {
+        throw rpc::ErrorValor(fmt::format("no es JSON bien formado: {}", Lugar(bytes, error.byte)));
+    } catch (const JsonLeido::exception&) {
+        throw rpc::ErrorValor("no es JSON bien formado: tiene un número demasiado grande");
+    }
+}
+
+JsonLeido LeerFicheroJson(const std::string& ruta)
+{
+    std::ifstream fichero(ruta, std::ios::binary);
+    std::string bytes(kFicheroMaximo + 1, '\0');
+    fichero.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(fichero.gcount(), 0)));
+    if (bytes.empty() || bytes.size() > kFicheroMaximo)
+        throw ErrorEjecucion(fmt::format("no se puede leer «{}»: no existe, está vacío o pasa de 1 MiB", ruta));
+    try {
+        return AnalizarJson(bytes);
+    } catch (const rpc::ErrorValor& error) {
+        throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
+    }
+}
+
+std::string Parecidos(const std::vector<std::string>& nombres, std::string_view buscado)
+{
+    // The nearness of names is the same for places and for anything else.
+    std::vector<Localidad> candidatos;
+    for (const std::string& nombre : nombres) {
+        Localidad& candidato = candidatos.emplace_back();
+        candidato.csNombre = CadenaDesdeUtf8(nombre);
+        const std::size_t almohadilla = candidato.csNombre.find(L'#');
+        if (almohadilla != CString::npos)
+            candidato.acsAlias.push_back(candidato.csNombre.substr(almohadilla + 1));
+    }
+    std::string texto;
+    for (const CString& csParecido : NombresParecidos(candidatos, CadenaDesdeUtf8(buscado), kParecidos))
+        texto += fmt::format("{}{}", texto.empty() ? "; parecidos: " : ", ", CadenaUtf8(csParecido));
+    return texto;
+}
+
+Objeto::Objeto(const JsonLeido& j) : m_objeto(j)
+{
+    if (!j.is_object())
+        rpc::Esperaba("un objeto", j);
+}
+
+const JsonLeido* Objeto::Buscar(std::string_view nombre)
+{
+    const std::string csNombre(nombre);
+    if (std::ranges::find(m_conocidos, csNombre) == m_conocidos.end())
+        m_conocidos.push_back(csNombre);
+    const auto hallado = m_objeto.find(csNombre);
+    return hallado == m_objeto.end() ? nullptr : &*hallado;
+}
+
+const JsonLeido& Objeto::Exigir(std::string_view nombre)
+{
+    const JsonLeido* hallado = Buscar(nombre);
+    if (hallado == nullptr)
+        throw rpc::ErrorValor(fmt::format("falta «{}»", nombre));
+    return *hallado;
+}
+
+void Objeto::Terminar() const
+{
+    for (const auto& miembro : m_objeto.items()) {
+        if (std::ranges::find(m_conocidos, miembro.key()) == m_conocidos.end())
+            throw rpc::ErrorValor(fmt::format("no hay ningún campo «{}»{}", Cita(miembro.key()),
+                                              Parecidos(m_conocidos, miembro.key())));
+    }
+}
+
+double LeerNumero(const JsonLeido& j, Rango rango)
+{
+    if (!j.is_number())
+        rpc::Esperaba(RangoTexto(rango), j);
+    const double d = j.get<double>();
+    if (!std::isfinite(d) || d < rango.dMinimo || d > rango.dMaximo)
+        rpc::Esperaba(RangoTexto(rango), j);
+    return d;
+}
+
+int LeerEntero(const JsonLeido& j, Rango rango)
+{
+    constexpr double kMinimo = std::numeric_limits<int>::min(), kMaximo = std::numeric_limits<int>::max();
+    rango = {std::max(rango.dMinimo, kMinimo), std::min(rango.dMaximo, kMaximo)};
+    const double d = LeerNumero(j, rango);
+    if (d != std::trunc(d))
+        rpc::Esperaba("un número entero", j);
+    return static_cast<int>(d);
+}
+
+const std::string& LeerTexto(const JsonLeido& j)
+{
+    if (!j.is_string())
+        rpc::Esperaba("un texto", j);
+    return j.get_ref<const std::string&>();
+}
+
+const JsonLeido& LeerLista(const JsonLeido& j)
+{
+    if (!j.is_array())
+        rpc::Esperaba("una lista", j);
+    return j;
+}
+
+}  // namespace efv::orden

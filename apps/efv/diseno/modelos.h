@@ -1,0 +1,40 @@
+// The shipped catalogues as the designs reach them.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include <quorvel/tipos_catalogo.h>
+
+namespace efv::orden {
+
+/// A catalogue of the data folder in memory.
+class CatalogoDatos {
+public:
+    /// @param tipo name of the kind  @param csDatos option --datos
+    /// @throws ErrorEjecucion when it is missing or unreadable
+    CatalogoDatos(std::string_view tipo, const std::string& csDatos);
+
+    /// The model of that identification, or of that name alone; a case and accents that differ are accepted
+    /// when nothing has the very name. @throws rpc::ErrorValor with names near, or with the choices when
+    /// several families have the name
+    const CModelo& Buscar(const std::string& id) const;
+
+    const TipoCatalogo& Tipo() const { return *m_tipo; }
+
+private:
+    const TipoCatalogo* m_tipo;
+    std::unique_ptr<CBaseXML> m_base;
+    std::vector<const CModelo*> m_modelos;
+};
+
+/// "family#model".
+CString IdentificacionDe(const CModelo& modelo);
+
+/// A model's data sheet as captions and texts, as its dialog shows them.
+std::vector<std::pair<std::string, std::string>> FichaDeModelo(const TipoCatalogo& tipo, const CModelo& modelo);
+
+}  // namespace efv::orden

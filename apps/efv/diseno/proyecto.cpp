@@ -1,0 +1,178 @@
+#include "diseno/proyecto.h"
+
+#include <algorithm>
+#include <limits>
+#include <type_traits>
+#include <variant>
+
+#include <fmt/format.h>
+
+#include <quorvel/registros.h>
+#include <quorvel/solar.h>
+
+#include "comun/numeros.h"
+#include "energia/opciones.h"
+#include "rpc/valores.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr double kSinFin = std::numeric_limits<double>::max();
+
+std::array<double, kMeses> LeerRadiacion(const JsonLeido& j)
+{
+    if (!j.is_array() || j.size() != kMeses)
+        rpc::Esperaba("una lista de 12 radiaciones en kJ/m²·día, enero primero", j);
+    std::array<double, kMeses> adRadiacion{};
+    for (std::size_t m = 0; m < kMeses; ++m)
+        rpc::NombrarLugar([&] { return NombreMes(m); },
+                          [&] {
+                              adRadiacion[m] = LeerNumero(j[m], {0.0, kRadiacionMaxima});
+                          });
+    const double dMayor = std::ranges::max(adRadiacion);
+    if (dMayor > 0.0 && dMayor < kRadiacionSospechosa)
+        throw rpc::ErrorValor(
+            fmt::format("ningún mes llega a {} kJ/m²·día; si los valores están en kWh/m²·día, "
+                        "multiplíquelos por 3600",
+                        DecimalExacto(kRadiacionSospechosa)));
+    return adRadiacion;
+}
+
+bool LeerHemisferio(const JsonLeido& j)
+{
+    if (j == 1 || j == 0)
+        return j == 1;
+    const CString csTexto = Plegar(CadenaDesdeUtf8(j.is_string() ? LeerTexto(j) : std::string()));
+    if (csTexto != L"n" && csTexto != L"norte" && csTexto != L"s" && csTexto != L"sur")
+        rpc::Esperaba("\"N\" o \"S\"", j);
+    return csTexto.front() == L'n';
+}
+
+struct LectorCampo {
+    const JsonLeido& j;
+    Rango rango;
+
+    void operator()(int* i) const { *i = LeerEntero(j, rango); }
+    void operator()(double* d) const { *d = LeerNumero(j, rango); }
+    void operator()(CString* cs) const { *cs = CadenaDesdeUtf8(LeerTexto(j)); }
+    void operator()(std::span<double> ad) const
+    {
+        if (!j.is_array() || j.size() != ad.size())
+            rpc::Esperaba(fmt::format("una lista de {} números", ad.size()), j);
+        for (std::size_t i = 0; i < ad.size(); ++i)
+            rpc::NombrarLugar([&] { return fmt::format("elemento {}", i); },
+                              [&] { ad[i] = LeerNumero(j[i], rango); });
+    }
+    void operator()(CArray<double, double&>* ad) const
+    {
+        ad->SetSize(std::ssize(LeerLista(j)));
+        (*this)(std::span(ad->GetData(), j.size()));
+    }
+    void operator()(CStringArray* acs) const
+    {
+        acs->RemoveAll();
+        for (const JsonLeido& elemento : LeerLista(j))
+            acs->Add(CadenaDesdeUtf8(LeerTexto(elemento)));
+    }
+};
+
+void Copiar(const ReferenciaCampo& origen, const ReferenciaCampo& destino)
+{
+    std::visit(
+        [&](auto de) {
+            auto a = std::get<decltype(de)>(destino);
+            if constexpr (std::is_pointer_v<decltype(de)>)
+                *a = *de;
+            else
+                std::ranges::copy(de, a.begin());
+        },
+        origen);
+}
+
+}  // namespace
+
+LugarProyecto LeerLugar(Objeto& proyecto, const std::string& csDatos, bool bExigirRadiacion)
+{
+    LugarProyecto lugar;
+    const JsonLeido* nombre = proyecto.Buscar("lugar");
+    const JsonLeido* latitud = proyecto.Buscar("latitud");
+    const JsonLeido* hemisferio = proyecto.Buscar("hemisferio");
+    const JsonLeido* radiacion = proyecto.Buscar("radiacion");
+    if (nombre != nullptr) {
+        if (latitud != nullptr || hemisferio != nullptr || radiacion != nullptr)
+            throw rpc::ErrorValor("«lugar» ya da latitud, hemisferio y radiación: sobran los demás");
+        rpc::NombrarLugar([] { return "lugar"; },
+                          [&] { lugar.localidad = BuscarLugar(LeerTexto(*nombre), csDatos); });
+        lugar.dLatitud = lugar.localidad->dLatitud;
+        lugar.bNorte = lugar.dLatitud >= 0.0;
+        lugar.adRadiacion = lugar.localidad->adRadHorizontal;
+        return lugar;
+    }
+    if (latitud == nullptr || (bExigirRadiacion && radiacion == nullptr))
+        throw rpc::ErrorValor(bExigirRadiacion ? "falta el lugar: «lugar», o «latitud» con «radiacion»"
+                                               : "falta el lugar: «lugar» o «latitud»");
+    rpc::NombrarLugar([] { return "latitud"; }, [&] { lugar.dLatitud = LeerNumero(*latitud, {-90.0, 90.0}); });
+    lugar.bNorte = lugar.dLatitud >= 0.0;
+    if (hemisferio != nullptr)
+        rpc::NombrarLugar([] { return "hemisferio"; }, [&] { lugar.bNorte = LeerHemisferio(*hemisferio); });
+    if (lugar.bNorte && lugar.dLatitud < 0.0)
+        throw rpc::ErrorValor("hemisferio: con una latitud negativa se esperaba \"S\"");
+    if (radiacion != nullptr)
+        rpc::NombrarLugar([] { return "radiacion"; }, [&] { lugar.adRadiacion = LeerRadiacion(*radiacion); });
+    return lugar;
+}
+
+std::set<std::string> LeerCampos(Objeto& objeto, CObject& registro, std::span<const RangoCampo> rangos)
+{
+    std::set<std::string> leidos;
+    for (const CampoRegistro& campo : CamposDeRegistro(registro)) {
+        const JsonLeido* j = objeto.Buscar(campo.nombre);
+        if (j == nullptr)
+            continue;
+        const auto fila = std::ranges::find(rangos, campo.nombre, &RangoCampo::nombre);
+        const Rango rango = fila == rangos.end() ? Rango{-kSinFin, kSinFin} : fila->rango;
+        rpc::NombrarLugar([&] { return std::string(campo.nombre); },
+                          [&] {
+                              std::visit(LectorCampo{*j, rango}, campo.valor);
+                          });
+        leidos.emplace(campo.nombre);
+    }
+    return leidos;
+}
+
+void CopiarCampos(CObject& origen, CObject& destino, const std::set<std::string>& nombres)
+{
+    const auto de = CamposDeRegistro(origen), a = CamposDeRegistro(destino);
+    for (std::size_t i = 0; i < de.size(); ++i)
+        if (nombres.contains(std::string(de[i].nombre)))
+            Copiar(de[i].valor, a[i].valor);
+}
+
+void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo)
+{
+    if (const JsonLeido* j = proyecto.Buscar("titulo"); j != nullptr)
+        rpc::NombrarLugar([] { return "titulo"; }, [&] { titulo = LeerTexto(*j); });
+    if (const JsonLeido* j = proyecto.Buscar("tipo"); j != nullptr && *j != std::string(tipo))
+        rpc::NombrarLugar([] { return "tipo"; }, [&] { rpc::Esperaba(fmt::format("\"{}\"", tipo), *j); });
+}
+
+int LeerMes(const JsonLeido& j, int iUltimo)
+{
+    if (j.is_number())
+        return LeerEntero(j, {0.0, static_cast<double>(iUltimo)});
+    const CString csBuscado = Plegar(CadenaDesdeUtf8(LeerTexto(j)));
+    std::vector<std::string> nombres;
+    for (int m = 0; m <= iUltimo; ++m) {
+        CString csNombre, csCorto;
+        phGetNombreMes(m, csNombre);
+        phGetNombreMesLT(m, csCorto);
+        if (!csBuscado.empty() && (Plegar(csNombre) == csBuscado || Plegar(csCorto) == csBuscado))
+            return m;
+        nombres.push_back(CadenaUtf8(csNombre));
+    }
+    throw rpc::ErrorValor(
+        fmt::format("no hay ningún mes «{}»{}", EnUnaLinea(LeerTexto(j)), Parecidos(nombres, LeerTexto(j))));
+}
+
+}  // namespace efv::orden

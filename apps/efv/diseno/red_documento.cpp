@@ -1,0 +1,159 @@
+// A grid-connected design as an engineer lays it out.
+#include <fmt/format.h>
+
+#include "comun/numeros.h"
+#include "diseno/red.h"
+#include "diseno/salida.h"
+
+namespace efv::orden {
+
+namespace {
+
+using V = assistants::ValoresRed;
+
+Seccion SeccionEquipos(const V& v)
+{
+    Seccion seccion("Objetivo y equipos");
+    seccion.datos = {
+        {"Potencia mínima instalada", Con(v.dPotenciaObjetivo, 2, "kW")},
+        {"Inversor", CadenaUtf8(v.csInversor)},
+        {"Potencia Nominal", Con(v.inversor.dPCANom, 0, "W")},
+        {"Salida", v.inversor.iTipoSalida == 0 ? "Monofasico" : "Trifasico"},
+        {"Rango tensiones MPPT (máx./min.)",
+         fmt::format("{}/{}", Decimal(v.inversor.dVMPPMax, 0), Con(v.inversor.dVMPPMin, 0, "V"))},
+        {"Tensión máxima de entrada", Con(v.inversor.dVCCMax, 0, "V")},
+        {"Corriente máxima de un seguidor", Con(v.inversor.dIMaxEntrada, 2, "A")},
+        {"Seguidores y entradas", fmt::format("{} y {}", v.inversor.iNumMPPT, v.inversor.iNumEntradas)},
+        {"Panel", CadenaUtf8(v.csPanel)},
+        {"Potencia máxima", Con(v.panel.dPmpm, 1, "Wp")},
+        {"Tensión y corriente en máxima potencia",
+         fmt::format("{}, {}", Con(v.panel.dVmpm, 2, "V"), Con(v.panel.dImpm, 2, "A"))},
+        {"Tensión a circuito abierto", Con(v.panel.dVoc, 2, "V")},
+    };
+    return seccion;
+}
+
+Seccion SeccionCampo(const V& v)
+{
+    Seccion seccion("Inversores y campo de paneles");
+    seccion.datos = {
+        DatoDoble("Nº de inversores", v.iInversores, v.iInversoresP),
+        DatoDoble("Nº de paneles por ramal", v.iPanelesSerie, v.iPanelesSerieP),
+        DatoDoble("Nº de ramales en paralelo", v.iPanelesParalelo, v.iPanelesParaleloP),
+        DatoDoble("Nº de paneles por inversor", v.iPanelesInversor, v.iPanelesInversorP),
+        DatoDoble("Nº de paneles en total", v.iTotalPaneles, v.iTotalPanelesP),
+        DatoDoble("Potencia de los paneles de un inversor", v.dPotenciaInversorCampo, v.dPotenciaInversorCampoP,
+                  0, "Wp"),
+        DatoDoble("Tensión del ramal", v.dTensionRamal, v.dTensionRamalP, 1, "V"),
+        DatoDoble("Potencia total instalada", v.dPotenciaTotal, v.dPotenciaTotalP, 2, "kW"),
+        DatoDoble("Potencia total de inversores", v.dPotenciaInversores, v.dPotenciaInversoresP, 2, "kW"),
+    };
+    seccion.datos[7].bFalta = v.dPotenciaTotal < v.dPotenciaObjetivo - 1e-6;
+    return seccion;
+}
+
+Seccion SeccionGeometria(const V& v)
+{
+    Seccion seccion("Geometría del campo de paneles");
+    seccion.datos = {
+        DatoDoble("Inclinación", v.dInclinacion, v.dInclinacionP, 2, "°"),
+        DatoDoble("Orientación [0=Sur]", v.dOrientacion, v.dOrientacionP, 2, "°"),
+        {"Disposición de paneles", v.iDisposicion == 0 ? "Vertical" : "Horizontal"},
+        {"Nº máximo de paneles por fila", Con(v.dPanelesPorFila, 0, "")},
+        {"Distancia panel - panel", Con(v.dDistanciaPaneles, 0, "mm")},
+        DatoDoble("Distancia fila - fila", v.dDistanciaFilas, v.dDistanciaFilasP, 0, "mm"),
+        DatoDoble("Superficie solar total", v.dSuperficieTotal, v.dSuperficieTotalP, 2, "m²"),
+        DatoDoble("Superficie solar proyectada", v.dSuperficieProyectada, v.dSuperficieProyectadaP, 2, "m²"),
+        {"Longitud cableado Generador - Inversor [L1]", Con(v.dLongitudL1, 2, "m")},
+        {"Longitud cableado Inversor - Caja conexión [L2]", Con(v.dLongitudL2, 2, "m")},
+        {"Longitud cableado Caja Conexión - Red [L3]", Con(v.dLongitudL3, 2, "m")},
+    };
+    return seccion;
+}
+
+std::string Veredicto(const assistants::Comprobacion& c)
+{
+    return !c.bCumple ? "sin dato" : *c.bCumple ? "cumple" : "NO CUMPLE";
+}
+
+Seccion SeccionComprobacion(const ProyectoRed& proyecto, const assistants::ComprobacionCampo& comprobacion)
+{
+    Seccion seccion("Comprobación a las temperaturas del lugar");
+    Cuadro& cuadro = seccion.cuadros.emplace_back();
+    cuadro.titulo =
+        fmt::format("Células de {} a {} ºC", Decimal(proyecto.Minima(), 0), Decimal(proyecto.Maxima(), 0));
+    cuadro.columnas = {{"Comprobación", false}, {"Valor", true}, {"Límite", true}, {"Resultado", false}};
+    for (const auto& c : comprobacion.limites) {
+        const TextoLimite& texto = TextoDe(c.limite);
+        cuadro.filas.push_back({texto.rotulo, Con(c.dValor, texto.iDecimales, texto.unidad),
+                                c.bCumple ? fmt::format("{} {}", texto.bMinimo ? "mín." : "máx.",
+                                                        Con(c.dLimite, texto.iDecimales, texto.unidad))
+                                          : "—",
+                                Veredicto(c)});
+    }
+    cuadro.filas.push_back({"Potencia de los paneles / nominal del inversor (CC/CA)",
+                            Decimal(comprobacion.dRatioCCCA, 2), "", ""});
+    seccion.notas = {
+        fmt::format("Frío: células a {} ºC; calor: a {} ºC; 1000 W/m². No cambia ningún resultado del "
+                    "dimensionado, que trabaja en condiciones STC.",
+                    Decimal(proyecto.Minima(), 0), Decimal(proyecto.Maxima(), 0))};
+    return seccion;
+}
+
+std::vector<Dato> Resumen(const EstudioRed& estudio)
+{
+    const V& v = estudio.v;
+    std::vector<Dato> resumen = {
+        {"Potencia instalada", Con(v.dPotenciaTotal, 2, "kWp")},
+        {"Inversores", fmt::format("{} · {}", v.iInversores, Con(v.dPotenciaInversores, 2, "kW"))},
+        {"Paneles",
+         fmt::format("{} ({} × {} por inversor)", v.iTotalPaneles, v.iPanelesSerie, v.iPanelesParalelo)},
+        {"Inclinación", Con(v.dInclinacion, 1, "°")}};
+    if (estudio.ano)
+        resumen.emplace_back("Energía del año", Con(TotalProducido(*estudio.ano), 0, "kWh"));
+    return resumen;
+}
+
+std::vector<std::string> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
+{
+    const auto porDefecto = [](const std::optional<double>& d) { return d ? "" : " (valor por defecto)"; };
+    std::vector<std::string> supuestos = {
+        "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.",
+        fmt::format("Temperatura de las células: mínima {} ºC{}, máxima {} ºC{}.",
+                    Decimal(proyecto.Minima(), 1), porDefecto(proyecto.dTemperaturaMinima),
+                    Decimal(proyecto.Maxima(), 1), porDefecto(proyecto.dTemperaturaMaxima)),
+        "Tensión a circuito abierto y corriente de cortocircuito a una temperatura: por los coeficientes del "
+        "módulo. "
+        "Tensión en máxima potencia: la potencia a esa temperatura entre la corriente, que no cambia con ella.",
+        "Los ramales se reparten entre los seguidores del inversor lo más igual posible. La corriente de "
+        "cortocircuito no lleva margen por irradiancias superiores a 1000 W/m².",
+    };
+    if (bEnergia)
+        supuestos.push_back(fmt::format(
+            "Energía de un mes: potencia instalada × horas de sol pico × rendimiento {}{} × días. La radiación "
+            "sobre "
+            "el plano es la horizontal por el factor K de la tabla, para un campo orientado al ecuador: la "
+            "orientación no entra en ninguna fórmula. Sin sombras.",
+            Decimal(proyecto.Rendimiento(), 2), porDefecto(proyecto.dRendimiento)));
+    return supuestos;
+}
+
+}  // namespace
+
+Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estudio, std::vector<Aviso> avisos)
+{
+    const V& v = estudio.v;
+    Documento documento;
+    documento.titulo = "Instalación solar fotovoltaica conectada a red";
+    documento.proyecto = proyecto.titulo;
+    documento.resumen = Resumen(estudio);
+    documento.avisos = std::move(avisos);
+    documento.secciones = {SeccionLugar(proyecto.lugar), SeccionEquipos(v), SeccionCampo(v),
+                           SeccionGeometria(v), SeccionComprobacion(proyecto, estudio.comprobacion)};
+    if (estudio.ano)
+        documento.secciones.push_back(SeccionMeses(*estudio.ano));
+    documento.supuestos = Supuestos(proyecto, estudio.ano.has_value());
+    return documento;
+}
+
+}  // namespace efv::orden

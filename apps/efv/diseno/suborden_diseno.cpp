@@ -1,0 +1,156 @@
+#include "diseno/suborden_diseno.h"
+
+#include <filesystem>
+#include <optional>
+
+#include <fmt/format.h>
+
+#include <quorvel/reloj.h>
+
+#include "comun/datos.h"
+#include "comun/linea_ordenes.h"
+#include "comun/numeros.h"
+#include "comun/ficheros_nuevos.h"
+#include "diseno/diseno.h"
+
+namespace efv::orden {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// What tells one command from the other.
+struct Clase {
+    const char* nombre;
+    const char* descripcion;
+    const char* pie;
+    Diseno (*disenar)(const JsonLeido& proyecto, const std::string& csDatos);
+};
+
+constexpr Clase kAislada = {
+    "aislada", "Diseña una instalación aislada, con acumuladores, a partir de un fichero de proyecto",
+    "El proyecto es un objeto JSON:\n"
+    "  lugar               nombre de «efv lugares»; o latitud, hemisferio (N, S) y radiacion,\n"
+    "                      doce valores en kJ/m²·día\n"
+    "  csPanel, csAcumulador   FAMILIA#MODELO, o el modelo solo\n"
+    "  receptores          lista de objetos: csModelo, iCantidad, otros campos del receptor y su uso:\n"
+    "                      franjas  [[\"08:00\",\"10:00\"], ...] para todos los días, hasta tres\n"
+    "                      horario  lista de {\"meses\": [\"junio\"], \"dias\": [\"fin de semana\"],\n"
+    "                               \"franjas\": ...}; una regla puede a la anterior\n"
+    "                      dHorario los 504 minutos del registro\n"
+    "  titulo              nombre del proyecto en el informe\n"
+    "y los campos del registro por su nombre: dDiasAutonomia, dTensionSistema, iMesCalculo (0 a 14, o\n"
+    "\"Diciembre\", \"Desfavorable\"...), dProfundidadDescarga, dTensionMaxFV, iPanelesSerie... Lo que fija\n"
+    "el fichero queda en vigor; lo demás toma la propuesta del programa.\n"
+    "Ejemplo:\n  efv aislada casa-aislada.json --informe casa.html",
+    &DisenarAislada};
+
+constexpr Clase kRed = {
+    "red", "Diseña una instalación conectada a red a partir de un fichero de proyecto",
+    "El proyecto es un objeto JSON:\n"
+    "  lugar               nombre de «efv lugares»; o latitud, hemisferio (N, S) y, para la energía\n"
+    "                      mensual, radiacion: doce valores en kJ/m²·día\n"
+    "  csPanel, csInversor FAMILIA#MODELO, o el modelo solo\n"
+    "  temperaturaMinima, temperaturaMaxima   de las células, ºC; si faltan, -10 y 70\n"
+    "  rendimiento         de la instalación, fracción; si falta, 0.8\n"
+    "  titulo              nombre del proyecto en el informe\n"
+    "y los campos del registro por su nombre: dPotenciaObjetivo (kW), iInversores, iPanelesSerie,\n"
+    "iPanelesParalelo, dInclinacion, iDisposicion... Lo que fija el fichero queda en vigor; lo demás toma\n"
+    "la propuesta del programa.\n"
+    "Ejemplo:\n  efv red cubierta-red.json --informe cubierta.html",
+    &DisenarRed};
+
+std::string Fecha()
+{
+    const auto ahora = LeerReloj();
+    return ahora ? fmt::format("{}-{}-{}", ahora->iDia, ahora->iMes, ahora->iAno) : std::string();
+}
+
+void Guardar(const std::string& ruta, std::string contenido)
+{
+    const fs::path fichero(ruta);
+    EscribirFicheros(fichero.has_parent_path() ? fichero.parent_path() : fs::path("."),
+                     {{fichero.filename().string(), std::move(contenido)}});
+}
+
+class SubordenDiseno final : public Suborden {
+public:
+    explicit SubordenDiseno(const Clase& clase) : m_clase(clase) {}
+
+    CLI::App& Declarar(CLI::App& raiz) override
+    {
+        CLI::App& linea = *raiz.add_subcommand(m_clase.nombre, m_clase.descripcion);
+        Castellanizar(linea);
+        linea.add_option("PROYECTO", m_proyecto, "Fichero de proyecto, JSON")->option_text(" ");
+        linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores por su nombre en el código")
+            ->option_text(" ")
+            ->disable_flag_override();
+        linea
+            .add_option("--guardar", m_guardar,
+                        "Guarda el diseño como archivo del registro, que otro programa puede abrir")
+            ->type_name("FICHERO");
+        linea.add_option("--informe", m_informe, "Escribe un informe para imprimir, una página HTML")
+            ->type_name("FICHERO");
+        linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
+        linea.footer(m_clase.pie);
+        return linea;
+    }
+
+    int Ejecutar(std::ostream& salida) override
+    {
+        if (m_proyecto.empty())
+            throw ErrorUso(fmt::format("falta el fichero de proyecto (ayuda: efv {} --help)", m_clase.nombre));
+        for (const auto& [nombre, ruta] : {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}})
+            if (*ruta && !fs::path(**ruta).has_filename())
+                throw ErrorUso(fmt::format("{}: falta el nombre del fichero", nombre));
+        Diseno diseno = Disenar();
+        std::vector<std::string> escritos;
+        if (m_guardar) {
+            Guardar(*m_guardar, {reinterpret_cast<const char*>(diseno.archivo.data()), diseno.archivo.size()});
+            escritos.push_back(*m_guardar);
+        }
+        if (m_informe) {
+            Guardar(*m_informe, DocumentoHtml(diseno.documento, Fecha()));
+            escritos.push_back(*m_informe);
+        }
+        if (m_bJson) {
+            diseno.valores["ficheros"] = escritos;
+            salida << diseno.valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
+            return 0;
+        }
+        salida << DocumentoTexto(diseno.documento);
+        for (std::size_t i = 0; i < escritos.size(); ++i)
+            salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
+        return 0;
+    }
+
+private:
+    Diseno Disenar() const
+    {
+        const JsonLeido proyecto = LeerFicheroJson(m_proyecto);
+        try {
+            return m_clase.disenar(proyecto, m_datos);
+        } catch (const rpc::ErrorValor& error) {
+            throw ErrorEjecucion(fmt::format("«{}»: {}", m_proyecto, error.what()));
+        }
+    }
+
+    const Clase& m_clase;
+    std::string m_proyecto, m_datos;
+    std::optional<std::string> m_guardar, m_informe;
+    bool m_bJson = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Suborden> CrearSubordenAislada()
+{
+    return std::make_unique<SubordenDiseno>(kAislada);
+}
+
+std::unique_ptr<Suborden> CrearSubordenRed()
+{
+    return std::make_unique<SubordenDiseno>(kRed);
+}
+
+}  // namespace efv::orden

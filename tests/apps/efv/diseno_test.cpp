@@ -1,0 +1,328 @@
+#include <fstream>
+#include <iterator>
+
+#include "apoyo.h"
+
+namespace efv::orden::pruebas {
+namespace {
+
+const std::filesystem::path kEjemplos = std::filesystem::path(EFV_CARPETA_PRUEBAS) / "../data/ejemplos";
+
+std::string LeerTodo(const std::filesystem::path& ruta)
+{
+    std::ifstream fichero(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(fichero), {}};
+}
+
+Json Ejemplo(const char* nombre)
+{
+    return Json::parse(LeerTodo(kEjemplos / nombre));
+}
+
+// The command on a project that a test has changed.
+class Diseno : public testing::Test {
+protected:
+    Corrida Disenar(const char* orden, const Json& proyecto, std::vector<std::string> opciones = {})
+    {
+        opciones.insert(opciones.begin(), {orden, m_carpeta.Crear("proyecto.json", proyecto.dump())});
+        return Correr(opciones);
+    }
+    Json Calcular(const char* orden, const Json& proyecto)
+    {
+        const Corrida corrida = Disenar(orden, proyecto, {"--json"});
+        EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
+        return corrida.iEstado == 0 ? Json::parse(corrida.salida) : Json();
+    }
+    void EsperarFallo(const char* orden, const Json& proyecto, const char* fragmento)
+    {
+        const Corrida corrida = Disenar(orden, proyecto);
+        EXPECT_EQ(corrida.iEstado, 1) << corrida.salida;
+        EXPECT_EQ(corrida.salida, "");
+        EXPECT_NE(corrida.errores.find(fragmento), std::string::npos) << corrida.errores;
+    }
+    // One warning holds the text, and is told as a fault or as a note.
+    void EsperarAviso(const char* orden, const Json& proyecto, bool bFalta, const char* fragmento)
+    {
+        int iHallados = 0;
+        const Json json = Calcular(orden, proyecto);
+        for (const Json& aviso : json["avisos"])
+            if (aviso["texto"].get<std::string>().find(fragmento) != std::string::npos &&
+                aviso["falta"] == bFalta)
+                ++iHallados;
+        EXPECT_EQ(iHallados, 1) << fragmento << json["avisos"];
+    }
+    std::string Informe(const char* orden, const Json& proyecto)
+    {
+        const std::string ruta = (m_carpeta.Ruta() / "sub/informe.html").string();
+        EXPECT_EQ(Disenar(orden, proyecto, {"--informe", ruta}).iEstado, 0);
+        return LeerTodo(ruta);
+    }
+
+    Json Con(const char* nombre, const Json& cambios)
+    {
+        Json proyecto = Ejemplo(nombre);
+        proyecto.update(cambios);
+        return proyecto;
+    }
+    Json Casa(const Json& cambios = Json::object()) { return Con("casa-aislada.json", cambios); }
+    Json Cubierta(const Json& cambios = Json::object()) { return Con("cubierta-red.json", cambios); }
+
+    CarpetaTemporal m_carpeta;
+};
+
+// Loads: 8·7·4.5 + 150·8 + 60·3 + 50·3 + 2·2·2 + 2200·0.5 + 1500/6 + 750·0.5
+//        = 252 + 1200 + 180 + 150 + 8 + 1100 + 250 + 375 = 3515 Wh
+// Energy needed: 3515 / (0.90 · 0.94 · 0.80) = 3515 / 0.6768 = 5193.558 Wh
+// Batteries: 3515 · 3 / 48 / 0.60 = 366.146 Ah, one branch of 460 Ah (C100); 48 / 2 = 24 of 23.3 kg
+// Tilt: 40.07654 + 10 proposed, 55 fixed. K of December: at 55º 1.96 (lat. 40) and 2.02 (41), so
+//   1.96 + 0.07654 · 0.06 = 1.964592, and HSP 1.964592 · 5449.9 / 3600 = 2.97412;
+//   at 50.07654º between 1.93 and 1.96, 1.98 and 2.02: 1.934298, and 2.92826
+// Panels: 5193.558 / 2.97412 = 1746.25 Wp; proposal 5193.558 / (285.058 · 2.92826) = 6.22, 7 panels;
+//   3 in series (150 / 39.18 = 3.83), so 3 branches (7/3), 9 · 285.058 = 2565.522 Wp, regulator · 1.25
+// Rows: k = 1 / tan(20.92346º) = 2.615527; 1640 · (sin 50.07654º · k + cos 50.07654º) = 4342.09 mm
+// Area: 9 · 1.640 · 0.992 = 14.64192 m², · cos 55º = 8.39828
+TEST_F(Diseno, LaCasaAisladaDaLasCuentasAMano)
+{
+    const Json json = Calcular("aislada", Casa());
+    const Json& v = json["valores"];
+    EXPECT_NEAR(v["dEnergiaDiaria"].get<double>(), 3515, 1e-9);
+    EXPECT_NEAR(v["dEnergiaNecesaria"].get<double>(), 5193.558, 1e-3);
+    EXPECT_NEAR(v["dCapacidadNecesaria"].get<double>(), 366.1458, 1e-3);
+    EXPECT_EQ(v["iAcumuladoresSerie"], 24);
+    EXPECT_EQ(v["iAcumuladoresParalelo"], 1);
+    EXPECT_EQ(v["dCapacidadResultante"], 460.0);
+    EXPECT_NEAR(v["dPesoAcumuladores"].get<double>(), 559.2, 1e-9);
+    EXPECT_EQ(v["csMesReferencia"], "Diciembre");
+    EXPECT_NEAR(v["dInclinacionP"].get<double>(), 50.07654, 1e-9);
+    EXPECT_EQ(v["dInclinacion"], 55.0);
+    EXPECT_NEAR(v["dHSP"].get<double>(), 2.97412, 1e-5);
+    EXPECT_NEAR(v["dHSPP"].get<double>(), 2.92826, 1e-5);
+    EXPECT_NEAR(v["dPotenciaMinima"].get<double>(), 1746.25, 1e-2);
+    EXPECT_EQ(v["iPanelesNecesariosP"], 7);
+    EXPECT_EQ(v["iPanelesSerie"], 3);
+    EXPECT_EQ(v["iPanelesParalelo"], 3);
+    EXPECT_NEAR(v["dPotenciaInstalada"].get<double>(), 2565.522, 1e-9);
+    EXPECT_NEAR(v["dPotenciaMaxFV"].get<double>(), 3206.9025, 1e-9);
+    EXPECT_NEAR(v["dDistanciaFilas"].get<double>(), 4342.09, 1e-2);
+    EXPECT_NEAR(v["dSuperficieProyectada"].get<double>(), 8.39828, 1e-4);
+    EXPECT_EQ(json["avisos"], Json::array());
+    // December: 2.97412 · 2.565522 kWp · 0.6768 · 31 days; July with lamps of 2.5 h: (3515 − 8·7·2) · 31 Wh.
+    EXPECT_NEAR(json["meses"][11]["producida_kWh"].get<double>(), 160.0871, 1e-3);
+    EXPECT_NEAR(json["meses"][6]["necesaria_kWh"].get<double>(), 105.493, 1e-9);
+}
+
+// The proposal: 5000 W on an inverter of 5000 W; at most min(17.5, 500 / 31.85 = 15.7) panels in series, and
+//   one branch only, since two give 17.9 A and a tracker takes 15: 15 · 285.058 = 4275.87 W.
+// In force: 9 · 2 panels, 5131.044 W; 9 · 31.85 = 286.65 V.
+// At -5 ºC (30 below 25): Voc 9 · (39.18 + 30 · 0.116365) = 384.03855 V,
+//   Vmp 9 · (285.058 + 30 · 1.20009418) / 8.95 = 322.8545 V; at 75 ºC 9 · (285.058 − 60.004709) / 8.95
+//   = 226.3106 V. A string a tracker: 8.95 A, and 9.46 + 50 · 0.00464486 = 9.692243 A in short circuit.
+// Tilt 37.38621 − 10; rows: k = 1 / tan(23.61379º) = 2.287444; 1640 · (sin 27.38621º · k + cos) = 3181.77 mm.
+// June at 20º: K 0.95 at both latitudes: 0.95 · 25776 / 3600 · 5.131044 · 0.8 · 30 = 837.633 kWh.
+TEST_F(Diseno, LaCubiertaDaLasCuentasAMano)
+{
+    const Json json = Calcular("red", Cubierta());
+    const Json& v = json["valores"];
+    EXPECT_EQ(v["iInversores"], 1);
+    EXPECT_EQ(v["iPanelesSerieP"], 15);
+    EXPECT_EQ(v["iPanelesParaleloP"], 1);
+    EXPECT_NEAR(v["dPotenciaTotalP"].get<double>(), 4.27587, 1e-9);
+    EXPECT_EQ(v["iPanelesSerie"], 9);
+    EXPECT_EQ(v["iPanelesParalelo"], 2);
+    EXPECT_NEAR(v["dPotenciaTotal"].get<double>(), 5.131044, 1e-9);
+    EXPECT_NEAR(v["dTensionRamal"].get<double>(), 286.65, 1e-9);
+    EXPECT_NEAR(v["dInclinacionP"].get<double>(), 27.38621, 1e-9);
+    EXPECT_EQ(v["dOrientacion"], 15.0);
+    EXPECT_NEAR(v["dDistanciaFilas"].get<double>(), 3181.77, 1e-2);
+    const double adEsperados[] = {384.03855, 384.03855, 322.8545, 226.3106, 8.95, 9.692243, 5131.044, 2};
+    const Json& limites = json["comprobacion"]["limites"];
+    ASSERT_EQ(limites.size(), std::size(adEsperados));
+    for (std::size_t i = 0; i < limites.size(); ++i)
+        EXPECT_NEAR(limites[i]["valor"].get<double>(), adEsperados[i], 1e-3) << limites[i];
+    EXPECT_EQ(limites[5]["cumple"], nullptr);  // the catalogue doesn't give this inverter's limit
+    EXPECT_EQ(limites[3]["cumple"], true);
+    EXPECT_NEAR(json["comprobacion"]["ratio_cc_ca"].get<double>(), 1.0262088, 1e-6);
+    EXPECT_NEAR(json["meses"][5]["producida_kWh"].get<double>(), 837.633, 1e-3);
+}
+
+// What the archive holds, read by the scripted host, is a project again, and the same design.
+TEST_F(Diseno, ElArchivoGuardadoEsElRegistro)
+{
+    const std::string ruta = (m_carpeta.Ruta() / "casa.bin").string();
+    ASSERT_EQ(Disenar("aislada", Casa(), {"--guardar", ruta}).iEstado, 0);
+    std::string hexadecimal;
+    for (const char c : LeerTodo(ruta)) {
+        static constexpr char kCifras[] = "0123456789abcdef";
+        hexadecimal += kCifras[static_cast<unsigned char>(c) >> 4U];
+        hexadecimal += kCifras[static_cast<unsigned char>(c) & 15U];
+    }
+    Json registro =
+        Anfitrion().Resultado("rpc.archive", {{"record", "CSFVAsistenteAislada"}, {"bytes", hexadecimal}});
+    EXPECT_EQ(registro["iPanelesParalelo"], 3);
+    EXPECT_EQ(registro["dPotenciaSalidaCA"], 5000.0);
+    EXPECT_EQ(registro["adCantidad"][0], 8.0);
+    EXPECT_EQ(registro["acsModelo"][1], "Vivienda#Frigorífico 150 W");
+    EXPECT_EQ(registro["adHorasDia"][1], 8.0);
+    // January's Monday from 18:30 to 23:00, July's from 21:00.
+    EXPECT_EQ(registro["adHorario"][0], 1110.0);
+    EXPECT_EQ(registro["adHorario"][1], 1380.0);
+    EXPECT_EQ(registro["adHorario"][6 * 7 * 6], 1260.0);
+    registro["lugar"] = "Cuenca";
+    EXPECT_EQ(Calcular("aislada", registro)["valores"], Calcular("aislada", Casa())["valores"]);
+}
+
+TEST_F(Diseno, LasReglasDelHorarioPuedenALasFranjas)
+{
+    const Json receptor = Json::parse(R"({
+        "csModelo": "Radio", "iCantidad": 10,
+        "franjas": [["08:00", "09:00"], ["10:00", "11:00"], ["20:00", "24:00"]],
+        "horario": [{"meses": ["Enero", "FEB"], "dias": ["laborables"], "franjas": [["00:00", "00:30"]]},
+                    {"dias": ["sabado"], "franjas": []}]})");
+    const Json json = Calcular("aislada", Casa({{"receptores", Json::array({receptor})}}));
+    EXPECT_EQ(json["valores"]["dEnergiaDiaria"], 180.0);  // half an hour of 10 · 36 W
+    // January from a Monday: 23 working days of 0.5 h, 4 Saturdays of none, 4 Sundays of 6 h.
+    EXPECT_NEAR(json["meses"][0]["necesaria_kWh"].get<double>(), 0.36 * (23 * 0.5 + 4 * 6), 1e-9);
+    // March from a Thursday: 5 Saturdays, 26 other days of 6 h.
+    EXPECT_NEAR(json["meses"][2]["necesaria_kWh"].get<double>(), 0.36 * 26 * 6, 1e-9);
+    EsperarAviso("aislada", Casa({{"receptores", Json::array({receptor})}}), true,
+                 "0,50 h, y hay días de 6,00 h");
+}
+
+TEST_F(Diseno, LoQueSeQuedaCortoSeAvisa)
+{
+    EsperarAviso("aislada", Casa({{"iPanelesParalelo", 2}}), true, "inferior a la mínima necesaria, 1746 Wp");
+    EsperarAviso("aislada", Casa({{"iPanelesParalelo", 1}}), true, "no alcanza la necesaria en Enero");
+    EsperarAviso("aislada", Casa({{"dDiasAutonomia", 10}, {"iAcumuladoresParalelo", 2}}), true,
+                 "Capacidad Resultante, 920,0 Ah, inferior a la necesaria, 1220,5 Ah");
+    EsperarAviso("aislada", Casa({{"iPanelesSerie", 4}}), true, "156,7 V, superior a la máxima");
+    EsperarAviso("aislada", Casa({{"iPanelesSerie", 1}}), true, "31,9 V, inferior a la mínima");
+    EsperarAviso("aislada", Casa({{"dCorrienteMaxFV", 28}}), true, "28,4 A, superior");
+    EsperarAviso("aislada", Casa({{"bSalidaCA", 0}}), true, "no tiene salida en CA");
+    EsperarAviso("aislada", Casa({{"iPanelesPorFila", 3}}), true, "Distancia fila - fila en vigor, 4342 mm");
+    EsperarAviso("aislada", Casa({{"iAcumuladoresSerie", 12}}), false,
+                 "«iAcumuladoresSerie» se calcula siempre");
+    EsperarAviso("aislada", Casa({{"receptores", Json::array()}}), true, "No hay receptores");
+    EsperarAviso("red", Cubierta(), false, "17,90 A; un solo seguidor admite 15,00 A");
+    EsperarAviso("red", Cubierta({{"iPanelesParalelo", 5}}), true,
+                 "supera al número de entradas del inversor (4)");
+    EsperarAviso("red", Cubierta({{"iPanelesParalelo", 1}}), true, "inferior a la potencia mínima pedida");
+    // 15 · 42.67095 V in the cold; 15 · 39.18 = 587.7 V at standard conditions would pass.
+    EsperarAviso("red", Cubierta({{"iPanelesSerie", 15}, {"iPanelesParalelo", 1}}), true,
+                 "frío: entrada del inversor: 640,1 V, y el límite es 600,0 V");
+    EsperarAviso("red", Cubierta({{"csInversor", "AJ 350-24"}}), true,
+                 "Inversor no indicado para uso en conexión a red");
+}
+
+TEST_F(Diseno, UnLugarSePuedeDarPorSusCifras)
+{
+    Json casa = Casa(), cubierta = Cubierta();
+    casa.erase("lugar");
+    cubierta.erase("lugar");
+    const Json lugar = {{"latitud", 34.6}, {"hemisferio", "sur"}};
+    casa.update(lugar);
+    EsperarFallo("aislada", casa, "«latitud» con «radiacion»");
+    casa["radiacion"] = {25200, 22300, 18000, 12600, 8600, 6800, 7600, 10400, 14000, 18700, 22700, 25200};
+    const Json v = Calcular("aislada", casa)["valores"];
+    EXPECT_EQ(v["csMesReferencia"], "Junio");
+    EXPECT_EQ(v["dOrientacionP"], 180.0);
+    cubierta.update(lugar);
+    const Json red = Calcular("red", cubierta);
+    EXPECT_EQ(red["meses"], nullptr);  // no radiations
+    EXPECT_EQ(red["valores"]["csHemisferio"], "S");
+    cubierta["latitud"] = 65;
+    cubierta["radiacion"] = casa["radiacion"];
+    EsperarAviso("red", cubierta, true, "no llega a la latitud 65,00°");
+}
+
+TEST_F(Diseno, LoQueEstaMalEnElProyectoSeDice)
+{
+    EsperarFallo("aislada", Casa({{"iPanelesSeri", 3}}), "«iPanelesSeri»; parecidos: iPanelesSerie");
+    EsperarFallo("aislada", Casa({{"csPanel", "ET-M660285"}}), "parecidos: ET Solar#ET-M660285WW");
+    EsperarFallo("aislada", Casa({{"csAcumulador", 3}}), "csAcumulador: se esperaba un texto, llegó 3");
+    EsperarFallo("aislada", Casa({{"lugar", "Cuenka"}}), "parecidos: Cuenca");
+    EsperarFallo("aislada", Casa({{"latitud", 40}}), "«lugar» ya da");
+    EsperarFallo("aislada", Casa({{"iMesCalculo", "Diziembre"}}), "parecidos: Diciembre");
+    EsperarFallo("aislada", Casa({{"dTensionSistema", 30}}), "12, 24, 36, 48, 60 o 72");
+    EsperarFallo("aislada", Casa({{"dPerdidaCableado", 100}}), "de 0 a 99,99");
+    EsperarFallo("aislada", Casa({{"iPanelesSerie", 2.5}}), "un número entero");
+    EsperarFallo("aislada", Cubierta(), "tipo: se esperaba \"aislada\"");
+    EsperarFallo("red", Cubierta({{"temperaturaMinima", 60}, {"temperaturaMaxima", 50}}), "menor que");
+    EsperarFallo("red", Json::array(), "se esperaba un objeto");
+    const auto conReceptor = [&](const char* cambios) {
+        Json receptor = {{"csModelo", "Lavadora"}};
+        receptor.update(Json::parse(cambios));
+        return Casa({{"receptores", Json::array({receptor})}});
+    };
+    for (const auto& [cambios, fragmento] : {
+             std::pair(R"({"csModelo": "Labadora"})", "receptor 1: csModelo: en el catálogo de receptores"),
+             {R"({"franjas": [["22:00", "06:00"]]})", "franja 1: debe acabar después"},
+             {R"({"franjas": [["08:00", "10:00"], ["09:00", "11:00"]]})", "franja 2: debe empezar"},
+             {R"({"franjas": [["8h", "10:00"]]})", "una hora como"},
+             {R"({"franjas": [["23:00", "24:01"]]})", "una hora de"},
+             {R"({"franjas": [[], [], [], []]})", "hasta tres franjas"},
+             {R"({"franjas": [], "dHorario": []})", "dHorario: se esperaba una lista de 504"},
+             {R"({"horario": [{"dias": ["lunez"], "franjas": []}]})",
+              "horario: regla 1: dias: no hay ningún día «lunez»; parecidos: Lunes"},
+         })
+        EsperarFallo("aislada", conReceptor(cambios), fragmento);
+    const std::string ruta = m_carpeta.Crear("mal.json", "{\n \"lugar\": \"Cuenca\",\n \"lugar\": }");
+    EXPECT_NE(Correr({"aislada", ruta}).errores.find("«lugar» está dos veces"), std::string::npos);
+    EXPECT_NE(Correr({"red", m_carpeta.Crear("m.json", "{\n \"a\" 1}")}).errores.find("línea 2, columna 6"),
+              std::string::npos);
+    EXPECT_EQ(Correr({"red", "no-existe.json"}).iEstado, 1);
+    EXPECT_EQ(Correr({"red"}).iEstado, 2);
+}
+
+// Every element is closed by its own name: as a browser, or a reader of XML, expects.
+void EsperarBienFormado(const std::string& html)
+{
+    std::vector<std::string> abiertos;
+    for (std::size_t i = html.find('<'); i != std::string::npos; i = html.find('<', i + 1)) {
+        const std::size_t fin = html.find('>', i);
+        ASSERT_NE(fin, std::string::npos);
+        if (html[i + 1] == '!' || html[fin - 1] == '/')
+            continue;
+        const bool bCierra = html[i + 1] == '/';
+        const std::size_t inicio = i + (bCierra ? 2 : 1);
+        const std::string nombre = html.substr(inicio, html.find_first_of(" >\n", inicio) - inicio);
+        if (!bCierra) {
+            abiertos.push_back(nombre);
+            continue;
+        }
+        ASSERT_FALSE(abiertos.empty()) << nombre;
+        ASSERT_EQ(abiertos.back(), nombre) << html.substr(i, 80);
+        abiertos.pop_back();
+    }
+    EXPECT_TRUE(abiertos.empty());
+}
+
+TEST_F(Diseno, ElInformeSeBastaASiMismo)
+{
+    const std::string titulo = "<script src=\"http://malo\">&'\x01";
+    for (const auto& [orden, proyecto] :
+         {std::pair("aislada", Casa({{"titulo", titulo}})), {"red", Cubierta({{"titulo", titulo}})}}) {
+        const std::string html = Informe(orden, proyecto);
+        EsperarBienFormado(html);
+        EXPECT_EQ(html.find("<script"), std::string::npos);
+        EXPECT_NE(html.find("&lt;script src=&quot;http://malo&quot;&gt;&amp;&#39; "), std::string::npos);
+        for (const char* ajeno : {"src=\"", "href=", "url(", "@import", "<link", "<img"})
+            EXPECT_EQ(html.find(ajeno), std::string::npos) << ajeno;
+        for (const char* propio : {"<html lang=\"es\">", "size: A4", "<svg", "Datos de los modelos elegidos",
+                                   "ET-M660285WW", "Supuestos", "<th scope=\"row\""})
+            EXPECT_NE(html.find(propio), std::string::npos) << propio;
+    }
+}
+
+TEST_F(Diseno, LoEscritoQuedaEnteroYSeDice)
+{
+    const std::string ruta = (m_carpeta.Ruta() / "r.bin").string();
+    const Corrida corrida = Disenar("red", Cubierta(), {"--guardar", ruta});
+    EXPECT_NE(corrida.salida.find("Escrito: " + ruta), std::string::npos);
+    EXPECT_EQ(LeerTodo(ruta).substr(0, 4), std::string("\x03\0\0\0", 4));  // the record's schema
+    EXPECT_EQ(Disenar("red", Cubierta(), {"--guardar", m_carpeta.Ruta().string() + "/"}).iEstado, 2);
+    EXPECT_EQ(Disenar("red", Cubierta({{"iInversores", 0}}), {"--guardar", ruta}).iEstado, 1);
+    EXPECT_GT(LeerTodo(ruta).size(), 100U);
+}
+
+}  // namespace
+}  // namespace efv::orden::pruebas
