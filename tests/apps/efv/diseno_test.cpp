@@ -166,7 +166,7 @@ TEST_F(Diseno, ElArchivoGuardadoEsElRegistro)
     // January's Monday from 18:30 to 23:00, July's from 21:00.
     EXPECT_EQ(registro["adHorario"][0], 1110.0);
     EXPECT_EQ(registro["adHorario"][1], 1380.0);
-    EXPECT_EQ(registro["adHorario"][6 * 7 * 6], 1260.0);
+    EXPECT_EQ(registro["adHorario"][std::size_t{6} * 7 * 6], 1260.0);
     registro["lugar"] = "Cuenca";
     EXPECT_EQ(Calcular("aislada", registro)["valores"], Calcular("aislada", Casa())["valores"]);
 }
