@@ -149,6 +149,8 @@ private:
 
     void DeCampos()
     {
+        for (const std::string& nota : m_proyecto.notas)
+            Nota(nota);
         for (const char* campo : {"iAcumuladoresSerie", "dPotenciaMaxFV", "dKaAjustado", "dR"})
             if (m_proyecto.fijados.contains(campo))
                 Nota(fmt::format("«{}» se calcula siempre: el valor del fichero no cuenta.", campo));

@@ -202,6 +202,9 @@ TEST_F(Diseno, LoQueSeQuedaCortoSeAvisa)
     EsperarAviso("aislada", Casa({{"iAcumuladoresSerie", 12}}), false,
                  "«iAcumuladoresSerie» se calcula siempre");
     EsperarAviso("aislada", Casa({{"receptores", Json::array()}}), true, "No hay receptores");
+    const Json radio =
+        Json::parse(R"([{"csModelo": "Radio", "dPotencia": 40, "franjas": [["08:00", "09:00"]]}])");
+    EsperarAviso("aislada", Casa({{"receptores", radio}}), false, "se calcula con 40,0 W");
     EsperarAviso("red", Cubierta(), false, "17,90 A; un solo seguidor admite 15,00 A");
     EsperarAviso("red", Cubierta({{"iPanelesParalelo", 5}}), true,
                  "supera al número de entradas del inversor (4)");
