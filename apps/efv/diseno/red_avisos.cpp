@@ -76,7 +76,9 @@ private:
                 fmt::format("Tensión a circuito abierto del ramal, {}, superior a la máxima de entrada del "
                             "inversor, {} (STC).",
                             Con(dVoc, 1, "V"), Con(v.inversor.dVCCMax, 0, "V")));
-        if (v.inversor.dIMaxEntrada > 0.0 && dCorriente > v.inversor.dIMaxEntrada + kTolerancia) {
+        // On a single tracker the check at the temperatures says it.
+        if (v.inversor.iNumMPPT > 1 && v.inversor.dIMaxEntrada > 0.0 &&
+            dCorriente > v.inversor.dIMaxEntrada + kTolerancia) {
             Nota(fmt::format(
                 "Los ramales de un inversor dan {}; un solo seguidor admite {}: repártalos entre los "
                 "{} seguidores.",

@@ -133,7 +133,7 @@ std::vector<std::string> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
             "Energía de un mes: potencia instalada × horas de sol pico × rendimiento {}{} × días. La radiación "
             "sobre "
             "el plano es la horizontal por el factor K de la tabla, para un campo orientado al ecuador: la "
-            "orientación no entra en ninguna fórmula. Sin sombras.",
+            "orientación no entra en ninguna fórmula. Sin sombras y sin recorte por la potencia del inversor.",
             Decimal(proyecto.Rendimiento(), 2), porDefecto(proyecto.dRendimiento)));
     }
     return supuestos;
