@@ -70,6 +70,22 @@ struct Catalogos {
     }
 };
 
+// The record keeps model, units and bands of a load, and the sizing minds nothing else.
+void AnotarCargas(ProyectoAislada& proyecto, const CatalogoDatos& catalogo)
+{
+    for (const auto& receptor : proyecto.receptores) {
+        const std::string id = CadenaUtf8(receptor->csModelo);
+        const double dCatalogo = dynamic_cast<const CBaseReceptorModelo&>(catalogo.Buscar(id)).dP;
+        if (receptor->dPotencia != dCatalogo)
+            proyecto.notas.push_back(
+                fmt::format("{}: se calcula con {}; el archivo no guarda la potencia, y quien lo "
+                            "abra tomará la del catálogo, {}.",
+                            id, Con(receptor->dPotencia, 1, "W"), Con(dCatalogo, 1, "W")));
+        if (receptor->bNoCalcular != 0)
+            proyecto.notas.push_back(fmt::format("{}: «bNoCalcular» no lo saca del dimensionado.", id));
+    }
+}
+
 void LeerCargas(Objeto& objeto, ProyectoAislada& proyecto, const Catalogos& catalogos)
 {
     const JsonLeido* lista = objeto.Buscar("receptores");
@@ -80,6 +96,7 @@ void LeerCargas(Objeto& objeto, ProyectoAislada& proyecto, const Catalogos& cata
                           [&] { proyecto.receptores = LeerReceptores(*lista, catalogos.receptores); });
     else
         proyecto.receptores = ReceptoresDelRegistro(proyecto.registro, catalogos.receptores);
+    AnotarCargas(proyecto, catalogos.receptores);
 }
 
 ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const std::string& csDatos)

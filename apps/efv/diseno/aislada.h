@@ -19,6 +19,7 @@ struct ProyectoAislada {
     CSFVAsistenteAislada registro;
     std::set<std::string> fijados;  ///< fields of the record that the file gives
     CObArrayPropio<CSFVDataReceptor> receptores;
+    std::vector<std::string> notas;  ///< what must be known of the loads as the file gives them
     const CBaseAcumuladorModelo* acumulador = nullptr;
     const CBasePanelFotoModelo* panel = nullptr;
 };

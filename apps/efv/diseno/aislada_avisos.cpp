@@ -49,14 +49,15 @@ private:
     void DeResultados()
     {
         const auto& v = m_v;
-        if (v.dCapacidadAcumulador <= 0.0)
+        if (v.dCapacidadAcumulador <= 0.0) {
             Falta(
                 "Las dos mayores capacidades del acumulador en el catálogo son iguales o no las tiene: no hay "
                 "capacidad con que calcular.");
-        else
+        } else {
             FaltaSi(v.dCapacidadNecesaria > v.dCapacidadResultante + kTolerancia,
                     fmt::format("Capacidad Resultante, {}, inferior a la necesaria, {}.",
                                 Con(v.dCapacidadResultante, 1, "Ah"), Con(v.dCapacidadNecesaria, 1, "Ah")));
+        }
         AvisarDelPlano(m_proyecto.lugar, v.dInclinacion, m_avisos);
         FaltaSi(v.dHSP <= kTolerancia,
                 "Sin horas de sol pico en el mes de referencia no hay potencia necesaria "
@@ -96,22 +97,24 @@ private:
     {
         const auto& v = m_v;
         const int iTotal = v.iTotalPaneles, iAcumuladores = v.iTotalAcumuladores;
-        if (v.iPanelesParalelo > kMuchosRamalesPaneles)
+        if (v.iPanelesParalelo > kMuchosRamalesPaneles) {
             Nota(
                 fmt::format("El número de ramas de paneles ({}) es una cantidad muy elevada y puede afectar al "
                             "trazado de la instalación.",
                             v.iPanelesParalelo));
-        else if (iTotal >= kMuchos)
+        } else if (iTotal >= kMuchos) {
             Nota(fmt::format("El número de paneles de la instalación ({}) es una cantidad muy elevada.",
                              iTotal));
-        if (v.iAcumuladoresParalelo > kMuchosRamalesAcumuladores)
+        }
+        if (v.iAcumuladoresParalelo > kMuchosRamalesAcumuladores) {
             Nota(fmt::format(
                 "El número de ramas de acumuladores ({}) es una cantidad muy elevada y puede afectar "
                 "al trazado de la instalación.",
                 v.iAcumuladoresParalelo));
-        else if (iAcumuladores >= kMuchos)
+        } else if (iAcumuladores >= kMuchos) {
             Nota(fmt::format("El número de acumuladores de la instalación ({}) es una cantidad muy elevada.",
                              iAcumuladores));
+        }
     }
 
     void DeReceptores()
@@ -136,15 +139,18 @@ private:
         }
         if (dPotenciaCA > 0.0 && m_v.bSalidaCA == 0)
             Falta("Hay receptores de corriente alterna y la instalación no tiene salida en CA («bSalidaCA»).");
-        else if (dPotenciaCA > m_proyecto.registro.dPotenciaSalidaCA + kTolerancia)
+        else if (dPotenciaCA > m_proyecto.registro.dPotenciaSalidaCA + kTolerancia) {
             Nota(fmt::format(
                 "Los receptores de alterna suman {}, más que la salida en CA, {}: no pueden funcionar "
                 "todos a la vez.",
                 Con(dPotenciaCA, 0, "W"), Con(m_proyecto.registro.dPotenciaSalidaCA, 0, "W")));
+        }
     }
 
     void DeCampos()
     {
+        for (const std::string& nota : m_proyecto.notas)
+            Nota(nota);
         for (const char* campo : {"iAcumuladoresSerie", "dPotenciaMaxFV", "dKaAjustado", "dR"})
             if (m_proyecto.fijados.contains(campo))
                 Nota(fmt::format("«{}» se calcula siempre: el valor del fichero no cuenta.", campo));

@@ -171,19 +171,22 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
         SeccionLugar(proyecto.lugar), SeccionReceptores(proyecto), SeccionEnergia(v),
         SeccionAcumuladores(v),       SeccionPaneles(v),           SeccionRegulador(proyecto, v),
         SeccionGeometria(v),          SeccionMeses(estudio.ano)};
-    documento.supuestos = {
-        "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.",
+    documento.supuestos.emplace_back(
+        "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.");
+    documento.supuestos.emplace_back(
         "El dimensionado toma las horas de uso de un lunes de enero; la energía necesaria de cada mes, las de "
-        "cada tipo de día.",
+        "cada tipo de día.");
+    documento.supuestos.emplace_back(
         "Los acumuladores se dimensionan con la energía de los receptores; los paneles, con la energía "
-        "necesaria "
-        "antes de las pérdidas.",
+        "necesaria antes de las pérdidas.");
+    documento.supuestos.emplace_back(
         "La radiación sobre el plano es la horizontal por el factor K de la tabla, para un campo orientado al "
-        "ecuador: la orientación no entra en ninguna fórmula.",
+        "ecuador: la orientación no entra en ninguna fórmula.");
+    documento.supuestos.emplace_back(
         "Energía producida de un mes: potencia instalada × horas de sol pico × (1 − pérdidas) × días. La que "
-        "sobra en un mes no pasa al siguiente.",
-        "La tensión del ramal es la de condiciones STC: con frío la de circuito abierto es mayor.",
-    };
+        "sobra en un mes no pasa al siguiente.");
+    documento.supuestos.emplace_back(
+        "La tensión del ramal es la de condiciones STC: con frío la de circuito abierto es mayor.");
     return documento;
 }
 

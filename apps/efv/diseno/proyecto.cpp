@@ -25,24 +25,26 @@ std::array<double, kMeses> LeerRadiacion(const JsonLeido& j)
     if (!j.is_array() || j.size() != kMeses)
         rpc::Esperaba("una lista de 12 radiaciones en kJ/m²·día, enero primero", j);
     std::array<double, kMeses> adRadiacion{};
-    for (std::size_t m = 0; m < kMeses; ++m)
+    for (std::size_t m = 0; m < kMeses; ++m) {
         rpc::NombrarLugar([&] { return NombreMes(m); },
                           [&] {
                               adRadiacion[m] = LeerNumero(j[m], {0.0, kRadiacionMaxima});
                           });
+    }
     const double dMayor = std::ranges::max(adRadiacion);
-    if (dMayor > 0.0 && dMayor < kRadiacionSospechosa)
+    if (dMayor > 0.0 && dMayor < kRadiacionSospechosa) {
         throw rpc::ErrorValor(
             fmt::format("ningún mes llega a {} kJ/m²·día; si los valores están en kWh/m²·día, "
                         "multiplíquelos por 3600",
                         DecimalExacto(kRadiacionSospechosa)));
+    }
     return adRadiacion;
 }
 
 bool LeerHemisferio(const JsonLeido& j)
 {
-    if (j == 1 || j == 0)
-        return j == 1;
+    if (j.is_number())
+        return LeerEntero(j, {0.0, 1.0}) == 1;
     const CString csTexto = Plegar(CadenaDesdeUtf8(j.is_string() ? LeerTexto(j) : std::string()));
     if (csTexto != L"n" && csTexto != L"norte" && csTexto != L"s" && csTexto != L"sur")
         rpc::Esperaba("\"N\" o \"S\"", j);

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kMesesAno = 12, kDias = 7, kMinutosDia = 1440;
 constexpr std::size_t kFranjas = 3;
-constexpr std::size_t kValoresDia = 2 * kFranjas, kValores = kMesesAno * kDias * kValoresDia;
+constexpr std::size_t kValoresDia = 2 * kFranjas, kValores = kValoresDia * kMesesAno * kDias;
 constexpr double kCantidadMaxima = 1e6;
 constexpr std::ptrdiff_t kReceptoresMaximos = 1000;
 

@@ -76,11 +76,14 @@ private:
                 fmt::format("Tensión a circuito abierto del ramal, {}, superior a la máxima de entrada del "
                             "inversor, {} (STC).",
                             Con(dVoc, 1, "V"), Con(v.inversor.dVCCMax, 0, "V")));
-        if (v.inversor.dIMaxEntrada > 0.0 && dCorriente > v.inversor.dIMaxEntrada + kTolerancia)
+        // On a single tracker the check at the temperatures says it.
+        if (v.inversor.iNumMPPT > 1 && v.inversor.dIMaxEntrada > 0.0 &&
+            dCorriente > v.inversor.dIMaxEntrada + kTolerancia) {
             Nota(fmt::format(
                 "Los ramales de un inversor dan {}; un solo seguidor admite {}: repártalos entre los "
                 "{} seguidores.",
                 Con(dCorriente, 2, "A"), Con(v.inversor.dIMaxEntrada, 2, "A"), v.inversor.iNumMPPT));
+        }
     }
 
     void DeTemperaturas()
@@ -95,11 +98,12 @@ private:
                                                     Con(c.dLimite, texto.iDecimales, texto.unidad)));
         }
         const double dRatio = m_estudio.comprobacion.dRatioCCCA;
-        if (dRatio < kRatioMinimo || dRatio > kRatioMaximo)
+        if (dRatio < kRatioMinimo || dRatio > kRatioMaximo) {
             Nota(fmt::format(
                 "Relación entre la potencia de los paneles y la nominal del inversor: {}; lo habitual "
                 "es de {} a {}.",
                 Decimal(dRatio, 2), Decimal(kRatioMinimo, 2), Decimal(kRatioMaximo, 2)));
+        }
     }
 
     void DeEnergia()

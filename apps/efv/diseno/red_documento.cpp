@@ -128,13 +128,14 @@ std::vector<std::string> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
         "Los ramales se reparten entre los seguidores del inversor lo más igual posible. La corriente de "
         "cortocircuito no lleva margen por irradiancias superiores a 1000 W/m².",
     };
-    if (bEnergia)
+    if (bEnergia) {
         supuestos.push_back(fmt::format(
             "Energía de un mes: potencia instalada × horas de sol pico × rendimiento {}{} × días. La radiación "
             "sobre "
             "el plano es la horizontal por el factor K de la tabla, para un campo orientado al ecuador: la "
-            "orientación no entra en ninguna fórmula. Sin sombras.",
+            "orientación no entra en ninguna fórmula. Sin sombras y sin recorte por la potencia del inversor.",
             Decimal(proyecto.Rendimiento(), 2), porDefecto(proyecto.dRendimiento)));
+    }
     return supuestos;
 }
 

@@ -132,15 +132,16 @@ Dato DatoDoble(std::string rotulo, int iEnVigor, int iPropuesta)
 
 void AvisarDelPlano(const LugarProyecto& lugar, double dInclinacion, std::vector<Aviso>& avisos)
 {
-    if (!FactoresK(lugar, 0.0))
+    if (!FactoresK(lugar, 0.0)) {
         avisos.push_back(
             {true, fmt::format("La tabla de factores K no llega a la latitud {}°: no hay radiación "
                                "sobre el plano.",
                                Decimal(lugar.dLatitud, 2))});
-    else if (dInclinacion < 0.0 || dInclinacion > 90.0)
+    } else if (dInclinacion < 0.0 || dInclinacion > 90.0) {
         avisos.push_back({true, fmt::format("La inclinación en vigor, {}°, está fuera de 0° a 90°: la tabla de "
                                             "factores K no da radiación sobre ese plano. Fije «dInclinacion».",
                                             Decimal(dInclinacion, 2))});
+    }
 }
 
 void AvisarDeFilas(const LugarProyecto& lugar, const Filas& filas, std::vector<Aviso>& avisos)

@@ -41,7 +41,7 @@ constexpr Clase kAislada = {
     "  titulo              nombre del proyecto en el informe\n"
     "y los campos del registro por su nombre: dDiasAutonomia, dTensionSistema, iMesCalculo (0 a 14, o\n"
     "\"Diciembre\", \"Desfavorable\"...), dProfundidadDescarga, dTensionMaxFV, iPanelesSerie... Lo que fija\n"
-    "el fichero queda en vigor; lo demás toma la propuesta del programa.\n"
+    "el fichero queda en vigor; lo demás toma la propuesta del programa. Los avisos no son errores.\n"
     "Ejemplo:\n  efv aislada casa-aislada.json --informe casa.html",
     &DisenarAislada};
 
@@ -56,7 +56,7 @@ constexpr Clase kRed = {
     "  titulo              nombre del proyecto en el informe\n"
     "y los campos del registro por su nombre: dPotenciaObjetivo (kW), iInversores, iPanelesSerie,\n"
     "iPanelesParalelo, dInclinacion, iDisposicion... Lo que fija el fichero queda en vigor; lo demás toma\n"
-    "la propuesta del programa.\n"
+    "la propuesta del programa. Los avisos no son errores.\n"
     "Ejemplo:\n  efv red cubierta-red.json --informe cubierta.html",
     &DisenarRed};
 

@@ -166,7 +166,7 @@ TEST_F(Diseno, ElArchivoGuardadoEsElRegistro)
     // January's Monday from 18:30 to 23:00, July's from 21:00.
     EXPECT_EQ(registro["adHorario"][0], 1110.0);
     EXPECT_EQ(registro["adHorario"][1], 1380.0);
-    EXPECT_EQ(registro["adHorario"][6 * 7 * 6], 1260.0);
+    EXPECT_EQ(registro["adHorario"][std::size_t{6} * 7 * 6], 1260.0);
     registro["lugar"] = "Cuenca";
     EXPECT_EQ(Calcular("aislada", registro)["valores"], Calcular("aislada", Casa())["valores"]);
 }
@@ -202,6 +202,9 @@ TEST_F(Diseno, LoQueSeQuedaCortoSeAvisa)
     EsperarAviso("aislada", Casa({{"iAcumuladoresSerie", 12}}), false,
                  "«iAcumuladoresSerie» se calcula siempre");
     EsperarAviso("aislada", Casa({{"receptores", Json::array()}}), true, "No hay receptores");
+    const Json radio =
+        Json::parse(R"([{"csModelo": "Radio", "dPotencia": 40, "franjas": [["08:00", "09:00"]]}])");
+    EsperarAviso("aislada", Casa({{"receptores", radio}}), false, "se calcula con 40,0 W");
     EsperarAviso("red", Cubierta(), false, "17,90 A; un solo seguidor admite 15,00 A");
     EsperarAviso("red", Cubierta({{"iPanelesParalelo", 5}}), true,
                  "supera al número de entradas del inversor (4)");
