@@ -50,6 +50,11 @@ public:
     // NOLINTNEXTLINE(misc-unconventional-assign-operator): an operation among the virtual ones
     virtual CSFVDataReceptor& operator=(const CSFVDataReceptor& otro);
 
+    /// Opens the load's dialog with month `iMes` (0 to 11) and day type 0 on view. On acceptance model, units,
+    /// power, exclusion and bands are taken back; the other electrical data aren't.
+    /// @param iAux handed on to the choice of months, which makes no use of it
+    /// @return 1 when the person accepted, 2 when not
+    virtual unsigned EditarPropiedades(int iMes, int iAux);
     /// Appends the load's row, with the load as its object: units, model, "CC" or "CA", power of a unit (W),
     /// hours of use, energy of that day (Wh); ticked when it counts in consumption sums. @return 1
     virtual unsigned InsertarEnLista(CListCtrl& lista, int iMes, int iDia);
@@ -92,6 +97,45 @@ public:
 
     static const CRuntimeClass& GetThisClass();
 };
+
+// ---------------------------------------------------------------------------------------------------
+// Dialogs
+// ---------------------------------------------------------------------------------------------------
+
+/// Opens the dialog of a consumption element. On acceptance all arguments but the last two are taken back:
+/// the loads that were there end, and new ones take their place. Otherwise nothing changes.
+/// @param csReferencia   name of the element; can't be accepted empty
+/// @param lReceptores    loads
+/// @param iTipoEntrada   0 hour by hour, 1 by day type and load
+/// @param iPatron        preset of the last hour-by-hour edit, 0 to 8
+/// @param dPotMaxima     greatest power at once, W
+/// @param adHoras        hourly year, Wh
+/// @param adMes          energies by month and tariff period, kWh
+/// @param aiPeriodoHora  tariff period of each hour of the day, 0 to 2
+/// @param bExcluir       not 0: left out of the calculation
+/// @param iRotulacion    choice of labelling, kept and handed back
+/// @param iAux           second argument of the loads' EditarPropiedades
+/// @param dHusoHorario   offset of the official time, degrees
+/// @return 1 when accepted, else 2
+EFV_API int phShowPropertyConsumo(CString& csReferencia, CObArrayPropio<CSFVDataReceptor>& lReceptores,
+                                  int& iTipoEntrada, int& iPatron, double& dPotMaxima, double (&adHoras)[8760],
+                                  double (&adMes)[12][6], int (&aiPeriodoHora)[24], int& bExcluir,
+                                  int& iRotulacion, int& iAux, double& dHusoHorario);
+
+/// Opens the dialog of a load. On acceptance what the person may change is taken back.
+/// @param csReferencia   name of the load; can't be accepted empty
+/// @param csModelo       identification "family#model"; can't be accepted empty
+/// @param bModelo        not 0: the model may be chosen
+/// @param dHorario       bands of use, as in CSFVDataReceptor
+/// @param bExcluir       not 0: left out of the calculation
+/// @param iReservado     handed back as it came
+/// @param iCantidad      units; written when they are asked for
+/// @param bPedirCantidad not 0: the units are asked for; 0: they count as 0, and the manufacturer is shown
+/// @param iReservado1, iReservado2  without effect
+/// @return 1 when accepted, else 2, with nothing written
+EFV_API int phShowPropertyReceptor(CString& csReferencia, CString& csModelo, int& bModelo,
+                                   double (&dHorario)[12][7][6], int& bExcluir, int& iReservado, int& iCantidad,
+                                   int bPedirCantidad, int iReservado1, int iReservado2);
 
 namespace efv {
 

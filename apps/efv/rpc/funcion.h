@@ -59,6 +59,8 @@ std::string NombreTipo()
         return "CStringArray";
     } else if constexpr (std::is_same_v<T, CArray<double, double&>>) {
         return "CArray<double,double&>";
+    } else if constexpr (std::is_same_v<T, CObArrayPropio<CSFVDataReceptor>>) {
+        return "CObArrayPropio<CSFVDataReceptor>";
     } else if constexpr (std::is_same_v<T, IBIMCtrl>) {
         return "IBIMCtrl";
     } else {
@@ -85,9 +87,11 @@ class Argumento<T> {
 public:
     void Leer(const Json& j, const Contexto&) { LeerValor(j, EnFila(m_valores)); }
     T Pasar() { return m_valores; }
-    void Escribir(std::string& salida) { EscribirValor(salida, std::span<const double>(EnFila(m_valores))); }
+    void Escribir(std::string& salida) { EscribirValor(salida, std::span<const Elemento>(EnFila(m_valores))); }
 
 private:
+    using Elemento = std::remove_const_t<std::remove_all_extents_t<std::remove_reference_t<T>>>;
+
     std::remove_const_t<std::remove_reference_t<T>> m_valores{};
 };
 

@@ -199,6 +199,16 @@ constexpr auto kFunciones = std::to_array<Funcion>({
 
     // All catalogues
     Funcion::De<&phCargarBasesHE5>("phCargarBasesHE5", "lista"),
+
+    // Consumption
+    Funcion::De<&phShowPropertyConsumo>(
+        "phShowPropertyConsumo",
+        "csReferencia, lReceptores, iTipoEntrada, iPatron, dPotMaxima, adHoras, adMes, aiPeriodoHora, "
+        "bExcluir, iRotulacion, iAux, dHusoHorario"),
+    Funcion::De<&phShowPropertyReceptor>(
+        "phShowPropertyReceptor",
+        "csReferencia, csModelo, bModelo, dHorario, bExcluir, iReservado, iCantidad, bPedirCantidad, "
+        "iReservado1, iReservado2"),
 });
 
 }  // namespace

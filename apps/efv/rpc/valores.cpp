@@ -144,16 +144,31 @@ void LeerValor(const Json& j, CStringArray& acs)
     LeerLista(Lista(j, "una lista de textos"), acs);
 }
 
-void LeerValor(const Json& j, std::span<double> ad)
+namespace {
+
+template <class N>
+void LeerFila(const Json& j, std::span<N> valores, std::string_view clase)
 {
     if (j.is_null()) {
-        std::ranges::fill(ad, 0.0);
+        std::ranges::fill(valores, N{});
         return;
     }
-    if (!j.is_array() || j.size() != ad.size())
-        Esperaba(fmt::format("una lista de {} números", ad.size()), j);
-    for (std::size_t i = 0; i < ad.size(); ++i)
-        NombrarLugar([&] { return fmt::format("elemento {}", i); }, [&] { LeerValor(j[i], ad[i]); });
+    if (!j.is_array() || j.size() != valores.size())
+        Esperaba(fmt::format("una lista de {} {}", valores.size(), clase), j);
+    for (std::size_t i = 0; i < valores.size(); ++i)
+        NombrarLugar([&] { return fmt::format("elemento {}", i); }, [&] { LeerValor(j[i], valores[i]); });
+}
+
+}  // namespace
+
+void LeerValor(const Json& j, std::span<double> ad)
+{
+    LeerFila(j, ad, "números");
+}
+
+void LeerValor(const Json& j, std::span<int> ai)
+{
+    LeerFila(j, ai, "enteros");
 }
 
 void EscribirValor(std::string& salida, int n)
@@ -192,6 +207,11 @@ void EscribirValor(std::string& salida, const CStringArray& acs)
 void EscribirValor(std::string& salida, std::span<const double> ad)
 {
     EscribirLista(salida, ad);
+}
+
+void EscribirValor(std::string& salida, std::span<const int> ai)
+{
+    EscribirLista(salida, ai);
 }
 
 namespace {

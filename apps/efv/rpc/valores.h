@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -10,6 +11,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "rpc/errores.h"
 #include "rpc/json.h"
 
 namespace efv::orden::rpc {
@@ -24,8 +26,9 @@ void LeerValor(const Json& j, double& d);
 void LeerValor(const Json& j, CString& cs);
 void LeerValor(const Json& j, CArray<double, double&>& ad);
 void LeerValor(const Json& j, CStringArray& acs);
-/// A list of exactly as many numbers as `ad` has places.
+/// A list of exactly as many numbers as there are places.
 void LeerValor(const Json& j, std::span<double> ad);
+void LeerValor(const Json& j, std::span<int> ai);
 
 void EscribirValor(std::string& salida, int n);
 void EscribirValor(std::string& salida, double d);
@@ -34,6 +37,7 @@ void EscribirValor(std::string& salida, const wchar_t* cs);
 void EscribirValor(std::string& salida, const CArray<double, double&>& ad);
 void EscribirValor(std::string& salida, const CStringArray& acs);
 void EscribirValor(std::string& salida, std::span<const double> ad);
+void EscribirValor(std::string& salida, std::span<const int> ai);
 /// {"csArchivo","bEdicion","iCargada","aFamilias":[names of the latitudes or families]}
 void EscribirValor(std::string& salida, const CBaseXML& base);
 
@@ -42,12 +46,40 @@ void EscribirRegistro(std::string& salida, CObject& registro);
 /// Fields that `j` lacks keep what they have; one that the record lacks is an error.
 void LeerRegistro(const Json& j, CObject& registro);
 
-/// The doubles of an array of any number of dimensions, in memory order.
-template <class T>
-requires std::is_array_v<T> std::span<double> EnFila(T& valores)
+/// A list of records, which are objects.
+template <class R>
+void LeerValor(const Json& j, CObArrayPropio<R>& registros)
 {
-    static_assert(std::is_same_v<std::remove_all_extents_t<T>, double>);
-    return {reinterpret_cast<double*>(&valores), sizeof(T) / sizeof(double)};
+    registros.RemoveAll();
+    if (j.is_null())
+        return;
+    if (!j.is_array())
+        Esperaba("una lista de registros", j);
+    for (const Json& elemento : j)
+        NombrarLugar([&] { return "elemento " + std::to_string(registros.GetSize() - 1); },
+                     [&] { LeerRegistro(elemento, registros.Add(std::make_unique<R>())); });
+}
+
+template <class R>
+void EscribirValor(std::string& salida, const CObArrayPropio<R>& registros)
+{
+    salida += '[';
+    for (std::ptrdiff_t i = 0; i < registros.GetSize(); ++i) {
+        if (i > 0)
+            salida += ',';
+        EscribirRegistro(salida, registros[i]);
+    }
+    salida += ']';
+}
+
+/// The numbers of an array of any number of dimensions, in memory order.
+template <class T>
+requires std::is_array_v<T>
+auto EnFila(T& valores)
+{
+    using Elemento = std::remove_all_extents_t<T>;
+    static_assert(std::is_same_v<Elemento, double> || std::is_same_v<Elemento, int>);
+    return std::span<Elemento>(reinterpret_cast<Elemento*>(&valores), sizeof(T) / sizeof(Elemento));
 }
 
 }  // namespace efv::orden::rpc

@@ -39,7 +39,13 @@ public:
 class EFV_API CFileException : public CException {
 public:
     /// Causes that a caller tells apart, numbered as in archives of messages.
-    enum Causa : int { generica = 1, noEncontrado = 2, accesoDenegado = 5, violacionComparticion = 11 };
+    enum Causa : int {
+        generica = 1,
+        noEncontrado = 2,
+        accesoDenegado = 5,
+        violacionComparticion = 11,
+        discoLleno = 13
+    };
 
     CFileException(Causa causa, const std::string& texto);
     ~CFileException() override;

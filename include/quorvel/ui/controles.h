@@ -221,11 +221,12 @@ public:
     using Control::Control;
     int iMinimo = 0, iMaximo = 100;  ///< both reached
     int iValor = 0;
-    int iPaso = 1;                  ///< of an arrow key
-    int iPasoGrande = 10;           ///< of the keys of a page and of a click beside the knob
-    std::function<void()> alMover;  ///< after each movement by the person, at every place on the way
+    int iPaso = 1;                     ///< of an arrow key
+    int iPasoGrande = 10;              ///< of the keys of a page and of a click beside the knob
+    std::function<void()> alMover;     ///< after each movement by the person, at every place on the way
+    std::function<CString(int)> leer;  ///< how a value reads; none: as its number
 
-    CString Texto() const override { return std::to_wstring(iValor); }
+    CString Texto() const override { return leer ? leer(iValor) : std::to_wstring(iValor); }
     Valor ValorActual() const override { return iValor; }
     void Visitar(VisitanteControl& visitante) override;
 };

@@ -84,11 +84,24 @@ std::optional<std::string> LeerFichero(const CString& csRuta, std::size_t maximo
 
 namespace {
 
+CFileException::Causa CausaDe(int error)
+{
+    switch (error) {
+        case EACCES:
+        case EPERM:
+        case EROFS:
+            return CFileException::accesoDenegado;
+        case ENOSPC:
+        case EDQUOT:
+            return CFileException::discoLleno;
+        default:
+            return CFileException::generica;
+    }
+}
+
 [[noreturn]] void FallarEscritura(const CString& csRuta, int error)
 {
-    throw CFileException(error == EACCES || error == EPERM || error == EROFS ? CFileException::accesoDenegado
-                                                                             : CFileException::generica,
-                         CadenaUtf8(csRuta) + ": " + std::generic_category().message(error));
+    throw CFileException(CausaDe(error), CadenaUtf8(csRuta) + ": " + std::generic_category().message(error));
 }
 
 bool EscribirTodo(int fd, std::string_view bytes)

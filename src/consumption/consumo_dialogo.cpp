@@ -1,0 +1,354 @@
+#include "consumption/consumo_dialogo.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <fmt/format.h>
+#include <fmt/xchar.h>
+
+#include "consumption/consumo_dia_dialogo.h"
+#include "consumption/hora_hora_dialogo.h"
+#include "consumption/nombres.h"
+#include "consumption/receptor_catalogo.h"
+#include "platform/numero/conversion.h"
+#include "solar/calendario.h"
+
+namespace {
+
+namespace ui = efv::ui;
+using P = efv::consumption::DatosConsumo;
+using efv::numero::nuConvertFltToIntlStr;
+
+constexpr int kAnoReferencia = 2018;  // of the weekdays on view: 365 days from a Monday
+constexpr double kMil = 1000.0;
+
+constexpr auto kTipos =
+    std::to_array<std::wstring_view>({L"Detallado hora a hora", L"Según el tipo de día y de receptor"});
+constexpr auto kColumnasReceptores =
+    std::to_array<std::wstring_view>({L"Und.", L"Modelo", L"Red", L"Potencia (W)", L"h/día", L"Energia (Wh)"});
+
+constexpr auto kFilas = std::to_array<ui::Fila<P>>({
+    {.nombre = "csReferencia", .campo = &P::csReferencia, .rotulo = L"Referencia:"},
+    {.nombre = "iTipoEntrada",
+     .campo = &P::iTipoEntrada,
+     .rotulo = L"Entrada de datos de consumo anual:  ",
+     .entradas = kTipos},
+    {.nombre = "bExcluir", .campo = &P::bExcluir, .rotulo = L"Excluir del cálculo", .casilla = true},
+    {.nombre = "dPotMaxima", .campo = &P::dPotMaxima, .rotulo = L"Potencia máx. simultánea (W):"},
+});
+
+constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
+    {"csReferencia", ui::Vacio<&P::csReferencia>, L"El consumo eléctrico no tiene una referencia válida."},
+});
+
+// The energy of each day of the year, days by months.
+class TablaDeDias final : public ui::ModeloFilas {
+public:
+    explicit TablaDeDias(std::shared_ptr<const efv::AnoHorario> adHoras) : m_adHoras(std::move(adHoras)) {}
+
+    int Filas() const override { return 31; }
+    CString Celda(int iFila, int iColumna) const override
+    {
+        if (iColumna == 0)
+            return std::to_wstring(iFila + 1);
+        const auto iMes = static_cast<std::size_t>(iColumna - 1);
+        if (iMes >= 12 || iFila >= efv::solar::kDiasMesReferencia[iMes])
+            return {};
+        return nuConvertFltToIntlStr(efv::SumaDeHoras(*m_adHoras, efv::HorasDeDia(iColumna - 1, iFila)), 0);
+    }
+
+private:
+    std::shared_ptr<const efv::AnoHorario> m_adHoras;
+};
+
+CString TextoResumen(const efv::ResumenConsumo& resumen, int iMes)
+{
+    const auto enMiles = [](double d) { return nuConvertFltToIntlStr(d / kMil, 2); };
+    return fmt::format(
+        L"Potencia total instalada: {} kW.\r\nEnergía diaria consumida: {} kWh.\r\nEnergía mensual "
+        L"[{}] consumida: {} kWh.",
+        enMiles(resumen.dPotencia), enMiles(resumen.dEnergiaDia), efv::solar::NombreMesCorto(iMes),
+        enMiles(resumen.dEnergiaMes));
+}
+
+}  // namespace
+
+CObArrayPropio<CSFVDataReceptor> efv::consumption::CopiarReceptores(
+    const CObArrayPropio<CSFVDataReceptor>& lReceptores)
+{
+    CObArrayPropio<CSFVDataReceptor> copias;
+    for (const auto& receptor : lReceptores)
+        copias.Add(std::make_unique<CSFVDataReceptor>(*receptor));
+    return copias;
+}
+
+CDlgDatosConsumo::CDlgDatosConsumo(const P& inicial, const CObArrayPropio<CSFVDataReceptor>& receptores,
+                                   efv::AnoHorarioVista horas)
+    : DialogoFicha("CDlgDatosConsumo", L"Datos del consumo eléctrico", inicial, kComprobaciones),
+      lReceptores(efv::consumption::CopiarReceptores(receptores))
+{
+    bMaximizable = true;
+    std::ranges::copy(horas, adHoras->begin());
+    Anadir(kFilas);
+    ControlDe<ui::Seleccion>("iTipoEntrada").alElegir = [this] { AlElegirTipo(); };
+    ControlDe<ui::Edicion>("dPotMaxima").alSalir = [this] { AlSalirDePotencia(); };
+    AnadirSelectores();
+    AnadirBotones();
+    AnadirListas();
+    PonerDiasDelMes();
+    Volcar();
+    MostrarTodo();
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Controls
+// ---------------------------------------------------------------------------------------------------
+
+void CDlgDatosConsumo::AnadirSelectores()
+{
+    const auto combo = [&](const char* nombre, std::wstring_view rotulo, std::vector<CString> acsEntradas,
+                           int& iDestino, void (CDlgDatosConsumo::*alElegir)()) {
+        auto& seleccion = Anadir<ui::Seleccion>(nombre, rotulo, ui::Seleccion::Forma::combo);
+        seleccion.acsEntradas = std::move(acsEntradas);
+        seleccion.destino = &iDestino;
+        seleccion.alElegir = [this, alElegir] { (this->*alElegir)(); };
+    };
+    combo("iMes", L"Mes:", efv::consumption::NombresDeMeses(), datos.iMes, &CDlgDatosConsumo::AlElegirMes);
+    combo("iDiaMes", L"Día:", {}, datos.iDiaMes, &CDlgDatosConsumo::AlElegirDia);
+    combo("iDiaTipo", L"Tipo de día:", efv::consumption::NombresDeDias(), datos.iDiaTipo,
+          &CDlgDatosConsumo::AlElegirDia);
+    // A choice that nobody gets to see.
+    auto& rotulacion = Anadir<ui::Seleccion>("iRotulacion", L"Rotulación ...", ui::Seleccion::Forma::menu);
+    rotulacion.acsEntradas = {L"Referencia", L"Potencia nominal", L"Máxima energía/mes consumida"};
+    rotulacion.bVisible = false;
+}
+
+ui::Boton& CDlgDatosConsumo::AnadirBoton(std::wstring_view rotulo, void (CDlgDatosConsumo::*alPulsar)())
+{
+    auto& boton = Anadir<ui::Boton>("", rotulo);
+    boton.alPulsar = [this, alPulsar] { (this->*alPulsar)(); };
+    return boton;
+}
+
+void CDlgDatosConsumo::AnadirBotones()
+{
+    m_tabla = &AnadirBoton(L"Editar tabla de datos ...", &CDlgDatosConsumo::AlEditarTabla);
+    m_anadir = &AnadirBoton(L"Añadir ...", &CDlgDatosConsumo::AlAnadirReceptor);
+    m_editar = &AnadirBoton(L"Editar ...", &CDlgDatosConsumo::AlEditarReceptor);
+    m_eliminar = &AnadirBoton(L"Eliminar", &CDlgDatosConsumo::AlEliminarReceptor);
+}
+
+void CDlgDatosConsumo::AnadirListas()
+{
+    auto& dias = Anadir<ui::Lista>("adHoras", L"", ui::Lista::Forma::tabla);
+    dias.acsColumnas.emplace_back(L"Día");
+    for (int iMes = 0; iMes < 12; ++iMes)
+        dias.acsColumnas.emplace_back(efv::solar::NombreMesCorto(iMes));
+    dias.modelo = std::make_shared<TablaDeDias>(adHoras);
+    dias.alAbrir = [this](int iFila, int iColumna) { AlAbrirDia(iFila, iColumna); };
+    dias.lugar.bEstirar = true;
+    auto& receptores = Anadir<ui::Lista>("lReceptores", L"", ui::Lista::Forma::tabla);
+    receptores.acsColumnas.assign(kColumnasReceptores.begin(), kColumnasReceptores.end());
+    receptores.modelo = std::make_shared<ui::FilasDeLista>(m_filas);
+    receptores.alElegir = [this] { m_filas.SetSelectionMark(ControlDe<ui::Lista>("lReceptores").iSeleccion); };
+    receptores.alAbrir = [this](int iFila, int) {
+        m_filas.SetSelectionMark(iFila);
+        AlEditarReceptor();
+    };
+    receptores.lugar.bEstirar = true;
+    auto& resumen = Anadir<ui::Edicion>("csResumen", L"");
+    resumen.bSoloLectura = true;
+    resumen.bVariasLineas = true;
+    Anadir<ui::Grafica>("grafica", L"").lugar.bEstirar = true;
+}
+
+// ---------------------------------------------------------------------------------------------------
+// What they show
+// ---------------------------------------------------------------------------------------------------
+
+// The day on view stays where the month has it, else the first comes up.
+void CDlgDatosConsumo::PonerDiasDelMes()
+{
+    efv::ComprobarIndice(datos.iMes, efv::solar::kDiasMesReferencia.size());
+    auto& dias = ControlDe<ui::Seleccion>("iDiaMes");
+    const int nDias = efv::solar::kDiasMesReferencia[static_cast<std::size_t>(datos.iMes)];
+    dias.acsEntradas.clear();
+    for (int iDia = 0; iDia < nDias; ++iDia)
+        dias.acsEntradas.push_back(
+            fmt::format(L"{} ({})", iDia + 1,
+                        efv::solar::NombreDia(efv::solar::TipoDia(kAnoReferencia, datos.iMes, iDia))));
+    if (datos.iDiaMes < 0 || datos.iDiaMes >= nDias)
+        datos.iDiaMes = 0;
+    dias.iSeleccion = datos.iDiaMes;
+}
+
+void CDlgDatosConsumo::MostrarModo()
+{
+    const bool bHoras = PorHoras();
+    for (ui::Control* control :
+         {static_cast<ui::Control*>(&ControlDe<ui::Seleccion>("iDiaMes")),
+          static_cast<ui::Control*>(&ControlDe<ui::Edicion>("dPotMaxima")),
+          static_cast<ui::Control*>(&ControlDe<ui::Lista>("adHoras")), static_cast<ui::Control*>(m_tabla)})
+        control->bVisible = bHoras;
+    for (ui::Control* control :
+         {static_cast<ui::Control*>(&ControlDe<ui::Seleccion>("iDiaTipo")),
+          static_cast<ui::Control*>(&ControlDe<ui::Lista>("lReceptores")), static_cast<ui::Control*>(m_anadir),
+          static_cast<ui::Control*>(m_editar), static_cast<ui::Control*>(m_eliminar)})
+        control->bVisible = !bHoras;
+}
+
+CSFVDataReceptor* CDlgDatosConsumo::Seleccionado() const
+{
+    const int iFila = m_filas.GetSelectionMark();
+    return iFila >= 0 ? dynamic_cast<CSFVDataReceptor*>(m_filas.GetItemData(iFila)) : nullptr;
+}
+
+// A load whose model the catalogue doesn't have is kept, but has no row.
+void CDlgDatosConsumo::MostrarReceptores()
+{
+    const CSFVDataReceptor* const seleccionado = Seleccionado();
+    m_filas.DeleteAllItems();
+    for (const auto& receptor : lReceptores) {
+        if (!efv::consumption::RefrescarDeCatalogo(*receptor))
+            continue;
+        receptor->InsertarEnLista(m_filas, datos.iMes, datos.iDiaTipo);
+        if (receptor.get() == seleccionado)
+            m_filas.SetSelectionMark(m_filas.GetItemCount() - 1);
+    }
+    auto& lista = ControlDe<ui::Lista>("lReceptores");
+    lista.iSeleccion = m_filas.GetSelectionMark();
+    ++lista.uVersion;
+}
+
+void CDlgDatosConsumo::MostrarDia()
+{
+    const bool bHoras = PorHoras();
+    const efv::ResumenConsumo resumen =
+        bHoras ? efv::ResumirHoras(*adHoras, datos.dPotMaxima, datos.iMes, datos.iDiaMes)
+               : efv::ResumirReceptores(lReceptores, datos.iMes, datos.iDiaTipo);
+    ControlDe<ui::Edicion>("csResumen").csTexto = TextoResumen(resumen, datos.iMes);
+    const efv::DiaHorarioVista dia(adHoras->begin() + efv::HorasDeDia(datos.iMes, datos.iDiaMes).iInicio, 24);
+    ControlDe<ui::Grafica>("grafica").datos =
+        bHoras ? efv::GraficaDiaDeHoras(dia)
+               : efv::GraficaDiaDeReceptores(lReceptores, datos.iMes, datos.iDiaTipo);
+}
+
+void CDlgDatosConsumo::MostrarTodo()
+{
+    MostrarModo();
+    if (PorHoras())
+        ++ControlDe<ui::Lista>("adHoras").uVersion;
+    else
+        MostrarReceptores();
+    MostrarDia();
+}
+
+// ---------------------------------------------------------------------------------------------------
+// What the person does
+// ---------------------------------------------------------------------------------------------------
+
+void CDlgDatosConsumo::AlElegirTipo()
+{
+    const int iAntes = std::exchange(datos.iTipoEntrada, ControlDe<ui::Seleccion>("iTipoEntrada").iSeleccion);
+    if (PorHoras() && iAntes != 0 && !lReceptores.IsEmpty() &&
+        ui::Preguntar(
+            L"¿Desea trasladar el consumo introducido según el tipo de día y receptor a consumo hora a "
+            L"hora?")) {
+        datos.dPotMaxima = efv::AnoDeReceptores(lReceptores, *adHoras);
+        ControlDe<ui::Edicion>("dPotMaxima").csTexto = nuConvertFltToIntlStr(datos.dPotMaxima, 2);
+    }
+    MostrarTodo();
+}
+
+void CDlgDatosConsumo::AlElegirMes()
+{
+    datos.iMes = ControlDe<ui::Seleccion>("iMes").iSeleccion;
+    PonerDiasDelMes();
+    MostrarTodo();
+}
+
+void CDlgDatosConsumo::AlElegirDia()
+{
+    datos.iDiaMes = ControlDe<ui::Seleccion>("iDiaMes").iSeleccion;
+    datos.iDiaTipo = ControlDe<ui::Seleccion>("iDiaTipo").iSeleccion;
+    MostrarTodo();
+}
+
+void CDlgDatosConsumo::AlSalirDePotencia()
+{
+    if (!Recoger())  // what is wrong with a field is told on acceptance
+        MostrarDia();
+}
+
+void CDlgDatosConsumo::AlEditarTabla()
+{
+    if (!RecogerAvisando())
+        return;
+    efv::consumption::DatosHoraHora horas;
+    horas.iPeriodo = datos.iPeriodo;
+    horas.iOrigen = datos.iOrigen;
+    horas.iPatron = datos.iPatron;
+    horas.dPotMaxima = datos.dPotMaxima;
+    horas.dHusoHorario = datos.dHusoHorario;
+    horas.iSeparador = datos.iSeparador;
+    std::ranges::copy(std::span(&datos.adMes[0][0], 72), &horas.adMes[0][0]);
+    std::ranges::copy(datos.aiPeriodoHora, horas.aiPeriodoHora);
+    CDlgDatosConsumoHoraHora dialogo(horas, efv::PatronesConsumo());
+    if (dialogo.Mostrar() != ok)
+        return;
+    datos.iPeriodo = dialogo.datos.iPeriodo;
+    datos.iOrigen = dialogo.datos.iOrigen;
+    datos.iPatron = dialogo.datos.iPatron;
+    datos.dPotMaxima = dialogo.datos.dPotMaxima;
+    datos.iSeparador = dialogo.datos.iSeparador;
+    std::ranges::copy(std::span(&dialogo.datos.adMes[0][0], 72), &datos.adMes[0][0]);
+    std::ranges::copy(dialogo.datos.aiPeriodoHora, datos.aiPeriodoHora);
+    const efv::TramoHoras tramo = efv::HorasDePeriodo(datos.iPeriodo);
+    std::copy(dialogo.adHoras->begin() + tramo.iInicio, dialogo.adHoras->begin() + tramo.iFin,
+              adHoras->begin() + tramo.iInicio);
+    Volcar();
+    MostrarTodo();
+}
+
+void CDlgDatosConsumo::AlAbrirDia(int iFila, int iColumna)
+{
+    const int iMes = iColumna - 1;
+    if (iMes < 0 || iMes >= 12 || iFila >= efv::solar::kDiasMesReferencia[static_cast<std::size_t>(iMes)])
+        return;
+    CDlgDatosConsumoDia dialogo(iMes, iFila, *adHoras);
+    if (dialogo.Mostrar() == ok)
+        MostrarTodo();
+}
+
+void CDlgDatosConsumo::AlAnadirReceptor()
+{
+    auto receptor = std::make_unique<CSFVDataReceptor>();
+    if (receptor->EditarPropiedades(datos.iMes, datos.iAux) != ok ||
+        !efv::consumption::RefrescarDeCatalogo(*receptor))
+        return;
+    lReceptores.Add(std::move(receptor));
+    MostrarTodo();
+}
+
+void CDlgDatosConsumo::AlEditarReceptor()
+{
+    CSFVDataReceptor* const receptor = Seleccionado();
+    if (receptor != nullptr && receptor->EditarPropiedades(datos.iMes, datos.iAux) == ok)
+        MostrarTodo();
+}
+
+void CDlgDatosConsumo::AlEliminarReceptor()
+{
+    CSFVDataReceptor* const receptor = Seleccionado();
+    if (receptor == nullptr ||
+        !ui::Preguntar(fmt::format(L"¿Desea eliminar el receptor: {}?", receptor->csModelo)))
+        return;
+    m_filas.SetSelectionMark(-1);
+    for (std::ptrdiff_t i = 0; i < lReceptores.GetSize(); ++i) {
+        if (&lReceptores[i] == receptor) {
+            lReceptores.RemoveAt(i);
+            break;
+        }
+    }
+    MostrarTodo();
+}

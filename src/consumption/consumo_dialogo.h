@@ -1,0 +1,64 @@
+// The consumption element: an hourly year, or a list of loads.
+#pragma once
+
+#include <memory>
+
+#include <quorvel/consumption.h>
+
+#include "ui/filas.h"
+
+namespace efv::consumption {
+
+struct DatosConsumo {
+    CString csReferencia;
+    int iTipoEntrada = 0;        ///< 0 hour by hour, 1 by day type and load
+    double dPotMaxima = 2500.0;  ///< W
+    double dHusoHorario = 0.0;   ///< degrees, handed on
+    int iPatron = 0;             ///< last preset
+    double adMes[12][6] = {};    ///< kWh by month and tariff period
+    int aiPeriodoHora[24] = {};  ///< tariff period of each hour of the day
+    int bExcluir = 0;
+    int iRotulacion = 0;                             ///< kept and handed back
+    int iMes = 0, iDiaMes = 0, iDiaTipo = 0;         ///< month, day of it and day type on view
+    int iPeriodo = 12, iOrigen = 0, iSeparador = 0;  ///< of the last hour-by-hour edit
+    int iAux = 1;                                    ///< second argument of the loads' EditarPropiedades
+};
+
+/// Copies of the loads, in order.
+CObArrayPropio<CSFVDataReceptor> CopiarReceptores(const CObArrayPropio<CSFVDataReceptor>& lReceptores);
+
+}  // namespace efv::consumption
+
+class CDlgDatosConsumo : public efv::ui::DialogoFicha<efv::consumption::DatosConsumo> {
+public:
+    CObArrayPropio<CSFVDataReceptor> lReceptores;  ///< copies of those that came
+    const std::shared_ptr<efv::AnoHorario> adHoras = std::make_shared<efv::AnoHorario>();  ///< Wh
+
+    CDlgDatosConsumo(const efv::consumption::DatosConsumo& inicial,
+                     const CObArrayPropio<CSFVDataReceptor>& receptores, efv::AnoHorarioVista horas);
+
+private:
+    void AnadirSelectores();
+    void AnadirBotones();
+    void AnadirListas();
+    bool PorHoras() const { return datos.iTipoEntrada == 0; }
+    efv::ui::Boton& AnadirBoton(std::wstring_view rotulo, void (CDlgDatosConsumo::*alPulsar)());
+    void PonerDiasDelMes();
+    void MostrarModo();
+    void MostrarReceptores();
+    void MostrarDia();
+    void MostrarTodo();
+    CSFVDataReceptor* Seleccionado() const;
+    void AlElegirTipo();
+    void AlElegirMes();
+    void AlElegirDia();
+    void AlSalirDePotencia();
+    void AlEditarTabla();
+    void AlAbrirDia(int iFila, int iColumna);
+    void AlAnadirReceptor();
+    void AlEditarReceptor();
+    void AlEliminarReceptor();
+
+    CListCtrl m_filas;
+    efv::ui::Boton *m_tabla = nullptr, *m_anadir = nullptr, *m_editar = nullptr, *m_eliminar = nullptr;
+};

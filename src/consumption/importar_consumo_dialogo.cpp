@@ -1,0 +1,55 @@
+#include "consumption/importar_consumo_dialogo.h"
+
+namespace {
+
+namespace ui = efv::ui;
+using P = efv::consumption::DatosImportConsumo;
+
+constexpr auto kUnidades = std::to_array<std::wstring_view>({L"Wh", L"kWh"});
+constexpr auto kTiempos = std::to_array<std::wstring_view>({L"1 hora", L"1/4 hora"});
+constexpr auto kTiempoDeSalida = std::to_array<std::wstring_view>({L"1 hora"});
+
+constexpr ui::Fila<P> kUnidad = {
+    .nombre = "iUnidad", .campo = &P::iUnidad, .rotulo = L"Unidad de consumo:", .entradas = kUnidades};
+constexpr ui::Fila<P> kArchivo = {
+    .nombre = "csArchivo", .campo = &P::csArchivo, .rotulo = L"Archivo de datos:"};
+
+constexpr auto kFilas = std::to_array<ui::Fila<P>>({
+    kUnidad,
+    {.nombre = "iTiempo", .campo = &P::iTiempo, .rotulo = L"Tiempo:", .entradas = kTiempos},
+    kArchivo,
+});
+constexpr auto kFilasDeSalida = std::to_array<ui::Fila<P>>({
+    kUnidad,
+    {.nombre = "iTiempo", .campo = &P::iTiempo, .rotulo = L"Tiempo:", .entradas = kTiempoDeSalida},
+    kArchivo,
+});
+
+constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
+    {"csArchivo", ui::Vacio<&P::csArchivo>, L"Seleccione un archivo CSV válido"},
+});
+
+}  // namespace
+
+CDlgConfigImportConsumo::CDlgConfigImportConsumo(const P& inicial, Modo modo)
+    : DialogoFicha("CDlgConfigImportConsumo", L"Datos de consumo", inicial, kComprobaciones)
+{
+    if (modo == Modo::exportar) {
+        datos.iTiempo = 0;
+        Anadir(kFilasDeSalida);
+    } else {
+        Anadir(kFilas);
+    }
+    Anadir<ui::Boton>("", L"...").alPulsar = [this, modo] { AlBuscarArchivo(modo); };
+    Volcar();
+}
+
+void CDlgConfigImportConsumo::AlBuscarArchivo(Modo modo)
+{
+    ui::PeticionFichero peticion;
+    peticion.filtros = {{L"CSV delimitado por comas (*.csv)", L"*.csv"}};
+    peticion.bGuardar = modo == Modo::exportar;
+    peticion.csPropuesto = ControlDe<ui::Edicion>("csArchivo").csTexto;
+    if (auto csRuta = ui::PresentadorActual().ElegirFichero(peticion))
+        ControlDe<ui::Edicion>("csArchivo").csTexto = std::move(*csRuta);
+}
