@@ -141,16 +141,6 @@ void AnadirFilaRadiacion(CListCtrl& lista, double dInclinacion, const std::array
                           efv::unidades::cuCadena(kRadiacion, adRadiacion[static_cast<std::size_t>(m)], 2));
 }
 
-// True when the person accepted. A load without a dialog of its own can't be edited.
-template <class R>
-bool EditarPropiedades(R& carga, int iHemisferio)
-{
-    if constexpr (requires { carga.EditarPropiedades(0, iHemisferio); })
-        return carga.EditarPropiedades(0, iHemisferio) == ui::Dialogo::ok;
-    else
-        return false;
-}
-
 }  // namespace
 
 CDlgAsistenteSFVAislada::CDlgAsistenteSFVAislada(const V& inicial, const as::TextoLugar& lugar,
@@ -311,7 +301,7 @@ void CDlgAsistenteSFVAislada::NuevaCarga()
 {
     auto carga = std::make_unique<CSFVDataReceptor>();
     carga->iReservadoB = 1;
-    if (!EditarPropiedades(*carga, datos.iHemisferio))
+    if (carga->EditarPropiedades(0, datos.iHemisferio) != ok)
         return;
     carga->InsertarEnLista(m_filasCargas, 0, 0);
     ++m_lista->uVersion;
@@ -325,7 +315,7 @@ void CDlgAsistenteSFVAislada::EditarCarga()
     CSFVDataReceptor* carga = CargaElegida();
     if (carga == nullptr)
         return;
-    if (EditarPropiedades(*carga, datos.iHemisferio)) {
+    if (carga->EditarPropiedades(0, datos.iHemisferio) == ok) {
         carga->ActualizarEnLista(m_filasCargas, 0, 0);
         ++m_lista->uVersion;
     }

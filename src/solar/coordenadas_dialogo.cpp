@@ -4,6 +4,7 @@ CDlgImgCoordenadas::CDlgImgCoordenadas() : Dialogo("CDlgImgCoordenadas", L"Orien
 {
     bAceptarVisible = false;
     csCancelar = L"&Cerrar";
+    Anadir<efv::ui::Imagen>("", L"").csImagen = L"coordenadas";
     for (const auto* texto : {L"Sur: 0º", L"Este: -90º", L"Oeste: 90º", L"Norte: ±180º"})
         Anadir<efv::ui::TextoFijo>("", L"").csTexto = texto;
 }

@@ -361,6 +361,24 @@ TEST_F(AsistenteAislada, LosCambiosRecalculan)
     EXPECT_EQ(guion.Texto(0, 3, "dInclinacionP"), L"50,00");
 }
 
+// Twice the units: 800 Wh, two branches of batteries.
+TEST_F(AsistenteAislada, EditarUnaCargaRecalculaConLaPropuesta)
+{
+    guion.Dialogo("CDlgAsistenteSFVAislada",
+                  {paso::Pulsar{"Editar ..."}, paso::Poner{"iAcumuladoresParalelo", L"5"},
+                   paso::Abrir{"lReceptores", 0, 1}, paso::Leer{{"iAcumuladoresParalelo", "lReceptores"}},
+                   paso::Pulsar{"Añadir ..."}, paso::Leer{{"lReceptores"}}, paso::Pulsar{"OK"}});
+    guion.Dialogo("CDlgDatosReceptor", {paso::Poner{"iCantidad", L"4"}, paso::Pulsar{"OK"}})
+        .Dialogo("CDlgDatosReceptor", {paso::Pulsar{"Cancel"}});
+    const double adRadiacion[12] = {};
+    EXPECT_EQ(phAsistenteSFVAislada(L"", 40.0, 1, adRadiacion, registro), 1);
+    EXPECT_FALSE(guion.presentador.csErrorGuion) << CadenaUtf8(guion.presentador.csErrorGuion.value_or(L""));
+    EXPECT_EQ(guion.Texto(0, 0, "iAcumuladoresParalelo"), L"2");
+    const auto& lista = std::get<ui::EstadoControl::DeLista>(guion.Estado(0, 0, "lReceptores").propio);
+    EXPECT_EQ(lista.filas.at(0).at(5), L"800,00");
+    EXPECT_EQ(registro.adCantidad, (CArray<double, double&>{4.0}));
+}
+
 TEST_F(AsistenteAislada, EliminarUnaCargaPregunta)
 {
     guion.presentador.respuestas = {ui::Respuesta::no, ui::Respuesta::si};

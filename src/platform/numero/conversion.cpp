@@ -68,8 +68,8 @@ constexpr bool EsExponente(C c)
 }
 
 // Without `fin` the text ends at its zero, which is no part of a number.
-template <class C>
-Sencillo<C> LeerSencillo(const C* p, const C* fin, bool (*esMarca)(C))
+template <class C, class MARCA>
+Sencillo<C> LeerSencillo(const C* p, const C* fin, MARCA esMarca)
 {
     const bool negativo = p != fin && *p == C('-');
     p += negativo ? 1 : 0;
