@@ -87,8 +87,10 @@ int CategoriaDe(const CString& csNombre)
 std::span<const Simbolo> SimbolosDe(int iCategoria)
 {
     // They stand together.
-    const auto deEsa = std::ranges::equal_range(kSimbolos, iCategoria, {}, &Simbolo::iCategoria);
-    return {deEsa.begin(), deEsa.end()};
+    const auto* desde = std::ranges::find(kSimbolos, iCategoria, &Simbolo::iCategoria);
+    const auto* hasta =
+        std::find_if(desde, kSimbolos.end(), [&](const Simbolo& s) { return s.iCategoria != iCategoria; });
+    return {desde, hasta};
 }
 
 bool EsUnifilar(int iSimbolo)

@@ -12,6 +12,7 @@ namespace efv::estudio {
 namespace {
 
 constexpr double kMil = 1000.0;
+constexpr double kDiasDelAno = 365.0;
 constexpr ui::Color kColorBarras = 0xC0702F;
 
 CString ModeloDe(const Equipo& equipo)
@@ -134,7 +135,7 @@ std::vector<LineaResumen> ResumenDe(const Consumo& consumo, const AnoDeConsumo& 
                                   : std::to_wstring(consumo.lReceptores.GetSize()) + L" receptores"},
         {L"Potencia", Decimal(ano.dPotencia / kMil, 2) + L" kW"},
         {L"Energía anual", Decimal(ano.Energia(), 0) + L" kWh"},
-        {L"Energía diaria media", Decimal(ano.Energia() / (kHorasDelAno / 24), 2) + L" kWh"},
+        {L"Energía diaria media", Decimal(ano.Energia() / kDiasDelAno, 2) + L" kWh"},
     };
     if (consumo.bExcluir != 0)
         lineas.push_back({L"Cálculo", L"excluido"});

@@ -108,7 +108,8 @@ void PanelEnergia::Calcular()
         for (int iMetodo = 0; iMetodo < 2; ++iMetodo) {
             const auto i = static_cast<std::size_t>(iMetodo);
             // The correlation tilts toward the south whatever the latitude.
-            const double dInclinacion = iMetodo == 0 && m_lugar.dLatitud < 0.0 ? -m_dInclinacion : m_dInclinacion;
+            const double dInclinacion =
+                iMetodo == 0 && m_lugar.dLatitud < 0.0 ? -m_dInclinacion : m_dInclinacion;
             phGetRI_kWh_m2_dia(fila.adRI[i], iMetodo, iMes, m_lugar.dLatitud, m_lugar.iHemisferio,
                                m_lugar.adRadHorizontal[m], dInclinacion, 0.0, m_dPR, 1.0);
             phGetEIR_kWh_mes(fila.adEnergia[i], iMetodo, iMes, m_lugar.dLatitud, m_lugar.iHemisferio,

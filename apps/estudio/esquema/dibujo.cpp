@@ -174,11 +174,12 @@ private:
                 Linea({{dX - 4, y + dPasoY / 2}, {dX + dPasoX * nColumnas + 4, y + dPasoY / 2}});
             for (std::size_t c = 0; c < columnas.size(); ++c) {
                 const double x = dX + dPasoX * static_cast<double>(c);
-                if (bHayFila && columnas[c] != 0)
+                if (bHayFila && columnas[c] != 0) {
                     m_trazos.emplace_back(
                         trazo::Caja{{x + 2, y + 2}, dPasoX - 4, dPasoY - 4, Tinta::linea, tinta});
-                else
+                } else {
                     Puntos({x + dPasoX / 2, y + dPasoY / 2}, bHayFila);
+                }
             }
         }
         // The strings in parallel.

@@ -46,7 +46,8 @@ void PanelLugar::AnadirLugar()
     for (const Localidad& localidad : m_localidades)
         m_seleccion->acsEntradas.push_back(NombreDe(localidad));
     m_seleccion->alElegir = [this] { AlElegir(); };
-    const auto campo = [this](const char* nombre, const wchar_t* csRotulo, ui::Destino destino) -> ui::Edicion& {
+    const auto campo = [this](const char* nombre, const wchar_t* csRotulo,
+                              ui::Destino destino) -> ui::Edicion& {
         auto& edicion = Anadir<ui::Edicion>(nombre, csRotulo);
         edicion.lugar.grupo = kGrupoLugar;
         edicion.destino = destino;

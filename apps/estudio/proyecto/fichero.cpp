@@ -1,6 +1,5 @@
 #include "proyecto/fichero.h"
 
-#include <span>
 #include <stdexcept>
 
 #include <QFile>
@@ -47,19 +46,26 @@ std::vector<std::byte> BytesDe(CProyectoEstudio& proyecto)
     return bytes;
 }
 
+std::unique_ptr<CProyectoEstudio> ProyectoDe(std::span<const std::byte> bytes)
+{
+    auto proyecto = std::make_unique<CProyectoEstudio>();
+    try {
+        CArchive ar(bytes);
+        proyecto->Serialize(ar);
+    } catch (const CArchiveException&) {
+        throw std::runtime_error("El proyecto está cortado: acaba antes de tiempo.");
+    }
+    return proyecto;
+}
+
 std::unique_ptr<CProyectoEstudio> LeerProyecto(const CString& csRuta)
 {
     const QByteArray bytes = Contenido(csRuta);
-    auto proyecto = std::make_unique<CProyectoEstudio>();
     try {
-        CArchive ar(std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
-        proyecto->Serialize(ar);
-    } catch (const CArchiveException&) {
-        FallarAlAbrir(csRuta, "El proyecto está cortado: acaba antes de tiempo.");
+        return ProyectoDe(std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
     } catch (const std::runtime_error& fallo) {
         FallarAlAbrir(csRuta, fallo.what());
     }
-    return proyecto;
 }
 
 void EscribirProyecto(std::span<const std::byte> bytes, const CString& csRuta)

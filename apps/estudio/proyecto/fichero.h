@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <vector>
 
 #include "proyecto/proyecto.h"
@@ -11,6 +12,10 @@ namespace efv::estudio {
 
 /// The project as it stands in its file. Two projects are alike when these are.
 std::vector<std::byte> BytesDe(CProyectoEstudio& proyecto);
+
+/// The project that stands in the bytes.
+/// @throws std::runtime_error with a Spanish text that says what is wrong with them.
+std::unique_ptr<CProyectoEstudio> ProyectoDe(std::span<const std::byte> bytes);
 
 /// @throws std::runtime_error with a Spanish text that names the file and what is wrong with it: missing,
 /// unreadable, of another program, of a later version, cut off, damaged.

@@ -10,10 +10,10 @@ namespace efv::estudio {
 /// Where the installation stands: a place of the file of places, or the person's own figures.
 struct Lugar {
     CString csNombre = L"Sin nombre";
-    CString csDetalle;                         ///< province or country
-    int bPropio = 1;                           ///< not 0: the figures are the person's own
-    double dLatitud = 40.0;                    ///< degrees, north positive
-    int iHemisferio = 1;                       ///< 1 north, 0 south
+    CString csDetalle;                ///< province or country
+    int bPropio = 1;                  ///< not 0: the figures are the person's own
+    double dLatitud = 40.0;           ///< degrees, north positive
+    int iHemisferio = 1;              ///< 1 north, 0 south
     double adRadHorizontal[12] = {};  ///< mean daily global radiation by month, kJ/m²·day
 
     /// As the assistants take it: both parts with their mark between them.

@@ -99,6 +99,21 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
     EXPECT_EQ(consumo.dHusoHorario, -15.0);
 }
 
+// Bytes put together by hand from the layout, up to the loads; what follows them is zeros.
+TEST(Proyecto, ElFormatoEsElDeSiempre)
+{
+    std::ifstream fichero(EFV_CARPETA_PRUEBAS "/../fuzz/muestras/proyecto/cabeza.bin", std::ios::binary);
+    std::string bytes(std::istreambuf_iterator<char>(fichero), {});
+    ASSERT_FALSE(bytes.empty());
+    bytes.resize(bytes.size() + 4 + 4 + 8 + (8760 + 72) * 8 + 24 * 4 + 4 + 4 + 8);
+    const auto proyecto = ProyectoDe(std::as_bytes(std::span(bytes)));
+    EXPECT_EQ(proyecto->lugar.csNombre, L"Madrid");
+    EXPECT_EQ(proyecto->lugar.dLatitud, 40.4);
+    EXPECT_EQ(proyecto->lugar.adRadHorizontal[11], 6000.0);
+    ASSERT_EQ(proyecto->consumo.lReceptores.GetSize(), 1);
+    EXPECT_EQ(proyecto->consumo.lReceptores[0].dHorario[11][6][1], 90.0);
+}
+
 // Wherever it is cut.
 TEST(Proyecto, UnFicheroCortadoSeRechaza)
 {
