@@ -2,14 +2,15 @@
 #pragma once
 
 #include <quorvel/assistants.h>
-#include <quorvel/catalogo_herramientas.h>
 #include <quorvel/catalogues.h>
 #include <quorvel/consumption.h>
 #include <quorvel/electrical.h>
 #include <quorvel/frame.h>
 #include <quorvel/framework.h>
+#include <quorvel/importacion_catalogo.h>
 #include <quorvel/localidades.h>
 #include <quorvel/registros.h>
 #include <quorvel/reloj.h>
 #include <quorvel/solar.h>
+#include <quorvel/tipos_catalogo.h>
 #include <quorvel/ui.h>

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -35,5 +36,15 @@ EFV_API const Localidad* BuscarLocalidad(const std::vector<Localidad>& localidad
 /// Up to `nMaximo` names near `csNombre`, nearest first, for a message that helps.
 EFV_API std::vector<CString> NombresParecidos(const std::vector<Localidad>& localidades,
                                               const CString& csNombre, std::size_t nMaximo);
+
+/// A name with its other forms.
+struct NombreBuscable {
+    CString csNombre;
+    std::vector<CString> acsAlias;
+};
+
+/// The same among plain names.
+EFV_API std::vector<CString> NombresParecidos(std::span<const NombreBuscable> nombres, const CString& csNombre,
+                                              std::size_t nMaximo);
 
 }  // namespace efv

@@ -24,6 +24,17 @@ struct CampoCatalogo {
     Clase clase;
 };
 
+/// Models to be added to the family of that name.
+struct ModelosDeFamilia {
+    CString csFamilia;
+    std::vector<const CModelo*> modelos;
+};
+
+enum class Adicion {
+    estricta,   ///< the file must exist, and no name may be taken: else nothing is added
+    tolerante,  ///< a missing file is made; models whose name their family already has are left out
+};
+
 /// A kind of component. A model handed to it must be of its own class.
 class EFV_API TipoCatalogo {
 public:
@@ -50,15 +61,30 @@ public:
     /// What keeps the dialog from accepting the model: its checks, then its limits. None when it is fit.
     virtual std::vector<CString> Faltas(const CModelo& modelo) const = 0;
 
-    /// Adds models at the end of a family of a catalogue file; the family is made when the file lacks it.
-    /// All else in the file stays as it was, and it is replaced as a whole or not at all.
-    /// @throws CFileException when the file can't be opened or written, or when the family already has a
-    /// model of one of the names.
-    virtual void Anadir(const CString& csFichero, const CString& csFamilia,
-                        std::span<const CModelo* const> modelos) const = 0;
+    /// Adds models at the end of their families in a catalogue file; a family is made when the file lacks
+    /// it. All else in the file stays as it was; it is read once, and replaced as a whole or not at all.
+    /// @return the models left out, in order: none when `modo` is estricta
+    /// @throws CFileException when the file can't be opened or written, or when in estricta a family
+    /// already has a model of one of the names
+    virtual std::vector<const CModelo*> Anadir(const CString& csFichero,
+                                               std::span<const ModelosDeFamilia> familias,
+                                               Adicion modo = Adicion::estricta) const = 0;
 };
 
 /// PV modules, batteries, inverters, micro-inverters, converters, loads.
 EFV_API std::span<const TipoCatalogo* const> TiposDeCatalogo();
+/// The kind of that name; null when there is none.
+EFV_API const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre);
+
+/// What is wrong with one model, as its dialog would say it.
+struct HallazgoModelo {
+    CString csFamilia;
+    CString csModelo;
+    CString csTexto;
+};
+
+/// Holds models against the limits and checks of their dialog, in order.
+EFV_API std::vector<HallazgoModelo> ValidarModelos(const TipoCatalogo& tipo,
+                                                   std::span<const CModelo* const> modelos);
 
 }  // namespace efv

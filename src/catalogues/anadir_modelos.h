@@ -1,18 +1,21 @@
 // Models added to a catalogue file without a viewer.
 #pragma once
 
-#include <utility>
+#include <functional>
+#include <span>
 #include <vector>
+
+#include <quorvel/tipos_catalogo.h>
 
 #include "platform/xml/documento_editable.h"
 
 namespace efv::catalogues {
 
-/// A model's name and its element's attributes.
-using ModeloNuevo = std::pair<CString, xml::DocumentoEditable::Atributos>;
+/// A model's element as attributes, in file order.
+using AtributosDeModelo = std::function<xml::DocumentoEditable::Atributos(const CModelo&)>;
 
-/// Adds the models at the end of the family, made when the file lacks it; the file is replaced as a whole
-/// or not at all. @throws CFileException
-void AnadirModelos(const CString& csFichero, const CString& csFamilia, const std::vector<ModeloNuevo>& modelos);
+/// TipoCatalogo::Anadir for any kind.
+std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<const ModelosDeFamilia> familias,
+                                          Adicion modo, const AtributosDeModelo& atributosDe);
 
 }  // namespace efv::catalogues

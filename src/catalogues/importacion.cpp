@@ -1,5 +1,9 @@
 #include "catalogues/importacion.h"
 
+#include <utility>
+
+#include <quorvel/framework/CException.h>
+
 #include "platform/numero/conversion.h"
 #include "ui/fichero_texto.h"
 
@@ -25,6 +29,11 @@ CString ValorDeClave(std::wstring_view texto, std::wstring_view clave)
     return CString(texto.substr(valor, fin - valor));
 }
 
+bool TieneClave(std::wstring_view texto, std::wstring_view clave)
+{
+    return texto.find(CString(clave) + L"=") != std::wstring_view::npos;
+}
+
 double NumeroImportado(const CString& csValor)
 {
     return numero::LeerDoble(std::wstring_view(csValor));
@@ -33,6 +42,20 @@ double NumeroImportado(const CString& csValor)
 int EnteroImportado(const CString& csValor)
 {
     return numero::LeerEntero(CadenaUtf8(csValor));
+}
+
+CString TextoImportado(const CString& csFichero)
+{
+    std::optional<CString> csTexto = archivo::LeerTexto(csFichero);
+    if (!csTexto)
+        throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no se puede leer");
+    return std::move(*csTexto);
+}
+
+void FallarSinClaves(const CString& csFichero, const char* que)
+{
+    throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no es un archivo " + que +
+                                                       ": no tiene ninguna de sus claves");
 }
 
 }  // namespace efv::catalogues

@@ -1,6 +1,7 @@
 // Text files of "KEY=value" lines, as the imports read them.
 #pragma once
 
+#include <algorithm>
 #include <optional>
 #include <span>
 #include <string_view>
@@ -56,15 +57,39 @@ void Importar(std::wstring_view texto, std::span<const ClaveImportada<M>> claves
         std::visit(Asignar{fila, modelo, ValorDeClave(texto, fila.clave)}, fila.miembro);
 }
 
-/// Keys that the text lacks.
+bool TieneClave(std::wstring_view texto, std::wstring_view clave);
+
+/// Keys that the text lacks, each once.
 template <class M>
 std::vector<CString> ClavesAusentes(std::wstring_view texto, std::span<const ClaveImportada<M>> claves)
 {
     std::vector<CString> ausentes;
     for (const auto& fila : claves)
-        if (texto.find(CString(fila.clave) + L"=") == std::wstring_view::npos)
+        if (!TieneClave(texto, fila.clave) && std::ranges::find(ausentes, fila.clave) == ausentes.end())
             ausentes.emplace_back(fila.clave);
     return ausentes;
+}
+
+/// The text of a file. @throws CFileException when it can't be read.
+CString TextoImportado(const CString& csFichero);
+[[noreturn]] void FallarSinClaves(const CString& csFichero, const char* que);
+
+struct TextoConAusentes {
+    CString csTexto;
+    std::vector<CString> ausentes;
+};
+
+/// The text of a file to be imported and the keys that it lacks.
+/// @throws CFileException when it can't be read or has none of them. @param que kind of file
+template <class M>
+TextoConAusentes AbrirImportado(const CString& csFichero, std::span<const ClaveImportada<M>> claves,
+                                const char* que)
+{
+    TextoConAusentes abierto{TextoImportado(csFichero), {}};
+    if (std::ranges::none_of(claves, [&](const auto& c) { return TieneClave(abierto.csTexto, c.clave); }))
+        FallarSinClaves(csFichero, que);
+    abierto.ausentes = ClavesAusentes<M>(abierto.csTexto, claves);
+    return abierto;
 }
 
 }  // namespace efv::catalogues

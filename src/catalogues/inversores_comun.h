@@ -123,6 +123,16 @@ inline constexpr auto kClavesOnd = std::to_array<ClaveImportada<M>>({
     {L"Weight", &M::dPeso},
 });
 
+/// The lists of an inverter that has them, out of the currents of one tracker.
+template <class M>
+void RehacerListas(M& modelo)
+{
+    if constexpr (requires { modelo.csICCMaxMPPT; }) {
+        modelo.csICCMaxMPPT = RepetirCorriente(modelo.dICCMax, modelo.iNumMPPT);
+        modelo.csICCMinMPPT = RepetirCorriente(modelo.dICCMin, modelo.iNumMPPT);
+    }
+}
+
 /// Fills the inverter from the file's text; its lines must end in CR LF. An absent key clears its field;
 /// what the format doesn't hold stays. @return the maker.
 template <class M>
@@ -131,11 +141,9 @@ CString ImportarOnd(std::wstring_view csTexto, M& modelo)
     Importar<M>(csTexto, kClavesOnd<M>, modelo);
     SanearContadores(modelo);
     modelo.iTipoSalida = ValorDeClave(csTexto, L"MonoTri") == L"Tri" ? 1 : 0;
-    if constexpr (requires { modelo.csICCMaxMPPT; }) {
+    if constexpr (requires { modelo.iUsoPrincipal; })
         modelo.iUsoPrincipal = 0;
-        modelo.csICCMaxMPPT = RepetirCorriente(modelo.dICCMax, modelo.iNumMPPT);
-        modelo.csICCMinMPPT = RepetirCorriente(modelo.dICCMin, modelo.iNumMPPT);
-    }
+    RehacerListas(modelo);
     return ValorDeClave(csTexto, L"Manufacturer");
 }
 

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <array>
+#include <utility>
 
 #include <quorvel/tipos_catalogo.h>
 
@@ -98,13 +100,12 @@ public:
         return catalogues::CrearDialogo(Propio(modelo), false)->Faltas();
     }
 
-    void Anadir(const CString& csFichero, const CString& csFamilia,
-                std::span<const CModelo* const> modelos) const override
+    std::vector<const CModelo*> Anadir(const CString& csFichero, std::span<const ModelosDeFamilia> familias,
+                                       Adicion modo) const override
     {
-        std::vector<catalogues::ModeloNuevo> nuevos;
-        for (const CModelo* modelo : modelos)
-            nuevos.emplace_back(modelo->csModelo, catalogues::AtributosDe(Propio(*modelo)));
-        catalogues::AnadirModelos(csFichero, csFamilia, nuevos);
+        return catalogues::AnadirModelos(csFichero, familias, modo, [](const CModelo& modelo) {
+            return catalogues::AtributosDe(Propio(modelo));
+        });
     }
 
 private:
@@ -132,6 +133,22 @@ std::span<const TipoCatalogo* const> TiposDeCatalogo()
     static const auto kTipos = std::to_array<const TipoCatalogo*>(
         {&modulos, &acumuladores, &inversores, &microInversores, &convertidores, &receptores});
     return kTipos;
+}
+
+const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre)
+{
+    const auto tipos = TiposDeCatalogo();
+    const auto hallado = std::ranges::find(tipos, nombre, &TipoCatalogo::Nombre);
+    return hallado != tipos.end() ? *hallado : nullptr;
+}
+
+std::vector<HallazgoModelo> ValidarModelos(const TipoCatalogo& tipo, std::span<const CModelo* const> modelos)
+{
+    std::vector<HallazgoModelo> hallazgos;
+    for (const CModelo* modelo : modelos)
+        for (CString& csFalta : tipo.Faltas(*modelo))
+            hallazgos.push_back({modelo->csFamilia, modelo->csModelo, std::move(csFalta)});
+    return hallazgos;
 }
 
 }  // namespace efv

@@ -1,6 +1,5 @@
 // The hourly year: its periods and sums, and the year that loads consume.
 #include <algorithm>
-#include <cstring>
 #include <numeric>
 
 #include <quorvel/consumption.h>
@@ -76,7 +75,7 @@ public:
 
     const std::array<double, 24>& De(const double (&franjas)[6])
     {
-        if (m_bCalculadas && std::memcmp(m_franjas.data(), franjas, sizeof(franjas)) == 0)
+        if (m_bCalculadas && std::ranges::equal(m_franjas, franjas))
             return m_potencias;
         std::ranges::copy(franjas, m_franjas.begin());
         m_bCalculadas = true;

@@ -35,7 +35,7 @@ CDlgDatosConsumoMes::CDlgDatosConsumoMes(const efv::consumption::DatosConsumoMes
 void CDlgDatosConsumoMes::AnadirMeses()
 {
     for (int iMes = 0; iMes < 12; ++iMes) {
-        auto& mes = Anadir<ui::TextoFijo>("", L"");
+        auto& mes = Anadir<ui::TextoFijo>(fmt::format("csMes[{}]", iMes), L"");
         mes.csTexto = efv::solar::NombreMes(iMes);
         mes.lugar.grupo = kGrupoMeses;
         for (std::size_t p = 0; p < kRotulosPeriodos.size(); ++p) {

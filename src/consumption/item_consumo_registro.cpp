@@ -37,6 +37,7 @@ CItemConsumo::CItemConsumo(CString csTitulo, CString csConsejo, std::span<const 
 }
 
 CItemConsumo::~CItemConsumo() = default;
+// NOLINTNEXTLINE(misc-unconventional-assign-operator): it has a slot of its own
 CItemConsumo& CItemConsumo::operator=(const CItemConsumo& otro) = default;
 
 const CRuntimeClass& CItemConsumo::GetThisClass()

@@ -7,6 +7,7 @@ namespace efv::consumption {
 std::vector<CString> NombresDeDias()
 {
     std::vector<CString> nombres;
+    nombres.reserve(7);
     for (int i = 0; i < 7; ++i)
         nombres.emplace_back(solar::NombreDia(i));
     return nombres;
@@ -15,6 +16,7 @@ std::vector<CString> NombresDeDias()
 std::vector<CString> NombresDeMeses()
 {
     std::vector<CString> nombres;
+    nombres.reserve(12);
     for (int i = 0; i < 12; ++i)
         nombres.emplace_back(solar::NombreMes(i));
     return nombres;

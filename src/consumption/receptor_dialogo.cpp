@@ -52,8 +52,8 @@ CString LeerMinutos(int iMinutos)
 
 }  // namespace
 
-CDlgDatosReceptor::CDlgDatosReceptor(const efv::consumption::DatosReceptor& inicial)
-    : Dialogo("CDlgDatosReceptor", L"Datos del receptor eléctrico"), datos(inicial)
+CDlgDatosReceptor::CDlgDatosReceptor(efv::consumption::DatosReceptor inicial)
+    : Dialogo("CDlgDatosReceptor", L"Datos del receptor eléctrico"), datos(std::move(inicial))
 {
     efv::ComprobarIndice(datos.iMes, 12);
     if (datos.bPedirCantidad != 0)
@@ -142,7 +142,7 @@ void CDlgDatosReceptor::AnadirLimites()
         deslizador.leer = LeerMinutos;
         deslizador.alMover = [this, i] { AlMover(i); };
         deslizador.lugar.grupo = kGrupoPlanificacion;
-        auto& lectura = Anadir<ui::TextoFijo>("", L"");
+        auto& lectura = Anadir<ui::TextoFijo>(fmt::format("csLectura[{}]", i), L"");
         lectura.lugar.grupo = kGrupoPlanificacion;
         m_limites[i] = {&deslizador, &lectura};
     }
@@ -247,10 +247,12 @@ CString CDlgDatosReceptor::DiasSinUso() const
 {
     CString lista;
     for (int iMes = 0; iMes < 12; ++iMes)
-        for (int iTipo = 0; iTipo < 7; ++iTipo)
-            if (ui::EsNulo(efv::consumption::HorasMostradas(datos.receptor.dHorario[iMes][iTipo])))
-                lista += fmt::format(L"{}{}:{}", lista.empty() ? L"" : L", ", efv::solar::NombreMes(iMes),
-                                     efv::solar::NombreDia(iTipo));
+        for (int iTipo = 0; iTipo < 7; ++iTipo) {
+            if (!ui::EsNulo(efv::consumption::HorasMostradas(datos.receptor.dHorario[iMes][iTipo])))
+                continue;
+            lista += fmt::format(L"{}{}:{}", lista.empty() ? L"" : L", ", efv::solar::NombreMes(iMes),
+                                 efv::solar::NombreDia(iTipo));
+        }
     return lista;
 }
 

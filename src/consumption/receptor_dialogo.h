@@ -23,7 +23,7 @@ class CDlgDatosReceptor : public efv::ui::Dialogo {
 public:
     efv::consumption::DatosReceptor datos;
 
-    explicit CDlgDatosReceptor(const efv::consumption::DatosReceptor& inicial);
+    explicit CDlgDatosReceptor(efv::consumption::DatosReceptor inicial);
 
 protected:
     bool AlAceptar() override;

@@ -63,6 +63,7 @@ void EscribirFila(R& receptor, CListCtrl& lista, int iFila, int iMes, int iDia)
 }  // namespace
 
 CSFVDataReceptor::~CSFVDataReceptor() = default;
+// NOLINTNEXTLINE(misc-unconventional-assign-operator): it has a slot of its own
 CSFVDataReceptor& CSFVDataReceptor::operator=(const CSFVDataReceptor& otro) = default;
 
 const CRuntimeClass& CSFVDataReceptor::GetThisClass()

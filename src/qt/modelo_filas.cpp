@@ -132,6 +132,10 @@ QVariant ModeloLista::data(const QModelIndex& indice, int papel) const
         return Celda(iFila, indice.column());
     if (papel == Qt::TextAlignmentRole && indice.column() > 0 && PareceNumero(Celda(iFila, indice.column())))
         return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+    if (papel == Qt::CheckStateRole && indice.column() == 0) {
+        if (const auto bMarca = m_filas->Marca(iFila))
+            return *bMarca ? Qt::Checked : Qt::Unchecked;
+    }
     if (papel == Qt::DecorationRole && indice.column() == 0) {
         if (const QIcon icono = IconoDeFila(m_filas->Imagen(iFila), QApplication::palette()); !icono.isNull())
             return icono;

@@ -42,6 +42,8 @@ public:
             for (int iColumna = 0; iColumna < nColumnas; ++iColumna)
                 celdas.push_back(c.modelo->Celda(iFila, iColumna));
             lista.niveles.push_back(c.modelo->Nivel(iFila));
+            if (const auto bMarca = c.modelo->Marca(iFila))
+                lista.abMarcas.push_back(*bMarca);
         }
         m_estado.propio = std::move(lista);
     }

@@ -67,6 +67,13 @@ struct EnTexto {
     {
         return Unir(*acs, [](const CString& cs) { return efv::CadenaUtf8(cs); });
     }
+    std::string operator()(std::span<const double> ad) const
+    {
+        std::string todo;
+        for (const double d : ad)
+            todo += (todo.empty() ? "" : "/") + Numero(d);
+        return todo;
+    }
 
 private:
     static std::string Numero(double d)

@@ -5,8 +5,6 @@
 
 #include <fmt/format.h>
 
-#include <quorvel/localidades.h>
-
 #include "comun/consola.h"
 #include "comun/datos.h"
 #include "comun/numeros.h"
@@ -17,28 +15,6 @@ namespace {
 
 constexpr std::size_t kParecidos = 3;
 
-// A name that a search may have meant, with its shorter forms.
-struct Nombre {
-    CString csNombre;
-    std::vector<CString> acsAlias;
-};
-
-// "; parecidos: a, b", empty without any.
-std::string Parecidos(const std::vector<Nombre>& nombres, const CString& csBuscado)
-{
-    // The nearness of names is the same for places and for models.
-    std::vector<Localidad> candidatos;
-    for (const Nombre& nombre : nombres) {
-        Localidad& candidato = candidatos.emplace_back();
-        candidato.csNombre = nombre.csNombre;
-        candidato.acsAlias = nombre.acsAlias;
-    }
-    std::string texto;
-    for (const CString& csParecido : NombresParecidos(candidatos, csBuscado, kParecidos))
-        texto += fmt::format("{}{}", texto.empty() ? "; parecidos: " : ", ", CadenaUtf8(csParecido));
-    return texto;
-}
-
 template <class Condicion>
 Modelos Filtrar(const Modelos& modelos, Condicion condicion)
 {
@@ -47,60 +23,98 @@ Modelos Filtrar(const Modelos& modelos, Condicion condicion)
     return filtrados;
 }
 
+// "a, b o c"
+std::string Enumerar(std::span<const std::string_view> nombres)
+{
+    const auto ultimo = nombres.size() - 1;
+    return fmt::format("{}{}{}", fmt::join(nombres.first(ultimo), ", "), ultimo > 0 ? " o " : "",
+                       nombres[ultimo]);
+}
+
 }  // namespace
 
-void OpcionesCatalogo::Declarar(CLI::App& linea)
+std::span<const std::string_view> TodosLosTipos()
 {
-    linea
-        .add_option("--fichero", m_fichero,
-                    "Catálogo de módulos; si falta, ZqModFotoHE5.xml de la carpeta de los datos")
-        ->type_name("FICHERO");
+    static const std::vector<std::string_view> kNombres = [] {
+        std::vector<std::string_view> nombres;
+        for (const TipoCatalogo* tipo : TiposDeCatalogo())
+            nombres.push_back(tipo->Nombre());
+        return nombres;
+    }();
+    return kNombres;
+}
+
+void OpcionesCatalogo::Declarar(CLI::App& linea, const std::string& ayudaFichero)
+{
+    linea.add_option("--fichero", m_fichero, ayudaFichero)->type_name("FICHERO");
     linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
 }
 
-CString OpcionesCatalogo::Ruta() const
+void OpcionesCatalogo::DeclararTipo(CLI::App& linea, std::span<const std::string_view> tipos, const char* ayuda)
 {
-    return m_fichero.empty() ? RutaDatos(m_datos, "ZqModFotoHE5.xml") : CadenaDesdeUtf8(m_fichero);
+    linea
+        .add_option("--tipo", m_tipo, fmt::format("{}{}; si falta, {}", ayuda, Enumerar(tipos), tipos.front()))
+        ->type_name("TIPO");
 }
 
-CatalogoModulos::CatalogoModulos(const CString& csRuta)
+const TipoCatalogo& OpcionesCatalogo::Tipo(std::span<const std::string_view> tipos) const
+{
+    const std::string_view nombre = m_tipo ? *m_tipo : tipos.front();
+    if (std::ranges::find(tipos, nombre) == tipos.end())
+        throw ErrorUso(fmt::format("--tipo: se esperaba {}, llegó «{}»", Enumerar(tipos), nombre));
+    return *BuscarTipoCatalogo(nombre);
+}
+
+CString OpcionesCatalogo::Ruta(const TipoCatalogo& tipo) const
+{
+    return m_fichero.empty() ? RutaDatos(m_datos, CadenaUtf8(tipo.Fichero()).c_str())
+                             : CadenaDesdeUtf8(m_fichero);
+}
+
+Catalogo::Catalogo(const TipoCatalogo& tipo, const CString& csRuta) : m_tipo(tipo), m_base(tipo.CrearBase())
 {
     const std::string ruta = CadenaUtf8(csRuta);
     std::error_code fallo;
     if (!std::filesystem::exists(ruta, fallo))
         throw ErrorEjecucion(fmt::format("no existe el catálogo «{}»", ruta));
-    if (m_base.Cargar(csRuta) == 0)
+    if (m_base->Cargar(csRuta) == 0)
         throw ErrorEjecucion(fmt::format("el catálogo «{}» no se puede leer o no es XML bien formado", ruta));
-    for (const auto& familia : m_base.aFamilias)
-        for (const auto& modelo : static_cast<const CBasePanelFotoFamilia&>(*familia).aModelos)
-            m_modelos.push_back(modelo.get());
+    m_modelos = tipo.Modelos(*m_base);
     if (m_modelos.empty())
         throw ErrorEjecucion(fmt::format("el catálogo «{}» no tiene ningún modelo", ruta));
 }
 
-const CBasePanelFotoModelo& CatalogoModulos::Buscar(const std::string& id) const
+std::string Catalogo::Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const
+{
+    std::string texto;
+    for (const CString& csParecido : NombresParecidos(nombres, csBuscado, kParecidos))
+        texto += fmt::format("{}{}", texto.empty() ? "; parecidos: " : ", ", CadenaUtf8(csParecido));
+    const bool bPrimero = m_tipo.Nombre() == TodosLosTipos().front();
+    return fmt::format("{} (todos: efv catalogo listar{}{})", texto, bPrimero ? "" : " --tipo ",
+                       bPrimero ? "" : m_tipo.Nombre());
+}
+
+const CModelo& Catalogo::Buscar(const std::string& id) const
 {
     const CString csId = CadenaDesdeUtf8(id);
-    Modelos hallados = Filtrar(m_modelos, [&](const CBasePanelFotoModelo& m) {
-        return m.csModelo == csId || Identificacion(m) == csId;
-    });
+    Modelos hallados =
+        Filtrar(m_modelos, [&](const CModelo& m) { return m.csModelo == csId || Identificacion(m) == csId; });
     if (hallados.empty()) {
         const CString csPlegado = Plegar(csId);
-        hallados = Filtrar(m_modelos, [&](const CBasePanelFotoModelo& m) {
+        hallados = Filtrar(m_modelos, [&](const CModelo& m) {
             return Plegar(m.csModelo) == csPlegado || Plegar(Identificacion(m)) == csPlegado;
         });
     }
     if (hallados.empty()) {
-        std::vector<Nombre> nombres;
-        for (const CBasePanelFotoModelo* m : m_modelos)
+        std::vector<NombreBuscable> nombres;
+        for (const CModelo* m : m_modelos)
             nombres.push_back({Identificacion(*m), {m->csModelo}});
-        throw ErrorEjecucion(fmt::format("no hay ningún modelo «{}»{} (todos: efv catalogo listar)", id,
-                                         Parecidos(nombres, csId)));
+        throw ErrorEjecucion(fmt::format("no hay ningún modelo «{}»{}", id, Ayuda(nombres, csId)));
     }
     // One identification twice in a file counts as its first model.
     const CString csPrimera = Identificacion(*hallados.front());
     std::string varios;
-    for (const CBasePanelFotoModelo* m : hallados)
+    for (const CModelo* m : hallados)
         if (Identificacion(*m) != csPrimera)
             varios += ", " + CadenaUtf8(Identificacion(*m));
     if (!varios.empty())
@@ -108,23 +122,22 @@ const CBasePanelFotoModelo& CatalogoModulos::Buscar(const std::string& id) const
     return *hallados.front();
 }
 
-Modelos CatalogoModulos::DeFamilia(const std::string& nombre) const
+Modelos Catalogo::DeFamilia(const std::string& nombre) const
 {
     const CString csPlegado = Plegar(CadenaDesdeUtf8(nombre));
-    Modelos hallados =
-        Filtrar(m_modelos, [&](const CBasePanelFotoModelo& m) { return Plegar(m.csFamilia) == csPlegado; });
+    Modelos hallados = Filtrar(m_modelos, [&](const CModelo& m) { return Plegar(m.csFamilia) == csPlegado; });
     if (hallados.empty()) {
-        std::vector<Nombre> nombres;
-        for (const CBasePanelFotoModelo* m : m_modelos)
+        std::vector<NombreBuscable> nombres;
+        for (const CModelo* m : m_modelos)
             if (nombres.empty() || nombres.back().csNombre != m->csFamilia)
                 nombres.push_back({m->csFamilia, {}});
-        throw ErrorEjecucion(fmt::format("no hay ninguna familia «{}»{} (todas: efv catalogo listar)", nombre,
-                                         Parecidos(nombres, CadenaDesdeUtf8(nombre))));
+        throw ErrorEjecucion(
+            fmt::format("no hay ninguna familia «{}»{}", nombre, Ayuda(nombres, CadenaDesdeUtf8(nombre))));
     }
     return hallados;
 }
 
-CString Identificacion(const CBasePanelFotoModelo& modelo)
+CString Identificacion(const CModelo& modelo)
 {
     return modelo.csFamilia + L'#' + modelo.csModelo;
 }

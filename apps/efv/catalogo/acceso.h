@@ -1,52 +1,73 @@
-// The catalogue of PV modules as the commands reach it: its file, its models, one model by name.
+// A catalogue as the commands reach it: its kind, its file, its models, one model by name.
 #pragma once
 
+#include <memory>
+#include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <CLI/CLI.hpp>
 
-#include <quorvel/catalogues.h>
+#include <quorvel/localidades.h>
+#include <quorvel/tipos_catalogo.h>
 
 namespace efv::orden {
 
-/// The options that say which catalogue file is meant.
+/// The options that say which catalogue is meant.
 class OpcionesCatalogo {
 public:
-    void Declarar(CLI::App& linea);
-    /// @throws ErrorEjecucion when the folder of the data is needed and missing
-    CString Ruta() const;
+    void Declarar(CLI::App& linea, const std::string& ayudaFichero);
+    /// @param tipos names of the kinds that the command knows, the default first
+    /// @param ayuda stands before them in the help
+    void DeclararTipo(CLI::App& linea, std::span<const std::string_view> tipos, const char* ayuda);
+
+    bool ConTipo() const { return m_tipo.has_value(); }
+    /// The kind given, else the first of `tipos`. @throws ErrorUso when it is none of them
+    const TipoCatalogo& Tipo(std::span<const std::string_view> tipos) const;
+    /// The file given, else the kind's in the folder of the data.
+    /// @throws ErrorEjecucion when that folder is needed and missing
+    CString Ruta(const TipoCatalogo& tipo) const;
 
 private:
     std::string m_fichero;
     std::string m_datos;
+    std::optional<std::string> m_tipo;
 };
 
-using Modelos = std::vector<const CBasePanelFotoModelo*>;
+/// Names of all kinds.
+std::span<const std::string_view> TodosLosTipos();
+
+using Modelos = std::vector<const CModelo*>;
 
 /// A catalogue file in memory.
-class CatalogoModulos {
+class Catalogo {
 public:
     /// @throws ErrorEjecucion when the file is missing, unreadable or without any model
-    explicit CatalogoModulos(const CString& csRuta);
+    Catalogo(const TipoCatalogo& tipo, const CString& csRuta);
 
+    const TipoCatalogo& Tipo() const { return m_tipo; }
     /// All models in file order.
     const Modelos& Todos() const { return m_modelos; }
-    const CBasePanelFoto& Base() const { return m_base; }
 
     /// The model of that identification, or of that name alone; a case and accents that differ are
     /// accepted when nothing has the very name. @throws ErrorEjecucion with names near `id`, or with the
     /// choices when several families have the name
-    const CBasePanelFotoModelo& Buscar(const std::string& id) const;
+    const CModelo& Buscar(const std::string& id) const;
     /// The models of a family, case and accents ignored. @throws ErrorEjecucion with names near
     Modelos DeFamilia(const std::string& nombre) const;
 
 private:
-    CBasePanelFoto m_base;
+    /// "; parecidos: a, b (todos: …)"
+    std::string Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const;
+
+    const TipoCatalogo& m_tipo;
+    std::unique_ptr<CBaseXML> m_base;
     Modelos m_modelos;
 };
 
 /// "family#model".
-CString Identificacion(const CBasePanelFotoModelo& modelo);
+CString Identificacion(const CModelo& modelo);
 
 }  // namespace efv::orden

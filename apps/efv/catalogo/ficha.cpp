@@ -1,8 +1,8 @@
 #include "catalogo/ficha.h"
 
-#include <array>
 #include <cmath>
 #include <set>
+#include <utility>
 #include <variant>
 
 #include <fmt/format.h>
@@ -14,66 +14,131 @@ namespace efv::orden {
 
 namespace {
 
-using M = CBasePanelFotoModelo;
+using ui::Seleccion;
 
-struct CampoFicha {
-    const char* clave;
-    const char* rotulo;
-    const char* unidad;
-    std::variant<CString M::*, double M::*, int M::*, short M::*> miembro;
+const char* SiNo(bool b)
+{
+    return b ? "Sí" : "No";
+}
+
+bool EsDatos(const Seleccion& seleccion)
+{
+    return seleccion.forma == Seleccion::Forma::combo || seleccion.forma == Seleccion::Forma::radio;
+}
+
+// A caption without the mark of its key, runs of blanks and the colon at its end.
+std::string Rotulo(const CString& csRotulo)
+{
+    std::string rotulo;
+    for (const char c : EnTerminal(csRotulo))
+        if (c != '&' && (c != ' ' || !rotulo.ends_with(' ')))
+            rotulo += c;
+    rotulo.erase(rotulo.find_last_not_of(" :") + 1);
+    return rotulo;
+}
+
+// The visible controls of a data sheet as rows of caption and text.
+class FilasDeFicha final : public ui::VisitanteControl {
+public:
+    std::vector<std::pair<std::string, std::string>> filas;
+
+    void Ver(ui::TextoFijo& /*control*/) override {}
+    void Ver(ui::Edicion& control) override
+    {
+        // A field of no value of the model, such as the maker that only an import fills.
+        if (std::holds_alternative<std::monostate>(control.destino) && control.csTexto.empty())
+            return;
+        Fila(control, EnTerminal(control.csTexto), " / ");
+    }
+    void Ver(ui::Casilla& control) override { Fila(control, SiNo(control.bMarcada), " / "); }
+    void Ver(Seleccion& control) override
+    {
+        if (!EsDatos(control))
+            return;
+        // One that chooses how a value is shown holds none itself.
+        const bool bUnidad = std::holds_alternative<std::monostate>(control.destino);
+        Fila(control, control.iSeleccion < 0 ? "—" : EnTerminal(control.Texto()), bUnidad ? " " : " / ");
+    }
+    void Ver(ui::Boton& /*control*/) override {}
+    void Ver(ui::Lista& control) override
+    {
+        for (int f = 0; f < control.Filas(); ++f) {
+            std::string texto;
+            for (std::size_t c = 1; c < control.acsColumnas.size(); ++c)
+                texto += fmt::format("{}{} {}", c > 1 ? " / " : "", Rotulo(control.acsColumnas[c]),
+                                     EnTerminal(control.modelo->Celda(f, static_cast<int>(c))));
+            filas.emplace_back(EnTerminal(control.modelo->Celda(f, 0)), std::move(texto));
+        }
+    }
+    void Ver(ui::Grafica& /*control*/) override {}
+    void Ver(ui::Progreso& /*control*/) override {}
+    void Ver(ui::Deslizador& control) override { Fila(control, std::to_string(control.iValor), " / "); }
+    void Ver(ui::Imagen& /*control*/) override {}
+
+private:
+    // What has no caption of its own stands on the line of the control before it.
+    void Fila(const ui::Control& control, const std::string& texto, const char* separador)
+    {
+        if (control.csRotulo.empty() && !filas.empty())
+            filas.back().second += separador + texto;
+        else
+            filas.emplace_back(Rotulo(control.csRotulo), texto);
+    }
 };
 
-constexpr auto kCampos = std::to_array<CampoFicha>({
-    {"familia", "Familia", "", &M::csFamilia},
-    {"modelo", "Modelo", "", &M::csModelo},
-    {"codigo_precio", "Código de precio", "", &M::csCodPrecio},
-    {"vsmax_V", "Tensión máxima del sistema (Vsmax)", "V", &M::dVsmax},
-    {"pmpm_W", "Potencia máxima (Pmpm)", "W", &M::dPmpm},
-    {"vmpm_V", "Tensión en máxima potencia (Vmpm)", "V", &M::dVmpm},
-    {"impm_A", "Corriente en máxima potencia (Impm)", "A", &M::dImpm},
-    {"voc_V", "Tensión a circuito abierto (Voc)", "V", &M::dVoc},
-    {"isc_A", "Corriente en cortocircuito (Isc)", "A", &M::dIsc},
-    {"ctvoc_mV_C", "Coeficiente de temperatura de Voc", "mV/ºC", &M::dCTVoc},
-    {"ctisc_mA_C", "Coeficiente de temperatura de Isc", "mA/ºC", &M::dCTIsc},
-    {"ctpmpm_mW_C", "Coeficiente de temperatura de Pmpm", "mW/ºC", &M::dCTPmpm},
-    {"cef_pct", "Reducción de eficiencia de 1000 a 200 W/m²", "%", &M::dCEf},
-    {"area_celula_mm2", "Superficie de la célula", "mm²", &M::dAcel},
-    {"longitud_mm", "Longitud", "mm", &M::dH},
-    {"ancho_mm", "Ancho", "mm", &M::dB},
-    {"canto_mm", "Canto", "mm", &M::dA},
-    {"peso_kg", "Peso", "kg", &M::dP},
-    {"ramales_paralelo", "Número de ramales en paralelo", "", &M::iNp},
-    {"celulas_por_ramal", "Número de células por ramal", "", &M::iNs},
-    {"tipo_celula", "Tecnología de la célula", "", &M::iTipoCelula},
-    {"color", "Índice de color", "", &M::nColor},
-});
+// How a column of a list writes its values: as the dialog's control of that field does.
+class Columna {
+public:
+    Columna(const ui::Dialogo& dialogo, const CampoCatalogo& campo, std::size_t iCampo)
+        : m_iCampo(iCampo), m_titulo(EnTerminal(CString(campo.columna)))
+    {
+        for (const auto& control : dialogo.Controles()) {
+            if (control->nombre != campo.nombre)
+                continue;
+            if (const auto* edicion = dynamic_cast<const ui::Edicion*>(control.get()))
+                m_iDecimales = edicion->iDecimales;
+            if (const auto* seleccion = dynamic_cast<const Seleccion*>(control.get()))
+                m_acsEntradas = seleccion->acsEntradas;
+            if (dynamic_cast<const ui::Casilla*>(control.get()) != nullptr)
+                m_acsEntradas = {L"No", L"Sí"};
+        }
+        const bool bTexto = campo.clase == CampoCatalogo::Clase::texto || !m_acsEntradas.empty();
+        m_lado = bTexto ? TablaTexto::Lado::izquierda : TablaTexto::Lado::derecha;
+    }
 
-std::string Tecnologia(const M& modelo)
-{
-    CString csNombre;
-    phGetCsTipoCelula(modelo.iTipoCelula, csNombre);
-    return csNombre.empty() ? "desconocida" : CadenaUtf8(csNombre);
-}
+    const std::string& Titulo() const { return m_titulo; }
+    TablaTexto::Lado Lado() const { return m_lado; }
+    std::string Celda(const TipoCatalogo& tipo, const CModelo& modelo) const
+    {
+        return std::visit([this](const auto& valor) { return Texto(valor); }, tipo.Valor(modelo, m_iCampo));
+    }
 
-bool EsTecnologia(const CampoFicha& campo)
-{
-    const auto* miembro = std::get_if<int M::*>(&campo.miembro);
-    return miembro != nullptr && *miembro == &M::iTipoCelula;
-}
+private:
+    static std::string Texto(const CString& cs) { return EnTerminal(cs); }
+    std::string Texto(double d) const { return Decimal(d, m_iDecimales); }
+    std::string Texto(int i) const
+    {
+        const auto iEntrada = static_cast<std::size_t>(i);
+        return i >= 0 && iEntrada < m_acsEntradas.size() ? EnTerminal(m_acsEntradas[iEntrada])
+                                                         : std::to_string(i);
+    }
 
-std::string Texto(const CString& cs)
-{
-    return EnTerminal(cs);
-}
+    std::size_t m_iCampo;
+    std::string m_titulo;
+    TablaTexto::Lado m_lado = TablaTexto::Lado::izquierda;
+    int m_iDecimales = 2;
+    std::vector<CString> m_acsEntradas;
+};
 
-std::string Texto(double d)
+std::vector<Columna> Columnas(const TipoCatalogo& tipo, const CModelo& modelo)
 {
-    return std::isfinite(d) ? DecimalExacto(d) : "—";
-}
-
-std::string Texto(int i)
-{
-    return std::to_string(i);
+    const auto dialogo = tipo.CrearDialogo(modelo);
+    std::vector<Columna> columnas;
+    const auto campos = tipo.Campos();
+    for (std::size_t i = 0; i < campos.size(); ++i)
+        if (!campos[i].columna.empty())
+            columnas.emplace_back(*dialogo, campos[i], i);
+    return columnas;
 }
 
 Json Valor(const CString& cs)
@@ -93,51 +158,59 @@ Json Valor(int i)
 
 }  // namespace
 
-std::string ListaTexto(const Modelos& modelos)
+std::string ListaTexto(const TipoCatalogo& tipo, const Modelos& modelos)
 {
-    using enum TablaTexto::Lado;
-    TablaTexto tabla({izquierda, derecha, derecha, derecha, izquierda});
-    tabla.Fila({"Modelo", "Pmpm (W)", "Vmpm (V)", "Impm (A)", "Tecnología"});
+    const std::vector<Columna> columnas = Columnas(tipo, *modelos.front());
+    std::vector<TablaTexto::Lado> lados = {TablaTexto::Lado::izquierda};
+    std::vector<std::string> titulos = {"Modelo"};
+    for (const Columna& columna : columnas) {
+        lados.push_back(columna.Lado());
+        titulos.push_back(columna.Titulo());
+    }
+    TablaTexto tabla(std::move(lados));
+    tabla.Fila(std::move(titulos));
     tabla.Raya();
     std::set<std::wstring_view> familias;
-    for (const M* m : modelos) {
-        tabla.Fila({EnTerminal(Identificacion(*m)), Decimal(m->dPmpm, 1), Decimal(m->dVmpm, 2),
-                    Decimal(m->dImpm, 2), Tecnologia(*m)});
+    for (const CModelo* m : modelos) {
+        std::vector<std::string> celdas = {EnTerminal(Identificacion(*m))};
+        for (const Columna& columna : columnas)
+            celdas.push_back(columna.Celda(tipo, *m));
+        tabla.Fila(std::move(celdas));
         familias.insert(m->csFamilia);
     }
     return fmt::format("{}\n{} modelo{} de {} familia{}\n", tabla.Texto(), modelos.size(),
                        modelos.size() == 1 ? "" : "s", familias.size(), familias.size() == 1 ? "" : "s");
 }
 
-std::string FichaTexto(const M& modelo)
+std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo)
 {
-    using enum TablaTexto::Lado;
-    TablaTexto tabla({izquierda, izquierda});
-    for (const CampoFicha& campo : kCampos) {
-        std::string valor = std::visit([&](auto m) { return Texto(modelo.*m); }, campo.miembro);
-        if (EsTecnologia(campo))
-            valor = fmt::format("{} ({})", Tecnologia(modelo), valor);
-        else if (*campo.unidad != '\0')
-            valor += fmt::format(" {}", campo.unidad);
-        tabla.Fila({campo.rotulo, std::move(valor)});
-    }
+    const auto dialogo = tipo.CrearDialogo(modelo);
+    FilasDeFicha ficha;
+    ficha.filas.emplace_back("Familia", EnTerminal(modelo.csFamilia));
+    for (const auto& control : dialogo->Controles())
+        if (control->bVisible)
+            control->Visitar(ficha);
+    TablaTexto tabla({TablaTexto::Lado::izquierda, TablaTexto::Lado::izquierda});
+    for (auto& [rotulo, texto] : ficha.filas)
+        tabla.Fila({std::move(rotulo), std::move(texto)});
     return tabla.Texto();
 }
 
-Json FichaJson(const M& modelo)
+Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo)
 {
-    Json ficha = {{"id", CadenaUtf8(Identificacion(modelo))}};
-    for (const CampoFicha& campo : kCampos)
-        ficha[campo.clave] = std::visit([&](auto m) { return Valor(modelo.*m); }, campo.miembro);
-    ficha["tecnologia"] = Tecnologia(modelo);
+    Json ficha = {{"id", CadenaUtf8(Identificacion(modelo))}, {"csFamilia", CadenaUtf8(modelo.csFamilia)}};
+    const auto campos = tipo.Campos();
+    for (std::size_t i = 0; i < campos.size(); ++i)
+        ficha[std::string(campos[i].nombre)] =
+            std::visit([](const auto& valor) { return Valor(valor); }, tipo.Valor(modelo, i));
     return ficha;
 }
 
-Json ListaJson(const Modelos& modelos)
+Json ListaJson(const TipoCatalogo& tipo, const Modelos& modelos)
 {
     Json lista = Json::array();
-    for (const M* m : modelos)
-        lista.push_back(FichaJson(*m));
+    for (const CModelo* m : modelos)
+        lista.push_back(FichaJson(tipo, *m));
     return lista;
 }
 

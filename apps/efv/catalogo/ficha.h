@@ -1,4 +1,4 @@
-// The data sheet of a PV module for people and for programs.
+// The data sheet of a model for people and for programs.
 #pragma once
 
 #include <string>
@@ -11,13 +11,13 @@ namespace efv::orden {
 
 using Json = nlohmann::ordered_json;
 
-/// One line of a terminal each: identification, power, voltage, current, technology.
-std::string ListaTexto(const Modelos& modelos);
-/// Every field with its label and unit.
-std::string FichaTexto(const CBasePanelFotoModelo& modelo);
-/// Every field; what isn't finite is null.
-Json FichaJson(const CBasePanelFotoModelo& modelo);
-Json ListaJson(const Modelos& modelos);
+/// One line of a terminal each: identification and the columns that the kind's lists have.
+std::string ListaTexto(const TipoCatalogo& tipo, const Modelos& modelos);
+/// What its dialog shows, a line a caption.
+std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo);
+/// Every field by its name; what isn't finite is null.
+Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo);
+Json ListaJson(const TipoCatalogo& tipo, const Modelos& modelos);
 
 /// Indented, with an end of line.
 std::string TextoJson(const Json& json);

@@ -8,21 +8,14 @@ namespace efv::orden {
 
 namespace {
 
-// What stands before and after "#" in an identification holds none itself.
-void ComprobarNombre(const CString& csNombre, const char* que)
+CString FabricanteComun(const std::vector<Importacion::Leido>& modelos)
 {
-    if (csNombre.find(L'#') != CString::npos)
-        throw ErrorEjecucion(fmt::format("{} «{}» no puede llevar «#»", que, CadenaUtf8(csNombre)));
-}
-
-CString FabricanteComun(const std::vector<Importacion::Modulo>& modulos)
-{
-    const CString& csPrimero = modulos.front().importado.csFabricante;
-    for (const auto& modulo : modulos) {
-        const CString& csOtro = modulo.importado.csFabricante;
+    const CString& csPrimero = modelos.front().importado.csFabricante;
+    for (const auto& modelo : modelos) {
+        const CString& csOtro = modelo.importado.csFabricante;
         if (csOtro.empty()) {
             throw ErrorEjecucion(
-                fmt::format("«{}» no dice el fabricante: indique la familia con --familia", modulo.fichero));
+                fmt::format("«{}» no dice el fabricante: indique la familia con --familia", modelo.fichero));
         }
         if (csOtro != csPrimero) {
             throw ErrorEjecucion(
@@ -36,36 +29,44 @@ CString FabricanteComun(const std::vector<Importacion::Modulo>& modulos)
 
 }  // namespace
 
+void ComprobarNombre(const CString& csNombre, const char* que)
+{
+    if (csNombre.find(L'#') != CString::npos)
+        throw ErrorEjecucion(fmt::format("{} «{}» no puede llevar «#»", que, CadenaUtf8(csNombre)));
+}
+
 std::size_t Importacion::Hallazgos() const
 {
     std::size_t n = 0;
-    for (const Modulo& modulo : modulos)
-        n += modulo.hallazgos.size();
+    for (const Leido& leido : modelos)
+        n += leido.hallazgos.size();
     return n;
 }
 
-Importacion LeerModulos(const std::vector<std::string>& ficheros, const std::optional<std::string>& familia)
+Importacion LeerModelos(const TipoCatalogo& tipo, const std::vector<std::string>& ficheros,
+                        const LectorModelo& leer, const std::optional<std::string>& familia)
 {
     Importacion importacion;
     for (const std::string& fichero : ficheros)
-        importacion.modulos.push_back({fichero, LeerPan(CadenaDesdeUtf8(fichero)), {}});
-    importacion.csFamilia = familia ? CadenaDesdeUtf8(*familia) : FabricanteComun(importacion.modulos);
+        importacion.modelos.push_back({fichero, leer(CadenaDesdeUtf8(fichero)), {}});
+    importacion.csFamilia = familia ? CadenaDesdeUtf8(*familia) : FabricanteComun(importacion.modelos);
     ComprobarNombre(importacion.csFamilia, "la familia");
-    for (auto& modulo : importacion.modulos) {
-        CBasePanelFotoModelo& modelo = modulo.importado.modelo;
+    for (auto& leido : importacion.modelos) {
+        CModelo& modelo = *leido.importado.modelo;
         ComprobarNombre(modelo.csModelo, "el modelo");
         modelo.csFamilia = importacion.csFamilia;
-        modulo.hallazgos = ValidarModelo(modelo);
+        const CModelo* uno = &modelo;
+        leido.hallazgos = ValidarModelos(tipo, {&uno, 1});
     }
     return importacion;
 }
 
-void Anadir(const Importacion& importacion, const CString& csCatalogo)
+void Anadir(const TipoCatalogo& tipo, const Importacion& importacion, const CString& csCatalogo)
 {
-    std::vector<CBasePanelFotoModelo> modelos;
-    for (const auto& modulo : importacion.modulos)
-        modelos.push_back(modulo.importado.modelo);
-    AnadirModelos(csCatalogo, importacion.csFamilia, modelos);
+    ModelosDeFamilia nuevos{importacion.csFamilia, {}};
+    for (const auto& leido : importacion.modelos)
+        nuevos.modelos.push_back(leido.importado.modelo.get());
+    tipo.Anadir(csCatalogo, {&nuevos, 1});
 }
 
 }  // namespace efv::orden

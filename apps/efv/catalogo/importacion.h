@@ -1,32 +1,39 @@
-// Models from PAN files into a catalogue, all of them or none.
+// Models from PAN and OND files into a catalogue, all of them or none.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include <quorvel/catalogo_herramientas.h>
+#include <quorvel/importacion_catalogo.h>
 
 namespace efv::orden {
 
 struct Importacion {
-    struct Modulo {
+    struct Leido {
         std::string fichero;
-        ModuloImportado importado;
+        ModeloImportado importado;
         std::vector<HallazgoModelo> hallazgos;
     };
 
     CString csFamilia;
-    std::vector<Modulo> modulos;
+    std::vector<Leido> modelos;
 
     std::size_t Hallazgos() const;
 };
 
+using LectorModelo = std::function<ModeloImportado(const CString& csFichero)>;
+
 /// Reads the files as models of `familia`, or of their common manufacturer, and checks them.
 /// @throws ErrorEjecucion, CFileException when a file can't be read or the family is not to be told
-Importacion LeerModulos(const std::vector<std::string>& ficheros, const std::optional<std::string>& familia);
+Importacion LeerModelos(const TipoCatalogo& tipo, const std::vector<std::string>& ficheros,
+                        const LectorModelo& leer, const std::optional<std::string>& familia);
 
 /// Adds the models to the catalogue. @throws CFileException, the file untouched
-void Anadir(const Importacion& importacion, const CString& csCatalogo);
+void Anadir(const TipoCatalogo& tipo, const Importacion& importacion, const CString& csCatalogo);
+
+/// What stands before and after "#" in an identification holds none itself. @throws ErrorEjecucion
+void ComprobarNombre(const CString& csNombre, const char* que);
 
 }  // namespace efv::orden

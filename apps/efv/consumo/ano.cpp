@@ -84,11 +84,12 @@ AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, 
     if (nLeidos > nEsperados)
         throw ErrorEjecucion(fmt::format(
             "«{}» tiene más de los {} valores esperados; compruebe --tiempo y --periodo", ruta, nEsperados));
-    if (nLeidos < nEsperados && !bIncompleto)
+    if (nLeidos < nEsperados && !bIncompleto) {
         throw ErrorEjecucion(
             fmt::format("«{}» tiene {} valores y se esperaban {}; con --incompleto, los que "
                         "faltan cuentan 0",
                         ruta, nLeidos, nEsperados));
+    }
     AnoConsumo ano;
     ano.origen = fmt::format("Fichero: {}", ruta);
     AsignarValores(valores, formato, *ano.horas);

@@ -13,7 +13,7 @@
 #include "comun/numeros.h"
 #include "consumo/ano.h"
 #include "consumo/vistas.h"
-#include "curvas/ficheros.h"
+#include "comun/ficheros_nuevos.h"
 
 namespace efv::orden {
 

@@ -9,14 +9,15 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/catalogues.h>
 #include <quorvel/electrical.h>
 
 #include "catalogo/acceso.h"
 #include "catalogo/ficha.h"
+#include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
 #include "comun/tabla_texto.h"
-#include "curvas/ficheros.h"
 
 namespace efv::orden {
 
@@ -144,7 +145,8 @@ public:
                       "Escribe los valores y las curvas como JSON; las gráficas, solo con --salida")
             ->option_text(" ")
             ->disable_flag_override();
-        m_catalogo.Declarar(linea);
+        m_catalogo.Declarar(linea,
+                            "Catálogo de módulos; si falta, ZqModFotoHE5.xml de la carpeta de los datos");
         linea.footer("Ejemplo:\n  efv curvas 'Astronergy#CHSM6612P-295' --salida graficas");
         return linea;
     }
@@ -155,8 +157,9 @@ public:
             throw ErrorUso("falta el modelo, FAMILIA#MODELO (ayuda: efv curvas --help)");
         if (m_carpeta && m_carpeta->empty())
             throw ErrorUso("--salida: el nombre está vacío");
-        const CatalogoModulos catalogo(m_catalogo.Ruta());
-        const CBasePanelFotoModelo& modelo = catalogo.Buscar(m_id);
+        const TipoCatalogo& modulos = *BuscarTipoCatalogo("modulos");
+        const Catalogo catalogo(modulos, m_catalogo.Ruta(modulos));
+        const auto& modelo = static_cast<const CBasePanelFotoModelo&>(catalogo.Buscar(m_id));
         const Familias familias{GraficasATemperaturaConstante(modelo), GraficasAIrradiacionConstante(modelo)};
         std::vector<std::filesystem::path> escritos;
         if (!m_bJson || m_carpeta)

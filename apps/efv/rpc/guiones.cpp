@@ -247,6 +247,8 @@ public:
         if (!l.bArbol) {
             EscribirMiembro(m_salida, "columns", l.acsColumnas);
             EscribirMiembro(m_salida, "rows", l.filas);
+            if (!l.abMarcas.empty())
+                EscribirMarcas(l.abMarcas);
             return;
         }
         m_salida += ",\"rows\":[";
@@ -254,6 +256,17 @@ public:
             m_salida += i == 0 ? "{\"text\":" : ",{\"text\":";
             EscribirElemento(m_salida, l.filas[i].front());
             m_salida += fmt::format(",\"level\":{}}}", l.niveles[i]);
+        }
+        m_salida += ']';
+    }
+
+    void EscribirMarcas(const std::vector<bool>& abMarcas) const
+    {
+        m_salida += ",\"checks\":[";
+        std::string_view coma;
+        for (const bool bMarca : abMarcas) {
+            m_salida += std::exchange(coma, ",");
+            m_salida += bMarca ? "true" : "false";
         }
         m_salida += ']';
     }

@@ -169,6 +169,8 @@ public:
     /// Depth of a row in a tree, 0 at the root.
     virtual int Nivel(int /*iFila*/) const { return 0; }
     virtual int Imagen(int /*iFila*/) const { return -1; }
+    /// Tick before a row, only to be looked at; nothing where rows have none.
+    virtual std::optional<bool> Marca(int /*iFila*/) const { return std::nullopt; }
 };
 
 /// A list, a table, or a tree told by the levels of its rows.

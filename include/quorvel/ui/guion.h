@@ -79,6 +79,7 @@ struct EstadoControl {
         std::vector<std::vector<CString>> filas;
         std::vector<int> niveles;
         int iSeleccion;
+        std::vector<bool> abMarcas = {};  ///< of a list whose rows have ticks
     };
     std::variant<std::monostate, DeSeleccion, DeLista, CCtrlCurva2D> propio;
 };

@@ -1,6 +1,7 @@
 // A list of rows as data, filled by whoever owns the objects behind the rows.
 #pragma once
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -59,6 +60,7 @@ public:
 
     int Filas() const override { return m_lista.GetItemCount(); }
     CString Celda(int iFila, int iColumna) const override { return m_lista.GetItemText(iFila, iColumna); }
+    std::optional<bool> Marca(int iFila) const override { return m_lista.GetCheck(iFila); }
 
 private:
     const CListCtrl& m_lista;

@@ -67,9 +67,9 @@ void Comprobar(const Localidad& l, const CString& csArchivo)
         Fallar(csArchivo, "las doce radiaciones de " + CadenaUtf8(l.csNombre) + " no están completas");
 }
 
-// Every name that a place answers to.
-template <class Funcion>
-void ParaCadaNombre(const Localidad& l, Funcion funcion)
+// Every name that a place, or anything of that shape, answers to.
+template <class Nombrado, class Funcion>
+void ParaCadaNombre(const Nombrado& l, Funcion funcion)
 {
     funcion(l.csNombre);
     for (const CString& alias : l.acsAlias)
@@ -90,6 +90,30 @@ std::size_t Distancia(const CString& a, const CString& b)
         }
     }
     return fila.back();
+}
+
+template <class Nombrado>
+std::vector<CString> Parecidos(std::span<const Nombrado> nombrados, const CString& csNombre,
+                               std::size_t nMaximo)
+{
+    // A name of absurd length is like none; this also bounds the work.
+    const CString buscado = texto::Plegar(csNombre.substr(0, 64));
+    std::vector<std::pair<std::size_t, CString>> candidatos;
+    for (const Nombrado& l : nombrados) {
+        std::size_t mejor = CString::npos;
+        ParaCadaNombre(l, [&](const CString& nombre) {
+            const CString plegado = texto::Plegar(nombre.substr(0, 64));
+            const bool contenido = !buscado.empty() && plegado.find(buscado) != CString::npos;
+            mejor = std::min(mejor, contenido ? 0 : Distancia(plegado, buscado));
+        });
+        if (mejor <= std::max<std::size_t>(2, buscado.size() / 2))
+            candidatos.emplace_back(mejor, l.csNombre);
+    }
+    std::ranges::stable_sort(candidatos, {}, &std::pair<std::size_t, CString>::first);
+    std::vector<CString> nombres;
+    for (std::size_t i = 0; i < std::min(nMaximo, candidatos.size()); ++i)
+        nombres.push_back(candidatos[i].second);
+    return nombres;
 }
 
 }  // namespace
@@ -131,24 +155,13 @@ const Localidad* BuscarLocalidad(const std::vector<Localidad>& localidades, cons
 std::vector<CString> NombresParecidos(const std::vector<Localidad>& localidades, const CString& csNombre,
                                       std::size_t nMaximo)
 {
-    // A name of absurd length is like none; this also bounds the work.
-    const CString buscado = texto::Plegar(csNombre.substr(0, 64));
-    std::vector<std::pair<std::size_t, CString>> candidatos;
-    for (const Localidad& l : localidades) {
-        std::size_t mejor = CString::npos;
-        ParaCadaNombre(l, [&](const CString& nombre) {
-            const CString plegado = texto::Plegar(nombre.substr(0, 64));
-            const bool contenido = !buscado.empty() && plegado.find(buscado) != CString::npos;
-            mejor = std::min(mejor, contenido ? 0 : Distancia(plegado, buscado));
-        });
-        if (mejor <= std::max<std::size_t>(2, buscado.size() / 2))
-            candidatos.emplace_back(mejor, l.csNombre);
-    }
-    std::ranges::stable_sort(candidatos, {}, &std::pair<std::size_t, CString>::first);
-    std::vector<CString> nombres;
-    for (std::size_t i = 0; i < std::min(nMaximo, candidatos.size()); ++i)
-        nombres.push_back(candidatos[i].second);
-    return nombres;
+    return Parecidos<Localidad>(localidades, csNombre, nMaximo);
+}
+
+std::vector<CString> NombresParecidos(std::span<const NombreBuscable> nombres, const CString& csNombre,
+                                      std::size_t nMaximo)
+{
+    return Parecidos(nombres, csNombre, nMaximo);
 }
 
 }  // namespace efv

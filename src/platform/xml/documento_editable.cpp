@@ -80,12 +80,15 @@ DocumentoEditable& DocumentoEditable::operator=(DocumentoEditable&&) noexcept = 
 std::optional<DocumentoEditable> DocumentoEditable::Abrir(const CString& csRuta)
 {
     const std::optional<std::string> utf8 = LeerComoUtf8(csRuta);
-    if (!utf8)
-        return std::nullopt;
+    return utf8 ? Leer(*utf8) : std::nullopt;
+}
+
+std::optional<DocumentoEditable> DocumentoEditable::Leer(std::string_view utf8)
+{
     DocumentoEditable documento;
     pugi::xml_document& arbol = documento.m->arbol;
     constexpr unsigned opciones = pugi::parse_full | pugi::parse_ws_pcdata;
-    if (!arbol.load_buffer(utf8->data(), utf8->size(), opciones, pugi::encoding_utf8) ||
+    if (!arbol.load_buffer(utf8.data(), utf8.size(), opciones, pugi::encoding_utf8) ||
         std::count_if(arbol.begin(), arbol.end(), EsElemento) != 1)
         return std::nullopt;
     DeclararUtf8(arbol);
@@ -168,7 +171,9 @@ Elemento DocumentoEditable::Anadir(Elemento padre, std::string_view nombre, cons
 {
     pugi::xml_node nodoPadre = Nodo(padre.m_nodo);
     const pugi::xml_node ultimo = UltimoElemento(nodoPadre);
-    const std::string sangria = ultimo ? Sangria(ultimo) : std::string();
+    const std::string sangria = ultimo                    ? Sangria(ultimo)
+                                : nodoPadre.first_child() ? std::string()
+                                                          : Sangria(nodoPadre);
     pugi::xml_node nuevo = ultimo ? nodoPadre.insert_child_after(pugi::node_element, ultimo)
                                   : nodoPadre.append_child(pugi::node_element);
     nuevo.set_name(std::string(nombre).c_str());

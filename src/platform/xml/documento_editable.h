@@ -46,6 +46,9 @@ public:
     /// @return nothing when the file can't be read as a document (see xmlOpenDocument).
     static std::optional<DocumentoEditable> Abrir(const CString& csRuta);
 
+    /// The same of a text. @param utf8 well-formed UTF-8
+    static std::optional<DocumentoEditable> Leer(std::string_view utf8);
+
     /// The whole document, UTF-8.
     std::string Texto() const;
 
@@ -60,7 +63,8 @@ public:
     /// Puts exactly these attributes in place of the element's: values change where they stand.
     void PonerAtributos(Elemento elemento, const Atributos& atributos);
 
-    /// New element behind the last element child of `padre`, indented like its siblings.
+    /// New element behind the last element child of `padre`, indented like its siblings; the first child
+    /// of an empty element is indented like that.
     Elemento Anadir(Elemento padre, std::string_view nombre, const Atributos& atributos);
     /// Copy of the element, all it holds included, directly behind it.
     Elemento Duplicar(Elemento elemento);

@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "apoyo.h"
-#include "curvas/ficheros.h"
+#include "comun/ficheros_nuevos.h"
 
 namespace efv::orden::pruebas {
 namespace {
@@ -39,7 +39,7 @@ std::string Pan(const std::string& fabricante, const std::string& modelo, const 
            "  VMaxIEC=1500\r\nEnd of PVObject pvModule\r\n";
 }
 
-class CatalogoModulos : public ::testing::Test {
+class OrdenCatalogo : public ::testing::Test {
 protected:
     void SetUp() override { m_catalogo = m_carpeta.Crear("c.xml", Catalogo()); }
 
@@ -86,7 +86,7 @@ protected:
 
 using Textos = std::vector<std::string>;
 
-TEST_F(CatalogoModulos, SeListaYSeBuscaSinAcentosNiMayusculas)
+TEST_F(OrdenCatalogo, SeListaYSeBuscaSinAcentosNiMayusculas)
 {
     EXPECT_EQ(Ids({"catalogo", "listar"}),
               (Textos{"Énergy#AB-360/x", "Énergy#Doble", "Otra#Doble", "Otra#DOBLE"}));
@@ -94,14 +94,14 @@ TEST_F(CatalogoModulos, SeListaYSeBuscaSinAcentosNiMayusculas)
     EXPECT_EQ(Ids({"catalogo", "buscar", "b-360/X"}), (Textos{"Énergy#AB-360/x"}));
     EXPECT_EQ(Ids({"catalogo", "buscar", "NERG"}), (Textos{"Énergy#AB-360/x", "Énergy#Doble"}));
     const std::string tabla = Orden({"catalogo", "listar", "--familia", "otra"}).salida;
-    EXPECT_NE(tabla.find("360,0"), std::string::npos) << tabla;
-    EXPECT_NE(tabla.find("Si Monocristalino"), std::string::npos) << tabla;
+    EXPECT_NE(tabla.find("360,00"), std::string::npos) << tabla;
+    EXPECT_NE(tabla.find("monocristalino"), std::string::npos) << tabla;
     EXPECT_NE(tabla.find("2 modelos de 1 familia\n"), std::string::npos) << tabla;
     EsperarFallo({"catalogo", "listar", "--familia", "energi"}, 1, "Énergy");
     EsperarFallo({"catalogo", "buscar", "nada"}, 1, "«nada»");
 }
 
-TEST_F(CatalogoModulos, UnModeloSeNombraEnteroOSolo)
+TEST_F(OrdenCatalogo, UnModeloSeNombraEnteroOSolo)
 {
     const auto id = [&](const std::string& nombre) { return OrdenJson({"catalogo", "ver", nombre})["id"]; };
     EXPECT_EQ(id("Otra#Doble"), "Otra#Doble");
@@ -112,11 +112,11 @@ TEST_F(CatalogoModulos, UnModeloSeNombraEnteroOSolo)
     EsperarFallo({"catalogo", "ver", "Otra#AB-360/x"}, 1, "parecidos: Énergy#AB-360/x");
     const std::string ficha = Orden({"catalogo", "ver", "AB-360/x"}).salida;
     for (const char* fragmento :
-         {"-150 mV/ºC\n", "3,25 %\n", "24340 mm²\n", "21,4 kg\n", "Si Monocristalino (0)\n"})
+         {"Familia", "Énergy\n", "-0,300 %/ºC\n", "3,25\n", "24340,00\n", "Peso (kg)", "monocristalino\n"})
         EXPECT_NE(ficha.find(fragmento), std::string::npos) << fragmento << ficha;
 }
 
-TEST_F(CatalogoModulos, ValidarTerminaConUnoSiHayHallazgos)
+TEST_F(OrdenCatalogo, ValidarTerminaConUnoSiHayHallazgos)
 {
     EXPECT_EQ(Orden({"catalogo", "validar"}).salida, "4 modelos, sin hallazgos\n");
     EXPECT_EQ(Orden({"catalogo", "validar"}).iEstado, 0);
@@ -130,20 +130,20 @@ TEST_F(CatalogoModulos, ValidarTerminaConUnoSiHayHallazgos)
     EXPECT_EQ(json["hallazgos"].size(), 1U);
 }
 
-TEST_F(CatalogoModulos, UnPanSeAnadeALaFamiliaDeSuFabricante)
+TEST_F(OrdenCatalogo, UnPanSeAnadeALaFamiliaDeSuFabricante)
 {
     const Corrida corrida = Orden({"catalogo", "importar-pan", m_carpeta.Crear("a.pan", Pan("Otra", "Nueva"))});
     EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
     EXPECT_NE(corrida.salida.find("Otra#Nueva\n  aviso: falta VMaxUL"), std::string::npos) << corrida.salida;
     const Json ficha = OrdenJson({"catalogo", "ver", "Otra#Nueva"});
-    EXPECT_DOUBLE_EQ(ficha["ancho_mm"], 994);
-    EXPECT_DOUBLE_EQ(ficha["vsmax_V"], 1500);
-    EXPECT_DOUBLE_EQ(ficha["ctpmpm_mW_C"], -1200);  // -0.4 % of 300 W
-    EXPECT_EQ(ficha["ramales_paralelo"], 2);
+    EXPECT_DOUBLE_EQ(ficha["dB"], 994);
+    EXPECT_DOUBLE_EQ(ficha["dVsmax"], 1500);
+    EXPECT_DOUBLE_EQ(ficha["dCTPmpm"], -1200);  // -0.4 % of 300 W
+    EXPECT_EQ(ficha["iNp"], 2);
     EXPECT_EQ(Ids({"catalogo", "listar"}).size(), 5U);
 }
 
-TEST_F(CatalogoModulos, VariosPanSeAnadenTodosONinguno)
+TEST_F(OrdenCatalogo, VariosPanSeAnadenTodosONinguno)
 {
     const std::string a = m_carpeta.Crear("a.pan", Pan("Una", "A"));
     const std::string b = m_carpeta.Crear("b.pan", Pan("Dos", "B"));
@@ -165,7 +165,7 @@ TEST_F(CatalogoModulos, VariosPanSeAnadenTodosONinguno)
     EXPECT_EQ(Ids({"catalogo", "listar", "--familia", "Ñ & Cía"}), (Textos{"Ñ & Cía#A", "Ñ & Cía#B"}));
 }
 
-TEST_F(CatalogoModulos, LosValoresTipicosSonLosDeLaFicha)
+TEST_F(OrdenCatalogo, LosValoresTipicosSonLosDeLaFicha)
 {
     const Json valores = OrdenJson({"curvas", "Otra#Doble"})["valores"];
     // 200 W/m²: a fifth of the currents and the power, Voc less 5.8 %.
@@ -182,7 +182,7 @@ TEST_F(CatalogoModulos, LosValoresTipicosSonLosDeLaFicha)
     EXPECT_NEAR(caliente["vmp_V"].get<double>(), 310.0 / 9, 1e-9);
 }
 
-TEST_F(CatalogoModulos, CadaCurvaLlevaSuCondicion)
+TEST_F(OrdenCatalogo, CadaCurvaLlevaSuCondicion)
 {
     const Json curvas = OrdenJson({"curvas", "Otra#Doble"})["curvas"];
     // Each ends at its open-circuit voltage, of which a point more or less is a hundredth.
@@ -201,7 +201,7 @@ TEST_F(CatalogoModulos, CadaCurvaLlevaSuCondicion)
         EXPECT_NEAR(curva["corriente_A"][0].get<double>(), curva["irradiancia_W_m2"].get<double>() / 100, 1e-3);
 }
 
-TEST_F(CatalogoModulos, LasGraficasSeEscribenEnteras)
+TEST_F(OrdenCatalogo, LasGraficasSeEscribenEnteras)
 {
     const std::string base = m_carpeta.Ruta().string() + "/nueva/graficas";
     const auto nombres = [&] {
@@ -243,7 +243,7 @@ TEST(NombreDeFichero, NoSaleDeSuCarpeta)
     EXPECT_LE(NombreDeFichero(std::wstring(1000, L'x')).size(), 200U);
 }
 
-TEST_F(CatalogoModulos, UnaLlamadaMalHechaDiceQueYTerminaConDos)
+TEST_F(OrdenCatalogo, UnaLlamadaMalHechaDiceQueYTerminaConDos)
 {
     EXPECT_EQ(Correr({"catalogo"}).iEstado, 2);
     EXPECT_EQ(Correr({"catalogo", "nada"}).iEstado, 2);
@@ -256,7 +256,7 @@ TEST_F(CatalogoModulos, UnaLlamadaMalHechaDiceQueYTerminaConDos)
     EsperarFallo({"curvas", "Otra#Doble", "--salida", ""}, 2, "--salida");
 }
 
-TEST_F(CatalogoModulos, UnCatalogoQueNoSirveTerminaConUno)
+TEST_F(OrdenCatalogo, UnCatalogoQueNoSirveTerminaConUno)
 {
     for (const char* orden : {"listar", "validar"}) {
         m_carpeta.Crear("c.xml", "<roto");
@@ -272,10 +272,16 @@ TEST_F(CatalogoModulos, UnCatalogoQueNoSirveTerminaConUno)
 
 TEST(AyudaCatalogo, EstaTodaEnEspanol)
 {
-    const std::vector<Textos> ordenes = {
-        {"catalogo"},        {"catalogo", "listar"},  {"catalogo", "buscar"},
-        {"catalogo", "ver"}, {"catalogo", "validar"}, {"catalogo", "importar-pan"},
-        {"curvas"}};
+    const std::vector<Textos> ordenes = {{"catalogo"},
+                                         {"catalogo", "listar"},
+                                         {"catalogo", "buscar"},
+                                         {"catalogo", "ver"},
+                                         {"catalogo", "validar"},
+                                         {"catalogo", "importar-pan"},
+                                         {"catalogo", "importar-ond"},
+                                         {"catalogo", "importar-cec"},
+                                         {"catalogo", "exportar"},
+                                         {"curvas"}};
     for (Textos argumentos : ordenes) {
         argumentos.emplace_back("--help");
         const Corrida corrida = Correr(argumentos);

@@ -1,4 +1,4 @@
-#include "curvas/ficheros.h"
+#include "comun/ficheros_nuevos.h"
 
 #include <fstream>
 #include <utility>

@@ -1,0 +1,150 @@
+// Orders that read a catalogue.
+#include <algorithm>
+#include <filesystem>
+
+#include <fmt/format.h>
+
+#include "catalogo/exportacion.h"
+#include "catalogo/ficha.h"
+#include "catalogo/grupo_ordenes.h"
+#include "catalogo/informes.h"
+#include "comun/consola.h"
+#include "comun/ficheros_nuevos.h"
+#include "comun/numeros.h"
+
+namespace efv::orden {
+
+namespace {
+
+class Consultas final : public GrupoOrdenes {
+public:
+    void Declarar(CLI::App& linea) override
+    {
+        CLI::App& listar = Consulta(linea, "listar", "Lista los modelos", &Consultas::Listar);
+        AnadirFamilia(listar, "Solo los de la familia");
+        CLI::App& buscar = Consulta(
+            linea, "buscar", "Lista los modelos cuya familia o modelo contiene un texto", &Consultas::Buscar);
+        buscar.add_option("TEXTO", m_palabras, "Texto, sin distinguir mayúsculas ni acentos")->option_text(" ");
+        CLI::App& ver = Consulta(linea, "ver", "Muestra la ficha de un modelo", &Consultas::Ver);
+        ver.add_option("ID", m_id, "FAMILIA#MODELO, o el modelo solo")->option_text(" ");
+        CLI::App& validar =
+            Consulta(linea, "validar", "Comprueba todos los modelos; termina con 1 si hay hallazgos",
+                     &Consultas::Validar);
+        for (CLI::App* orden : {&listar, &buscar, &ver, &validar})
+            AnadirJson(*orden);
+        DeclararExportar(Consulta(linea, "exportar", "Escribe los modelos como CSV para una hoja de cálculo",
+                                  &Consultas::Exportar));
+    }
+
+private:
+    CLI::App& Consulta(CLI::App& linea, const char* nombre, const char* descripcion,
+                       int (Consultas::*trabajo)(std::ostream&) const)
+    {
+        return Orden(linea, nombre, descripcion, TodosLosTipos(),
+                     [this, trabajo](std::ostream& salida) { return (this->*trabajo)(salida); });
+    }
+
+    void DeclararExportar(CLI::App& exportar)
+    {
+        AnadirFamilia(exportar, "Solo los de la familia");
+        exportar.add_option("--salida", m_salida, "Fichero que se escribe; sin él, la salida del programa")
+            ->type_name("FICHERO");
+        exportar
+            .add_option("--separador", m_separador,
+                        "«;», con coma decimal, o «,», con punto decimal; si falta, «;»")
+            ->type_name("SIGNO");
+        exportar.footer(
+            "UTF-8 con marca de orden de bytes; los campos, por su nombre. A un texto que empieza por\n"
+            "= + - o @ se le antepone un apóstrofo, para que ninguna hoja de cálculo lo tome por fórmula.");
+    }
+
+    const TipoCatalogo& Tipo() const { return m_catalogo.Tipo(TodosLosTipos()); }
+    Catalogo Abrir() const { return {Tipo(), m_catalogo.Ruta(Tipo())}; }
+    // Those of the family that was given, else all.
+    Modelos Elegidos(const Catalogo& catalogo) const
+    {
+        return Familia() ? catalogo.DeFamilia(*Familia()) : catalogo.Todos();
+    }
+    void Escribir(std::ostream& salida, const Modelos& modelos) const
+    {
+        salida << (m_bJson ? TextoJson(ListaJson(Tipo(), modelos)) : ListaTexto(Tipo(), modelos));
+    }
+
+    int Listar(std::ostream& salida) const
+    {
+        Escribir(salida, Elegidos(Abrir()));
+        return 0;
+    }
+
+    int Buscar(std::ostream& salida) const
+    {
+        const std::string texto = fmt::format("{}", fmt::join(m_palabras, " "));
+        if (texto.empty())
+            throw ErrorUso("falta el texto que se busca (ayuda: efv catalogo buscar --help)");
+        const CString csPlegado = Plegar(CadenaDesdeUtf8(texto));
+        const auto contiene = [&](const CString& cs) { return Plegar(cs).find(csPlegado) != CString::npos; };
+        const Catalogo catalogo = Abrir();
+        Modelos hallados;
+        std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados), [&](const auto* modelo) {
+            return contiene(modelo->csFamilia) || contiene(modelo->csModelo);
+        });
+        if (hallados.empty())
+            throw ErrorEjecucion(fmt::format("ningún modelo contiene «{}»", texto));
+        Escribir(salida, hallados);
+        return 0;
+    }
+
+    int Ver(std::ostream& salida) const
+    {
+        if (m_id.empty())
+            throw ErrorUso("falta el modelo, FAMILIA#MODELO (ayuda: efv catalogo ver --help)");
+        const Catalogo catalogo = Abrir();
+        const CModelo& modelo = catalogo.Buscar(m_id);
+        salida << (m_bJson ? TextoJson(FichaJson(Tipo(), modelo)) : FichaTexto(Tipo(), modelo));
+        return 0;
+    }
+
+    int Validar(std::ostream& salida) const
+    {
+        const Catalogo catalogo = Abrir();
+        const std::vector<HallazgoModelo> hallazgos = ValidarModelos(Tipo(), catalogo.Todos());
+        const std::size_t n = catalogo.Todos().size();
+        if (m_bJson)
+            salida << TextoJson({{"modelos", n}, {"hallazgos", HallazgosJson(hallazgos)}});
+        else if (hallazgos.empty())
+            salida << fmt::format("{} modelo{}, sin hallazgos\n", n, n == 1 ? "" : "s");
+        else
+            salida << HallazgosTexto(hallazgos);
+        return hallazgos.empty() ? 0 : kConHallazgos;
+    }
+
+    int Exportar(std::ostream& salida) const
+    {
+        if (m_separador != ";" && m_separador != ",")
+            throw ErrorUso(fmt::format("--separador: se esperaba «;» o «,», llegó «{}»", m_separador));
+        if (m_salida && m_salida->empty())
+            throw ErrorUso("--salida: el nombre está vacío");
+        const Catalogo catalogo = Abrir();
+        const std::string csv = ModelosCsv(Tipo(), Elegidos(catalogo), m_separador.front());
+        if (!m_salida) {
+            salida << csv;
+            return 0;
+        }
+        const std::filesystem::path ruta = std::filesystem::absolute(*m_salida);
+        EscribirFicheros(ruta.parent_path(), {{ruta.filename().string(), csv}});
+        return 0;
+    }
+
+    std::string m_id;
+    std::optional<std::string> m_salida;
+    std::string m_separador = ";";
+};
+
+}  // namespace
+
+std::unique_ptr<GrupoOrdenes> CrearConsultas()
+{
+    return std::make_unique<Consultas>();
+}
+
+}  // namespace efv::orden

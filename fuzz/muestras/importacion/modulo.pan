@@ -1,0 +1,20 @@
+PVObject_=pvModule
+  Manufacturer=Solarex
+  Model=SX-300
+  Width=0.994
+  Height=1.956
+  Depth=0.04
+  Weight=23.5
+  Technol=mtSiMono
+  NCelS=72
+  NCelP=2
+  PNom=300
+  Isc=9
+  Voc=49.5
+  Imp=8
+  Vmp=37.5
+  muISC=4
+  muVocSpec=-140
+  muPmpReq=-0.4
+  VMaxIEC=1500
+End of PVObject pvModule

@@ -1,0 +1,20 @@
+// The public CEC libraries, from their text.
+#pragma once
+
+#include <optional>
+#include <string_view>
+
+#include <quorvel/importacion_catalogo.h>
+
+namespace efv::catalogues {
+
+/// Nothing when the first line is the header of neither library.
+std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec& opciones);
+
+/// Highest efficiency of an inverter at its nominal voltage, %, after the model of King, Gonzalez, Galbraith
+/// and Boyson (SAND2007-5036): AC power is a parabola over the DC power above the self-consumption.
+/// @param dPaco nominal AC power, W @param dPdco DC power at which that is reached, W
+/// @param dPso DC power at which the inverter starts, W @param dC0 curvature, 1/W
+double RendimientoMaximo(double dPaco, double dPdco, double dPso, double dC0);
+
+}  // namespace efv::catalogues
