@@ -120,7 +120,9 @@ public:
                 elemento.iColumna = std::min(elemento.iColumna, lugar.iColumna);
                 continue;
             }
-            if (!elementos.empty() && SeUne(elementos.back(), *vista))
+            if (Elemento* suyo = DelQueEsPropuesta(elementos, *vista))
+                suyo->vistas.push_back(vista);
+            else if (!elementos.empty() && SeUne(elementos.back(), *vista))
                 elementos.back().vistas.push_back(vista);
             else
                 elementos.push_back({{vista}, {}, lugar.iColumna});
@@ -129,6 +131,20 @@ public:
     }
 
 private:
+    // A field without a caption that is named as an earlier one and a "P" holds the proposal for its value: it
+    // stands on that one's line, however late it was declared.
+    static Elemento* DelQueEsPropuesta(std::vector<Elemento>& elementos, const Vista& vista)
+    {
+        const ui::Control& control = vista.control;
+        if (dynamic_cast<const ui::Edicion*>(&control) == nullptr || !Acompana(vista))
+            return nullptr;
+        const auto suyo = std::ranges::find_if(elementos, [&](const Elemento& e) {
+            return e.grupo.empty() && e.iColumna == control.lugar.iColumna && EsCampo(*e.vistas.front()) &&
+                   e.vistas.front()->control.nombre + 'P' == control.nombre;
+        });
+        return suyo == elementos.end() ? nullptr : &*suyo;
+    }
+
     static bool SeUne(const Elemento& elemento, const Vista& vista)
     {
         if (!elemento.grupo.empty() || elemento.iColumna != vista.control.lugar.iColumna)
