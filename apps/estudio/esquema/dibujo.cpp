@@ -189,12 +189,10 @@ private:
     }
     void Puntos(Punto centro, bool bEnFila)
     {
-        for (const double d : {-4.0, 0.0, 4.0})
-            m_trazos.emplace_back(
-                trazo::Circulo{{centro.x + (bEnFila ? d : 0.0), centro.y + (bEnFila ? 0.0 : d)},
-                               1.3,
-                               Tinta::linea,
-                               Tinta::fondo});
+        for (const double d : {-4.0, 0.0, 4.0}) {
+            const Punto p = bEnFila ? Punto{centro.x + d, centro.y} : Punto{centro.x, centro.y + d};
+            m_trazos.emplace_back(trazo::Circulo{p, 1.3, Tinta::linea, Tinta::fondo});
+        }
     }
 
     std::vector<Trazo>& m_trazos;

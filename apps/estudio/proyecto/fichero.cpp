@@ -28,7 +28,7 @@ QByteArray Contenido(const CString& csRuta)
     if (!fichero.open(QIODevice::ReadOnly))
         FallarAlAbrir(csRuta, fichero.errorString().toStdString());
     // One byte more tells a file that is too large, also one that has no size, such as a device.
-    const QByteArray bytes = fichero.read(kTamanoMaximo + 1);
+    QByteArray bytes = fichero.read(kTamanoMaximo + 1);
     if (fichero.error() != QFileDevice::NoError)
         FallarAlAbrir(csRuta, fichero.errorString().toStdString());
     if (bytes.size() > kTamanoMaximo)

@@ -9,11 +9,14 @@ namespace {
 
 constexpr const char* kClave = "proyecto/recientes";
 
-QSettings Ajustes()
-{
-    return QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("QuorvelEFV"),
-                     QStringLiteral("efv-estudio"));
-}
+class Ajustes final : public QSettings {
+public:
+    Ajustes()
+        : QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("QuorvelEFV"),
+                    QStringLiteral("efv-estudio"))
+    {
+    }
+};
 
 }  // namespace
 

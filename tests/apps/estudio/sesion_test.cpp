@@ -96,7 +96,7 @@ TEST_F(SesionGuionizada, GuardarQueFallaLoDiceYSigueModificado)
 TEST_F(SesionGuionizada, LosRecientesSonOchoYElUltimoVaDelante)
 {
     for (int i = 0; i < 10; ++i) {
-        guion.presentador.ficheros.push_back(EnCarpeta((std::to_string(i) + ".efvp").c_str()));
+        guion.presentador.ficheros.emplace_back(EnCarpeta((std::to_string(i) + ".efvp").c_str()));
         ASSERT_TRUE(sesion.GuardarComo());
     }
     ASSERT_TRUE(sesion.Abrir(EnCarpeta("5.efvp")));
