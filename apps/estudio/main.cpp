@@ -13,8 +13,11 @@
 #include <QuorvelEFV.h>
 #include <quorvel/qt.h>
 
+#include "anfitrion/simbolos.h"
 #include "capturas/capturar.h"
 #include "datos.h"
+#include "proyecto/ejemplo.h"
+#include "proyecto/recientes.h"
 #include "ventana_principal.h"
 
 namespace {
@@ -44,14 +47,20 @@ void PrepararPantalla(int argc, char** argv, QTemporaryFile& descripcion)
     }
 }
 
+std::vector<efv::Localidad> Lugares(const std::filesystem::path& datos)
+{
+    return efv::LeerLocalidades(Ruta(datos, "localidades.xml"));
+}
+
 int Capturar(const std::filesystem::path& datos, const std::filesystem::path& carpeta)
 {
     std::filesystem::create_directories(carpeta);
-    VentanaPrincipal ventana(datos);
+    VentanaPrincipal ventana(Lugares(datos));
+    ventana.LaSesion().Nuevo(ProyectoDeEjemplo(ventana.LaSesion().LugarInicial()));
     ventana.show();
-    CapturarVentana(ventana, carpeta / "ventana-principal.png");
-    std::cout << efv::estudio::Capturar(Pantallas(datos), carpeta) + 1 << " capturas en " << carpeta.string()
-              << '\n';
+    const int nCapturas =
+        CapturarPrograma(ventana, carpeta) + efv::estudio::Capturar(Pantallas(ventana.LaSesion()), carpeta);
+    std::cout << nCapturas << " capturas en " << carpeta.string() << '\n';
     return EXIT_SUCCESS;
 }
 
@@ -74,6 +83,7 @@ int Ejecutar(QApplication& programa)
     const QCommandLineOption datos("datos", "Carpeta de catálogos y lugares.", "DIR");
     const QCommandLineOption capturas("capturas", "Escribe una imagen PNG de cada pantalla y termina.", "DIR");
     orden.addOptions({ayuda, version, datos, capturas});
+    orden.addPositionalArgument("PROYECTO", "Proyecto que se abre (.efvp).", "[PROYECTO]");
     orden.process(programa);
     if (orden.isSet(ayuda)) {
         std::cout << orden.helpText().toStdString();
@@ -85,6 +95,8 @@ int Ejecutar(QApplication& programa)
     }
 
     efv::qt::InstalarPresentadorQt();
+    static ControlAnfitrion control;
+    phSetQuorvelBIMCtrl(control);
     const bool bCapturas = orden.isSet(capturas);
     // Pictures show the shipped data, whatever the person has made of their own.
     const std::string opcion = orden.value(datos).toStdString();
@@ -93,11 +105,17 @@ int Ejecutar(QApplication& programa)
     const CStringArray fallidas = PonerDatos(carpeta);
     if (bCapturas)
         return Capturar(carpeta, orden.value(capturas).toStdString());
-    VentanaPrincipal ventana(carpeta);
+    VentanaPrincipal ventana(Lugares(carpeta));
     efv::qt::InstalarPresentadorQt(&ventana);
+    Sesion& sesion = ventana.LaSesion();
+    sesion.PonerRecientes(LeerRecientes());
     ventana.show();
     AvisarDe(fallidas);
-    return QApplication::exec();
+    if (const QStringList ficheros = orden.positionalArguments(); !ficheros.isEmpty())
+        ventana.Atender([&] { sesion.Abrir(ficheros.constFirst().toStdWString()); });
+    const int iResultado = QApplication::exec();
+    EscribirRecientes(sesion.Recientes());
+    return iResultado;
 }
 
 }  // namespace

@@ -2,25 +2,112 @@
 
 #include <array>
 
+#include <QDir>
+#include <QMenu>
+
 #include <QuorvelEFV.h>
+
+#include "esquema/exportar.h"
+#include "proyecto/asistentes.h"
+#include "proyecto/ejemplo.h"
+#include "ventana_principal.h"
 
 namespace efv::estudio {
 
 namespace {
 
 constexpr int kEditar = 0;
+constexpr double kPasoAmpliar = 1.25;
 
+constexpr const char* kArchivo = "&Archivo";
+constexpr const char* kDiseno = "&Diseño";
+constexpr const char* kEsquema = "&Esquema";
 constexpr const char* kCatalogos = "&Catálogos";
 constexpr const char* kAyuda = "Ay&uda";
 
+using Ventana = VentanaPrincipal;
+
+void LlenarRecientes(Ventana& ventana, QMenu& menu)
+{
+    for (const CString& csRuta : ventana.LaSesion().Recientes())
+        menu.addAction(QDir::toNativeSeparators(QString::fromStdWString(csRuta)).replace('&', "&&"), &ventana,
+                       [&ventana, csRuta] { ventana.Atender([&] { ventana.LaSesion().Abrir(csRuta); }); });
+    if (menu.isEmpty())
+        menu.addAction("(ninguno)")->setEnabled(false);
+}
+
+// The drawing on view, or a word about there being none.
+const Dibujo* DibujoALaVista(Ventana& ventana)
+{
+    const VistaEsquema* vista = ventana.EsquemaALaVista();
+    if (vista != nullptr && !vista->Mostrado().trazos.empty())
+        return &vista->Mostrado();
+    ui::MostrarAviso(L"No hay ningún esquema a la vista.", ui::Icono::informacion);
+    return nullptr;
+}
+
+void CopiarEsquema(Ventana& ventana)
+{
+    if (const Dibujo* dibujo = DibujoALaVista(ventana))
+        CopiarDibujo(*dibujo);
+}
+
+void GuardarEsquema(Ventana& ventana)
+{
+    const Dibujo* dibujo = DibujoALaVista(ventana);
+    if (dibujo == nullptr)
+        return;
+    if (const auto csRuta = ui::PresentadorActual().ElegirFichero({L"Guardar esquema",
+                                                                   {{L"Imagen PNG (*.png)", L"*.png"},
+                                                                    {L"Dibujo SVG (*.svg)", L"*.svg"},
+                                                                    {L"Documento PDF (*.pdf)", L"*.pdf"}},
+                                                                   true,
+                                                                   L"esquema.png"}))
+        GuardarDibujo(*dibujo, *csRuta);
+}
+
+void AmpliarEsquema(Ventana& ventana, double dFactor)
+{
+    if (VistaEsquema* vista = ventana.EsquemaALaVista())
+        vista->Ampliar(dFactor);
+}
+
+void EncajarEsquema(Ventana& ventana)
+{
+    if (VistaEsquema* vista = ventana.EsquemaALaVista())
+        vista->Encajar();
+}
+
 constexpr auto kOrdenes = std::to_array<Orden>({
-    {kCatalogos, "&Paneles fotovoltaicos…", [] { phEditarBasePanelesFotovoltaicos(kEditar); }},
-    {kCatalogos, "&Acumuladores…", [] { phEditarBaseAcumuladores(kEditar); }},
-    {kCatalogos, "&Inversores…", [] { phEditarBaseInversores(kEditar); }},
-    {kCatalogos, "&Microinversores…", [] { phEditarBaseMicroInversores(kEditar); }},
-    {kCatalogos, "&Convertidores de CC…", [] { phEditarBaseConvertidorCC(kEditar); }},
-    {kCatalogos, "&Receptores…", [] { phEditarBaseReceptores(kEditar); }},
-    {kAyuda, "&Versión…", [] { phShowVersion(); }},
+    {kArchivo, "&Nuevo", "Ctrl+N", [](Ventana& v) { v.LaSesion().Nuevo(); }},
+    {kArchivo, "&Abrir…", "Ctrl+O", [](Ventana& v) { v.LaSesion().Abrir(); }},
+    {kArchivo, "Abrir &reciente", nullptr, nullptr, &LlenarRecientes},
+    {kArchivo, "Proyecto de &ejemplo", nullptr,
+     [](Ventana& v) { v.LaSesion().Nuevo(ProyectoDeEjemplo(v.LaSesion().LugarInicial())); }},
+    {kArchivo, nullptr, nullptr, nullptr},
+    {kArchivo, "&Guardar", "Ctrl+S", [](Ventana& v) { v.LaSesion().Guardar(); }},
+    {kArchivo, "Guardar &como…", "Ctrl+Shift+S", [](Ventana& v) { v.LaSesion().GuardarComo(); }},
+    {kArchivo, nullptr, nullptr, nullptr},
+    {kArchivo, "&Salir", "Ctrl+Q", [](Ventana& v) { v.close(); }},
+    {kDiseno, "&Elegir tipo de instalación…", "Ctrl+D", [](Ventana& v) { Disenar(v.LaSesion()); }},
+    {kDiseno, nullptr, nullptr, nullptr},
+    {kDiseno, "Instalación &aislada…", nullptr, [](Ventana& v) { DisenarAislada(v.LaSesion()); }},
+    {kDiseno, "Conexión a &red…", nullptr, [](Ventana& v) { DisenarRed(v.LaSesion()); }},
+    {kDiseno, "&Consumo…", nullptr, [](Ventana& v) { EditarConsumo(v.LaSesion()); }},
+    {kEsquema, "&Encajar en la ventana", "Ctrl+0", &EncajarEsquema},
+    {kEsquema, "&Ampliar", "Ctrl++", [](Ventana& v) { AmpliarEsquema(v, kPasoAmpliar); }},
+    {kEsquema, "&Reducir", "Ctrl+-", [](Ventana& v) { AmpliarEsquema(v, 1.0 / kPasoAmpliar); }},
+    {kEsquema, nullptr, nullptr, nullptr},
+    {kEsquema, "&Copiar", "Ctrl+Shift+C", &CopiarEsquema},
+    {kEsquema, "&Guardar como…", nullptr, &GuardarEsquema},
+    {kCatalogos, "&Paneles fotovoltaicos…", nullptr,
+     [](Ventana&) { phEditarBasePanelesFotovoltaicos(kEditar); }},
+    {kCatalogos, "&Acumuladores…", nullptr, [](Ventana&) { phEditarBaseAcumuladores(kEditar); }},
+    {kCatalogos, "&Inversores…", nullptr, [](Ventana&) { phEditarBaseInversores(kEditar); }},
+    {kCatalogos, "&Microinversores…", nullptr, [](Ventana&) { phEditarBaseMicroInversores(kEditar); }},
+    {kCatalogos, "&Convertidores de CC…", nullptr, [](Ventana&) { phEditarBaseConvertidorCC(kEditar); }},
+    {kCatalogos, "&Receptores…", nullptr, [](Ventana&) { phEditarBaseReceptores(kEditar); }},
+    {kAyuda, "&Versión…", nullptr, [](Ventana&) { phShowVersion(); }},
 });
 
 }  // namespace

@@ -3,12 +3,19 @@
 
 #include <span>
 
+class QMenu;
+
 namespace efv::estudio {
+
+class VentanaPrincipal;
 
 struct Orden {
     const char* menu;
-    const char* texto;
-    void (*funcion)();
+    const char* texto;  ///< null: a separator
+    const char* atajo;  ///< key of it, as text; null without one
+    void (*funcion)(VentanaPrincipal&);
+    /// Of a menu within the menu: what stands in it each time that it opens.
+    void (*llenar)(VentanaPrincipal&, QMenu&) = nullptr;
 };
 
 /// In the order of the menus; a menu appears where its first command stands.

@@ -18,6 +18,7 @@ namespace {
 constexpr std::size_t kLetrasDeBotones = 70;  // captions in one row of buttons
 constexpr std::size_t kLetrasDeIcono = 4;     // what a button with a picture takes of them
 constexpr std::size_t kLetrasDeUnidad = 16;   // a text no longer than this may be a unit behind a field
+constexpr int kRenglones = 5;                 // of a text of several lines that doesn't take the room
 constexpr int kSeparacionColumnas = 18;
 constexpr int kSeparacion = 8;
 // Columns of the grid that a column of the form takes: caption, field, a gap to the next.
@@ -42,6 +43,25 @@ bool EsBoton(const Vista& vista)
 bool EsCampo(const Vista& vista)
 {
     return !vista.EsAncha() && !vista.control.csRotulo.empty();
+}
+
+// A tick may have the field that it governs on its line.
+bool EsCasilla(const Vista& vista)
+{
+    return dynamic_cast<const ui::Casilla*>(&vista.control) != nullptr && !vista.control.csRotulo.empty();
+}
+
+// A line without a caption of its own may have its button beside it.
+bool EsLineaSinRotulo(const Vista& vista)
+{
+    return !vista.EsAncha() && vista.control.csRotulo.empty() && !EsBoton(vista) &&
+           dynamic_cast<const ui::TextoFijo*>(&vista.control) == nullptr;
+}
+
+bool EsTextoLargo(const Vista& vista)
+{
+    const auto* edicion = dynamic_cast<const ui::Edicion*>(&vista.control);
+    return edicion != nullptr && edicion->bVariasLineas;
 }
 
 // Whether it belongs on the line of the field before it: it says nothing by itself.
@@ -100,7 +120,9 @@ public:
                 elemento.iColumna = std::min(elemento.iColumna, lugar.iColumna);
                 continue;
             }
-            if (!elementos.empty() && SeUne(elementos.back(), *vista))
+            if (Elemento* suyo = DelQueEsPropuesta(elementos, *vista))
+                suyo->vistas.push_back(vista);
+            else if (!elementos.empty() && SeUne(elementos.back(), *vista))
                 elementos.back().vistas.push_back(vista);
             else
                 elementos.push_back({{vista}, {}, lugar.iColumna});
@@ -109,12 +131,28 @@ public:
     }
 
 private:
+    // A field without a caption that is named as an earlier one and a "P" holds the proposal for its value: it
+    // stands on that one's line, however late it was declared.
+    static Elemento* DelQueEsPropuesta(std::vector<Elemento>& elementos, const Vista& vista)
+    {
+        const ui::Control& control = vista.control;
+        if (dynamic_cast<const ui::Edicion*>(&control) == nullptr || !Acompana(vista))
+            return nullptr;
+        const auto suyo = std::ranges::find_if(elementos, [&](const Elemento& e) {
+            return e.grupo.empty() && e.iColumna == control.lugar.iColumna && EsCampo(*e.vistas.front()) &&
+                   e.vistas.front()->control.nombre + 'P' == control.nombre;
+        });
+        return suyo == elementos.end() ? nullptr : &*suyo;
+    }
+
     static bool SeUne(const Elemento& elemento, const Vista& vista)
     {
         if (!elemento.grupo.empty() || elemento.iColumna != vista.control.lugar.iColumna)
             return false;
         const Vista& primera = *elemento.vistas.front();
-        if (EsCampo(primera))
+        if (EsCampo(primera) ||
+            (EsCasilla(primera) && dynamic_cast<const ui::Edicion*>(&vista.control) != nullptr) ||
+            (EsLineaSinRotulo(primera) && EsBoton(vista)))
             return Acompana(vista);
         // Buttons in a column beside others stand one below the other.
         if (elemento.iColumna > 0 || !EsBoton(primera) || !EsBoton(vista))
@@ -254,14 +292,19 @@ private:
 
     void Colocar(QWidget* contenedor, QGridLayout& rejilla, const Elemento& elemento, const Celda& celda)
     {
-        if (Estira(elemento))
-            rejilla.setRowStretch(celda.iFila, 1);
+        const bool bEstira = Estira(elemento);
         const auto alineacion = celda.bArriba && EsDeUnaLinea(elemento) ? Qt::AlignTop : Qt::Alignment();
         const auto aTodoLoAncho = [&](auto* cosa) {
-            if constexpr (std::is_base_of_v<QWidget, std::remove_pointer_t<decltype(cosa)>>)
+            if constexpr (std::is_base_of_v<QWidget, std::remove_pointer_t<decltype(cosa)>>) {
+                // Its own stretch: a row whose widget is hidden must not take room.
+                if (bEstira)
+                    PonerEstirado(*cosa);
                 rejilla.addWidget(cosa, celda.iFila, celda.iColumna, 1, celda.nColumnas, alineacion);
-            else
+            } else {
+                if (bEstira)
+                    rejilla.setRowStretch(celda.iFila, 1);
                 rejilla.addLayout(cosa, celda.iFila, celda.iColumna, 1, celda.nColumnas, alineacion);
+            }
         };
         if (!elemento.grupo.empty())
             return aTodoLoAncho(Grupo(contenedor, elemento));
@@ -276,12 +319,30 @@ private:
             rejilla.addLayout(EnLinea(elemento.vistas, false), celda.iFila, celda.iColumna + 1, alineacion);
             return;
         }
+        if (EsCasilla(primera) && elemento.vistas.size() > 1) {
+            rejilla.addWidget(primera.widget, celda.iFila, celda.iColumna, alineacion);
+            rejilla.addLayout(EnLinea({std::next(elemento.vistas.begin()), elemento.vistas.end()}, false),
+                              celda.iFila, celda.iColumna + 1, alineacion);
+            return;
+        }
+        if (EsLineaSinRotulo(primera) && elemento.vistas.size() > 1)
+            return aTodoLoAncho(EnLinea(elemento.vistas, false));
+        // Where others take the room, a text of several lines gets along with a few.
+        if (m_bHayEstirados && !bEstira && EsTextoLargo(primera))
+            primera.widget->setMaximumHeight(kRenglones * primera.widget->fontMetrics().lineSpacing());
         if (primera.control.csRotulo.empty() || primera.RotulaPorSiMisma())
             return aTodoLoAncho(primera.widget);
         auto* pila = new QVBoxLayout;
         pila->addWidget(Rotulo(contenedor, primera));
         pila->addWidget(primera.widget, 1);
         aTodoLoAncho(pila);
+    }
+
+    static void PonerEstirado(QWidget& widget)
+    {
+        QSizePolicy comportamiento = widget.sizePolicy();
+        comportamiento.setVerticalStretch(1);
+        widget.setSizePolicy(comportamiento);
     }
 
     static QLayout* EnLinea(const std::vector<Vista*>& vistas, bool bBotones)

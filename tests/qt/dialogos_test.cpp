@@ -203,6 +203,53 @@ TEST(Ventana, LoQueNoTieneRotuloSigueEnSuLinea)
     });
 }
 
+// Declared after all values, each proposal stands beside its own; so does the field of a tick.
+TEST(Ventana, LasPropuestasYLosCamposDeCasillaTienenSuLinea)
+{
+    class Propuestas : public ui::Dialogo {
+    public:
+        Propuestas() : Dialogo("Propuestas", L"Propuestas")
+        {
+            Anadir<ui::Edicion>("iSerie", L"En serie:");
+            Anadir<ui::Edicion>("iParalelo", L"En paralelo:");
+            Anadir<ui::Edicion>("iSerieP", L"");
+            Anadir<ui::Edicion>("iParaleloP", L"");
+            Anadir<ui::Casilla>("bSalida", L"Salida (V):");
+            Anadir<ui::Edicion>("dSalida", L"");
+        }
+    } d;
+    Mostrar(d, [](QDialog& v) {
+        const auto y = [&](const char* nombre) {
+            auto& w = Hijo<QWidget>(v, nombre);
+            return w.mapTo(&v, w.rect().center()).y();
+        };
+        EXPECT_NEAR(y("iSerieP"), y("iSerie"), 2);
+        EXPECT_NEAR(y("iParaleloP"), y("iParalelo"), 2);
+        EXPECT_NEAR(y("dSalida"), y("bSalida"), 2);
+        EXPECT_GT(y("iParalelo"), y("iSerie") + 10);
+    });
+}
+
+TEST(Ventana, UnaListaOcultaDejaSuSitioALaQueSeVe)
+{
+    class DosListas : public ui::Dialogo {
+    public:
+        DosListas() : Dialogo("DosListas", L"Listas")
+        {
+            bMaximizable = true;  // with more room than the lists ask for
+            for (const char* nombre : {"una", "otra"})
+                Anadir<ui::Lista>(nombre, L"", ui::Lista::Forma::tabla).lugar.bEstirar = true;
+            Controles()[0]->bVisible = false;
+            auto& nota = Anadir<ui::Edicion>("nota", L"");
+            nota.bVariasLineas = true;
+        }
+    } d;
+    Mostrar(d, [](QDialog& v) {
+        EXPECT_GT(Hijo<QWidget>(v, "otra").height(), v.height() / 2);
+        EXPECT_LT(Hijo<QWidget>(v, "nota").height(), v.height() / 4);
+    });
+}
+
 TEST(Ventana, ElTabuladorSigueElOrdenDeDeclaracion)
 {
     Muestra d;

@@ -11,7 +11,6 @@
 #include <QTableView>
 #include <QTreeView>
 
-#include "capturas/capturar.h"
 #include "comun/ficheros.h"
 #include "datos.h"
 
@@ -233,13 +232,5 @@ TEST(Graficas, SuMenuGuardaYCopiaLaImagen)
 }
 
 // The screens that pictures are made of open, one and all, on the shipped data.
-TEST(Capturas, TodasLasPantallasRegistradasSeAbren)
-{
-    const CarpetaTemporal carpeta;
-    estudio::PonerDatos(EFV_CARPETA_DATOS);
-    for (const estudio::Pantalla& pantalla : estudio::Pantallas(EFV_CARPETA_DATOS)) {
-        EXPECT_GE(estudio::Capturar({pantalla}, carpeta.Ruta()), 1) << pantalla.nombre;
-    }
-}
 
 }  // namespace

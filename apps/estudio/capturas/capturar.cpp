@@ -1,5 +1,6 @@
 #include "capturas/capturar.h"
 
+#include <array>
 #include <set>
 #include <stdexcept>
 
@@ -8,9 +9,36 @@
 
 #include <quorvel/qt.h>
 
+#include "esquema/exportar.h"
+#include "ventana_principal.h"
+
 namespace efv::estudio {
 
 namespace {
+
+void Escribir(const std::filesystem::path& archivo, bool bEscrito)
+{
+    if (!bEscrito)
+        throw std::runtime_error("No se puede escribir «" + archivo.string() + "».");
+}
+
+void CapturarVentana(QWidget& ventana, const std::filesystem::path& archivo)
+{
+    QApplication::processEvents();
+    Escribir(archivo, ventana.grab().save(QString::fromStdString(archivo.string())));
+}
+
+int CapturarEsquema(const Dibujo& dibujo, const std::filesystem::path& carpeta, const std::string& nombre)
+{
+    int nCapturas = 0;
+    for (const auto& [tema, sufijo] :
+         {std::pair(Tema::claro, ".png"), std::pair(Tema::oscuro, "-oscuro.png")}) {
+        const std::filesystem::path archivo = carpeta / (nombre + sufijo);
+        Escribir(archivo, ImagenDe(dibujo, tema).save(QString::fromStdString(archivo.string())));
+        ++nCapturas;
+    }
+    return nCapturas;
+}
 
 // Takes a picture of each dialog that opens, then does in it what its screen says.
 class PresentadorCapturas final : public ui::Presentador {
@@ -22,7 +50,7 @@ public:
     }
     ~PresentadorCapturas() override { qt::InstalarPresentadorQt(); }
 
-    int Cuantas() const { return static_cast<int>(m_escritos.size()); }
+    int Cuantas() const { return m_nCapturas; }
 
     void MostrarModal(ui::Dialogo& dialogo) override
     {
@@ -54,6 +82,12 @@ public:
     void Refrescar(ui::Dialogo& /*dialogo*/) override {}
 
 private:
+    void Capturar(QDialog& ventana, const std::string& nombre)
+    {
+        CapturarVentana(ventana, m_carpeta / (nombre + ".png"));
+        ++m_nCapturas;
+    }
+
     // One picture, or one of each page.
     void CapturarPaginas(ui::Dialogo& dialogo, QDialog& ventana, const std::string& nombre)
     {
@@ -63,12 +97,12 @@ private:
                 seleccion != nullptr && seleccion->forma == ui::Seleccion::Forma::pestanas)
                 paginas = seleccion;
         if (paginas == nullptr)
-            return CapturarVentana(ventana, m_carpeta / (nombre + ".png"));
+            return Capturar(ventana, nombre);
         const int iAntes = paginas->iSeleccion;
         for (int i = 0; i < static_cast<int>(paginas->acsEntradas.size()); ++i) {
             dialogo.Elegir(*paginas, i);
             qt::RefrescarVentana(&ventana);
-            CapturarVentana(ventana, m_carpeta / (nombre + "-p" + std::to_string(i + 1) + ".png"));
+            Capturar(ventana, nombre + "-p" + std::to_string(i + 1));
         }
         dialogo.Elegir(*paginas, iAntes);
     }
@@ -77,16 +111,10 @@ private:
     const std::filesystem::path& m_carpeta;
     ui::PresentadorNulo m_nadie;
     std::set<std::string> m_escritos;
+    int m_nCapturas = 0;
 };
 
 }  // namespace
-
-void CapturarVentana(QWidget& ventana, const std::filesystem::path& archivo)
-{
-    QApplication::processEvents();
-    if (!ventana.grab().save(QString::fromStdString(archivo.string())))
-        throw std::runtime_error("No se puede escribir «" + archivo.string() + "».");
-}
 
 int Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta)
 {
@@ -102,6 +130,21 @@ int Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path
         nCapturas += presentador.Cuantas();
     }
     return nCapturas;
+}
+
+int CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta)
+{
+    constexpr std::array<const char*, VentanaPrincipal::kPestanas> kNombres = {"energia", "aislada", "red",
+                                                                               "consumo"};
+    int nCapturas = 0;
+    for (const char* nombre : kNombres) {
+        ventana.MostrarPestana(nCapturas);
+        CapturarVentana(ventana, carpeta / (std::string("ventana-") + nombre + ".png"));
+        ++nCapturas;
+    }
+    const CProyectoEstudio& proyecto = ventana.LaSesion().Proyecto();
+    return nCapturas + CapturarEsquema(Dibujar(EsquemaDe(proyecto.aislada)), carpeta, "esquema-aislada") +
+           CapturarEsquema(Dibujar(EsquemaDe(proyecto.red)), carpeta, "esquema-red");
 }
 
 }  // namespace efv::estudio

@@ -1,9 +1,12 @@
 #include "capturas/registro.h"
 
+#include <algorithm>
+#include <array>
+#include <utility>
+
 #include <QuorvelEFV.h>
 
-#include "datos.h"
-#include "energia/panel_energia.h"
+#include "proyecto/asistentes.h"
 
 namespace efv::estudio {
 
@@ -20,7 +23,8 @@ ui::Control* Buscar(const ui::Dialogo& dialogo, std::string_view nombre)
 
 void Pulsar(ui::Dialogo& dialogo, std::string_view nombre)
 {
-    if (auto* boton = dynamic_cast<ui::Boton*>(Buscar(dialogo, nombre)); boton != nullptr && boton->bHabilitado)
+    if (auto* boton = dynamic_cast<ui::Boton*>(Buscar(dialogo, nombre));
+        boton != nullptr && boton->bVisible && boton->bHabilitado)
         dialogo.Pulsar(*boton);
 }
 
@@ -31,19 +35,70 @@ void ElegirFila(ui::Dialogo& dialogo, std::string_view nombre, int iFila)
         dialogo.Elegir(*lista, iFila);
 }
 
-// Opens what hangs on a model's dialog.
-void RecorrerFicha(ui::Dialogo& dialogo)
+void AbrirFila(ui::Dialogo& dialogo, std::string_view nombre, int iFila, int iColumna)
 {
-    if (dialogo.clase == "CDlgVisorXML") {
-        Pulsar(dialogo, "Editar");
-        Pulsar(dialogo, "NuevaFamilia");
-    } else if (dialogo.clase == "CDlgItemDatosPanelFoto") {
-        Pulsar(dialogo, "Curvas I-V y P-A a T constante");
-        Pulsar(dialogo, "Curvas I-V y P-A a G constante");
-    } else if (dialogo.clase == "CDlgItemDatosAcumulador") {
-        ElegirFila(dialogo, "listaRegimenes", 0);
-        Pulsar(dialogo, "Modificar ...");
-    }
+    if (auto* lista = dynamic_cast<ui::Lista*>(Buscar(dialogo, nombre));
+        lista != nullptr && lista->bVisible && iFila < lista->Filas())
+        dialogo.Abrir(*lista, iFila, iColumna);
+}
+
+void ElegirEntrada(ui::Dialogo& dialogo, std::string_view nombre, int iEntrada)
+{
+    if (auto* seleccion = dynamic_cast<ui::Seleccion*>(Buscar(dialogo, nombre));
+        seleccion != nullptr && seleccion->bVisible && seleccion->bHabilitado)
+        dialogo.Elegir(*seleccion, iEntrada);
+}
+
+/// Opens what hangs on a dialog of that class.
+struct Ramificacion {
+    std::string_view clase;
+    void (*abrir)(ui::Dialogo&);
+};
+
+constexpr auto kRamificaciones = std::to_array<Ramificacion>({
+    {"CDlgVisorXML",
+     [](ui::Dialogo& d) {
+         Pulsar(d, "Editar");
+         Pulsar(d, "NuevaFamilia");
+     }},
+    {"CDlgItemDatosPanelFoto",
+     [](ui::Dialogo& d) {
+         Pulsar(d, "Curvas I-V y P-A a T constante");
+         Pulsar(d, "Curvas I-V y P-A a G constante");
+     }},
+    {"CDlgItemDatosAcumulador",
+     [](ui::Dialogo& d) {
+         ElegirFila(d, "listaRegimenes", 0);
+         Pulsar(d, "Modificar ...");
+     }},
+    {"CDlgAsistenteSFVAislada",
+     [](ui::Dialogo& d) {
+         ElegirFila(d, "lReceptores", 0);
+         Pulsar(d, "Editar ...");
+         Pulsar(d, "CDlgImgCoordenadas");
+         Pulsar(d, "iSimboloPanel");
+     }},
+    {"CDlgDatosReceptor", [](ui::Dialogo& d) { ElegirEntrada(d, "Unificar planificación", 1); }},
+    {"CDlgDatosConsumo",
+     [](ui::Dialogo& d) {
+         Pulsar(d, "Editar tabla de datos ...");
+         AbrirFila(d, "adHoras", 0, 1);
+         AbrirFila(d, "lReceptores", 0, 0);
+     }},
+    {"CDlgDatosConsumoHoraHora",
+     [](ui::Dialogo& d) {
+         ElegirEntrada(d, "iOrigen", 1);  // by a preset, which has its own dialog
+         Pulsar(d, "...");
+         Pulsar(d, "Importar datos ...");
+         Pulsar(d, "Datos mensuales ...");
+     }},
+});
+
+void Recorrer(ui::Dialogo& dialogo)
+{
+    for (const Ramificacion& ramificacion : kRamificaciones)
+        if (ramificacion.clase == dialogo.clase)
+            ramificacion.abrir(dialogo);
 }
 
 // Managing a catalogue: the first model and what hangs on it.
@@ -55,7 +110,7 @@ Pantalla DeCatalogo(std::string nombre, int (*editar)(int))
             [](ui::Dialogo& dialogo) {
                 if (dialogo.clase == "CDlgVisorXML")
                     ElegirFila(dialogo, "arbol", 1);
-                RecorrerFicha(dialogo);
+                Recorrer(dialogo);
             }};
 }
 
@@ -82,22 +137,49 @@ CString PrimerModelo()
     return {};
 }
 
+// The consumption element by that entry of data. The project has its own back afterwards.
+Pantalla DeConsumo(Sesion& sesion, std::string nombre, int iTipoEntrada)
+{
+    return {std::move(nombre),
+            {},
+            [&sesion, iTipoEntrada] {
+                Consumo& consumo = sesion.Proyecto().consumo;
+                const int iAntes = std::exchange(consumo.iTipoEntrada, iTipoEntrada);
+                const auto horas = std::make_unique<AnoHorario>();
+                std::ranges::copy(consumo.adHoras, horas->begin());
+                AnoDeReceptores(consumo.lReceptores, consumo.adHoras);
+                EditarConsumo(sesion);
+                std::ranges::copy(*horas, consumo.adHoras);
+                consumo.iTipoEntrada = iAntes;
+                sesion.Cambiado();
+            },
+            &Recorrer};
+}
+
+void AbrirPerdidas()
+{
+    CSFVAsistenteAislada diseno;
+    phDatosPerdidasAislada(diseno.dPerdidaCableado, diseno.dPerdidaAcumulador, diseno.dPerdidaAcoplamiento);
+}
+
 }  // namespace
 
-std::vector<Pantalla> Pantallas(const std::filesystem::path& datos)
+std::vector<Pantalla> Pantallas(Sesion& sesion)
 {
     return {
-        {"panel-energia",
-         [datos] { return std::make_unique<PanelEnergia>(LeerLocalidades(Ruta(datos, "localidades.xml"))); },
-         {},
-         {}},
+        {"tipo", {}, [] { phSeleccionAsistenteSFV(); }, {}},
+        {"aislada", {}, [&sesion] { DisenarAislada(sesion); }, &Recorrer},
+        {"perdidas", {}, &AbrirPerdidas, {}},
+        {"red", {}, [&sesion] { DisenarRed(sesion); }, &Recorrer},
+        DeConsumo(sesion, "consumo-horas", 0),
+        DeConsumo(sesion, "consumo-receptores", 1),
         {"paneles-elegir",
          {},
          [] {
              CString csId = PrimerModelo();
              phSeleccionPanelFoto(csId);
          },
-         RecorrerFicha},
+         &Recorrer},
         DeCatalogo("paneles", &phEditarBasePanelesFotovoltaicos),
         DeCatalogo("acumuladores", &phEditarBaseAcumuladores),
         DeCatalogo("inversores", &phEditarBaseInversores),

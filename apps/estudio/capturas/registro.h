@@ -1,13 +1,14 @@
 // The screens of which pictures are made: one row each.
 #pragma once
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include <quorvel/ui.h>
+
+#include "proyecto/sesion.h"
 
 namespace efv::estudio {
 
@@ -20,6 +21,7 @@ struct Pantalla {
     std::function<void(ui::Dialogo&)> recorrer;
 };
 
-std::vector<Pantalla> Pantallas(const std::filesystem::path& datos);
+/// Screens over the open project, which pictures leave as it was.
+std::vector<Pantalla> Pantallas(Sesion& sesion);
 
 }  // namespace efv::estudio

@@ -1,8 +1,6 @@
 #include "energia/panel_energia.h"
 
-#include <algorithm>
-#include <charconv>
-#include <cmath>
+#include "comun/numeros.h"
 
 namespace efv::estudio {
 
@@ -13,20 +11,6 @@ constexpr int kDiasAno = 365;
 constexpr int kAnoComun = 2018;  // any of 365 days
 constexpr std::array<ui::Color, 2> kColores = {0xC0702F, 0x2F90E0};
 constexpr std::wstring_view kNotaTabla = L"La tabla de factores K no aplica el PR.";
-
-// With a decimal comma; a dash for what has no value.
-CString Decimal(double d, int iDecimales)
-{
-    if (!std::isfinite(d))
-        return L"–";
-    std::array<char, 400> tampon;
-    const auto fin =
-        std::to_chars(tampon.data(), tampon.data() + tampon.size(), d, std::chars_format::fixed, iDecimales)
-            .ptr;
-    CString texto(tampon.data(), fin);
-    std::ranges::replace(texto, L'.', L',');
-    return texto;
-}
 
 class FilasEnergia final : public ui::ModeloFilas {
 public:
@@ -53,32 +37,15 @@ private:
     std::shared_ptr<const std::vector<FilaEnergia>> m_filas;
 };
 
-CString NombreDe(const Localidad& lugar)
-{
-    const CString& csResto = lugar.csProvincia.empty() ? lugar.csPais : lugar.csProvincia;
-    return csResto.empty() || csResto == lugar.csNombre ? lugar.csNombre
-                                                        : lugar.csNombre + L" (" + csResto + L")";
-}
-
 }  // namespace
 
-PanelEnergia::PanelEnergia(std::vector<Localidad> localidades)
+PanelEnergia::PanelEnergia(Lugar lugarInicial)
     : Dialogo("PanelEnergia", L"Energía de un campo"),
-      m_localidades(std::move(localidades)),
+      m_lugar(std::move(lugarInicial)),
       m_filas(std::make_shared<std::vector<FilaEnergia>>())
 {
     bAceptarVisible = false;
     csCancelar = L"&Cerrar";
-    std::ranges::sort(m_localidades, {}, &Localidad::csNombre);
-    auto& lugar = Anadir<ui::Seleccion>("iLugar", L"&Lugar:", ui::Seleccion::Forma::combo);
-    for (const Localidad& localidad : m_localidades)
-        lugar.acsEntradas.push_back(NombreDe(localidad));
-    const Localidad* madrid = BuscarLocalidad(m_localidades, L"Madrid");
-    m_iLugar = madrid != nullptr ? static_cast<int>(madrid - m_localidades.data()) : 0;
-    lugar.destino = &m_iLugar;
-    lugar.alElegir = [this] { AlElegirLugar(); };
-
-    m_ficha = &Anadir<ui::TextoFijo>("csFicha", L"Situación:");
     const auto campo = [this](const char* nombre, const wchar_t* rotulo, double& d, ui::Intervalo limites,
                               int iDecimales) -> ui::Edicion& {
         auto& edicion = Anadir<ui::Edicion>(nombre, rotulo);
@@ -103,18 +70,14 @@ PanelEnergia::PanelEnergia(std::vector<Localidad> localidades)
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
     m_grafica->lugar.iColumna = 1;
     Volcar();
-    AlElegirLugar();
+    AlCambiar();
 }
 
-void PanelEnergia::AlElegirLugar()
+void PanelEnergia::Poner(const Lugar& otro)
 {
-    Recoger();
-    if (m_localidades.empty())
+    if (otro == m_lugar)
         return;
-    const Localidad& lugar = m_localidades[static_cast<std::size_t>(m_iLugar)];
-    m_ficha->csTexto = Decimal(std::abs(lugar.dLatitud), 2) + (lugar.dLatitud < 0.0 ? L"º S, " : L"º N, ") +
-                       Decimal(lugar.dAltitud, 0) + L" m" +
-                       (lugar.csZonaHE5.empty() ? CString() : L", zona " + lugar.csZonaHE5);
+    m_lugar = otro;
     AlCambiar();
 }
 
@@ -123,7 +86,7 @@ void PanelEnergia::AlCambiar()
     const auto rechazo = Recoger();
     m_nota->csTexto = rechazo ? rechazo->csTexto : CString(kNotaTabla);
     m_nota->color = rechazo ? ui::kRojo : ui::kNegro;
-    if (!rechazo && !m_localidades.empty()) {
+    if (!rechazo) {
         Calcular();
         Mostrar();
     }
@@ -131,8 +94,6 @@ void PanelEnergia::AlCambiar()
 
 void PanelEnergia::Calcular()
 {
-    const Localidad& lugar = m_localidades[static_cast<std::size_t>(m_iLugar)];
-    const int iHemisferio = lugar.dLatitud < 0.0 ? 0 : 1;
     m_filas->assign(kMeses + 1, {});
     FilaEnergia& ano = m_filas->back();
     ano.csNombre = L"Año";
@@ -141,17 +102,18 @@ void PanelEnergia::Calcular()
         FilaEnergia& fila = (*m_filas)[m];
         const int iMes = static_cast<int>(m);
         phGetNombreMes(iMes, fila.csNombre);
-        fila.dHorizontal = lugar.adRadHorizontal[m] / kKJporKWh;
+        fila.dHorizontal = m_lugar.adRadHorizontal[m] / kKJporKWh;
         const double dParte = static_cast<double>(phGetNumDiasMes(kAnoComun, iMes)) / kDiasAno;
         ano.dHorizontal += dParte * fila.dHorizontal;
         for (int iMetodo = 0; iMetodo < 2; ++iMetodo) {
             const auto i = static_cast<std::size_t>(iMetodo);
             // The correlation tilts toward the south whatever the latitude.
-            const double dInclinacion = iMetodo == 0 && lugar.dLatitud < 0.0 ? -m_dInclinacion : m_dInclinacion;
-            phGetRI_kWh_m2_dia(fila.adRI[i], iMetodo, iMes, lugar.dLatitud, iHemisferio,
-                               lugar.adRadHorizontal[m], dInclinacion, 0.0, m_dPR, 1.0);
-            phGetEIR_kWh_mes(fila.adEnergia[i], iMetodo, iMes, lugar.dLatitud, iHemisferio,
-                             lugar.adRadHorizontal[m], dInclinacion, 0.0, m_dPotencia, m_dPR, 1.0);
+            const double dInclinacion =
+                iMetodo == 0 && m_lugar.dLatitud < 0.0 ? -m_dInclinacion : m_dInclinacion;
+            phGetRI_kWh_m2_dia(fila.adRI[i], iMetodo, iMes, m_lugar.dLatitud, m_lugar.iHemisferio,
+                               m_lugar.adRadHorizontal[m], dInclinacion, 0.0, m_dPR, 1.0);
+            phGetEIR_kWh_mes(fila.adEnergia[i], iMetodo, iMes, m_lugar.dLatitud, m_lugar.iHemisferio,
+                             m_lugar.adRadHorizontal[m], dInclinacion, 0.0, m_dPotencia, m_dPR, 1.0);
             ano.adRI[i] += dParte * fila.adRI[i];
             ano.adEnergia[i] += fila.adEnergia[i];
         }

@@ -1,11 +1,11 @@
-// Energy of a field at a place, month by month, by both methods of the library.
+// Energy of a field at the project's place, month by month, by both methods of the library.
 #pragma once
 
 #include <array>
 #include <limits>
 #include <vector>
 
-#include <QuorvelEFV.h>
+#include "proyecto/proyecto.h"
 
 namespace efv::estudio {
 
@@ -23,24 +23,23 @@ struct FilaEnergia {
 
 class PanelEnergia final : public ui::Dialogo {
 public:
-    explicit PanelEnergia(std::vector<Localidad> localidades);
+    explicit PanelEnergia(Lugar lugarInicial);
+
+    void Poner(const Lugar& otro);
 
     const std::vector<FilaEnergia>& Filas() const { return *m_filas; }
 
 private:
-    void AlElegirLugar();
     void AlCambiar();
     void Calcular();
     void Mostrar();
 
-    std::vector<Localidad> m_localidades;
-    int m_iLugar = 0;
+    Lugar m_lugar;
     double m_dInclinacion = 30.0;  // degrees toward the equator
     double m_dPotencia = 1.0;      // kWp
     double m_dPR = 0.8;
     std::shared_ptr<std::vector<FilaEnergia>> m_filas;
 
-    ui::TextoFijo* m_ficha = nullptr;
     ui::TextoFijo* m_nota = nullptr;
     ui::Edicion* m_inclinacion = nullptr;
     ui::Lista* m_tabla = nullptr;

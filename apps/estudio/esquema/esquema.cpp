@@ -1,0 +1,265 @@
+#include "esquema/esquema.h"
+
+#include "anfitrion/simbolos.h"
+#include "comun/numeros.h"
+#include "diseno/equipos.h"
+
+namespace efv::estudio {
+
+namespace {
+
+using Clase = Elemento::Clase;
+
+constexpr double kMil = 1000.0;
+constexpr std::size_t kCargasEscritas = 4;
+
+CString ModeloDe(const Equipo& equipo)
+{
+    if (equipo.csModelo.empty())
+        return L"Sin modelo";
+    return equipo.bHallado ? equipo.csModelo : equipo.csModelo + L" (?)";
+}
+
+// `csPlural` is what the name gets for more than one.
+CString Cuantos(long long n, const wchar_t* csNombre, const wchar_t* csPlural)
+{
+    return std::to_wstring(n) + L" " + csNombre + (n == 1 ? L"" : csPlural);
+}
+
+// Watts, or kilowatts from ten thousand on.
+CString Potencia(double dVatios, const wchar_t* csUnidad)
+{
+    return dVatios < 10.0 * kMil ? Decimal(dVatios, 0) + L" " + csUnidad
+                                 : Decimal(dVatios / kMil, 1) + L" k" + csUnidad;
+}
+
+CString TensionYCorriente(double dTension, double dCorriente)
+{
+    return Decimal(dTension, 0) + L" V · " + Decimal(dCorriente, 1) + L" A";
+}
+
+CString EnSerieYParalelo(int iSerie, int iParalelo)
+{
+    return std::to_wstring(iSerie) + L" en serie × " + std::to_wstring(iParalelo) +
+           (iParalelo == 1 ? L" ramal" : L" ramales");
+}
+
+Elemento DePaneles(const CampoPaneles& campo, int iSimbolo)
+{
+    return {.clase = Clase::paneles,
+            .csTitulo = Cuantos(campo.Paneles(), L"panel", L"es"),
+            .acsDatos = {ModeloDe(campo), EnSerieYParalelo(campo.iSerie, campo.iParalelo),
+                         Potencia(campo.Potencia(), L"Wp") + L" (" + Decimal(campo.dPmpm, 0) + L" Wp cada uno)",
+                         L"Pmp: " + TensionYCorriente(campo.Tension(), campo.Corriente()),
+                         L"Voc: " + Decimal(campo.TensionVacio(), 0) + L" V"},
+            .iSerie = campo.iSerie,
+            .iParalelo = campo.iParalelo,
+            .bUnifilar = EsUnifilar(iSimbolo),
+            .bFalta = !campo.bHallado};
+}
+
+Elemento DeAcumuladores(const CSFVAsistenteAislada& diseno)
+{
+    const BancoAcumuladores banco = AcumuladoresDe(diseno);
+    return {.clase = Clase::acumuladores,
+            .csTitulo = Cuantos(banco.Acumuladores(), L"acumulador", L"es"),
+            .acsDatos = {ModeloDe(banco), EnSerieYParalelo(banco.iSerie, banco.iParalelo),
+                         Decimal(banco.dVnom, 0) + L" V, " + Decimal(banco.dCapacidad, 0) + L" Ah " +
+                             banco.csRegimen + L" cada uno",
+                         L"Banco: " + Decimal(banco.Tension(), 0) + L" V · " + Decimal(banco.Capacidad(), 0) +
+                             L" Ah",
+                         L"Energía: " + Decimal(banco.Energia() / kMil, 1) + L" kWh"},
+            .iSerie = banco.iSerie,
+            .iParalelo = banco.iParalelo,
+            .bUnifilar = EsUnifilar(diseno.iSimboloAcumulador),
+            .bFalta = !banco.bHallado};
+}
+
+Elemento DeRegulador(const CSFVAsistenteAislada& diseno)
+{
+    return {.clase = Clase::regulador,
+            .csTitulo = L"Regulador de carga",
+            .acsDatos = {L"Sistema: " + Decimal(diseno.dTensionSistema, 0) + L" V",
+                         L"Potencia FV máx.: " + Potencia(diseno.dPotenciaMaxFV, L"W"),
+                         L"Tensión FV: " + Decimal(diseno.dTensionMinFV, 0) + L"–" +
+                             Decimal(diseno.dTensionMaxFV, 0) + L" V",
+                         L"Corriente FV máx.: " + Decimal(diseno.dCorrienteMaxFV, 0) + L" A"}};
+}
+
+/// The loads of one kind of current.
+struct GrupoCargas {
+    std::vector<const Carga*> cargas;
+    double dPotencia = 0.0, dEnergia = 0.0;
+
+    GrupoCargas(const std::vector<Carga>& todas, bool bAlternas, bool bTodas)
+    {
+        for (const Carga& carga : todas) {
+            if (!bTodas && carga.bAlterna != bAlternas)
+                continue;
+            cargas.push_back(&carga);
+            dPotencia += carga.Potencia();
+            dEnergia += carga.Energia();
+        }
+    }
+
+    Elemento ComoElemento(const wchar_t* csTitulo) const
+    {
+        Elemento elemento{.clase = Clase::cargas, .csTitulo = csTitulo};
+        for (std::size_t i = 0; i < cargas.size() && i < kCargasEscritas; ++i)
+            elemento.acsDatos.push_back(Decimal(cargas[i]->dCantidad, 0) + L" × " + ModeloDe(*cargas[i]));
+        if (cargas.size() > kCargasEscritas)
+            elemento.acsDatos.push_back(
+                L"… y " + Cuantos(static_cast<long long>(cargas.size() - kCargasEscritas), L"modelo", L"s") +
+                L" más");
+        elemento.acsDatos.push_back(Potencia(dPotencia, L"W") + L" · " + Decimal(dEnergia, 0) + L" Wh/día");
+        for (const Carga* carga : cargas)
+            elemento.bFalta = elemento.bFalta || !carga->bHallado;
+        return elemento;
+    }
+};
+
+class Trazador {
+public:
+    std::size_t Poner(Elemento elemento, int iColumna, int iFila)
+    {
+        elemento.iColumna = iColumna;
+        elemento.iFila = iFila;
+        if (elemento.bFalta && esquema.acsNotas.empty())
+            esquema.acsNotas.emplace_back(
+                L"(?) El catálogo no tiene este modelo: sus cifras cuentan como cero.");
+        esquema.elementos.push_back(std::move(elemento));
+        return esquema.elementos.size() - 1;
+    }
+    void Unir(Conexion conexion) { esquema.conexiones.push_back(std::move(conexion)); }
+
+    Esquema esquema;
+};
+
+// Loads of direct current hang on the regulator; those of alternating current on the inverter, where there
+// is one.
+void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, std::size_t nRegulador)
+{
+    const std::vector<Carga> cargas = CargasDe(diseno);
+    const CString csContinua = Decimal(diseno.dTensionSistema, 0) + L" V CC";
+    const bool bSalida = diseno.bSalidaCA != 0;
+    const GrupoCargas continuas(cargas, false, !bSalida);
+    if (!continuas.cargas.empty() || !bSalida) {
+        const std::size_t n =
+            trazador.Poner(continuas.ComoElemento(bSalida ? L"Receptores CC" : L"Receptores"), 2, 0);
+        trazador.Unir({nRegulador, n, csContinua, {}});
+    }
+    const GrupoCargas alternas(cargas, true, false);
+    if (!bSalida) {
+        if (!alternas.cargas.empty())
+            trazador.esquema.acsNotas.emplace_back(
+                L"Hay receptores de corriente alterna y la instalación no tiene salida en CA.");
+        return;
+    }
+    const int iFila = continuas.cargas.empty() ? 0 : 1;
+    const std::size_t nInversor =
+        trazador.Poner({.clase = Clase::inversor,
+                        .csTitulo = L"Salida en CA",
+                        .acsDatos = {Decimal(diseno.dTensionSalidaCA, 0) + L" V, " +
+                                     (diseno.iTipoSalidaCA == 0 ? L"monofásica" : L"trifásica")}},
+                       2, iFila);
+    trazador.Unir({nRegulador, nInversor, csContinua, {}});
+    const std::size_t nCargas = trazador.Poner(alternas.ComoElemento(L"Receptores CA"), 3, iFila);
+    trazador.Unir({nInversor, nCargas, Decimal(diseno.dTensionSalidaCA, 0) + L" V CA", {}, true});
+}
+
+// The rows of inverters that are drawn; 0 for the row of dots.
+std::vector<int> Numeros(int iInversores)
+{
+    std::vector<int> numeros;
+    if (iInversores <= kInversoresDibujados) {
+        for (int i = 1; i <= iInversores; ++i)
+            numeros.push_back(i);
+        return numeros;
+    }
+    return {1, 0, iInversores};
+}
+
+Elemento DeInversor(const GrupoInversores& inversores, int iNumero, int iSimbolo)
+{
+    return {.clase = Clase::inversor,
+            .csTitulo = L"Inversor " + std::to_wstring(iNumero),
+            .acsDatos = {ModeloDe(inversores), Potencia(inversores.dPCANom, L"W") + L" nominal",
+                         L"MPPT: " + Decimal(inversores.dVMPPMin, 0) + L"–" + Decimal(inversores.dVMPPMax, 0) +
+                             L" V",
+                         std::to_wstring(inversores.iNumMPPT) + L" seguidores, " +
+                             std::to_wstring(inversores.iNumEntradas) + L" entradas"},
+            .bUnifilar = EsUnifilar(iSimbolo),
+            .bFalta = !inversores.bHallado};
+}
+
+CString Longitud(const wchar_t* csNombre, double d)
+{
+    return CString(csNombre) + L" = " + Decimal(d, 1) + L" m";
+}
+
+}  // namespace
+
+Esquema EsquemaDe(const CSFVAsistenteAislada& diseno)
+{
+    if (!HayDiseno(diseno))
+        return {};
+    const CampoPaneles campo = PanelesDe(diseno);
+    Trazador trazador;
+    trazador.esquema.csTitulo = L"Instalación aislada";
+    const std::size_t nPaneles = trazador.Poner(DePaneles(campo, diseno.iSimboloPanel), 0, 0);
+    const std::size_t nRegulador = trazador.Poner(DeRegulador(diseno), 1, 0);
+    const std::size_t nAcumuladores = trazador.Poner(DeAcumuladores(diseno), 1, 1);
+    trazador.Unir({nPaneles, nRegulador, TensionYCorriente(campo.Tension(), campo.Corriente()), {}});
+    trazador.Unir({nRegulador, nAcumuladores, Decimal(diseno.dTensionSistema, 0) + L" V CC", {}});
+    PonerCargas(trazador, diseno, nRegulador);
+    return std::move(trazador.esquema);
+}
+
+Esquema EsquemaDe(const CSFVAsistenteRed& diseno)
+{
+    if (!HayDiseno(diseno))
+        return {};
+    const CampoPaneles campo = PanelesDe(diseno);
+    const GrupoInversores inversores = InversoresDe(diseno);
+    const double dCampos = campo.Potencia() * inversores.iCuantos;
+    const bool bTrifasica = inversores.iTipoSalida != 0;
+    Trazador trazador;
+    trazador.esquema.csTitulo = L"Instalación conectada a red";
+    // In the middle row of the inverters.
+    const std::vector<int> numeros = Numeros(inversores.iCuantos);
+    const int iMedia = (static_cast<int>(numeros.size()) - 1) / 2;
+    const std::size_t nCaja = trazador.Poner(
+        {.clase = Clase::caja,
+         .csTitulo = L"Caja de conexión",
+         .acsDatos = {Cuantos(inversores.iCuantos, L"inversor", L"es"), L"Campo: " + Potencia(dCampos, L"Wp")}},
+        2, iMedia);
+    const std::size_t nRed = trazador.Poner(
+        {.clase = Clase::red,
+         .csTitulo = L"Red eléctrica",
+         .acsDatos = {bTrifasica ? L"Trifásica" : L"Monofásica", Potencia(inversores.Potencia(), L"W")}},
+        3, iMedia);
+    for (int iFila = 0; iFila < static_cast<int>(numeros.size()); ++iFila) {
+        const int iNumero = numeros[static_cast<std::size_t>(iFila)];
+        if (iNumero == 0) {
+            const int iMas = inversores.iCuantos - 2;
+            trazador.Poner({.clase = Clase::puntos,
+                            .csTitulo = std::to_wstring(iMas) + L" inversores más, con sus paneles",
+                            .iCuantos = iMas},
+                           1, iFila);
+            continue;
+        }
+        const std::size_t nPaneles = trazador.Poner(DePaneles(campo, diseno.iSimboloPanel), 0, iFila);
+        const std::size_t nInversor =
+            trazador.Poner(DeInversor(inversores, iNumero, diseno.iSimboloInversor), 1, iFila);
+        trazador.Unir({nPaneles, nInversor, TensionYCorriente(campo.Tension(), campo.Corriente()),
+                       Longitud(L"L1", diseno.dLongitudL1)});
+        trazador.Unir({nInversor, nCaja,
+                       Decimal(inversores.dVCANom, 0) + L" V · " + Potencia(inversores.dPCANom, L"W"),
+                       Longitud(L"L2", diseno.dLongitudL2), true});
+    }
+    trazador.Unir(
+        {nCaja, nRed, Potencia(inversores.Potencia(), L"W"), Longitud(L"L3", diseno.dLongitudL3), true});
+    return std::move(trazador.esquema);
+}
+
+}  // namespace efv::estudio

@@ -1,0 +1,55 @@
+// A design as a schematic: its elements on a grid of columns and rows, and what connects them.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include <QuorvelEFV.h>
+
+namespace efv::estudio {
+
+struct Elemento {
+    enum class Clase {
+        paneles,
+        regulador,
+        acumuladores,
+        inversor,
+        cargas,
+        caja,  ///< connection box
+        red,
+        puntos  ///< stands for `iCuantos` more of the row above
+    };
+
+    Clase clase;
+    CString csTitulo;
+    std::vector<CString> acsDatos = {};  ///< its figures, one a line
+    int iColumna = 0, iFila = 0;
+    int iCuantos = 1;
+    int iSerie = 0, iParalelo = 0;  ///< of panels and batteries
+    bool bUnifilar = false;         ///< drawn as one symbol instead of one by one
+    bool bFalta = false;            ///< its model isn't in the catalogue
+};
+
+/// Between two elements, by index.
+struct Conexion {
+    std::size_t nDesde, nHasta;
+    CString csRotulo;
+    CString csDetalle = {};  ///< below the line
+    bool bAlterna = false;
+};
+
+struct Esquema {
+    CString csTitulo;
+    std::vector<Elemento> elementos;
+    std::vector<Conexion> conexiones;
+    std::vector<CString> acsNotas;
+};
+
+/// Inverters that are drawn one by one; of more of them the first, the last and what lies between.
+inline constexpr int kInversoresDibujados = 3;
+
+/// Empty while there is no accepted design.
+Esquema EsquemaDe(const CSFVAsistenteAislada& diseno);
+Esquema EsquemaDe(const CSFVAsistenteRed& diseno);
+
+}  // namespace efv::estudio

@@ -1,0 +1,92 @@
+#include "esquema/exportar.h"
+
+#include <stdexcept>
+
+#include <QBuffer>
+#include <QClipboard>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPageSize>
+#include <QPdfWriter>
+#include <QSaveFile>
+
+namespace efv::estudio {
+
+namespace {
+
+constexpr double kEscalaImagen = 2.0;
+constexpr double kPixelesPorPulgada = 96.0, kPuntosPorPulgada = 72.0;
+constexpr int kResolucionPdf = 600;
+
+QByteArray Png(const Dibujo& dibujo)
+{
+    QByteArray bytes;
+    QBuffer salida(&bytes);
+    salida.open(QIODevice::WriteOnly);
+    ImagenDe(dibujo).save(&salida, "PNG");
+    return bytes;
+}
+
+// One page of the drawing's size.
+QByteArray Pdf(const Dibujo& dibujo)
+{
+    QByteArray bytes;
+    QBuffer salida(&bytes);
+    salida.open(QIODevice::WriteOnly);
+    QPdfWriter pagina(&salida);
+    constexpr double kPuntos = kPuntosPorPulgada / kPixelesPorPulgada;
+    pagina.setPageMargins(QMarginsF());
+    pagina.setPageSize(QPageSize(QSizeF(dibujo.dAncho, dibujo.dAlto) * kPuntos, QPageSize::Point,
+                                 QStringLiteral("Esquema"), QPageSize::ExactMatch));
+    pagina.setResolution(kResolucionPdf);
+    QPainter pintor(&pagina);
+    pintor.scale(kResolucionPdf / kPixelesPorPulgada, kResolucionPdf / kPixelesPorPulgada);
+    Pintar(pintor, dibujo, Tema::claro);
+    pintor.end();
+    return bytes;
+}
+
+QByteArray Bytes(const Dibujo& dibujo, const QString& sufijo)
+{
+    if (sufijo == QLatin1String("png"))
+        return Png(dibujo);
+    if (sufijo == QLatin1String("svg"))
+        return QByteArray::fromStdString(EscribirSvg(dibujo));
+    if (sufijo == QLatin1String("pdf"))
+        return Pdf(dibujo);
+    throw std::runtime_error("El esquema se guarda como .png, .svg o .pdf.");
+}
+
+}  // namespace
+
+QImage ImagenDe(const Dibujo& dibujo, Tema tema)
+{
+    QImage imagen((QSizeF(dibujo.dAncho, dibujo.dAlto) * kEscalaImagen).toSize().expandedTo(QSize(1, 1)),
+                  QImage::Format_RGB32);
+    imagen.fill(ColorDe(Tinta::fondo, tema));
+    QPainter pintor(&imagen);
+    pintor.scale(kEscalaImagen, kEscalaImagen);
+    Pintar(pintor, dibujo, tema);
+    return imagen;
+}
+
+void GuardarDibujo(const Dibujo& dibujo, const CString& csRuta)
+{
+    const QString ruta = QString::fromStdWString(csRuta);
+    const QByteArray bytes = Bytes(dibujo, QFileInfo(ruta).suffix().toLower());
+    QSaveFile fichero(ruta);
+    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(bytes) != bytes.size() || !fichero.commit())
+        throw std::runtime_error("No se puede guardar «" + CadenaUtf8(csRuta) + "».\n" +
+                                 fichero.errorString().toStdString());
+}
+
+void CopiarDibujo(const Dibujo& dibujo)
+{
+    auto datos = std::make_unique<QMimeData>();
+    datos->setImageData(ImagenDe(dibujo));
+    datos->setData(QStringLiteral("image/svg+xml"), QByteArray::fromStdString(EscribirSvg(dibujo)));
+    QGuiApplication::clipboard()->setMimeData(datos.release());
+}
+
+}  // namespace efv::estudio

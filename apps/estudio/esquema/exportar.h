@@ -1,0 +1,19 @@
+// A schematic out of the program: picture, document, clipboard.
+#pragma once
+
+#include <QImage>
+
+#include "esquema/pintura.h"
+
+namespace efv::estudio {
+
+QImage ImagenDe(const Dibujo& dibujo, Tema tema = Tema::claro);
+
+/// Writes it as the suffix says: ".png", ".svg" or ".pdf". The file is replaced as a whole or not at all.
+/// @throws std::runtime_error with a Spanish text.
+void GuardarDibujo(const Dibujo& dibujo, const CString& csRuta);
+
+/// As a picture and as SVG.
+void CopiarDibujo(const Dibujo& dibujo);
+
+}  // namespace efv::estudio

@@ -1,0 +1,103 @@
+#include "esquema/vista_esquema.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include <QGraphicsScene>
+#include <QWheelEvent>
+
+#include "esquema/pintura.h"
+
+namespace efv::estudio {
+
+namespace {
+
+constexpr double kEscalaMinima = 0.2, kEscalaMaxima = 6.0;
+constexpr double kEscalaEncajada = 1.4;   // a small drawing isn't blown up
+constexpr double kPasosPorDoble = 480.0;  // of the wheel
+
+Tema TemaDe(const QWidget& widget)
+{
+    return widget.palette().color(QPalette::Base).lightness() < 128 ? Tema::oscuro : Tema::claro;
+}
+
+}  // namespace
+
+VistaEsquema::VistaEsquema(QWidget* padre) : QGraphicsView(padre)
+{
+    setScene(new QGraphicsScene(this));
+    setDragMode(QGraphicsView::ScrollHandDrag);
+    setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
+    setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
+    setMinimumSize(320, 240);
+    setAccessibleName(QStringLiteral("Esquema"));
+}
+
+void VistaEsquema::Poner(Dibujo dibujo, const CString& csSinDiseno)
+{
+    // The person keeps the scale that they chose while the drawing is the same.
+    if (dibujo == m_dibujo && !m_aviso.isEmpty())
+        return;
+    m_dibujo = std::move(dibujo);
+    m_aviso = QString::fromStdWString(csSinDiseno);
+    scene()->setSceneRect(0, 0, m_dibujo.dAncho, m_dibujo.dAlto);
+    Encajar();
+}
+
+void VistaEsquema::Encajar()
+{
+    m_bEncajado = true;
+    const QSizeF sitio = maximumViewportSize();
+    double dEscala = 1.0;
+    if (m_dibujo.dAncho > 0.0 && !sitio.isEmpty())
+        dEscala = std::clamp(std::min(sitio.width() / m_dibujo.dAncho, sitio.height() / m_dibujo.dAlto),
+                             kEscalaMinima, kEscalaEncajada);
+    setTransform(QTransform::fromScale(dEscala, dEscala));
+    viewport()->update();
+}
+
+void VistaEsquema::Ampliar(double dFactor)
+{
+    const double dAntes = transform().m11();
+    const double dEscala = std::clamp(dAntes * dFactor, kEscalaMinima, kEscalaMaxima);
+    m_bEncajado = false;
+    scale(dEscala / dAntes, dEscala / dAntes);
+}
+
+void VistaEsquema::resizeEvent(QResizeEvent* evento)
+{
+    QGraphicsView::resizeEvent(evento);
+    if (m_bEncajado)
+        Encajar();
+}
+
+void VistaEsquema::wheelEvent(QWheelEvent* evento)
+{
+    if (m_dibujo.trazos.empty())
+        return;
+    Ampliar(std::exp2(evento->angleDelta().y() / kPasosPorDoble));
+    evento->accept();
+}
+
+void VistaEsquema::changeEvent(QEvent* evento)
+{
+    QGraphicsView::changeEvent(evento);
+    if (evento->type() == QEvent::PaletteChange)
+        viewport()->update();
+}
+
+void VistaEsquema::drawBackground(QPainter* pintor, const QRectF& zona)
+{
+    pintor->fillRect(zona, ColorDe(Tinta::fondo, TemaDe(*this)));
+}
+
+void VistaEsquema::drawForeground(QPainter* pintor, const QRectF& /*zona*/)
+{
+    if (!m_dibujo.trazos.empty())
+        return Pintar(*pintor, m_dibujo, TemaDe(*this));
+    pintor->resetTransform();
+    pintor->setPen(ColorDe(Tinta::tenue, TemaDe(*this)));
+    pintor->drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_aviso);
+}
+
+}  // namespace efv::estudio

@@ -1,0 +1,36 @@
+// The project's name and place.
+#pragma once
+
+#include <vector>
+
+#include "proyecto/sesion.h"
+
+namespace efv::estudio {
+
+class PanelLugar final : public ui::Dialogo {
+public:
+    PanelLugar(Sesion& sesion, std::vector<Localidad> localidades);
+
+    /// Shows the session's project; what the person is typing stays when it says the same.
+    void Actualizar();
+
+private:
+    void AnadirLugar();
+    void AnadirRadiaciones();
+    void AlElegir();
+    void AlCambiar();
+    void Mostrar();
+
+    Sesion& m_sesion;
+    std::vector<Localidad> m_localidades;
+    CString m_csProyecto;
+    Lugar m_lugar;
+    int m_iLugar = 0;  // 0: own figures; then the places in order
+
+    ui::Seleccion* m_seleccion = nullptr;
+    ui::Seleccion* m_hemisferio = nullptr;
+    std::vector<ui::Edicion*> m_figuras;  // what can be written of a place of one's own
+    ui::TextoFijo* m_nota = nullptr;
+};
+
+}  // namespace efv::estudio

@@ -1,0 +1,14 @@
+// The module's assistants run on the open project; what the person accepts changes it.
+#pragma once
+
+#include "proyecto/sesion.h"
+
+namespace efv::estudio {
+
+/// Asks for the kind of installation, then runs its assistant.
+void Disenar(Sesion& sesion);
+void DisenarAislada(Sesion& sesion);
+void DisenarRed(Sesion& sesion);
+void EditarConsumo(Sesion& sesion);
+
+}  // namespace efv::estudio

@@ -1,0 +1,100 @@
+#include "proyecto/ejemplo.h"
+
+#include <algorithm>
+#include <array>
+
+namespace efv::estudio {
+
+namespace {
+
+struct CargaEjemplo {
+    const wchar_t* csId;
+    int iCantidad;
+    double adFranjas[6];  // start and end, minutes since midnight
+};
+
+constexpr auto kCargas = std::to_array<CargaEjemplo>({
+    {L"Vivienda#Lámpara interior 7 W", 8, {420, 480, 1140, 1380, 0, 0}},
+    {L"Vivienda#Televisor 60 W", 1, {870, 960, 1230, 1380, 0, 0}},
+    {L"Vivienda#Frigorífico 150 W", 1, {0, 480, 0, 0, 0, 0}},
+    {L"Vivienda#Ordenador", 1, {540, 720, 0, 0, 0, 0}},
+    {L"Vivienda#Lavadora", 1, {720, 765, 0, 0, 0, 0}},
+});
+
+// Presses OK in the dialog of that class, whatever else is asked.
+class Aceptante {
+public:
+    explicit Aceptante(const char* clase) : m_antes(ui::PresentadorActual())
+    {
+        m_guion.guiones.push_back({clase, {ui::paso::Pulsar{"OK"}}});
+        ui::InstalarPresentador(&m_guion);
+    }
+    ~Aceptante() { ui::InstalarPresentador(&m_antes); }
+    Aceptante(const Aceptante&) = delete;
+    Aceptante& operator=(const Aceptante&) = delete;
+
+private:
+    ui::Presentador& m_antes;
+    ui::PresentadorGuionizado m_guion;
+};
+
+void PonerCargas(CProyectoEstudio& proyecto)
+{
+    for (const CargaEjemplo& ejemplo : kCargas) {
+        auto receptor = std::make_unique<CSFVDataReceptor>();
+        receptor->csModelo = ejemplo.csId;
+        receptor->iCantidad = ejemplo.iCantidad;
+        int bLuminaria = 0;
+        if (phGetDataReceptor(ejemplo.csId, receptor->csFabricante, receptor->dPotencia, receptor->dVoltaje,
+                              receptor->dVoltajeMinimo, receptor->dRendimiento, receptor->iTipoRed,
+                              bLuminaria) == 0)
+            continue;
+        receptor->iLuminaria = bLuminaria;
+        for (auto& mes : receptor->dHorario)
+            for (auto& dia : mes)
+                std::ranges::copy(ejemplo.adFranjas, dia);
+        receptor->GetNHdia(0, 0);
+        CSFVAsistenteAislada& aislada = proyecto.aislada;
+        aislada.adCantidad.Add(receptor->iCantidad);
+        aislada.acsModelo.Add(receptor->csModelo);
+        aislada.adHorasDia.Add(receptor->dHorasDia);
+        for (const auto& mes : receptor->dHorario)
+            for (const auto& dia : mes)
+                for (const double dMinuto : dia)
+                    aislada.adHorario.Add(dMinuto);
+        proyecto.consumo.lReceptores.Add(std::move(receptor));
+    }
+}
+
+}  // namespace
+
+std::unique_ptr<CProyectoEstudio> ProyectoDeEjemplo(const Lugar& lugar)
+{
+    auto proyecto = std::make_unique<CProyectoEstudio>();
+    proyecto->csNombre = L"Casa de labor";
+    proyecto->lugar = lugar;
+    PonerCargas(*proyecto);
+    proyecto->consumo.csReferencia = L"Casa de labor";
+    proyecto->consumo.iTipoEntrada = 1;
+
+    CSFVAsistenteAislada& aislada = proyecto->aislada;
+    aislada.csAcumulador = L"TAB#6 OPzS 420";
+    aislada.csPanel = L"Canadian Solar#CS3U-350P";
+    aislada.dTensionSistema = 48.0;
+    aislada.dTensionMaxFV = 150.0;
+    aislada.dProfundidadDescarga = 70.0;
+    aislada.bSalidaCA = 1;
+    CSFVAsistenteRed& red = proyecto->red;
+    red.csInversor = L"SMA#SB5.0-1AV-40";
+    red.csPanel = L"Canadian Solar#CS3U-350P";
+    red.dPotenciaObjetivo = 20.0;
+    {
+        const Aceptante aceptante("CDlgAsistenteSFVAislada");
+        phAsistenteSFVAislada(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, lugar.adRadHorizontal, aislada);
+    }
+    const Aceptante aceptante("CDlgAsistenteSFVRed");
+    phAsistenteSFVRed(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, red);
+    return proyecto;
+}
+
+}  // namespace efv::estudio

@@ -1,0 +1,28 @@
+// Projects as files.
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <span>
+#include <vector>
+
+#include "proyecto/proyecto.h"
+
+namespace efv::estudio {
+
+/// The project as it stands in its file. Two projects are alike when these are.
+std::vector<std::byte> BytesDe(CProyectoEstudio& proyecto);
+
+/// The project that stands in the bytes.
+/// @throws std::runtime_error with a Spanish text that says what is wrong with them.
+std::unique_ptr<CProyectoEstudio> ProyectoDe(std::span<const std::byte> bytes);
+
+/// @throws std::runtime_error with a Spanish text that names the file and what is wrong with it: missing,
+/// unreadable, of another program, of a later version, cut off, damaged.
+std::unique_ptr<CProyectoEstudio> LeerProyecto(const CString& csRuta);
+
+/// Replaces the file, or makes it. At any moment either the old or the new content stands there whole.
+/// @throws std::runtime_error with a Spanish text when it can't be done; the old file is then untouched.
+void EscribirProyecto(std::span<const std::byte> bytes, const CString& csRuta);
+
+}  // namespace efv::estudio

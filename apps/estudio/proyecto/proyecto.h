@@ -1,0 +1,60 @@
+// A project: the place, one design of each assistant, one consumption element.
+#pragma once
+
+#include <cstddef>
+
+#include <QuorvelEFV.h>
+
+namespace efv::estudio {
+
+/// Where the installation stands: a place of the file of places, or the person's own figures.
+struct Lugar {
+    CString csNombre = L"Sin nombre";
+    CString csDetalle;                ///< province or country
+    int bPropio = 1;                  ///< not 0: the figures are the person's own
+    double dLatitud = 40.0;           ///< degrees, north positive
+    int iHemisferio = 1;              ///< 1 north, 0 south
+    double adRadHorizontal[12] = {};  ///< mean daily global radiation by month, kJ/m²·day
+
+    /// As the assistants take it: both parts with their mark between them.
+    CString Texto() const;
+
+    bool operator==(const Lugar&) const = default;
+};
+
+Lugar LugarDe(const Localidad& localidad);
+
+/// The consumption element, as its dialog takes it.
+struct Consumo {
+    CString csReferencia = L"Consumo";
+    CObArrayPropio<CSFVDataReceptor> lReceptores;
+    int iTipoEntrada = 0;        ///< 0 hour by hour, 1 by day type and load
+    int iPatron = 0;             ///< preset of the last hour-by-hour edit, 0 to 8
+    double dPotMaxima = 2500.0;  ///< greatest power at once, W
+    double adHoras[8760] = {};   ///< hourly year, Wh
+    double adMes[12][6] = {};    ///< energies by month and tariff period, kWh
+    int aiPeriodoHora[24] = {};  ///< tariff period of each hour of the day, 0 to 5
+    int bExcluir = 0;            ///< not 0: left out of the calculation
+    int iRotulacion = 0;         ///< choice of labelling
+    double dHusoHorario = 15.0;  ///< offset of the official time, degrees
+};
+
+class CProyectoEstudio final : public CObject {
+public:
+    CString csNombre = L"Proyecto";
+    Lugar lugar;
+    CSFVAsistenteAislada aislada;
+    CSFVAsistenteRed red;
+    Consumo consumo;
+
+    const CRuntimeClass& GetRuntimeClass() const override;
+
+    /// A mark, the schema number (now 1), then all of it. Reading throws CArchiveException at a stream that
+    /// ends too soon, and std::runtime_error with a Spanish text at one that is no project, is of a later
+    /// schema or holds what no project can; the project is then half filled.
+    void Serialize(CArchive& ar) override;
+
+    static const CRuntimeClass& GetThisClass();
+};
+
+}  // namespace efv::estudio

@@ -1,0 +1,193 @@
+// The program's window: what the person writes gets into the project, what is accepted onto the screen.
+#include "ventana_principal.h"
+
+#include <filesystem>
+
+#include <QLineEdit>
+
+#include "anfitrion/simbolos.h"
+#include "apoyo.h"
+#include "capturas/capturar.h"
+#include "comun/ficheros.h"
+#include "comun/guion.h"
+#include "ordenes.h"
+#include "proyecto/asistentes.h"
+#include "proyecto/ejemplo.h"
+#include "qt/muestra.h"
+
+namespace {
+
+using namespace efv;
+using namespace efv::estudio;
+using namespace efv::pruebas;
+using ui::Respuesta;
+
+std::vector<Localidad> Localidades()
+{
+    return LeerLocalidades(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/localidades.xml"));
+}
+
+class Ventanas : public ConCatalogos {
+protected:
+    Ventanas() { phSetQuorvelBIMCtrl(control); }
+
+    // The module keeps it for good.
+    static inline ControlAnfitrion control;
+    Guion guion;
+    VentanaPrincipal ventana{Localidades()};
+    Sesion& sesion = ventana.LaSesion();
+};
+
+void Escribir(QWidget& ventana, const char* campo, const QString& texto)
+{
+    auto& linea = Hijo<QLineEdit>(ventana, campo);
+    linea.setFocus();
+    linea.selectAll();
+    QTest::keyClicks(&linea, texto);
+}
+
+TEST_F(Ventanas, CerrarConCambiosPregunta)
+{
+    ventana.show();
+    EXPECT_FALSE(ventana.isWindowModified());
+    Escribir(ventana, "csProyecto", "Granja");
+    EXPECT_EQ(sesion.Proyecto().csNombre, L"Granja");
+    EXPECT_TRUE(ventana.isWindowModified());
+    EXPECT_TRUE(ventana.windowTitle().startsWith("Granja[*]"));
+
+    guion.presentador.respuestas = {Respuesta::cancelar};
+    EXPECT_FALSE(ventana.close());
+    EXPECT_TRUE(ventana.isVisible());
+    guion.presentador.respuestas = {Respuesta::no};
+    EXPECT_TRUE(ventana.close());
+    EXPECT_EQ(guion.Mensajes().size(), 2U);
+}
+
+TEST_F(Ventanas, ElLugarEsDeLaListaODeCifrasPropias)
+{
+    EXPECT_EQ(sesion.Proyecto().lugar.csNombre, L"Madrid");
+    auto& latitud = Hijo<QLineEdit>(ventana, "dLatitud");
+    EXPECT_TRUE(latitud.isReadOnly());
+
+    PanelLugar panel(sesion, Localidades());
+    auto& lista = dynamic_cast<ui::Seleccion&>(*panel.Controles()[1]);
+    const auto entrada = [&](const wchar_t* csNombre) {
+        return static_cast<int>(
+            std::ranges::find_if(lista.acsEntradas,
+                                 [&](const CString& cs) { return cs.starts_with(csNombre); }) -
+            lista.acsEntradas.begin());
+    };
+    panel.Elegir(lista, entrada(L"Almería"));
+    EXPECT_NEAR(sesion.Proyecto().lugar.dLatitud, 36.83892, 1e-9);
+    EXPECT_NEAR(sesion.Proyecto().lugar.adRadHorizontal[0], 9445.9, 1e-9);
+    EXPECT_EQ(sesion.Proyecto().lugar.Texto(), L"Almería~#SFV#~Almería");
+
+    // The figures of one's own begin with those; the window shows them too.
+    panel.Elegir(lista, 0);
+    EXPECT_EQ(sesion.Proyecto().lugar.bPropio, 1);
+    EXPECT_FALSE(latitud.isReadOnly());
+    EXPECT_EQ(latitud.text(), "36,8389");
+    Escribir(ventana, "dLatitud", "91");
+    EXPECT_EQ(sesion.Proyecto().lugar.dLatitud, 9.0);  // the last that was possible on the way
+    Escribir(ventana, "dLatitud", "-33,5");
+    EXPECT_EQ(latitud.text(), "-33,5");
+    EXPECT_EQ(sesion.Proyecto().lugar.dLatitud, -33.5);
+    Escribir(ventana, "adRadHorizontal11", "25000");
+    EXPECT_EQ(sesion.Proyecto().lugar.adRadHorizontal[11], 25000.0);
+}
+
+// Typing elsewhere doesn't touch figures that a field shows with fewer decimals than they have.
+TEST_F(Ventanas, EscribirElNombreNoRedondeaElLugar)
+{
+    const Lugar antes = sesion.Proyecto().lugar;
+    Escribir(ventana, "csProyecto", "Otro");
+    EXPECT_EQ(sesion.Proyecto().lugar, antes);
+}
+
+TEST_F(Ventanas, ElAsistenteDejaSuDisenoEnElEsquema)
+{
+    sesion.Proyecto().red.csInversor = kInversor;
+    sesion.Proyecto().red.csPanel = kPanel;
+    ventana.MostrarPestana(VentanaPrincipal::red);
+    guion.Dialogo("CDlgAsistenteSFVRed", {paso::Pulsar{"Cancel"}});
+    DisenarRed(sesion);
+    guion.Dialogo("CDlgAsistenteSFVRed", {paso::Pulsar{"OK"}});
+    DisenarRed(sesion);
+    EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt);
+    // 5 kW over inverters of 5 kW: one.
+    EXPECT_EQ(sesion.Proyecto().red.iInversores, 1);
+    EXPECT_GT(sesion.Proyecto().red.iPanelesSerie, 1);
+    EXPECT_TRUE(sesion.Modificado());
+    EXPECT_FALSE(ventana.EsquemaALaVista()->Mostrado().trazos.empty());
+    ventana.MostrarPestana(VentanaPrincipal::aislada);
+    EXPECT_TRUE(ventana.EsquemaALaVista()->Mostrado().trazos.empty());
+    ventana.MostrarPestana(VentanaPrincipal::consumo);
+    EXPECT_EQ(ventana.EsquemaALaVista(), nullptr);
+}
+
+TEST_F(Ventanas, ElTipoElegidoAbreSuAsistente)
+{
+    for (const auto& [boton, asistente] :
+         {std::pair("Instalación solar fotovoltaica aislada", "CDlgAsistenteSFVAislada"),
+          std::pair("Instalación solar fotovoltaica para conexión a red", "CDlgAsistenteSFVRed")}) {
+        guion.presentador.transcripciones.clear();
+        guion.Dialogo("CDlgAsistenteTipoInstalacion", {paso::Pulsar{boton}}).Dialogo(asistente, {});
+        Disenar(sesion);
+        ASSERT_EQ(guion.presentador.transcripciones.size(), 2U);
+        EXPECT_EQ(guion.presentador.transcripciones[1].dialogo, asistente);
+    }
+    guion.presentador.transcripciones.clear();
+    Disenar(sesion);
+    EXPECT_EQ(guion.presentador.transcripciones.size(), 1U);
+}
+
+TEST_F(Ventanas, ElConsumoAceptadoQuedaEnElProyecto)
+{
+    guion.Dialogo("CDlgDatosConsumo", {paso::Poner{"csReferencia", L"Taller"}, paso::Pulsar{"OK"}});
+    EditarConsumo(sesion);
+    EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt);
+    EXPECT_EQ(sesion.Proyecto().consumo.csReferencia, L"Taller");
+    EXPECT_TRUE(sesion.Modificado());
+}
+
+// Every screen opens, and the project stays as it was.
+TEST_F(Ventanas, TodasLasPantallasRegistradasSeCapturan)
+{
+    const CarpetaTemporal carpeta;
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    EXPECT_EQ(CapturarPrograma(ventana, carpeta.Ruta()), VentanaPrincipal::kPestanas + 4);
+    for (const Pantalla& pantalla : Pantallas(sesion))
+        EXPECT_GE(Capturar({pantalla}, carpeta.Ruta()), 1) << pantalla.nombre;
+    EXPECT_FALSE(sesion.Modificado());
+    // What opens within another dialog opened too.
+    for (const char* nombre :
+         {"aislada-CDlgMesAno.png", "aislada-DialogoSimbolo.png", "consumo-horas-CDlgDatosConsumoDia.png",
+          "consumo-horas-CDlgConfigPatronConsumo.png"})
+        EXPECT_TRUE(std::filesystem::exists(carpeta.Ruta() / nombre)) << nombre;
+}
+
+// All of the example's models are in the shipped catalogues, and the assistants take it.
+TEST_F(Ventanas, ElEjemploTieneLosDosDisenosYConsumo)
+{
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    const CProyectoEstudio& proyecto = sesion.Proyecto();
+    for (const Esquema& esquema : {EsquemaDe(proyecto.aislada), EsquemaDe(proyecto.red)}) {
+        EXPECT_FALSE(esquema.elementos.empty());
+        EXPECT_TRUE(esquema.acsNotas.empty());
+    }
+    EXPECT_EQ(proyecto.red.iInversores, 4);              // 20 kW over inverters of 5 kW
+    EXPECT_EQ(proyecto.aislada.iAcumuladoresSerie, 24);  // 48 V of 2 V each
+    EXPECT_GT(AnoDe(proyecto.consumo).Energia(), 0.0);
+    EXPECT_EQ(&ui::PresentadorActual(), &guion.presentador);
+}
+
+TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
+{
+    ventana.MostrarPestana(VentanaPrincipal::energia);
+    for (const Orden& orden : Ordenes())
+        if (std::string_view(orden.menu) == "&Esquema" && orden.funcion != nullptr)
+            orden.funcion(ventana);
+    EXPECT_EQ(guion.Mensajes().size(), 2U);  // copy and save
+}
+
+}  // namespace
