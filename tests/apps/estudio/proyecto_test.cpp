@@ -102,7 +102,7 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
 // Bytes put together by hand from the layout, up to the loads; what follows them is zeros.
 TEST(Proyecto, ElFormatoEsElDeSiempre)
 {
-    std::ifstream fichero(EFV_CARPETA_PRUEBAS "/../fuzz/muestras/proyecto/cabeza.bin", std::ios::binary);
+    std::ifstream fichero(EFV_CARPETA_PRUEBAS "/../fuzz/muestras/estudio/cabeza.bin", std::ios::binary);
     std::string bytes(std::istreambuf_iterator<char>(fichero), {});
     ASSERT_FALSE(bytes.empty());
     bytes.resize(bytes.size() + 4 + 4 + 8 + (8760 + 72) * 8 + 24 * 4 + 4 + 4 + 8);
