@@ -76,11 +76,12 @@ void AnotarCargas(ProyectoAislada& proyecto, const CatalogoDatos& catalogo)
     for (const auto& receptor : proyecto.receptores) {
         const std::string id = CadenaUtf8(receptor->csModelo);
         const double dCatalogo = dynamic_cast<const CBaseReceptorModelo&>(catalogo.Buscar(id)).dP;
-        if (receptor->dPotencia != dCatalogo)
+        if (receptor->dPotencia != dCatalogo) {
             proyecto.notas.push_back(
                 fmt::format("{}: se calcula con {}; el archivo no guarda la potencia, y quien lo "
                             "abra tomará la del catálogo, {}.",
                             id, Con(receptor->dPotencia, 1, "W"), Con(dCatalogo, 1, "W")));
+        }
         if (receptor->bNoCalcular != 0)
             proyecto.notas.push_back(fmt::format("{}: «bNoCalcular» no lo saca del dimensionado.", id));
     }

@@ -1,5 +1,8 @@
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
+
+#include <quorvel/reloj.h>
 
 #include "apoyo.h"
 
@@ -314,6 +317,86 @@ TEST_F(Diseno, ElInformeSeBastaASiMismo)
                                    "ET-M660285WW", "Supuestos", "<th scope=\"row\""})
             EXPECT_NE(html.find(propio), std::string::npos) << propio;
     }
+}
+
+TEST_F(Diseno, ElInformeLlevaLaFechaDelReloj)
+{
+    ::setenv("EFV_AHORA", "2028-02-01", 1);  // NOLINT(concurrency-mt-unsafe): the tests run in one thread
+    EXPECT_NE(Informe("red", Cubierta()).find("<p>Cubierta de una vivienda en Sevilla · 1-2-2028</p>"),
+              std::string::npos);
+    ::unsetenv("EFV_AHORA");  // NOLINT(concurrency-mt-unsafe)
+    FijarReloj(std::nullopt);
+}
+
+// The columns of a line, whatever their width.
+std::string SinHuecos(const std::string& texto)
+{
+    std::string junto;
+    for (const char c : texto)
+        if (c != ' ' || !junto.ends_with(' '))
+            junto += c;
+    return junto;
+}
+
+TEST_F(Diseno, EnElTerminalLoQueEstaEnVigorVaJuntoALaPropuesta)
+{
+    const std::string casa = SinHuecos(Disenar("aislada", Casa({{"iPanelesParalelo", 2}})).salida);
+    for (const char* linea :
+         {"\n Inclinación 55,00° propuesta 50,08°\n", "\n Nº de ramales en paralelo 2 propuesta 3\n",
+          "\n Potencia instalada 1710 Wp propuesta 2566 Wp << fuera\n",
+          "\n Granja#Bomba de pozo 1/2 HP 1 CA 750,00 0,50 375,00\n",
+          "\n ! Potencia instalada, 1710 Wp, inferior a la mínima necesaria, 1746 Wp.\n"})
+        EXPECT_NE(casa.find(linea), std::string::npos) << linea;
+    const std::string cubierta = SinHuecos(Disenar("red", Cubierta()).salida);
+    for (const char* linea : {"\n Nº de paneles por ramal 9 propuesta 15\n",
+                              "rango MPPT 226,3 V mín. 175,0 V cumple\n", "máxima 75,0 ºC.\n"})
+        EXPECT_NE(cubierta.find(linea), std::string::npos) << linea;
+    // Data sheets are for the page; a line of the terminal holds no control character of a file.
+    EXPECT_EQ(cubierta.find("Datos de los modelos"), std::string::npos);
+    EXPECT_EQ(Disenar("red", Cubierta({{"titulo", "a\x1b[31m\nb"}})).salida.find('\x1b'), std::string::npos);
+}
+
+TEST_F(Diseno, LasCantidadesMuyElevadasSePreguntanDesdeSuLimite)
+{
+    const auto avisos = [&](const Json& cambios) {
+        return Calcular("aislada", Casa(cambios))["avisos"].dump();
+    };
+    EXPECT_EQ(avisos({{"iPanelesParalelo", 100}}).find("muy elevada"), std::string::npos);
+    EXPECT_NE(avisos({{"iPanelesParalelo", 101}}).find("ramas de paneles (101)"), std::string::npos);
+    // Of 3 in series, 101 · 20 would be above 2000 too: only the branches are told.
+    EXPECT_EQ(avisos({{"iPanelesParalelo", 101}, {"iPanelesSerie", 20}}).find("(2020)"), std::string::npos);
+    EXPECT_NE(avisos({{"iPanelesParalelo", 100}, {"iPanelesSerie", 20}}).find("(2000)"), std::string::npos);
+    EXPECT_EQ(avisos({{"iAcumuladoresParalelo", 25}}).find("muy elevada"), std::string::npos);
+    EXPECT_NE(avisos({{"iAcumuladoresParalelo", 26}}).find("ramas de acumuladores (26)"), std::string::npos);
+}
+
+// Near the equator the favourable month asks for a tilt below 0, which no table has.
+TEST_F(Diseno, UnPlanoSinRadiacionSeDice)
+{
+    Json casa = Casa({{"latitud", 5}, {"iMesCalculo", "Favorable"}});
+    casa["radiacion"] = std::vector<double>(12, 18000.0);
+    casa.erase("lugar");
+    casa.erase("dInclinacion");
+    const Json json = Calcular("aislada", casa);
+    EXPECT_EQ(json["valores"]["dInclinacion"], -15.0);
+    EXPECT_EQ(json["valores"]["dHSP"], 0.0);
+    EsperarAviso("aislada", casa, true, "-15,00°, está fuera de 0° a 90°");
+    EsperarAviso("aislada", casa, true, "Sin horas de sol pico");
+    casa["dInclinacion"] = 10;
+    EXPECT_GT(Calcular("aislada", casa)["valores"]["dHSP"], 4.0);
+}
+
+TEST_F(Diseno, LosDatosQueFaltanSeDicen)
+{
+    const std::string datos = m_carpeta.Ruta().string();
+    const auto fallar = [&](const char* fragmento) {
+        const Corrida corrida = Disenar("red", Cubierta(), {"--datos", datos});
+        EXPECT_EQ(corrida.iEstado, 1);
+        EXPECT_NE(corrida.errores.find(fragmento), std::string::npos) << corrida.errores;
+    };
+    fallar("tabla de factores K");
+    m_carpeta.Crear("ZqFactorKHE5.xml", TablaK(LatitudK(37, "1.1") + LatitudK(38, "1.1")));
+    fallar("ZqInversorHE5.xml» no existe o no se puede leer");
 }
 
 TEST_F(Diseno, LoEscritoQuedaEnteroYSeDice)
