@@ -9,11 +9,11 @@
 #include <quorvel/solar.h>
 
 #include "catalogo/ficha.h"
+#include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
 #include "consumo/ano.h"
 #include "consumo/vistas.h"
-#include "comun/ficheros_nuevos.h"
 
 namespace efv::orden {
 

@@ -8,9 +8,9 @@
 #include <quorvel/reloj.h>
 
 #include "comun/datos.h"
+#include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
-#include "comun/ficheros_nuevos.h"
 #include "diseno/diseno.h"
 
 namespace efv::orden {
