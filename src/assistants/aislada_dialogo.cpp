@@ -66,14 +66,16 @@ constexpr auto kPotencias = std::to_array<ui::Fila<V>>({
     {"dPotenciaInstalada", &V::dPotenciaInstalada, L"Potencia instalada (Wp):"},
     {"dHSP", &V::dHSP, L"Hora solar pico (H.S.P.):"},
 });
-constexpr auto kPosicion = std::to_array<ui::Fila<V>>({
+constexpr auto kAngulos = std::to_array<ui::Fila<V>>({
     {"dInclinacion", &V::dInclinacion, L"Inclinación (º):", {0, 90}},
     {"dOrientacion", &V::dOrientacion, L"Orientación (º): [0=Sur]", {-180, 180}},
+});
+constexpr auto kFilasDePaneles = std::to_array<ui::Fila<V>>({
     {"iPanelesPorFila", &V::dPanelesPorFila, L"Nº máximo de paneles por fila:", {0, 100000}, 0},
     {"dDistanciaPaneles", &V::dDistanciaPaneles, L"Distancia panel - panel (mm):", {0, 25000}, 0},
     {"dDistanciaFilas", &V::dDistanciaFilas, L"Distancia fila - fila (mm):", {0, 25000}, 0},
 });
-constexpr auto kPosicionP = std::to_array<ui::Fila<V>>({
+constexpr auto kAngulosP = std::to_array<ui::Fila<V>>({
     {"dInclinacionP", &V::dInclinacionP, L""},
     {"dOrientacionP", &V::dOrientacionP, L""},
 });
@@ -184,7 +186,7 @@ void CDlgAsistenteSFVAislada::AnadirCargas()
 {
     m_lista = &Anadir<ui::Lista>("lReceptores", L"", ui::Lista::Forma::tabla);
     m_lista->acsColumnas = {L"Cant.", L"Modelo", L"Red", L"Potencia (W)", L"h/día", L"Consumo (Wh)"};
-    m_lista->modelo = std::make_shared<ui::FilasDeLista>(m_filasCargas);
+    m_lista->modelo = std::make_shared<ui::FilasDeLista>(m_filasCargas, ui::FilasDeLista::conCasillas);
     m_lista->lugar.bEstirar = true;
     m_lista->alElegir = [this] { m_filasCargas.SetSelectionMark(m_lista->iSeleccion); };
     m_lista->alAbrir = [this](int iFila, int /*iColumna*/) {
@@ -199,15 +201,16 @@ void CDlgAsistenteSFVAislada::AnadirCargas()
 void CDlgAsistenteSFVAislada::AnadirPaginaAcumuladores()
 {
     m_acumulador = &AnadirBoton("csAcumulador", L"", kAcumuladores, [this] { ElegirAcumulador(); });
+    AnadirSimbolo("iSimboloAcumulador", datos.iSimboloAcumulador, kCategoriaAcumulador, kAcumuladores);
     Anadir(kCamposAcumulador, kAcumuladores);
     AnadirResultados(kCapacidades, ui::kNegro, kAcumuladores);
     AnadirResultados(kAcumuladorP, as::kColorPropuesta, kAcumuladores);
-    AnadirSimbolo("iSimboloAcumulador", datos.iSimboloAcumulador, kCategoriaAcumulador, kAcumuladores);
 }
 
 void CDlgAsistenteSFVAislada::AnadirPaginaPaneles()
 {
     m_panel = &AnadirBoton("csPanel", L"", kPaneles, [this] { ElegirPanel(); });
+    AnadirSimbolo("iSimboloPanel", datos.iSimboloPanel, kCategoriaPanel, kPaneles);
     auto& mes =
         Anadir<ui::Seleccion>("iMesCalculo", L"Mes a considerar en el cálculo:", ui::Seleccion::Forma::combo);
     for (int m = 0; m < 15; ++m)
@@ -220,14 +223,14 @@ void CDlgAsistenteSFVAislada::AnadirPaginaPaneles()
     Anadir(kRamales, kPaneles);
     AnadirResultados(kPotencias, ui::kNegro, kPaneles);
     AnadirResultados(kPanelP, as::kColorPropuesta, kPaneles);
-    AnadirSimbolo("iSimboloPanel", datos.iSimboloPanel, kCategoriaPanel, kPaneles);
 
-    Anadir(kPosicion, kPanelesDerecha);
-    AnadirResultados(kPosicionP, as::kColorPropuesta, kPanelesDerecha);
-    AnadirResultados(kDistanciaP, ui::kNegro, kPanelesDerecha);
-    AnadirDisposicion(kPanelesDerecha, [this] { AlElegirDisposicion(); });
+    Anadir(kAngulos, kPanelesDerecha);
+    AnadirResultados(kAngulosP, as::kColorPropuesta, kPanelesDerecha);
     AnadirBoton("CDlgImgCoordenadas", L"...", kPanelesDerecha, [] { CDlgImgCoordenadas().Mostrar(); });
+    Anadir(kFilasDePaneles, kPanelesDerecha);
+    AnadirResultados(kDistanciaP, ui::kNegro, kPanelesDerecha);
     AnadirBoton("EspaciarFilas", L"...", kPanelesDerecha, [this] { AlEspaciar(); }).bVisible = false;
+    AnadirDisposicion(kPanelesDerecha, [this] { AlElegirDisposicion(); });
 
     m_radiacion = &Anadir<ui::Lista>(
         "listaRadiacion",

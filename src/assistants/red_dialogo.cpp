@@ -43,18 +43,21 @@ constexpr auto kRamalesP = std::to_array<ui::Fila<V>>({
     {"iPanelesParaleloP", &V::iPanelesParaleloP, L""},
 });
 
-constexpr auto kPosicion = std::to_array<ui::Fila<V>>({
+constexpr auto kAngulos = std::to_array<ui::Fila<V>>({
     {"dInclinacion", &V::dInclinacion, L"Inclinación (º):", {0, 90}},
     {"dOrientacion", &V::dOrientacion, L"Orientación (º): [0=Sur]", {-180, 180}},
+});
+constexpr auto kFilasDePaneles = std::to_array<ui::Fila<V>>({
     {"dPanelesPorFila", &V::dPanelesPorFila, L"Nº máximo de paneles por fila:", {1, 1000}, 0},
     {"dDistanciaPaneles", &V::dDistanciaPaneles, L"Distancia panel - panel (mm):", {0, 10000}, 0},
     {"dDistanciaFilas", &V::dDistanciaFilas, L"Distancia fila - fila (mm):", {0, 100000}, 0},
 });
-constexpr auto kPosicionP = std::to_array<ui::Fila<V>>({
+constexpr auto kAngulosP = std::to_array<ui::Fila<V>>({
     {"dInclinacionP", &V::dInclinacionP, L""},
     {"dOrientacionP", &V::dOrientacionP, L""},
-    {.nombre = "dDistanciaFilasP", .campo = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0},
 });
+constexpr auto kDistanciaP = std::to_array<ui::Fila<V>>(
+    {{.nombre = "dDistanciaFilasP", .campo = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
 
 constexpr auto kTotales = std::to_array<ui::Fila<V>>({
     {"dPotenciaInversorCampo", &V::dPotenciaInversorCampo, L"Potencia (Wp):"},
@@ -118,6 +121,7 @@ CDlgAsistenteSFVRed::CDlgAsistenteSFVRed(const V& inicial, const as::TextoLugar&
 void CDlgAsistenteSFVRed::AnadirEquipos()
 {
     m_inversor = &AnadirBoton("csInversor", L"", kGrupoInversor, [this] { ElegirInversor(); });
+    AnadirSimbolo("iSimboloInversor", datos.iSimboloInversor, kCategoriaInversor, kGrupoInversor);
     auto& nominal = Anadir<ui::Edicion>("dPCANom", L"Potencia Nominal (W):");
     auto& nominalP = Anadir<ui::Edicion>("dPCANomP", L"");
     nominal.destino = nominalP.destino = &datos.inversor.dPCANom;
@@ -128,21 +132,22 @@ void CDlgAsistenteSFVRed::AnadirEquipos()
     m_rango->lugar = kGrupoInversor;
     Anadir(kInversores, kGrupoInversor);
     AnadirResultados(kInversoresP, as::kColorPropuesta, kGrupoInversor);
-    AnadirSimbolo("iSimboloInversor", datos.iSimboloInversor, kCategoriaInversor, kGrupoInversor);
 
     m_panel = &AnadirBoton("csPanel", L"", kGrupoPanel, [this] { ElegirPanel(); });
+    AnadirSimbolo("iSimboloPanel", datos.iSimboloPanel, kCategoriaPanel, kGrupoPanel);
     Anadir(kRamales, kGrupoPanel);
     AnadirResultados(kRamalesP, as::kColorPropuesta, kGrupoPanel);
-    AnadirSimbolo("iSimboloPanel", datos.iSimboloPanel, kCategoriaPanel, kGrupoPanel);
 }
 
 void CDlgAsistenteSFVRed::AnadirCampo()
 {
-    Anadir(kPosicion, kGrupoGeometria);
-    AnadirResultados(kPosicionP, as::kColorPropuesta, kGrupoGeometria);
-    AnadirDisposicion(kGrupoGeometria, [this] { AlElegirDisposicion(); });
+    Anadir(kAngulos, kGrupoGeometria);
+    AnadirResultados(kAngulosP, as::kColorPropuesta, kGrupoGeometria);
     AnadirBoton("CDlgImgCoordenadas", L"...", kGrupoGeometria, [] { CDlgImgCoordenadas().Mostrar(); });
+    Anadir(kFilasDePaneles, kGrupoGeometria);
+    AnadirResultados(kDistanciaP, as::kColorPropuesta, kGrupoGeometria);
     AnadirBoton("EspaciarFilas", L"...", kGrupoGeometria, [this] { AlEspaciar(); });
+    AnadirDisposicion(kGrupoGeometria, [this] { AlElegirDisposicion(); });
 }
 
 void CDlgAsistenteSFVRed::AnadirResultadosTotales()

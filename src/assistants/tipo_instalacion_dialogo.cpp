@@ -8,6 +8,7 @@ CDlgAsistenteTipoInstalacion::CDlgAsistenteTipoInstalacion()
     const auto anadir = [this](std::wstring_view rotulo, const wchar_t* imagen, int iColumna, int iResultado) {
         auto& dibujo = Anadir<efv::ui::Boton>("", L"");
         dibujo.csImagen = imagen;
+        dibujo.bImagenGrande = true;
         dibujo.csIndicacion = rotulo;
         auto& boton = Anadir<efv::ui::Boton>("", rotulo);
         for (auto* pulsable : {&dibujo, &boton}) {

@@ -26,8 +26,9 @@ CDlgDatosConsumoDia::CDlgDatosConsumoDia(int iMes, int iDia, std::span<double, e
       m_iDia(iDia),
       m_adHoras(adHoras),
       m_horas(
-          Aspecto(), Anadir<ui::Grafica>("grafica", L""),
+          Aspecto(),
           [this](const CString& csRotulo) -> ui::Edicion& { return Anadir<ui::Edicion>("", csRotulo); },
+          [this]() -> ui::Grafica& { return Anadir<ui::Grafica>("grafica", L""); },
           [this] { return !Recoger().has_value(); })
 {
     Anadir<ui::Boton>("", L"Pegar").alPulsar = [this] { AlPegar(); };

@@ -149,7 +149,7 @@ void CDlgDatosConsumo::AnadirListas()
     dias.lugar.bEstirar = true;
     auto& receptores = Anadir<ui::Lista>("lReceptores", L"", ui::Lista::Forma::tabla);
     receptores.acsColumnas.assign(kColumnasReceptores.begin(), kColumnasReceptores.end());
-    receptores.modelo = std::make_shared<ui::FilasDeLista>(m_filas);
+    receptores.modelo = std::make_shared<ui::FilasDeLista>(m_filas, ui::FilasDeLista::conCasillas);
     receptores.alElegir = [this] { m_filas.SetSelectionMark(ControlDe<ui::Lista>("lReceptores").iSeleccion); };
     receptores.alAbrir = [this](int iFila, int) {
         m_filas.SetSelectionMark(iFila);

@@ -7,24 +7,25 @@
 
 namespace efv::consumption {
 
-ControlesHoras::ControlesHoras(const AspectoHoras& aspecto, ui::Grafica& grafica, const Anadir& anadir,
+ControlesHoras::ControlesHoras(const AspectoHoras& aspecto, const Anadir& anadir,
+                               const std::function<ui::Grafica&()>& anadirGrafica,
                                std::function<bool()> recoger)
-    : m_valores(std::make_unique<std::array<double, 24>>()),
-      m_grafica(grafica),
-      m_iDecimales(aspecto.iDecimales)
+    : m_valores(std::make_unique<std::array<double, 24>>()), m_iDecimales(aspecto.iDecimales)
 {
-    m_grafica.datos = aspecto.grafica;
     for (std::size_t h = 0; h < m_campos.size(); ++h) {
         ui::Edicion& campo = anadir(NombreDeHora(static_cast<int>(h)));
         campo.destino = &(*m_valores)[h];
         campo.iDecimales = aspecto.iDecimales;
         campo.limites = aspecto.limites;
+        campo.lugar.iColumna = h < m_campos.size() / 2 ? 0 : 1;
         campo.alSalir = [this, recoger] {
             if (recoger())
                 Dibujar();
         };
         m_campos[h] = &campo;
     }
+    m_grafica = &anadirGrafica();
+    m_grafica->datos = aspecto.grafica;
 }
 
 void ControlesHoras::Mostrar()
@@ -36,7 +37,7 @@ void ControlesHoras::Mostrar()
 
 void ControlesHoras::Dibujar()
 {
-    m_grafica.datos.aSeries = GraficaDiaDeHoras(*m_valores).aSeries;
+    m_grafica->datos.aSeries = GraficaDiaDeHoras(*m_valores).aSeries;
 }
 
 }  // namespace efv::consumption

@@ -22,8 +22,9 @@ class ControlesHoras {
 public:
     using Anadir = std::function<ui::Edicion&(const CString& csRotulo)>;
 
-    ControlesHoras(const AspectoHoras& aspecto, ui::Grafica& grafica, const Anadir& anadir,
-                   std::function<bool()> recoger);
+    /// Fields in two columns, the chart below them.
+    ControlesHoras(const AspectoHoras& aspecto, const Anadir& anadir,
+                   const std::function<ui::Grafica&()>& anadirGrafica, std::function<bool()> recoger);
 
     std::array<double, 24>& Valores() { return *m_valores; }
     /// Writes the values into the fields and the chart.
@@ -35,7 +36,7 @@ public:
 private:
     std::unique_ptr<std::array<double, 24>> m_valores;  // the fields point at them
     std::array<ui::Edicion*, 24> m_campos{};
-    ui::Grafica& m_grafica;
+    ui::Grafica* m_grafica = nullptr;
     int m_iDecimales;
 };
 

@@ -35,8 +35,9 @@ CDlgConfigPatronConsumo::CDlgConfigPatronConsumo(const efv::SemanaFactores& inic
       m_dia(Anadir<ui::Seleccion>("iDiaTipo", L"Día:", ui::Seleccion::Forma::combo)),
       m_copiar(Anadir<ui::Seleccion>("", L"Factor de consumo", ui::Seleccion::Forma::menu)),
       m_horas(
-          Aspecto(), Anadir<ui::Grafica>("grafica", L""),
+          Aspecto(),
           [this](const CString& csRotulo) -> ui::Edicion& { return Anadir<ui::Edicion>("", csRotulo); },
+          [this]() -> ui::Grafica& { return Anadir<ui::Grafica>("grafica", L""); },
           [this] { return !Recoger().has_value(); })
 {
     m_dia.acsEntradas = efv::consumption::NombresDeDias();

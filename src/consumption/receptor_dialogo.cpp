@@ -75,13 +75,13 @@ CDlgDatosReceptor::CDlgDatosReceptor(efv::consumption::DatosReceptor inicial)
 
 void CDlgDatosReceptor::AnadirModelo()
 {
+    auto& modelo = Anadir<ui::Edicion>("csModelo", L"Modelo:");
+    modelo.destino = &datos.receptor.csModelo;
+    modelo.bSoloLectura = true;
     auto& conModelo = Anadir<ui::Casilla>("bModelo", L"");
     conModelo.destino = &datos.bModelo;
     conModelo.bHabilitado = datos.bPedirCantidad == 0;
     conModelo.alCambiar = [this, &conModelo] { m_elegir->bHabilitado = conModelo.bMarcada; };
-    auto& modelo = Anadir<ui::Edicion>("csModelo", L"Modelo:");
-    modelo.destino = &datos.receptor.csModelo;
-    modelo.bSoloLectura = true;
     m_elegir = &Anadir<ui::Boton>("", L"...");
     m_elegir->bHabilitado = datos.bModelo != 0;
     m_elegir->alPulsar = [this] { AlElegirModelo(); };

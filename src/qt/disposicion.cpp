@@ -64,6 +64,17 @@ bool EsTextoLargo(const Vista& vista)
     return edicion != nullptr && edicion->bVariasLineas;
 }
 
+bool EsTexto(const Vista& vista)
+{
+    return dynamic_cast<const ui::TextoFijo*>(&vista.control) != nullptr;
+}
+
+bool EsImagenGrande(const Vista& vista)
+{
+    const auto* boton = dynamic_cast<const ui::Boton*>(&vista.control);
+    return boton != nullptr && boton->bImagenGrande;
+}
+
 // Whether it belongs on the line of the field before it: it says nothing by itself.
 bool Acompana(const Vista& vista)
 {
@@ -73,7 +84,7 @@ bool Acompana(const Vista& vista)
     if (!control.csRotulo.empty())
         return false;
     if (const auto* texto = dynamic_cast<const ui::TextoFijo*>(&control))
-        return texto->csTexto.size() <= kLetrasDeUnidad;
+        return texto->csTexto.size() <= kLetrasDeUnidad;  // a unit
     if (const auto* seleccion = dynamic_cast<const ui::Seleccion*>(&control))
         return seleccion->forma == ui::Seleccion::Forma::combo;
     if (const auto* edicion = dynamic_cast<const ui::Edicion*>(&control))
@@ -153,9 +164,9 @@ private:
         if (EsCampo(primera) ||
             (EsCasilla(primera) && dynamic_cast<const ui::Edicion*>(&vista.control) != nullptr) ||
             (EsLineaSinRotulo(primera) && EsBoton(vista)))
-            return Acompana(vista);
+            return Acompana(vista) && !(EsTexto(primera) && EsTexto(vista));  // a text has no unit
         // Buttons in a column beside others stand one below the other.
-        if (elemento.iColumna > 0 || !EsBoton(primera) || !EsBoton(vista))
+        if (elemento.iColumna > 0 || !EsBoton(primera) || !EsBoton(vista) || EsImagenGrande(primera))
             return false;
         std::size_t nLetras = LetrasDe(vista.control);
         for (const Vista* otra : elemento.vistas)

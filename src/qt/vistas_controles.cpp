@@ -31,6 +31,8 @@ namespace efv::qt {
 
 namespace {
 
+constexpr QSize kImagenGrande(96, 96);
+
 // ---------------------------------------------------------------------------------------------------
 // Text
 // ---------------------------------------------------------------------------------------------------
@@ -250,6 +252,8 @@ private:
             m_csImagen = m_boton.csImagen;
             m_paleta = widget->palette().cacheKey();
             Pulsador().setIcon(IconoDe(m_csImagen, widget->palette()));
+            if (m_boton.bImagenGrande)
+                Pulsador().setIconSize(kImagenGrande);
         }
         const bool bConImagen = !Pulsador().icon().isNull();
         const CString& csRotulo = m_boton.csRotulo.empty() ? m_boton.csIndicacion : m_boton.csRotulo;
@@ -258,7 +262,7 @@ private:
             Indicacion(m_boton.csIndicacion.empty() && bConImagen ? m_boton.csRotulo : m_boton.csIndicacion));
         // A few letters don't need a whole button's width.
         const bool bBreve = bConImagen || Pulsador().text().size() <= 3;
-        if (bBreve)
+        if (bBreve && !m_boton.bImagenGrande)
             Pulsador().setFixedWidth(Pulsador().sizeHint().height() + (bConImagen ? 8 : 6));
     }
 

@@ -152,7 +152,8 @@ class EFV_API Boton final : public Control {
 public:
     using Control::Control;
     std::function<void()> alPulsar;
-    CString csImagen;      ///< name of its picture; empty for a button of text
+    CString csImagen;  ///< name of its picture; empty for a button of text
+    bool bImagenGrande = false;
     CString csIndicacion;  ///< tool-tip
 
     CString Texto() const override { return csRotulo; }

@@ -56,14 +56,23 @@ namespace efv::ui {
 /// The rows of a CListCtrl for a list control. The list must outlive it.
 class EFV_API FilasDeLista final : public ModeloFilas {
 public:
-    explicit FilasDeLista(const CListCtrl& lista) : m_lista(lista) {}
+    enum Casillas : bool { sinCasillas, conCasillas };
+
+    explicit FilasDeLista(const CListCtrl& lista, Casillas casillas = sinCasillas)
+        : m_lista(lista), m_casillas(casillas)
+    {
+    }
 
     int Filas() const override { return m_lista.GetItemCount(); }
     CString Celda(int iFila, int iColumna) const override { return m_lista.GetItemText(iFila, iColumna); }
-    std::optional<bool> Marca(int iFila) const override { return m_lista.GetCheck(iFila); }
+    std::optional<bool> Marca(int iFila) const override
+    {
+        return m_casillas == conCasillas ? std::optional(m_lista.GetCheck(iFila)) : std::nullopt;
+    }
 
 private:
     const CListCtrl& m_lista;
+    Casillas m_casillas;
 };
 
 }  // namespace efv::ui
