@@ -246,13 +246,14 @@ void CDlgDatosReceptor::AlUnificar()
 CString CDlgDatosReceptor::DiasSinUso() const
 {
     CString lista;
-    for (int iMes = 0; iMes < 12; ++iMes)
+    for (int iMes = 0; iMes < 12; ++iMes) {
         for (int iTipo = 0; iTipo < 7; ++iTipo) {
             if (!ui::EsNulo(efv::consumption::HorasMostradas(datos.receptor.dHorario[iMes][iTipo])))
                 continue;
             lista += fmt::format(L"{}{}:{}", lista.empty() ? L"" : L", ", efv::solar::NombreMes(iMes),
                                  efv::solar::NombreDia(iTipo));
         }
+    }
     return lista;
 }
 
