@@ -82,6 +82,14 @@ CString SinMnemonico(CString rotulo)
     return rotulo;
 }
 
+// What a reading of all controls calls it: its field, else its caption, else what it says.
+std::string NombreEnLectura(const Control& control)
+{
+    if (!control.nombre.empty())
+        return control.nombre;
+    return CadenaUtf8(control.csRotulo.empty() ? control.Texto() : control.csRotulo);
+}
+
 Control& Buscar(const Dialogo& dialogo, const std::string& nombre)
 {
     const CString csNombre = CadenaDesdeUtf8(nombre);
@@ -242,8 +250,7 @@ public:
         std::vector<std::pair<std::string, EstadoControl>> lectura;
         if (p.controles.empty()) {
             for (const auto& control : m_dialogo.Controles())
-                lectura.emplace_back(control->nombre.empty() ? CadenaUtf8(control->csRotulo) : control->nombre,
-                                     Observar(*control));
+                lectura.emplace_back(NombreEnLectura(*control), Observar(*control));
         }
         for (const std::string& nombre : p.controles)
             lectura.emplace_back(nombre, Observar(Buscar(m_dialogo, nombre)));
