@@ -40,12 +40,12 @@ class SinRepetidos {
 public:
     bool operator()(int /*iNivel*/, JsonLeido::parse_event_t evento, const JsonLeido& valor)
     {
-        using enum JsonLeido::parse_event_t;
-        if (evento == object_start)
+        using Suceso = JsonLeido::parse_event_t;
+        if (evento == Suceso::object_start)
             m_abiertos.emplace_back();
-        else if (evento == object_end)
+        else if (evento == Suceso::object_end)
             m_abiertos.pop_back();
-        else if (evento == key && !m_abiertos.back().insert(valor.get<std::string>()).second)
+        else if (evento == Suceso::key && !m_abiertos.back().insert(valor.get<std::string>()).second)
             throw rpc::ErrorValor(fmt::format("«{}» está dos veces", Cita(valor.get<std::string>())));
         return true;
     }
