@@ -38,7 +38,7 @@ std::string Rotulo(const CString& csRotulo)
 }
 
 // The visible controls of a data sheet as rows of caption and text.
-class FilasDeFicha final : public ui::VisitanteControl {
+class VisitanteFicha final : public ui::VisitanteControl {
 public:
     std::vector<std::pair<std::string, std::string>> filas;
 
@@ -182,16 +182,21 @@ std::string ListaTexto(const TipoCatalogo& tipo, const Modelos& modelos)
                        modelos.size() == 1 ? "" : "s", familias.size(), familias.size() == 1 ? "" : "s");
 }
 
-std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo)
+std::vector<std::pair<std::string, std::string>> FilasDeFicha(const TipoCatalogo& tipo, const CModelo& modelo)
 {
     const auto dialogo = tipo.CrearDialogo(modelo);
-    FilasDeFicha ficha;
-    ficha.filas.emplace_back("Familia", EnTerminal(modelo.csFamilia));
+    VisitanteFicha ficha;
     for (const auto& control : dialogo->Controles())
         if (control->bVisible)
             control->Visitar(ficha);
+    return std::move(ficha.filas);
+}
+
+std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo)
+{
     TablaTexto tabla({TablaTexto::Lado::izquierda, TablaTexto::Lado::izquierda});
-    for (auto& [rotulo, texto] : ficha.filas)
+    tabla.Fila({"Familia", EnTerminal(modelo.csFamilia)});
+    for (auto& [rotulo, texto] : FilasDeFicha(tipo, modelo))
         tabla.Fila({std::move(rotulo), std::move(texto)});
     return tabla.Texto();
 }

@@ -4,7 +4,6 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 #include <quorvel/tipos_catalogo.h>
@@ -30,11 +29,5 @@ private:
     std::unique_ptr<CBaseXML> m_base;
     std::vector<const CModelo*> m_modelos;
 };
-
-/// "family#model".
-CString IdentificacionDe(const CModelo& modelo);
-
-/// A model's data sheet as captions and texts, as its dialog shows them.
-std::vector<std::pair<std::string, std::string>> FichaDeModelo(const TipoCatalogo& tipo, const CModelo& modelo);
 
 }  // namespace efv::orden

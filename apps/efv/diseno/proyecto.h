@@ -11,6 +11,7 @@
 #include <quorvel/framework/CObject.h>
 #include <quorvel/localidades.h>
 
+#include "catalogo/acceso.h"
 #include "diseno/lectura.h"
 #include "diseno/modelos.h"
 #include "energia/campo.h"
@@ -55,7 +56,7 @@ const M& ElegirModelo(Objeto& proyecto, std::string_view campo, const CatalogoDa
     const JsonLeido& j = proyecto.Exigir(campo);
     rpc::NombrarLugar([&] { return std::string(campo); },
                       [&] { modelo = &dynamic_cast<const M&>(catalogo.Buscar(LeerTexto(j))); });
-    csId = IdentificacionDe(*modelo);
+    csId = Identificacion(*modelo);
     return *modelo;
 }
 

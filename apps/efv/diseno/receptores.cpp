@@ -9,6 +9,7 @@
 #include <quorvel/catalogues.h>
 #include <quorvel/solar.h>
 
+#include "catalogo/acceso.h"
 #include "comun/numeros.h"
 #include "diseno/proyecto.h"
 #include "rpc/valores.h"
@@ -163,7 +164,7 @@ void LeerBandas(Objeto& objeto, CSFVDataReceptor& receptor, bool bConHorario)
 void TomarModelo(CSFVDataReceptor& receptor, const CModelo& modelo)
 {
     const auto& m = dynamic_cast<const CBaseReceptorModelo&>(modelo);
-    receptor.csModelo = IdentificacionDe(m);
+    receptor.csModelo = Identificacion(m);
     receptor.csFabricante = m.csFamilia;
     receptor.dPotencia = m.dP;
     receptor.dVoltaje = m.dVs;

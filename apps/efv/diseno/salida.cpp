@@ -9,6 +9,7 @@
 #include <quorvel/framework/CArchive.h>
 #include <quorvel/solar.h>
 
+#include "catalogo/ficha.h"
 #include "comun/numeros.h"
 
 namespace efv::orden {
@@ -105,9 +106,9 @@ Seccion SeccionModelos(std::span<const ModeloElegido> modelos)
     seccion.bPaginaNueva = true;
     for (const ModeloElegido& elegido : modelos) {
         Cuadro& cuadro = seccion.cuadros.emplace_back();
-        cuadro.titulo = fmt::format("{}: {}", elegido.titulo, CadenaUtf8(IdentificacionDe(*elegido.modelo)));
+        cuadro.titulo = fmt::format("{}: {}", elegido.titulo, CadenaUtf8(Identificacion(*elegido.modelo)));
         cuadro.columnas = {{"Dato", false}, {"Valor", true}};
-        for (auto& [rotulo, texto] : FichaDeModelo(*elegido.tipo, *elegido.modelo))
+        for (auto& [rotulo, texto] : FilasDeFicha(*elegido.tipo, *elegido.modelo))
             if (!texto.empty())
                 cuadro.filas.push_back({std::move(rotulo), std::move(texto)});
     }
