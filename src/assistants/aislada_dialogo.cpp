@@ -66,21 +66,11 @@ constexpr auto kPotencias = std::to_array<ui::Fila<V>>({
     {"dPotenciaInstalada", &V::dPotenciaInstalada, L"Potencia instalada (Wp):"},
     {"dHSP", &V::dHSP, L"Hora solar pico (H.S.P.):"},
 });
-constexpr auto kAngulos = std::to_array<ui::Fila<V>>({
-    {"dInclinacion", &V::dInclinacion, L"Inclinación (º):", {0, 90}},
-    {"dOrientacion", &V::dOrientacion, L"Orientación (º): [0=Sur]", {-180, 180}},
-});
 constexpr auto kFilasDePaneles = std::to_array<ui::Fila<V>>({
     {"iPanelesPorFila", &V::dPanelesPorFila, L"Nº máximo de paneles por fila:", {0, 100000}, 0},
     {"dDistanciaPaneles", &V::dDistanciaPaneles, L"Distancia panel - panel (mm):", {0, 25000}, 0},
     {"dDistanciaFilas", &V::dDistanciaFilas, L"Distancia fila - fila (mm):", {0, 25000}, 0},
 });
-constexpr auto kAngulosP = std::to_array<ui::Fila<V>>({
-    {"dInclinacionP", &V::dInclinacionP, L""},
-    {"dOrientacionP", &V::dOrientacionP, L""},
-});
-constexpr auto kDistanciaP = std::to_array<ui::Fila<V>>(
-    {{.nombre = "dDistanciaFilasP", .campo = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
 
 constexpr auto kTensionesFV = std::to_array<ui::Fila<V>>({
     {"dTensionMaxFV", &V::dTensionMaxFV, L"Tensión FV [máx, mín] (V):"},
@@ -224,11 +214,11 @@ void CDlgAsistenteSFVAislada::AnadirPaginaPaneles()
     AnadirResultados(kPotencias, ui::kNegro, kPaneles);
     AnadirResultados(kPanelP, as::kColorPropuesta, kPaneles);
 
-    Anadir(kAngulos, kPanelesDerecha);
-    AnadirResultados(kAngulosP, as::kColorPropuesta, kPanelesDerecha);
+    Anadir(as::kAngulos<V>, kPanelesDerecha);
+    AnadirResultados(as::kAngulosP<V>, as::kColorPropuesta, kPanelesDerecha);
     AnadirBoton("CDlgImgCoordenadas", L"...", kPanelesDerecha, [] { CDlgImgCoordenadas().Mostrar(); });
     Anadir(kFilasDePaneles, kPanelesDerecha);
-    AnadirResultados(kDistanciaP, ui::kNegro, kPanelesDerecha);
+    AnadirResultados(as::kDistanciaP<V>, ui::kNegro, kPanelesDerecha);
     AnadirBoton("EspaciarFilas", L"...", kPanelesDerecha, [this] { AlEspaciar(); }).bVisible = false;
     AnadirDisposicion(kPanelesDerecha, [this] { AlElegirDisposicion(); });
 

@@ -17,6 +17,21 @@ namespace efv::assistants {
 inline constexpr ui::Color kColorPropuesta = 0xFF0000;  // blue, 0xBBGGRR
 inline constexpr ui::Color kColorInsuficiente = 0x0000FF;
 
+// The position of the panel field, and its proposals.
+template <class V>
+inline constexpr auto kAngulos = std::to_array<ui::Fila<V>>({
+    {"dInclinacion", &V::dInclinacion, L"Inclinación (º):", {0, 90}},
+    {"dOrientacion", &V::dOrientacion, L"Orientación (º): [0=Sur]", {-180, 180}},
+});
+template <class V>
+inline constexpr auto kAngulosP = std::to_array<ui::Fila<V>>({
+    {"dInclinacionP", &V::dInclinacionP, L""},
+    {"dOrientacionP", &V::dOrientacionP, L""},
+});
+template <class V>
+inline constexpr auto kDistanciaP = std::to_array<ui::Fila<V>>(
+    {{.nombre = "dDistanciaFilasP", .campo = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
+
 /// Runs a catalogue's choice beginning with `csId`; nothing when the person didn't accept.
 template <class BASE>
 std::optional<CString> ElegirModelo(BASE& base, const CString& csId)

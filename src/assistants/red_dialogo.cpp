@@ -43,21 +43,11 @@ constexpr auto kRamalesP = std::to_array<ui::Fila<V>>({
     {"iPanelesParaleloP", &V::iPanelesParaleloP, L""},
 });
 
-constexpr auto kAngulos = std::to_array<ui::Fila<V>>({
-    {"dInclinacion", &V::dInclinacion, L"Inclinación (º):", {0, 90}},
-    {"dOrientacion", &V::dOrientacion, L"Orientación (º): [0=Sur]", {-180, 180}},
-});
 constexpr auto kFilasDePaneles = std::to_array<ui::Fila<V>>({
     {"dPanelesPorFila", &V::dPanelesPorFila, L"Nº máximo de paneles por fila:", {1, 1000}, 0},
     {"dDistanciaPaneles", &V::dDistanciaPaneles, L"Distancia panel - panel (mm):", {0, 10000}, 0},
     {"dDistanciaFilas", &V::dDistanciaFilas, L"Distancia fila - fila (mm):", {0, 100000}, 0},
 });
-constexpr auto kAngulosP = std::to_array<ui::Fila<V>>({
-    {"dInclinacionP", &V::dInclinacionP, L""},
-    {"dOrientacionP", &V::dOrientacionP, L""},
-});
-constexpr auto kDistanciaP = std::to_array<ui::Fila<V>>(
-    {{.nombre = "dDistanciaFilasP", .campo = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
 
 constexpr auto kTotales = std::to_array<ui::Fila<V>>({
     {"dPotenciaInversorCampo", &V::dPotenciaInversorCampo, L"Potencia (Wp):"},
@@ -141,11 +131,11 @@ void CDlgAsistenteSFVRed::AnadirEquipos()
 
 void CDlgAsistenteSFVRed::AnadirCampo()
 {
-    Anadir(kAngulos, kGrupoGeometria);
-    AnadirResultados(kAngulosP, as::kColorPropuesta, kGrupoGeometria);
+    Anadir(as::kAngulos<V>, kGrupoGeometria);
+    AnadirResultados(as::kAngulosP<V>, as::kColorPropuesta, kGrupoGeometria);
     AnadirBoton("CDlgImgCoordenadas", L"...", kGrupoGeometria, [] { CDlgImgCoordenadas().Mostrar(); });
     Anadir(kFilasDePaneles, kGrupoGeometria);
-    AnadirResultados(kDistanciaP, as::kColorPropuesta, kGrupoGeometria);
+    AnadirResultados(as::kDistanciaP<V>, as::kColorPropuesta, kGrupoGeometria);
     AnadirBoton("EspaciarFilas", L"...", kGrupoGeometria, [this] { AlEspaciar(); });
     AnadirDisposicion(kGrupoGeometria, [this] { AlElegirDisposicion(); });
 }
