@@ -1,5 +1,4 @@
-#include "qt/vista_lista.h"
-
+// Lists, tables, trees.
 #include <algorithm>
 
 #include <QHeaderView>
@@ -9,6 +8,7 @@
 #include <QTreeView>
 
 #include "qt/modelo_filas.h"
+#include "qt/vistas_familias.h"
 
 namespace efv::qt {
 
@@ -264,7 +264,7 @@ private:
 
 }  // namespace
 
-std::unique_ptr<Vista> CrearVistaLista(ui::Lista& control, QWidget* padre, Accionador& accionador)
+std::unique_ptr<Vista> CrearVistaDe(ui::Lista& control, QWidget* padre, Accionador& accionador)
 {
     return std::make_unique<VistaLista>(control, padre, accionador);
 }

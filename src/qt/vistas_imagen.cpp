@@ -1,0 +1,72 @@
+// What is only looked at: charts, pictures.
+#include <QLabel>
+
+#include "qt/iconos.h"
+#include "qt/texto.h"
+#include "qt/vistas_familias.h"
+#include "qt/widget_grafica.h"
+
+namespace efv::qt {
+
+namespace {
+
+class VistaGrafica final : public Vista {
+public:
+    VistaGrafica(ui::Grafica& grafica, QWidget* padre) : Vista(grafica, new WidgetGrafica(grafica.datos, padre))
+    {
+    }
+
+    bool EsAncha() const override { return true; }
+    bool QuiereSitio() const override { return true; }
+
+private:
+    void RefrescarContenido() override { widget->update(); }
+};
+
+class VistaImagen final : public Vista {
+public:
+    VistaImagen(ui::Imagen& imagen, QWidget* padre) : Vista(imagen, new QLabel(padre)), m_imagen(imagen)
+    {
+        Etiqueta().setTextFormat(Qt::PlainText);
+        Etiqueta().setAlignment(Qt::AlignCenter);
+    }
+
+    bool EsAncha() const override { return true; }
+    bool RotulaPorSiMisma() const override { return true; }
+
+private:
+    static constexpr int kLineas = 4;  // of text, as high as the picture
+    QLabel& Etiqueta() const { return static_cast<QLabel&>(*widget); }
+
+    void RefrescarContenido() override
+    {
+        if (m_csImagen == m_imagen.csImagen && m_paleta == widget->palette().cacheKey())
+            return;
+        m_csImagen = m_imagen.csImagen;
+        m_paleta = widget->palette().cacheKey();
+        const QIcon dibujo = IconoDe(m_csImagen, widget->palette());
+        const int iLado = kLineas * widget->fontMetrics().height();
+        if (dibujo.isNull())
+            Etiqueta().setText(SinMnemonico(m_imagen.csRotulo));
+        else
+            Etiqueta().setPixmap(dibujo.pixmap(QSize(iLado, iLado), widget->devicePixelRatioF()));
+    }
+
+    const ui::Imagen& m_imagen;
+    CString m_csImagen;
+    qint64 m_paleta = 0;
+};
+
+}  // namespace
+
+std::unique_ptr<Vista> CrearVistaDe(ui::Grafica& control, QWidget* padre, Accionador& /*accionador*/)
+{
+    return std::make_unique<VistaGrafica>(control, padre);
+}
+
+std::unique_ptr<Vista> CrearVistaDe(ui::Imagen& control, QWidget* padre, Accionador& /*accionador*/)
+{
+    return std::make_unique<VistaImagen>(control, padre);
+}
+
+}  // namespace efv::qt

@@ -1,0 +1,67 @@
+// The pages of a dialog.
+#include <QSignalBlocker>
+#include <QTabWidget>
+
+#include "qt/texto.h"
+#include "qt/vistas.h"
+
+namespace efv::qt {
+
+namespace {
+
+class PaginasConPestanas final : public VistaPaginas {
+public:
+    PaginasConPestanas(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
+        : VistaPaginas(seleccion, new QTabWidget(padre)), m_seleccion(seleccion)
+    {
+        for (const CString& entrada : seleccion.acsEntradas)
+            Pestanas().addTab(new QWidget, ConMnemonico(entrada));
+        QObject::connect(&Pestanas(), &QTabWidget::currentChanged, &Pestanas(), [&](int iPagina) {
+            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iPagina); });
+        });
+    }
+
+    bool EsAncha() const override { return true; }
+    bool QuiereSitio() const override { return true; }
+    bool RotulaPorSiMisma() const override { return true; }
+
+    QWidget* Pagina(int iPagina) override
+    {
+        while (Pestanas().count() <= iPagina)
+            Pestanas().addTab(new QWidget, QString());
+        return Pestanas().widget(iPagina);
+    }
+
+    void Mostrar(int iPagina) override
+    {
+        const QSignalBlocker silencio(Pestanas());
+        Pestanas().setCurrentIndex(iPagina);
+    }
+
+private:
+    QTabWidget& Pestanas() const { return static_cast<QTabWidget&>(*widget); }
+
+    void RefrescarContenido() override
+    {
+        const QSignalBlocker silencio(Pestanas());
+        for (int i = 0; i < Pestanas().count(); ++i) {
+            const bool bExiste = static_cast<std::size_t>(i) < m_seleccion.acsEntradas.size();
+            Pestanas().setTabVisible(i, bExiste);
+            if (bExiste)
+                Pestanas().setTabText(i, ConMnemonico(m_seleccion.acsEntradas[static_cast<std::size_t>(i)]));
+        }
+        if (m_seleccion.iSeleccion >= 0)
+            Pestanas().setCurrentIndex(m_seleccion.iSeleccion);
+    }
+
+    const ui::Seleccion& m_seleccion;
+};
+
+}  // namespace
+
+std::unique_ptr<VistaPaginas> CrearPaginas(ui::Seleccion& control, QWidget* padre, Accionador& accionador)
+{
+    return std::make_unique<PaginasConPestanas>(control, padre, accionador);
+}
+
+}  // namespace efv::qt

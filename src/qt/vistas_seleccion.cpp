@@ -1,0 +1,247 @@
+// One entry out of several: combos, radio groups, buttons with a menu, rows of tabs.
+#include <algorithm>
+
+#include <QAbstractItemView>
+#include <QButtonGroup>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QMenu>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QTabBar>
+#include <QVBoxLayout>
+
+#include "qt/rueda.h"
+#include "qt/texto.h"
+#include "qt/vistas_familias.h"
+
+namespace efv::qt {
+
+namespace {
+
+class VistaCombo final : public Vista {
+public:
+    VistaCombo(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
+        : Vista(seleccion, new QComboBox(padre)), m_seleccion(seleccion)
+    {
+        Combo().setFocusPolicy(Qt::StrongFocus);
+        Combo().setMaxVisibleItems(20);
+        // A long entry widens the open list, not the form.
+        Combo().setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        new SinRueda(widget);
+        QObject::connect(&Combo(), &QComboBox::activated, &Combo(), [&](int iEntrada) {
+            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
+        });
+    }
+
+private:
+    QComboBox& Combo() const { return static_cast<QComboBox&>(*widget); }
+    bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
+
+    void RefrescarContenido() override
+    {
+        if (m_acsEntradas != m_seleccion.acsEntradas) {
+            m_acsEntradas = m_seleccion.acsEntradas;
+            Combo().clear();
+            QStringList entradas;
+            std::size_t nLetras = 4;
+            for (const CString& entrada : m_acsEntradas) {
+                entradas << AQt(entrada);
+                nLetras = std::max(nLetras, entrada.size());
+            }
+            Combo().addItems(entradas);
+            Combo().setMinimumContentsLength(static_cast<int>(std::min<std::size_t>(nLetras, 28)));
+            Combo().view()->setMinimumWidth(std::min(Combo().view()->sizeHintForColumn(0) + 24, 600));
+        }
+        Combo().setCurrentIndex(m_seleccion.iSeleccion);
+    }
+
+    const ui::Seleccion& m_seleccion;
+    std::vector<CString> m_acsEntradas;
+};
+
+class VistaRadio final : public Vista {
+public:
+    VistaRadio(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
+        : Vista(seleccion, Caja(seleccion, padre)),
+          m_seleccion(seleccion),
+          m_accionador(accionador),
+          m_grupo(new QButtonGroup(widget))
+    {
+        auto* columna = new QVBoxLayout(widget);
+        if (seleccion.csRotulo.empty())
+            columna->setContentsMargins(0, 0, 0, 0);
+        columna->addStretch();
+        PonerEntradas();
+    }
+
+    bool EsAncha() const override { return true; }
+    bool RotulaPorSiMisma() const override { return true; }
+    bool AdmiteFoco() const override
+    {
+        return control.bVisible && Utilizable() && !m_grupo->buttons().isEmpty();
+    }
+
+    void Encadenar(const std::function<void(QWidget*)>& siguiente) override
+    {
+        for (QAbstractButton* boton : m_grupo->buttons())
+            siguiente(boton);
+    }
+
+    void Enfocar() override
+    {
+        QAbstractButton* boton = m_grupo->checkedButton();
+        if (boton == nullptr && !m_grupo->buttons().isEmpty())
+            boton = m_grupo->buttons().constFirst();
+        if (boton != nullptr)
+            boton->setFocus(Qt::OtherFocusReason);
+    }
+
+private:
+    static QWidget* Caja(const ui::Seleccion& seleccion, QWidget* padre)
+    {
+        if (seleccion.csRotulo.empty())
+            return new QWidget(padre);
+        return new QGroupBox(SinMnemonico(seleccion.csRotulo), padre);
+    }
+    bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
+
+    void PonerEntradas()
+    {
+        const auto nEntradas = static_cast<qsizetype>(m_seleccion.acsEntradas.size());
+        while (m_grupo->buttons().size() > nEntradas)
+            delete m_grupo->buttons().constLast();
+        while (m_grupo->buttons().size() < nEntradas)
+            AnadirEntrada(static_cast<int>(m_grupo->buttons().size()));
+    }
+
+    void RefrescarContenido() override
+    {
+        PonerEntradas();
+        // Without this, none chosen couldn't be shown.
+        m_grupo->setExclusive(m_seleccion.iSeleccion >= 0);
+        for (int i = 0; i < static_cast<int>(m_seleccion.acsEntradas.size()); ++i) {
+            m_grupo->button(i)->setText(ConMnemonico(m_seleccion.acsEntradas[static_cast<std::size_t>(i)]));
+            m_grupo->button(i)->setChecked(i == m_seleccion.iSeleccion);
+        }
+    }
+
+    void AnadirEntrada(int i)
+    {
+        auto* boton = new QRadioButton(widget);
+        m_grupo->addButton(boton, i);
+        static_cast<QVBoxLayout*>(widget->layout())->insertWidget(i, boton);
+        QObject::connect(boton, &QRadioButton::clicked, boton, [this, i] {
+            auto& seleccion = static_cast<ui::Seleccion&>(control);
+            m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, i); });
+        });
+    }
+
+    const ui::Seleccion& m_seleccion;
+    Accionador& m_accionador;
+    QButtonGroup* m_grupo;
+};
+
+class VistaMenu final : public Vista {
+public:
+    VistaMenu(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
+        : Vista(seleccion, new QPushButton(padre)),
+          m_seleccion(seleccion),
+          m_accionador(accionador),
+          m_menu(new QMenu(widget))
+    {
+        Pulsador().setMenu(m_menu);
+    }
+
+    bool EsAncha() const override { return true; }
+    bool RotulaPorSiMisma() const override { return true; }
+
+private:
+    QPushButton& Pulsador() const { return static_cast<QPushButton&>(*widget); }
+    bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
+
+    void RefrescarContenido() override
+    {
+        Pulsador().setText(
+            ConMnemonico(m_seleccion.csRotulo.empty() ? m_seleccion.Texto() : m_seleccion.csRotulo));
+        if (m_acsEntradas == m_seleccion.acsEntradas)
+            return;
+        m_acsEntradas = m_seleccion.acsEntradas;
+        m_menu->clear();
+        int iEntrada = -1;
+        for (const CString& entrada : m_acsEntradas) {
+            ++iEntrada;
+            if (entrada.empty() || entrada == L"-") {
+                m_menu->addSeparator();
+                continue;
+            }
+            // From the loop, once the menu has closed: what follows may open another dialog.
+            QObject::connect(
+                m_menu->addAction(ConMnemonico(entrada)), &QAction::triggered, widget,
+                [this, iEntrada] {
+                    auto& seleccion = static_cast<ui::Seleccion&>(control);
+                    m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
+                },
+                Qt::QueuedConnection);
+        }
+    }
+
+    const ui::Seleccion& m_seleccion;
+    Accionador& m_accionador;
+    QMenu* m_menu;
+    std::vector<CString> m_acsEntradas;
+};
+
+// A row of tabs whose page the dialog changes itself.
+class VistaPestanas final : public Vista {
+public:
+    VistaPestanas(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
+        : Vista(seleccion, new QTabBar(padre)), m_seleccion(seleccion)
+    {
+        Barra().setExpanding(false);
+        QObject::connect(&Barra(), &QTabBar::currentChanged, &Barra(), [&](int iEntrada) {
+            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
+        });
+    }
+
+    bool EsAncha() const override { return true; }
+    bool RotulaPorSiMisma() const override { return true; }
+
+private:
+    QTabBar& Barra() const { return static_cast<QTabBar&>(*widget); }
+
+    void RefrescarContenido() override
+    {
+        const QSignalBlocker silencio(Barra());
+        const auto nEntradas = static_cast<int>(m_seleccion.acsEntradas.size());
+        while (Barra().count() > nEntradas)
+            Barra().removeTab(Barra().count() - 1);
+        while (Barra().count() < nEntradas)
+            Barra().addTab(QString());
+        for (int i = 0; i < nEntradas; ++i)
+            Barra().setTabText(i, ConMnemonico(m_seleccion.acsEntradas[static_cast<std::size_t>(i)]));
+        Barra().setCurrentIndex(m_seleccion.iSeleccion);
+    }
+
+    const ui::Seleccion& m_seleccion;
+};
+
+}  // namespace
+
+std::unique_ptr<Vista> CrearVistaDe(ui::Seleccion& control, QWidget* padre, Accionador& accionador)
+{
+    switch (control.forma) {
+        case ui::Seleccion::Forma::combo:
+            break;
+        case ui::Seleccion::Forma::radio:
+            return std::make_unique<VistaRadio>(control, padre, accionador);
+        case ui::Seleccion::Forma::menu:
+            return std::make_unique<VistaMenu>(control, padre, accionador);
+        case ui::Seleccion::Forma::pestanas:
+            return std::make_unique<VistaPestanas>(control, padre, accionador);
+    }
+    return std::make_unique<VistaCombo>(control, padre, accionador);
+}
+
+}  // namespace efv::qt

@@ -1,0 +1,195 @@
+// Texts: fixed ones, and fields of one line or of several.
+#include <algorithm>
+
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QSignalBlocker>
+
+#include "qt/texto.h"
+#include "qt/vistas_familias.h"
+
+namespace efv::qt {
+
+namespace {
+
+class VistaTextoFijo final : public Vista {
+public:
+    VistaTextoFijo(ui::TextoFijo& texto, QWidget* padre) : Vista(texto, new QLabel(padre)), m_texto(texto)
+    {
+        Etiqueta().setTextFormat(Qt::PlainText);
+        Etiqueta().setTextInteractionFlags(Qt::TextSelectableByMouse);
+        Etiqueta().setFocusPolicy(Qt::NoFocus);
+    }
+
+    // A text that stands alone is a note, whichever of its two texts holds it.
+    bool EsAncha() const override { return m_texto.csRotulo.empty() || EsNota(); }
+    bool RotulaPorSiMisma() const override { return EsNota(); }
+
+private:
+    bool EsNota() const { return m_texto.csTexto.empty() && m_texto.csRotulo.size() > kRotuloLargo; }
+    QLabel& Etiqueta() const { return static_cast<QLabel&>(*widget); }
+
+    void RefrescarContenido() override
+    {
+        QString texto = AQt(m_texto.csTexto);
+        if (rotulo == nullptr && texto.isEmpty())
+            texto = SinMnemonico(m_texto.csRotulo);
+        if (Etiqueta().text() != texto || !m_bEscrito) {
+            Etiqueta().setWordWrap(texto.size() > static_cast<qsizetype>(kRotuloLargo));
+            Etiqueta().setText(texto);
+            m_bEscrito = true;
+        }
+    }
+
+    static constexpr std::size_t kRotuloLargo = 40;
+    const ui::TextoFijo& m_texto;
+    bool m_bEscrito = false;
+};
+
+// Tells when the person, and not another window, takes the focus away.
+class GuardaDeFoco final : public QObject {
+public:
+    GuardaDeFoco(QWidget* widget, std::function<void()> alSalir)
+        : QObject(widget), m_alSalir(std::move(alSalir))
+    {
+        widget->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*objeto*/, QEvent* evento) override
+    {
+        if (evento->type() == QEvent::FocusOut) {
+            const auto motivo = static_cast<QFocusEvent*>(evento)->reason();
+            if (motivo != Qt::ActiveWindowFocusReason && motivo != Qt::PopupFocusReason)
+                m_alSalir();
+        }
+        return false;
+    }
+
+private:
+    std::function<void()> m_alSalir;
+};
+
+bool EsNumerica(const ui::Edicion& edicion)
+{
+    return edicion.limites.Alguno() || std::holds_alternative<int*>(edicion.destino) ||
+           std::holds_alternative<double*>(edicion.destino);
+}
+
+class VistaLinea final : public Vista {
+public:
+    VistaLinea(ui::Edicion& edicion, QWidget* padre, Accionador& accionador)
+        : Vista(edicion, new QLineEdit(padre)), m_edicion(edicion)
+    {
+        Campo().setMaxLength(1 << 24);
+        if (EsNumerica(edicion))
+            Campo().setAlignment(Qt::AlignRight);
+        Campo().setMinimumWidth(Campo().fontMetrics().averageCharWidth() * (EsNumerica(edicion) ? 11 : 18));
+        QObject::connect(&Campo(), &QLineEdit::textEdited, &Campo(), [&](const QString& texto) {
+            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Teclear(edicion, DeQt(texto)); });
+        });
+        new GuardaDeFoco(widget, [&] { accionador.HaSalido(edicion); });
+    }
+
+    void Enfocar() override
+    {
+        Vista::Enfocar();
+        Campo().selectAll();
+    }
+
+private:
+    QLineEdit& Campo() const { return static_cast<QLineEdit&>(*widget); }
+
+    void RefrescarContenido() override
+    {
+        Campo().setReadOnly(m_edicion.bSoloLectura);
+        // What a line can't show, such as the end of a line, would never compare equal.
+        if (m_edicion.csTexto == m_csMostrado && Campo().text() == m_mostrado)
+            return;
+        const QString texto = AQt(m_edicion.csTexto);
+        if (Campo().text() != texto) {
+            const int iCursor = Campo().cursorPosition();
+            Campo().setText(texto);
+            Campo().setCursorPosition(Campo().hasFocus() ? iCursor : 0);
+        }
+        m_csMostrado = m_edicion.csTexto;
+        m_mostrado = Campo().text();
+    }
+
+    const ui::Edicion& m_edicion;
+    CString m_csMostrado;
+    QString m_mostrado;
+};
+
+class VistaParrafos final : public Vista {
+public:
+    VistaParrafos(ui::Edicion& edicion, QWidget* padre, Accionador& accionador)
+        : Vista(edicion, new QPlainTextEdit(padre)), m_edicion(edicion)
+    {
+        Campo().setTabChangesFocus(true);
+        QObject::connect(&Campo(), &QPlainTextEdit::textChanged, &Campo(), [this, &accionador, &edicion] {
+            CString csTexto = DeQt(Campo().toPlainText());
+            if (m_bRetornos)
+                csTexto = ConRetornos(csTexto);
+            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Teclear(edicion, csTexto); });
+        });
+        new GuardaDeFoco(widget, [&] { accionador.HaSalido(edicion); });
+    }
+
+    bool EsAncha() const override { return true; }
+    bool QuiereSitio() const override { return true; }
+    void Enfocar() override
+    {
+        Vista::Enfocar();
+        Campo().selectAll();
+    }
+
+private:
+    QPlainTextEdit& Campo() const { return static_cast<QPlainTextEdit&>(*widget); }
+
+    static CString ConRetornos(const CString& csTexto)
+    {
+        CString csConRetornos;
+        for (const wchar_t c : csTexto)
+            csConRetornos += c == L'\n' ? CString(L"\r\n") : CString(1, c);
+        return csConRetornos;
+    }
+
+    void RefrescarContenido() override
+    {
+        Campo().setReadOnly(m_edicion.bSoloLectura);
+        CString csTexto = m_edicion.csTexto;
+        // A text keeps the ends of line that it came with.
+        if (csTexto.find(L'\n') != CString::npos)
+            m_bRetornos = csTexto.find(L"\r\n") != CString::npos;
+        std::erase(csTexto, L'\r');
+        if (DeQt(Campo().toPlainText()) == csTexto)
+            return;
+        const QSignalBlocker silencio(Campo());
+        QTextCursor cursor = Campo().textCursor();
+        const int iCursor = cursor.position();
+        Campo().setPlainText(AQt(csTexto));
+        cursor.setPosition(std::min(iCursor, static_cast<int>(Campo().toPlainText().size())));
+        Campo().setTextCursor(cursor);
+    }
+
+    const ui::Edicion& m_edicion;
+    bool m_bRetornos = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Vista> CrearVistaDe(ui::TextoFijo& control, QWidget* padre, Accionador& /*accionador*/)
+{
+    return std::make_unique<VistaTextoFijo>(control, padre);
+}
+
+std::unique_ptr<Vista> CrearVistaDe(ui::Edicion& control, QWidget* padre, Accionador& accionador)
+{
+    if (control.bVariasLineas)
+        return std::make_unique<VistaParrafos>(control, padre, accionador);
+    return std::make_unique<VistaLinea>(control, padre, accionador);
+}
+
+}  // namespace efv::qt
