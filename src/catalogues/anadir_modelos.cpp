@@ -9,7 +9,7 @@
 
 #include <quorvel/framework/CException.h>
 
-#include "platform/archivo/archivo.h"
+#include "platform/fichero/fichero.h"
 
 namespace efv::catalogues {
 
@@ -34,7 +34,7 @@ constexpr std::string_view kVacio =
 xml::DocumentoEditable AbrirOCrear(const CString& csFichero, Adicion modo)
 {
     std::error_code fallo;
-    const bool bCrear = modo == Adicion::tolerante && !std::filesystem::exists(archivo::Ruta(csFichero), fallo);
+    const bool bCrear = modo == Adicion::tolerante && !std::filesystem::exists(fichero::Ruta(csFichero), fallo);
     auto documento = bCrear ? xml::DocumentoEditable::Leer(kVacio) : xml::DocumentoEditable::Abrir(csFichero);
     if (!documento)
         Fallar(csFichero, "no existe, no se puede leer o no es XML bien formado");
@@ -108,7 +108,7 @@ std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<co
         }
     }
     if (bCambiado)
-        archivo::ReemplazarFichero(csFichero, documento.Texto());
+        fichero::ReemplazarFichero(csFichero, documento.Texto());
     return sobrantes;
 }
 

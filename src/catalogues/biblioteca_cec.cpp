@@ -10,7 +10,7 @@
 #include <quorvel/framework/CException.h>
 
 #include "catalogues/cec_fila.h"
-#include "platform/archivo/archivo.h"
+#include "platform/fichero/fichero.h"
 #include "platform/texto/csv.h"
 #include "platform/texto/texto.h"
 
@@ -139,7 +139,7 @@ BibliotecaCec LeerCec(const CString& csFichero, const OpcionesCec& opciones)
     const auto fallar = [&](const char* motivo) {
         throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": " + motivo);
     };
-    std::optional<std::string> bytes = archivo::LeerFichero(csFichero, catalogues::kMaximo);
+    std::optional<std::string> bytes = fichero::LeerFichero(csFichero, catalogues::kMaximo);
     if (!bytes)
         fallar("no se puede leer");
     if (!texto::EsUtf8(*bytes))

@@ -46,7 +46,7 @@ int EnteroImportado(const CString& csValor)
 
 CString TextoImportado(const CString& csFichero)
 {
-    std::optional<CString> csTexto = archivo::LeerTexto(csFichero);
+    std::optional<CString> csTexto = fichero::LeerTexto(csFichero);
     if (!csTexto)
         throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no se puede leer");
     return std::move(*csTexto);

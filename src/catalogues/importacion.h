@@ -11,11 +11,11 @@
 #include <quorvel/framework/CString.h>
 #include <quorvel/ui/presentador.h>
 
-#include "platform/archivo/fichero_texto.h"
+#include "platform/fichero/fichero_texto.h"
 
 namespace efv::catalogues {
 
-using archivo::LeerTexto;
+using fichero::LeerTexto;
 
 /// The text of a file that the person chooses, of kind `propio` or any; one that can't be read is told to
 /// the person.

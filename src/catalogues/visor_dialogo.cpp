@@ -6,7 +6,7 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/ui/presentador.h>
 
-#include "platform/archivo/archivo.h"
+#include "platform/fichero/fichero.h"
 #include "platform/xml/xml.h"
 
 namespace ui = efv::ui;
@@ -253,13 +253,13 @@ void CDlgVisorXML::Deshacer()
 bool CDlgVisorXML::Guardar()
 {
     const CString& csRuta = m_peticion.csRuta;
-    const auto actual = efv::archivo::LeerFichero(csRuta, xml::kMaximoFichero);
+    const auto actual = efv::fichero::LeerFichero(csRuta, xml::kMaximoFichero);
     if ((!actual || *actual != m_huella) &&
         !ui::Preguntar(L"Otro programa ha cambiado el archivo <" + csRuta +
                        L"> desde que se abrió. ¿Desea sustituirlo por lo que muestra esta ventana?"))
         return false;
     const ui::Espera espera;
-    efv::archivo::ReemplazarFichero(csRuta, m_edicion.Documento().Texto());
+    efv::fichero::ReemplazarFichero(csRuta, m_edicion.Documento().Texto());
     return true;
 }
 
@@ -284,7 +284,7 @@ namespace efv::catalogues {
 
 int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion)
 {
-    auto huella = archivo::LeerFichero(peticion.csRuta, xml::kMaximoFichero);
+    auto huella = fichero::LeerFichero(peticion.csRuta, xml::kMaximoFichero);
     auto documento = xml::DocumentoEditable::Abrir(peticion.csRuta);
     if (!huella || !documento)
         return 0;

@@ -12,7 +12,7 @@
 #include "consumption/importar_consumo_dialogo.h"
 #include "consumption/nombres.h"
 #include "consumption/patron_dialogo.h"
-#include "platform/archivo/archivo.h"
+#include "platform/fichero/fichero.h"
 #include "ui/fichero_texto.h"
 
 namespace {
@@ -39,7 +39,7 @@ constexpr auto kFilaSeparador = std::to_array<ui::Fila<P>>({
 void Guardar(const CString& csRuta, const CString& csTexto)
 {
     try {
-        efv::archivo::ReemplazarFichero(csRuta, efv::CadenaUtf8(csTexto));
+        efv::fichero::ReemplazarFichero(csRuta, efv::CadenaUtf8(csTexto));
     } catch (const CFileException& error) {
         const std::wstring_view verbo = error.m_cause == CFileException::discoLleno ? L"guardado" : L"creado";
         ui::MostrarAviso(fmt::format(L"El archivo {} no puede ser {} (Error {}).", csRuta, verbo,

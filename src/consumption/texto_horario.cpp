@@ -3,7 +3,7 @@
 
 #include <quorvel/consumption.h>
 
-#include "platform/archivo/fichero_texto.h"
+#include "platform/fichero/fichero_texto.h"
 #include "platform/numero/conversion.h"
 
 namespace efv {
@@ -49,7 +49,7 @@ CString TextoDeHoras(AnoHorarioVista ano, double dEscala, TramoHoras tramo, wcha
 
 std::optional<CString> LeerFicheroDeValores(const CString& csRuta)
 {
-    return archivo::LeerTexto(csRuta);
+    return fichero::LeerTexto(csRuta);
 }
 
 CString NormalizarValores(std::wstring_view texto, wchar_t separador)

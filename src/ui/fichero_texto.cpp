@@ -3,7 +3,7 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/ui/presentador.h>
 
-#include "platform/archivo/fichero_texto.h"
+#include "platform/fichero/fichero_texto.h"
 
 namespace efv::ui {
 
@@ -13,7 +13,7 @@ std::optional<CString> LeerTextoImportado(const CString& csRuta)
         MostrarAviso(L"El archivo " + csRuta + L" no puede ser cargado" + csFinal, Icono::advertencia);
     };
     try {
-        std::optional<CString> csTexto = archivo::LeerTexto(csRuta);
+        std::optional<CString> csTexto = fichero::LeerTexto(csRuta);
         if (!csTexto)
             avisar(L".");
         return csTexto;

@@ -7,7 +7,7 @@
 
 namespace efv::ui {
 
-/// The file as text (archivo::LeerTexto); one that can't be read is told to the person.
+/// The file as text (fichero::LeerTexto); one that can't be read is told to the person.
 std::optional<CString> LeerTextoImportado(const CString& csRuta);
 
 }  // namespace efv::ui

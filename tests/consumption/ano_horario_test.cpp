@@ -11,7 +11,7 @@
 #include <quorvel/solar.h>
 
 #include "comun/ficheros.h"
-#include "platform/archivo/fichero_texto.h"
+#include "platform/fichero/fichero_texto.h"
 #include "platform/numero/conversion.h"
 
 namespace {
@@ -259,7 +259,7 @@ TEST(TextoHorario, ElMismoAnoEnCualquierFichero)
                 std::string bytes = marca;
                 for (int i = 0; i < 35040; ++i)
                     bytes += std::to_string(i % 97) + coma + "25" + fin;
-                const auto texto = archivo::LeerTexto(carpeta.Escribir("ano.csv", bytes));
+                const auto texto = fichero::LeerTexto(carpeta.Escribir("ano.csv", bytes));
                 ASSERT_TRUE(texto);
                 const FormatoValores formato{12, true, true};
                 const auto valores =
@@ -277,9 +277,9 @@ TEST(TextoHorario, ElMismoAnoEnCualquierFichero)
         "1\0,\0"
         "5\0\n\0",
         10);
-    EXPECT_EQ(archivo::LeerTexto(carpeta.Escribir("u.csv", utf16)), L"1,5\r\n");
-    EXPECT_EQ(archivo::LeerTexto(carpeta.Escribir("b.csv", std::string("1;\0002;", 5))), std::nullopt);
-    EXPECT_EQ(archivo::LeerTexto(carpeta.Escribir("vacio.csv", "")), L"");
+    EXPECT_EQ(fichero::LeerTexto(carpeta.Escribir("u.csv", utf16)), L"1,5\r\n");
+    EXPECT_EQ(fichero::LeerTexto(carpeta.Escribir("b.csv", std::string("1;\0002;", 5))), std::nullopt);
+    EXPECT_EQ(fichero::LeerTexto(carpeta.Escribir("vacio.csv", "")), L"");
 }
 
 // ---------------------------------------------------------------------------------------------------

@@ -4,7 +4,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "platform/archivo/archivo.h"
+#include "platform/fichero/fichero.h"
 #include "platform/texto/texto.h"
 #include "platform/xml/xml.h"
 
@@ -84,7 +84,7 @@ std::optional<std::string> AUtf8(std::string bytes)
 
 std::optional<std::string> LeerComoUtf8(const CString& csRuta)
 {
-    std::optional<std::string> leido = archivo::LeerFichero(csRuta, kMaximoFichero);
+    std::optional<std::string> leido = fichero::LeerFichero(csRuta, kMaximoFichero);
     if (!leido)
         return std::nullopt;
     std::optional<std::string> utf8 = AUtf8(std::move(*leido));

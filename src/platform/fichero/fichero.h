@@ -9,7 +9,7 @@
 
 #include <quorvel/framework/CString.h>
 
-namespace efv::archivo {
+namespace efv::fichero {
 
 std::filesystem::path Ruta(const CString& csRuta);
 
@@ -23,4 +23,4 @@ std::optional<std::string> LeerFichero(const CString& csRuta, std::size_t maximo
 /// @throws CFileException with a Spanish text when it can't be done; the old file is then untouched.
 void ReemplazarFichero(const CString& csRuta, std::string_view bytes);
 
-}  // namespace efv::archivo
+}  // namespace efv::fichero

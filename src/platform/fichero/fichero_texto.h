@@ -5,7 +5,7 @@
 
 #include <quorvel/framework/CString.h>
 
-namespace efv::archivo {
+namespace efv::fichero {
 
 /// The whole file as text, each line ended by CR LF whatever ended it there. UTF-16 when its byte-order
 /// mark says so, else UTF-8 when it is well-formed UTF-8, else Windows-1252.
@@ -14,4 +14,4 @@ namespace efv::archivo {
 /// @throws CFileException with the sharing cause while another process holds it
 std::optional<CString> LeerTexto(const CString& csRuta);
 
-}  // namespace efv::archivo
+}  // namespace efv::fichero

@@ -1,13 +1,13 @@
-#include "platform/archivo/fichero_texto.h"
+#include "platform/fichero/fichero_texto.h"
 
 #include <cstddef>
 #include <string>
 #include <string_view>
 
-#include "platform/archivo/archivo.h"
+#include "platform/fichero/fichero.h"
 #include "platform/texto/texto.h"
 
-namespace efv::archivo {
+namespace efv::fichero {
 
 namespace {
 
@@ -68,4 +68,4 @@ std::optional<CString> LeerTexto(const CString& csRuta)
     return ConFinesDeLinea(csTexto);
 }
 
-}  // namespace efv::archivo
+}  // namespace efv::fichero

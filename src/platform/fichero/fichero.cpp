@@ -1,4 +1,4 @@
-#include "platform/archivo/archivo.h"
+#include "platform/fichero/fichero.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -11,7 +11,7 @@
 
 #include <quorvel/framework/CException.h>
 
-namespace efv::archivo {
+namespace efv::fichero {
 
 namespace {
 
@@ -169,4 +169,4 @@ void ReemplazarFichero(const CString& csRuta, std::string_view bytes)
     VaciarCarpeta(destino.parent_path());
 }
 
-}  // namespace efv::archivo
+}  // namespace efv::fichero
