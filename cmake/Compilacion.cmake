@@ -33,6 +33,13 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         -Wno-maybe-uninitialized)
 endif()
 
+if(EFV_CCACHE)
+    find_program(EFV_PROGRAMA_CCACHE NAMES ccache)
+    if(EFV_PROGRAMA_CCACHE)
+        set(CMAKE_CXX_COMPILER_LAUNCHER ${EFV_PROGRAMA_CCACHE})
+    endif()
+endif()
+
 if(EFV_SANEADORES)
     target_compile_options(efv_compilacion INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
