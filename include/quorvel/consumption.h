@@ -51,7 +51,7 @@ public:
 
     /// Opens the load's dialog with month `iMes` (0 to 11) and day type 0 on view. On acceptance model, units,
     /// power, exclusion and bands are taken back; the other electrical data aren't.
-    /// @param iAux handed on to the choice of months, which makes no use of it
+    /// @param iAux without effect
     /// @return 1 when the person accepted, 2 when not
     virtual unsigned EditarPropiedades(int iMes, int iAux);
     /// Appends the load's row, with the load as its object: units, model, "CC" or "CA", power of a unit (W),
@@ -113,7 +113,7 @@ public:
 /// @param aiPeriodoHora  tariff period of each hour of the day, 0 to 2
 /// @param bExcluir       not 0: left out of the calculation
 /// @param iRotulacion    choice of labelling, kept and handed back
-/// @param iAux           second argument of the loads' EditarPropiedades
+/// @param iAux           without effect
 /// @param dHusoHorario   offset of the official time, degrees
 /// @return 1 when accepted, else 2
 EFV_API int phShowPropertyConsumo(CString& csReferencia, CObArrayPropio<CSFVDataReceptor>& lReceptores,
@@ -196,8 +196,8 @@ struct PatronConsumo {
     SemanaFactores adFactor;
 };
 
-/// The module's table of nine patterns. What is changed in it stays until the module is unloaded.
-EFV_API std::span<PatronConsumo> PatronesConsumo();
+/// The nine patterns. What a person changes in them in a dialog stays there until the module is unloaded.
+EFV_API std::span<const PatronConsumo> PatronesConsumo();
 
 /// The week 52 times, then its first day once more.
 EFV_API void AnoDeSemana(const SemanaFactores& semana, std::span<double, kHorasDelAno> ano);

@@ -7,6 +7,7 @@
 
 #include "assistants/perdidas_dialogo.h"
 #include "assistants/regulacion_dialogo.h"
+#include "consumption/receptor_dialogo.h"
 #include "platform/numero/conversion.h"
 #include "solar/calendario.h"
 #include "solar/coordenadas_dialogo.h"
@@ -112,16 +113,9 @@ constexpr auto kTotales = std::to_array<ui::Fila<V>>({
      .magnitud = L"Superficie"},
 });
 
-// Page that was open at the last OK; the next assistant begins there.
-int& UltimaPagina()
+std::array<double, 12> FactoresK(const CBaseFactorK& base, const V& v, double dInclinacion)
 {
-    static int iPagina = 0;
-    return iPagina;
-}
-
-std::array<double, 12> FactoresK(const V& v, double dInclinacion)
-{
-    return efv::solar::FactoresK(phGetBaseFactorK(), v.dLatitud, v.iHemisferio, dInclinacion)
+    return efv::solar::FactoresK(base, v.dLatitud, v.iHemisferio, dInclinacion)
         .value_or(std::array<double, 12>{});
 }
 
@@ -136,10 +130,12 @@ void AnadirFilaRadiacion(CListCtrl& lista, double dInclinacion, const std::array
 }  // namespace
 
 CDlgAsistenteSFVAislada::CDlgAsistenteSFVAislada(const V& inicial, const as::TextoLugar& lugar,
-                                                 CSFVAsistenteAislada& registro)
-    : DialogoAsistente("CDlgAsistenteSFVAislada", L"Asistente de SFV aislada", inicial),
+                                                 CSFVAsistenteAislada& registro,
+                                                 const efv::catalogues::Bases& bases, int& iUltimaPagina)
+    : DialogoAsistente("CDlgAsistenteSFVAislada", L"Asistente de SFV aislada", inicial, bases),
       m_registro(registro),
-      m_cargas(as::LeerCargas(registro, phGetBaseReceptores()))
+      m_iUltimaPagina(iUltimaPagina),
+      m_cargas(as::LeerCargas(registro, bases.receptores))
 {
     AnadirTexto("csLocalidad", L"Localidad:", lugar.csLocalidad);
     AnadirTexto("csLocalidad2", L"", lugar.csLocalidad2);
@@ -147,7 +143,7 @@ CDlgAsistenteSFVAislada::CDlgAsistenteSFVAislada(const V& inicial, const as::Tex
     AnadirCargas();
     m_paginas = &AnadirPaginas(
         {L"Acumuladores", L"Paneles fotovoltaicos", L"Regulación", L"Perdidas", L"Solución del sistema"});
-    m_paginas->iSeleccion = UltimaPagina() > 4 ? 0 : UltimaPagina();
+    m_paginas->iSeleccion = m_iUltimaPagina > 4 ? 0 : m_iUltimaPagina;
     AnadirPaginaAcumuladores();
     AnadirPaginaPaneles();
     AnadirPaginaRegulacion();
@@ -294,7 +290,7 @@ void CDlgAsistenteSFVAislada::NuevaCarga()
 {
     auto carga = std::make_unique<CSFVDataReceptor>();
     carga->iReservadoB = 1;
-    if (carga->EditarPropiedades(0, datos.iHemisferio) != ok)
+    if (efv::consumption::EditarReceptor(*carga, 0, m_bases) != ok)
         return;
     carga->InsertarEnLista(m_filasCargas, 0, 0);
     ++m_lista->uVersion;
@@ -308,7 +304,7 @@ void CDlgAsistenteSFVAislada::EditarCarga()
     CSFVDataReceptor* carga = CargaElegida();
     if (carga == nullptr)
         return;
-    if (carga->EditarPropiedades(0, datos.iHemisferio) == ok) {
+    if (efv::consumption::EditarReceptor(*carga, 0, m_bases) == ok) {
         carga->ActualizarEnLista(m_filasCargas, 0, 0);
         ++m_lista->uVersion;
     }
@@ -332,18 +328,14 @@ void CDlgAsistenteSFVAislada::EliminarCarga()
 
 void CDlgAsistenteSFVAislada::ElegirAcumulador()
 {
-    if (const auto csId = as::ElegirModelo(phGetBaseAcumuladores(), datos.csAcumulador)) {
-        datos.csAcumulador = *csId;
+    if (m_bases.elegirAcumulador(datos.csAcumulador) == 1)
         Recalcular(false);
-    }
 }
 
 void CDlgAsistenteSFVAislada::ElegirPanel()
 {
-    if (const auto csId = as::ElegirModelo(phGetBasePanelFoto(), datos.csPanel)) {
-        datos.csPanel = *csId;
+    if (m_bases.elegirPanelFoto(datos.csPanel) == 1)
         Recalcular(false);
-    }
 }
 
 void CDlgAsistenteSFVAislada::AlElegirTension()
@@ -376,7 +368,7 @@ void CDlgAsistenteSFVAislada::AlMarcarSalida()
 
 void CDlgAsistenteSFVAislada::AlEspaciar()
 {
-    const CBasePanelFotoModelo* panel = phGetBasePanelFoto().BuscarModelo(datos.csPanel);
+    const CBasePanelFotoModelo* panel = m_bases.panelesFoto.BuscarModelo(datos.csPanel);
     if (panel == nullptr)
         return;
     as::EspaciarFilas(datos, *panel);
@@ -401,7 +393,7 @@ void CDlgAsistenteSFVAislada::AlPulsarRegulacion()
 void CDlgAsistenteSFVAislada::AbrirRadiacion()
 {
     for (int iInclinacion = 0; iInclinacion <= 90; iInclinacion += 5) {
-        std::array<double, 12> adRadiacion = FactoresK(datos, iInclinacion);
+        std::array<double, 12> adRadiacion = FactoresK(m_bases.factoresK, datos, iInclinacion);
         for (std::size_t m = 0; m < 12; ++m)
             adRadiacion[m] *= datos.adRadiacion[m];
         AnadirFilaRadiacion(m_filasRadiacion, iInclinacion, adRadiacion);
@@ -438,10 +430,10 @@ void CDlgAsistenteSFVAislada::Recalcular(bool bForzar)
         return;
     const std::vector<as::Carga> cargas = as::CargasParaCalculo(m_cargas);
     as::Recalcular(datos,
-                   {phGetBaseAcumuladores().BuscarModelo(datos.csAcumulador),
-                    phGetBasePanelFoto().BuscarModelo(datos.csPanel), cargas,
-                    [](double dLatitud, int iHemisferio, double dAlpha) {
-                        return efv::solar::FactoresK(phGetBaseFactorK(), dLatitud, iHemisferio, dAlpha);
+                   {m_bases.acumuladores.BuscarModelo(datos.csAcumulador),
+                    m_bases.panelesFoto.BuscarModelo(datos.csPanel), cargas,
+                    [&base = m_bases.factoresK](double dLatitud, int iHemisferio, double dAlpha) {
+                        return efv::solar::FactoresK(base, dLatitud, iHemisferio, dAlpha);
                     }},
                    bForzar);
     EscribirRadiacion();
@@ -511,6 +503,6 @@ bool CDlgAsistenteSFVAislada::AntesDeAceptar()
 
 bool CDlgAsistenteSFVAislada::AlAceptar()
 {
-    UltimaPagina() = m_paginas->iSeleccion;
+    m_iUltimaPagina = m_paginas->iSeleccion;
     return true;
 }

@@ -7,9 +7,11 @@
 
 class CDlgAsistenteSFVAislada : public efv::assistants::DialogoAsistente<efv::assistants::ValoresAislada> {
 public:
-    /// `registro` gives the loads, and gets them back at OK, also at one that is refused afterwards.
+    /// @param registro gives the loads, and gets them back at OK, also at one that is refused afterwards
+    /// @param iUltimaPagina page to begin on; then the one that was open at OK
     CDlgAsistenteSFVAislada(const efv::assistants::ValoresAislada& inicial,
-                            const efv::assistants::TextoLugar& lugar, CSFVAsistenteAislada& registro);
+                            const efv::assistants::TextoLugar& lugar, CSFVAsistenteAislada& registro,
+                            const efv::catalogues::Bases& bases, int& iUltimaPagina);
 
 private:
     void AnadirCargas();
@@ -41,6 +43,7 @@ private:
     bool AlAceptar() override;
 
     CSFVAsistenteAislada& m_registro;
+    int& m_iUltimaPagina;
     efv::assistants::ListaCargas m_cargas;
     CListCtrl m_filasCargas, m_filasRadiacion;
 

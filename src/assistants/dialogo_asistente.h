@@ -4,9 +4,9 @@
 
 #include <array>
 #include <functional>
-#include <optional>
 #include <string_view>
 
+#include "catalogues/bases.h"
 #include "frame/control.h"
 #include "frame/estado.h"
 #include "frame/recursos.h"
@@ -32,21 +32,14 @@ template <class V>
 inline constexpr auto kDistanciaP = std::to_array<ui::Fila<V>>(
     {{.nombre = "dDistanciaFilasP", .campo = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
 
-/// Runs a catalogue's choice beginning with `csId`; nothing when the person didn't accept.
-template <class BASE>
-std::optional<CString> ElegirModelo(BASE& base, const CString& csId)
-{
-    base.csSeleccion = csId;
-    return base.VerBase(1) == 1 ? std::optional(base.csSeleccion) : std::nullopt;
-}
-
 template <class V>
 class DialogoAsistente : public ui::DialogoFicha<V> {
 protected:
     using Base = ui::DialogoFicha<V>;
 
-    DialogoAsistente(std::string_view nombreClase, std::wstring_view titulo, const V& inicial)
-        : Base(nombreClase, titulo, inicial, {})
+    DialogoAsistente(std::string_view nombreClase, std::wstring_view titulo, const V& inicial,
+                     const catalogues::Bases& bases)
+        : Base(nombreClase, titulo, inicial, {}), m_bases(bases)
     {
     }
 
@@ -136,6 +129,7 @@ protected:
         boton.bHabilitado = frame::Estado().pBIMCtrl != nullptr;
     }
 
+    const catalogues::Bases& m_bases;
     int bModificado = 0;  ///< a field was typed into and no calculation has run since
 };
 

@@ -86,8 +86,9 @@ CString RotuloDe(const CString& csId)
 
 }  // namespace
 
-CDlgAsistenteSFVRed::CDlgAsistenteSFVRed(const V& inicial, const as::TextoLugar& lugar)
-    : DialogoAsistente("CDlgAsistenteSFVRed", L"Asistente de SFV conectada a Red", inicial)
+CDlgAsistenteSFVRed::CDlgAsistenteSFVRed(const V& inicial, const as::TextoLugar& lugar,
+                                         const efv::catalogues::Bases& bases)
+    : DialogoAsistente("CDlgAsistenteSFVRed", L"Asistente de SFV conectada a Red", inicial, bases)
 {
     AnadirTexto("csLocalidad", L"Localidad:", lugar.csLocalidad);
     AnadirTexto("csLocalidad2", L"", lugar.csLocalidad2);
@@ -148,7 +149,7 @@ void CDlgAsistenteSFVRed::AnadirResultadosTotales()
 
 bool CDlgAsistenteSFVRed::LeerInversor()
 {
-    const CBaseInversorModelo* modelo = phGetBaseInversores().BuscarModelo(datos.csInversor);
+    const CBaseInversorModelo* modelo = m_bases.inversores.BuscarModelo(datos.csInversor);
     if (modelo != nullptr)
         datos.inversor = as::LeerInversor(*modelo);
     return modelo != nullptr;
@@ -156,7 +157,7 @@ bool CDlgAsistenteSFVRed::LeerInversor()
 
 bool CDlgAsistenteSFVRed::LeerPanel()
 {
-    const CBasePanelFotoModelo* modelo = phGetBasePanelFoto().BuscarModelo(datos.csPanel);
+    const CBasePanelFotoModelo* modelo = m_bases.panelesFoto.BuscarModelo(datos.csPanel);
     if (modelo != nullptr)
         datos.panel = as::Disponer(*modelo, datos.iDisposicion);
     return modelo != nullptr;
@@ -164,21 +165,13 @@ bool CDlgAsistenteSFVRed::LeerPanel()
 
 void CDlgAsistenteSFVRed::ElegirInversor()
 {
-    const auto csId = as::ElegirModelo(phGetBaseInversores(), datos.csInversor);
-    if (!csId)
-        return;
-    datos.csInversor = *csId;
-    if (LeerInversor())
+    if (m_bases.elegirInversor(datos.csInversor) == 1 && LeerInversor())
         Recalcular(true);
 }
 
 void CDlgAsistenteSFVRed::ElegirPanel()
 {
-    const auto csId = as::ElegirModelo(phGetBasePanelFoto(), datos.csPanel);
-    if (!csId)
-        return;
-    datos.csPanel = *csId;
-    if (LeerPanel())
+    if (m_bases.elegirPanelFoto(datos.csPanel) == 1 && LeerPanel())
         Recalcular(true);
 }
 

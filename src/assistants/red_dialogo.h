@@ -7,7 +7,8 @@
 
 class CDlgAsistenteSFVRed : public efv::assistants::DialogoAsistente<efv::assistants::ValoresRed> {
 public:
-    CDlgAsistenteSFVRed(const efv::assistants::ValoresRed& inicial, const efv::assistants::TextoLugar& lugar);
+    CDlgAsistenteSFVRed(const efv::assistants::ValoresRed& inicial, const efv::assistants::TextoLugar& lugar,
+                        const efv::catalogues::Bases& bases);
 
 private:
     void AnadirEquipos();

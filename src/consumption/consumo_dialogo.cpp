@@ -10,6 +10,7 @@
 #include "consumption/hora_hora_dialogo.h"
 #include "consumption/nombres.h"
 #include "consumption/receptor_catalogo.h"
+#include "consumption/receptor_dialogo.h"
 #include "platform/numero/conversion.h"
 #include "solar/calendario.h"
 
@@ -83,9 +84,12 @@ CObArrayPropio<CSFVDataReceptor> efv::consumption::CopiarReceptores(
 }
 
 CDlgDatosConsumo::CDlgDatosConsumo(const P& inicial, const CObArrayPropio<CSFVDataReceptor>& receptores,
-                                   efv::AnoHorarioVista horas)
+                                   efv::AnoHorarioVista horas, const efv::catalogues::Bases& bases,
+                                   std::span<efv::PatronConsumo> patrones)
     : DialogoFicha("CDlgDatosConsumo", L"Datos del consumo eléctrico", inicial, kComprobaciones),
-      lReceptores(efv::consumption::CopiarReceptores(receptores))
+      lReceptores(efv::consumption::CopiarReceptores(receptores)),
+      m_bases(bases),
+      m_patrones(patrones)
 {
     bMaximizable = true;
     std::ranges::copy(horas, adHoras->begin());
@@ -209,7 +213,7 @@ void CDlgDatosConsumo::MostrarReceptores()
     const CSFVDataReceptor* const seleccionado = Seleccionado();
     m_filas.DeleteAllItems();
     for (const auto& receptor : lReceptores) {
-        if (!efv::consumption::RefrescarDeCatalogo(*receptor))
+        if (!efv::consumption::RefrescarDeCatalogo(*receptor, m_bases.receptores))
             continue;
         receptor->InsertarEnLista(m_filas, datos.iMes, datos.iDiaTipo);
         if (receptor.get() == seleccionado)
@@ -293,7 +297,7 @@ void CDlgDatosConsumo::AlEditarTabla()
     horas.iSeparador = datos.iSeparador;
     std::ranges::copy(std::span(&datos.adMes[0][0], 72), &horas.adMes[0][0]);
     std::ranges::copy(datos.aiPeriodoHora, horas.aiPeriodoHora);
-    CDlgDatosConsumoHoraHora dialogo(horas, efv::PatronesConsumo());
+    CDlgDatosConsumoHoraHora dialogo(horas, m_patrones);
     if (dialogo.Mostrar() != ok)
         return;
     datos.iPeriodo = dialogo.datos.iPeriodo;
@@ -323,8 +327,8 @@ void CDlgDatosConsumo::AlAbrirDia(int iFila, int iColumna)
 void CDlgDatosConsumo::AlAnadirReceptor()
 {
     auto receptor = std::make_unique<CSFVDataReceptor>();
-    if (receptor->EditarPropiedades(datos.iMes, datos.iAux) != ok ||
-        !efv::consumption::RefrescarDeCatalogo(*receptor))
+    if (efv::consumption::EditarReceptor(*receptor, datos.iMes, m_bases) != ok ||
+        !efv::consumption::RefrescarDeCatalogo(*receptor, m_bases.receptores))
         return;
     lReceptores.Add(std::move(receptor));
     MostrarTodo();
@@ -333,7 +337,7 @@ void CDlgDatosConsumo::AlAnadirReceptor()
 void CDlgDatosConsumo::AlEditarReceptor()
 {
     CSFVDataReceptor* const receptor = Seleccionado();
-    if (receptor != nullptr && receptor->EditarPropiedades(datos.iMes, datos.iAux) == ok)
+    if (receptor != nullptr && efv::consumption::EditarReceptor(*receptor, datos.iMes, m_bases) == ok)
         MostrarTodo();
 }
 

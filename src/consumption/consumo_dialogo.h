@@ -5,6 +5,7 @@
 
 #include <quorvel/consumption.h>
 
+#include "catalogues/bases.h"
 #include "ui/filas.h"
 
 namespace efv::consumption {
@@ -21,7 +22,6 @@ struct DatosConsumo {
     int iRotulacion = 0;                             ///< kept and handed back
     int iMes = 0, iDiaMes = 0, iDiaTipo = 0;         ///< month, day of it and day type on view
     int iPeriodo = 12, iOrigen = 0, iSeparador = 0;  ///< of the last hour-by-hour edit
-    int iAux = 1;                                    ///< second argument of the loads' EditarPropiedades
 };
 
 /// Copies of the loads, in order.
@@ -34,8 +34,10 @@ public:
     CObArrayPropio<CSFVDataReceptor> lReceptores;  ///< copies of those that came
     const std::shared_ptr<efv::AnoHorario> adHoras = std::make_shared<efv::AnoHorario>();  ///< Wh
 
+    /// @param patrones the table of patterns, in which the person may change factors
     CDlgDatosConsumo(const efv::consumption::DatosConsumo& inicial,
-                     const CObArrayPropio<CSFVDataReceptor>& receptores, efv::AnoHorarioVista horas);
+                     const CObArrayPropio<CSFVDataReceptor>& receptores, efv::AnoHorarioVista horas,
+                     const efv::catalogues::Bases& bases, std::span<efv::PatronConsumo> patrones);
 
 private:
     void AnadirSelectores();
@@ -59,6 +61,8 @@ private:
     void AlEditarReceptor();
     void AlEliminarReceptor();
 
+    const efv::catalogues::Bases& m_bases;
+    std::span<efv::PatronConsumo> m_patrones;
     CListCtrl m_filas;
     efv::ui::Boton *m_tabla = nullptr, *m_anadir = nullptr, *m_editar = nullptr, *m_eliminar = nullptr;
 };

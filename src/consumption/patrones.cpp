@@ -96,9 +96,9 @@ std::vector<PatronConsumo> HacerTabla()
 
 }  // namespace
 
-std::span<PatronConsumo> PatronesConsumo()
+std::span<const PatronConsumo> PatronesConsumo()
 {
-    static std::vector<PatronConsumo> tabla = HacerTabla();
+    static const std::vector<PatronConsumo> tabla = HacerTabla();
     return tabla;
 }
 

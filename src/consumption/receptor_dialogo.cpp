@@ -7,8 +7,6 @@
 #include <fmt/format.h>
 #include <fmt/xchar.h>
 
-#include <quorvel/catalogues.h>
-
 #include "consumption/franjas.h"
 #include "consumption/horas_texto.h"
 #include "consumption/mes_ano_dialogo.h"
@@ -52,8 +50,9 @@ CString LeerMinutos(int iMinutos)
 
 }  // namespace
 
-CDlgDatosReceptor::CDlgDatosReceptor(efv::consumption::DatosReceptor inicial)
-    : Dialogo("CDlgDatosReceptor", L"Datos del receptor eléctrico"), datos(std::move(inicial))
+CDlgDatosReceptor::CDlgDatosReceptor(efv::consumption::DatosReceptor inicial,
+                                     const efv::catalogues::Bases& bases)
+    : Dialogo("CDlgDatosReceptor", L"Datos del receptor eléctrico"), datos(std::move(inicial)), m_bases(bases)
 {
     efv::ComprobarIndice(datos.iMes, 12);
     if (datos.bPedirCantidad != 0)
@@ -155,7 +154,7 @@ void CDlgDatosReceptor::AnadirLimites()
 
 void CDlgDatosReceptor::MostrarCatalogo()
 {
-    efv::consumption::RefrescarDeCatalogo(datos.receptor);
+    efv::consumption::RefrescarDeCatalogo(datos.receptor, m_bases.receptores);
     const R& receptor = datos.receptor;
     ControlDe<ui::Edicion>("csModelo").csTexto = receptor.csModelo;
     ControlDe<ui::Edicion>("csFabricante").csTexto = receptor.csFabricante;
@@ -194,7 +193,7 @@ void CDlgDatosReceptor::MostrarHoras()
 
 void CDlgDatosReceptor::AlElegirModelo()
 {
-    if (phSeleccionReceptor(datos.receptor.csModelo) == 0)
+    if (m_bases.elegirReceptor(datos.receptor.csModelo) == 0)
         return;
     MostrarCatalogo();
     MostrarHoras();
@@ -275,27 +274,27 @@ bool CDlgDatosReceptor::AlAceptar()
 }
 
 // ---------------------------------------------------------------------------------------------------
-// The record's own way to its dialog
+// A load by itself
 // ---------------------------------------------------------------------------------------------------
 
-unsigned CSFVDataReceptor::EditarPropiedades(int iMes, int /*iAux*/)
+int efv::consumption::EditarReceptor(CSFVDataReceptor& receptor, int iMes, const catalogues::Bases& bases)
 {
-    efv::consumption::DatosReceptor inicial;
+    DatosReceptor inicial;
     inicial.csReferencia = L"ELEMENTO DE CONSUMO";
     inicial.iMes = iMes;
-    inicial.receptor.csModelo = csModelo;
-    inicial.receptor.iCantidad = iCantidad;
-    inicial.receptor.iReservadoB = iReservadoB;
-    inicial.receptor.bNoCalcular = bNoCalcular;
-    std::ranges::copy(std::span(&dHorario[0][0][0], 504), &inicial.receptor.dHorario[0][0][0]);
-    CDlgDatosReceptor dialogo(inicial);
-    if (dialogo.Mostrar() != efv::ui::Dialogo::ok)
-        return efv::ui::Dialogo::cancelado;
+    inicial.receptor.csModelo = receptor.csModelo;
+    inicial.receptor.iCantidad = receptor.iCantidad;
+    inicial.receptor.iReservadoB = receptor.iReservadoB;
+    inicial.receptor.bNoCalcular = receptor.bNoCalcular;
+    std::ranges::copy(std::span(&receptor.dHorario[0][0][0], 504), &inicial.receptor.dHorario[0][0][0]);
+    CDlgDatosReceptor dialogo(inicial, bases);
+    if (dialogo.Mostrar() != ui::Dialogo::ok)
+        return ui::Dialogo::cancelado;
     const CSFVDataReceptor& editado = dialogo.datos.receptor;
-    csModelo = editado.csModelo;
-    iCantidad = editado.iCantidad;
-    dPotencia = editado.dPotencia;
-    bNoCalcular = editado.bNoCalcular;
-    std::ranges::copy(std::span(&editado.dHorario[0][0][0], 504), &dHorario[0][0][0]);
-    return efv::ui::Dialogo::ok;
+    receptor.csModelo = editado.csModelo;
+    receptor.iCantidad = editado.iCantidad;
+    receptor.dPotencia = editado.dPotencia;
+    receptor.bNoCalcular = editado.bNoCalcular;
+    std::ranges::copy(std::span(&editado.dHorario[0][0][0], 504), &receptor.dHorario[0][0][0]);
+    return ui::Dialogo::ok;
 }

@@ -5,6 +5,7 @@
 
 #include <quorvel/consumption.h>
 
+#include "catalogues/bases.h"
 #include "ui/filas.h"
 
 namespace efv::consumption {
@@ -17,13 +18,17 @@ struct DatosReceptor {
     CSFVDataReceptor receptor;   ///< model, units, exclusion and bands; the rest comes from the catalogue
 };
 
+/// Opens the load's dialog on one that has no reference of its own. On acceptance model, units, power,
+/// exclusion and bands are taken back. @return 1 when the person accepted, 2 when not
+int EditarReceptor(CSFVDataReceptor& receptor, int iMes, const catalogues::Bases& bases);
+
 }  // namespace efv::consumption
 
 class CDlgDatosReceptor : public efv::ui::Dialogo {
 public:
     efv::consumption::DatosReceptor datos;
 
-    explicit CDlgDatosReceptor(efv::consumption::DatosReceptor inicial);
+    CDlgDatosReceptor(efv::consumption::DatosReceptor inicial, const efv::catalogues::Bases& bases);
 
 protected:
     bool AlAceptar() override;
@@ -50,6 +55,7 @@ private:
     CString DiasSinUso() const;
     double (&FranjasVisibles())[6] { return datos.receptor.dHorario[datos.iMes][datos.iDiaTipo]; }
 
+    const efv::catalogues::Bases& m_bases;
     std::array<Limite, 6> m_limites;
     efv::ui::Boton* m_elegir = nullptr;
     efv::ui::Seleccion* m_unificar = nullptr;

@@ -8,6 +8,7 @@
 #include "assistants/red_dialogo.h"
 #include "assistants/tipo_instalacion_dialogo.h"
 #include "frame/recursos.h"
+#include "module/singletons.h"
 
 namespace as = efv::assistants;
 using efv::frame::AmbitoRecursos;
@@ -30,7 +31,8 @@ int phAsistenteSFVAislada(CString csLugar, double dLatitud, int iHemisferio, con
     valores.dLatitud = dLatitud;
     valores.iHemisferio = iHemisferio;
     std::ranges::copy(adRadiacion, valores.adRadiacion.begin());
-    CDlgAsistenteSFVAislada dialogo(valores, as::PartirLugar(csLugar), asistente);
+    CDlgAsistenteSFVAislada dialogo(valores, as::PartirLugar(csLugar), asistente, efv::module::Bases(),
+                                    efv::module::RecuerdoDialogos().iPaginaAislada);
     if (dialogo.Mostrar() != Dialogo::ok)
         return 0;
     as::DevolverAlRegistro(dialogo.datos, asistente);
@@ -44,7 +46,7 @@ int phAsistenteSFVRed(CString csLugar, double dLatitud, int iHemisferio, CSFVAsi
     static_cast<CSFVAsistenteRed&>(valores) = asistente;
     valores.dLatitud = dLatitud;
     valores.csHemisferio = iHemisferio != 0 ? L"N" : L"S";
-    CDlgAsistenteSFVRed dialogo(valores, as::PartirLugar(csLugar));
+    CDlgAsistenteSFVRed dialogo(valores, as::PartirLugar(csLugar), efv::module::Bases());
     if (dialogo.Mostrar() != Dialogo::ok)
         return 0;
     asistente = static_cast<const CSFVAsistenteRed&>(dialogo.datos);

@@ -6,6 +6,7 @@
 #include "consumption/consumo_dialogo.h"
 #include "consumption/receptor_dialogo.h"
 #include "frame/recursos.h"
+#include "module/singletons.h"
 
 using efv::frame::AmbitoRecursos;
 
@@ -19,7 +20,7 @@ constexpr std::size_t kEnergias = std::size_t{12} * 6;
 int phShowPropertyConsumo(CString& csReferencia, CObArrayPropio<CSFVDataReceptor>& lReceptores,
                           int& iTipoEntrada, int& iPatron, double& dPotMaxima, double (&adHoras)[8760],
                           double (&adMes)[12][6], int (&aiPeriodoHora)[24], int& bExcluir, int& iRotulacion,
-                          int& iAux, double& dHusoHorario)
+                          int& /*iAux*/, double& dHusoHorario)
 {
     const AmbitoRecursos ambito;
     efv::consumption::DatosConsumo datos;
@@ -31,9 +32,9 @@ int phShowPropertyConsumo(CString& csReferencia, CObArrayPropio<CSFVDataReceptor
     std::ranges::copy(aiPeriodoHora, datos.aiPeriodoHora);
     datos.bExcluir = bExcluir;
     datos.iRotulacion = iRotulacion;
-    datos.iAux = iAux;
     datos.dHusoHorario = dHusoHorario;
-    CDlgDatosConsumo dialogo(datos, lReceptores, adHoras);
+    CDlgDatosConsumo dialogo(datos, lReceptores, adHoras, efv::module::Bases(),
+                             efv::module::RecuerdoDialogos().patrones);
     if (dialogo.Mostrar() != efv::ui::Dialogo::ok)
         return efv::ui::Dialogo::cancelado;
     const efv::consumption::DatosConsumo& editado = dialogo.datos;
@@ -64,7 +65,7 @@ int phShowPropertyReceptor(CString& csReferencia, CString& csModelo, int& bModel
     datos.receptor.iReservadoB = iReservado;
     datos.receptor.bNoCalcular = bExcluir;
     std::copy_n(&dHorario[0][0][0], kMinutosHorario, &datos.receptor.dHorario[0][0][0]);
-    CDlgDatosReceptor dialogo(datos);
+    CDlgDatosReceptor dialogo(datos, efv::module::Bases());
     if (dialogo.Mostrar() != efv::ui::Dialogo::ok)
         return efv::ui::Dialogo::cancelado;
     const efv::consumption::DatosReceptor& editado = dialogo.datos;
@@ -77,4 +78,9 @@ int phShowPropertyReceptor(CString& csReferencia, CString& csModelo, int& bModel
     if (bPedirCantidad != 0)
         iCantidad = editado.receptor.iCantidad;
     return efv::ui::Dialogo::ok;
+}
+
+unsigned CSFVDataReceptor::EditarPropiedades(int iMes, int /*iAux*/)
+{
+    return static_cast<unsigned>(efv::consumption::EditarReceptor(*this, iMes, efv::module::Bases()));
 }

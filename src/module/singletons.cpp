@@ -63,4 +63,43 @@ CBaseFactorK& BaseFactorK()
     return gBaseFactorK;
 }
 
+namespace {
+
+template <class M>
+int ElegirModelo(CString& csId)
+{
+    auto& base = Base<M>();
+    base.csSeleccion = csId;
+    const int iResultado = base.VerBase(1);
+    if (iResultado == 1)
+        csId = base.csSeleccion;
+    return iResultado;
+}
+
+}  // namespace
+
+const catalogues::Bases& Bases()
+{
+    static const catalogues::Bases bases{
+        .panelesFoto = gBasePanelFoto,
+        .acumuladores = gBaseAcumuladores,
+        .inversores = gBaseInversores,
+        .microInversores = gBaseMicroInversores,
+        .convertidores = gBaseConvertidores,
+        .receptores = gBaseReceptores,
+        .factoresK = gBaseFactorK,
+        .elegirPanelFoto = &ElegirModelo<CBasePanelFotoModelo>,
+        .elegirAcumulador = &ElegirModelo<CBaseAcumuladorModelo>,
+        .elegirInversor = &ElegirModelo<CBaseInversorModelo>,
+        .elegirReceptor = &ElegirModelo<CBaseReceptorModelo>,
+    };
+    return bases;
+}
+
+Recuerdo& RecuerdoDialogos()
+{
+    static Recuerdo recuerdo{.patrones{PatronesConsumo().begin(), PatronesConsumo().end()}};
+    return recuerdo;
+}
+
 }  // namespace efv::module

@@ -1,9 +1,13 @@
 // The catalogues that live as long as the module.
 #pragma once
 
+#include <vector>
+
 #include <quorvel/catalogues.h>
+#include <quorvel/consumption.h>
 #include <quorvel/solar.h>
 
+#include "catalogues/bases.h"
 #include "catalogues/campos.h"
 
 namespace efv::module {
@@ -13,5 +17,15 @@ template <class M>
 typename catalogues::Catalogo<M>::Base& Base();
 
 CBaseFactorK& BaseFactorK();
+
+/// All of them, for the dialogs and calculations that look something up.
+const catalogues::Bases& Bases();
+
+/// What dialogs remember from one opening to the next.
+struct Recuerdo {
+    int iPaginaAislada = 0;               ///< page of the stand-alone assistant that was open at its last OK
+    std::vector<PatronConsumo> patrones;  ///< the typical patterns, with what the person has changed in them
+};
+Recuerdo& RecuerdoDialogos();
 
 }  // namespace efv::module

@@ -321,7 +321,7 @@ TEST(RepartoMensual, ConservaLaEnergiaDeCadaMesYPeriodo)
     std::mt19937 azar(11);
     std::uniform_real_distribution<double> energia(0, 1e5);
     auto ano = Ano(), resultado = Ano();
-    for (PatronConsumo& patron : PatronesConsumo()) {
+    for (const PatronConsumo& patron : PatronesConsumo()) {
         AnoDeSemana(patron.adFactor, *ano);
         Mensual datos;
         for (auto& mes : datos.adMes)

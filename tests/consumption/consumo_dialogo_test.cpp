@@ -11,6 +11,7 @@
 #include "comun/guion.h"
 #include "consumption/asignacion_dia.h"
 #include "consumption/consumo_dia_dialogo.h"
+#include "module/singletons.h"
 
 namespace {
 
@@ -55,7 +56,7 @@ protected:
     }
     int Abrir()
     {
-        dialogo = std::make_unique<CDlgDatosConsumo>(datos, lista, *ano);
+        dialogo = std::make_unique<CDlgDatosConsumo>(datos, lista, *ano, efv::module::Bases(), patrones);
         const int iResultado = dialogo->Mostrar();
         EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt)
             << CadenaUtf8(guion.presentador.csErrorGuion.value_or(L""));
@@ -72,6 +73,7 @@ protected:
     consumption::DatosConsumo datos;
     CObArrayPropio<CSFVDataReceptor> lista;
     std::unique_ptr<AnoHorario> ano = std::make_unique<AnoHorario>();
+    std::vector<PatronConsumo> patrones{PatronesConsumo().begin(), PatronesConsumo().end()};
     std::unique_ptr<CDlgDatosConsumo> dialogo;
 };
 

@@ -9,6 +9,7 @@
 
 #include "comun/ficheros.h"
 #include "comun/guion.h"
+#include "module/singletons.h"
 
 namespace {
 
@@ -35,7 +36,7 @@ protected:
     int Mostrar(std::vector<ui::Paso> pasos)
     {
         guion.Dialogo(kClase, std::move(pasos));
-        dialogo = std::make_unique<CDlgDatosReceptor>(datos);
+        dialogo = std::make_unique<CDlgDatosReceptor>(datos, efv::module::Bases());
         const int iResultado = dialogo->Mostrar();
         EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt)
             << CadenaUtf8(guion.presentador.csErrorGuion.value_or(L""));
@@ -126,7 +127,7 @@ TEST_F(ReceptorDialogo, UnificarCopiaATodoLoQueDice)
                                    paso::Elegir{"Unificar planificación", CString(eleccion)}});
             guion.Dialogo("CDlgMesAno", {paso::Leer{{"Marzo"}}, paso::Marcar{"Enero", true},
                                          paso::Marcar{"Diciembre", true}, paso::Pulsar{"OK"}});
-            dialogo = std::make_unique<CDlgDatosReceptor>(datos);
+            dialogo = std::make_unique<CDlgDatosReceptor>(datos, efv::module::Bases());
             dialogo->Mostrar();
         } else {
             Mostrar({paso::Elegir{"iMes", 2}, paso::Elegir{"iDiaTipo", 4},
@@ -191,7 +192,7 @@ TEST_F(ReceptorDialogo, ElModeloSeEligeEnElCatalogo)
 {
     guion.Dialogo(kClase, {paso::Pulsar{"..."}, paso::Leer{}});
     guion.Dialogo("CDlgVisorXML", {paso::Elegir{"arbol", CString(L"F#foco")}, paso::Pulsar{"OK"}});
-    CDlgDatosReceptor(datos).Mostrar();
+    CDlgDatosReceptor(datos, efv::module::Bases()).Mostrar();
     ASSERT_EQ(guion.presentador.csErrorGuion, std::nullopt)
         << CadenaUtf8(guion.presentador.csErrorGuion.value_or(L""));
     EXPECT_EQ(guion.Texto(0, 0, "csModelo"), L"F#foco");
