@@ -4,6 +4,7 @@
 #include <quorvel/assistants.h>
 #include <quorvel/assistants_calculo.h>
 #include <quorvel/catalogues.h>
+#include <quorvel/clima.h>
 #include <quorvel/consumption.h>
 #include <quorvel/electrical.h>
 #include <quorvel/frame.h>
