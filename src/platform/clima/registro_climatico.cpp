@@ -8,7 +8,6 @@
 
 #include "platform/clima/horizonte.h"
 #include "platform/clima/numeros_linea.h"
-#include "platform/clima/sol_registro.h"
 #include "platform/numero/tolerancia.h"
 
 namespace efv::clima {
@@ -119,6 +118,7 @@ RegistroClimatico RegistroClimatico::Leer(std::string_view texto)
     registro.m_dLatitud = cabecera.dLatitud;
     registro.m_dLongitud = cabecera.dLongitud;
     registro.m_horas.reserve(kHorasAno);
+    SolesRegistro soles(cabecera.dLatitud);
     while (const auto linea = lector.Siguiente()) {
         if (registro.m_horas.size() == kHorasAno && EnBlanco(*linea))
             continue;
@@ -135,17 +135,17 @@ RegistroClimatico RegistroClimatico::Leer(std::string_view texto)
             lector.Rechazar("el mes, el día o la hora no existen");
         const double dDifusa = lector.Numero(campos[f.iDifusa], "la radiación difusa");
         const double dOtra = lector.Numero(campos[f.iGlobal], "la radiación");
-        registro.Anadir(iMes, iDia, iHora, f.bDirectaEnGlobal ? dOtra + dDifusa : dOtra, dDifusa);
+        registro.Anadir(soles.En(iMes, iDia, iHora - 0.5), soles, f.bDirectaEnGlobal ? dOtra + dDifusa : dOtra,
+                        dDifusa);
     }
     if (registro.m_horas.size() != kHorasAno)
         throw FicheroInvalido("hay " + std::to_string(registro.m_horas.size()) + " horas y se esperaban 8760");
     return registro;
 }
 
-void RegistroClimatico::Anadir(int iMes, int iDia, int iHora, double dGlobal, double dDifusa)
+void RegistroClimatico::Anadir(const SolRegistro& sol, const SolesRegistro& soles, double dGlobal,
+                               double dDifusa)
 {
-    const SolRegistro sol = SolDelRegistro(m_dLatitud, iMes, iDia, iHora - 0.5);
-    const double f = m_dLatitud * kRadianes;
     const double w = sol.dAnguloHora * kRadianes;
     HoraCielo h;
     h.dGlobal = dGlobal;
@@ -153,8 +153,10 @@ void RegistroClimatico::Anadir(int iMes, int iDia, int iHora, double dGlobal, do
     if (numero::Mayor(sol.dCenit, kCenitDifuso)) {
         h.dDifusa = dGlobal;
     } else {
-        h.dCosCenit = sol.dSenoDeclinacion * std::sin(f) + sol.dCosenoDeclinacion * std::cos(f) * std::cos(w);
-        h.dSur = sol.dCosenoDeclinacion * std::sin(f) * std::cos(w) - sol.dSenoDeclinacion * std::cos(f);
+        h.dCosCenit = sol.dSenoDeclinacion * soles.SenoLatitud() +
+                      sol.dCosenoDeclinacion * soles.CosenoLatitud() * std::cos(w);
+        h.dSur = sol.dCosenoDeclinacion * soles.SenoLatitud() * std::cos(w) -
+                 sol.dSenoDeclinacion * soles.CosenoLatitud();
         h.dOeste = sol.dCosenoDeclinacion * std::sin(w);
         h.dDirecta = (h.dGlobal - h.dDifusa) / h.dCosCenit;
     }

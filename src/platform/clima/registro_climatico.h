@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/clima/cielo.h"
+#include "platform/clima/sol_registro.h"
 
 namespace efv::clima {
 
@@ -28,7 +29,7 @@ public:
     double Longitud() const { return m_dLongitud; }
 
 private:
-    void Anadir(int iMes, int iDia, int iHora, double dGlobal, double dDifusa);
+    void Anadir(const SolRegistro& sol, const SolesRegistro& soles, double dGlobal, double dDifusa);
 
     double m_dLatitud = 0.0, m_dLongitud = 0.0;
     std::vector<HoraCielo> m_horas;
