@@ -126,7 +126,7 @@ TEST_F(Clima, LosLotesDanLosMismosBitsQueLasLlamadas)
     const auto azar = [&] { return (semilla = semilla * 1664525U + 1013904223U) / 4294967296.0; };
     for (int i = 0; i < 4; ++i) {
         for (double& t : adTemperaturas)
-            t = azar() < 0.05 ? NAN : azar() * 60.0 - 15.0;
+            t = azar() < 0.05 ? std::nan("") : azar() * 60.0 - 15.0;
         if (i == 2) {
             ASSERT_TRUE(CargarHorizonte(carpeta.Escribir("h.txt", kHorizonte), csError));
         }
