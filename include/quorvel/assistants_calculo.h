@@ -65,10 +65,9 @@ EFV_API InversorLeido LeerInversor(const CBaseInversorModelo& modelo);
 // ---------------------------------------------------------------------------------------------------
 
 /// Working values of the stand-alone assistant. The record's fields stand in it as the person last left
-/// them; its lists of loads stay empty here. Ranges that the assistant keeps its fields to:
-/// `dDiasAutonomia` 0.01 to 365, `dProfundidadDescarga` 1 to 100, counts 0 to 100000, tilt 0 to 90,
-/// orientation -180 to 180, the three losses 0 to 100 (one of exactly 100 gives an infinite energy),
-/// distances 0 to 25000. Nothing is checked here: a `dTensionSistema` of 0 gives infinities.
+/// them; its lists of loads stay empty here. The ranges that the assistant keeps its fields to are the limits
+/// of ValoresPorNombre. Nothing is checked here: a `dTensionSistema` of 0, or a loss of exactly 100, gives
+/// infinities.
 struct ValoresAislada : CSFVAsistenteAislada {
     // The place
     double dLatitud = 0.0;                 ///< degrees
@@ -146,15 +145,14 @@ EFV_API void Recalcular(ValoresAislada& v, const EntradaAislada& entrada, bool b
 /// The working values by the names of the code: the record's own without its lists, then the others.
 /// Writing through a reference changes the value.
 EFV_API std::vector<CampoRegistro> ValoresPorNombre(ValoresAislada& v);
+EFV_API std::vector<CampoRegistroConst> ValoresPorNombre(const ValoresAislada& v);
 
 // ---------------------------------------------------------------------------------------------------
 // Connected to the grid
 // ---------------------------------------------------------------------------------------------------
 
 /// Working values of the grid-connected assistant. The record's fields stand in it as the person last left
-/// them. Ranges that the assistant keeps its fields to: `dPotenciaObjetivo` up to 1000000, lengths 0 to
-/// 1000, counts 1 to 100000, tilt 0 to 90, orientation -180 to 180, `dPanelesPorFila` 1 to 1000, panel to
-/// panel 0 to 10000, row to row 0 to 100000.
+/// them. The ranges that the assistant keeps its fields to are the limits of ValoresPorNombre.
 struct ValoresRed : CSFVAsistenteRed {
     double dLatitud = 0.0;        ///< degrees
     CString csHemisferio = L"N";  ///< "N" north, else south
@@ -182,6 +180,7 @@ struct ValoresRed : CSFVAsistenteRed {
 EFV_API void RecalcularRed(ValoresRed& v, bool bForzar);
 
 EFV_API std::vector<CampoRegistro> ValoresPorNombre(ValoresRed& v);
+EFV_API std::vector<CampoRegistroConst> ValoresPorNombre(const ValoresRed& v);
 
 // ---------------------------------------------------------------------------------------------------
 // Strings at the temperatures of the place. It changes no result of the sizing, which works at standard

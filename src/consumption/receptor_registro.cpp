@@ -1,47 +1,15 @@
 // The load's record: fields, archive, figures and its row in a list.
-#include <array>
-
 #include <quorvel/framework/CArchive.h>
 
 #include "consumption/franjas.h"
 #include "consumption/horas_texto.h"
 #include "consumption/registros.h"
-#include "platform/framework/registro_clases.h"
-#include "platform/framework/tabla_registro.h"
 #include "platform/numero/conversion.h"
 
 namespace {
 
 using R = CSFVDataReceptor;
 using efv::numero::nuConvertFltToIntlStr;
-
-constexpr auto kHorario = efv::framework::Bloque<R, &R::dHorario>();
-
-constexpr auto kCampos = std::to_array<efv::framework::CampoDeclarado<R>>({
-    {"csModelo", &R::csModelo},
-    {"csFabricante", &R::csFabricante},
-    {"iCantidad", &R::iCantidad},
-    {"dPotencia", &R::dPotencia},
-    {"dVoltaje", &R::dVoltaje},
-    {"dVoltajeMinimo", &R::dVoltajeMinimo},
-    {"dRendimiento", &R::dRendimiento},
-    {"iLuminaria", &R::iLuminaria},
-    {"iTipoRed", &R::iTipoRed},
-    {"dHorasDia", &R::dHorasDia},
-    {"iReservadoA", &R::iReservadoA},
-    {"iReservadoB", &R::iReservadoB},
-    {"bNoCalcular", &R::bNoCalcular},
-    {"dHorario", kHorario},
-});
-
-// The declared order is the archive's, and there is one schema.
-constexpr int kEsquema = 1;
-constexpr auto kArchivo = [] {
-    std::array<efv::framework::ItemArchivo<R>, kCampos.size()> items{};
-    for (std::size_t i = 0; i < items.size(); ++i)
-        items[i] = {kEsquema, kCampos[i].miembro};
-    return items;
-}();
 
 efv::consumption::Franjas FranjasDe(const R& receptor, int iMes, int iDia)
 {
@@ -68,8 +36,7 @@ CSFVDataReceptor& CSFVDataReceptor::operator=(const CSFVDataReceptor& otro) = de
 
 const CRuntimeClass& CSFVDataReceptor::GetThisClass()
 {
-    static const CRuntimeClass clase{"CSFVDataReceptor", &CObject::GetThisClass(),
-                                     &efv::framework::Crear<CSFVDataReceptor>};
+    static const CRuntimeClass clase = efv::framework::ClaseDeRegistro<CSFVDataReceptor>("CSFVDataReceptor");
     return clase;
 }
 
@@ -80,7 +47,7 @@ const CRuntimeClass& CSFVDataReceptor::GetRuntimeClass() const
 
 void CSFVDataReceptor::Serialize(CArchive& ar)
 {
-    efv::framework::SerializarPorTabla(ar, *this, kArchivo, kEsquema);
+    efv::framework::SerializarPorTabla(ar, *this);
 }
 
 unsigned CSFVDataReceptor::InsertarEnLista(CListCtrl& lista, int iMes, int iDia)
@@ -123,12 +90,3 @@ int CSFVDataReceptor::IsNoCalcular() const
 {
     return bNoCalcular;
 }
-
-namespace efv::consumption {
-
-std::vector<CampoRegistro> Campos(CSFVDataReceptor& registro)
-{
-    return framework::Campos(registro, kCampos);
-}
-
-}  // namespace efv::consumption

@@ -1,11 +1,8 @@
-// Registration of the classes that can be created by name, and the records among them.
+// Registration of the classes that can be created by name.
 #include <array>
 
 #include <QuorvelEFV.h>
 
-#include "assistants/asistente_aislada_registro.h"
-#include "assistants/asistente_red_registro.h"
-#include "consumption/registros.h"
 #include "platform/framework/registro_clases.h"
 
 namespace {
@@ -13,74 +10,39 @@ namespace {
 // The order of registration is part of the module's description.
 bool RegistrarClases()
 {
-    constexpr auto clases = std::to_array<const CRuntimeClass& (*)()>({
-        &CBaseXML::GetThisClass,
-        &CBaseAcumuladores::GetThisClass,
-        &CBaseAcumuladorFamilia::GetThisClass,
-        &CBaseAcumuladorModelo::GetThisClass,
-        &CItemConsumo::GetThisClass,
-        &CBaseConvertidores::GetThisClass,
-        &CBaseConvertidorFamilia::GetThisClass,
-        &CBaseConvertidorModelo::GetThisClass,
-        &CBaseFactorK::GetThisClass,
-        &CBaseFactorKLatitud::GetThisClass,
-        &CBaseFactorKAlpha::GetThisClass,
-        &CBaseInversores::GetThisClass,
-        &CBaseInversorFamilia::GetThisClass,
-        &CBaseInversorModelo::GetThisClass,
-        &CBaseMicroInversores::GetThisClass,
-        &CBaseMicroInversorFamilia::GetThisClass,
-        &CBaseMicroInversorModelo::GetThisClass,
-        &CBasePanelFoto::GetThisClass,
-        &CBasePanelFotoFamilia::GetThisClass,
-        &CBasePanelFotoModelo::GetThisClass,
-        &CBaseReceptores::GetThisClass,
-        &CBaseReceptorFamilia::GetThisClass,
-        &CBaseReceptorModelo::GetThisClass,
-        &CSFVAsistenteAislada::GetThisClass,
-        &CSFVAsistenteRed::GetThisClass,
-        &CSFVDataReceptor::GetThisClass,
+    constexpr auto clases = std::to_array<void (*)()>({
+        &efv::framework::RegistrarClase<CBaseXML>,
+        &efv::framework::RegistrarClase<CBaseAcumuladores>,
+        &efv::framework::RegistrarClase<CBaseAcumuladorFamilia>,
+        &efv::framework::RegistrarClase<CBaseAcumuladorModelo>,
+        &efv::framework::RegistrarClase<CItemConsumo>,
+        &efv::framework::RegistrarClase<CBaseConvertidores>,
+        &efv::framework::RegistrarClase<CBaseConvertidorFamilia>,
+        &efv::framework::RegistrarClase<CBaseConvertidorModelo>,
+        &efv::framework::RegistrarClase<CBaseFactorK>,
+        &efv::framework::RegistrarClase<CBaseFactorKLatitud>,
+        &efv::framework::RegistrarClase<CBaseFactorKAlpha>,
+        &efv::framework::RegistrarClase<CBaseInversores>,
+        &efv::framework::RegistrarClase<CBaseInversorFamilia>,
+        &efv::framework::RegistrarClase<CBaseInversorModelo>,
+        &efv::framework::RegistrarClase<CBaseMicroInversores>,
+        &efv::framework::RegistrarClase<CBaseMicroInversorFamilia>,
+        &efv::framework::RegistrarClase<CBaseMicroInversorModelo>,
+        &efv::framework::RegistrarClase<CBasePanelFoto>,
+        &efv::framework::RegistrarClase<CBasePanelFotoFamilia>,
+        &efv::framework::RegistrarClase<CBasePanelFotoModelo>,
+        &efv::framework::RegistrarClase<CBaseReceptores>,
+        &efv::framework::RegistrarClase<CBaseReceptorFamilia>,
+        &efv::framework::RegistrarClase<CBaseReceptorModelo>,
+        &efv::framework::RegistrarClase<CSFVAsistenteAislada>,
+        &efv::framework::RegistrarClase<CSFVAsistenteRed>,
+        &efv::framework::RegistrarClase<CSFVDataReceptor>,
     });
-    for (const auto clase : clases)
-        efv::framework::RegistrarClase(clase());
+    for (const auto registrar : clases)
+        registrar();
     return true;
 }
 
 const bool kRegistradas = RegistrarClases();
 
-using ListaCampos = std::vector<efv::CampoRegistro>;
-using efv::assistants::Campos;
-using efv::consumption::Campos;
-
-// The fields of `registro` when it is an R.
-template <class R>
-bool CamposSiEs(CObject& registro, ListaCampos& campos)
-{
-    auto* propio = dynamic_cast<R*>(&registro);
-    if (propio != nullptr)
-        campos = Campos(*propio);
-    return propio != nullptr;
-}
-
-// Every exported record.
-constexpr auto kRegistros = std::to_array<bool (*)(CObject&, ListaCampos&)>({
-    &CamposSiEs<CSFVAsistenteAislada>,
-    &CamposSiEs<CSFVAsistenteRed>,
-    &CamposSiEs<CSFVDataReceptor>,
-    &CamposSiEs<CItemConsumo>,
-});
-
 }  // namespace
-
-namespace efv {
-
-std::vector<CampoRegistro> CamposDeRegistro(CObject& registro)
-{
-    ListaCampos campos;
-    for (const auto probar : kRegistros)
-        if (probar(registro, campos))
-            break;
-    return campos;
-}
-
-}  // namespace efv

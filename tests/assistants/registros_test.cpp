@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <quorvel/assistants.h>
+#include <quorvel/framework.h>
 #include <quorvel/registros.h>
 
 #include "comun/ficheros.h"
@@ -49,6 +50,7 @@ std::map<std::string, Modelo> LeerModelos()
 // A field in the form of the vectors.
 struct EnTexto {
     std::string operator()(const int* i) const { return std::to_string(*i); }
+    std::string operator()(const auto&) const { return "?"; }  // neither record has another kind of field
     std::string operator()(const double* d) const { return Numero(*d); }
     std::string operator()(const CString* cs) const { return efv::CadenaUtf8(*cs); }
     std::string operator()(const CArray<double, double&>* ad) const
@@ -80,7 +82,7 @@ private:
     }
 };
 
-std::map<std::string, std::string> Valores(CObject& registro)
+std::map<std::string, std::string> Valores(const CObject& registro)
 {
     std::map<std::string, std::string> valores;
     for (const auto& campo : efv::CamposDeRegistro(registro))

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -22,37 +23,22 @@ using assistants::ValoresAislada;
 
 constexpr double kMaximo = 1e9;
 
+// What a project must keep to besides the record's own limits: what an accepted design can't have, and what
+// is no installation any more.
 constexpr auto kRangos = std::to_array<RangoCampo>({
-    {"dDiasAutonomia", {0.01, 365}},
-    {"iAcumuladoresSerie", {1, 100000}},
-    {"iAcumuladoresParalelo", {1, 100000}},
-    {"iPanelesSerie", {1, 100000}},
-    {"iPanelesParalelo", {1, 100000}},
-    {"iMesCalculo", {0, 14}},
+    {"iAcumuladoresSerie", {1, kMaximo}},
+    {"iAcumuladoresParalelo", {1, kMaximo}},
+    {"iPanelesSerie", {1, kMaximo}},
+    {"iPanelesParalelo", {1, kMaximo}},
     {"dTensionSistema", {12, 72}},
     {"dPotenciaMaxFV", {0, kMaximo}},
     {"dCorrienteMaxFV", {0, kMaximo}},
     {"dTensionMaxFV", {0, 10000}},
     {"dTensionMinFV", {0, 10000}},
-    {"bSalidaCA", {0, 1}},
-    {"dTensionSalidaCA", {0, 10000}},
     {"dPotenciaSalidaCA", {0, kMaximo}},
-    {"iTipoSalidaCA", {0, 1}},
-    {"dProfundidadDescarga", {1, 100}},
     {"dPerdidaCableado", {0, 99.99}},
     {"dPerdidaAcumulador", {0, 99.99}},
     {"dPerdidaAcoplamiento", {0, 99.99}},
-    {"dInclinacion", {0, 90}},
-    {"dOrientacion", {-180, 180}},
-    {"iDisposicion", {0, 1}},
-    {"iPanelesPorFila", {0, 100000}},
-    {"dDistanciaPaneles", {0, 25000}},
-    {"dDistanciaFilas", {0, 25000}},
-    {"dKb", {0, 1}},
-    {"dKa", {0, 1}},
-    {"dKc", {0, 1}},
-    {"dKv", {0, 1}},
-    {"dTemperaturaAcumulador", {-10, 50}},
     {"adCantidad", {0, 1e6}},
     {"adHorasDia", {0, 24}},
     {"adHorario", {0, 1440}},
@@ -134,8 +120,8 @@ JsonEscrito ReceptoresJson(const CObArrayPropio<CSFVDataReceptor>& receptores)
 {
     JsonEscrito lista = JsonEscrito::array();
     for (const auto& receptor : receptores) {
-        auto campos = CamposDeRegistro(*receptor);
-        std::erase_if(campos, [](const CampoRegistro& campo) { return campo.nombre == "dHorario"; });
+        auto campos = CamposDeRegistro(std::as_const(*receptor));
+        std::erase_if(campos, [](const CampoRegistroConst& campo) { return campo.nombre == "dHorario"; });
         lista.push_back(ValoresJson(campos));
     }
     return lista;
@@ -206,7 +192,7 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
     diseno.valores = {{"tipo", "aislada"},
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},
-                      {"valores", ValoresJson(assistants::ValoresPorNombre(estudio.v))},
+                      {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
                       {"receptores", ReceptoresJson(proyecto.receptores)},
                       {"meses", AnoJson(estudio.ano)},
                       {"avisos", AvisosJson(avisos)}};

@@ -56,26 +56,43 @@ struct LectorCampo {
     Rango rango;
 
     void operator()(int* i) const { *i = LeerEntero(j, rango); }
+    void operator()(short* n) const
+    {
+        using Limites = std::numeric_limits<short>;
+        const Rango deSuTipo{std::max<double>(rango.dMinimo, Limites::min()),
+                             std::min<double>(rango.dMaximo, Limites::max())};
+        *n = static_cast<short>(LeerEntero(j, deSuTipo));
+    }
     void operator()(double* d) const { *d = LeerNumero(j, rango); }
     void operator()(CString* cs) const { *cs = CadenaDesdeUtf8(LeerTexto(j)); }
+    void operator()(unsigned* n) const
+    {
+        *n = static_cast<unsigned>(LeerEntero(j, {std::max(rango.dMinimo, 0.0), rango.dMaximo}));
+    }
     void operator()(std::span<double> ad) const
     {
         if (!j.is_array() || j.size() != ad.size())
             rpc::Esperaba(fmt::format("una lista de {} números", ad.size()), j);
         for (std::size_t i = 0; i < ad.size(); ++i)
-            rpc::NombrarLugar([&] { return fmt::format("elemento {}", i); },
-                              [&] { ad[i] = LeerNumero(j[i], rango); });
+            LeerElemento(i, &ad[i]);
     }
-    void operator()(CArray<double, double&>* ad) const
+    template <class N, class ARG>
+    void operator()(CArray<N, ARG>* valores) const
     {
-        ad->SetSize(std::ssize(LeerLista(j)));
-        (*this)(std::span(ad->GetData(), j.size()));
+        valores->SetSize(std::ssize(LeerLista(j)));
+        for (std::size_t i = 0; i < j.size(); ++i)
+            LeerElemento(i, &valores->ElementAt(static_cast<std::ptrdiff_t>(i)));
     }
-    void operator()(CStringArray* acs) const
+    void operator()(const ListaRegistros& registros) const { rpc::LeerValor(j, registros); }
+
+private:
+    template <class N>
+    void LeerElemento(std::size_t i, N* valor) const
     {
-        acs->RemoveAll();
-        for (const JsonLeido& elemento : LeerLista(j))
-            acs->Add(CadenaDesdeUtf8(LeerTexto(elemento)));
+        rpc::NombrarLugar([&] { return fmt::format("elemento {}", i); },
+                          [&] {
+                              LectorCampo{j[i], rango}(valor);
+                          });
     }
 };
 
@@ -86,8 +103,10 @@ void Copiar(const ReferenciaCampo& origen, const ReferenciaCampo& destino)
             auto a = std::get<decltype(de)>(destino);
             if constexpr (std::is_pointer_v<decltype(de)>)
                 *a = *de;
-            else
+            else if constexpr (std::is_same_v<decltype(de), std::span<double>>)
                 std::ranges::copy(de, a.begin());
+            else
+                throw rpc::ErrorValor("una lista de registros no se puede fijar");
         },
         origen);
 }
@@ -133,7 +152,9 @@ std::set<std::string> LeerCampos(Objeto& objeto, CObject& registro, std::span<co
         if (j == nullptr)
             continue;
         const auto fila = std::ranges::find(rangos, campo.nombre, &RangoCampo::nombre);
-        const Rango rango = fila == rangos.end() ? Rango{-kSinFin, kSinFin} : fila->rango;
+        const Rango propio = fila == rangos.end() ? Rango{-kSinFin, kSinFin} : fila->rango;
+        const Rango rango{std::max(campo.limites.dMinimo, propio.dMinimo),
+                          std::min(campo.limites.dMaximo, propio.dMaximo)};
         rpc::NombrarLugar([&] { return std::string(campo.nombre); },
                           [&] {
                               std::visit(LectorCampo{*j, rango}, campo.valor);

@@ -32,7 +32,7 @@ struct LugarProyecto {
 /// @throws rpc::ErrorValor, ErrorEjecucion for a place that isn't known
 LugarProyecto LeerLugar(Objeto& proyecto, const std::string& csDatos, bool bExigirRadiacion);
 
-/// Values that a field may have; one without a row takes any finite number.
+/// Values that a field may have within the record's own limits.
 struct RangoCampo {
     std::string_view nombre;
     Rango rango;

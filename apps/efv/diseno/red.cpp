@@ -1,6 +1,7 @@
 #include "diseno/red.h"
 
 #include <array>
+#include <utility>
 
 #include "comun/tabla_k.h"
 #include "diseno/diseno.h"
@@ -10,21 +11,10 @@ namespace efv::orden {
 
 namespace {
 
+// What a project must keep to besides the record's own limits.
 constexpr auto kRangos = std::to_array<RangoCampo>({
-    {"dPotenciaObjetivo", {0.001, 1000000}},
+    {"dPotenciaObjetivo", {0.001, 1e9}},
     {"iTipoSalida", {0, 1}},
-    {"dLongitudL1", {0, 1000}},
-    {"dLongitudL2", {0, 1000}},
-    {"dLongitudL3", {0, 1000}},
-    {"iInversores", {1, 100000}},
-    {"iPanelesSerie", {1, 100000}},
-    {"iPanelesParalelo", {1, 100000}},
-    {"dInclinacion", {0, 90}},
-    {"dOrientacion", {-180, 180}},
-    {"iDisposicion", {0, 1}},
-    {"dPanelesPorFila", {1, 1000}},
-    {"dDistanciaPaneles", {0, 10000}},
-    {"dDistanciaFilas", {0, 100000}},
 });
 
 // In the order of assistants::Limite.
@@ -151,7 +141,7 @@ Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
     diseno.valores = {{"tipo", "red"},
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},
-                      {"valores", ValoresJson(assistants::ValoresPorNombre(estudio.v))},
+                      {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
                       {"comprobacion", ComprobacionJson(proyecto, estudio.comprobacion)},
                       {"meses", estudio.ano ? AnoJson(*estudio.ano) : JsonEscrito()},
                       {"avisos", AvisosJson(avisos)}};

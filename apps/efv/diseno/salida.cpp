@@ -28,6 +28,7 @@ JsonEscrito ListaJson(std::span<const double> ad)
 
 struct Escritor {
     JsonEscrito operator()(const int* i) const { return *i; }
+    JsonEscrito operator()(const short* n) const { return *n; }
     JsonEscrito operator()(const double* d) const { return NumeroJson(*d); }
     JsonEscrito operator()(const CString* cs) const { return CadenaUtf8(*cs); }
     JsonEscrito operator()(std::span<const double> ad) const { return ListaJson(ad); }
@@ -35,11 +36,20 @@ struct Escritor {
     {
         return ListaJson({ad->GetData(), static_cast<std::size_t>(ad->GetSize())});
     }
-    JsonEscrito operator()(const CStringArray* acs) const
+    template <class N, class ARG>
+    JsonEscrito operator()(const CArray<N, ARG>* valores) const
     {
         JsonEscrito lista = JsonEscrito::array();
-        for (const CString& cs : *acs)
-            lista.push_back(CadenaUtf8(cs));
+        for (const N& valor : *valores)
+            lista.push_back((*this)(&valor));
+        return lista;
+    }
+    JsonEscrito operator()(const unsigned* n) const { return *n; }
+    JsonEscrito operator()(const ListaRegistrosConst& registros) const
+    {
+        JsonEscrito lista = JsonEscrito::array();
+        for (std::ptrdiff_t i = 0; i < registros.GetSize(); ++i)
+            lista.push_back(ValoresJson(CamposDeRegistro(registros.GetAt(i))));
         return lista;
     }
 };
@@ -51,10 +61,10 @@ JsonEscrito NumeroJson(double d)
     return std::isfinite(d) ? JsonEscrito(d) : JsonEscrito();
 }
 
-JsonEscrito ValoresJson(const std::vector<CampoRegistro>& valores)
+JsonEscrito ValoresJson(const std::vector<CampoRegistroConst>& valores)
 {
     JsonEscrito json = JsonEscrito::object();
-    for (const CampoRegistro& campo : valores)
+    for (const CampoRegistroConst& campo : valores)
         json[std::string(campo.nombre)] = std::visit(Escritor{}, campo.valor);
     return json;
 }

@@ -21,7 +21,7 @@ using JsonEscrito = nlohmann::ordered_json;
 /// null for what isn't finite.
 JsonEscrito NumeroJson(double d);
 /// Every value by its name in the code.
-JsonEscrito ValoresJson(const std::vector<CampoRegistro>& valores);
+JsonEscrito ValoresJson(const std::vector<CampoRegistroConst>& valores);
 JsonEscrito AvisosJson(const std::vector<Aviso>& avisos);
 JsonEscrito AnoJson(const AnoDiseno& ano);
 JsonEscrito LugarJson(const LugarProyecto& lugar);

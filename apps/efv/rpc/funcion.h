@@ -26,6 +26,26 @@ struct Contexto {
     IBIMCtrl& control;  ///< the scripted host's control
 };
 
+/// The class of a list's records; void of anything else.
+template <class T>
+struct ClaseDeLista {
+    using Tipo = void;
+};
+template <class R>
+struct ClaseDeLista<CObArrayPropio<R>> {
+    using Tipo = R;
+};
+
+/// A list that owns records, by value or by reference.
+template <class T>
+concept EsListaRegistros = !std::is_void_v<typename ClaseDeLista<std::remove_cvref_t<T>>::Tipo>;
+
+/// A class with an archive of its own: such a one is registered with the table of its fields, or the program
+/// doesn't start.
+template <class T>
+concept EsRegistro =
+    std::derived_from<T, CObject> && !std::is_same_v<decltype(&T::Serialize), decltype(&CObject::Serialize)>;
+
 /// Name of a type as a header writes it.
 template <class T>
 std::string NombreTipo()
@@ -59,8 +79,8 @@ std::string NombreTipo()
         return "CStringArray";
     } else if constexpr (std::is_same_v<T, CArray<double, double&>>) {
         return "CArray<double,double&>";
-    } else if constexpr (std::is_same_v<T, CObArrayPropio<CSFVDataReceptor>>) {
-        return "CObArrayPropio<CSFVDataReceptor>";
+    } else if constexpr (EsListaRegistros<T>) {
+        return "CObArrayPropio<" + NombreTipo<typename ClaseDeLista<T>::Tipo>() + ">";
     } else if constexpr (std::is_same_v<T, IBIMCtrl>) {
         return "IBIMCtrl";
     } else {
@@ -105,7 +125,27 @@ public:
     void Escribir(std::string& salida) { EscribirRegistro(salida, m_registro); }
 
 private:
+    static_assert(EsRegistro<std::remove_cvref_t<T>>, "a class without fields has no JSON form");
+
     std::remove_cvref_t<T> m_registro;
+};
+
+/// A list of records, as a list of objects.
+template <EsListaRegistros T>
+class Argumento<T> {
+public:
+    void Leer(const Json& j, const Contexto&) { LeerValor(j, ListaRegistros(m_registros)); }
+    T Pasar() { return m_registros; }
+    void Escribir(std::string& salida)
+    {
+        EscribirValor(salida, ListaRegistrosConst(ListaRegistros(m_registros)));
+    }
+
+private:
+    static_assert(EsRegistro<typename ClaseDeLista<std::remove_cvref_t<T>>::Tipo>,
+                  "a class without fields has no JSON form");
+
+    std::remove_cvref_t<T> m_registros;
 };
 
 /// An output by pointer: like one by reference, the variable is always there.

@@ -51,8 +51,8 @@ const Json& Lista(const Json& j, std::string_view esperado)
     return j;
 }
 
-template <class T>
-void LeerLista(const Json& j, CArray<T>& valores)
+template <class T, class ARG>
+void LeerLista(const Json& j, CArray<T, ARG>& valores)
 {
     valores.SetSize(std::ssize(j));
     std::ptrdiff_t i = 0;
@@ -76,7 +76,7 @@ void EscribirLista(std::string& salida, const Valores& valores)
     salida += ']';
 }
 
-std::string NombresDeCampos(const std::vector<CampoRegistro>& campos)
+std::string NombresDeCampos(std::span<const CampoRegistro> campos)
 {
     std::string nombres;
     for (const CampoRegistro& campo : campos)
@@ -108,6 +108,11 @@ void LeerValor(const Json& j, int& n)
     LeerEntero(j, n, "un entero de 32 bits (-2147483648 a 2147483647)");
 }
 
+void LeerValor(const Json& j, unsigned& n)
+{
+    LeerEntero(j, n, "un entero de 32 bits sin signo (0 a 4294967295)");
+}
+
 void LeerValor(const Json& j, double& d)
 {
     constexpr double infinito = std::numeric_limits<double>::infinity();
@@ -137,6 +142,16 @@ void LeerValor(const Json& j, CArray<double, double&>& ad)
     const Json& lista = Lista(j, "una lista de números");
     ad.SetSize(std::ssize(lista));
     LeerValor(lista, std::span(ad.GetData(), lista.size()));
+}
+
+void LeerValor(const Json& j, CArray<int, int&>& ai)
+{
+    LeerLista(Lista(j, "una lista de enteros"), ai);
+}
+
+void LeerValor(const Json& j, CUIntArray& an)
+{
+    LeerLista(Lista(j, "una lista de enteros sin signo"), an);
 }
 
 void LeerValor(const Json& j, CStringArray& acs)
@@ -171,9 +186,22 @@ void LeerValor(const Json& j, std::span<int> ai)
     LeerFila(j, ai, "enteros");
 }
 
+void LeerValor(const Json& j, const ListaRegistros& registros)
+{
+    registros.RemoveAll();
+    for (const Json& elemento : Lista(j, "una lista de registros"))
+        NombrarLugar([&] { return fmt::format("elemento {}", registros.GetSize() - 1); },
+                     [&] { LeerRegistro(elemento, registros.Add()); });
+}
+
 void EscribirValor(std::string& salida, int n)
 {
     EscribirEntero(salida, n);
+}
+
+void EscribirValor(std::string& salida, unsigned n)
+{
+    salida += std::to_string(n);
 }
 
 void EscribirValor(std::string& salida, double d)
@@ -197,6 +225,16 @@ void EscribirValor(std::string& salida, const wchar_t* cs)
 void EscribirValor(std::string& salida, const CArray<double, double&>& ad)
 {
     EscribirLista(salida, ad);
+}
+
+void EscribirValor(std::string& salida, const CArray<int, int&>& ai)
+{
+    EscribirLista(salida, ai);
+}
+
+void EscribirValor(std::string& salida, const CUIntArray& an)
+{
+    EscribirLista(salida, an);
 }
 
 void EscribirValor(std::string& salida, const CStringArray& acs)
@@ -243,40 +281,41 @@ void EscribirValor(std::string& salida, const CBaseXML& base)
     salida += '}';
 }
 
+void EscribirValor(std::string& salida, const ListaRegistrosConst& registros)
+{
+    salida += '[';
+    for (std::ptrdiff_t i = 0; i < registros.GetSize(); ++i) {
+        if (i > 0)
+            salida += ',';
+        EscribirRegistro(salida, registros.GetAt(i));
+    }
+    salida += ']';
+}
+
 namespace {
 
+// A field is a pointer to its variable, or stands for a list by itself.
 template <class T>
-void EscribirCampo(std::string& salida, const T* valor)
+T& Valor(T* campo)
 {
-    EscribirValor(salida, *valor);
+    return *campo;
 }
-
-void EscribirCampo(std::string& salida, std::span<const double> valores)
-{
-    EscribirValor(salida, valores);
-}
-
 template <class T>
-void LeerCampo(const Json& j, T* destino)
+const T& Valor(const T& campo)
 {
-    LeerValor(j, *destino);
-}
-
-void LeerCampo(const Json& j, std::span<double> destino)
-{
-    LeerValor(j, destino);
+    return campo;
 }
 
 }  // namespace
 
-void EscribirRegistro(std::string& salida, CObject& registro)
+void EscribirRegistro(std::string& salida, const CObject& registro)
 {
     char separador = '{';
-    for (const CampoRegistro& campo : CamposDeRegistro(registro)) {
+    for (const CampoRegistroConst& campo : CamposDeRegistro(registro)) {
         salida += std::exchange(separador, ',');
         EscribirTexto(salida, campo.nombre);
         salida += ':';
-        std::visit([&](auto valor) { EscribirCampo(salida, valor); }, campo.valor);
+        std::visit([&](const auto& valor) { EscribirValor(salida, Valor(valor)); }, campo.valor);
     }
     salida += '}';
 }
@@ -294,9 +333,11 @@ void LeerRegistro(const Json& j, CObject& registro)
         if (campo == campos.end())
             throw ErrorValor(fmt::format("no hay campo «{}»; los campos son {}", nombre.substr(0, kCitaMaxima),
                                          NombresDeCampos(campos)));
-        NombrarLugar(
-            [&] { return "campo " + nombre; },
-            [&] { std::visit([&](auto destino) { LeerCampo(miembro.value(), destino); }, campo->valor); });
+        NombrarLugar([&] { return "campo " + nombre; },
+                     [&] {
+                         std::visit([&](const auto& destino) { LeerValor(miembro.value(), Valor(destino)); },
+                                    campo->valor);
+                     });
     }
 }
 

@@ -22,55 +22,38 @@ namespace efv::orden::rpc {
 void LeerValor(const Json& j, bool& b);
 void LeerValor(const Json& j, short& n);
 void LeerValor(const Json& j, int& n);
+void LeerValor(const Json& j, unsigned& n);
 void LeerValor(const Json& j, double& d);
 void LeerValor(const Json& j, CString& cs);
 void LeerValor(const Json& j, CArray<double, double&>& ad);
+void LeerValor(const Json& j, CArray<int, int&>& ai);
+void LeerValor(const Json& j, CUIntArray& an);
 void LeerValor(const Json& j, CStringArray& acs);
 /// A list of exactly as many numbers as there are places.
 void LeerValor(const Json& j, std::span<double> ad);
 void LeerValor(const Json& j, std::span<int> ai);
+/// A list of records, which are objects; null is an empty one.
+void LeerValor(const Json& j, const ListaRegistros& registros);
 
 void EscribirValor(std::string& salida, int n);
+void EscribirValor(std::string& salida, unsigned n);
 void EscribirValor(std::string& salida, double d);
 void EscribirValor(std::string& salida, std::wstring_view cs);
 void EscribirValor(std::string& salida, const wchar_t* cs);
 void EscribirValor(std::string& salida, const CArray<double, double&>& ad);
+void EscribirValor(std::string& salida, const CArray<int, int&>& ai);
+void EscribirValor(std::string& salida, const CUIntArray& an);
 void EscribirValor(std::string& salida, const CStringArray& acs);
 void EscribirValor(std::string& salida, std::span<const double> ad);
 void EscribirValor(std::string& salida, std::span<const int> ai);
+void EscribirValor(std::string& salida, const ListaRegistrosConst& registros);
 /// {"csArchivo","bEdicion","iCargada","aFamilias":[names of the latitudes or families]}
 void EscribirValor(std::string& salida, const CBaseXML& base);
 
 /// The record as an object, fields in declared order.
-void EscribirRegistro(std::string& salida, CObject& registro);
+void EscribirRegistro(std::string& salida, const CObject& registro);
 /// Fields that `j` lacks keep what they have; one that the record lacks is an error.
 void LeerRegistro(const Json& j, CObject& registro);
-
-/// A list of records, which are objects.
-template <class R>
-void LeerValor(const Json& j, CObArrayPropio<R>& registros)
-{
-    registros.RemoveAll();
-    if (j.is_null())
-        return;
-    if (!j.is_array())
-        Esperaba("una lista de registros", j);
-    for (const Json& elemento : j)
-        NombrarLugar([&] { return "elemento " + std::to_string(registros.GetSize() - 1); },
-                     [&] { LeerRegistro(elemento, registros.Add(std::make_unique<R>())); });
-}
-
-template <class R>
-void EscribirValor(std::string& salida, const CObArrayPropio<R>& registros)
-{
-    salida += '[';
-    for (std::ptrdiff_t i = 0; i < registros.GetSize(); ++i) {
-        if (i > 0)
-            salida += ',';
-        EscribirRegistro(salida, registros[i]);
-    }
-    salida += ']';
-}
 
 /// The numbers of an array of any number of dimensions, in memory order.
 template <class T>

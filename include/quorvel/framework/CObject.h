@@ -10,12 +10,17 @@
 class CArchive;
 class CObject;
 
+namespace efv {
+class TablaRegistro;
+}
+
 /// What is known of a class at run time. One constant object a class, alive as long as the program.
 struct EFV_API CRuntimeClass {
     std::string_view m_szClassName;             ///< name in documents, ASCII
     const CRuntimeClass* m_pBaseClass;          ///< none for CObject
     std::unique_ptr<CObject> (*m_pfnCreate)();  ///< none when the class can't be created by name
     int m_nSchema = 0;  ///< always 0: a record writes its own schema number as its first item
+    const efv::TablaRegistro* m_pTabla = nullptr;  ///< a record's fields; none for every other class
 
     /// A new object of the class; empty when the class can't be created dynamically.
     std::unique_ptr<CObject> CreateObject() const;

@@ -1,7 +1,12 @@
 #include <quorvel/framework/CObject.h>
 
 #include <algorithm>
+#include <stdexcept>
+#include <string>
+#include <variant>
 #include <vector>
+
+#include <quorvel/registros.h>
 
 #include "platform/framework/registro_clases.h"
 
@@ -13,12 +18,26 @@ std::vector<const CRuntimeClass*>& Clases()
     return clases;
 }
 
+void ExigirTabla(const CRuntimeClass& clase)
+{
+    if (clase.m_pTabla == nullptr || clase.m_pfnCreate == nullptr)
+        throw std::logic_error("El registro " + std::string(clase.m_szClassName) +
+                               " no tiene tabla de campos o no se puede crear");
+}
+
 }  // namespace
 
 namespace efv::framework {
 
-void RegistrarClase(const CRuntimeClass& clase)
+void RegistrarClase(const CRuntimeClass& clase, bool bRegistro)
 {
+    if (bRegistro) {
+        ExigirTabla(clase);
+        const auto muestra = clase.CreateObject();
+        for (const CampoRegistro& campo : CamposDeRegistro(*muestra))
+            if (const auto* lista = std::get_if<ListaRegistros>(&campo.valor))
+                ExigirTabla(lista->GetClase());
+    }
     if (CRuntimeClass::FromName(clase.m_szClassName) == nullptr)
         Clases().push_back(&clase);
 }
