@@ -43,9 +43,6 @@ protected:
         if (!bSoloLectura)
             return;
         this->PonerSoloLectura();
-        for (const auto& control : this->Controles())
-            if (dynamic_cast<ui::Casilla*>(control.get()) != nullptr)
-                control->bHabilitado = false;
         if (m_importar != nullptr)
             m_importar->bHabilitado = false;
     }

@@ -60,7 +60,7 @@ bool CDlgVisorNombre::AlAceptar()
         falta = L"El nombre no puede contener el signo #, que separa familia y modelo.";
     if (falta == nullptr)
         return true;
-    foco = Controles().front().get();
+    foco = Controles().front();
     ui::MostrarAviso(falta, ui::Icono::advertencia);
     return false;
 }

@@ -412,7 +412,7 @@ std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vist
     std::vector<Vista*> fuera;
     std::map<int, std::vector<Vista*>> porPagina;
     for (Vista* vista : vistas) {
-        const int iPagina = vista->control.lugar.iPagina;
+        const int iPagina = vista->control.NumeroDePagina();
         if (paginas != nullptr && vista != paginas && iPagina >= 0)
             porPagina[iPagina].push_back(vista);
         else

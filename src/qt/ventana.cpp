@@ -112,9 +112,9 @@ VentanaDialogo* VentanaDialogo::De(const ui::Dialogo& dialogo)
 void VentanaDialogo::CrearVistas()
 {
     const bool bPaginado =
-        std::ranges::any_of(m_dialogo.Controles(), [](const auto& c) { return c->lugar.iPagina >= 0; });
+        std::ranges::any_of(m_dialogo.Controles(), [](const auto& c) { return c->NumeroDePagina() >= 0; });
     for (const auto& control : m_dialogo.Controles()) {
-        auto* pestanas = dynamic_cast<ui::Seleccion*>(control.get());
+        auto* pestanas = dynamic_cast<ui::Seleccion*>(control);
         if (bPaginado && m_paginas == nullptr && pestanas != nullptr &&
             pestanas->forma == ui::Seleccion::Forma::pestanas) {
             auto paginas = CrearPaginas(*pestanas, this, *this);
@@ -327,10 +327,11 @@ void VentanaDialogo::PonerFoco(bool bSeAviso)
     if (vista == nullptr || (!bSeAviso && vista == VistaDe(focusWidget())))
         return;
     m_bMoviendoFoco = bSeAviso;
-    if (m_paginas != nullptr && control->lugar.iPagina >= 0) {
-        // The person sees that page now; it wasn't chosen, so nothing follows from it.
-        static_cast<ui::Seleccion&>(m_paginas->control).iSeleccion = control->lugar.iPagina;
-        m_paginas->Mostrar(control->lugar.iPagina);
+    if (m_paginas != nullptr && control->NumeroDePagina() >= 0) {
+        // The person sees that page now; it wasn't chosen, so the one in front isn't asked.
+        m_dialogo.TraerAlFrente(control->NumeroDePagina());
+        static_cast<ui::Seleccion&>(m_paginas->control).iSeleccion = control->NumeroDePagina();
+        m_paginas->Mostrar(control->NumeroDePagina());
     }
     vista->Enfocar();
     if (auto* rollo = findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
@@ -343,7 +344,7 @@ void VentanaDialogo::EnfocarPrimera()
 {
     Vista* primera = VistaDe(m_dialogo.foco);
     for (const auto& vista : m_vistas) {
-        const int iPagina = vista->control.lugar.iPagina;
+        const int iPagina = vista->control.NumeroDePagina();
         const bool bALaVista =
             iPagina < 0 || m_paginas == nullptr ||
             iPagina == std::max(0, static_cast<const ui::Seleccion&>(m_paginas->control).iSeleccion);

@@ -1,5 +1,7 @@
 #include <quorvel/ui/controles.h>
 
+#include <quorvel/ui/pagina.h>
+
 namespace efv::ui {
 
 Control::~Control() = default;
@@ -47,15 +49,28 @@ void Imagen::Visitar(VisitanteControl& v)
     v.Ver(*this);
 }
 
+int Control::NumeroDePagina() const
+{
+    return pagina != nullptr ? pagina->Numero() : lugar.iPagina;
+}
+
 Valor Edicion::ValorActual() const
 {
     if (const auto* entero = std::get_if<int*>(&destino))
         return **entero;
+    if (const auto* corto = std::get_if<short*>(&destino))
+        return static_cast<int>(**corto);
     if (const auto* doble = std::get_if<double*>(&destino))
         return **doble;
     if (const auto* texto = std::get_if<CString*>(&destino))
         return **texto;
     return csTexto;
+}
+
+void Seleccion::PonerSoloLectura()
+{
+    if (forma == Forma::combo || forma == Forma::radio)
+        bHabilitado = false;
 }
 
 CString Seleccion::Texto() const

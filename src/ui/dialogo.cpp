@@ -1,6 +1,7 @@
 #include <quorvel/ui/dialogo.h>
 
 #include <algorithm>
+#include <utility>
 
 #include <quorvel/ui/presentador.h>
 
@@ -14,8 +15,14 @@ Dialogo::Dialogo(std::string_view nombreClase, std::wstring_view titulo) : clase
 
 Dialogo::~Dialogo() = default;
 
+void Dialogo::Ordenar(Control& control)
+{
+    m_orden.push_back(&control);
+}
+
 int Dialogo::Mostrar()
 {
+    AvisarFrente();
     PresentadorActual().MostrarModal(*this);
     if (!Terminado())
         Cancelar();
@@ -34,66 +41,92 @@ void Avisar(const F& accion, Args... args)
 
 }  // namespace
 
+// ---------------------------------------------------------------------------------------------------
+// What a person does
+// ---------------------------------------------------------------------------------------------------
+
+// The focus goes elsewhere: who typed into a field has left it.
+void Dialogo::DejarLoTecleado(const Control* destino)
+{
+    if (m_tecleado != nullptr && m_tecleado != destino)
+        Salir(*m_tecleado);
+}
+
 void Dialogo::Teclear(Edicion& control, const CString& csTexto)
 {
+    DejarLoTecleado(&control);
     foco = &control;
+    m_tecleado = &control;
     control.csTexto = csTexto;
     Avisar(control.alCambiar);
 }
 
 void Dialogo::Salir(Edicion& control)
 {
+    if (m_tecleado != &control && foco != &control)
+        return;
     if (foco == &control)
         foco = nullptr;
+    m_tecleado = nullptr;
     Avisar(control.alSalir);
 }
 
 void Dialogo::Elegir(Seleccion& control, int iEntrada)
 {
-    control.iSeleccion = iEntrada;
+    DejarLoTecleado(&control);
+    if (&control != m_pestanas)
+        control.iSeleccion = iEntrada;
+    else if (!CambiarDePagina(iEntrada))
+        return;
     Avisar(control.alElegir);
 }
 
 void Dialogo::Elegir(Lista& control, int iFila)
 {
+    DejarLoTecleado(&control);
     control.iSeleccion = iFila;
     Avisar(control.alElegir);
 }
 
 void Dialogo::Abrir(Lista& control, int iFila, int iColumna)
 {
+    DejarLoTecleado(&control);
     control.iSeleccion = iFila;
     Avisar(control.alAbrir, iFila, iColumna);
 }
 
 void Dialogo::Marcar(Casilla& control, bool bMarcada)
 {
+    DejarLoTecleado(&control);
     control.bMarcada = bMarcada;
     Avisar(control.alCambiar);
 }
 
 void Dialogo::Pulsar(Boton& control)
 {
+    DejarLoTecleado(&control);
     Avisar(control.alPulsar);
 }
 
 void Dialogo::Mover(Deslizador& control, int iValor)
 {
+    DejarLoTecleado(&control);
     control.iValor = std::max(control.iMinimo, std::min(iValor, control.iMaximo));
     Avisar(control.alMover);
 }
 
 std::optional<Rechazo> Dialogo::Aceptar()
 {
+    DejarLoTecleado(nullptr);
     if (!AntesDeAceptar())
         return std::nullopt;
-    const int nPaginas = m_paginas != nullptr ? static_cast<int>(m_paginas->acsEntradas.size()) : 0;
+    const int nPaginas = m_pestanas != nullptr ? static_cast<int>(m_pestanas->acsEntradas.size()) : 0;
     for (int iPagina = -1; iPagina < nPaginas; ++iPagina) {
         if (auto rechazo = RecogerPagina(iPagina)) {
             IrA(*rechazo->control);
             return rechazo;
         }
-        if (!AlRecogerPagina(iPagina))
+        if (!TomarPagina(iPagina))
             return std::nullopt;
     }
     if (AlAceptar() && !Terminado())
@@ -112,6 +145,10 @@ void Dialogo::VencerTemporizador()
     AlVencerTemporizador();
 }
 
+// ---------------------------------------------------------------------------------------------------
+// Data exchange
+// ---------------------------------------------------------------------------------------------------
+
 std::optional<Rechazo> Dialogo::Recoger()
 {
     return RecogerLosQue([](const Control&) { return true; });
@@ -121,32 +158,24 @@ std::optional<Rechazo> Dialogo::Recoger()
 std::optional<Rechazo> Dialogo::RecogerPagina(int iPagina)
 {
     return RecogerLosQue(
-        [&](const Control& control) { return m_paginas == nullptr || control.lugar.iPagina == iPagina; });
+        [&](const Control& control) { return m_pestanas == nullptr || control.NumeroDePagina() == iPagina; });
 }
 
 std::optional<Rechazo> Dialogo::RecogerLosQue(const std::function<bool(const Control&)>& elegido)
 {
-    for (const auto& control : m_controles)
+    for (Control* control : m_orden)
         if (elegido(*control))
             if (auto csFalta = ui::Recoger(*control))
-                return Rechazo{control.get(), std::move(*csFalta)};
+                return Rechazo{control, std::move(*csFalta)};
     return std::nullopt;
 }
 
 // The focus goes there, on its page.
 void Dialogo::IrA(Control& control)
 {
-    if (m_paginas != nullptr && control.lugar.iPagina >= 0)
-        m_paginas->iSeleccion = control.lugar.iPagina;
+    if (control.NumeroDePagina() >= 0)
+        TraerAlFrente(control.NumeroDePagina());
     foco = &control;
-}
-
-Seleccion& Dialogo::AnadirPaginas(std::vector<CString> acsTitulos)
-{
-    m_paginas = &Anadir<Seleccion>("tab", L"", Seleccion::Forma::pestanas);
-    m_paginas->acsEntradas = std::move(acsTitulos);
-    m_paginas->iSeleccion = 0;
-    return *m_paginas;
 }
 
 bool Dialogo::RecogerAvisando()
@@ -161,22 +190,86 @@ bool Dialogo::RecogerAvisando()
 
 void Dialogo::Volcar()
 {
-    for (const auto& control : m_controles)
+    for (Control* control : m_orden)
         ui::Volcar(*control);
 }
 
 void Dialogo::PonerSoloLectura()
 {
-    for (const auto& control : m_controles) {
-        const auto* seleccion = dynamic_cast<const Seleccion*>(control.get());
-        if (dynamic_cast<const Edicion*>(control.get()) != nullptr)
-            control->bSoloLectura = true;
-        else if (dynamic_cast<const Deslizador*>(control.get()) != nullptr ||
-                 (seleccion != nullptr && seleccion->forma == Seleccion::Forma::combo))
-            control->bHabilitado = false;
-    }
+    for (Control* control : m_orden)
+        control->PonerSoloLectura();
     bAceptarVisible = false;
     csCancelar = L"&Cerrar";
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Pages
+// ---------------------------------------------------------------------------------------------------
+
+void Dialogo::CrearPestanas()
+{
+    if (m_pestanas != nullptr)
+        return;
+    m_pestanas = &Anadir<Seleccion>("tab", L"", Seleccion::Forma::pestanas);
+    m_pestanas->iSeleccion = 0;
+}
+
+void Dialogo::Incorporar(std::unique_ptr<Pagina> pagina)
+{
+    m_pestanas->acsEntradas.push_back(pagina->csTitulo);
+    m_paginas.push_back(std::move(pagina));
+}
+
+Seleccion& Dialogo::AnadirPaginas(std::vector<CString> acsTitulos)
+{
+    CrearPestanas();
+    m_pestanas->acsEntradas = std::move(acsTitulos);
+    return *m_pestanas;
+}
+
+Pagina* Dialogo::EnFrente() const
+{
+    const int iPagina = PaginaAlFrente();
+    return iPagina >= 0 && iPagina < std::ssize(m_paginas) ? m_paginas[static_cast<std::size_t>(iPagina)].get()
+                                                           : nullptr;
+}
+
+void Dialogo::AvisarFrente()
+{
+    Pagina* const pagina = EnFrente();
+    if (pagina == nullptr)
+        return;
+    if (!std::exchange(pagina->m_bAbierta, true))
+        Avisar(pagina->alAbrir);
+    Avisar(pagina->alFrente);
+}
+
+void Dialogo::TraerAlFrente(int iPagina)
+{
+    if (m_pestanas == nullptr || iPagina == m_pestanas->iSeleccion)
+        return;
+    m_pestanas->iSeleccion = iPagina;
+    AvisarFrente();
+}
+
+// The page in front may refuse to be left.
+bool Dialogo::CambiarDePagina(int iPagina)
+{
+    const Pagina* const pagina = EnFrente();
+    if (pagina != nullptr && iPagina != pagina->Numero() && pagina->alDejar && !pagina->alDejar())
+        return false;
+    TraerAlFrente(iPagina);
+    return true;
+}
+
+bool Dialogo::TomarPagina(int iPagina)
+{
+    if (iPagina >= 0 && iPagina < std::ssize(m_paginas)) {
+        const Pagina& pagina = *m_paginas[static_cast<std::size_t>(iPagina)];
+        if (pagina.alRecoger && !pagina.alRecoger())
+            return false;
+    }
+    return AlRecogerPagina(iPagina);
 }
 
 void Dialogo::Terminar(int iResultado)

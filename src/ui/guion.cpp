@@ -6,6 +6,7 @@
 #include <quorvel/ui/dialogo.h>
 
 #include "platform/numero/conversion.h"
+#include "ui/como.h"
 
 namespace efv::ui {
 
@@ -90,34 +91,72 @@ std::string NombreEnLectura(const Control& control)
     return CadenaUtf8(control.csRotulo.empty() ? control.Texto() : control.csRotulo);
 }
 
+bool TieneRotulo(const Control& control, const CString& csRotulo)
+{
+    return control.csRotulo == csRotulo || SinMnemonico(control.csRotulo) == csRotulo;
+}
+
+// The controls that `elegido` takes, on the page in front and outside the pages or elsewhere.
+template <class F>
+std::vector<Control*> Los(const Dialogo& dialogo, bool bALaVista, F elegido)
+{
+    std::vector<Control*> elegidos;
+    for (Control* control : dialogo.Controles()) {
+        const int iPagina = control->NumeroDePagina();
+        if ((iPagina < 0 || iPagina == dialogo.PaginaAlFrente()) == bALaVista && elegido(*control))
+            elegidos.push_back(control);
+    }
+    return elegidos;
+}
+
+// A field's name means the control of the page in front, else the one outside the pages; of two in the same
+// place, the first.
+Control* DelFrente(const Dialogo& dialogo, const std::vector<Control*>& controles)
+{
+    const auto deFrente = std::ranges::find_if(controles, [&](const Control* control) {
+        return control->NumeroDePagina() >= 0 && control->NumeroDePagina() == dialogo.PaginaAlFrente();
+    });
+    return deFrente != controles.end() ? *deFrente : controles.front();
+}
+
+// By field or caption. What can be seen comes first; a page behind it is meant where nothing else is called
+// the same.
 Control& Buscar(const Dialogo& dialogo, const std::string& nombre)
 {
     const CString csNombre = CadenaDesdeUtf8(nombre);
-    Control* porRotulo = nullptr;
-    for (const auto& control : dialogo.Controles()) {
-        if (!control->nombre.empty() && control->nombre == nombre)
-            return *control;
-        if (control->csRotulo != csNombre && SinMnemonico(control->csRotulo) != csNombre)
-            continue;
-        if (porRotulo != nullptr)
-            throw ErrorDePaso{"control \"" + nombre + "\": dos controles tienen ese rótulo"};
-        porRotulo = control.get();
-    }
-    if (porRotulo == nullptr)
-        throw ErrorDePaso{"control \"" + nombre + "\": no existe en " + dialogo.clase};
-    return *porRotulo;
+    const auto porNombre = [&](const Control& c) { return !c.nombre.empty() && c.nombre == nombre; };
+    const auto porRotulo = [&](const Control& c) { return TieneRotulo(c, csNombre); };
+    const auto unico = [&](const std::vector<Control*>& controles, std::string_view que) -> Control& {
+        if (controles.size() > 1)
+            throw ErrorDePaso{"control \"" + nombre + "\": dos controles tienen ese " + std::string(que)};
+        return *controles.front();
+    };
+    if (const auto hallados = Los(dialogo, true, porNombre); !hallados.empty())
+        return *DelFrente(dialogo, hallados);
+    if (const auto hallados = Los(dialogo, false, porNombre); !hallados.empty())
+        return unico(hallados, "nombre");
+    if (const auto hallados = Los(dialogo, true, porRotulo); !hallados.empty())
+        return unico(hallados, "rótulo");
+    if (const auto hallados = Los(dialogo, false, porRotulo); !hallados.empty())
+        return unico(hallados, "rótulo");
+    throw ErrorDePaso{"control \"" + nombre + "\": no existe en " + dialogo.clase};
 }
 
-// The control as a C that a person can use now.
-template <class C>
-C& Usable(const Dialogo& dialogo, const std::string& nombre)
+// The control, as a C where one is asked for, that a person can use now.
+Control& Usable(const Dialogo& dialogo, const std::string& nombre)
 {
     Control& control = Buscar(dialogo, nombre);
     if (!control.bVisible)
         throw ErrorDePaso{"control \"" + nombre + "\": está oculto"};
     if (!control.bHabilitado)
         throw ErrorDePaso{"control \"" + nombre + "\": está inhabilitado"};
-    auto* propio = dynamic_cast<C*>(&control);
+    return control;
+}
+
+template <class C>
+C& Usable(const Dialogo& dialogo, const std::string& nombre)
+{
+    C* const propio = Como<C>(Usable(dialogo, nombre));
     if (propio == nullptr)
         throw ErrorDePaso{"control \"" + nombre + "\": no admite este paso"};
     return *propio;
@@ -198,8 +237,7 @@ public:
 
     void operator()(const paso::Elegir& p)
     {
-        auto& control = Usable<Control>(m_dialogo, p.control);
-        if (auto* lista = dynamic_cast<Lista*>(&control)) {
+        if (Lista* const lista = Como<Lista>(Usable(m_dialogo, p.control))) {
             const int* i = std::get_if<int>(&p.entrada);
             m_dialogo.Elegir(*lista, i != nullptr ? IndiceValido(*i, lista->Filas(), p.control)
                                                   : FilaDe(*lista, std::get<CString>(p.entrada), p.control));
@@ -249,7 +287,7 @@ public:
     {
         std::vector<std::pair<std::string, EstadoControl>> lectura;
         if (p.controles.empty()) {
-            for (const auto& control : m_dialogo.Controles())
+            for (Control* control : Los(m_dialogo, true, [&](const Control& c) { return SeLee(c); }))
                 lectura.emplace_back(NombreEnLectura(*control), Observar(*control));
         }
         for (const std::string& nombre : p.controles)
@@ -261,10 +299,17 @@ private:
     // Nested dialogs add transcripts: a reference wouldn't last.
     ui::Transcripcion& Transcripcion() { return m_presentador.transcripciones[m_iTranscripcion]; }
 
+    // A name outside the pages that the page in front has as well means the latter.
+    bool SeLee(const Control& control) const
+    {
+        return control.nombre.empty() || control.NumeroDePagina() >= 0 ||
+               Buscar(m_dialogo, control.nombre).NumeroDePagina() < 0;
+    }
+
     // A slider is set by a number's text, like a field; false when the control is none.
     bool Mover(const std::string& nombre, const CString& csTexto)
     {
-        if (dynamic_cast<const Deslizador*>(&Buscar(m_dialogo, nombre)) == nullptr)
+        if (Como<Deslizador>(Buscar(m_dialogo, nombre)) == nullptr)
             return false;
         auto& deslizador = Escribible<Deslizador>(m_dialogo, nombre);
         m_dialogo.Mover(deslizador, PosicionEn(deslizador, csTexto, nombre));

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
+#include <type_traits>
+#include <utility>
 
 #include <fmt/format.h>
 
@@ -66,8 +69,9 @@ public:
 
     void Ver(Seleccion& c) override
     {
+        // Who chose nothing leaves a value alone that is none of the entries.
         auto* destino = std::get_if<int*>(&c.destino);
-        if (destino != nullptr && c.intercambio == Intercambio::automatico)
+        if (destino != nullptr && c.intercambio == Intercambio::automatico && c.iSeleccion >= 0)
             **destino = c.iSeleccion;
     }
 
@@ -87,29 +91,41 @@ private:
             *destino = *d;
     }
 
-    void Tomar(const Edicion& c, int* destino)
+    // A field of whole numbers takes no fraction.
+    template <class ENTERO>
+    void Tomar(const Edicion& c, ENTERO* destino)
     {
         const auto d = Numero(c);
         if (!d)
             return;
-        // A field of whole numbers takes no fraction.
+        // A large number saturates in a variable of 32 bits; one of 16 has no room to speak of.
+        constexpr Intervalo kCabida{std::numeric_limits<ENTERO>::min(), std::numeric_limits<ENTERO>::max()};
         if (*d != std::trunc(*d))
-            csFalta = kNoEsNumero;
+            Falta(c, CString(kNoEsNumero));
+        else if (!std::is_same_v<ENTERO, int> && !Dentro(*d, kCabida))
+            Falta(c, MensajeDeLimites(kCabida));
         else
-            *destino = numero::Entero(*d);
+            *destino = static_cast<ENTERO>(numero::Entero(*d));
     }
 
+    // Nobody could mend what isn't seen: a hidden field is never at fault.
+    void Falta(const Edicion& c, CString csTexto)
+    {
+        if (c.bVisible)
+            csFalta = std::move(csTexto);
+    }
+
+    // The number that the field says, in stored units; nothing when its variable keeps what it has.
     std::optional<double> Numero(const Edicion& c)
     {
         double d = 0.0;
         if (!numero::nuConvertIntlStrToFlt(c.csTexto, d)) {
-            // Nobody could mend what isn't seen: its variable keeps what it has.
-            if (c.bVisible)
-                csFalta = kNoEsNumero;
+            Falta(c, CString(kNoEsNumero));
             return std::nullopt;
         }
         d = DelUsuario(c, d);
-        if (const auto limites = c.limites.Ahora(); limites && !Dentro(d, *limites)) {
+        const auto limites = c.bVisible ? c.limites.Ahora() : std::nullopt;
+        if (limites && !Dentro(d, *limites)) {
             csFalta = MensajeDeLimites({AlUsuario(c, limites->dMinimo), AlUsuario(c, limites->dMaximo)});
             return std::nullopt;
         }
@@ -145,6 +161,7 @@ private:
     static void Escribir(const Edicion&, std::monostate) {}
     static void Escribir(Edicion& c, const CString* origen) { c.csTexto = *origen; }
     static void Escribir(Edicion& c, const int* origen) { c.csTexto = std::to_wstring(*origen); }
+    static void Escribir(Edicion& c, const short* origen) { c.csTexto = std::to_wstring(*origen); }
     static void Escribir(Edicion& c, const double* origen)
     {
         c.csTexto = numero::nuConvertFltToIntlStr(AlUsuario(c, *origen), c.iDecimales);

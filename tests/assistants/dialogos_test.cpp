@@ -302,7 +302,10 @@ protected:
 // one branch of two panels.
 TEST_F(AsistenteAislada, AbrirYAceptarPoneLaPropuestaEnElRegistro)
 {
-    EXPECT_EQ(Correr({paso::Leer{}, paso::Pulsar{"OK"}}), 1);
+    EXPECT_EQ(Correr({paso::Leer{{"lReceptores", "listaRadiacion", "dCapacidadNecesaria", "csMesReferencia",
+                                  "dTensionSistema", "dHSPP", "dPotenciaMaxFV"}},
+                      paso::Pulsar{"OK"}}),
+              1);
     const auto& lista = std::get<ui::EstadoControl::DeLista>(guion.Estado(0, 0, "lReceptores").propio);
     ASSERT_EQ(lista.filas.size(), 1U);
     EXPECT_EQ(lista.filas[0], (std::vector<CString>{L"2", L"A#r", L"CA", L"100,00", L"02:00 h", L"400,00"}));

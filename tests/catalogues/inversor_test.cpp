@@ -106,8 +106,8 @@ TEST_F(Inversor, UnFicheroViejoGanaLosAtributosQueLeFaltan)
 TEST_F(Inversor, UnModeloNuevoTieneFactorYRendimientoPropuestos)
 {
     fichero.Modelo(kViejo);
-    guion.Dialogo(kDialogo,
-                  {paso::Leer{}, paso::Pulsar{"OK"}, paso::Poner{"csModelo", L"nuevo"}, paso::Pulsar{"OK"}});
+    guion.Dialogo(kDialogo, {paso::Leer{{"dFP", "dRendMax", "csICCMaxMPPT", "csFabricante"}},
+                             paso::Pulsar{"OK"}, paso::Poner{"csModelo", L"nuevo"}, paso::Pulsar{"OK"}});
     fichero.Visor(guion, {paso::Elegir{"arbol", 0}, paso::Pulsar{"Nuevo"}, paso::Pulsar{"OK"}});
     EXPECT_EQ(guion.Texto(1, 0, "dFP"), L"1,00");
     EXPECT_EQ(guion.Texto(1, 0, "dRendMax"), L"99,00");
@@ -195,9 +195,12 @@ TEST_F(Inversor, ElOndLlenaLaFichaConSusDosRarezas)
 {
     fichero.Modelo("csModelo='i' iUsoPrincipal='1' dVCCMin='150' dICCMin='0.5' dRendMax='90' dFP='1'");
     const CString csOnd = fichero.Fichero("i.ond", kOnd);
-    fichero.Editar(guion, kDialogo,
-                   {paso::Fichero{csOnd}, paso::Pulsar{"Importar archivo .OND de PVSyst ..."}, paso::Leer{},
-                    paso::Pulsar{"OK"}, paso::Poner{"iNumEntradas", L"2"}, paso::Pulsar{"OK"}});
+    fichero.Editar(
+        guion, kDialogo,
+        {paso::Fichero{csOnd}, paso::Pulsar{"Importar archivo .OND de PVSyst ..."},
+         paso::Leer{{"csFabricante", "dPCCMax", "dPCANom", "iNumEntradas", "csICCMaxMPPT", "csICCMinMPPT",
+                     "dVCCMin", "dFP", "dLargo", "dAlto", "iTipoSalida", "csIndicacionMPPT"}},
+         paso::Pulsar{"OK"}, paso::Poner{"iNumEntradas", L"2"}, paso::Pulsar{"OK"}});
     const auto texto = [&](const char* campo) { return guion.Texto(1, 0, campo); };
     EXPECT_EQ(texto("csFabricante"), L"Casa");
     EXPECT_EQ(texto("dPCCMax"), L"5200,00");

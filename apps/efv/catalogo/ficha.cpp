@@ -95,11 +95,11 @@ public:
         for (const auto& control : dialogo.Controles()) {
             if (control->nombre != campo.nombre)
                 continue;
-            if (const auto* edicion = dynamic_cast<const ui::Edicion*>(control.get()))
+            if (const auto* edicion = dynamic_cast<const ui::Edicion*>(control))
                 m_iDecimales = edicion->iDecimales;
-            if (const auto* seleccion = dynamic_cast<const Seleccion*>(control.get()))
+            if (const auto* seleccion = dynamic_cast<const Seleccion*>(control))
                 m_acsEntradas = seleccion->acsEntradas;
-            if (dynamic_cast<const ui::Casilla*>(control.get()) != nullptr)
+            if (dynamic_cast<const ui::Casilla*>(control) != nullptr)
                 m_acsEntradas = {L"No", L"Sí"};
         }
         const bool bTexto = campo.clase == CampoCatalogo::Clase::texto || !m_acsEntradas.empty();

@@ -93,7 +93,7 @@ private:
     {
         ui::Seleccion* paginas = nullptr;
         for (const auto& control : dialogo.Controles())
-            if (auto* seleccion = dynamic_cast<ui::Seleccion*>(control.get());
+            if (auto* seleccion = dynamic_cast<ui::Seleccion*>(control);
                 seleccion != nullptr && seleccion->forma == ui::Seleccion::Forma::pestanas)
                 paginas = seleccion;
         if (paginas == nullptr)

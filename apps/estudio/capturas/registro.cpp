@@ -17,7 +17,7 @@ ui::Control* Buscar(const ui::Dialogo& dialogo, std::string_view nombre)
 {
     for (const auto& control : dialogo.Controles())
         if (control->nombre == nombre || CadenaUtf8(control->csRotulo) == nombre)
-            return control.get();
+            return control;
     return nullptr;
 }
 

@@ -18,7 +18,7 @@ namespace efv::ui {
 
 /// Where a control stands, as a hint for whoever lays the dialog out.
 struct Lugar {
-    int iPagina = -1;              ///< page of the dialog's tabs; -1 outside them
+    int iPagina = -1;              ///< page of the dialog's tabs; -1 outside them, or said by who owns it
     std::wstring_view grupo = {};  ///< framed group of that caption; empty for none
     int iColumna = 0;
     bool bEstirar = false;  ///< takes the room that is left
@@ -28,7 +28,7 @@ struct Lugar {
 using Valor = std::variant<std::monostate, bool, int, double, CString>;
 
 /// The variable that a control's content is exchanged with.
-using Destino = std::variant<std::monostate, int*, double*, CString*>;
+using Destino = std::variant<std::monostate, int*, short*, double*, CString*>;
 
 struct Intervalo {
     double dMinimo, dMaximo;  ///< in stored units, both allowed
@@ -57,14 +57,12 @@ enum class Intercambio {
     aMano         ///< the dialog reads and writes it itself
 };
 
+class Pagina;
 class VisitanteControl;
 
 class EFV_API Control {
 public:
-    Control(std::string nombreCampo, std::wstring_view rotulo)
-        : nombre(std::move(nombreCampo)), csRotulo(rotulo)
-    {
-    }
+    Control(std::string_view nombreCampo, std::wstring_view rotulo) : nombre(nombreCampo), csRotulo(rotulo) {}
     virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
@@ -76,6 +74,13 @@ public:
     bool bSoloLectura = false;
     Color color = kNegro;
     Lugar lugar;
+    const Pagina* pagina = nullptr;  ///< page that owns it; null: the dialog itself
+
+    /// Page that it stands on, from 0; -1 outside the pages.
+    int NumeroDePagina() const;
+
+    /// Locks it where nothing may be changed.
+    virtual void PonerSoloLectura() {}
 
     /// What it shows, as text.
     virtual CString Texto() const = 0;
@@ -108,6 +113,7 @@ public:
     std::function<void()> alCambiar;  ///< after each change of the text by the person
     std::function<void()> alSalir;    ///< when it loses the focus
 
+    void PonerSoloLectura() override { bSoloLectura = true; }
     CString Texto() const override { return csTexto; }
     Valor ValorActual() const override;
     void Visitar(VisitanteControl& visitante) override;
@@ -120,6 +126,7 @@ public:
     Destino destino;  ///< an int, 0 or 1
     std::function<void()> alCambiar;
 
+    void PonerSoloLectura() override { bHabilitado = false; }
     CString Texto() const override { return csRotulo; }
     Valor ValorActual() const override { return bMarcada; }
     void Visitar(VisitanteControl& visitante) override;
@@ -131,18 +138,19 @@ class EFV_API Seleccion final : public Control {
 public:
     enum class Forma { combo, radio, pestanas, menu };
 
-    Seleccion(std::string nombreCampo, std::wstring_view rotulo, Forma formaControl)
-        : Control(std::move(nombreCampo), rotulo), forma(formaControl)
+    Seleccion(std::string_view nombreCampo, std::wstring_view rotulo, Forma formaControl)
+        : Control(nombreCampo, rotulo), forma(formaControl)
     {
     }
 
     const Forma forma;
     std::vector<CString> acsEntradas;
-    int iSeleccion = -1;  ///< -1: none
+    int iSeleccion = -1;  ///< -1: none, and its variable stays as it is
     Destino destino;      ///< an int, the entry's index
     Intercambio intercambio = Intercambio::automatico;
     std::function<void()> alElegir;  ///< after the person chose, also the same entry again
 
+    void PonerSoloLectura() override;
     CString Texto() const override;
     Valor ValorActual() const override { return iSeleccion; }
     void Visitar(VisitanteControl& visitante) override;
@@ -179,8 +187,8 @@ class EFV_API Lista final : public Control {
 public:
     enum class Forma { tabla, arbol };
 
-    Lista(std::string nombreCampo, std::wstring_view rotulo, Forma formaControl)
-        : Control(std::move(nombreCampo), rotulo), forma(formaControl)
+    Lista(std::string_view nombreCampo, std::wstring_view rotulo, Forma formaControl)
+        : Control(nombreCampo, rotulo), forma(formaControl)
     {
     }
 
@@ -229,6 +237,7 @@ public:
     std::function<void()> alMover;     ///< after each movement by the person, at every place on the way
     std::function<CString(int)> leer;  ///< how a value reads; none: as its number
 
+    void PonerSoloLectura() override { bHabilitado = false; }
     CString Texto() const override { return leer ? leer(iValor) : std::to_wstring(iValor); }
     Valor ValorActual() const override { return iValor; }
     void Visitar(VisitanteControl& visitante) override;

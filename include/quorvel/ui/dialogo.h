@@ -15,6 +15,7 @@
 #include <quorvel/exportar.h>
 #include <quorvel/framework/CString.h>
 #include <quorvel/ui/controles.h>
+#include <quorvel/ui/pagina.h>
 
 namespace efv::ui {
 
@@ -24,12 +25,12 @@ struct Rechazo {
     CString csTexto;
 };
 
-class EFV_API Dialogo {
+class EFV_API Dialogo : public Contenedor {
 public:
     enum Resultado : int { ok = 1, cancelado = 2 };
 
     Dialogo(std::string_view nombreClase, std::wstring_view titulo);
-    virtual ~Dialogo();
+    ~Dialogo() override;
     Dialogo(const Dialogo&) = delete;
     Dialogo& operator=(const Dialogo&) = delete;
 
@@ -42,17 +43,23 @@ public:
     Control* foco = nullptr;  ///< where the next key goes; null leaves it to the presenter
     int iTemporizador = 0;    ///< period of the dialog's timer in ms; 0: none runs
 
-    /// In tab order.
-    std::span<const std::unique_ptr<Control>> Controles() const { return m_controles; }
+    /// Its own and those of its pages, in tab order.
+    std::span<Control* const> Controles() const { return m_orden; }
+
+    /// The choice of the page in front; null without pages.
+    Seleccion* Pestanas() const { return m_pestanas; }
+    /// Page in front, from 0; -1 without pages.
+    int PaginaAlFrente() const { return m_pestanas != nullptr ? m_pestanas->iSeleccion : -1; }
 
     /// Shows the dialog through the current presenter until it ends.
     int Mostrar();
 
-    // -- What a person can do. The control must be visible and enabled, and writable for typing.
+    // -- What a person can do. The control must be visible and enabled, and writable for typing. A field
+    // that was typed into is left first by whatever is done elsewhere, but for cancelling.
 
     /// Types `csTexto` over the field's content; the focus stays in it.
     void Teclear(Edicion& control, const CString& csTexto);
-    /// Leaves the field.
+    /// Leaves the field, unless what was done elsewhere has left it already.
     void Salir(Edicion& control);
     void Elegir(Seleccion& control, int iEntrada);
     void Elegir(Lista& control, int iFila);
@@ -79,32 +86,37 @@ public:
     /// Variables to fields.
     void Volcar();
 
-    /// All fields to reading only, combos and sliders disabled, OK hidden, Cancel as "&Cerrar".
+    /// All fields to reading only, choices, ticks and sliders disabled, OK hidden, Cancel as "&Cerrar".
     void PonerSoloLectura();
+
+    /// Brings a page to the front without asking the one in front.
+    void TraerAlFrente(int iPagina);
 
     void Terminar(int iResultado);
 
 protected:
-    template <std::derived_from<Control> C, class... Args>
-    C& Anadir(Args&&... args)
-    {
-        auto control = std::make_unique<C>(std::forward<Args>(args)...);
-        C& referencia = *control;
-        m_controles.push_back(std::move(control));
-        return referencia;
-    }
-
     /// The control of that name; it must exist and be a C.
     template <std::derived_from<Control> C>
     C& ControlDe(std::string_view nombre) const
     {
-        for (const auto& control : m_controles)
+        for (Control* control : m_orden)
             if (control->nombre == nombre)
                 return dynamic_cast<C&>(*control);
         throw std::out_of_range(std::string(nombre));
     }
 
-    /// The pages of the dialog (control "tab"); OK takes them over one after the other.
+    /// Adds a page behind the others (their choice is the control "tab"); OK takes them over one after the
+    /// other. A page class is built from the dialog and `args`.
+    template <std::derived_from<Pagina> P = Pagina, class... Args>
+    P& AnadirPagina(Args&&... args)
+    {
+        auto pagina = std::make_unique<P>(*this, std::forward<Args>(args)...);
+        P& referencia = *pagina;
+        Incorporar(std::move(pagina));
+        return referencia;
+    }
+
+    /// The pages of a dialog whose controls say theirs in `Lugar::iPagina`.
     Seleccion& AnadirPaginas(std::vector<CString> acsTitulos);
 
     /// First of all at OK, before any field is taken over; false keeps the dialog open.
@@ -118,12 +130,24 @@ protected:
     virtual void AlVencerTemporizador() {}
 
 private:
+    friend class Pagina;
+
+    void Ordenar(Control& control) override;
+    void CrearPestanas();
+    void Incorporar(std::unique_ptr<Pagina> pagina);
+    Pagina* EnFrente() const;
+    void AvisarFrente();
+    bool CambiarDePagina(int iPagina);
+    bool TomarPagina(int iPagina);
+    void DejarLoTecleado(const Control* destino);
     std::optional<Rechazo> RecogerPagina(int iPagina);
     std::optional<Rechazo> RecogerLosQue(const std::function<bool(const Control&)>& elegido);
     void IrA(Control& control);
 
-    std::vector<std::unique_ptr<Control>> m_controles;
-    Seleccion* m_paginas = nullptr;
+    std::vector<Control*> m_orden;
+    std::vector<std::unique_ptr<Pagina>> m_paginas;
+    Seleccion* m_pestanas = nullptr;
+    Edicion* m_tecleado = nullptr;  // typed into and not left yet
     std::optional<int> m_resultado;
 };
 
