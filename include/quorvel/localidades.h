@@ -16,12 +16,13 @@ struct Localidad {
     CString csNombre;
     CString csProvincia;  ///< empty outside Spain
     CString csPais;
-    std::vector<CString> acsAlias;             ///< other names that a search accepts
-    CString csZonaHE5;                         ///< "I" to "V"; empty outside Spain
-    CString csFuente;                          ///< where the radiations come from
-    double dLatitud = 0.0;                     ///< degrees, north positive
-    double dLongitud = 0.0;                    ///< degrees, east positive
-    double dAltitud = 0.0;                     ///< m
+    std::vector<CString> acsAlias;  ///< other names that a search accepts
+    CString csZonaHE1;              ///< "A3", "α3" ..., by province and altitude; empty where unknown
+    CString csZonaHE5;              ///< "I" to "V"; empty outside Spain
+    CString csFuente;               ///< where the radiations come from
+    double dLatitud = 0.0;          ///< degrees, north positive
+    double dLongitud = 0.0;         ///< degrees, east positive
+    double dAltitud = 0.0;          ///< m
     std::array<double, 12> adRadHorizontal{};  ///< mean daily global radiation by month, kJ/m²·day
 };
 
@@ -29,6 +30,16 @@ struct Localidad {
 /// that are not negative.
 /// @throws CFileException with a Spanish text that names file and reason.
 EFV_API std::vector<Localidad> LeerLocalidades(const CString& csArchivo);
+
+/// Reads a file of municipalities, whose radiations are those of their climates. Both halves of a double name
+/// ("Ayala/Aiara") are aliases.
+/// @throws CFileException with a Spanish text that names file, line and reason.
+EFV_API std::vector<Localidad> LeerMunicipios(const CString& csFichero);
+
+/// All places of that name or alias, accents and case ignored. "Moya (Cuenca)" and "Moya, Cuenca" ask for one
+/// of a province, in either form of its name.
+EFV_API std::vector<const Localidad*> BuscarLocalidades(std::span<const Localidad> localidades,
+                                                        const CString& csNombre);
 
 /// The place of that name or alias, accents and case ignored; null when there is none.
 EFV_API const Localidad* BuscarLocalidad(const std::vector<Localidad>& localidades, const CString& csNombre);

@@ -16,6 +16,7 @@ sys.dont_write_bytecode = True
 
 import generar_factor_k  # noqa: E402
 import generar_localidades  # noqa: E402
+import generar_municipios  # noqa: E402
 from fuentes_clima import MESES  # noqa: E402
 
 FICHERO_K = RAIZ / "data" / "ZqFactorKHE5.xml"
@@ -155,6 +156,11 @@ class Localidades(unittest.TestCase):
         self.assertEqual(self.por_nombre["Sevilla"]["zonaHE5"], "IV")
         self.assertEqual(self.por_nombre["Singapur"]["ENE"], "16362.0")   # 4545 Wh/m2
         self.assertEqual(self.por_nombre["Pergamino"]["JUN"], "7500.0")   # 7.5 MJ/m2
+
+    def test_los_municipios_son_los_que_escribe_su_generador(self):
+        fichero = RAIZ / "data" / "municipios.txt"
+        self.assertEqual(fichero.read_bytes(), generar_municipios.generar().encode("utf-8"),
+                         "run tools/generar_municipios.py")
 
     def test_radiacion_menor_que_la_de_fuera_de_la_atmosfera(self):
         for lugar in self.lugares:
