@@ -34,6 +34,8 @@ bool RegistrarClases()
         &efv::framework::RegistrarClase<CBaseReceptores>,
         &efv::framework::RegistrarClase<CBaseReceptorFamilia>,
         &efv::framework::RegistrarClase<CBaseReceptorModelo>,
+        &efv::framework::RegistrarClase<CSFVCalculoEconomico>,
+        &efv::framework::RegistrarClase<CSFVCalculoEconomicoAuto>,
         &efv::framework::RegistrarClase<CSFVAsistenteAislada>,
         &efv::framework::RegistrarClase<CSFVAsistenteRed>,
         &efv::framework::RegistrarClase<CSFVDataReceptor>,

@@ -1,0 +1,132 @@
+// Economic studies of an installation: sale of its energy to the grid, self-consumption hour by hour.
+//
+// Money in euros, energy in kWh, prices in €/kWh, percentages in percentage points (2.0 is 2 %).
+// An hourly year block is double [12][31][24] in one piece: month, day of the month from 0, hour; days that a
+// month lacks are in the block and left out of everything. February has 28 days.
+#pragma once
+
+#include <quorvel/exportar.h>
+#include <quorvel/framework/CArray.h>
+#include <quorvel/framework/CObject.h>
+#include <quorvel/framework/CString.h>
+
+/// A study of an installation that sells its energy to the grid: what was typed, the amounts that follow, and
+/// the tables by year and month. The host archives it; the tables aren't archived.
+class EFV_API CSFVCalculoEconomico : public CObject {
+public:
+    int bPotenciaGenerador = 0;        ///< not 0: the power may be typed
+    double dAmortizacionIDAE = 0.0;    ///< share paid by the energy agency, %
+    double dImporteIDAE = 0.0;         ///< the same, €; a result
+    double dAportacionInicial = 0.0;   ///< own money at the start, €
+    double dBonificacionICO = 0.0;     ///< interest bonus
+    double dImporteICO = 0.0;          ///< the same, €; a result
+    double dCosteElegible = 0.0;       ///< equal to the cost; a result
+    double dCosteInstalacion = 0.0;    ///< €; typed with `iTipoCoste` 1, else a result
+    double dCosteMantenimiento = 2.0;  ///< % of the income
+    double dTotalPagar = 0.0;          ///< sum of the repayments, €; a result
+    double dCuotaAnual = 0.0;          ///< mean repayment of a year, €; a result
+    double dEnergiaBase = 0.0;         ///< energy of a year before the performance ratio, kWh
+    double dEnergiaInstalacion = 0.0;  ///< the same after it, kWh; a result
+    double dEnergiaResultante = 0.0;   ///< the same with the improvement, kWh; a result
+    double dFactorMejora = 0.0;        ///< %
+    double dAniosPrestamo = 15.0;      ///< years of the loan
+    double dPotenciaGenerador = 0.0;   ///< W
+    double dPrimaFija = 0.455134;      ///< fixed price, €/kWh
+    double dPrimaVariableA = 0.0;      ///< first addend of the variable price, €/kWh
+    double dPrimaVariableB = 0.0;      ///< second addend
+    double dPrimaVariable = 0.0;       ///< their sum; a result
+    double dRendimientoInicial = 0.0;  ///< income of the first year, €; a result
+    double dRepercusion = 8.0;         ///< cost of a peak watt, €/Wp; a result with `iTipoCoste` 1
+    double dImporteSubvencion = 0.0;   ///< regional grant, €; a result
+    double dSubvencionCCAA = 0.0;      ///< regional grant, %
+    double dTipoInteres = 2.0;         ///< of the loan, % a year
+    double dTotalPrestamos = 0.0;      ///< capital of the loan, €; a result
+    double dVariacionCoste = 0.25;     ///< yearly change of the price, %
+    int iTipoPrima = 0;                ///< 0 fixed price, 1 variable price
+    double dEnvejecimiento = 0.5;      ///< ageing a year, %
+    double dAniosEstudio = 25.0;       ///< years studied; a fraction gives one more row
+    int iTipoCoste = 0;                ///< 0 the cost follows from `dRepercusion`, 1 it is typed
+    int iTipoAmortizacion = 0;         ///< 0 French method, 1 German method
+    int bPerformanceRatio = 0;         ///< not 0: the performance ratio may be typed
+    double dPerformanceRatio = 80.0;   ///< %
+    double dTIR = 0.0;                 ///< internal rate of return, %; a result, 0 when none was found
+
+    // One entry a year
+    CArray<double, double&> aAnio;                ///< from 1
+    CArray<double, double&> aEnergia;             ///< kWh
+    CArray<double, double&> aPrima;               ///< €/kWh
+    CArray<double, double&> aIngresos;            ///< €
+    CArray<double, double&> aIngresosAcumulados;  ///< €
+    CArray<double, double&> aCapitalInteres;      ///< repayment, €
+    CArray<double, double&> aMantenimiento;       ///< €
+    CArray<double, double&> aCashFlow;            ///< €
+    CArray<double, double&> aAcumulado;           ///< €
+    // Twelve months and their mean
+    CArray<double, double&> aRadHorizontal;  ///< mean daily radiation, horizontal plane, kWh/m²·day
+    CArray<double, double&> aRadInclinada;   ///< the same on the panels' plane
+    CArray<double, double&> aEnergiaDia;     ///< energy of a mean day, kWh
+    CArray<double, double&> aEnergiaMes;     ///< kWh
+
+    CSFVCalculoEconomico() = default;
+    CSFVCalculoEconomico(const CSFVCalculoEconomico&) = default;
+    CSFVCalculoEconomico& operator=(const CSFVCalculoEconomico&) = default;
+    const CRuntimeClass& GetRuntimeClass() const override;
+    ~CSFVCalculoEconomico() override;
+
+    /// Writes schema 2; reads schema 1, which then counts the performance ratio as enabled, and 2. The tables
+    /// stay as they are.
+    void Serialize(CArchive& ar) override;
+
+    /// Empties `destino`, then appends the elements of `origen` in order.
+    virtual void CopyArray(const CArray<double, double&>& origen, CArray<double, double&>& destino);
+    /// Takes over everything of `otro`, tables included.
+    virtual void CopiaExacta(const CSFVCalculoEconomico& otro);
+
+    /// Empties the thirteen tables and frees their storage; everything else keeps its value.
+    void Reset();
+
+    static const CRuntimeClass& GetThisClass();
+};
+
+/// The financial study of one generator or consumption of a self-consumption installation. The host owns one an
+/// element; the hourly arrays of the study aren't in it.
+class EFV_API CSFVCalculoEconomicoAuto : public CObject {
+public:
+    int iIdElemento = 0;               ///< the host's number of the element
+    CString csReferencia;              ///< its name
+    double dPotenciaPaneles = 0.0;     ///< kWp
+    double dPotenciaInversores = 0.0;  ///< kW
+    double dEnergiaProducida = 0.0;    ///< kWh a year
+    double dEnergiaConsumida = 0.0;    ///< kWh a year
+    double dPerformanceRatio = 0.0;
+    double dEnvejecimiento = 0.25;     ///< ageing a year, %
+    double dVariacionPrecio = 0.5;     ///< yearly change of the price, %
+    double dCosteInstalacion = 0.0;    ///< €
+    double dCapitalInicial = 0.0;      ///< own money at the start, €
+    double dCapitalFinanciado = 0.0;   ///< €; a result
+    double dTipoInteres = 2.5;         ///< % a year
+    double dMesesFinanciacion = 24.0;  ///< a fraction counts as a month
+    double dIntereses = 0.0;           ///< €; a result
+    double dCosteFinanciacion = 0.0;   ///< sum of the instalments, €; a result
+    double dReservado = 0.0;           ///< kept, copied and archived, never interpreted
+    double dCosteTotal = 0.0;          ///< €; a result
+    double dAniosRecuperacion = 0.0;   ///< payback, years; a result, 0 when it never pays
+    double dTIR = 0.0;                 ///< %; kept as it is, no calculation fills it
+
+    CSFVCalculoEconomicoAuto() = default;
+    CSFVCalculoEconomicoAuto(const CSFVCalculoEconomicoAuto&) = default;
+    CSFVCalculoEconomicoAuto& operator=(const CSFVCalculoEconomicoAuto&) = default;
+    const CRuntimeClass& GetRuntimeClass() const override;
+    ~CSFVCalculoEconomicoAuto() override;
+
+    /// Schema 1. The number read isn't looked at: there is one layout.
+    void Serialize(CArchive& ar) override;
+
+    /// Takes over every field of `otro`.
+    virtual void CopiaExacta(const CSFVCalculoEconomicoAuto& otro);
+
+    /// Every field to its value in a new record.
+    void Reset();
+
+    static const CRuntimeClass& GetThisClass();
+};
