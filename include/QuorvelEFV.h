@@ -6,6 +6,8 @@
 #include <quorvel/catalogues.h>
 #include <quorvel/clima.h>
 #include <quorvel/consumption.h>
+#include <quorvel/economics.h>
+#include <quorvel/economics_calculo.h>
 #include <quorvel/electrical.h>
 #include <quorvel/frame.h>
 #include <quorvel/framework.h>
