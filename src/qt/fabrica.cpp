@@ -15,6 +15,8 @@ public:
     void Ver(ui::Casilla& c) override { Crear(c); }
     void Ver(ui::Seleccion& c) override { Crear(c); }
     void Ver(ui::Boton& c) override { Crear(c); }
+    void Ver(ui::BotonColor& c) override { Crear(c); }
+    void Ver(ui::Hora& c) override { Crear(c); }
     void Ver(ui::Lista& c) override { Crear(c); }
     void Ver(ui::Grafica& c) override { Crear(c); }
     void Ver(ui::Progreso& c) override { Crear(c); }

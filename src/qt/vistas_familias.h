@@ -12,6 +12,8 @@ std::unique_ptr<Vista> CrearVistaDe(ui::Edicion& control, QWidget* padre, Accion
 std::unique_ptr<Vista> CrearVistaDe(ui::Casilla& control, QWidget* padre, Accionador& accionador);
 std::unique_ptr<Vista> CrearVistaDe(ui::Seleccion& control, QWidget* padre, Accionador& accionador);
 std::unique_ptr<Vista> CrearVistaDe(ui::Boton& control, QWidget* padre, Accionador& accionador);
+std::unique_ptr<Vista> CrearVistaDe(ui::BotonColor& control, QWidget* padre, Accionador& accionador);
+std::unique_ptr<Vista> CrearVistaDe(ui::Hora& control, QWidget* padre, Accionador& accionador);
 std::unique_ptr<Vista> CrearVistaDe(ui::Lista& control, QWidget* padre, Accionador& accionador);
 std::unique_ptr<Vista> CrearVistaDe(ui::Grafica& control, QWidget* padre, Accionador& accionador);
 std::unique_ptr<Vista> CrearVistaDe(ui::Progreso& control, QWidget* padre, Accionador& accionador);

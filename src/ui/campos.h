@@ -122,9 +122,9 @@ struct Extremo {
 /// Limits of a field, in stored units; empty ones let any number pass. They hold when `cuando` says so, and
 /// not while a field that they are read from is hidden.
 template <class P>
-struct LimitesCampo {
-    constexpr LimitesCampo() = default;
-    constexpr LimitesCampo(Extremo<P> minimo, Extremo<P> maximo, bool (*siempreQue)(const P&) = nullptr)
+struct LimitesFicha {
+    constexpr LimitesFicha() = default;
+    constexpr LimitesFicha(Extremo<P> minimo, Extremo<P> maximo, bool (*siempreQue)(const P&) = nullptr)
         : extremos(std::pair(minimo, maximo)), cuando(siempreQue)
     {
     }
@@ -138,7 +138,7 @@ template <class P>
 struct Campo {
     Miembro<P> miembro;
     std::wstring_view rotulo;
-    LimitesCampo<P> limites = {};
+    LimitesFicha<P> limites = {};
     int decimales = 2;
     std::span<const std::wstring_view> entradas = {};  ///< not empty: a combo over an int
     std::wstring_view magnitud = {};                   ///< of a decimal that is shown in the person's unit
@@ -260,7 +260,7 @@ private:
         return combo;
     }
 
-    std::optional<Intervalo> IntervaloDe(const LimitesCampo<P>& limites) const
+    std::optional<Intervalo> IntervaloDe(const LimitesFicha<P>& limites) const
     {
         const auto& [minimo, maximo] = *limites.extremos;
         if ((limites.cuando != nullptr && !limites.cuando(m_objeto)) || EstaOculto(minimo) ||

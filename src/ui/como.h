@@ -19,6 +19,8 @@ public:
     void Ver(Casilla& control) override { Tomar(control); }
     void Ver(Seleccion& control) override { Tomar(control); }
     void Ver(Boton& control) override { Tomar(control); }
+    void Ver(BotonColor& control) override { Tomar(control); }
+    void Ver(Hora& control) override { Tomar(control); }
     void Ver(Lista& control) override { Tomar(control); }
     void Ver(Grafica& control) override { Tomar(control); }
     void Ver(Progreso& control) override { Tomar(control); }

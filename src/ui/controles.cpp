@@ -1,5 +1,8 @@
 #include <quorvel/ui/controles.h>
 
+#include <fmt/format.h>
+#include <fmt/xchar.h>
+
 #include <quorvel/ui/pagina.h>
 
 namespace efv::ui {
@@ -25,6 +28,14 @@ void Seleccion::Visitar(VisitanteControl& v)
     v.Ver(*this);
 }
 void Boton::Visitar(VisitanteControl& v)
+{
+    v.Ver(*this);
+}
+void BotonColor::Visitar(VisitanteControl& v)
+{
+    v.Ver(*this);
+}
+void Hora::Visitar(VisitanteControl& v)
 {
     v.Ver(*this);
 }
@@ -71,6 +82,23 @@ void Seleccion::PonerSoloLectura()
 {
     if (forma == Forma::combo || forma == Forma::radio)
         bHabilitado = false;
+}
+
+CString Hora::Texto() const
+{
+    return fmt::format(L"{:02}:{:02}", iMinutos / 60, iMinutos % 60);
+}
+
+std::optional<int> MinutosDeHora(std::wstring_view texto)
+{
+    const auto cifra = [&](std::size_t i) {
+        return texto[i] >= L'0' && texto[i] <= L'9' ? texto[i] - L'0' : 99;
+    };
+    if (texto.size() != 5 || texto[2] != L':')
+        return std::nullopt;
+    const int iHora = 10 * cifra(0) + cifra(1);
+    const int iMinuto = 10 * cifra(3) + cifra(4);
+    return iHora < 24 && iMinuto < 60 ? std::optional(60 * iHora + iMinuto) : std::nullopt;
 }
 
 CString Seleccion::Texto() const

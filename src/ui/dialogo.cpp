@@ -22,7 +22,8 @@ void Dialogo::Ordenar(Control& control)
 
 int Dialogo::Mostrar()
 {
-    AvisarFrente();
+    if (const Pagina* pagina = EnFrente(); pagina != nullptr && !pagina->Abierta() && !Terminado())
+        AvisarFrente();
     PresentadorActual().MostrarModal(*this);
     if (!Terminado())
         Cancelar();
@@ -108,6 +109,23 @@ void Dialogo::Pulsar(Boton& control)
     Avisar(control.alPulsar);
 }
 
+void Dialogo::Elegir(BotonColor& control, int iEntrada)
+{
+    DejarLoTecleado(&control);
+    const auto iColor = ColorDeEntrada(iEntrada, control.iColor);
+    if (!iColor)
+        return;
+    control.iColor = *iColor;
+    Avisar(control.alElegir);
+}
+
+void Dialogo::PonerHora(Hora& control, int iMinutos)
+{
+    DejarLoTecleado(&control);
+    control.iMinutos = std::clamp(iMinutos, 0, Hora::kMaxima);
+    Avisar(control.alCambiar);
+}
+
 void Dialogo::Mover(Deslizador& control, int iValor)
 {
     DejarLoTecleado(&control);
@@ -186,6 +204,11 @@ bool Dialogo::RecogerAvisando()
         PresentadorActual().MostrarRechazo(*this, *rechazo);
     }
     return !rechazo;
+}
+
+bool Dialogo::Recoger(Control& control)
+{
+    return !ui::Recoger(control).has_value();
 }
 
 void Dialogo::Volcar()
@@ -270,6 +293,21 @@ bool Dialogo::TomarPagina(int iPagina)
             return false;
     }
     return AlRecogerPagina(iPagina);
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Groups, end
+// ---------------------------------------------------------------------------------------------------
+
+CString Dialogo::TituloDeGrupo(std::wstring_view grupo) const
+{
+    const auto titulo = m_titulosDeGrupos.find(grupo);
+    return titulo != m_titulosDeGrupos.end() ? titulo->second : CString(grupo);
+}
+
+void Dialogo::TitularGrupo(std::wstring_view grupo, CString csRotulo)
+{
+    m_titulosDeGrupos.insert_or_assign(CString(grupo), std::move(csRotulo));
 }
 
 void Dialogo::Terminar(int iResultado)

@@ -25,7 +25,7 @@ struct Fila {
     const char* nombre;
     Miembro<P> campo;
     std::wstring_view rotulo;
-    LimitesCampo<P> limites = {};
+    LimitesFicha<P> limites = {};
     int decimales = 2;
     std::span<const std::wstring_view> entradas = {};
     std::wstring_view magnitud = {};

@@ -24,6 +24,8 @@ public:
     void Ver(Edicion&) override {}
     void Ver(Casilla&) override {}
     void Ver(Boton&) override {}
+    void Ver(Hora&) override {}
+    void Ver(BotonColor& c) override { m_estado.propio = EstadoControl::DeSeleccion{c.Entradas(), Entrada(c)}; }
     void Ver(Progreso&) override {}
     void Ver(Deslizador&) override {}
     void Ver(Imagen&) override {}
@@ -50,6 +52,14 @@ public:
     }
 
 private:
+    // The entry whose name the colour has; -1 for one that was chosen of the palette.
+    static int Entrada(const BotonColor& c)
+    {
+        const auto entradas = c.Entradas();
+        const auto hallada = std::ranges::find(entradas, c.Texto());
+        return hallada != entradas.end() ? static_cast<int>(hallada - entradas.begin()) : -1;
+    }
+
     EstadoControl& m_estado;
 };
 
@@ -222,7 +232,7 @@ public:
 
     void operator()(const paso::Poner& p)
     {
-        if (Mover(p.control, p.csTexto))
+        if (Mover(p.control, p.csTexto) || PonerHora(p.control, p.csTexto))
             return;
         auto& edicion = Escribible<Edicion>(m_dialogo, p.control);
         m_dialogo.Teclear(edicion, p.csTexto);
@@ -231,7 +241,7 @@ public:
 
     void operator()(const paso::Teclear& p)
     {
-        if (!Mover(p.control, p.csTexto))
+        if (!Mover(p.control, p.csTexto) && !PonerHora(p.control, p.csTexto))
             m_dialogo.Teclear(Escribible<Edicion>(m_dialogo, p.control), p.csTexto);
     }
 
@@ -243,12 +253,14 @@ public:
                                                   : FilaDe(*lista, std::get<CString>(p.entrada), p.control));
             return;
         }
+        if (BotonColor* const color = Como<BotonColor>(Usable(m_dialogo, p.control))) {
+            m_dialogo.Elegir(*color, Entrada(p, color->Entradas()));
+            return;
+        }
         auto& seleccion = Usable<Seleccion>(m_dialogo, p.control);
-        const int* i = std::get_if<int>(&p.entrada);
-        m_dialogo.Elegir(seleccion,
-                         i != nullptr
-                             ? IndiceValido(*i, static_cast<int>(seleccion.acsEntradas.size()), p.control)
-                             : IndiceDe(seleccion.acsEntradas, std::get<CString>(p.entrada), p.control));
+        if (seleccion.lista != nullptr && seleccion.lista->iSeleccion < 0)
+            throw ErrorDePaso{"control \"" + p.control + "\": no hay fila elegida"};
+        m_dialogo.Elegir(seleccion, Entrada(p, seleccion.acsEntradas));
     }
 
     void operator()(const paso::Marcar& p)
@@ -275,6 +287,7 @@ public:
 
     void operator()(const paso::Fichero& p) { m_presentador.ficheros.push_back(p.csRuta); }
     void operator()(const paso::Simbolo& p) { m_presentador.simbolos.push_back(p.iSimbolo); }
+    void operator()(const paso::Color& p) { m_presentador.colores.push_back(p.iColor); }
     void operator()(const paso::Portapapeles& p) { m_presentador.csPortapapeles = p.csTexto; }
 
     void operator()(const paso::Esperar& /*p*/)
@@ -314,6 +327,25 @@ private:
         auto& deslizador = Escribible<Deslizador>(m_dialogo, nombre);
         m_dialogo.Mover(deslizador, PosicionEn(deslizador, csTexto, nombre));
         return true;
+    }
+
+    // A time of day is set by its text; false when the control is none.
+    bool PonerHora(const std::string& nombre, const CString& csTexto)
+    {
+        if (Como<Hora>(Buscar(m_dialogo, nombre)) == nullptr)
+            return false;
+        const auto iMinutos = MinutosDeHora(csTexto);
+        if (!iMinutos)
+            throw ErrorDePaso{"control \"" + nombre + "\": \"" + CadenaUtf8(csTexto) + "\" no es HH:MM"};
+        m_dialogo.PonerHora(Escribible<Hora>(m_dialogo, nombre), *iMinutos);
+        return true;
+    }
+
+    static int Entrada(const paso::Elegir& p, const std::vector<CString>& acsEntradas)
+    {
+        const int* i = std::get_if<int>(&p.entrada);
+        return i != nullptr ? IndiceValido(*i, static_cast<int>(acsEntradas.size()), p.control)
+                            : IndiceDe(acsEntradas, std::get<CString>(p.entrada), p.control);
     }
 
     void Aceptar()
@@ -366,7 +398,8 @@ void PresentadorGuionizado::MostrarModal(Dialogo& dialogo)
 {
     const std::size_t iTranscripcion = transcripciones.size();
     transcripciones.push_back({dialogo.clase, dialogo.csTitulo, 0, {}, {}});
-    if (!guiones.empty() && !csErrorGuion) {
+    // One that has ended before it shows takes no script.
+    if (!guiones.empty() && !csErrorGuion && !dialogo.Terminado()) {
         const GuionDialogo guion = std::move(guiones.front());
         guiones.pop_front();
         Actor actor(*this, dialogo, iTranscripcion);
@@ -391,6 +424,39 @@ std::optional<CString> PresentadorGuionizado::ElegirFichero(const PeticionFicher
     std::optional<CString> csRuta = std::move(ficheros.front());
     ficheros.pop_front();
     return csRuta;
+}
+
+std::optional<int> PresentadorGuionizado::ElegirColor(int /*iActual*/)
+{
+    if (colores.empty())
+        return std::nullopt;
+    const std::optional<int> iColor = colores.front();
+    colores.pop_front();
+    return iColor;
+}
+
+namespace {
+
+class TrabajoGuionizado final : public ProgresoTrabajo {
+public:
+    explicit TrabajoGuionizado(std::optional<double> dHasta) : m_dHasta(dHasta) {}
+    bool Avanzar(double dFraccion) override { return !m_dHasta || dFraccion < *m_dHasta; }
+
+private:
+    std::optional<double> m_dHasta;
+};
+
+}  // namespace
+
+std::unique_ptr<ProgresoTrabajo> PresentadorGuionizado::EmpezarTrabajo(const CString& csTexto, bool bCancelable)
+{
+    trabajos.push_back(csTexto);
+    std::optional<double> dHasta;
+    if (bCancelable && !cancelaciones.empty()) {
+        dHasta = cancelaciones.front();
+        cancelaciones.pop_front();
+    }
+    return std::make_unique<TrabajoGuionizado>(dHasta);
 }
 
 CString PresentadorGuionizado::LeerPortapapeles()

@@ -75,6 +75,9 @@ public:
             **destino = c.iSeleccion;
     }
 
+    void Ver(BotonColor& c) override { Poner(c.destino, c.iColor); }
+    void Ver(Hora& c) override { Poner(c.destino, c.iMinutos); }
+
     void Ver(Edicion& c) override
     {
         if (c.intercambio == Intercambio::automatico)
@@ -82,6 +85,14 @@ public:
     }
 
 private:
+    static void Poner(const Destino& destino, int i)
+    {
+        if (auto* entero = std::get_if<int*>(&destino))
+            **entero = i;
+        else if (auto* corto = std::get_if<short*>(&destino))
+            **corto = static_cast<short>(i);
+    }
+
     static void Tomar(const Edicion&, std::monostate) {}
     static void Tomar(const Edicion& c, CString* destino) { *destino = c.csTexto; }
 
@@ -151,6 +162,12 @@ public:
         c.iSeleccion = existe ? **origen : -1;
     }
 
+    void Ver(BotonColor& c) override { c.iColor = Leer(c.destino).value_or(c.iColor); }
+    void Ver(Hora& c) override
+    {
+        c.iMinutos = std::clamp(Leer(c.destino).value_or(c.iMinutos), 0, Hora::kMaxima);
+    }
+
     void Ver(Edicion& c) override
     {
         if (c.intercambio != Intercambio::aMano)
@@ -158,6 +175,15 @@ public:
     }
 
 private:
+    static std::optional<int> Leer(const Destino& origen)
+    {
+        if (auto* entero = std::get_if<int*>(&origen))
+            return **entero;
+        if (auto* corto = std::get_if<short*>(&origen))
+            return **corto;
+        return std::nullopt;
+    }
+
     static void Escribir(const Edicion&, std::monostate) {}
     static void Escribir(Edicion& c, const CString* origen) { c.csTexto = *origen; }
     static void Escribir(Edicion& c, const int* origen) { c.csTexto = std::to_wstring(*origen); }

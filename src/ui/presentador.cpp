@@ -15,6 +15,26 @@ Presentador*& Instalado()
 }  // namespace
 
 Presentador::~Presentador() = default;
+ProgresoTrabajo::~ProgresoTrabajo() = default;
+
+namespace {
+
+class TrabajoSinTestigos final : public ProgresoTrabajo {
+public:
+    bool Avanzar(double /*dFraccion*/) override { return true; }
+};
+
+}  // namespace
+
+std::optional<int> Presentador::ElegirColor(int /*iActual*/)
+{
+    return std::nullopt;
+}
+
+std::unique_ptr<ProgresoTrabajo> Presentador::EmpezarTrabajo(const CString& /*csTexto*/, bool /*bCancelable*/)
+{
+    return std::make_unique<TrabajoSinTestigos>();
+}
 
 Respuesta PresentadorNulo::MostrarMensaje(const Mensaje& mensaje)
 {

@@ -184,6 +184,20 @@ TEST(Paginas, OyenLoQueLesPasa)
     EXPECT_TRUE(retenida.sucesos.empty());
 }
 
+TEST(Paginas, UnDialogoQueAcabaAntesDeVerseNoGastaGuion)
+{
+    Guion guion;
+    guion.Dialogo("Hojas", {paso::Pulsar{"OK"}});
+    Hojas acabado;
+    acabado.Terminar(7);
+    EXPECT_EQ(acabado.Mostrar(), 7);
+    EXPECT_TRUE(acabado.sucesos.empty());
+    Hojas hojas;
+    EXPECT_EQ(hojas.Mostrar(), ui::Dialogo::ok);
+    EXPECT_EQ(guion.presentador.transcripciones[0].iResultado, 7);
+    EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt);
+}
+
 TEST(Paginas, UnNombreEsElDeLaPaginaDelFrenteYLuegoElDeFuera)
 {
     Guion guion;

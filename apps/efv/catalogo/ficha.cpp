@@ -60,6 +60,8 @@ public:
         Fila(control, control.iSeleccion < 0 ? "—" : EnTerminal(control.Texto()), bUnidad ? " " : " / ");
     }
     void Ver(ui::Boton& /*control*/) override {}
+    void Ver(ui::BotonColor& control) override { Fila(control, EnTerminal(control.Texto()), " / "); }
+    void Ver(ui::Hora& control) override { Fila(control, EnTerminal(control.Texto()), " / "); }
     void Ver(ui::Lista& control) override
     {
         for (int f = 0; f < control.Filas(); ++f) {

@@ -95,6 +95,17 @@ ui::Paso LeerSimbolo(const Json& j)
     return paso::Simbolo{Entero(j)};
 }
 
+// Index of the host's palette.
+ui::Paso LeerColor(const Json& j)
+{
+    if (j.is_null())
+        return paso::Color{std::nullopt};
+    const int iColor = Entero(j);
+    if (iColor < 0 || iColor > ui::kColorPorBloque)
+        Esperaba("un color de la paleta", j);
+    return paso::Color{iColor};
+}
+
 ui::Paso LeerPortapapeles(const Json& j)
 {
     return paso::Portapapeles{TextoAncho(j)};
@@ -117,7 +128,7 @@ ui::Paso LeerLectura(const Json& j)
     return leer;
 }
 
-constexpr std::array<std::pair<std::string_view, ui::Paso (*)(const Json&)>, 11> kPasos{{
+constexpr std::array<std::pair<std::string_view, ui::Paso (*)(const Json&)>, 12> kPasos{{
     {"set", LeerPoner},
     {"type", LeerTeclear},
     {"select", LeerElegir},
@@ -126,6 +137,7 @@ constexpr std::array<std::pair<std::string_view, ui::Paso (*)(const Json&)>, 11>
     {"open", LeerAbrir},
     {"file", LeerFichero},
     {"symbol", LeerSimbolo},
+    {"colour", LeerColor},
     {"clipboard", LeerPortapapeles},
     {"wait", LeerEspera},
     {"read", LeerLectura},

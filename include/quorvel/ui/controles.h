@@ -12,6 +12,7 @@
 
 #include <quorvel/exportar.h>
 #include <quorvel/framework/CString.h>
+#include <quorvel/ui/color.h>
 #include <quorvel/ui/grafica.h>
 
 namespace efv::ui {
@@ -132,8 +133,10 @@ public:
     void Visitar(VisitanteControl& visitante) override;
 };
 
+class Lista;
+
 /// One entry out of several: a combo box, a radio group, the pages of a dialog (named "tab"), a button
-/// with a menu.
+/// with a menu, a menu in the cells of a list.
 class EFV_API Seleccion final : public Control {
 public:
     enum class Forma { combo, radio, pestanas, menu };
@@ -148,6 +151,9 @@ public:
     int iSeleccion = -1;  ///< -1: none, and its variable stays as it is
     Destino destino;      ///< an int, the entry's index
     Intercambio intercambio = Intercambio::automatico;
+    int iLineaAntesDe = -1;          ///< entry of a menu that a line stands before; -1: none
+    const Lista* lista = nullptr;    ///< of a menu that opens on a cell of the selected row; null: a button's
+    int iColumna = 0;                ///< of that cell
     std::function<void()> alElegir;  ///< after the person chose, also the same entry again
 
     void PonerSoloLectura() override;
@@ -156,11 +162,45 @@ public:
     void Visitar(VisitanteControl& visitante) override;
 };
 
+/// A button that shows a colour of the host's and offers others in a menu.
+class EFV_API BotonColor final : public Control {
+public:
+    using Control::Control;
+    int iColor = kColorPorCapa;  ///< the host's code
+    bool bDelDibujo = false;     ///< the menu also offers "Por capa" and "Por bloque"
+    Destino destino;             ///< an int or a short
+    std::function<void()> alElegir;
+
+    std::vector<CString> Entradas() const { return MenuDeColores(bDelDibujo); }
+    void PonerSoloLectura() override { bHabilitado = false; }
+    CString Texto() const override { return NombreDeColor(iColor); }
+    Valor ValorActual() const override { return iColor; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+/// A time of day, "HH:MM". It always holds one.
+class EFV_API Hora final : public Control {
+public:
+    using Control::Control;
+    static constexpr int kMaxima = 24 * 60 - 1;
+    int iMinutos = 0;  ///< since midnight, up to kMaxima
+    Destino destino;   ///< an int, in minutes
+    std::function<void()> alCambiar;
+
+    void PonerSoloLectura() override { bSoloLectura = true; }
+    CString Texto() const override;
+    Valor ValorActual() const override { return iMinutos; }
+    void Visitar(VisitanteControl& visitante) override;
+};
+
+/// The minutes that "HH:MM" says; nothing for any other text.
+EFV_API std::optional<int> MinutosDeHora(std::wstring_view texto);
+
 class EFV_API Boton final : public Control {
 public:
     using Control::Control;
     std::function<void()> alPulsar;
-    CString csImagen;  ///< name of its picture; empty for a button of text
+    CString csImagen;  ///< name of its picture, such as an element's symbol; empty for a button of text
     bool bImagenGrande = false;
     CString csIndicacion;  ///< tool-tip
 
@@ -263,6 +303,8 @@ public:
     virtual void Ver(Casilla& control) = 0;
     virtual void Ver(Seleccion& control) = 0;
     virtual void Ver(Boton& control) = 0;
+    virtual void Ver(BotonColor& control) = 0;
+    virtual void Ver(Hora& control) = 0;
     virtual void Ver(Lista& control) = 0;
     virtual void Ver(Grafica& control) = 0;
     virtual void Ver(Progreso& control) = 0;

@@ -3,6 +3,7 @@
 
 #include <concepts>
 #include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <span>
@@ -66,6 +67,9 @@ public:
     void Abrir(Lista& control, int iFila, int iColumna);
     void Marcar(Casilla& control, bool bMarcada);
     void Pulsar(Boton& control);
+    /// Entry `iEntrada` of the button's menu; the host may be asked for a colour.
+    void Elegir(BotonColor& control, int iEntrada);
+    void PonerHora(Hora& control, int iMinutos);
     /// Drags to `iValor`, or to the end before it.
     void Mover(Deslizador& control, int iValor);
     /// The OK button: takes the fields over, checks them and ends the dialog. A refusal of the data
@@ -83,6 +87,8 @@ public:
     std::optional<Rechazo> Recoger();
     /// The same, and a fault is shown to the person. False when there was one.
     bool RecogerAvisando();
+    /// The same for one field alone, telling nobody. False when it was at fault.
+    static bool Recoger(Control& control);
     /// Variables to fields.
     void Volcar();
 
@@ -94,7 +100,13 @@ public:
 
     void Terminar(int iResultado);
 
+    /// Caption of the framed group that the rows call `grupo`.
+    CString TituloDeGrupo(std::wstring_view grupo) const;
+
 protected:
+    /// From now on the group's caption reads like this.
+    void TitularGrupo(std::wstring_view grupo, CString csRotulo);
+
     /// The control of that name; it must exist and be a C.
     template <std::derived_from<Control> C>
     C& ControlDe(std::string_view nombre) const
@@ -147,7 +159,8 @@ private:
     std::vector<Control*> m_orden;
     std::vector<std::unique_ptr<Pagina>> m_paginas;
     Seleccion* m_pestanas = nullptr;
-    Edicion* m_tecleado = nullptr;  // typed into and not left yet
+    std::map<CString, CString, std::less<>> m_titulosDeGrupos;  // those that have changed
+    Edicion* m_tecleado = nullptr;                              // typed into and not left yet
     std::optional<int> m_resultado;
 };
 

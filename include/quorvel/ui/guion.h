@@ -46,6 +46,9 @@ struct Fichero {
 struct Simbolo {
     int iSimbolo;
 };  ///< answer of the host's next symbol choice
+struct Color {
+    std::optional<int> iColor;
+};  ///< answer of the host's next colour choice
 struct Portapapeles {
     CString csTexto;
 };
@@ -55,8 +58,9 @@ struct Leer {
 };  ///< empty: all
 }  // namespace paso
 
-using Paso = std::variant<paso::Poner, paso::Teclear, paso::Elegir, paso::Marcar, paso::Pulsar, paso::Abrir,
-                          paso::Fichero, paso::Simbolo, paso::Portapapeles, paso::Esperar, paso::Leer>;
+using Paso =
+    std::variant<paso::Poner, paso::Teclear, paso::Elegir, paso::Marcar, paso::Pulsar, paso::Abrir,
+                 paso::Fichero, paso::Simbolo, paso::Color, paso::Portapapeles, paso::Esperar, paso::Leer>;
 
 struct GuionDialogo {
     std::string dialogo;  ///< class name
@@ -106,12 +110,19 @@ public:
     std::deque<GuionDialogo> guiones;
     /// Answers of the host's symbol choices, in order.
     std::deque<int> simbolos;
+    /// Answers of the host's colour choices, in order; one without an answer is cancelled.
+    std::deque<std::optional<int>> colores;
+    /// How far each cancellable work to come gets before the person cancels it, in order, 0 to 1; one without
+    /// an answer goes on to its end.
+    std::deque<double> cancelaciones;
     /// Answers of the file choosers to come, in order; one without an answer is cancelled.
     std::deque<std::optional<CString>> ficheros;
     CString csPortapapeles;
 
     /// Every box shown, in order.
     std::vector<Mostrado> mostrados;
+    /// What each long work said that it does, in order.
+    std::vector<CString> trabajos;
     /// Every dialog that opened, in order of opening.
     std::vector<Transcripcion> transcripciones;
     /// First step that couldn't be carried out, with its control; the dialogs were then cancelled.
@@ -121,6 +132,8 @@ public:
     void MostrarModal(Dialogo& dialogo) override;
     void MostrarRechazo(Dialogo& dialogo, const Rechazo& rechazo) override;
     std::optional<CString> ElegirFichero(const PeticionFichero& peticion) override;
+    std::optional<int> ElegirColor(int iActual) override;
+    std::unique_ptr<ProgresoTrabajo> EmpezarTrabajo(const CString& csTexto, bool bCancelable) override;
     CString LeerPortapapeles() override;
     void EscribirPortapapeles(const CString& csTexto) override;
     void Esperar(bool bEmpieza) override;

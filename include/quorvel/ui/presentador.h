@@ -2,6 +2,7 @@
 // script, or a toolkit.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -39,6 +40,15 @@ struct PeticionFichero {
     CString csPropuesto;    ///< name offered
 };
 
+/// Work that takes long, while it goes on. It ends when this does.
+class EFV_API ProgresoTrabajo {
+public:
+    virtual ~ProgresoTrabajo();
+    /// @param dFraccion what is done, 0 to 1
+    /// @return false when the person has cancelled it
+    virtual bool Avanzar(double dFraccion) = 0;
+};
+
 class EFV_API Presentador {
 public:
     virtual ~Presentador();
@@ -55,9 +65,16 @@ public:
     /// Nothing when the person cancels.
     virtual std::optional<CString> ElegirFichero(const PeticionFichero& peticion) = 0;
 
+    /// The host's choice of a colour of its palette, beginning with `iActual`; nothing when the person
+    /// cancels, or the host has none.
+    virtual std::optional<int> ElegirColor(int iActual);
+
     /// Plain text of the clipboard; empty when it holds none.
     virtual CString LeerPortapapeles() = 0;
     virtual void EscribirPortapapeles(const CString& csTexto) = 0;
+
+    /// Long work begins that tells how far it is; nobody sees it unless an implementation shows it.
+    virtual std::unique_ptr<ProgresoTrabajo> EmpezarTrabajo(const CString& csTexto, bool bCancelable);
 
     /// Long work begins or ends: the wait cursor. Calls nest.
     virtual void Esperar(bool bEmpieza) = 0;
