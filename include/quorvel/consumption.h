@@ -244,10 +244,14 @@ EFV_API void AsignarValores(std::span<const double> adValores, const FormatoValo
 // Monthly energies
 // ---------------------------------------------------------------------------------------------------
 
+/// Tariff periods of a day's hours, P1 to P3; energies have room for more.
+inline constexpr int kPeriodosTarifa = 3;
+
 /// Spreads the energies of each month by tariff period over its hours, in proportion to the factors `ano`:
 /// each day gets an equal part of a period's energy. A period without factors on a day gives not-a-number.
 /// @param adMes          by month and tariff period; the result is in the same unit
-/// @param aiPeriodoHora  tariff period of each hour of the day, 0 to 5; another throws CInvalidArgException
+/// @param aiPeriodoHora  tariff period of each hour of the day, below kPeriodosTarifa; another throws
+///                       CInvalidArgException
 EFV_API void RepartirMeses(const double (&adMes)[12][6], const int (&aiPeriodoHora)[24], AnoHorarioVista ano,
                            std::span<double, kHorasDelAno> adHoras);
 

@@ -1,6 +1,7 @@
 #include "consumption/consumo_dialogo.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include <fmt/format.h>
@@ -11,6 +12,7 @@
 #include "consumption/nombres.h"
 #include "consumption/receptor_catalogo.h"
 #include "consumption/receptor_dialogo.h"
+#include "consumption/tabla_dias.h"
 #include "platform/numero/conversion.h"
 #include "solar/calendario.h"
 
@@ -28,39 +30,16 @@ constexpr auto kTipos =
 constexpr auto kColumnasReceptores =
     std::to_array<std::wstring_view>({L"Und.", L"Modelo", L"Red", L"Potencia (W)", L"h/día", L"Energia (Wh)"});
 
-constexpr auto kFilas = std::to_array<ui::Fila<P>>({
-    {.nombre = "csReferencia", .campo = &P::csReferencia, .rotulo = L"Referencia:"},
-    {.nombre = "iTipoEntrada",
-     .campo = &P::iTipoEntrada,
-     .rotulo = L"Entrada de datos de consumo anual:  ",
-     .entradas = kTipos},
-    {.nombre = "bExcluir", .campo = &P::bExcluir, .rotulo = L"Excluir del cálculo", .casilla = true},
-    {.nombre = "dPotMaxima", .campo = &P::dPotMaxima, .rotulo = L"Potencia máx. simultánea (W):"},
+constexpr auto kCampos = ui::Campos<P>({
+    {&P::csReferencia, L"Referencia:"},
+    {.miembro = &P::iTipoEntrada, .rotulo = L"Entrada de datos de consumo anual:  ", .entradas = kTipos},
+    {.miembro = &P::bExcluir, .rotulo = L"Excluir del cálculo", .casilla = true},
+    {&P::dPotMaxima, L"Potencia máx. simultánea (W):"},
 });
 
 constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
-    {"csReferencia", ui::Vacio<&P::csReferencia>, L"El consumo eléctrico no tiene una referencia válida."},
+    {&P::csReferencia, ui::Vacio<&P::csReferencia>, L"El consumo eléctrico no tiene una referencia válida."},
 });
-
-// The energy of each day of the year, days by months.
-class TablaDeDias final : public ui::ModeloFilas {
-public:
-    explicit TablaDeDias(std::shared_ptr<const efv::AnoHorario> adHoras) : m_adHoras(std::move(adHoras)) {}
-
-    int Filas() const override { return 31; }
-    CString Celda(int iFila, int iColumna) const override
-    {
-        if (iColumna == 0)
-            return std::to_wstring(iFila + 1);
-        const auto iMes = static_cast<std::size_t>(iColumna - 1);
-        if (iMes >= 12 || iFila >= efv::solar::kDiasMesReferencia[iMes])
-            return {};
-        return nuConvertFltToIntlStr(efv::SumaDeHoras(*m_adHoras, efv::HorasDeDia(iColumna - 1, iFila)), 0);
-    }
-
-private:
-    std::shared_ptr<const efv::AnoHorario> m_adHoras;
-};
 
 CString TextoResumen(const efv::ResumenConsumo& resumen, int iMes)
 {
@@ -93,12 +72,18 @@ CDlgDatosConsumo::CDlgDatosConsumo(const P& inicial, const CObArrayPropio<CSFVDa
 {
     bMaximizable = true;
     std::ranges::copy(horas, adHoras->begin());
-    Anadir(kFilas);
-    ControlDe<ui::Seleccion>("iTipoEntrada").alElegir = [this] { AlElegirTipo(); };
-    ControlDe<ui::Edicion>("dPotMaxima").alSalir = [this] { AlSalirDePotencia(); };
+    Anadir(kCampos);
+    De<ui::Seleccion>(&P::iTipoEntrada).alElegir = [this] { AlElegirTipo(); };
+    De(&P::dPotMaxima).alCambiar = [this] { AlTeclearPotencia(); };
     AnadirSelectores();
     AnadirBotones();
-    AnadirListas();
+    AnadirTablaDeDias();
+    AnadirReceptores();
+    m_resumen = &Anadir<ui::Edicion>("csResumen", L"");
+    m_resumen->bSoloLectura = true;
+    m_resumen->bVariasLineas = true;
+    m_grafica = &Anadir<ui::Grafica>("grafica", L"");
+    m_grafica->lugar.bEstirar = true;
     PonerDiasDelMes();
     Volcar();
     MostrarTodo();
@@ -108,21 +93,26 @@ CDlgDatosConsumo::CDlgDatosConsumo(const P& inicial, const CObArrayPropio<CSFVDa
 // Controls
 // ---------------------------------------------------------------------------------------------------
 
+ui::Seleccion& CDlgDatosConsumo::AnadirCombo(int P::*miembro, std::wstring_view rotulo,
+                                             std::vector<CString> acsEntradas,
+                                             void (CDlgDatosConsumo::*alElegir)())
+{
+    auto& combo = Anadir<ui::Seleccion>(ui::NombreDeCampo(miembro), rotulo, ui::Seleccion::Forma::combo);
+    combo.acsEntradas = std::move(acsEntradas);
+    combo.destino = &(datos.*miembro);
+    combo.alElegir = [this, alElegir] { (this->*alElegir)(); };
+    return combo;
+}
+
 void CDlgDatosConsumo::AnadirSelectores()
 {
-    const auto combo = [&](const char* nombre, std::wstring_view rotulo, std::vector<CString> acsEntradas,
-                           int& iDestino, void (CDlgDatosConsumo::*alElegir)()) {
-        auto& seleccion = Anadir<ui::Seleccion>(nombre, rotulo, ui::Seleccion::Forma::combo);
-        seleccion.acsEntradas = std::move(acsEntradas);
-        seleccion.destino = &iDestino;
-        seleccion.alElegir = [this, alElegir] { (this->*alElegir)(); };
-    };
-    combo("iMes", L"Mes:", efv::consumption::NombresDeMeses(), datos.iMes, &CDlgDatosConsumo::AlElegirMes);
-    combo("iDiaMes", L"Día:", {}, datos.iDiaMes, &CDlgDatosConsumo::AlElegirDia);
-    combo("iDiaTipo", L"Tipo de día:", efv::consumption::NombresDeDias(), datos.iDiaTipo,
-          &CDlgDatosConsumo::AlElegirDia);
+    m_mes = &AnadirCombo(&P::iMes, L"Mes:", efv::consumption::NombresDeMeses(), &CDlgDatosConsumo::AlElegirMes);
+    m_diaMes = &AnadirCombo(&P::iDiaMes, L"Día:", {}, &CDlgDatosConsumo::AlElegirDia);
+    m_diaTipo = &AnadirCombo(&P::iDiaTipo, L"Tipo de día:", efv::consumption::NombresDeDias(),
+                             &CDlgDatosConsumo::AlElegirDia);
     // A choice that nobody gets to see.
-    auto& rotulacion = Anadir<ui::Seleccion>("iRotulacion", L"Rotulación ...", ui::Seleccion::Forma::menu);
+    auto& rotulacion = Anadir<ui::Seleccion>(ui::NombreDeCampo(&P::iRotulacion), L"Rotulación ...",
+                                             ui::Seleccion::Forma::menu);
     rotulacion.acsEntradas = {L"Referencia", L"Potencia nominal", L"Máxima energía/mes consumida"};
     rotulacion.bVisible = false;
 }
@@ -142,28 +132,26 @@ void CDlgDatosConsumo::AnadirBotones()
     m_eliminar = &AnadirBoton(L"Eliminar", &CDlgDatosConsumo::AlEliminarReceptor);
 }
 
-void CDlgDatosConsumo::AnadirListas()
+void CDlgDatosConsumo::AnadirTablaDeDias()
 {
-    auto& dias = Anadir<ui::Lista>("adHoras", L"", ui::Lista::Forma::tabla);
-    dias.acsColumnas.emplace_back(L"Día");
-    for (int iMes = 0; iMes < 12; ++iMes)
-        dias.acsColumnas.emplace_back(efv::solar::NombreMesCorto(iMes));
-    dias.modelo = std::make_shared<TablaDeDias>(adHoras);
-    dias.alAbrir = [this](int iFila, int iColumna) { AlAbrirDia(iFila, iColumna); };
-    dias.lugar.bEstirar = true;
-    auto& receptores = Anadir<ui::Lista>("lReceptores", L"", ui::Lista::Forma::tabla);
-    receptores.acsColumnas.assign(kColumnasReceptores.begin(), kColumnasReceptores.end());
-    receptores.modelo = std::make_shared<ui::FilasDeLista>(m_filas, ui::FilasDeLista::conCasillas);
-    receptores.alElegir = [this] { m_filas.SetSelectionMark(ControlDe<ui::Lista>("lReceptores").iSeleccion); };
-    receptores.alAbrir = [this](int iFila, int) {
+    m_dias = &Anadir<ui::Lista>("adHoras", L"", ui::Lista::Forma::tabla);
+    m_dias->acsColumnas = efv::consumption::ColumnasDeDias();
+    m_dias->modelo = std::make_shared<efv::consumption::TablaDeDias>(adHoras);
+    m_dias->alAbrir = [this](int iFila, int iColumna) { AlAbrirDia(iFila, iColumna); };
+    m_dias->lugar.bEstirar = true;
+}
+
+void CDlgDatosConsumo::AnadirReceptores()
+{
+    m_receptores = &Anadir<ui::Lista>("lReceptores", L"", ui::Lista::Forma::tabla);
+    m_receptores->acsColumnas.assign(kColumnasReceptores.begin(), kColumnasReceptores.end());
+    m_receptores->modelo = std::make_shared<ui::FilasDeLista>(m_filas, ui::FilasDeLista::conCasillas);
+    m_receptores->alElegir = [this] { m_filas.SetSelectionMark(m_receptores->iSeleccion); };
+    m_receptores->alAbrir = [this](int iFila, int) {
         m_filas.SetSelectionMark(iFila);
         AlEditarReceptor();
     };
-    receptores.lugar.bEstirar = true;
-    auto& resumen = Anadir<ui::Edicion>("csResumen", L"");
-    resumen.bSoloLectura = true;
-    resumen.bVariasLineas = true;
-    Anadir<ui::Grafica>("grafica", L"").lugar.bEstirar = true;
+    m_receptores->lugar.bEstirar = true;
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -174,7 +162,7 @@ void CDlgDatosConsumo::AnadirListas()
 void CDlgDatosConsumo::PonerDiasDelMes()
 {
     efv::ComprobarIndice(datos.iMes, efv::solar::kDiasMesReferencia.size());
-    auto& dias = ControlDe<ui::Seleccion>("iDiaMes");
+    ui::Seleccion& dias = *m_diaMes;
     const int nDias = efv::solar::kDiasMesReferencia[static_cast<std::size_t>(datos.iMes)];
     dias.acsEntradas.clear();
     for (int iDia = 0; iDia < nDias; ++iDia)
@@ -190,14 +178,10 @@ void CDlgDatosConsumo::MostrarModo()
 {
     const bool bHoras = PorHoras();
     for (ui::Control* control :
-         {static_cast<ui::Control*>(&ControlDe<ui::Seleccion>("iDiaMes")),
-          static_cast<ui::Control*>(&ControlDe<ui::Edicion>("dPotMaxima")),
-          static_cast<ui::Control*>(&ControlDe<ui::Lista>("adHoras")), static_cast<ui::Control*>(m_tabla)})
+         std::initializer_list<ui::Control*>{m_diaMes, &De(&P::dPotMaxima), m_dias, m_tabla})
         control->bVisible = bHoras;
     for (ui::Control* control :
-         {static_cast<ui::Control*>(&ControlDe<ui::Seleccion>("iDiaTipo")),
-          static_cast<ui::Control*>(&ControlDe<ui::Lista>("lReceptores")), static_cast<ui::Control*>(m_anadir),
-          static_cast<ui::Control*>(m_editar), static_cast<ui::Control*>(m_eliminar)})
+         std::initializer_list<ui::Control*>{m_diaTipo, m_receptores, m_anadir, m_editar, m_eliminar})
         control->bVisible = !bHoras;
 }
 
@@ -219,9 +203,8 @@ void CDlgDatosConsumo::MostrarReceptores()
         if (receptor.get() == seleccionado)
             m_filas.SetSelectionMark(m_filas.GetItemCount() - 1);
     }
-    auto& lista = ControlDe<ui::Lista>("lReceptores");
-    lista.iSeleccion = m_filas.GetSelectionMark();
-    ++lista.uVersion;
+    m_receptores->iSeleccion = m_filas.GetSelectionMark();
+    ++m_receptores->uVersion;
 }
 
 void CDlgDatosConsumo::MostrarDia()
@@ -230,18 +213,17 @@ void CDlgDatosConsumo::MostrarDia()
     const efv::ResumenConsumo resumen =
         bHoras ? efv::ResumirHoras(*adHoras, datos.dPotMaxima, datos.iMes, datos.iDiaMes)
                : efv::ResumirReceptores(lReceptores, datos.iMes, datos.iDiaTipo);
-    ControlDe<ui::Edicion>("csResumen").csTexto = TextoResumen(resumen, datos.iMes);
+    m_resumen->csTexto = TextoResumen(resumen, datos.iMes);
     const efv::DiaHorarioVista dia(adHoras->begin() + efv::HorasDeDia(datos.iMes, datos.iDiaMes).iInicio, 24);
-    ControlDe<ui::Grafica>("grafica").datos =
-        bHoras ? efv::GraficaDiaDeHoras(dia)
-               : efv::GraficaDiaDeReceptores(lReceptores, datos.iMes, datos.iDiaTipo);
+    m_grafica->datos = bHoras ? efv::GraficaDiaDeHoras(dia)
+                              : efv::GraficaDiaDeReceptores(lReceptores, datos.iMes, datos.iDiaTipo);
 }
 
 void CDlgDatosConsumo::MostrarTodo()
 {
     MostrarModo();
     if (PorHoras())
-        ++ControlDe<ui::Lista>("adHoras").uVersion;
+        ++m_dias->uVersion;
     else
         MostrarReceptores();
     MostrarDia();
@@ -253,34 +235,35 @@ void CDlgDatosConsumo::MostrarTodo()
 
 void CDlgDatosConsumo::AlElegirTipo()
 {
-    const int iAntes = std::exchange(datos.iTipoEntrada, ControlDe<ui::Seleccion>("iTipoEntrada").iSeleccion);
+    const int iAntes = std::exchange(datos.iTipoEntrada, De<ui::Seleccion>(&P::iTipoEntrada).iSeleccion);
     if (PorHoras() && iAntes != 0 && !lReceptores.IsEmpty() &&
         ui::Preguntar(
             L"¿Desea trasladar el consumo introducido según el tipo de día y receptor a consumo hora a "
             L"hora?")) {
         datos.dPotMaxima = efv::AnoDeReceptores(lReceptores, *adHoras);
-        ControlDe<ui::Edicion>("dPotMaxima").csTexto = nuConvertFltToIntlStr(datos.dPotMaxima, 2);
+        De(&P::dPotMaxima).csTexto = nuConvertFltToIntlStr(datos.dPotMaxima, 2);
     }
     MostrarTodo();
 }
 
 void CDlgDatosConsumo::AlElegirMes()
 {
-    datos.iMes = ControlDe<ui::Seleccion>("iMes").iSeleccion;
+    datos.iMes = m_mes->iSeleccion;
     PonerDiasDelMes();
     MostrarTodo();
 }
 
 void CDlgDatosConsumo::AlElegirDia()
 {
-    datos.iDiaMes = ControlDe<ui::Seleccion>("iDiaMes").iSeleccion;
-    datos.iDiaTipo = ControlDe<ui::Seleccion>("iDiaTipo").iSeleccion;
+    datos.iDiaMes = m_diaMes->iSeleccion;
+    datos.iDiaTipo = m_diaTipo->iSeleccion;
     MostrarTodo();
 }
 
-void CDlgDatosConsumo::AlSalirDePotencia()
+// What is no number yet waits for acceptance.
+void CDlgDatosConsumo::AlTeclearPotencia()
 {
-    if (!Recoger())  // what is wrong with a field is told on acceptance
+    if (Recoger(De(&P::dPotMaxima)))
         MostrarDia();
 }
 

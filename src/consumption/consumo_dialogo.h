@@ -1,7 +1,10 @@
 // The consumption element: an hourly year, or a list of loads.
 #pragma once
 
+#include <array>
 #include <memory>
+#include <span>
+#include <vector>
 
 #include <quorvel/consumption.h>
 
@@ -14,7 +17,7 @@ struct DatosConsumo {
     CString csReferencia;
     int iTipoEntrada = 0;        ///< 0 hour by hour, 1 by day type and load
     double dPotMaxima = 2500.0;  ///< W
-    double dHusoHorario = 0.0;   ///< degrees, handed on
+    double dHusoHorario = 0.0;   ///< offset of the official time, degrees; for a label only
     int iPatron = 0;             ///< last preset
     double adMes[12][6] = {};    ///< kWh by month and tariff period
     int aiPeriodoHora[24] = {};  ///< tariff period of each hour of the day
@@ -27,7 +30,23 @@ struct DatosConsumo {
 /// Copies of the loads, in order.
 CObArrayPropio<CSFVDataReceptor> CopiarReceptores(const CObArrayPropio<CSFVDataReceptor>& lReceptores);
 
+inline constexpr auto kNombresConsumo = std::to_array<ui::NombreCampo<DatosConsumo>>({
+    {"csReferencia", &DatosConsumo::csReferencia},
+    {"iTipoEntrada", &DatosConsumo::iTipoEntrada},
+    {"dPotMaxima", &DatosConsumo::dPotMaxima},
+    {"bExcluir", &DatosConsumo::bExcluir},
+    {"iRotulacion", &DatosConsumo::iRotulacion},
+    {"iMes", &DatosConsumo::iMes},
+    {"iDiaMes", &DatosConsumo::iDiaMes},
+    {"iDiaTipo", &DatosConsumo::iDiaTipo},
+});
+
 }  // namespace efv::consumption
+
+template <>
+struct efv::ui::CamposDe<efv::consumption::DatosConsumo>
+    : CamposDeTabla<efv::consumption::DatosConsumo, efv::consumption::kNombresConsumo> {
+};
 
 class CDlgDatosConsumo : public efv::ui::DialogoFicha<efv::consumption::DatosConsumo> {
 public:
@@ -41,8 +60,11 @@ public:
 
 private:
     void AnadirSelectores();
+    efv::ui::Seleccion& AnadirCombo(int efv::consumption::DatosConsumo::*miembro, std::wstring_view rotulo,
+                                    std::vector<CString> acsEntradas, void (CDlgDatosConsumo::*alElegir)());
     void AnadirBotones();
-    void AnadirListas();
+    void AnadirTablaDeDias();
+    void AnadirReceptores();
     bool PorHoras() const { return datos.iTipoEntrada == 0; }
     efv::ui::Boton& AnadirBoton(std::wstring_view rotulo, void (CDlgDatosConsumo::*alPulsar)());
     void PonerDiasDelMes();
@@ -54,7 +76,7 @@ private:
     void AlElegirTipo();
     void AlElegirMes();
     void AlElegirDia();
-    void AlSalirDePotencia();
+    void AlTeclearPotencia();
     void AlEditarTabla();
     void AlAbrirDia(int iFila, int iColumna);
     void AlAnadirReceptor();
@@ -64,5 +86,9 @@ private:
     const efv::catalogues::Bases& m_bases;
     std::span<efv::PatronConsumo> m_patrones;
     CListCtrl m_filas;
+    efv::ui::Seleccion *m_mes = nullptr, *m_diaMes = nullptr, *m_diaTipo = nullptr;
     efv::ui::Boton *m_tabla = nullptr, *m_anadir = nullptr, *m_editar = nullptr, *m_eliminar = nullptr;
+    efv::ui::Lista *m_dias = nullptr, *m_receptores = nullptr;
+    efv::ui::Edicion* m_resumen = nullptr;
+    efv::ui::Grafica* m_grafica = nullptr;
 };

@@ -1,18 +1,17 @@
 #include "consumption/hora_hora_dialogo.h"
 
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <utility>
 
 #include <fmt/format.h>
 #include <fmt/xchar.h>
 
-#include <quorvel/framework/CException.h>
-
 #include "consumption/consumo_mes_dialogo.h"
 #include "consumption/importar_consumo_dialogo.h"
 #include "consumption/nombres.h"
 #include "consumption/patron_dialogo.h"
-#include "platform/fichero/fichero.h"
 #include "ui/fichero_texto.h"
 
 namespace {
@@ -25,27 +24,16 @@ constexpr auto kOrigenes =
 constexpr auto kSeparadores = std::to_array<std::wstring_view>({L"<;>", L"<TAB>", L"<ESPACIO>"});
 constexpr double kWhPorKWh = 1000.0;
 
-constexpr auto kFilaPotencia = std::to_array<ui::Fila<P>>({
-    {.nombre = "dPotMaxima",
-     .campo = &P::dPotMaxima,
-     .rotulo = L"Pot. máxima (W):",
-     .limites = {0.01, 1e10, [](const P& p) { return p.iOrigen == 1; }}},
+constexpr auto kPotencia = ui::Campos<P>({
+    {&P::dPotMaxima, L"Pot. máxima (W):", {0.01, 1e10, [](const P& p) { return p.iOrigen == 1; }}},
 });
-constexpr auto kFilaSeparador = std::to_array<ui::Fila<P>>({
-    {.nombre = "iSeparador", .campo = &P::iSeparador, .rotulo = L"Separador:", .entradas = kSeparadores},
+constexpr auto kSeparador = ui::Campos<P>({
+    {.miembro = &P::iSeparador, .rotulo = L"Separador:", .entradas = kSeparadores},
 });
 
-// Writes a text to a file of the person's and tells what goes wrong.
-void Guardar(const CString& csRuta, const CString& csTexto)
+bool SonPeriodos(const int (&aiPeriodoHora)[24])
 {
-    try {
-        efv::fichero::ReemplazarFichero(csRuta, efv::CadenaUtf8(csTexto));
-    } catch (const CFileException& error) {
-        const std::wstring_view verbo = error.m_cause == CFileException::discoLleno ? L"guardado" : L"creado";
-        ui::MostrarAviso(fmt::format(L"El archivo {} no puede ser {} (Error {}).", csRuta, verbo,
-                                     static_cast<int>(error.m_cause)),
-                         ui::Icono::advertencia);
-    }
+    return std::ranges::all_of(aiPeriodoHora, [](int i) { return i >= 0 && i < efv::kPeriodosTarifa; });
 }
 
 }  // namespace
@@ -79,26 +67,31 @@ CDlgDatosConsumoHoraHora::CDlgDatosConsumoHoraHora(const P& inicial, std::span<e
 // Controls
 // ---------------------------------------------------------------------------------------------------
 
+ui::Seleccion& CDlgDatosConsumoHoraHora::AnadirEleccion(int P::*miembro, std::wstring_view rotulo,
+                                                        ui::Seleccion::Forma forma,
+                                                        std::vector<CString> acsEntradas)
+{
+    auto& eleccion = Anadir<ui::Seleccion>(ui::NombreDeCampo(miembro), rotulo, forma);
+    eleccion.acsEntradas = std::move(acsEntradas);
+    eleccion.destino = &(datos.*miembro);
+    return eleccion;
+}
+
 void CDlgDatosConsumoHoraHora::AnadirControles()
 {
     using Forma = ui::Seleccion::Forma;
-    auto& periodo = Anadir<ui::Seleccion>("iPeriodo", L"Período de datos de consumo:", Forma::combo);
-    periodo.acsEntradas = efv::consumption::NombresDeMeses();
-    periodo.acsEntradas.emplace_back(L"Año completo");
-    periodo.destino = &datos.iPeriodo;
-    auto& origen = Anadir<ui::Seleccion>("iOrigen", L"", Forma::radio);
-    origen.acsEntradas.assign(kOrigenes.begin(), kOrigenes.end());
-    origen.destino = &datos.iOrigen;
-    auto& patron = Anadir<ui::Seleccion>("iPatron", L"", Forma::combo);
-    patron.acsEntradas = Titulos();
-    patron.destino = &datos.iPatron;
+    std::vector<CString> acsPeriodos = efv::consumption::NombresDeMeses();
+    acsPeriodos.emplace_back(L"Año completo");
+    m_periodo = &AnadirEleccion(&P::iPeriodo, L"Período de datos de consumo:", Forma::combo, acsPeriodos);
+    m_origen = &AnadirEleccion(&P::iOrigen, L"", Forma::radio, {kOrigenes.begin(), kOrigenes.end()});
+    m_patron = &AnadirEleccion(&P::iPatron, L"", Forma::combo, Titulos());
     m_editar = &Anadir<ui::Boton>("", L"...");
-    Anadir(kFilaPotencia);
+    Anadir(kPotencia);
     m_consejo = &Anadir<ui::Edicion>("csDescripcion", L"");
     m_consejo->bSoloLectura = true;
     m_consejo->bVariasLineas = true;
     AnadirHorario();
-    Anadir(kFilaSeparador);
+    Anadir(kSeparador);
     m_importar = &Anadir<ui::Boton>("", L"Importar datos ...");
     Anadir<ui::Boton>("", L"Exportar datos ...").alPulsar = [this] { AlExportar(); };
     m_meses = &Anadir<ui::Boton>("", L"Datos mensuales ...");
@@ -121,15 +114,12 @@ void CDlgDatosConsumoHoraHora::AnadirHorario()
 void CDlgDatosConsumoHoraHora::ConectarControles()
 {
     // Period and separator are only stored: the text stays as it is.
-    ControlDe<ui::Seleccion>("iPeriodo").alElegir = [this] {
-        datos.iPeriodo = ControlDe<ui::Seleccion>("iPeriodo").iSeleccion;
-    };
-    ControlDe<ui::Seleccion>("iSeparador").alElegir = [this] {
-        datos.iSeparador = ControlDe<ui::Seleccion>("iSeparador").iSeleccion;
-    };
-    ControlDe<ui::Seleccion>("iOrigen").alElegir = [this] { AlElegirOrigen(); };
-    ControlDe<ui::Seleccion>("iPatron").alElegir = [this] { AlElegirPatron(); };
-    auto& potencia = ControlDe<ui::Edicion>("dPotMaxima");
+    m_periodo->alElegir = [this] { datos.iPeriodo = m_periodo->iSeleccion; };
+    auto& separador = De<ui::Seleccion>(&P::iSeparador);
+    separador.alElegir = [this, &separador] { datos.iSeparador = separador.iSeleccion; };
+    m_origen->alElegir = [this] { AlElegirOrigen(); };
+    m_patron->alElegir = [this] { AlElegirPatron(); };
+    ui::Edicion& potencia = De(&P::dPotMaxima);
     potencia.alCambiar = [this] { m_bCambioPotencia = true; };
     potencia.alSalir = [this] { AlSalirDePotencia(); };
     m_editar->alPulsar = [this] { AlEditarPatron(); };
@@ -140,9 +130,8 @@ void CDlgDatosConsumoHoraHora::ConectarControles()
 void CDlgDatosConsumoHoraHora::Habilitar()
 {
     const bool bPatron = datos.iOrigen != 0;
-    for (ui::Control* control : {static_cast<ui::Control*>(&ControlDe<ui::Seleccion>("iPatron")),
-                                 static_cast<ui::Control*>(&ControlDe<ui::Edicion>("dPotMaxima")),
-                                 static_cast<ui::Control*>(m_consejo), static_cast<ui::Control*>(m_editar)})
+    for (ui::Control* control :
+         std::initializer_list<ui::Control*>{m_patron, &De(&P::dPotMaxima), m_consejo, m_editar})
         control->bHabilitado = bPatron;
     m_importar->bHabilitado = !bPatron;
     m_meses->bHabilitado = !bPatron;
@@ -188,7 +177,7 @@ void CDlgDatosConsumoHoraHora::RedactarPatron()
 
 void CDlgDatosConsumoHoraHora::AlElegirOrigen()
 {
-    datos.iOrigen = ControlDe<ui::Seleccion>("iOrigen").iSeleccion;
+    datos.iOrigen = m_origen->iSeleccion;
     Habilitar();
     if (datos.iOrigen == 1)
         RedactarPatron();
@@ -196,7 +185,7 @@ void CDlgDatosConsumoHoraHora::AlElegirOrigen()
 
 void CDlgDatosConsumoHoraHora::AlElegirPatron()
 {
-    datos.iPatron = ControlDe<ui::Seleccion>("iPatron").iSeleccion;
+    datos.iPatron = m_patron->iSeleccion;
     RedactarPatron();
 }
 
@@ -242,6 +231,11 @@ void CDlgDatosConsumoHoraHora::AlEditarPatron()
 
 void CDlgDatosConsumoHoraHora::AlPedirMeses()
 {
+    if (!SonPeriodos(datos.aiPeriodoHora)) {
+        ui::MostrarAviso(L"Los períodos tarifarios de las horas del día deben ser P1, P2 o P3.",
+                         ui::Icono::error);
+        return;
+    }
     efv::consumption::DatosConsumoMes meses;
     std::ranges::copy(std::span(&datos.adMes[0][0], 72), &meses.adMes[0][0]);
     std::ranges::copy(datos.aiPeriodoHora, meses.aiPeriodoHora);
@@ -254,7 +248,7 @@ void CDlgDatosConsumoHoraHora::AlPedirMeses()
     datos.iPatron = dialogo.datos.iPatron;
     const CItemConsumo& patron = Patron();
     efv::RepartirMeses(datos.adMes, datos.aiPeriodoHora, patron.dConsumoHora, *adHoras);
-    ControlDe<ui::Seleccion>("iPatron").iSeleccion = datos.iPatron;
+    m_patron->iSeleccion = datos.iPatron;
     m_consejo->csTexto = patron.csDescripcion;
     PonerTexto(kWhPorKWh, *adHoras);
 }
@@ -279,5 +273,5 @@ void CDlgDatosConsumoHoraHora::AlExportar()
     CDlgConfigImportConsumo dialogo({datos.iUnidad, datos.iTiempo, {}},
                                     CDlgConfigImportConsumo::Modo::exportar);
     if (dialogo.Mostrar() == ok)
-        Guardar(dialogo.datos.csArchivo, m_texto->csTexto);
+        ui::GuardarTextoExportado(dialogo.datos.csArchivo, m_texto->csTexto);
 }

@@ -2,6 +2,7 @@
 // sources end up as text in the editor, and the hours are read from that text on acceptance.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <span>
 #include <vector>
@@ -25,10 +26,23 @@ struct DatosHoraHora {
     int aiPeriodoHora[24] = {};  ///< tariff period of each hour of the day
 };
 
+inline constexpr auto kNombresHoraHora = std::to_array<ui::NombreCampo<DatosHoraHora>>({
+    {"iPeriodo", &DatosHoraHora::iPeriodo},
+    {"iOrigen", &DatosHoraHora::iOrigen},
+    {"iPatron", &DatosHoraHora::iPatron},
+    {"dPotMaxima", &DatosHoraHora::dPotMaxima},
+    {"iSeparador", &DatosHoraHora::iSeparador},
+});
+
 /// "Horario oficial (GMT+1)" of 15 degrees.
 CString RotuloHorarioOficial(double dHusoHorario);
 
 }  // namespace efv::consumption
+
+template <>
+struct efv::ui::CamposDe<efv::consumption::DatosHoraHora>
+    : CamposDeTabla<efv::consumption::DatosHoraHora, efv::consumption::kNombresHoraHora> {
+};
 
 class CDlgDatosConsumoHoraHora : public efv::ui::DialogoFicha<efv::consumption::DatosHoraHora> {
 public:
@@ -43,6 +57,8 @@ protected:
     bool AlAceptar() override;
 
 private:
+    efv::ui::Seleccion& AnadirEleccion(int efv::consumption::DatosHoraHora::*miembro, std::wstring_view rotulo,
+                                       efv::ui::Seleccion::Forma forma, std::vector<CString> acsEntradas);
     void AnadirControles();
     void AnadirHorario();
     void ConectarControles();
@@ -62,6 +78,7 @@ private:
 
     std::span<efv::PatronConsumo> m_patrones;
     std::vector<CItemConsumo> m_items;  // the presets as years
+    efv::ui::Seleccion *m_periodo = nullptr, *m_origen = nullptr, *m_patron = nullptr;
     efv::ui::Edicion* m_texto = nullptr;
     efv::ui::Edicion* m_consejo = nullptr;
     efv::ui::Boton* m_editar = nullptr;

@@ -9,24 +9,23 @@ constexpr auto kUnidades = std::to_array<std::wstring_view>({L"Wh", L"kWh"});
 constexpr auto kTiempos = std::to_array<std::wstring_view>({L"1 hora", L"1/4 hora"});
 constexpr auto kTiempoDeSalida = std::to_array<std::wstring_view>({L"1 hora"});
 
-constexpr ui::Fila<P> kUnidad = {
-    .nombre = "iUnidad", .campo = &P::iUnidad, .rotulo = L"Unidad de consumo:", .entradas = kUnidades};
-constexpr ui::Fila<P> kArchivo = {
-    .nombre = "csArchivo", .campo = &P::csArchivo, .rotulo = L"Archivo de datos:"};
+constexpr ui::Campo<P> kUnidad = {
+    .miembro = &P::iUnidad, .rotulo = L"Unidad de consumo:", .entradas = kUnidades};
+constexpr ui::Campo<P> kArchivo = {&P::csArchivo, L"Archivo de datos:"};
 
-constexpr auto kFilas = std::to_array<ui::Fila<P>>({
+constexpr auto kCampos = ui::Campos<P>({
     kUnidad,
-    {.nombre = "iTiempo", .campo = &P::iTiempo, .rotulo = L"Tiempo:", .entradas = kTiempos},
+    {.miembro = &P::iTiempo, .rotulo = L"Tiempo:", .entradas = kTiempos},
     kArchivo,
 });
-constexpr auto kFilasDeSalida = std::to_array<ui::Fila<P>>({
+constexpr auto kCamposDeSalida = ui::Campos<P>({
     kUnidad,
-    {.nombre = "iTiempo", .campo = &P::iTiempo, .rotulo = L"Tiempo:", .entradas = kTiempoDeSalida},
+    {.miembro = &P::iTiempo, .rotulo = L"Tiempo:", .entradas = kTiempoDeSalida},
     kArchivo,
 });
 
 constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
-    {"csArchivo", ui::Vacio<&P::csArchivo>, L"Seleccione un archivo CSV válido"},
+    {&P::csArchivo, ui::Vacio<&P::csArchivo>, L"Seleccione un archivo CSV válido"},
 });
 
 }  // namespace
@@ -36,9 +35,9 @@ CDlgConfigImportConsumo::CDlgConfigImportConsumo(const P& inicial, Modo modo)
 {
     if (modo == Modo::exportar) {
         datos.iTiempo = 0;
-        Anadir(kFilasDeSalida);
+        Anadir(kCamposDeSalida);
     } else {
-        Anadir(kFilas);
+        Anadir(kCampos);
     }
     Anadir<ui::Boton>("", L"...").alPulsar = [this, modo] { AlBuscarArchivo(modo); };
     Volcar();
@@ -49,7 +48,7 @@ void CDlgConfigImportConsumo::AlBuscarArchivo(Modo modo)
     ui::PeticionFichero peticion;
     peticion.filtros = {{L"CSV delimitado por comas (*.csv)", L"*.csv"}};
     peticion.bGuardar = modo == Modo::exportar;
-    peticion.csPropuesto = ControlDe<ui::Edicion>("csArchivo").csTexto;
+    peticion.csPropuesto = De(&P::csArchivo).csTexto;
     if (auto csRuta = ui::PresentadorActual().ElegirFichero(peticion))
-        ControlDe<ui::Edicion>("csArchivo").csTexto = std::move(*csRuta);
+        De(&P::csArchivo).csTexto = std::move(*csRuta);
 }

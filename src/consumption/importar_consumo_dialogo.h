@@ -1,6 +1,8 @@
 // File, unit and interval of hourly values that come from a text file or go into one.
 #pragma once
 
+#include <array>
+
 #include "ui/filas.h"
 
 namespace efv::consumption {
@@ -11,7 +13,18 @@ struct DatosImportConsumo {
     CString csArchivo;  ///< path
 };
 
+inline constexpr auto kNombresImportConsumo = std::to_array<ui::NombreCampo<DatosImportConsumo>>({
+    {"iUnidad", &DatosImportConsumo::iUnidad},
+    {"iTiempo", &DatosImportConsumo::iTiempo},
+    {"csArchivo", &DatosImportConsumo::csArchivo},
+});
+
 }  // namespace efv::consumption
+
+template <>
+struct efv::ui::CamposDe<efv::consumption::DatosImportConsumo>
+    : CamposDeTabla<efv::consumption::DatosImportConsumo, efv::consumption::kNombresImportConsumo> {
+};
 
 class CDlgConfigImportConsumo : public efv::ui::DialogoFicha<efv::consumption::DatosImportConsumo> {
 public:

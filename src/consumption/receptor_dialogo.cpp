@@ -12,28 +12,32 @@
 #include "consumption/mes_ano_dialogo.h"
 #include "consumption/nombres.h"
 #include "consumption/receptor_catalogo.h"
+#include "consumption/registros.h"
 #include "platform/numero/conversion.h"
 #include "solar/calendario.h"
+#include "ui/campos_registro.h"
 
 namespace {
 
 namespace ui = efv::ui;
 using R = CSFVDataReceptor;
+using D = efv::consumption::DatosReceptor;
 
 constexpr int kMinutosDia = 1440;
-constexpr std::wstring_view kGrupoPlanificacion = L"Planificación";
+constexpr ui::Lugar kPlanificacion{.grupo = L"Planificación"};
 
-// Decimal data of the catalogue, shown and never changed here.
-struct DatoCatalogo {
-    const char* nombre;
-    double R::*campo;
-    std::wstring_view rotulo;
-};
-constexpr auto kDatos = std::to_array<DatoCatalogo>({
-    {"dPotencia", &R::dPotencia, L"Potencia de consumo (W):"},
-    {"dVoltaje", &R::dVoltaje, L"Voltaje de servicio (V):"},
-    {"dVoltajeMinimo", &R::dVoltajeMinimo, L"Voltaje mínimo de servicio (V):"},
-    {"dRendimiento", &R::dRendimiento, L"Rendimiento (%):"},
+// Data of the catalogue, shown and never changed here.
+constexpr auto kDatos = ui::Campos<R>({
+    {&R::dPotencia, L"Potencia de consumo (W):"},
+    {&R::dVoltaje, L"Voltaje de servicio (V):"},
+    {&R::dVoltajeMinimo, L"Voltaje mínimo de servicio (V):"},
+    {&R::dRendimiento, L"Rendimiento (%):"},
+});
+
+constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<D>>({
+    {nullptr, ui::Vacio<&D::csReferencia>, L"El receptor no tiene una referencia válida."},
+    {nullptr, [](const D& d) { return d.receptor.csModelo.empty(); },
+     L"El receptor no tiene seleccionado un modelo válido."},
 });
 
 constexpr auto kLimites = std::to_array<std::wstring_view>(
@@ -50,15 +54,14 @@ CString LeerMinutos(int iMinutos)
 
 }  // namespace
 
-CDlgDatosReceptor::CDlgDatosReceptor(efv::consumption::DatosReceptor inicial,
-                                     const efv::catalogues::Bases& bases)
-    : Dialogo("CDlgDatosReceptor", L"Datos del receptor eléctrico"), datos(std::move(inicial)), m_bases(bases)
+CDlgDatosReceptor::CDlgDatosReceptor(const D& inicial, const efv::catalogues::Bases& bases)
+    : DialogoFicha("CDlgDatosReceptor", L"Datos del receptor eléctrico", inicial, kComprobaciones),
+      m_bases(bases)
 {
     efv::ComprobarIndice(datos.iMes, 12);
     if (datos.bPedirCantidad != 0)
         datos.bModelo = 1;
-    auto& referencia = Anadir<ui::Edicion>("csReferencia", L"Referencia:");
-    referencia.destino = &datos.csReferencia;
+    Anadir(ui::Campos<D>({{&D::csReferencia, L"Referencia:"}}));
     AnadirModelo();
     AnadirDatosCatalogo();
     AnadirPlanificacion();
@@ -74,22 +77,17 @@ CDlgDatosReceptor::CDlgDatosReceptor(efv::consumption::DatosReceptor inicial,
 
 void CDlgDatosReceptor::AnadirModelo()
 {
-    auto& modelo = Anadir<ui::Edicion>("csModelo", L"Modelo:");
-    modelo.destino = &datos.receptor.csModelo;
-    modelo.bSoloLectura = true;
-    auto& conModelo = Anadir<ui::Casilla>("bModelo", L"");
-    conModelo.destino = &datos.bModelo;
+    m_receptor.Anadir(*this, {&R::csModelo, L"Modelo:"}).bSoloLectura = true;
+    Anadir(ui::Campos<D>({{.miembro = &D::bModelo, .rotulo = L"", .casilla = true}}));
+    auto& conModelo = De<ui::Casilla>(&D::bModelo);
     conModelo.bHabilitado = datos.bPedirCantidad == 0;
     conModelo.alCambiar = [this, &conModelo] { m_elegir->bHabilitado = conModelo.bMarcada; };
     m_elegir = &Anadir<ui::Boton>("", L"...");
     m_elegir->bHabilitado = datos.bModelo != 0;
     m_elegir->alPulsar = [this] { AlElegirModelo(); };
-    auto& cantidad = Anadir<ui::Edicion>("iCantidad", L"Cantidad:");
-    cantidad.destino = &datos.receptor.iCantidad;
-    cantidad.limites = ui::Intervalo{0, 10000};
-    cantidad.bVisible = datos.bPedirCantidad != 0;
-    auto& fabricante = Anadir<ui::Edicion>("csFabricante", L"Fabricante:");
-    fabricante.destino = &datos.receptor.csFabricante;
+    m_receptor.Anadir(*this, {&R::iCantidad, L"Cantidad:", {0, 10000}}).bVisible = datos.bPedirCantidad != 0;
+    m_receptor.De<ui::Edicion>(&R::iCantidad).alCambiar = [this] { AlTeclearCantidad(); };
+    auto& fabricante = m_receptor.Anadir(*this, {&R::csFabricante, L"Fabricante:"});
     fabricante.bSoloLectura = true;
     fabricante.bVisible = datos.bPedirCantidad == 0;
     auto& excluir = Anadir<ui::Casilla>("bExcluir", L"Excluir del cálculo");
@@ -98,38 +96,40 @@ void CDlgDatosReceptor::AnadirModelo()
 
 void CDlgDatosReceptor::AnadirDatosCatalogo()
 {
-    for (const DatoCatalogo& dato : kDatos) {
-        auto& campo = Anadir<ui::Edicion>(dato.nombre, dato.rotulo);
-        campo.destino = &(datos.receptor.*dato.campo);
+    m_receptor.Anadir(*this, kDatos);
+    for (const auto& dato : kDatos) {
+        auto& campo = m_receptor.De<ui::Edicion>(dato.miembro);
         // Shown to two decimals; taking them back would lose the others.
         campo.intercambio = ui::Intercambio::aMano;
         campo.bSoloLectura = true;
     }
-    Anadir<ui::TextoFijo>("iTipoRed", L"Tipo de red:");
-    Anadir<ui::TextoFijo>("iLuminaria", L"Luminaria: ");
+    m_tipoRed = &Anadir<ui::TextoFijo>(ui::NombreDeCampo(&R::iTipoRed), L"Tipo de red:");
+    m_luminaria = &Anadir<ui::TextoFijo>(ui::NombreDeCampo(&R::iLuminaria), L"Luminaria: ");
+}
+
+ui::Seleccion& CDlgDatosReceptor::AnadirCombo(int D::*miembro, std::wstring_view rotulo,
+                                              std::vector<CString> acsEntradas,
+                                              void (CDlgDatosReceptor::*alElegir)())
+{
+    auto& combo = Anadir<ui::Seleccion>(ui::NombreDeCampo(miembro), rotulo, ui::Seleccion::Forma::combo);
+    combo.acsEntradas = std::move(acsEntradas);
+    combo.destino = &(datos.*miembro);
+    combo.alElegir = [this, alElegir] { (this->*alElegir)(); };
+    combo.lugar = kPlanificacion;
+    return combo;
 }
 
 void CDlgDatosReceptor::AnadirPlanificacion()
 {
-    const auto combo = [&](const char* nombre, std::wstring_view rotulo, std::vector<CString> acsEntradas,
-                           int& iDestino, void (CDlgDatosReceptor::*alElegir)()) {
-        auto& seleccion = Anadir<ui::Seleccion>(nombre, rotulo, ui::Seleccion::Forma::combo);
-        seleccion.acsEntradas = std::move(acsEntradas);
-        seleccion.destino = &iDestino;
-        seleccion.alElegir = [this, alElegir] { (this->*alElegir)(); };
-        seleccion.lugar.grupo = kGrupoPlanificacion;
-    };
-    combo("iMes", L"Mes:", efv::consumption::NombresDeMeses(), datos.iMes, &CDlgDatosReceptor::AlElegirMes);
-    combo("iDiaTipo", L"Tipo de día:", efv::consumption::NombresDeDias(), datos.iDiaTipo,
-          &CDlgDatosReceptor::AlElegirDiaTipo);
+    m_mes =
+        &AnadirCombo(&D::iMes, L"Mes:", efv::consumption::NombresDeMeses(), &CDlgDatosReceptor::AlElegirMes);
+    m_diaTipo = &AnadirCombo(&D::iDiaTipo, L"Tipo de día:", efv::consumption::NombresDeDias(),
+                             &CDlgDatosReceptor::AlElegirDiaTipo);
     m_unificar = &Anadir<ui::Seleccion>("", L"Unificar planificación", ui::Seleccion::Forma::menu);
     m_unificar->acsEntradas.assign(kUnificar.begin(), kUnificar.end());
     m_unificar->alElegir = [this] { AlUnificar(); };
-    m_unificar->lugar.grupo = kGrupoPlanificacion;
-    auto& horas = Anadir<ui::Edicion>("dHorasDia", L"Nº horas uso diario:");
-    horas.destino = &datos.receptor.dHorasDia;
-    horas.limites = ui::Intervalo{0, 24};
-    horas.lugar.grupo = kGrupoPlanificacion;
+    m_unificar->lugar = kPlanificacion;
+    m_receptor.Anadir(*this, {&R::dHorasDia, L"Nº horas uso diario:", {0, 24}}, kPlanificacion);
 }
 
 void CDlgDatosReceptor::AnadirLimites()
@@ -140,12 +140,13 @@ void CDlgDatosReceptor::AnadirLimites()
         deslizador.iPasoGrande = 60;
         deslizador.leer = LeerMinutos;
         deslizador.alMover = [this, i] { AlMover(i); };
-        deslizador.lugar.grupo = kGrupoPlanificacion;
+        deslizador.lugar = kPlanificacion;
         auto& lectura = Anadir<ui::TextoFijo>(fmt::format("csLectura[{}]", i), L"");
-        lectura.lugar.grupo = kGrupoPlanificacion;
+        lectura.lugar = kPlanificacion;
         m_limites[i] = {&deslizador, &lectura};
     }
-    Anadir<ui::Grafica>("grafica", L"").lugar.bEstirar = true;
+    m_grafica = &Anadir<ui::Grafica>("grafica", L"");
+    m_grafica->lugar.bEstirar = true;
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -156,13 +157,13 @@ void CDlgDatosReceptor::MostrarCatalogo()
 {
     efv::consumption::RefrescarDeCatalogo(datos.receptor, m_bases.receptores);
     const R& receptor = datos.receptor;
-    ControlDe<ui::Edicion>("csModelo").csTexto = receptor.csModelo;
-    ControlDe<ui::Edicion>("csFabricante").csTexto = receptor.csFabricante;
-    for (const DatoCatalogo& dato : kDatos)
-        ControlDe<ui::Edicion>(dato.nombre).csTexto =
-            efv::numero::nuConvertFltToIntlStr(receptor.*dato.campo, 2);
-    ControlDe<ui::TextoFijo>("iTipoRed").csTexto = receptor.iTipoRed == 0 ? L"CC" : L"CA";
-    ControlDe<ui::TextoFijo>("iLuminaria").csTexto = receptor.iLuminaria == 0 ? L"NO" : L"SI";
+    m_receptor.De(&R::csModelo).csTexto = receptor.csModelo;
+    m_receptor.De(&R::csFabricante).csTexto = receptor.csFabricante;
+    for (const auto& dato : kDatos)
+        m_receptor.De<ui::Edicion>(dato.miembro).csTexto =
+            efv::numero::nuConvertFltToIntlStr(receptor.*std::get<double R::*>(dato.miembro), 2);
+    m_tipoRed->csTexto = receptor.iTipoRed == 0 ? L"CC" : L"CA";
+    m_luminaria->csTexto = receptor.iLuminaria == 0 ? L"NO" : L"SI";
 }
 
 void CDlgDatosReceptor::MostrarFranjas()
@@ -177,14 +178,19 @@ void CDlgDatosReceptor::MostrarHoras()
     for (const Limite& limite : m_limites)
         limite.lectura->csTexto = limite.deslizador->Texto();
     datos.receptor.dHorasDia = efv::consumption::HorasMostradas(FranjasVisibles());
-    ControlDe<ui::Edicion>("dHorasDia").csTexto =
-        efv::numero::nuConvertFltToIntlStr(datos.receptor.dHorasDia, 2);
+    m_receptor.De(&R::dHorasDia).csTexto = efv::numero::nuConvertFltToIntlStr(datos.receptor.dHorasDia, 2);
+    Dibujar();
+}
+
+// The load by itself, included or not; one whose units aren't asked for counts once.
+void CDlgDatosReceptor::Dibujar()
+{
     CObArrayPropio<R> solo;
     R& receptor = solo.Add(std::make_unique<R>(datos.receptor));
     receptor.bNoCalcular = 0;
     if (datos.bPedirCantidad == 0)
         receptor.iCantidad = 1;
-    ControlDe<ui::Grafica>("grafica").datos = efv::GraficaDiaDeReceptores(solo, datos.iMes, datos.iDiaTipo);
+    m_grafica->datos = efv::GraficaDiaDeReceptores(solo, datos.iMes, datos.iDiaTipo);
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -201,16 +207,23 @@ void CDlgDatosReceptor::AlElegirModelo()
 
 void CDlgDatosReceptor::AlElegirMes()
 {
-    datos.iMes = ControlDe<ui::Seleccion>("iMes").iSeleccion;
+    datos.iMes = m_mes->iSeleccion;
     datos.iDiaTipo = 0;
-    ControlDe<ui::Seleccion>("iDiaTipo").iSeleccion = 0;
+    m_diaTipo->iSeleccion = 0;
     MostrarFranjas();
 }
 
 void CDlgDatosReceptor::AlElegirDiaTipo()
 {
-    datos.iDiaTipo = ControlDe<ui::Seleccion>("iDiaTipo").iSeleccion;
+    datos.iDiaTipo = m_diaTipo->iSeleccion;
     MostrarFranjas();
+}
+
+// What is no number yet waits for acceptance.
+void CDlgDatosReceptor::AlTeclearCantidad()
+{
+    if (Recoger(m_receptor.De(&R::iCantidad)))
+        Dibujar();
 }
 
 void CDlgDatosReceptor::AlMover(std::size_t i)
@@ -258,14 +271,8 @@ CString CDlgDatosReceptor::DiasSinUso() const
 
 bool CDlgDatosReceptor::AlAceptar()
 {
-    if (datos.csReferencia.empty()) {
-        ui::MostrarAviso(L"El receptor no tiene una referencia válida.", ui::Icono::advertencia);
+    if (!DialogoFicha::AlAceptar())
         return false;
-    }
-    if (datos.receptor.csModelo.empty()) {
-        ui::MostrarAviso(L"El receptor no tiene seleccionado un modelo válido.", ui::Icono::advertencia);
-        return false;
-    }
     const CString csDias = DiasSinUso();
     return csDias.empty() ||
            ui::Preguntar(fmt::format(L"Hay días que no tienen definido un patrón de consumo:\r\n[{}]\r\n¿Desea "

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <vector>
 
 #include <quorvel/consumption.h>
 
@@ -18,17 +19,27 @@ struct DatosReceptor {
     CSFVDataReceptor receptor;   ///< model, units, exclusion and bands; the rest comes from the catalogue
 };
 
+inline constexpr auto kNombresReceptor = std::to_array<ui::NombreCampo<DatosReceptor>>({
+    {"csReferencia", &DatosReceptor::csReferencia},
+    {"bModelo", &DatosReceptor::bModelo},
+    {"iMes", &DatosReceptor::iMes},
+    {"iDiaTipo", &DatosReceptor::iDiaTipo},
+});
+
 /// Opens the load's dialog on one that has no reference of its own. On acceptance model, units, power,
 /// exclusion and bands are taken back. @return 1 when the person accepted, 2 when not
 int EditarReceptor(CSFVDataReceptor& receptor, int iMes, const catalogues::Bases& bases);
 
 }  // namespace efv::consumption
 
-class CDlgDatosReceptor : public efv::ui::Dialogo {
-public:
-    efv::consumption::DatosReceptor datos;
+template <>
+struct efv::ui::CamposDe<efv::consumption::DatosReceptor>
+    : CamposDeTabla<efv::consumption::DatosReceptor, efv::consumption::kNombresReceptor> {
+};
 
-    CDlgDatosReceptor(efv::consumption::DatosReceptor inicial, const efv::catalogues::Bases& bases);
+class CDlgDatosReceptor : public efv::ui::DialogoFicha<efv::consumption::DatosReceptor> {
+public:
+    CDlgDatosReceptor(const efv::consumption::DatosReceptor& inicial, const efv::catalogues::Bases& bases);
 
 protected:
     bool AlAceptar() override;
@@ -42,21 +53,28 @@ private:
 
     void AnadirModelo();
     void AnadirDatosCatalogo();
+    efv::ui::Seleccion& AnadirCombo(int efv::consumption::DatosReceptor::*miembro, std::wstring_view rotulo,
+                                    std::vector<CString> acsEntradas, void (CDlgDatosReceptor::*alElegir)());
     void AnadirPlanificacion();
     void AnadirLimites();
     void MostrarCatalogo();
     void MostrarFranjas();
     void MostrarHoras();
+    void Dibujar();
     void AlElegirModelo();
     void AlElegirMes();
     void AlElegirDiaTipo();
+    void AlTeclearCantidad();
     void AlMover(std::size_t i);
     void AlUnificar();
     CString DiasSinUso() const;
     double (&FranjasVisibles())[6] { return datos.receptor.dHorario[datos.iMes][datos.iDiaTipo]; }
 
     const efv::catalogues::Bases& m_bases;
+    efv::ui::CamposDeObjeto<CSFVDataReceptor> m_receptor{datos.receptor};
     std::array<Limite, 6> m_limites;
     efv::ui::Boton* m_elegir = nullptr;
-    efv::ui::Seleccion* m_unificar = nullptr;
+    efv::ui::TextoFijo *m_tipoRed = nullptr, *m_luminaria = nullptr;
+    efv::ui::Seleccion *m_mes = nullptr, *m_diaTipo = nullptr, *m_unificar = nullptr;
+    efv::ui::Grafica* m_grafica = nullptr;
 };

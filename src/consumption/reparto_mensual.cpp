@@ -7,7 +7,7 @@ namespace efv {
 
 namespace {
 
-constexpr std::size_t kPeriodos = 6;
+constexpr std::size_t kPeriodos = kPeriodosTarifa;
 using SumasPorPeriodo = std::array<double, kPeriodos>;
 
 // Spreads the energies of one day, already a day's part of the month's.

@@ -351,7 +351,7 @@ TEST(RepartoMensual, UnPeriodoSinFactoresNoTieneValor)
     EXPECT_TRUE(std::isnan((*resultado)[5]));  // alone in its period
     EXPECT_EQ((*resultado)[7], 0);             // others of its period take the energy
     EXPECT_DOUBLE_EQ((*resultado)[0], 1.0 / 22);
-    datos.aiPeriodoHora[0] = 6;
+    datos.aiPeriodoHora[0] = kPeriodosTarifa;
     EXPECT_THROW(RepartirMeses(datos.adMes, datos.aiPeriodoHora, *ano, *resultado), CInvalidArgException);
 }
 

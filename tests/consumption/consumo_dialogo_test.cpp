@@ -82,7 +82,7 @@ TEST_F(ConsumoDialogo, HoraAHoraEnsenaDiasYResumen)
     ano->fill(100);
     (*ano)[24] = 150;
     Mostrar({paso::Leer{}, paso::Elegir{"iDiaMes", 1}, paso::Leer{}, paso::Elegir{"iDiaMes", 30},
-             paso::Elegir{"iMes", 1}, paso::Leer{}, paso::Poner{"dPotMaxima", L"1234"},
+             paso::Elegir{"iMes", 1}, paso::Leer{}, paso::Teclear{"dPotMaxima", L"1234"},
              paso::Leer{{"csResumen"}}});
     EXPECT_EQ(guion.presentador.transcripciones[0].csTitulo, L"Datos del consumo eléctrico");
     EXPECT_EQ(Filas(0, "adHoras")[1][1], L"2450");

@@ -179,7 +179,7 @@ TEST_F(HoraHora, LoQueNoSePuedeLeerNiEscribirNoCambiaNada)
                   .acsEntradas.size(),
               1U);
     exportar(csAusente + L"/x.csv");
-    EXPECT_EQ(guion.Mensajes().back(), L"El archivo " + csAusente + L"/x.csv no puede ser creado (Error 1).");
+    EXPECT_EQ(guion.Mensajes().back(), L"El archivo " + csAusente + L"/x.csv no puede ser creado.");
 }
 
 TEST_F(HoraHora, LaExportacionSeVuelveAImportarIgual)
@@ -276,6 +276,15 @@ TEST_F(HoraHora, LosDatosMensualesSeRepartenYSeEscribenEnWh)
     EXPECT_EQ(dialogo->datos.adMes[0][0], 310);
     EXPECT_EQ(dialogo->datos.aiPeriodoHora[12], 1);
     EXPECT_EQ(dialogo->datos.iPatron, 5);
+}
+
+TEST_F(HoraHora, UnPeriodoTarifarioQueNoExisteSeDice)
+{
+    datos.aiPeriodoHora[4] = 3;
+    EXPECT_EQ(Mostrar({paso::Pulsar{"Datos mensuales ..."}}), ui::Dialogo::cancelado);
+    EXPECT_EQ(guion.Mensajes(),
+              std::vector<CString>{L"Los períodos tarifarios de las horas del día deben ser P1, P2 o P3."});
+    EXPECT_EQ(guion.presentador.transcripciones.size(), 1U);
 }
 
 TEST(HoraHoraDialogo, ElRotuloDelHorarioOficial)

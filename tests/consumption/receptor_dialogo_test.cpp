@@ -106,6 +106,18 @@ TEST_F(ReceptorDialogo, MoverUnLimiteEscribeLaFranjaAlMomento)
     EXPECT_EQ(dialogo->datos.receptor.dHorario[0][1][0], 0);
 }
 
+TEST_F(ReceptorDialogo, LaGraficaSigueALaCantidadSegunSeTeclea)
+{
+    Planificar();
+    Mostrar({paso::Teclear{"iCantidad", L"3"}, paso::Leer{{"grafica"}}, paso::Teclear{"iCantidad", L"3x"},
+             paso::Leer{{"grafica"}}});
+    for (const std::size_t iLectura : {0U, 1U}) {
+        const auto& grafica = std::get<CCtrlCurva2D>(guion.Estado(0, iLectura, "grafica").propio);
+        EXPECT_EQ(std::ranges::max(grafica.aSeries[0].adY), 2250.0);  // 3 of 750 W
+    }
+    EXPECT_TRUE(guion.Mensajes().empty());
+}
+
 TEST_F(ReceptorDialogo, CambiarDeMesVuelveAlLunes)
 {
     datos.iDiaTipo = 3;

@@ -14,7 +14,6 @@ namespace {
 constexpr std::array<std::uint8_t, 8> kMarca = {'E', 'F', 'V', '-', 'P', 'R', 'Y', '\x1A'};
 constexpr int kEsquema = 1;
 constexpr int kPatrones = 9;
-constexpr int kPeriodosTarifa = 6;
 constexpr int kEquiposMaximo = 1'000'000;  // more than any field takes; three of them multiply without overflow
 
 constexpr std::wstring_view kMarcaLugar = L"~#SFV#~";

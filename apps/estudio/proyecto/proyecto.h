@@ -33,7 +33,7 @@ struct Consumo {
     double dPotMaxima = 2500.0;  ///< greatest power at once, W
     double adHoras[8760] = {};   ///< hourly year, Wh
     double adMes[12][6] = {};    ///< energies by month and tariff period, kWh
-    int aiPeriodoHora[24] = {};  ///< tariff period of each hour of the day, 0 to 5
+    int aiPeriodoHora[24] = {};  ///< tariff period of each hour of the day, below kPeriodosTarifa
     int bExcluir = 0;            ///< not 0: left out of the calculation
     int iRotulacion = 0;         ///< choice of labelling
     double dHusoHorario = 15.0;  ///< offset of the official time, degrees

@@ -78,7 +78,8 @@ std::optional<std::string> LeerFichero(const CString& csRuta, std::size_t maximo
         return std::nullopt;
     std::string bytes(static_cast<std::size_t>(datos.st_size), '\0');
     if (!LeerTodo(fichero.Numero(), bytes))
-        return std::nullopt;
+        throw CFileException(CFileException::generica,
+                             CadenaUtf8(csRuta) + ": " + std::generic_category().message(errno));
     return bytes;
 }
 
@@ -87,9 +88,14 @@ namespace {
 CFileException::Causa CausaDe(int error)
 {
     switch (error) {
+        case ENOENT:
+        case ENOTDIR:
+        case ENAMETOOLONG:
+            return CFileException::noEncontrado;
         case EACCES:
         case EPERM:
         case EROFS:
+        case EISDIR:
             return CFileException::accesoDenegado;
         case ENOSPC:
         case EDQUOT:
@@ -154,7 +160,7 @@ void ReemplazarFichero(const CString& csRuta, std::string_view bytes)
     const bool existe = ::stat(destino.c_str(), &datos) == 0;
     // A folder that can be written would let a file be replaced that itself must not be.
     if (existe && (!S_ISREG(datos.st_mode) || ::access(destino.c_str(), W_OK) != 0))
-        FallarEscritura(csRuta, S_ISREG(datos.st_mode) ? errno : EINVAL);
+        FallarEscritura(csRuta, S_ISREG(datos.st_mode) ? errno : EISDIR);
 
     std::string ruta = destino.string() + ".XXXXXX";
     const Descriptor fichero(::mkostemp(ruta.data(), O_CLOEXEC));

@@ -9,9 +9,9 @@ namespace efv::fichero {
 
 /// The whole file as text, each line ended by CR LF whatever ended it there. UTF-16 when its byte-order
 /// mark says so, else UTF-8 when it is well-formed UTF-8, else Windows-1252.
-/// @return nothing when it is missing, can't be read, has more than 16 MiB or isn't text (holds a zero
+/// @return nothing when it is missing, can't be opened, has more than 16 MiB or isn't text (holds a zero
 /// character)
-/// @throws CFileException with the sharing cause while another process holds it
+/// @throws CFileException as LeerFichero does
 std::optional<CString> LeerTexto(const CString& csRuta);
 
 }  // namespace efv::fichero

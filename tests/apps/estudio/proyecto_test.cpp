@@ -42,7 +42,7 @@ std::unique_ptr<CProyectoEstudio> Lleno()
     consumo.adHoras[0] = 0.1;
     consumo.adHoras[8759] = 0.3;
     consumo.adMes[11][5] = 7.5;
-    consumo.aiPeriodoHora[23] = 5;
+    consumo.aiPeriodoHora[23] = 2;
     consumo.bExcluir = 1;
     consumo.iRotulacion = 2;
     consumo.dHusoHorario = -15.0;
@@ -93,7 +93,7 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
     EXPECT_EQ(consumo.adHoras[0], 0.1);
     EXPECT_EQ(consumo.adHoras[8759], 0.3);
     EXPECT_EQ(consumo.adMes[11][5], 7.5);
-    EXPECT_EQ(consumo.aiPeriodoHora[23], 5);
+    EXPECT_EQ(consumo.aiPeriodoHora[23], 2);
     EXPECT_EQ(consumo.bExcluir, 1);
     EXPECT_EQ(consumo.iRotulacion, 2);
     EXPECT_EQ(consumo.dHusoHorario, -15.0);
@@ -171,7 +171,7 @@ TEST(Proyecto, LoQueNingunProyectoContieneSeRechaza)
     using P = CProyectoEstudio;
     EXPECT_TRUE(rechazado([](P& p) { p.lugar.dLatitud = std::nan(""); }));
     EXPECT_TRUE(rechazado([](P& p) { p.lugar.adRadHorizontal[3] = -1.0; }));
-    EXPECT_TRUE(rechazado([](P& p) { p.consumo.aiPeriodoHora[7] = 6; }));
+    EXPECT_TRUE(rechazado([](P& p) { p.consumo.aiPeriodoHora[7] = 3; }));
     EXPECT_TRUE(rechazado([](P& p) { p.consumo.iPatron = 9; }));
     EXPECT_TRUE(rechazado([](P& p) { p.consumo.iTipoEntrada = -1; }));
     EXPECT_TRUE(rechazado([](P& p) { p.red.iInversores = 2'000'000'000; }));
