@@ -1,4 +1,5 @@
-// The members of the catalogue templates, for the file that instantiates them for one model class.
+// The members of the catalogue templates, for the file that instantiates them for one model class; but for
+// the viewer, whose commands come from where the module is put together.
 #pragma once
 
 #include <algorithm>
@@ -10,7 +11,6 @@
 #include "catalogues/campos.h"
 #include "catalogues/identificacion.h"
 #include "catalogues/lector_catalogo.h"
-#include "catalogues/ver_base.h"
 #include "platform/framework/registro_clases.h"
 #include "platform/xml/xml.h"
 
@@ -107,11 +107,11 @@ void CBaseCatalogo<M>::Vaciar()
 template <class M>
 int CBaseCatalogo<M>::LeerArchivo(const CString& csPath)
 {
-    const efv::xml::DocumentoAbierto documento(csPath);
+    const efv::xml::Documento documento(csPath);
     if (!documento)
         return 0;
     efv::catalogues::LectorCatalogo<M> lector(aFamilias);
-    for (efv::xml::Nodo nodo : efv::xml::Hijos(nullptr)) {
+    for (efv::xml::Nodo nodo : documento.Superiores()) {
         if (efv::xml::SeLlama(nodo, "TablaFamilias") && !lector.LeerTabla(nodo)) {
             Vaciar();
             return 0;
@@ -191,10 +191,4 @@ int CBaseCatalogo<M>::GetFabricante(const CString& csId, CString& csFamilia) con
         return 0;
     csFamilia = familia->csNombre;
     return 1;
-}
-
-template <class M>
-int CBaseCatalogo<M>::VerBase(int iModo)
-{
-    return efv::catalogues::VerBase(*this, iModo);
 }

@@ -42,7 +42,7 @@ private:
 
     bool LeerFamilia(xml::Nodo nodo)
     {
-        xml::xmlGetTextAttribute(nodo, "nombre", m_retenido.csFamilia);
+        xml::Atributos(nodo).Leer("nombre", m_retenido.csFamilia);
         if (!m_presupuesto.Gastar(sizeof(Familia) + Bytes(m_retenido.csFamilia)))
             return false;
         Familia& familia = m_destino.Add(std::make_unique<Familia>(m_retenido.csFamilia));

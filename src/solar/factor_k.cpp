@@ -14,6 +14,7 @@
 #include "platform/framework/registro_clases.h"
 #include "platform/numero/conversion.h"
 #include "platform/numero/tolerancia.h"
+#include "platform/xml/atributos.h"
 #include "platform/xml/xml.h"
 
 namespace {
@@ -256,7 +257,7 @@ public:
 private:
     bool LeerLatitud(efv::xml::Nodo nodo)
     {
-        efv::xml::xmlGetTextAttribute(nodo, "Lat", m_csLatitud);
+        efv::xml::Atributos(nodo).Leer("Lat", m_csLatitud);
         if (!Gastar<CBaseFactorKLatitud>(m_csLatitud))
             return false;
         CBaseFactorKLatitud& latitud = m_destino.Add(std::make_unique<CBaseFactorKLatitud>(m_csLatitud));
@@ -268,11 +269,12 @@ private:
 
     bool LeerAlpha(efv::xml::Nodo nodo, CBaseFactorKLatitud& latitud)
     {
-        efv::xml::xmlGetTextAttribute(nodo, "Ph", m_csAlpha);
+        efv::xml::Atributos atributos(nodo);
+        atributos.Leer("Ph", m_csAlpha);
         if (!Gastar<CBaseFactorKAlpha>(m_csAlpha))
             return false;
         for (std::size_t m = 0; m < 12; ++m)
-            efv::xml::xmlGetFloatAttribute(nodo, kAtributos[m], m_factores[m]);
+            atributos.Leer(kAtributos[m], m_factores[m]);
         auto alpha = std::make_unique<CBaseFactorKAlpha>(m_csAlpha);
         std::ranges::copy(m_factores, alpha->dK);
         latitud.AddAlpha(std::move(alpha));
@@ -295,11 +297,11 @@ private:
 
 int CBaseFactorK::LeerArchivo(const CString& csPath)
 {
-    const efv::xml::DocumentoAbierto documento(csPath);
+    const efv::xml::Documento documento(csPath);
     if (!documento)
         return 0;
     Lector lector(aFamilias);
-    for (efv::xml::Nodo nodo : efv::xml::Hijos(nullptr)) {
+    for (efv::xml::Nodo nodo : documento.Superiores()) {
         if (efv::xml::SeLlama(nodo, "TablaFactoresK") && !lector.LeerTabla(nodo)) {
             Vaciar();
             return 0;

@@ -7,6 +7,7 @@
 #include <quorvel/framework/CException.h>
 
 #include "platform/texto/texto.h"
+#include "platform/xml/atributos.h"
 #include "platform/xml/xml.h"
 
 namespace efv {
@@ -42,17 +43,18 @@ Localidad LeerLocalidad(xml::Nodo nodo)
     CString csAlias;
     l.dLatitud = kAusente;
     l.adRadHorizontal.fill(kAusente);
-    xml::xmlGetTextAttribute(nodo, "nombre", l.csNombre);
-    xml::xmlGetTextAttribute(nodo, "alias", csAlias);
-    xml::xmlGetTextAttribute(nodo, "provincia", l.csProvincia);
-    xml::xmlGetTextAttribute(nodo, "pais", l.csPais);
-    xml::xmlGetTextAttribute(nodo, "zonaHE5", l.csZonaHE5);
-    xml::xmlGetTextAttribute(nodo, "fuente", l.csFuente);
-    xml::xmlGetFloatAttribute(nodo, "latitud", l.dLatitud);
-    xml::xmlGetFloatAttribute(nodo, "longitud", l.dLongitud);
-    xml::xmlGetFloatAttribute(nodo, "altitud", l.dAltitud);
+    xml::Atributos atributos(nodo);
+    atributos.Leer("nombre", l.csNombre);
+    atributos.Leer("alias", csAlias);
+    atributos.Leer("provincia", l.csProvincia);
+    atributos.Leer("pais", l.csPais);
+    atributos.Leer("zonaHE5", l.csZonaHE5);
+    atributos.Leer("fuente", l.csFuente);
+    atributos.Leer("latitud", l.dLatitud);
+    atributos.Leer("longitud", l.dLongitud);
+    atributos.Leer("altitud", l.dAltitud);
     for (std::size_t m = 0; m < 12; ++m)
-        xml::xmlGetFloatAttribute(nodo, kMeses[m], l.adRadHorizontal[m]);
+        atributos.Leer(kMeses[m], l.adRadHorizontal[m]);
     l.acsAlias = Partir(csAlias, L';');
     return l;
 }
@@ -120,11 +122,11 @@ std::vector<CString> Parecidos(std::span<const Nombrado> nombrados, const CStrin
 
 std::vector<Localidad> LeerLocalidades(const CString& csArchivo)
 {
-    const xml::DocumentoAbierto documento(csArchivo);
+    const xml::Documento documento(csArchivo);
     if (!documento)
         Fallar(csArchivo, "no existe, no se puede leer o no es XML bien formado");
     std::vector<Localidad> localidades;
-    for (xml::Nodo grupo : xml::Hijos(nullptr)) {
+    for (xml::Nodo grupo : documento.Superiores()) {
         if (!xml::SeLlama(grupo, "Localidades"))
             continue;
         for (xml::Nodo nodo : xml::Hijos(grupo)) {

@@ -1,5 +1,4 @@
-// The attributes of one element, for readers of thousands of elements: the getters of xml.h without a call
-// for each.
+// The attributes of one element.
 #pragma once
 
 #include <cstring>
@@ -30,7 +29,8 @@ public:
         return valor;
     }
 
-    // As the getters of xml.h: an absent attribute leaves the variable alone.
+    // An absent attribute leaves the variable alone. A number is read from the start of the text, 0 when there
+    // is none.
     void Leer(const char* nombre, CString& csValor)
     {
         if (const char* valor = Valor(nombre))

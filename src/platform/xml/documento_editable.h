@@ -43,7 +43,7 @@ public:
     DocumentoEditable(DocumentoEditable&&) noexcept;
     DocumentoEditable& operator=(DocumentoEditable&&) noexcept;
 
-    /// @return nothing when the file can't be read as a document (see xmlOpenDocument).
+    /// @return nothing when the file can't be read as a document (see xml::Documento).
     static std::optional<DocumentoEditable> Abrir(const CString& csRuta);
 
     /// The same of a text. @param utf8 well-formed UTF-8

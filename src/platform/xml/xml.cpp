@@ -2,9 +2,9 @@
 
 #include <algorithm>
 #include <cstring>
-#include <iterator>
 #include <optional>
-#include <string_view>
+#include <string>
+#include <utility>
 
 #include <pugixml.hpp>
 
@@ -14,22 +14,6 @@
 namespace efv::xml {
 
 namespace {
-
-struct Documento {
-    std::string bytes;  // the parser works in place: names and values point into it
-    pugi::xml_document arbol;
-    pugi::xml_node raiz;
-    // Attributes of one element are mostly asked for one after the other.
-    Nodo preguntado = nullptr;
-    Atributos atributos{nullptr};
-};
-
-Documento gActual;
-
-Documento& Actual()
-{
-    return gActual;
-}
 
 pugi::xml_node Interno(Nodo nodo)
 {
@@ -61,53 +45,42 @@ bool TieneUnaRaiz(const pugi::xml_document& arbol)
 
 }  // namespace
 
-int xmlOpenDocument(const CString& csRuta, int /*iReservado*/)
+struct Documento::Interior {
+    std::string bytes;  // the parser works in place: names and values point into it
+    pugi::xml_document arbol;
+};
+
+Documento::Documento(const CString& csRuta)
 {
-    xmlCloseDocument();
     std::optional<std::string> utf8 = LeerComoUtf8(csRuta);
     if (!utf8)
-        return 0;
-
-    Documento& documento = Actual();
-    documento.bytes = std::move(*utf8);
-    const pugi::xml_parse_result resultado = documento.arbol.load_buffer_inplace(
-        documento.bytes.data(), documento.bytes.size(), pugi::parse_default, pugi::encoding_utf8);
-    if (!resultado || !TieneUnaRaiz(documento.arbol)) {
-        xmlCloseDocument();
-        return 0;
-    }
-    documento.raiz = documento.arbol.document_element();
-    return 1;
+        return;
+    auto interior = std::make_unique<Interior>();
+    interior->bytes = std::move(*utf8);
+    const pugi::xml_parse_result resultado = interior->arbol.load_buffer_inplace(
+        interior->bytes.data(), interior->bytes.size(), pugi::parse_default, pugi::encoding_utf8);
+    if (resultado && TieneUnaRaiz(interior->arbol))
+        m_interior = std::move(interior);
 }
 
-void xmlCloseDocument()
+Documento::~Documento() = default;
+
+Hijos Documento::Superiores() const
 {
-    Documento& documento = Actual();
-    documento.preguntado = nullptr;
-    documento.atributos = Atributos(nullptr);
-    documento.raiz = pugi::xml_node();
-    documento.arbol.reset();
-    documento.bytes = {};
+    if (!m_interior)
+        return Hijos(Hijos::DesdeNodo{nullptr});
+    const pugi::xml_node raiz = m_interior->arbol.document_element();
+    return EsTabla(raiz.name()) ? Hijos(Hijos::DesdeNodo{Externo(raiz)}) : Hijos(Externo(raiz));
 }
 
-Nodo xmlGetFirstChildNode(Nodo nodo)
+Nodo PrimerHijo(Nodo nodo)
 {
-    if (nodo != nullptr)
-        return Externo(PrimerElemento(Interno(nodo).first_child()));
-    const pugi::xml_node raiz = Actual().raiz;
-    if (EsTabla(raiz.name()))
-        return Externo(raiz);
-    return Externo(PrimerElemento(raiz.first_child()));
+    return Externo(PrimerElemento(Interno(nodo).first_child()));
 }
 
-Nodo xmlGetNextSiblingNode(Nodo nodo)
+Nodo SiguienteHermano(Nodo nodo)
 {
     return Externo(PrimerElemento(Interno(nodo).next_sibling()));
-}
-
-void xmlGetNodeName(Nodo nodo, CString& csNombre)
-{
-    csNombre = CadenaDesdeUtf8(Interno(nodo).name());
 }
 
 bool SeLlama(Nodo nodo, const char* nombre)
@@ -121,35 +94,6 @@ const char* Atributos::Buscar(const char* nombre)
 {
     const pugi::xml_attribute atributo = m_nodo.attribute(nombre, m_siguiente);
     return atributo ? atributo.value() : nullptr;
-}
-
-namespace {
-
-Atributos& AtributosDe(Nodo nodo)
-{
-    Documento& documento = Actual();
-    if (documento.preguntado != nodo) {
-        documento.preguntado = nodo;
-        documento.atributos = Atributos(nodo);
-    }
-    return documento.atributos;
-}
-
-}  // namespace
-
-void xmlGetTextAttribute(Nodo nodo, const char* nombre, CString& csValor)
-{
-    AtributosDe(nodo).Leer(nombre, csValor);
-}
-
-void xmlGetIntAttribute(Nodo nodo, const char* nombre, int& iValor)
-{
-    AtributosDe(nodo).Leer(nombre, iValor);
-}
-
-void xmlGetFloatAttribute(Nodo nodo, const char* nombre, double& dValor)
-{
-    AtributosDe(nodo).Leer(nombre, dValor);
 }
 
 }  // namespace efv::xml
