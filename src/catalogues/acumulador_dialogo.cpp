@@ -159,7 +159,7 @@ private:
 namespace efv::catalogues {
 
 template <>
-std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura)
+std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura, const OrdenesModelo<M>& /*ordenes*/)
 {
     return std::make_unique<CDlgItemDatosAcumulador>(modelo, bSoloLectura);
 }

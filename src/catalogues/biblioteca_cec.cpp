@@ -68,8 +68,8 @@ CString NombreValido(std::string_view nombre, const char* que)
 
 class LectorCec {
 public:
-    LectorCec(const Biblioteca& biblioteca, const OpcionesCec& opciones)
-        : m_biblioteca(biblioteca), m_tipo(*BuscarTipoCatalogo(biblioteca.tipo)), m_opciones(opciones)
+    LectorCec(const Biblioteca& biblioteca, const TipoCatalogo& tipo, const OpcionesCec& opciones)
+        : m_biblioteca(biblioteca), m_tipo(tipo), m_opciones(opciones)
     {
     }
 
@@ -118,7 +118,8 @@ private:
 
 }  // namespace
 
-std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec& opciones)
+std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec& opciones,
+                                       std::span<const TipoCatalogo* const> tipos)
 {
     texto::LectorCsv csv(utf8);
     std::vector<std::string> cabecera;
@@ -127,30 +128,21 @@ std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec&
     const auto biblioteca = Reconocer(cabecera, opciones);
     if (!biblioteca)
         return std::nullopt;
-    return LectorCec(*biblioteca, opciones).Leer(csv, cabecera);
+    const TipoCatalogo& tipo = **std::ranges::find(tipos, biblioteca->tipo, &TipoCatalogo::Nombre);
+    return LectorCec(*biblioteca, tipo, opciones).Leer(csv, cabecera);
+}
+
+std::string TextoCec(const CString& csFichero)
+{
+    std::optional<std::string> bytes = fichero::LeerFichero(csFichero, kMaximo);
+    if (!bytes)
+        throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no se puede leer");
+    if (!texto::EsUtf8(*bytes))
+        bytes = texto::Windows1252AUtf8(*bytes);
+    constexpr std::string_view kMarca = "\xEF\xBB\xBF";
+    if (bytes->starts_with(kMarca))
+        bytes->erase(0, kMarca.size());
+    return std::move(*bytes);
 }
 
 }  // namespace efv::catalogues
-
-namespace efv {
-
-BibliotecaCec LeerCec(const CString& csFichero, const OpcionesCec& opciones)
-{
-    const auto fallar = [&](const char* motivo) {
-        throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": " + motivo);
-    };
-    std::optional<std::string> bytes = fichero::LeerFichero(csFichero, catalogues::kMaximo);
-    if (!bytes)
-        fallar("no se puede leer");
-    if (!texto::EsUtf8(*bytes))
-        bytes = texto::Windows1252AUtf8(*bytes);
-    std::string_view utf8 = *bytes;
-    if (utf8.starts_with("\xEF\xBB\xBF"))
-        utf8.remove_prefix(3);
-    auto biblioteca = catalogues::LeerCecDe(utf8, opciones);
-    if (!biblioteca)
-        fallar("no es una biblioteca CEC: su cabecera no es la de los módulos ni la de los inversores");
-    return std::move(*biblioteca);
-}
-
-}  // namespace efv

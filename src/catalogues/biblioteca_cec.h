@@ -2,14 +2,21 @@
 #pragma once
 
 #include <optional>
+#include <span>
+#include <string>
 #include <string_view>
 
 #include <quorvel/importacion_catalogo.h>
 
 namespace efv::catalogues {
 
-/// Nothing when the first line is the header of neither library.
-std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec& opciones);
+/// The text of a library's file as UTF-8. @throws CFileException when it can't be read
+std::string TextoCec(const CString& csFichero);
+
+/// @param tipos the kinds of component, all of them
+/// @return nothing when the first line is the header of neither library
+std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec& opciones,
+                                       std::span<const TipoCatalogo* const> tipos);
 
 /// Highest efficiency of an inverter at its nominal voltage, %, after the model of King, Gonzalez, Galbraith
 /// and Boyson (SAND2007-5036): AC power is a parabola over the DC power above the self-consumption.

@@ -2,6 +2,7 @@
 
 #include "catalogues/catalogo.h"
 #include "catalogues/panel_foto_dialogo.h"
+#include "catalogues/ver_base.h"
 #include "platform/numero/tolerancia.h"
 
 namespace efv::catalogues {
@@ -9,9 +10,9 @@ namespace efv::catalogues {
 using M = CBasePanelFotoModelo;
 
 template <>
-std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura)
+std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura, const OrdenesModelo<M>& ordenes)
 {
-    return std::make_unique<CDlgItemDatosPanelFoto>(modelo, bSoloLectura);
+    return std::make_unique<CDlgItemDatosPanelFoto>(modelo, bSoloLectura, ordenes);
 }
 
 int CelulasPorRamal(int iTipoCelula, int iNs)

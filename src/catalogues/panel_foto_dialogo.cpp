@@ -66,15 +66,10 @@ constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
 
 }  // namespace
 
-CDlgItemDatosPanelFoto::Comandos& CDlgItemDatosPanelFoto::ComandosGraficos()
-{
-    static Comandos comandos;
-    return comandos;
-}
-
-CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectura)
+CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectura, Ordenes ordenes)
     : DialogoFicha("CDlgItemDatosPanelFoto", L"Especificaciones técnicas del panel fotovoltaico", inicial,
                    kComprobaciones),
+      m_ordenes(std::move(ordenes)),
       m_coeficientes{{{&P::dCTVoc, &P::dVoc}, {&P::dCTIsc, &P::dIsc}, {&P::dCTPmpm, &P::dPmpm}}}
 {
     Anadir(kGenerales);
@@ -123,17 +118,17 @@ void CDlgItemDatosPanelFoto::AnadirBotones()
     struct {
         std::wstring_view rotulo;
         const char* imagen;
-        std::function<void(const P&)> Comandos::*comando;
+        std::function<void(const P&)> Ordenes::*orden;
     } const curvas[] = {
-        {L"Curvas I-V y P-A a T constante", "curvas-t", &Comandos::curvasATemperaturaConstante},
-        {L"Curvas I-V y P-A a G constante", "curvas-g", &Comandos::curvasAIrradiacionConstante}};
+        {L"Curvas I-V y P-A a T constante", "curvas-t", &Ordenes::curvasATemperaturaConstante},
+        {L"Curvas I-V y P-A a G constante", "curvas-g", &Ordenes::curvasAIrradiacionConstante}};
     for (const auto& curva : curvas) {
         auto& boton = Anadir<ui::Boton>("", curva.rotulo);
         boton.csImagen = efv::CadenaDesdeUtf8(curva.imagen);
         boton.csIndicacion = curva.rotulo;
-        boton.alPulsar = [this, comando = curva.comando] {
-            if (RecogerAvisando() && ComandosGraficos().*comando)
-                (ComandosGraficos().*comando)(datos);
+        boton.alPulsar = [this, orden = curva.orden] {
+            if (RecogerAvisando() && m_ordenes.*orden)
+                (m_ordenes.*orden)(datos);
         };
     }
     m_importar = &Anadir<ui::Boton>("", L"Importar archivo .PAN de PVSyst ...");

@@ -2,23 +2,17 @@
 #pragma once
 
 #include <array>
-#include <functional>
 
 #include <quorvel/catalogues.h>
 
+#include "catalogues/ordenes.h"
 #include "ui/filas.h"
 
 class CDlgItemDatosPanelFoto : public efv::ui::DialogoFicha<CBasePanelFotoModelo> {
 public:
-    /// Commands that belong to a later layer; the composition root sets them. They get the dialog's
-    /// current values.
-    struct Comandos {
-        std::function<void(const CBasePanelFotoModelo&)> curvasATemperaturaConstante;
-        std::function<void(const CBasePanelFotoModelo&)> curvasAIrradiacionConstante;
-    };
-    static Comandos& ComandosGraficos();
+    using Ordenes = efv::catalogues::OrdenesModelo<CBasePanelFotoModelo>;
 
-    CDlgItemDatosPanelFoto(const CBasePanelFotoModelo& inicial, bool bSoloLectura);
+    CDlgItemDatosPanelFoto(const CBasePanelFotoModelo& inicial, bool bSoloLectura, Ordenes ordenes);
 
 private:
     // A temperature coefficient: its stored value, the value that percentages refer to, its field and the
@@ -40,6 +34,7 @@ private:
     void AlSalirDe(Coeficiente& coeficiente);
     void AlImportar();
 
+    Ordenes m_ordenes;
     std::array<Coeficiente, 3> m_coeficientes;
     efv::ui::Boton* m_importar = nullptr;
     int bCambio = 0;  // a coefficient's text has been typed into and not yet taken over; shared by the three

@@ -12,6 +12,7 @@
 #include <quorvel/ui/presentador.h>
 
 #include "catalogues/campos.h"
+#include "catalogues/ordenes.h"
 #include "catalogues/visor.h"
 #include "frame/recursos.h"
 #include "platform/xml/documento_editable.h"
@@ -19,33 +20,10 @@
 
 namespace efv::catalogues {
 
-/// Whether the dialogs of a catalogue only show: one flag a catalogue, saved and restored around each
-/// viewer so that they nest.
-template <class M>
-int& SoloLectura()
-{
-    static int iSoloLectura = 0;
-    return iSoloLectura;
-}
-
-/// Puts a value into a flag for the length of a block.
-class ValorTemporal {
-public:
-    ValorTemporal(int& variable, int valor) : m_variable(variable), m_anterior(std::exchange(variable, valor))
-    {
-    }
-    ~ValorTemporal() { m_variable = m_anterior; }
-    ValorTemporal(const ValorTemporal&) = delete;
-    ValorTemporal& operator=(const ValorTemporal&) = delete;
-
-private:
-    int& m_variable;
-    int m_anterior;
-};
-
 /// The dialog of a model's data sheet; each catalogue has its own.
 template <class M>
-std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura);
+std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura,
+                                                  const OrdenesModelo<M>& ordenes);
 
 // ---------------------------------------------------------------------------------------------------
 // One element of the document
@@ -126,9 +104,16 @@ xml::DocumentoEditable::Atributos AtributosDe(const M& modelo)
     return atributos;
 }
 
-/// Lets the person edit one element of the document.
+/// How the elements of a document are opened.
 template <class M>
-Edicion EditarElemento(CXMLElemento* elemento, bool bNuevo)
+struct AperturaElementos {
+    bool bSoloLectura;
+    OrdenesModelo<M> ordenes;
+};
+
+/// Lets the person edit one element of the document, or look at it.
+template <class M>
+Edicion EditarElemento(CXMLElemento* elemento, bool bNuevo, const AperturaElementos<M>& apertura)
 {
     if (elemento == nullptr)
         return Edicion::sinCambio;
@@ -136,7 +121,7 @@ Edicion EditarElemento(CXMLElemento* elemento, bool bNuevo)
         return elemento->csNombre == L"Familia" ? Edicion::familia : Edicion::sinCambio;
     const M modelo = ModeloDe<M>(*elemento, bNuevo);
     const frame::AmbitoRecursos ambito;
-    const auto dialogo = CrearDialogo(modelo, SoloLectura<M>() != 0);
+    const auto dialogo = CrearDialogo(modelo, apertura.bSoloLectura, apertura.ordenes);
     if (dialogo->Mostrar() != ui::Dialogo::ok)
         return Edicion::sinCambio;
     EscribirEn(*elemento, dialogo->datos);
@@ -148,19 +133,19 @@ Edicion EditarElemento(CXMLElemento* elemento, bool bNuevo)
 // ---------------------------------------------------------------------------------------------------
 
 template <class M>
-PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, bool bModificable)
+PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, const AperturaElementos<M>& apertura)
 {
     PeticionVisor peticion;
     peticion.csRuta = base.csArchivo;
     peticion.rotulo = Catalogo<M>::Nombres().rotulo;
     peticion.titulo = Catalogo<M>::Nombres().titulo;
-    peticion.bModificable = bModificable;
+    peticion.bModificable = !apertura.bSoloLectura;
     for (const auto& campo : Catalogo<M>::Campos()) {
         peticion.atributos.push_back(campo.atributo);
         peticion.abNumerico.push_back(EsNumerico(campo));
     }
-    peticion.editar = [](CXMLElemento* e) { return EditarElemento<M>(e, false); };
-    peticion.rellenar = [](CXMLElemento* e) { return EditarElemento<M>(e, true); };
+    peticion.editar = [apertura](CXMLElemento* e) { return EditarElemento<M>(e, false, apertura); };
+    peticion.rellenar = [apertura](CXMLElemento* e) { return EditarElemento<M>(e, true, apertura); };
     return peticion;
 }
 
@@ -168,19 +153,18 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, bool bModificable)
 /// dropped.
 std::optional<std::pair<CString, CString>> PartirIdentificacion(const CString& csId);
 
+/// Runs the viewer over the catalogue's file: 0 manages it, anything else chooses a model, whose dialogs then
+/// only show. @return 1 accepted, 0 failed, anything else cancelled
 template <class M>
-int VerBase(CBaseCatalogo<M>& base, int iModo)
+int VerBase(CBaseCatalogo<M>& base, int iModo, const OrdenesModelo<M>& ordenes)
 {
     const frame::AmbitoRecursos ambito;
-    const PeticionVisor peticion = PeticionPara(base, iModo == 0);
+    const PeticionVisor peticion =
+        PeticionPara(base, AperturaElementos<M>{.bSoloLectura = iModo != 0, .ordenes = ordenes});
     CString csSeleccion = base.csSeleccion;
     if (csSeleccion.find(L'#') == CString::npos)
         csSeleccion = base.GetIdModelo(csSeleccion);
-    int iResultado = 0;
-    {
-        const ValorTemporal soloLectura(SoloLectura<M>(), iModo);
-        iResultado = xmlViewDocument2(peticion, csSeleccion);
-    }
+    const int iResultado = xmlViewDocument2(peticion, csSeleccion);
     if (iResultado == 0) {
         ui::MostrarAviso(L"Error: No se ha podido abrir el archivo <" + peticion.csRuta + L">",
                          ui::Icono::error);

@@ -1,25 +1,31 @@
-// Commands of a dialog that belong to a later layer than the dialog.
+#include "module/ordenes.h"
+
+#include <utility>
+
 #include <quorvel/electrical.h>
 
-#include "catalogues/panel_foto_dialogo.h"
 #include "electrical/graficas_dialogo.h"
+
+namespace efv::module {
 
 namespace {
 
-void Mostrar(efv::GraficasPanel graficas)
+void Mostrar(GraficasPanel graficas)
 {
     CDlgItemDatosGraficaPanelFoto(std::move(graficas)).Mostrar();
 }
 
-bool ConectarOrdenes()
+}  // namespace
+
+template <>
+catalogues::OrdenesModelo<CBasePanelFotoModelo> Ordenes()
 {
-    CDlgItemDatosPanelFoto::ComandosGraficos() = {
-        [](const CBasePanelFotoModelo& m) { Mostrar(efv::GraficasATemperaturaConstante(m)); },
-        [](const CBasePanelFotoModelo& m) { Mostrar(efv::GraficasAIrradiacionConstante(m)); },
+    return {
+        .curvasATemperaturaConstante =
+            [](const CBasePanelFotoModelo& m) { Mostrar(GraficasATemperaturaConstante(m)); },
+        .curvasAIrradiacionConstante =
+            [](const CBasePanelFotoModelo& m) { Mostrar(GraficasAIrradiacionConstante(m)); },
     };
-    return true;
 }
 
-const bool kConectadas = ConectarOrdenes();
-
-}  // namespace
+}  // namespace efv::module

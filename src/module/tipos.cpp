@@ -1,0 +1,52 @@
+// The kinds of component, and what looks through all of them.
+#include <algorithm>
+#include <array>
+
+#include <quorvel/framework/CException.h>
+#include <quorvel/importacion_catalogo.h>
+
+#include "catalogues/acumulador.h"
+#include "catalogues/biblioteca_cec.h"
+#include "catalogues/convertidor.h"
+#include "catalogues/inversor.h"
+#include "catalogues/micro_inversor.h"
+#include "catalogues/panel_foto.h"
+#include "catalogues/receptor.h"
+#include "catalogues/tipo_de.h"
+#include "module/ordenes.h"
+
+namespace efv {
+
+std::span<const TipoCatalogo* const> TiposDeCatalogo()
+{
+    using catalogues::TipoDe;
+    static const TipoDe<CBasePanelFotoModelo> modulos("modulos", module::Ordenes<CBasePanelFotoModelo>());
+    static const TipoDe<CBaseAcumuladorModelo> acumuladores("acumuladores");
+    static const TipoDe<CBaseInversorModelo> inversores("inversores");
+    static const TipoDe<CBaseMicroInversorModelo> microInversores("microinversores");
+    static const TipoDe<CBaseConvertidorModelo> convertidores("convertidores");
+    static const TipoDe<CBaseReceptorModelo> receptores("receptores");
+    static const auto kTipos = std::to_array<const TipoCatalogo*>(
+        {&modulos, &acumuladores, &inversores, &microInversores, &convertidores, &receptores});
+    return kTipos;
+}
+
+const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre)
+{
+    const auto tipos = TiposDeCatalogo();
+    const auto hallado = std::ranges::find(tipos, nombre, &TipoCatalogo::Nombre);
+    return hallado != tipos.end() ? *hallado : nullptr;
+}
+
+BibliotecaCec LeerCec(const CString& csFichero, const OpcionesCec& opciones)
+{
+    auto biblioteca = catalogues::LeerCecDe(catalogues::TextoCec(csFichero), opciones, TiposDeCatalogo());
+    if (!biblioteca)
+        throw CFileException(
+            CFileException::generica,
+            CadenaUtf8(csFichero) +
+                ": no es una biblioteca CEC: su cabecera no es la de los módulos ni la de los inversores");
+    return std::move(*biblioteca);
+}
+
+}  // namespace efv
