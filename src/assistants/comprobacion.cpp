@@ -4,7 +4,7 @@
 
 #include <quorvel/assistants_calculo.h>
 
-#include "catalogues/corrientes.h"
+#include "catalogues/kinds/corrientes.h"
 #include "electrical/curvas.h"
 #include "platform/numero/tolerancia.h"
 

@@ -1,13 +1,13 @@
 // Exported functions of the component catalogues.
 #include <quorvel/catalogues.h>
 
-#include "catalogues/acumulador.h"
-#include "catalogues/convertidor.h"
-#include "catalogues/corrientes.h"
-#include "catalogues/inversor.h"
-#include "catalogues/micro_inversor.h"
-#include "catalogues/panel_foto.h"
-#include "catalogues/receptor.h"
+#include "catalogues/kinds/acumulador.h"
+#include "catalogues/kinds/convertidor.h"
+#include "catalogues/kinds/corrientes.h"
+#include "catalogues/kinds/inversor.h"
+#include "catalogues/kinds/micro_inversor.h"
+#include "catalogues/kinds/panel_foto.h"
+#include "catalogues/kinds/receptor.h"
 #include "frame/estado.h"
 #include "frame/recursos.h"
 #include "module/singletons.h"

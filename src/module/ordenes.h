@@ -1,7 +1,7 @@
 // Commands of the models' dialogs that belong to a later layer than the dialogs.
 #pragma once
 
-#include "catalogues/ordenes.h"
+#include "catalogues/kinds/ordenes.h"
 
 namespace efv::module {
 

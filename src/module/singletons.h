@@ -8,7 +8,7 @@
 #include <quorvel/solar.h>
 
 #include "catalogues/bases.h"
-#include "catalogues/campos.h"
+#include "catalogues/format/campos.h"
 
 namespace efv::module {
 

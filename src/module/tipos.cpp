@@ -5,14 +5,14 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/importacion_catalogo.h>
 
-#include "catalogues/acumulador.h"
-#include "catalogues/biblioteca_cec.h"
-#include "catalogues/convertidor.h"
-#include "catalogues/inversor.h"
-#include "catalogues/micro_inversor.h"
-#include "catalogues/panel_foto.h"
-#include "catalogues/receptor.h"
-#include "catalogues/tipo_de.h"
+#include "catalogues/import/biblioteca_cec.h"
+#include "catalogues/kinds/acumulador.h"
+#include "catalogues/kinds/convertidor.h"
+#include "catalogues/kinds/inversor.h"
+#include "catalogues/kinds/micro_inversor.h"
+#include "catalogues/kinds/panel_foto.h"
+#include "catalogues/kinds/receptor.h"
+#include "catalogues/kinds/tipo_de.h"
 #include "module/ordenes.h"
 
 namespace efv {

@@ -1,12 +1,12 @@
 // The catalogues' own way to their viewer, with the commands of each.
-#include "catalogues/ver_base.h"
+#include "catalogues/viewer/ver_base.h"
 
-#include "catalogues/acumulador.h"
-#include "catalogues/convertidor.h"
-#include "catalogues/inversor.h"
-#include "catalogues/micro_inversor.h"
-#include "catalogues/panel_foto.h"
-#include "catalogues/receptor.h"
+#include "catalogues/kinds/acumulador.h"
+#include "catalogues/kinds/convertidor.h"
+#include "catalogues/kinds/inversor.h"
+#include "catalogues/kinds/micro_inversor.h"
+#include "catalogues/kinds/panel_foto.h"
+#include "catalogues/kinds/receptor.h"
 #include "module/ordenes.h"
 
 template <class M>

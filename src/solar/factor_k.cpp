@@ -10,7 +10,7 @@
 
 #include <quorvel/solar.h>
 
-#include "catalogues/presupuesto_lectura.h"
+#include "catalogues/format/presupuesto_lectura.h"
 #include "platform/framework/registro_clases.h"
 #include "platform/numero/conversion.h"
 #include "platform/numero/tolerancia.h"

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "catalogues/corrientes.h"
+#include "catalogues/kinds/corrientes.h"
 
 namespace {
 

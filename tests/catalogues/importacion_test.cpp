@@ -9,7 +9,7 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/importacion_catalogo.h>
 
-#include "catalogues/biblioteca_cec.h"
+#include "catalogues/import/biblioteca_cec.h"
 #include "comun/ficheros.h"
 
 namespace {

@@ -1,0 +1,115 @@
+#include "catalogues/format/anadir_modelos.h"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
+#include <utility>
+
+#include <quorvel/framework/CException.h>
+
+#include "platform/fichero/fichero.h"
+
+namespace efv::catalogues {
+
+namespace {
+
+[[noreturn]] void Fallar(const CString& csFichero, const std::string& motivo)
+{
+    throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": " + motivo);
+}
+
+xml::Elemento BuscarTabla(const xml::DocumentoEditable& documento)
+{
+    for (const xml::Elemento superior : documento.Superiores())
+        if (documento.Nombre(superior) == L"TablaFamilias")
+            return superior;
+    return {};
+}
+
+constexpr std::string_view kVacio =
+    "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<QuorvelEFV>\n<TablaFamilias/>\n</QuorvelEFV>\n";
+
+xml::DocumentoEditable AbrirOCrear(const CString& csFichero, Adicion modo)
+{
+    std::error_code fallo;
+    const bool bCrear = modo == Adicion::tolerante && !std::filesystem::exists(fichero::Ruta(csFichero), fallo);
+    auto documento = bCrear ? xml::DocumentoEditable::Leer(kVacio) : xml::DocumentoEditable::Abrir(csFichero);
+    if (!documento)
+        Fallar(csFichero, "no existe, no se puede leer o no es XML bien formado");
+    return std::move(*documento);
+}
+
+// The families of the table while models are added to them; of several with one name the first.
+class Familias {
+public:
+    Familias(xml::DocumentoEditable& documento, xml::Elemento tabla) : m_documento(documento), m_tabla(tabla)
+    {
+        for (const xml::Elemento familia : documento.Hijos(tabla, "Familia"))
+            m_familias.try_emplace(documento.Atributo(familia, "nombre"), Familia{familia, {}, false});
+    }
+
+    // False when the family has a model of that name.
+    bool Anadir(const CString& csFamilia, const CModelo& modelo, const AtributosDeModelo& atributosDe)
+    {
+        Familia& familia = m_familias[csFamilia];
+        if (!familia.bLeida)
+            Leer(familia);
+        if (!familia.nombres.insert(modelo.csModelo).second)
+            return false;
+        if (!familia.elemento)
+            familia.elemento = m_documento.Anadir(m_tabla, "Familia", {{L"nombre", csFamilia}});
+        m_documento.Anadir(familia.elemento, "Modelo", atributosDe(modelo));
+        return true;
+    }
+
+private:
+    struct Familia {
+        xml::Elemento elemento;  // none until the first model comes
+        std::unordered_set<CString> nombres;
+        bool bLeida = false;
+    };
+
+    void Leer(Familia& familia)
+    {
+        familia.bLeida = true;
+        if (familia.elemento)
+            for (const xml::Elemento modelo : m_documento.Hijos(familia.elemento, "Modelo"))
+                familia.nombres.insert(m_documento.Atributo(modelo, "csModelo"));
+    }
+
+    xml::DocumentoEditable& m_documento;
+    xml::Elemento m_tabla;
+    std::unordered_map<CString, Familia> m_familias;
+};
+
+}  // namespace
+
+std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<const ModelosDeFamilia> nuevos,
+                                          Adicion modo, const AtributosDeModelo& atributosDe)
+{
+    xml::DocumentoEditable documento = AbrirOCrear(csFichero, modo);
+    const xml::Elemento tabla = BuscarTabla(documento);
+    if (!tabla)
+        Fallar(csFichero, "no es un catálogo: no tiene TablaFamilias");
+    Familias familias(documento, tabla);
+    std::vector<const CModelo*> sobrantes;
+    bool bCambiado = false;
+    for (const auto& [csFamilia, modelos] : nuevos) {
+        for (const CModelo* modelo : modelos) {
+            const bool bNuevo = familias.Anadir(csFamilia, *modelo, atributosDe);
+            bCambiado = bCambiado || bNuevo;
+            if (!bNuevo && modo == Adicion::estricta)
+                Fallar(csFichero, "la familia " + CadenaUtf8(csFamilia) + " ya tiene el modelo " +
+                                      CadenaUtf8(modelo->csModelo));
+            if (!bNuevo)
+                sobrantes.push_back(modelo);
+        }
+    }
+    if (bCambiado)
+        fichero::ReemplazarFichero(csFichero, documento.Texto());
+    return sobrantes;
+}
+
+}  // namespace efv::catalogues

@@ -1,0 +1,61 @@
+#include "catalogues/import/importacion.h"
+
+#include <utility>
+
+#include <quorvel/framework/CException.h>
+
+#include "platform/numero/conversion.h"
+#include "ui/fichero_texto.h"
+
+namespace efv::catalogues {
+
+std::optional<CString> PedirTextoImportado(const ui::FiltroFichero& propio)
+{
+    ui::PeticionFichero peticion;
+    peticion.filtros = {propio, {L"Texto (*.txt)", L"*.txt"}, {L"Todos los ficheros (*.*)", L"*.*"}};
+    const auto csRuta = ui::PresentadorActual().ElegirFichero(peticion);
+    return csRuta ? ui::LeerTextoImportado(*csRuta) : std::nullopt;
+}
+
+CString ValorDeClave(std::wstring_view texto, std::wstring_view clave)
+{
+    const std::size_t inicio = texto.find(CString(clave) + L"=");
+    if (inicio == std::wstring_view::npos)
+        return {};
+    const std::size_t fin = texto.find(L"\r\n", inicio);
+    if (fin == std::wstring_view::npos)
+        return {};
+    const std::size_t valor = inicio + clave.size() + 1;
+    return CString(texto.substr(valor, fin - valor));
+}
+
+bool TieneClave(std::wstring_view texto, std::wstring_view clave)
+{
+    return texto.find(CString(clave) + L"=") != std::wstring_view::npos;
+}
+
+double NumeroImportado(const CString& csValor)
+{
+    return numero::LeerDoble(std::wstring_view(csValor));
+}
+
+int EnteroImportado(const CString& csValor)
+{
+    return numero::LeerEntero(CadenaUtf8(csValor));
+}
+
+CString TextoImportado(const CString& csFichero)
+{
+    std::optional<CString> csTexto = fichero::LeerTexto(csFichero);
+    if (!csTexto)
+        throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no se puede leer");
+    return std::move(*csTexto);
+}
+
+void FallarSinClaves(const CString& csFichero, const char* que)
+{
+    throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no es un archivo " + que +
+                                                       ": no tiene ninguna de sus claves");
+}
+
+}  // namespace efv::catalogues

@@ -1,0 +1,7 @@
+#include "catalogues/kinds/acumulador.h"
+
+#include "catalogues/format/catalogo.h"
+
+template class CModeloCatalogo<CBaseAcumuladorModelo>;
+template class CFamiliaCatalogo<CBaseAcumuladorModelo>;
+template class CBaseCatalogo<CBaseAcumuladorModelo>;

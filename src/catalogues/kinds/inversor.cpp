@@ -1,0 +1,52 @@
+#include "catalogues/kinds/inversor.h"
+
+#include <algorithm>
+
+#include "catalogues/format/catalogo.h"
+
+namespace efv::catalogues {
+
+namespace {
+
+using M = CBaseInversorModelo;
+
+void NormalizarListas(M& modelo)
+{
+    modelo.csICCMaxMPPT = NormalizarCorrientes(modelo.csICCMaxMPPT, modelo.dICCMax, modelo.iNumMPPT);
+    modelo.csICCMinMPPT = NormalizarCorrientes(modelo.csICCMinMPPT, modelo.dICCMin, modelo.iNumMPPT);
+}
+
+}  // namespace
+
+void Catalogo<M>::AntesDeModelo(M& retenido)
+{
+    retenido.csICCMaxMPPT.clear();
+    retenido.csICCMinMPPT.clear();
+}
+
+void Catalogo<M>::Sanear(M& leido)
+{
+    ReglasInversor::Sanear(leido);
+    leido.iUsoPrincipal = std::max(leido.iUsoPrincipal, 0);
+    NormalizarListas(leido);
+}
+
+void Catalogo<M>::PrepararEdicion(M& modelo, bool bNuevo)
+{
+    ReglasInversor::PrepararEdicion(modelo, bNuevo);
+    NormalizarListas(modelo);
+}
+
+// Files from before the lists lack them.
+std::span<const char* const> Catalogo<M>::AnadirSiFaltan()
+{
+    static constexpr auto kAtributos =
+        std::to_array<const char*>({"csICCMaxMPPT", "csICCMinMPPT", "dIScMax", "iNumMPPT", "iNumEntradas"});
+    return kAtributos;
+}
+
+}  // namespace efv::catalogues
+
+template class CModeloCatalogo<CBaseInversorModelo>;
+template class CFamiliaCatalogo<CBaseInversorModelo>;
+template class CBaseCatalogo<CBaseInversorModelo>;

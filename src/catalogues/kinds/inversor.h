@@ -1,0 +1,37 @@
+// The catalogue of inverters.
+#pragma once
+
+#include <array>
+#include <span>
+
+#include <quorvel/catalogues/inversor.h>
+
+#include "catalogues/kinds/inversores_comun.h"
+
+namespace efv::catalogues {
+
+template <>
+struct Catalogo<CBaseInversorModelo> : ReglasInversor<CBaseInversorModelo> {
+    using M = CBaseInversorModelo;
+
+    static void AntesDeModelo(M& retenido);
+    static void Sanear(M& leido);
+    static void PrepararEdicion(M& modelo, bool bNuevo);
+    static std::span<const char* const> AnadirSiFaltan();
+
+    static constexpr NombresCatalogo kNombres{
+        "CBaseInversores", "CBaseInversorFamilia",         "CBaseInversorModelo",
+        L"Inversores",     L"Base de Datos de Inversores", 20444};
+    static constexpr auto kCampos = Unir(std::to_array<CampoModelo<M>>({
+                                             {"csModelo", &M::csModelo},
+                                             {"iUsoPrincipal", &M::iUsoPrincipal, L"Uso"},
+                                         }),
+                                         kCamposEntrada<M>,
+                                         std::to_array<CampoModelo<M>>({
+                                             {"csICCMaxMPPT", &M::csICCMaxMPPT},
+                                             {"csICCMinMPPT", &M::csICCMinMPPT},
+                                         }),
+                                         kCamposRestantes<M>);
+};
+
+}  // namespace efv::catalogues

@@ -1,0 +1,22 @@
+// Commands of a model's dialog that belong to a later layer than the catalogues; they are handed in.
+#pragma once
+
+#include <functional>
+
+class CBasePanelFotoModelo;
+
+namespace efv::catalogues {
+
+/// Most models have none.
+template <class M>
+struct OrdenesModelo {
+};
+
+/// They get the dialog's current values.
+template <>
+struct OrdenesModelo<CBasePanelFotoModelo> {
+    std::function<void(const CBasePanelFotoModelo&)> curvasATemperaturaConstante;
+    std::function<void(const CBasePanelFotoModelo&)> curvasAIrradiacionConstante;
+};
+
+}  // namespace efv::catalogues

@@ -1,0 +1,71 @@
+// The catalogue of PV modules: its table of fields and what hangs on the cell technology.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include <quorvel/catalogues.h>
+
+#include "catalogues/format/campos.h"
+
+namespace efv::catalogues {
+
+template <>
+struct Catalogo<CBasePanelFotoModelo> : ReglasCatalogo<CBasePanelFotoModelo> {
+    using M = CBasePanelFotoModelo;
+
+    static constexpr NombresCatalogo kNombres{"CBasePanelFoto",
+                                              "CBasePanelFotoFamilia",
+                                              "CBasePanelFotoModelo",
+                                              L"Panel Fotovoltaico",
+                                              L"Base de Datos de Paneles Fotovoltaicos",
+                                              20442};
+    static constexpr auto kCampos = std::to_array<CampoModelo<M>>({
+        {"csModelo", &M::csModelo},
+        {"dPmpm", &M::dPmpm, L"Pmpm (W)"},
+        {"dVsmax", &M::dVsmax},
+        {"dVmpm", &M::dVmpm, L"Vmpm (V)"},
+        {"dImpm", &M::dImpm, L"Impm (A)"},
+        {"dVoc", &M::dVoc},
+        {"dIsc", &M::dIsc},
+        {"dCTVoc", &M::dCTVoc},
+        {"dCTIsc", &M::dCTIsc},
+        {"dCTPmpm", &M::dCTPmpm},
+        {"dCEf", &M::dCEf},
+        {"iNp", &M::iNp},
+        {"iNs", &M::iNs},
+        {"dAcel", &M::dAcel},
+        {"iTipoCelula", &M::iTipoCelula, L"Tecnología"},
+        {"dH", &M::dH},
+        {"dB", &M::dB},
+        {"dA", &M::dA},
+        {"dP", &M::dP},
+        {"nColor", &M::nColor},
+        {"csCodPrecio", &M::csCodPrecio},
+    });
+};
+
+/// A cell technology in the three vocabularies that name it.
+struct TipoCelula {
+    std::wstring_view entrada;  ///< entry of the dialog
+    std::wstring_view nombre;
+    std::wstring_view pan;  ///< value in a PAN file; empty: any other
+};
+
+inline constexpr auto kTiposCelula = std::to_array<TipoCelula>({
+    {L"monocristalino", L"Si Monocristalino", L"mtSiMono"},
+    {L"policristalino", L"Si Policristalino", L"mtSiPoly"},
+    {L"amorfo", L"Si Amorfo", L"mtSiAmor"},
+    {L"híbrido", L"Otras", {}},
+});
+
+/// Cells a branch as the getters give them: 200 for the technologies from 3 on.
+int CelulasPorRamal(int iTipoCelula, int iNs);
+
+/// Coefficient in thousandths of a unit and degree to percent of a reference and degree. A null
+/// reference counts as 1.
+double CoeficienteAPorciento(double dCoeficiente, double dReferencia);
+/// The way back, unguarded.
+double CoeficienteDePorciento(double dPorciento, double dReferencia);
+
+}  // namespace efv::catalogues

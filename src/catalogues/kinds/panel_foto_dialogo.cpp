@@ -1,0 +1,177 @@
+#include "catalogues/kinds/panel_foto_dialogo.h"
+
+#include "catalogues/import/importacion.h"
+#include "catalogues/import/panel_foto_pan.h"
+#include "catalogues/kinds/panel_foto.h"
+#include "platform/numero/conversion.h"
+
+namespace {
+
+namespace ui = efv::ui;
+using P = CBasePanelFotoModelo;
+
+constexpr auto kEntradasTipo = [] {
+    std::array<std::wstring_view, efv::catalogues::kTiposCelula.size()> entradas;
+    for (std::size_t i = 0; i < entradas.size(); ++i)
+        entradas[i] = efv::catalogues::kTiposCelula[i].entrada;
+    return entradas;
+}();
+
+constexpr auto kGenerales = std::to_array<ui::Fila<P>>({
+    {"csModelo", &P::csModelo, L"Modelo:"},
+    {"csCodPrecio", &P::csCodPrecio, L"Cod.Precios:"},
+});
+constexpr auto kElectricos = std::to_array<ui::Fila<P>>({
+    {"dVsmax", &P::dVsmax, L"Tensión máxima del sistema [Vsmax] (V):", {0, 10000}},
+    {"dPmpm", &P::dPmpm, L"Potencia máxima [Pmpm] (W):", {0, 15000}},
+    {"dVmpm", &P::dVmpm, L"Tensión en máxima potencia [Vmpm] (V):", {0, 15000}},
+    {"dImpm", &P::dImpm, L"Corriente en máxima potencia [Impm] (A):", {0, 5000}},
+    {"dVoc", &P::dVoc, L"Tensión a circuito abierto [Voc] (V):", {0, 15000}},
+    {"dIsc", &P::dIsc, L"Corriente en cortocircuito [Isc] (A):", {0, 5000}},
+});
+constexpr auto kTermicos = std::to_array<ui::Fila<P>>({
+    {"dCEf", &P::dCEf, L"Reducción efic. [1000 a 200 W/m² ](%):", {0, 100}},
+});
+constexpr auto kFisicos = std::to_array<ui::Fila<P>>({
+    {"dAcel", &P::dAcel, L"Dimensiones de la célula [AxB] (mm²):"},
+    {"dH", &P::dH, L"Longitud (mm):", {0, 50000}, 0},
+    {"dB", &P::dB, L"Ancho (mm):", {0, 50000}, 0},
+    {"dA", &P::dA, L"Canto (mm):", {0, 50000}, 0},
+    {"dP", &P::dP, L"Peso (kg):", {0, 50000}},
+    {.nombre = "iTipoCelula",
+     .campo = &P::iTipoCelula,
+     .rotulo = L"Tecnología de la célula:",
+     .entradas = kEntradasTipo},
+    {"iNp", &P::iNp, L"Número de ramales paralelo:", {1, 1000}},
+    {"iNs", &P::iNs, L"Número de células por ramal:", {1, 1000}},
+});
+
+const ui::Lugar kLugarElectricos{.grupo = L"Características eléctricas"};
+const ui::Lugar kLugarTermicos{.grupo = L"Coeficientes de temperatura"};
+const ui::Lugar kLugarFisicos{.grupo = L"Características físicas", .iColumna = 1};
+
+constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
+    {"csModelo", ui::Vacio<&P::csModelo>, L"El modelo del panel, necesita un nombre válido"},
+    {"dPmpm", ui::Nulo<&P::dPmpm>, L"La potencia máxima (Pmpm), no puede tener un valor nulo"},
+    {"dVmpm", ui::Nulo<&P::dVmpm>, L"La tensión a máxima potencia (Vmpm), no puede tener un valor nulo"},
+    {"dImpm", ui::Nulo<&P::dImpm>, L"La corriente a máxima potencia (Impm), no puede tener un valor nulo"},
+    {"dVoc", ui::Nulo<&P::dVoc>, L"La tensión a circuito abierto (Voc), no puede tener un valor nulo"},
+    {"dIsc", ui::Nulo<&P::dIsc>, L"La corriente a cortocircuito (Isc), no puede tener un valor nulo"},
+    {"dH", ui::Nulo<&P::dH>, L"La longitud del panel (H), no puede tener un valor nulo"},
+    {"dB", ui::Nulo<&P::dB>, L"La anchura del panel (B), no puede tener un valor nulo"},
+    {"dA", ui::Nulo<&P::dA>, L"La canto del panel (A), no puede tener un valor nulo"},
+    {nullptr, [](const P& p) { return p.iNp < 1 || p.iNs < 1; },
+     L"El número de células y ramas no puede tener nulo", ui::Icono::error},
+});
+
+}  // namespace
+
+CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectura, Ordenes ordenes)
+    : DialogoFicha("CDlgItemDatosPanelFoto", L"Especificaciones técnicas del panel fotovoltaico", inicial,
+                   kComprobaciones),
+      m_ordenes(std::move(ordenes)),
+      m_coeficientes{{{&P::dCTVoc, &P::dVoc}, {&P::dCTIsc, &P::dIsc}, {&P::dCTPmpm, &P::dPmpm}}}
+{
+    Anadir(kGenerales);
+    Anadir(kElectricos, kLugarElectricos);
+    AnadirCoeficiente(m_coeficientes[0], "dCTVoc", L"Coeficiente de Tª de Voc:    (mV/ºC):", "iUnidadVoc",
+                      L"mV/ºC");
+    AnadirCoeficiente(m_coeficientes[1], "dCTIsc", L"Coeficiente de Tª de Isc:     (mA/ºC)", "iUnidadIsc",
+                      L"mA/ºC");
+    AnadirCoeficiente(m_coeficientes[2], "dCTPmpm", L"Coeficiente de Tª a Pmpm:    (mW/ºC):", "iUnidadPmpm",
+                      L"mW/ºC");
+    Anadir(kTermicos, kLugarTermicos);
+    Anadir(kFisicos, kLugarFisicos);
+    AnadirBotones();
+    Volcar();
+    for (const Coeficiente& coeficiente : m_coeficientes)
+        Escribir(coeficiente);
+    if (bSoloLectura) {
+        PonerSoloLectura();
+        m_importar->bHabilitado = false;
+    }
+}
+
+void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, const char* nombre,
+                                               std::wstring_view rotulo, const char* nombreUnidad,
+                                               std::wstring_view unidadAbsoluta)
+{
+    auto& campo = Anadir<ui::Edicion>(nombre, rotulo);
+    campo.destino = &(datos.*coeficiente.valor);
+    campo.iDecimales = 3;
+    campo.intercambio = ui::Intercambio::aMano;
+    campo.lugar = kLugarTermicos;
+    campo.alCambiar = [this] { bCambio = 1; };
+    campo.alSalir = [this, &coeficiente] { AlSalirDe(coeficiente); };
+    coeficiente.campo = &campo;
+
+    auto& unidad = Anadir<ui::Seleccion>(nombreUnidad, L"", ui::Seleccion::Forma::combo);
+    unidad.acsEntradas = {CString(unidadAbsoluta), L"%/ºC"};
+    unidad.iSeleccion = coeficiente.iUnidad;
+    unidad.lugar = kLugarTermicos;
+    unidad.alElegir = [this, &coeficiente] { AlCambiarUnidad(coeficiente); };
+    coeficiente.unidad = &unidad;
+}
+
+void CDlgItemDatosPanelFoto::AnadirBotones()
+{
+    struct {
+        std::wstring_view rotulo;
+        const char* imagen;
+        std::function<void(const P&)> Ordenes::*orden;
+    } const curvas[] = {{L"Curvas I-V y P-A a T constante", "curvas-t", &Ordenes::curvasATemperaturaConstante},
+                        {L"Curvas I-V y P-A a G constante", "curvas-g", &Ordenes::curvasAIrradiacionConstante}};
+    for (const auto& curva : curvas) {
+        auto& boton = Anadir<ui::Boton>("", curva.rotulo);
+        boton.csImagen = efv::CadenaDesdeUtf8(curva.imagen);
+        boton.csIndicacion = curva.rotulo;
+        boton.alPulsar = [this, orden = curva.orden] {
+            if (RecogerAvisando() && m_ordenes.*orden)
+                (m_ordenes.*orden)(datos);
+        };
+    }
+    m_importar = &Anadir<ui::Boton>("", L"Importar archivo .PAN de PVSyst ...");
+    m_importar->alPulsar = [this] { AlImportar(); };
+}
+
+double CDlgItemDatosPanelFoto::Mostrado(const Coeficiente& c) const
+{
+    return c.iUnidad == 1 ? efv::catalogues::CoeficienteAPorciento(datos.*c.valor, datos.*c.referencia)
+                          : datos.*c.valor;
+}
+
+void CDlgItemDatosPanelFoto::Escribir(const Coeficiente& c)
+{
+    c.campo->csTexto = efv::numero::nuConvertFltToIntlStr(Mostrado(c), c.campo->iDecimales);
+}
+
+void CDlgItemDatosPanelFoto::AlCambiarUnidad(Coeficiente& c)
+{
+    if (c.unidad->iSeleccion == c.iUnidad)
+        return;
+    c.iUnidad = c.unidad->iSeleccion;
+    Escribir(c);
+}
+
+void CDlgItemDatosPanelFoto::AlSalirDe(Coeficiente& c)
+{
+    if (bCambio == 0 || !RecogerAvisando())
+        return;
+    double dTecleado = 0.0;  // a text that is no number counts as 0
+    efv::numero::nuConvertIntlStrToFlt(c.campo->csTexto, dTecleado);
+    datos.*c.valor =
+        c.iUnidad == 1 ? efv::catalogues::CoeficienteDePorciento(dTecleado, datos.*c.referencia) : dTecleado;
+    c.campo->csTexto = efv::numero::nuConvertFltToIntlStr(dTecleado, c.campo->iDecimales);
+    bCambio = 0;
+}
+
+void CDlgItemDatosPanelFoto::AlImportar()
+{
+    const auto csTexto = efv::catalogues::PedirTextoImportado({L"Archivo PAN de PVSyst (*.pan)", L"*.pan"});
+    if (!csTexto || csTexto->empty())
+        return;
+    efv::catalogues::ImportarPan(*csTexto, datos);
+    for (const Coeficiente& coeficiente : m_coeficientes)
+        Escribir(coeficiente);
+    Volcar();
+}

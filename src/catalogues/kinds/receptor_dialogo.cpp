@@ -1,0 +1,48 @@
+// Dialog of a load's data sheet.
+#include "catalogues/kinds/dialogo_modelo.h"
+#include "catalogues/kinds/receptor.h"
+
+namespace {
+
+namespace ui = efv::ui;
+using M = CBaseReceptorModelo;
+
+constexpr auto kTiposRed = std::to_array<std::wstring_view>({L"Red de CC", L"Red de CA"});
+
+constexpr auto kGenerales = std::to_array<ui::Fila<M>>({{"csModelo", &M::csModelo, L"Modelo:"}});
+
+constexpr auto kDatos = std::to_array<ui::Fila<M>>({
+    {"dP", &M::dP, L"Potencia de consumo (W):"},
+    {"dVs", &M::dVs, L"Voltaje de servicio (V):", {1, 10000}},
+    {"dVsMin", &M::dVsMin, L"Voltaje mínimo de servicio (V):", {1, &M::dVs}},
+    {"dRend", &M::dRend, L"Rendimiento (%):", {1, 100}},
+    {.nombre = "iTipoRed", .campo = &M::iTipoRed, .rotulo = L"Tipo de red:", .entradas = kTiposRed},
+    {.nombre = "bIlum", .campo = &M::bIlum, .rotulo = L"Receptor con caracter de luminaria", .casilla = true},
+});
+
+class CDlgItemDatosReceptor : public efv::catalogues::DialogoModelo<M> {
+public:
+    // An empty name passes here.
+    CDlgItemDatosReceptor(const M& inicial, bool bSoloLectura)
+        : DialogoModelo("CDlgItemDatosReceptor", L"Especificaciones técnicas del receptor fotovoltaico",
+                        inicial, {})
+    {
+        Anadir(kGenerales);
+        AnadirFabricante();
+        Anadir(kDatos);
+        Abrir(bSoloLectura);
+    }
+};
+
+}  // namespace
+
+namespace efv::catalogues {
+
+template <>
+std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura,
+                                                  const OrdenesModelo<M>& /*ordenes*/)
+{
+    return std::make_unique<CDlgItemDatosReceptor>(modelo, bSoloLectura);
+}
+
+}  // namespace efv::catalogues

@@ -1,0 +1,72 @@
+#include "catalogues/viewer/edicion_documento.h"
+
+#include <utility>
+
+namespace efv::catalogues {
+
+using xml::DocumentoEditable;
+
+CXMLElemento EdicionDocumento::Leer(xml::Elemento elemento) const
+{
+    CXMLElemento leido(m_documento.Nombre(elemento));
+    for (const auto& [nombre, valor] : m_documento.LeerAtributos(elemento))
+        leido.aAtributos.push_back(std::make_unique<CXMLAttribute>(nombre, valor));
+    return leido;
+}
+
+void EdicionDocumento::PonerAtributos(xml::Elemento elemento, const DocumentoEditable::Atributos& atributos)
+{
+    const auto anteriores = m_documento.LeerAtributos(elemento);
+    if (anteriores == atributos)
+        return;
+    m_documento.PonerAtributos(elemento, atributos);
+    m_deshacer.emplace_back(
+        [elemento, anteriores](DocumentoEditable& d) { d.PonerAtributos(elemento, anteriores); });
+}
+
+void EdicionDocumento::Escribir(xml::Elemento elemento, const CXMLElemento& cambiado)
+{
+    DocumentoEditable::Atributos atributos;
+    for (const auto& atributo : cambiado.aAtributos)
+        atributos.emplace_back(atributo->csNombre, atributo->csValor);
+    PonerAtributos(elemento, atributos);
+}
+
+void EdicionDocumento::PonerAtributo(xml::Elemento elemento, std::wstring_view nombre, const CString& csValor)
+{
+    CXMLElemento leido = Leer(elemento);
+    leido.AddAtributo(nombre, L"");
+    leido.SetAtributoVariant(nombre, csValor);
+    Escribir(elemento, leido);
+}
+
+xml::Elemento EdicionDocumento::Anadir(xml::Elemento padre, std::string_view nombre,
+                                       const DocumentoEditable::Atributos& atributos)
+{
+    const xml::Elemento nuevo = m_documento.Anadir(padre, nombre, atributos);
+    m_deshacer.emplace_back([nuevo](DocumentoEditable& d) { d.Retirar(nuevo); });
+    return nuevo;
+}
+
+xml::Elemento EdicionDocumento::Duplicar(xml::Elemento elemento)
+{
+    const xml::Elemento copia = m_documento.Duplicar(elemento);
+    m_deshacer.emplace_back([copia](DocumentoEditable& d) { d.Retirar(copia); });
+    return copia;
+}
+
+void EdicionDocumento::Retirar(xml::Elemento elemento)
+{
+    const auto retirado = m_documento.Retirar(elemento);
+    m_deshacer.emplace_back([retirado](DocumentoEditable& d) { d.Reponer(retirado); });
+}
+
+void EdicionDocumento::Deshacer()
+{
+    if (m_deshacer.empty())
+        return;
+    m_deshacer.back()(m_documento);
+    m_deshacer.pop_back();
+}
+
+}  // namespace efv::catalogues

@@ -1,0 +1,34 @@
+// The viewer of a catalogue's document, in which all editing, choosing and saving happens.
+#pragma once
+
+#include <functional>
+#include <string_view>
+#include <vector>
+
+#include <quorvel/framework/CString.h>
+
+#include "catalogues/format/elemento.h"
+
+namespace efv::catalogues {
+
+/// What the editing of one element came to.
+enum class Edicion : int { cambiado = 1, sinCambio = 2, familia = 3 };
+
+struct PeticionVisor {
+    CString csRuta;
+    std::wstring_view rotulo;  ///< label of the catalogue
+    std::wstring_view titulo;
+    bool bModificable = false;           ///< the document may be changed; else it is shown for choosing
+    std::vector<const char*> atributos;  ///< all attributes of a model, for a new one, in file order
+    std::vector<bool> abNumerico;        ///< whether the attribute of that place is a number
+    std::function<Edicion(CXMLElemento*)> editar;    ///< lets the person edit an existing element
+    std::function<Edicion(CXMLElemento*)> rellenar;  ///< the same for a new one
+};
+
+/// Runs the viewer on the file's own document; `csSeleccion` is the identification to show first, and
+/// then the one chosen ("family#model", or a family's name).
+/// @return 1 accepted (and saved, when anything was changed), 0 the document couldn't be opened, 2
+/// cancelled.
+int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion);
+
+}  // namespace efv::catalogues

@@ -1,0 +1,298 @@
+#include "catalogues/viewer/visor_dialogo.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <quorvel/framework/CException.h>
+#include <quorvel/ui/presentador.h>
+
+#include "platform/fichero/fichero.h"
+#include "platform/xml/xml.h"
+
+namespace ui = efv::ui;
+namespace xml = efv::xml;
+using efv::catalogues::CXMLElemento;
+using efv::catalogues::FilaArbol;
+using efv::catalogues::FilasVisibles;
+
+namespace {
+
+constexpr const char* AtributoDeNombre(const FilaArbol& fila)
+{
+    return fila.bModelo ? "csModelo" : "nombre";
+}
+
+CString Ancho(const char* texto)
+{
+    return efv::CadenaDesdeUtf8(texto);
+}
+
+// A name that the person gave; nothing when they cancelled.
+std::optional<CString> PedirNombre(std::wstring_view titulo, const CString& csInicial)
+{
+    CDlgVisorNombre dialogo(titulo, csInicial);
+    if (dialogo.Mostrar() != ui::Dialogo::ok)
+        return std::nullopt;
+    return dialogo.csNombre;
+}
+
+}  // namespace
+
+// ---------------------------------------------------------------------------------------------------
+// Name
+// ---------------------------------------------------------------------------------------------------
+
+CDlgVisorNombre::CDlgVisorNombre(std::wstring_view titulo, CString csInicial)
+    : Dialogo("CDlgVisorNombre", titulo), csNombre(std::move(csInicial))
+{
+    auto& campo = Anadir<ui::Edicion>("csNombre", L"&Nombre:");
+    campo.destino = &csNombre;
+    foco = &campo;
+    Volcar();
+}
+
+bool CDlgVisorNombre::AlAceptar()
+{
+    const wchar_t* falta = nullptr;
+    if (csNombre.find_first_not_of(L" \t") == CString::npos)
+        falta = L"Escriba un nombre.";
+    else if (csNombre.find(L'#') != CString::npos)
+        falta = L"El nombre no puede contener el signo #, que separa familia y modelo.";
+    if (falta == nullptr)
+        return true;
+    foco = Controles().front();
+    ui::MostrarAviso(falta, ui::Icono::advertencia);
+    return false;
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Viewer
+// ---------------------------------------------------------------------------------------------------
+
+CDlgVisorXML::CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion, xml::DocumentoEditable documento,
+                           std::string huella, const CString& csSeleccion)
+    : Dialogo("CDlgVisorXML", peticion.titulo),
+      m_peticion(peticion),
+      m_edicion(std::move(documento)),
+      m_huella(std::move(huella)),
+      m_buscar(Anadir<ui::Edicion>("csBuscar", L"&Buscar:")),
+      m_arbol(Anadir<ui::Lista>("arbol", peticion.rotulo, ui::Lista::Forma::arbol))
+{
+    bMaximizable = true;
+    m_buscar.alCambiar = [this] { AlBuscar(); };
+    m_arbol.lugar.bEstirar = true;
+    m_arbol.alElegir = [this] { Activar(); };
+    m_arbol.alAbrir = [this](int, int) { Editar(); };
+
+    m_deFila.push_back(
+        &AnadirBoton("Editar", peticion.bModificable ? L"&Editar..." : L"&Ver...", &CDlgVisorXML::Editar));
+    m_nuevo = &AnadirBoton("Nuevo", L"&Nuevo...", &CDlgVisorXML::Nuevo);
+    m_deFila.push_back(&AnadirBoton("Duplicar", L"&Duplicar", &CDlgVisorXML::Duplicar));
+    m_deFila.push_back(&AnadirBoton("Renombrar", L"&Renombrar...", &CDlgVisorXML::Renombrar));
+    m_deFila.push_back(&AnadirBoton("Eliminar", L"E&liminar", &CDlgVisorXML::Eliminar));
+    AnadirBoton("NuevaFamilia", L"Nueva &familia...", &CDlgVisorXML::NuevaFamilia);
+    m_deshacer = &AnadirBoton("Deshacer", L"De&shacer", &CDlgVisorXML::Deshacer);
+
+    m_filas = efv::catalogues::LeerFilas(m_edicion.Documento());
+    Filtrar({});
+    m_arbol.iSeleccion = csSeleccion.empty() ? -1 : m_visibles->FilaDe(csSeleccion);
+    Activar();
+}
+
+ui::Boton& CDlgVisorXML::AnadirBoton(const char* nombre, std::wstring_view rotulo,
+                                     void (CDlgVisorXML::*orden)())
+{
+    auto& boton = Anadir<ui::Boton>(nombre, rotulo);
+    boton.lugar.iColumna = 1;
+    boton.bVisible = m_peticion.bModificable || std::string_view(nombre) == "Editar";
+    boton.alPulsar = [this, orden] { (this->*orden)(); };
+    return boton;
+}
+
+const FilaArbol* CDlgVisorXML::FilaActual() const
+{
+    const int i = m_arbol.iSeleccion;
+    return i >= 0 && i < m_visibles->Filas() ? &m_visibles->Fila(i) : nullptr;
+}
+
+CString CDlgVisorXML::Seleccion() const
+{
+    return FilaActual() != nullptr ? m_visibles->Identificacion(m_arbol.iSeleccion) : CString();
+}
+
+void CDlgVisorXML::Filtrar(xml::Elemento elemento)
+{
+    m_visibles = std::make_shared<FilasVisibles>(m_filas, m_buscar.csTexto);
+    m_arbol.modelo = m_visibles;
+    ++m_arbol.uVersion;
+    m_arbol.iSeleccion = elemento ? m_visibles->FilaDe(elemento) : -1;
+    Activar();
+}
+
+void CDlgVisorXML::Releer(xml::Elemento elemento)
+{
+    m_filas = efv::catalogues::LeerFilas(m_edicion.Documento());
+    Filtrar(elemento);
+}
+
+void CDlgVisorXML::Activar()
+{
+    const FilaArbol* fila = FilaActual();
+    for (ui::Boton* boton : m_deFila)
+        boton->bHabilitado = fila != nullptr;
+    m_nuevo->bHabilitado = fila != nullptr;
+    // A family has nothing to edit but its name.
+    m_deFila.front()->bHabilitado = fila != nullptr && fila->bModelo;
+    m_deshacer->bHabilitado = m_edicion.Modificado();
+}
+
+void CDlgVisorXML::AlBuscar()
+{
+    const FilaArbol* fila = FilaActual();
+    Filtrar(fila != nullptr ? fila->elemento : xml::Elemento());
+}
+
+void CDlgVisorXML::Editar()
+{
+    const FilaArbol* fila = FilaActual();
+    if (fila == nullptr)
+        return;
+    const xml::Elemento elemento = fila->elemento;
+    CXMLElemento leido = m_edicion.Leer(elemento);
+    switch (m_peticion.editar(&leido)) {
+        case efv::catalogues::Edicion::cambiado:
+            m_edicion.Escribir(elemento, leido);
+            Releer(elemento);
+            break;
+        case efv::catalogues::Edicion::familia:
+            if (m_peticion.bModificable)
+                Renombrar();
+            break;
+        case efv::catalogues::Edicion::sinCambio:
+            break;
+    }
+}
+
+void CDlgVisorXML::Nuevo()
+{
+    CXMLElemento nuevo(L"Modelo");
+    for (std::size_t i = 0; i < m_peticion.atributos.size(); ++i)
+        nuevo.AddAtributo(Ancho(m_peticion.atributos[i]), m_peticion.abNumerico[i] ? L"0" : L"");
+    if (m_peticion.rellenar(&nuevo) != efv::catalogues::Edicion::cambiado)
+        return;
+    xml::DocumentoEditable::Atributos atributos;
+    for (const auto& atributo : nuevo.aAtributos)
+        atributos.emplace_back(atributo->csNombre, atributo->csValor);
+    const FilaArbol& familia = m_visibles->Fila(m_visibles->FilaDeFamilia(m_arbol.iSeleccion));
+    const xml::Elemento elemento = m_edicion.Anadir(familia.elemento, "Modelo", atributos);
+    // Shown even when the search wouldn't find it.
+    m_buscar.csTexto.clear();
+    Releer(elemento);
+}
+
+void CDlgVisorXML::NuevaFamilia()
+{
+    const auto csNombre = PedirNombre(L"Nueva familia", L"");
+    if (!csNombre)
+        return;
+    xml::Elemento tabla;
+    for (const xml::Elemento superior : m_edicion.Documento().Superiores())
+        if (!tabla && m_edicion.Documento().Nombre(superior) == L"TablaFamilias")
+            tabla = superior;
+    if (!tabla) {
+        ui::MostrarAviso(L"El documento no tiene ninguna tabla de familias.", ui::Icono::error);
+        return;
+    }
+    const xml::Elemento elemento = m_edicion.Anadir(tabla, "Familia", {{L"nombre", *csNombre}});
+    m_buscar.csTexto.clear();
+    Releer(elemento);
+}
+
+void CDlgVisorXML::Duplicar()
+{
+    const FilaArbol fila = *FilaActual();
+    const xml::Elemento copia = m_edicion.Duplicar(fila.elemento);
+    m_edicion.PonerAtributo(copia, Ancho(AtributoDeNombre(fila)), fila.csNombre + L" (copia)");
+    Releer(copia);
+}
+
+void CDlgVisorXML::Renombrar()
+{
+    const FilaArbol fila = *FilaActual();
+    const auto csNombre =
+        PedirNombre(fila.bModelo ? L"Renombrar el modelo" : L"Renombrar la familia", fila.csNombre);
+    if (!csNombre)
+        return;
+    m_edicion.PonerAtributo(fila.elemento, Ancho(AtributoDeNombre(fila)), *csNombre);
+    Releer(fila.elemento);
+}
+
+void CDlgVisorXML::Eliminar()
+{
+    const FilaArbol fila = *FilaActual();
+    const int iFila = m_arbol.iSeleccion;
+    const CString csPregunta =
+        fila.bModelo ? L"¿Desea eliminar el modelo " + fila.csNombre + L"?"
+                     : L"¿Desea eliminar la familia " + fila.csNombre + L" con todos sus modelos?";
+    if (!ui::Preguntar(csPregunta))
+        return;
+    m_edicion.Retirar(fila.elemento);
+    Releer({});
+    m_arbol.iSeleccion = std::min(iFila, m_visibles->Filas() - 1);
+    Activar();
+}
+
+void CDlgVisorXML::Deshacer()
+{
+    const FilaArbol* fila = FilaActual();
+    const xml::Elemento elemento = fila != nullptr ? fila->elemento : xml::Elemento();
+    m_edicion.Deshacer();
+    Releer(elemento);
+}
+
+bool CDlgVisorXML::Guardar()
+{
+    const CString& csRuta = m_peticion.csRuta;
+    const auto actual = efv::fichero::LeerFichero(csRuta, xml::kMaximoFichero);
+    if ((!actual || *actual != m_huella) &&
+        !ui::Preguntar(L"Otro programa ha cambiado el archivo <" + csRuta +
+                       L"> desde que se abrió. ¿Desea sustituirlo por lo que muestra esta ventana?"))
+        return false;
+    const ui::Espera espera;
+    efv::fichero::ReemplazarFichero(csRuta, m_edicion.Documento().Texto());
+    return true;
+}
+
+bool CDlgVisorXML::AlAceptar()
+{
+    if (!m_edicion.Modificado())
+        return true;
+    try {
+        return Guardar();
+    } catch (const CFileException& error) {
+        ui::MostrarAviso(L"No se ha podido guardar el archivo " + efv::CadenaDesdeUtf8(error.what()),
+                         ui::Icono::error);
+        return false;
+    }
+}
+
+// ---------------------------------------------------------------------------------------------------
+// The library's entry
+// ---------------------------------------------------------------------------------------------------
+
+namespace efv::catalogues {
+
+int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion)
+{
+    auto huella = fichero::LeerFichero(peticion.csRuta, xml::kMaximoFichero);
+    auto documento = xml::DocumentoEditable::Abrir(peticion.csRuta);
+    if (!huella || !documento)
+        return 0;
+    CDlgVisorXML dialogo(peticion, std::move(*documento), std::move(*huella), csSeleccion);
+    if (dialogo.Mostrar() != ui::Dialogo::ok)
+        return ui::Dialogo::cancelado;
+    csSeleccion = dialogo.Seleccion();
+    return 1;
+}
+
+}  // namespace efv::catalogues
