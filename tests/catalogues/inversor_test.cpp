@@ -219,6 +219,20 @@ TEST_F(Inversor, ElOndLlenaLaFichaConSusDosRarezas)
     EXPECT_EQ(phGetBaseInversores().GetIdModelo(L"Uno"), L"F#Uno");
 }
 
+TEST_F(Inversor, ElOndConservaLoTecleadoQueNoDice)
+{
+    fichero.Modelo(kViejo);
+    const CString csOnd = fichero.Fichero("i.ond", kOnd);
+    fichero.Editar(guion, kDialogo,
+                   {paso::Poner{"csCodPrecio", L"P7"}, paso::Poner{"dVCCMin", L"130"},
+                    paso::Poner{"csICCMinMPPT", L"0,7"}, paso::Poner{"dPCCMax", L"1"}, paso::Fichero{csOnd},
+                    paso::Pulsar{"Importar archivo .OND de PVSyst ..."}, paso::Leer{}, paso::Pulsar{"Cancel"}});
+    EXPECT_EQ(guion.Texto(1, 0, "csCodPrecio"), L"P7");
+    EXPECT_EQ(guion.Texto(1, 0, "dVCCMin"), L"130,00");
+    EXPECT_EQ(guion.Texto(1, 0, "csICCMinMPPT"), L"0,70/0,70");  // the one current, for its two trackers
+    EXPECT_EQ(guion.Texto(1, 0, "dPCCMax"), L"5200,00");
+}
+
 TEST_F(Inversor, ElMicroinversorTieneCorrientesSencillas)
 {
     FicheroCatalogo micro("ZqMicroInversorHE5.xml", &phEditarBaseMicroInversores);

@@ -176,6 +176,33 @@ TEST(PanelFotoDialogo, UnCoeficienteSeTomaAlSalirConLaReferenciaRecienTecleada)
     EXPECT_EQ(dialogo.datos.dPmpm, 400);
 }
 
+// What is typed counts, left or not: the reference when a unit is chosen, the coefficient at OK.
+TEST(PanelFotoDialogo, LaUnidadYElAceptarMiranLoTecleado)
+{
+    Guion guion;
+    guion.Dialogo("CDlgItemDatosPanelFoto",
+                  {paso::Elegir{"iUnidadVoc", 0}, paso::Teclear{"dVoc", L"50"}, paso::Elegir{"iUnidadVoc", 1},
+                   paso::Leer{{"dCTVoc"}}, paso::Teclear{"dCTIsc", L"0,05"}, paso::Elegir{"iUnidadIsc", 0},
+                   paso::Leer{{"dCTIsc"}}, paso::Teclear{"dCTPmpm", L"-0,4"}, paso::Pulsar{"OK"}});
+    CDlgItemDatosPanelFoto dialogo(Valido(), false);
+    EXPECT_EQ(dialogo.Mostrar(), ui::Dialogo::ok);
+    EXPECT_EQ(guion.Texto(0, 0, "dCTVoc"), L"-0,250");  // -125 mV/ºC of 50 V
+    EXPECT_EQ(guion.Texto(0, 1, "dCTIsc"), L"4,350");   // 0,05 % of 8,7 A, mA/ºC
+    EXPECT_DOUBLE_EQ(dialogo.datos.dCTVoc, -125);
+    EXPECT_DOUBLE_EQ(dialogo.datos.dCTPmpm, -1000);  // 0,4 % of 250 W
+}
+
+// A coefficient that waits for another field to be put right isn't forgotten.
+TEST(PanelFotoDialogo, UnCoeficienteEsperaAQueLosDemasCamposSeanBuenos)
+{
+    Guion guion;
+    guion.Dialogo("CDlgItemDatosPanelFoto", {paso::Teclear{"dIsc", L"nada"}, paso::Poner{"dCTVoc", L"-0,3"},
+                                             paso::Poner{"dIsc", L"9"}, paso::Pulsar{"OK"}});
+    CDlgItemDatosPanelFoto dialogo(Valido(), false);
+    EXPECT_EQ(dialogo.Mostrar(), ui::Dialogo::ok);
+    EXPECT_DOUBLE_EQ(dialogo.datos.dCTVoc, 37.8 / 100 * -300);
+}
+
 TEST(PanelFotoDialogo, ElRechazoNombraLosLimites)
 {
     Guion guion;
@@ -289,6 +316,26 @@ TEST_F(PanelFotoPan, LasClavesQueFaltanQuedanACero)
     EXPECT_EQ(m.dVsmax, 0);
     EXPECT_EQ(m.dImpm, 8);
     EXPECT_EQ(m.iNs, 0);
+}
+
+TEST_F(PanelFotoPan, LoTecleadoSeConservaDondeElFicheroNoPoneNada)
+{
+    Guion guion;
+    guion.Dialogo(
+        "CDlgItemDatosPanelFoto",
+        {paso::Poner{"csCodPrecio", L"P7"}, paso::Poner{"dCEf", L"4"}, paso::Poner{"dAcel", L"156x"},
+         paso::Poner{"dVsmax", L"nada"}, paso::Poner{"dPmpm", L"1"}, paso::Teclear{"dCTVoc", L"9"},
+         paso::Fichero{carpeta.Escribir("m.pan", kPan)}, paso::Pulsar{"Importar archivo .PAN de PVSyst ..."},
+         paso::Leer{}, paso::Poner{"dAcel", L"1"}, paso::Pulsar{"OK"}});
+    CDlgItemDatosPanelFoto dialogo(Valido(), false);
+    EXPECT_EQ(dialogo.Mostrar(), ui::Dialogo::ok);
+    EXPECT_EQ(guion.Texto(0, 0, "csCodPrecio"), L"P7");
+    EXPECT_EQ(guion.Texto(0, 0, "dCEf"), L"4,00");
+    EXPECT_EQ(guion.Texto(0, 0, "dAcel"), L"156x");  // no number, but not the file's business
+    EXPECT_EQ(guion.Texto(0, 0, "dVsmax"), L"600,00");
+    EXPECT_EQ(dialogo.datos.dCEf, 4);
+    EXPECT_EQ(dialogo.datos.dPmpm, 250);
+    EXPECT_EQ(dialogo.datos.dCTVoc, -125);
 }
 
 TEST_F(PanelFotoPan, LoQueNoSePuedeLeerNoCambiaNada)

@@ -136,6 +136,15 @@ private:
         Indicar();
     }
 
+    // The file has no minimum current: the lists are rebuilt with the one that stands typed.
+    void AntesDeImportar() override
+    {
+        CString csMin, csError;
+        double dMin = 0.0;
+        if (cat::ParseCorrientes(datos.csICCMinMPPT, datos.iNumMPPT, csMin, dMin, csError) != 0)
+            datos.dICCMin = dMin;
+    }
+
     void AlCambiarTodo() override
     {
         RotularSegunUso();

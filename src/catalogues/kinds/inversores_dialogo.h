@@ -3,6 +3,7 @@
 
 #include "catalogues/import/importar_ond.h"
 #include "catalogues/kinds/dialogo_modelo.h"
+#include "catalogues/kinds/importar_en_campos.h"
 #include "catalogues/kinds/inversores_comun.h"
 
 namespace efv::catalogues {
@@ -47,6 +48,8 @@ protected:
         this->AnadirImportacion(L"Importar archivo .OND de PVSyst ...", [this] { AlImportar(); });
     }
 
+    /// Between the fields being taken over and the import.
+    virtual void AntesDeImportar() {}
     /// After the import; the fields show the record again.
     virtual void AlCambiarTodo() {}
 
@@ -56,8 +59,10 @@ private:
         const auto csTexto = PedirTextoImportado({L"Archivo OND de PVSyst (*.ond)", L"*.ond"});
         if (!csTexto || csTexto->empty())
             return;
-        this->EscribirFabricante(ImportarOnd(*csTexto, this->datos));
-        this->Volcar();
+        ImportarEnCampos(*this, [&] {
+            AntesDeImportar();
+            this->EscribirFabricante(ImportarOnd(*csTexto, this->datos));
+        });
         AlCambiarTodo();
     }
 };

@@ -2,8 +2,10 @@
 
 #include "catalogues/import/importacion.h"
 #include "catalogues/import/panel_foto_pan.h"
+#include "catalogues/kinds/importar_en_campos.h"
 #include "catalogues/kinds/panel_foto.h"
 #include "platform/numero/conversion.h"
+#include "ui/intercambio.h"
 
 namespace {
 
@@ -101,8 +103,11 @@ void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, const c
     campo.iDecimales = 3;
     campo.intercambio = ui::Intercambio::aMano;
     campo.lugar = kLugarTermicos;
-    campo.alCambiar = [this] { bCambio = 1; };
-    campo.alSalir = [this, &coeficiente] { AlSalirDe(coeficiente); };
+    campo.alCambiar = [&coeficiente] { coeficiente.bTecleado = true; };
+    campo.alSalir = [this, &coeficiente] {
+        if (coeficiente.bTecleado)
+            TomarCampos();
+    };
     coeficiente.campo = &campo;
 
     auto& unidad = Anadir<ui::Seleccion>(nombreUnidad, L"", ui::Seleccion::Forma::combo);
@@ -126,7 +131,7 @@ void CDlgItemDatosPanelFoto::AnadirBotones()
         boton.csImagen = efv::CadenaDesdeUtf8(curva.imagen);
         boton.csIndicacion = curva.rotulo;
         boton.alPulsar = [this, orden = curva.orden] {
-            if (RecogerAvisando() && m_ordenes.*orden)
+            if (TomarCampos() && m_ordenes.*orden)
                 (m_ordenes.*orden)(datos);
         };
     }
@@ -145,24 +150,49 @@ void CDlgItemDatosPanelFoto::Escribir(const Coeficiente& c)
     c.campo->csTexto = efv::numero::nuConvertFltToIntlStr(Mostrado(c), c.campo->iDecimales);
 }
 
+// The percentage is of the reference as it stands typed.
 void CDlgItemDatosPanelFoto::AlCambiarUnidad(Coeficiente& c)
 {
     if (c.unidad->iSeleccion == c.iUnidad)
         return;
+    for (const auto& control : Controles())
+        ui::Recoger(*control);  // what is wrong with a field is told on acceptance
+    if (c.bTecleado)
+        Tomar(c);
     c.iUnidad = c.unidad->iSeleccion;
     Escribir(c);
 }
 
-void CDlgItemDatosPanelFoto::AlSalirDe(Coeficiente& c)
+void CDlgItemDatosPanelFoto::Tomar(Coeficiente& c)
 {
-    if (bCambio == 0 || !RecogerAvisando())
-        return;
     double dTecleado = 0.0;  // a text that is no number counts as 0
     efv::numero::nuConvertIntlStrToFlt(c.campo->csTexto, dTecleado);
     datos.*c.valor =
         c.iUnidad == 1 ? efv::catalogues::CoeficienteDePorciento(dTecleado, datos.*c.referencia) : dTecleado;
     c.campo->csTexto = efv::numero::nuConvertFltToIntlStr(dTecleado, c.campo->iDecimales);
-    bCambio = 0;
+    c.bTecleado = false;
+}
+
+void CDlgItemDatosPanelFoto::TomarCoeficientes()
+{
+    for (Coeficiente& coeficiente : m_coeficientes)
+        if (coeficiente.bTecleado)
+            Tomar(coeficiente);
+}
+
+// The other fields first: a percentage is of what they hold.
+bool CDlgItemDatosPanelFoto::TomarCampos()
+{
+    if (!RecogerAvisando())
+        return false;
+    TomarCoeficientes();
+    return true;
+}
+
+bool CDlgItemDatosPanelFoto::AlAceptar()
+{
+    TomarCoeficientes();
+    return DialogoFicha::AlAceptar();
 }
 
 void CDlgItemDatosPanelFoto::AlImportar()
@@ -170,8 +200,9 @@ void CDlgItemDatosPanelFoto::AlImportar()
     const auto csTexto = efv::catalogues::PedirTextoImportado({L"Archivo PAN de PVSyst (*.pan)", L"*.pan"});
     if (!csTexto || csTexto->empty())
         return;
-    efv::catalogues::ImportarPan(*csTexto, datos);
-    for (const Coeficiente& coeficiente : m_coeficientes)
+    efv::catalogues::ImportarEnCampos(*this, [&] { efv::catalogues::ImportarPan(*csTexto, datos); });
+    for (Coeficiente& coeficiente : m_coeficientes) {
+        coeficiente.bTecleado = false;
         Escribir(coeficiente);
-    Volcar();
+    }
 }

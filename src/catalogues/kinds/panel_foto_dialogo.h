@@ -12,7 +12,7 @@ class CDlgItemDatosPanelFoto : public efv::ui::DialogoFicha<CBasePanelFotoModelo
 public:
     using Ordenes = efv::catalogues::OrdenesModelo<CBasePanelFotoModelo>;
 
-    CDlgItemDatosPanelFoto(const CBasePanelFotoModelo& inicial, bool bSoloLectura, Ordenes ordenes);
+    CDlgItemDatosPanelFoto(const CBasePanelFotoModelo& inicial, bool bSoloLectura, Ordenes ordenes = {});
 
 private:
     // A temperature coefficient: its stored value, the value that percentages refer to, its field and the
@@ -22,7 +22,8 @@ private:
         double CBasePanelFotoModelo::*referencia;
         efv::ui::Edicion* campo = nullptr;
         efv::ui::Seleccion* unidad = nullptr;
-        int iUnidad = 1;  // 0 absolute, 1 percent
+        int iUnidad = 1;         // 0 absolute, 1 percent
+        bool bTecleado = false;  // its text has been typed into and not yet taken over
     };
 
     void AnadirCoeficiente(Coeficiente& coeficiente, const char* nombre, std::wstring_view rotulo,
@@ -31,11 +32,13 @@ private:
     double Mostrado(const Coeficiente& coeficiente) const;
     void Escribir(const Coeficiente& coeficiente);
     void AlCambiarUnidad(Coeficiente& coeficiente);
-    void AlSalirDe(Coeficiente& coeficiente);
+    void Tomar(Coeficiente& coeficiente);
+    void TomarCoeficientes();
+    bool TomarCampos();
+    bool AlAceptar() override;
     void AlImportar();
 
     Ordenes m_ordenes;
     std::array<Coeficiente, 3> m_coeficientes;
     efv::ui::Boton* m_importar = nullptr;
-    int bCambio = 0;  // a coefficient's text has been typed into and not yet taken over; shared by the three
 };
