@@ -78,8 +78,8 @@ EFV_API double phGetAZI(double dLatitud, double dDeclinacion, double dAltura, do
 //   dPR              performance ratio, a plain factor (0.8, not 80)
 //   dFactorAdicional one more plain factor on the energy
 //
-// Every function returns 1, or 0 with its result untouched. The table method fails for a latitude
-// outside the table; a tilt outside it gives 0 with result 1. The correlation gives not-a-number
+// Every function returns 1, or 0 with its result untouched, but for the sums of a year. The table method fails
+// for a latitude outside the table; a tilt outside it gives 0 with result 1. The correlation gives not-a-number
 // where the sun doesn't rise or set.
 // ---------------------------------------------------------------------------------------------------
 
@@ -100,8 +100,8 @@ EFV_API int phGetEIR_kWh_dia(double& dResultado, int iMetodo, int iMes, double d
 EFV_API int phGetEIR_kWh_mes(double& dResultado, int iMetodo, int iMes, double dLatitud, int iHemisferio,
                              double dRadHorizontal, double dInclinacion, double dOrientacion,
                              double dPotenciaPico, double dPR, double dFactorAdicional);
-/// Energy a year, kWh: the sum of the twelve months, from twelve radiations, January first. By the
-/// table, a failure leaves the partial sum in the result.
+/// Energy a year, kWh: the sum of the twelve months, from twelve radiations, January first. A
+/// failure of the table leaves 0 in the result.
 EFV_API int phGetEIR_kWh_ano(double& dResultado, int iMetodo, double dLatitud, int iHemisferio,
                              const double (&adRadHorizontal)[12], double dInclinacion, double dOrientacion,
                              double dPotenciaPico, double dPR, double dFactorAdicional);

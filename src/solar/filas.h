@@ -3,8 +3,8 @@
 
 namespace efv::solar {
 
-/// 1 / tan(61º − latitude): length of the shadow of a height of 1 at noon of the shortest day, by the rule
-/// that keeps four hours of sun on it.
+/// 1 / tan(61º − latitude): length of the shadow of a height of 1 while the sun stands 61º − latitude high, the
+/// height that the rule takes for four hours of sun around noon of the shortest day.
 double CoeficienteSombra(double dLatitud);
 
 /// What a slope of the ground (degrees) takes from that shadow: the shadow is divided by it.

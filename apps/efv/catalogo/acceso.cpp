@@ -97,28 +97,15 @@ std::string Catalogo::Ayuda(std::span<const NombreBuscable> nombres, const CStri
 const CModelo& Catalogo::Buscar(const std::string& id) const
 {
     const CString csId = CadenaDesdeUtf8(id);
-    Modelos hallados =
-        Filtrar(m_modelos, [&](const CModelo& m) { return m.csModelo == csId || Identificacion(m) == csId; });
-    if (hallados.empty()) {
-        const CString csPlegado = Plegar(csId);
-        hallados = Filtrar(m_modelos, [&](const CModelo& m) {
-            return Plegar(m.csModelo) == csPlegado || Plegar(Identificacion(m)) == csPlegado;
-        });
-    }
+    const Modelos hallados = ModelosDeNombre(m_modelos, csId);
     if (hallados.empty()) {
         std::vector<NombreBuscable> nombres;
         for (const CModelo* m : m_modelos)
             nombres.push_back({Identificacion(*m), {m->csModelo}});
         throw ErrorEjecucion(fmt::format("no hay ningún modelo «{}»{}", id, Ayuda(nombres, csId)));
     }
-    // One identification twice in a file counts as its first model.
-    const CString csPrimera = Identificacion(*hallados.front());
-    std::string varios;
-    for (const CModelo* m : hallados)
-        if (Identificacion(*m) != csPrimera)
-            varios += ", " + CadenaUtf8(Identificacion(*m));
-    if (!varios.empty())
-        throw ErrorEjecucion(fmt::format("«{}» puede ser {}{}", id, CadenaUtf8(csPrimera), varios));
+    if (hallados.size() > 1)
+        throw ErrorEjecucion(fmt::format("«{}» puede ser {}", id, Enumerar(hallados)));
     return *hallados.front();
 }
 
@@ -140,6 +127,32 @@ Modelos Catalogo::DeFamilia(const std::string& nombre) const
 CString Identificacion(const CModelo& modelo)
 {
     return modelo.csFamilia + L'#' + modelo.csModelo;
+}
+
+Modelos ModelosDeNombre(const Modelos& modelos, const CString& csId)
+{
+    Modelos hallados =
+        Filtrar(modelos, [&](const CModelo& m) { return m.csModelo == csId || Identificacion(m) == csId; });
+    if (hallados.empty()) {
+        const CString csPlegado = Plegar(csId);
+        hallados = Filtrar(modelos, [&](const CModelo& m) {
+            return Plegar(m.csModelo) == csPlegado || Plegar(Identificacion(m)) == csPlegado;
+        });
+    }
+    Modelos distintos;
+    for (const CModelo* modelo : hallados)
+        if (std::ranges::find(distintos, Identificacion(*modelo), [](auto* m) { return Identificacion(*m); }) ==
+            distintos.end())
+            distintos.push_back(modelo);
+    return distintos;
+}
+
+std::string Enumerar(const Modelos& modelos)
+{
+    std::string texto;
+    for (const CModelo* modelo : modelos)
+        texto += (texto.empty() ? "" : ", ") + CadenaUtf8(Identificacion(*modelo));
+    return texto;
 }
 
 }  // namespace efv::orden

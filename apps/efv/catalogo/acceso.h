@@ -41,6 +41,15 @@ std::span<const std::string_view> TodosLosTipos();
 
 using Modelos = std::vector<const CModelo*>;
 
+/// "family#model".
+CString Identificacion(const CModelo& modelo);
+
+/// The models of that identification, or of that name alone; when nothing has the very name those that differ
+/// from it in case and accents. One identification twice in a file counts as its first model.
+Modelos ModelosDeNombre(const Modelos& modelos, const CString& csId);
+/// Identifications, ", " between them.
+std::string Enumerar(const Modelos& modelos);
+
 /// A catalogue file in memory.
 class Catalogo {
 public:
@@ -51,9 +60,8 @@ public:
     /// All models in file order.
     const Modelos& Todos() const { return m_modelos; }
 
-    /// The model of that identification, or of that name alone; a case and accents that differ are
-    /// accepted when nothing has the very name. @throws ErrorEjecucion with names near `id`, or with the
-    /// choices when several families have the name
+    /// The one model of ModelosDeNombre. @throws ErrorEjecucion with names near `id`, or with the choices when
+    /// several families have the name
     const CModelo& Buscar(const std::string& id) const;
     /// The models of a family, case and accents ignored. @throws ErrorEjecucion with names near
     Modelos DeFamilia(const std::string& nombre) const;
@@ -66,8 +74,5 @@ private:
     std::unique_ptr<CBaseXML> m_base;
     Modelos m_modelos;
 };
-
-/// "family#model".
-CString Identificacion(const CModelo& modelo);
 
 }  // namespace efv::orden

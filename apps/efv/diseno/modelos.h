@@ -17,8 +17,7 @@ public:
     /// @throws ErrorEjecucion when it is missing or unreadable
     CatalogoDatos(std::string_view tipo, const std::string& csDatos);
 
-    /// The model of that identification, or of that name alone; a case and accents that differ are accepted
-    /// when nothing has the very name. @throws rpc::ErrorValor with names near, or with the choices when
+    /// The one model of ModelosDeNombre. @throws rpc::ErrorValor with names near, or with the choices when
     /// several families have the name
     const CModelo& Buscar(const std::string& id) const;
 
