@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -12,10 +13,27 @@
 
 namespace {
 
-std::vector<const CRuntimeClass*>& Clases()
+std::vector<const CRuntimeClass*>& Registro()
 {
     static std::vector<const CRuntimeClass*> clases;
     return clases;
+}
+
+const std::vector<const CRuntimeClass*>& Clases()
+{
+    static const bool kRegistradas = (efv::framework::RegistrarClasesDelModulo(), true);
+    static_cast<void>(kRegistradas);
+    return Registro();
+}
+
+// A record that can't be exchanged by name stops the program as it starts, not at its first use.
+const bool kAlArrancar = !Clases().empty();
+
+const CRuntimeClass* Buscar(const std::vector<const CRuntimeClass*>& clases, std::string_view nombre)
+{
+    const auto hallada =
+        std::ranges::find(clases, nombre, [](const CRuntimeClass* c) { return c->m_szClassName; });
+    return hallada == clases.end() ? nullptr : *hallada;
 }
 
 void ExigirTabla(const CRuntimeClass& clase)
@@ -38,8 +56,8 @@ void RegistrarClase(const CRuntimeClass& clase, bool bRegistro)
             if (const auto* lista = std::get_if<ListaRegistros>(&campo.valor))
                 ExigirTabla(lista->GetClase());
     }
-    if (CRuntimeClass::FromName(clase.m_szClassName) == nullptr)
-        Clases().push_back(&clase);
+    if (Buscar(Registro(), clase.m_szClassName) == nullptr)
+        Registro().push_back(&clase);
 }
 
 }  // namespace efv::framework
@@ -59,9 +77,7 @@ bool CRuntimeClass::IsDerivedFrom(const CRuntimeClass& base) const
 
 const CRuntimeClass* CRuntimeClass::FromName(std::string_view nombre)
 {
-    const auto hallada =
-        std::ranges::find(Clases(), nombre, [](const CRuntimeClass* c) { return c->m_szClassName; });
-    return hallada == Clases().end() ? nullptr : *hallada;
+    return Buscar(Clases(), nombre);
 }
 
 std::span<const CRuntimeClass* const> CRuntimeClass::Registradas()

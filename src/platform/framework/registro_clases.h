@@ -22,6 +22,10 @@ void RegistrarClase()
     RegistrarClase(T::GetThisClass(), kEsRegistro<T>);
 }
 
+/// Registers the classes of the module. Defined where the module is put together and called from here: who
+/// links the framework, statically too, links the classes as well.
+void RegistrarClasesDelModulo();
+
 /// Function that makes a T, for the class record of a dynamically creatable class.
 template <class T>
 std::unique_ptr<CObject> Crear()
