@@ -6,6 +6,7 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/ui/presentador.h>
 
+#include "catalogues/viewer/nombre_dialogo.h"
 #include "platform/fichero/fichero.h"
 #include "platform/xml/xml.h"
 
@@ -14,6 +15,7 @@ namespace xml = efv::xml;
 using efv::catalogues::CXMLElemento;
 using efv::catalogues::FilaArbol;
 using efv::catalogues::FilasVisibles;
+using efv::catalogues::PedirNombre;
 
 namespace {
 
@@ -27,47 +29,7 @@ CString Ancho(const char* texto)
     return efv::CadenaDesdeUtf8(texto);
 }
 
-// A name that the person gave; nothing when they cancelled.
-std::optional<CString> PedirNombre(std::wstring_view titulo, const CString& csInicial)
-{
-    CDlgVisorNombre dialogo(titulo, csInicial);
-    if (dialogo.Mostrar() != ui::Dialogo::ok)
-        return std::nullopt;
-    return dialogo.csNombre;
-}
-
 }  // namespace
-
-// ---------------------------------------------------------------------------------------------------
-// Name
-// ---------------------------------------------------------------------------------------------------
-
-CDlgVisorNombre::CDlgVisorNombre(std::wstring_view titulo, CString csInicial)
-    : Dialogo("CDlgVisorNombre", titulo), csNombre(std::move(csInicial))
-{
-    auto& campo = Anadir<ui::Edicion>("csNombre", L"&Nombre:");
-    campo.destino = &csNombre;
-    foco = &campo;
-    Volcar();
-}
-
-bool CDlgVisorNombre::AlAceptar()
-{
-    const wchar_t* falta = nullptr;
-    if (csNombre.find_first_not_of(L" \t") == CString::npos)
-        falta = L"Escriba un nombre.";
-    else if (csNombre.find(L'#') != CString::npos)
-        falta = L"El nombre no puede contener el signo #, que separa familia y modelo.";
-    if (falta == nullptr)
-        return true;
-    foco = Controles().front();
-    ui::MostrarAviso(falta, ui::Icono::advertencia);
-    return false;
-}
-
-// ---------------------------------------------------------------------------------------------------
-// Viewer
-// ---------------------------------------------------------------------------------------------------
 
 CDlgVisorXML::CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion, xml::DocumentoEditable documento,
                            std::string huella, const CString& csSeleccion)
@@ -275,10 +237,6 @@ bool CDlgVisorXML::AlAceptar()
         return false;
     }
 }
-
-// ---------------------------------------------------------------------------------------------------
-// The library's entry
-// ---------------------------------------------------------------------------------------------------
 
 namespace efv::catalogues {
 

@@ -51,13 +51,3 @@ private:
     efv::ui::Boton* m_nuevo = nullptr;      // needs a family, a row's own or it
     efv::ui::Boton* m_deshacer = nullptr;
 };
-
-/// Asks for a name.
-class CDlgVisorNombre : public efv::ui::Dialogo {
-public:
-    CDlgVisorNombre(std::wstring_view titulo, CString csInicial);
-    CString csNombre;
-
-private:
-    bool AlAceptar() override;
-};
