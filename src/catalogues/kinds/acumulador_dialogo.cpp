@@ -17,19 +17,19 @@ constexpr auto kTipos = std::to_array<std::wstring_view>(
     {L"OPzS", L"CPzS", L"TOPzS", L"OPzV", L"OSP", L"OGI", L"Li-Ion", L"Otras"});
 constexpr int kLiIon = 6;
 
-constexpr auto kGenerales = std::to_array<ui::Fila<M>>({
-    {"csModelo", &M::csModelo, L"Modelo:"},
-    {.nombre = "iTipo", .campo = &M::iTipo, .rotulo = L"Tipo:", .entradas = kTipos},
-    {"iVidaUtil", &M::iVidaUtil, L"Vida útil (años):"},
-    {"csCodPrecio", &M::csCodPrecio, L"Cod.Precios:"},
+constexpr auto kGenerales = ui::Campos<M>({
+    {&M::csModelo, L"Modelo:"},
+    {.miembro = &M::iTipo, .rotulo = L"Tipo:", .entradas = kTipos},
+    {&M::iVidaUtil, L"Vida útil (años):"},
+    {&M::csCodPrecio, L"Cod.Precios:"},
 });
-constexpr auto kFisicos = std::to_array<ui::Fila<M>>({
-    {.nombre = "dH", .campo = &M::dH, .rotulo = L"Alto H (~DIM~):", .magnitud = L"Dimensiones"},
-    {.nombre = "dW", .campo = &M::dW, .rotulo = L"Ancho W (~DIM~):", .magnitud = L"Dimensiones"},
-    {.nombre = "dL", .campo = &M::dL, .rotulo = L"Largo L (~DIM~):", .magnitud = L"Dimensiones"},
-    {.nombre = "dPeso", .campo = &M::dPeso, .rotulo = L"Peso (~MASA~):", .magnitud = L"Masa"},
-    {"dImax", &M::dImax, L"Corriente máxima (A):"},
-    {"dVnom", &M::dVnom, L"Tensión nominal (V):"},
+constexpr auto kFisicos = ui::Campos<M>({
+    {.miembro = &M::dH, .rotulo = L"Alto H (~DIM~):", .magnitud = L"Dimensiones"},
+    {.miembro = &M::dW, .rotulo = L"Ancho W (~DIM~):", .magnitud = L"Dimensiones"},
+    {.miembro = &M::dL, .rotulo = L"Largo L (~DIM~):", .magnitud = L"Dimensiones"},
+    {.miembro = &M::dPeso, .rotulo = L"Peso (~MASA~):", .magnitud = L"Masa"},
+    {&M::dImax, L"Corriente máxima (A):"},
+    {&M::dVnom, L"Tensión nominal (V):"},
 });
 
 /// A discharge regime of the table.
@@ -65,6 +65,19 @@ struct ParametrosDescarga {
     double dVcc = 0.0;  ///< V
 };
 
+constexpr auto kCamposDescarga = std::to_array<ui::NombreCampo<ParametrosDescarga>>({
+    {"dCap", &ParametrosDescarga::dCap},
+    {"dVcc", &ParametrosDescarga::dVcc},
+});
+
+}  // namespace
+
+template <>
+struct efv::ui::CamposDe<ParametrosDescarga> : efv::ui::CamposDeTabla<ParametrosDescarga, kCamposDescarga> {
+};
+
+namespace {
+
 class CDlgItemDatosAcumuladorCap : public ui::DialogoFicha<ParametrosDescarga> {
 public:
     CDlgItemDatosAcumuladorCap(const CString& csRegimen, const ParametrosDescarga& inicial)
@@ -73,9 +86,9 @@ public:
         using P = ParametrosDescarga;
         Anadir<ui::TextoFijo>("csParametros", L"").csTexto =
             fmt::format(L"Parámetros de descarga para {}: ", csRegimen);
-        Anadir(std::to_array<ui::Fila<P>>({
-            {"dCap", &P::dCap, fmt::format(L"Capacidad para {} (Ah):", csRegimen), {0.1, 100000000}},
-            {"dVcc", &P::dVcc, fmt::format(L"Voltaje para {} (V):", csRegimen), {0.1, 5000}},
+        Anadir(ui::Campos<P>({
+            {&P::dCap, fmt::format(L"Capacidad para {} (Ah):", csRegimen), {0.1, 100000000}},
+            {&P::dVcc, fmt::format(L"Voltaje para {} (V):", csRegimen), {0.1, 5000}},
         }));
         Volcar();
     }

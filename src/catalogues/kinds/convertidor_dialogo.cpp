@@ -7,22 +7,22 @@ namespace {
 namespace ui = efv::ui;
 using M = CBaseConvertidorModelo;
 
-constexpr auto kGenerales = std::to_array<ui::Fila<M>>({{"csModelo", &M::csModelo, L"Modelo:"}});
+constexpr auto kGenerales = ui::Campos<M>({{&M::csModelo, L"Modelo:"}});
 
-constexpr auto kEntradaSalida = std::to_array<ui::Fila<M>>({
-    {"dVInMin", &M::dVInMin, L"Tensión mínima de entrada (V):"},
-    {"dVInMax", &M::dVInMax, L"Tensión máxima de entrada (V):"},
-    {"dPAutoCons", &M::dPAutoCons, L"Potencia de autoconsumo (W)"},
-    {"dVOutNom", &M::dVOutNom, L"Tensión nominal de salida (V):"},
-    {"dPOutNom", &M::dPOutNom, L"Potencia nominal de salida (W):"},
+constexpr auto kEntradaSalida = ui::Campos<M>({
+    {&M::dVInMin, L"Tensión mínima de entrada (V):"},
+    {&M::dVInMax, L"Tensión máxima de entrada (V):"},
+    {&M::dPAutoCons, L"Potencia de autoconsumo (W)"},
+    {&M::dVOutNom, L"Tensión nominal de salida (V):"},
+    {&M::dPOutNom, L"Potencia nominal de salida (W):"},
 });
 
-constexpr auto kSistema = std::to_array<ui::Fila<M>>({
-    {"dRendMax", &M::dRendMax, L"Rendimiento máximo (%):", {50, 100}},
-    {.nombre = "dAncho", .campo = &M::dAncho, .rotulo = L"Anchura (~DIM~):", .magnitud = L"Dimensiones"},
-    {.nombre = "dLargo", .campo = &M::dLargo, .rotulo = L"Profundidad (~DIM~):", .magnitud = L"Dimensiones"},
-    {.nombre = "dAlto", .campo = &M::dAlto, .rotulo = L"Altura (~DIM~):", .magnitud = L"Dimensiones"},
-    {.nombre = "dPeso", .campo = &M::dPeso, .rotulo = L"Peso (~MASA~):", .magnitud = L"Masa"},
+constexpr auto kSistema = ui::Campos<M>({
+    {&M::dRendMax, L"Rendimiento máximo (%):", {50, 100}},
+    {.miembro = &M::dAncho, .rotulo = L"Anchura (~DIM~):", .magnitud = L"Dimensiones"},
+    {.miembro = &M::dLargo, .rotulo = L"Profundidad (~DIM~):", .magnitud = L"Dimensiones"},
+    {.miembro = &M::dAlto, .rotulo = L"Altura (~DIM~):", .magnitud = L"Dimensiones"},
+    {.miembro = &M::dPeso, .rotulo = L"Peso (~MASA~):", .magnitud = L"Masa"},
 });
 
 class CDlgItemDatosConvertidor : public efv::catalogues::DialogoModelo<M> {
@@ -33,9 +33,8 @@ public:
     {
         Anadir(kGenerales);
         AnadirFabricante();
-        AnadirPaginas({L"Entrada/Salida", L"Datos del sistema"});
-        Anadir(kEntradaSalida, {.iPagina = 0});
-        Anadir(kSistema, {.iPagina = 1});
+        Anadir(AnadirPagina(L"Entrada/Salida"), kEntradaSalida);
+        Anadir(AnadirPagina(L"Datos del sistema"), kSistema);
         Abrir(bSoloLectura);
     }
 };

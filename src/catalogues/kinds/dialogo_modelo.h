@@ -2,13 +2,25 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <functional>
 #include <memory>
 #include <span>
 #include <string_view>
 
+#include "catalogues/format/campos.h"
 #include "catalogues/kinds/ordenes.h"
 #include "ui/filas.h"
+
+/// A model's fields in dialogs are named by its catalogue's table.
+template <std::derived_from<CModelo> M>
+struct efv::ui::CamposDe<M> {
+    static constexpr std::string_view Nombre(const Miembro<M>& miembro)
+    {
+        const auto* fila = FilaDeMiembro(efv::catalogues::Catalogo<M>::kCampos, miembro);
+        return fila != nullptr ? std::string_view(fila->atributo) : std::string_view();
+    }
+};
 
 namespace efv::catalogues {
 
@@ -17,10 +29,14 @@ template <class M>
 std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura,
                                                   const OrdenesModelo<M>& ordenes);
 
+/// The model's name, as a member of the model itself: a check's focus takes none of a base class.
+template <class M>
+inline constexpr CString M::*kCampoModelo = &M::csModelo;
+
 /// The check of a name that most of them make.
 template <class M>
 inline constexpr auto kNombreValido = std::to_array<ui::Comprobacion<M>>({
-    {"csModelo", ui::Vacio<&M::csModelo>, L"Indique un nombre válido para el Modelo"},
+    {kCampoModelo<M>, ui::Vacio<&M::csModelo>, L"Indique un nombre válido para el Modelo"},
 });
 
 /// Dialog of a model's data sheet.

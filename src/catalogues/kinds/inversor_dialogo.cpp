@@ -16,51 +16,48 @@ using M = CBaseInversorModelo;
 constexpr int kRed = 0;
 constexpr int kAislada = 1;
 constexpr ui::Color kGris = 0x808080;
-constexpr const char* kIndicacion = "csIndicacionMPPT";
 
 constexpr auto kUsos = std::to_array<std::wstring_view>({L"Conexión a red", L"Instalación aislada"});
 constexpr auto kSalidas = std::to_array<std::wstring_view>({L"Monofase", L"Trifase"});
 
-constexpr auto kModelo = std::to_array<ui::Fila<M>>({{"csModelo", &M::csModelo, L"Modelo:"}});
-constexpr auto kGenerales = std::to_array<ui::Fila<M>>({
-    {"csCodPrecio", &M::csCodPrecio, L"Cod.Precios:"},
-    {.nombre = "iUsoPrincipal", .campo = &M::iUsoPrincipal, .rotulo = L"Uso principal:", .entradas = kUsos},
+constexpr auto kModelo = ui::Campos<M>({{&M::csModelo, L"Modelo:"}});
+constexpr auto kGenerales = ui::Campos<M>({
+    {&M::csCodPrecio, L"Cod.Precios:"},
+    {.miembro = &M::iUsoPrincipal, .rotulo = L"Uso principal:", .entradas = kUsos},
 });
 
-constexpr auto kCorrientes = std::to_array<ui::Fila<M>>({
-    {"iNumMPPT", &M::iNumMPPT, L"Nº de inversores MPPT y entradas (total):", {1, 100}},
-    {"iNumEntradas", &M::iNumEntradas, L"", {&M::iNumMPPT, 100}},
-    {"csICCMaxMPPT", &M::csICCMaxMPPT, L"Corriente máxima por MPPT (A):"},
-    {"csICCMinMPPT", &M::csICCMinMPPT, L"Corriente mínima por MPPT (A):"},
+constexpr auto kCorrientes = ui::Campos<M>({
+    {&M::iNumMPPT, L"Nº de inversores MPPT y entradas (total):", {1, 100}},
+    {&M::iNumEntradas, L"", {&M::iNumMPPT, 100}},
+    {&M::csICCMaxMPPT, L"Corriente máxima por MPPT (A):"},
+    {&M::csICCMinMPPT, L"Corriente mínima por MPPT (A):"},
 });
-constexpr auto kCortocircuito =
-    std::to_array<ui::Fila<M>>({{"dIScMax", &M::dIScMax, L"Corriente de cortocircuito máxima (A):"}});
+constexpr auto kCortocircuito = ui::Campos<M>({{&M::dIScMax, L"Corriente de cortocircuito máxima (A):"}});
 
-constexpr auto kFase = std::to_array<ui::Fila<M>>({
-    {"dFP", &M::dFP, L"Factor de potencia:", {0.1, 1, [](const M& m) { return m.iUsoPrincipal == kRed; }}},
-    {.nombre = "iTipoSalida", .campo = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas},
+constexpr auto kFase = ui::Campos<M>({
+    {&M::dFP, L"Factor de potencia:", {0.1, 1, [](const M& m) { return m.iUsoPrincipal == kRed; }}},
+    {.miembro = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas},
 });
 
 /// What a field is called in each use once the use has been chosen. A field without a caption in
 /// stand-alone use isn't there then; on the page of the output it is only hidden.
 struct RotuloPorUso {
-    const char* campo;
+    ui::Miembro<M> campo;
     std::wstring_view red;
     std::wstring_view aislada = {};
 };
 constexpr auto kRotulos = std::to_array<RotuloPorUso>({
-    {"dPCCMax", L"Potencia CC máx (W):", L"Potencia de autoconsumo (W):"},
-    {"dVMPPMax", L"Rango de tensiones MPPT (V) [max.- min.]:", L"Rango tensiones entrada (V) [max.- min.]:"},
-    {"dVCCMax", L"Tensión de entrada máxima (V):"},
-    {"dVCCMin", L""},
-    {"iNumMPPT", L"Nº de inversores MPPT y entradas (total):"},
-    {"iNumEntradas", L""},
-    {"csICCMaxMPPT", L"Corriente máx. por MPPT (A):"},
-    {"csICCMinMPPT", L"Corriente mín. por MPPT (A):"},
-    {kIndicacion, L""},
-    {"dIScMax", L"Corriente de cortocircuito máxima (A):"},
+    {&M::dPCCMax, L"Potencia CC máx (W):", L"Potencia de autoconsumo (W):"},
+    {&M::dVMPPMax, L"Rango de tensiones MPPT (V) [max.- min.]:", L"Rango tensiones entrada (V) [max.- min.]:"},
+    {&M::dVCCMax, L"Tensión de entrada máxima (V):"},
+    {&M::dVCCMin, L""},
+    {&M::iNumMPPT, L"Nº de inversores MPPT y entradas (total):"},
+    {&M::iNumEntradas, L""},
+    {&M::csICCMaxMPPT, L"Corriente máx. por MPPT (A):"},
+    {&M::csICCMinMPPT, L"Corriente mín. por MPPT (A):"},
+    {&M::dIScMax, L"Corriente de cortocircuito máxima (A):"},
 });
-constexpr auto kOcultosEnAislada = std::to_array<const char*>({"dICAMax", "dICAMin", "dFP"});
+constexpr auto kOcultosEnAislada = std::to_array<double M::*>({&M::dICAMax, &M::dICAMin, &M::dFP});
 
 class CDlgItemDatosInversor : public cat::DialogoInversor<M> {
 public:
@@ -72,32 +69,31 @@ public:
         AnadirFabricante();
         Anadir(kGenerales);
         AnadirImportacionOnd();
-        m_paginas = &AnadirPaginas(cat::kPaginasInversor);
-        AnadirEntrada();
-        Anadir(cat::kFilasSalida<M>, {.iPagina = 1});
-        Anadir(kFase, {.iPagina = 1});
-        Anadir(cat::kFilasSistema<M>, {.iPagina = 2});
+        AnadirEntrada(AnadirPagina(cat::kPaginaEntrada));
+        ui::Pagina& salida = AnadirPagina(cat::kPaginaSalida);
+        Anadir(salida, cat::kFilasSalida<M>);
+        Anadir(salida, kFase);
+        Anadir(AnadirPagina(cat::kPaginaSistema), cat::kFilasSistema<M>);
 
-        m_uso = &ControlDe<ui::Seleccion>("iUsoPrincipal");
+        m_uso = &De<ui::Seleccion>(&M::iUsoPrincipal);
         m_uso->alElegir = [this] { RotularSegunUso(); };
         Abrir(bSoloLectura);
         if (datos.iUsoPrincipal == kAislada)
             RotularSegunUso();
         Indicar();
         if (!bSoloLectura)
-            ControlDe<ui::Edicion>("iNumMPPT").alCambiar = [this] { AlTeclearMPPT(); };
+            De<ui::Edicion>(&M::iNumMPPT).alCambiar = [this] { AlTeclearMPPT(); };
     }
 
 private:
-    void AnadirEntrada()
+    void AnadirEntrada(ui::Pagina& pagina)
     {
-        const ui::Lugar pagina{.iPagina = 0};
-        Anadir(cat::kFilasTensiones<M>, pagina);
-        Anadir(kCorrientes, pagina);
-        m_indicacion = &Anadir<ui::TextoFijo>(kIndicacion, L"");
+        Anadir(pagina, cat::kFilasTensiones<M>);
+        Anadir(pagina, kCorrientes);
+        m_indicacion = &pagina.Anadir<ui::TextoFijo>("csIndicacionMPPT", L"");
         m_indicacion->color = kGris;
-        m_indicacion->lugar = pagina;
-        Anadir(kCortocircuito, pagina);
+        Anadir(pagina, kCortocircuito);
+        pagina.alRecoger = [this] { return datos.iUsoPrincipal != kRed || RecogerCorrientes(); };
     }
 
     // Values stay as they are.
@@ -105,13 +101,14 @@ private:
     {
         const bool bAislada = m_uso->iSeleccion == kAislada;
         for (const RotuloPorUso& rotulo : kRotulos) {
-            auto& control = ControlDe<ui::Control>(rotulo.campo);
+            ui::Control& control = De(rotulo.campo);
             control.csRotulo = bAislada ? rotulo.aislada : rotulo.red;
             control.bVisible = !bAislada || !rotulo.aislada.empty();
             control.bHabilitado = control.bVisible;
         }
-        for (const char* campo : kOcultosEnAislada)
-            ControlDe<ui::Control>(campo).bVisible = !bAislada;
+        m_indicacion->bVisible = m_indicacion->bHabilitado = !bAislada;
+        for (double M::*campo : kOcultosEnAislada)
+            De(campo).bVisible = !bAislada;
     }
 
     void Indicar()
@@ -127,9 +124,8 @@ private:
     void AlTeclearMPPT()
     {
         double d = 0.0;
-        const bool bEntero =
-            efv::numero::nuConvertIntlStrToFlt(ControlDe<ui::Edicion>("iNumMPPT").csTexto, d) &&
-            d == efv::numero::Entero(d);
+        const bool bEntero = efv::numero::nuConvertIntlStrToFlt(De<ui::Edicion>(&M::iNumMPPT).csTexto, d) &&
+                             d == efv::numero::Entero(d);
         if (m_uso->iSeleccion != kRed || !bEntero || d < 1 || d > 100)
             return;
         datos.iNumMPPT = efv::numero::Entero(d);
@@ -154,8 +150,8 @@ private:
     bool AlRecogerPagina(int iPagina) override
     {
         if (iPagina == -1)
-            m_paginas->iSeleccion = 0;
-        return iPagina != 0 || datos.iUsoPrincipal != kRed || RecogerCorrientes();
+            TraerAlFrente(0);
+        return true;
     }
 
     bool RecogerCorrientes()
@@ -174,7 +170,7 @@ private:
                 csTexto += L"\n\nCorriente máxima: " + csErrorMax;
             if (!bMin)
                 csTexto += L"\n\nCorriente mínima: " + csErrorMin;
-            foco = &ControlDe<ui::Edicion>(bMax ? "csICCMinMPPT" : "csICCMaxMPPT");
+            foco = &De(bMax ? &M::csICCMinMPPT : &M::csICCMaxMPPT);
             ui::MostrarAviso(csTexto, ui::Icono::error);
             return false;
         }
@@ -185,7 +181,6 @@ private:
         return true;
     }
 
-    ui::Seleccion* m_paginas = nullptr;
     ui::Seleccion* m_uso = nullptr;
     ui::TextoFijo* m_indicacion = nullptr;
 };

@@ -8,34 +8,36 @@
 
 namespace efv::catalogues {
 
-inline const std::vector<CString> kPaginasInversor = {L"Entrada CC", L"Salida CA", L"Datos del sistema"};
+inline constexpr std::wstring_view kPaginaEntrada = L"Entrada CC";
+inline constexpr std::wstring_view kPaginaSalida = L"Salida CA";
+inline constexpr std::wstring_view kPaginaSistema = L"Datos del sistema";
 
 /// Up to the currents, which differ.
 template <class M>
-inline constexpr auto kFilasTensiones = std::to_array<ui::Fila<M>>({
-    {"dPCCMax", &M::dPCCMax, L"Potencia CC máx (W):"},
-    {"dVMPPMax", &M::dVMPPMax, L"Rango de tensiones MPPT (V) [máx - mín]:"},
-    {"dVMPPMin", &M::dVMPPMin, L""},
-    {"dVCCMax", &M::dVCCMax, L"Tensión de entrada máxima (V):"},
-    {"dVCCMin", &M::dVCCMin, L""},
+inline constexpr auto kFilasTensiones = ui::Campos<M>({
+    {&M::dPCCMax, L"Potencia CC máx (W):"},
+    {&M::dVMPPMax, L"Rango de tensiones MPPT (V) [máx - mín]:"},
+    {&M::dVMPPMin, L""},
+    {&M::dVCCMax, L"Tensión de entrada máxima (V):"},
+    {&M::dVCCMin, L""},
 });
 
 template <class M>
-inline constexpr auto kFilasSalida = std::to_array<ui::Fila<M>>({
-    {"dPCANom", &M::dPCANom, L"Potencia nominal de salida (W):"},
-    {"dPCAMax", &M::dPCAMax, L"Potencia máxima de salida (W):"},
-    {"dVCANom", &M::dVCANom, L"Tensión nominal de salida (V):"},
-    {"dICAMax", &M::dICAMax, L"Corriente de salida (A) [máx.- mín.]:"},
-    {"dICAMin", &M::dICAMin, L""},
+inline constexpr auto kFilasSalida = ui::Campos<M>({
+    {&M::dPCANom, L"Potencia nominal de salida (W):"},
+    {&M::dPCAMax, L"Potencia máxima de salida (W):"},
+    {&M::dVCANom, L"Tensión nominal de salida (V):"},
+    {&M::dICAMax, L"Corriente de salida (A) [máx.- mín.]:"},
+    {&M::dICAMin, L""},
 });
 
 template <class M>
-inline constexpr auto kFilasSistema = std::to_array<ui::Fila<M>>({
-    {"dRendMax", &M::dRendMax, L"Rendimiento máximo (%):", {50, 100}},
-    {"dAncho", &M::dAncho, L"Anchura (~DIM~):", {0, 10000}, 2, {}, L"Dimensiones"},
-    {"dLargo", &M::dLargo, L"Profundidad (~DIM~):", {0, 10000}, 2, {}, L"Dimensiones"},
-    {"dAlto", &M::dAlto, L"Altura (~DIM~):", {0, 10000}, 2, {}, L"Dimensiones"},
-    {"dPeso", &M::dPeso, L"Peso (~MASA~):", {0, 10000}, 2, {}, L"Masa"},
+inline constexpr auto kFilasSistema = ui::Campos<M>({
+    {&M::dRendMax, L"Rendimiento máximo (%):", {50, 100}},
+    {&M::dAncho, L"Anchura (~DIM~):", {0, 10000}, 2, {}, L"Dimensiones"},
+    {&M::dLargo, L"Profundidad (~DIM~):", {0, 10000}, 2, {}, L"Dimensiones"},
+    {&M::dAlto, L"Altura (~DIM~):", {0, 10000}, 2, {}, L"Dimensiones"},
+    {&M::dPeso, L"Peso (~MASA~):", {0, 10000}, 2, {}, L"Masa"},
 });
 
 template <class M>

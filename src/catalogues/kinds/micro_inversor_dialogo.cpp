@@ -10,20 +10,20 @@ using M = CBaseMicroInversorModelo;
 
 constexpr auto kSalidas = std::to_array<std::wstring_view>({L"Monofásico", L"Trifásico"});
 
-constexpr auto kModelo = std::to_array<ui::Fila<M>>({{"csModelo", &M::csModelo, L"Modelo:"}});
-constexpr auto kPrecio = std::to_array<ui::Fila<M>>({{"csCodPrecio", &M::csCodPrecio, L"Cod.Precios:"}});
+constexpr auto kModelo = ui::Campos<M>({{&M::csModelo, L"Modelo:"}});
+constexpr auto kPrecio = ui::Campos<M>({{&M::csCodPrecio, L"Cod.Precios:"}});
 
-constexpr auto kCorrientes = std::to_array<ui::Fila<M>>({
-    {"dICCMax", &M::dICCMax, L"Corriente de entrada (A) [máx - mín]:"},
-    {"dICCMin", &M::dICCMin, L""},
-    {"dIScMax", &M::dIScMax, L"Corriente de cortocircuito máxima (A):"},
-    {"iNumMPPT", &M::iNumMPPT, L"Número de inversores MPPT:", {1, 100}},
-    {"iNumEntradas", &M::iNumEntradas, L"Número de entradas:", {&M::iNumMPPT, 100}},
+constexpr auto kCorrientes = ui::Campos<M>({
+    {&M::dICCMax, L"Corriente de entrada (A) [máx - mín]:"},
+    {&M::dICCMin, L""},
+    {&M::dIScMax, L"Corriente de cortocircuito máxima (A):"},
+    {&M::iNumMPPT, L"Número de inversores MPPT:", {1, 100}},
+    {&M::iNumEntradas, L"Número de entradas:", {&M::iNumMPPT, 100}},
 });
 
-constexpr auto kFase = std::to_array<ui::Fila<M>>({
-    {"dFP", &M::dFP, L"Factor de potencia:", {0.1, 1}},
-    {.nombre = "iTipoSalida", .campo = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas},
+constexpr auto kFase = ui::Campos<M>({
+    {&M::dFP, L"Factor de potencia:", {0.1, 1}},
+    {.miembro = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas},
 });
 
 class CDlgItemDatosMicroInversor : public cat::DialogoInversor<M> {
@@ -36,12 +36,13 @@ public:
         AnadirFabricante();
         Anadir(kPrecio);
         AnadirImportacionOnd();
-        AnadirPaginas(cat::kPaginasInversor);
-        Anadir(cat::kFilasTensiones<M>, {.iPagina = 0});
-        Anadir(kCorrientes, {.iPagina = 0});
-        Anadir(cat::kFilasSalida<M>, {.iPagina = 1});
-        Anadir(kFase, {.iPagina = 1});
-        Anadir(cat::kFilasSistema<M>, {.iPagina = 2});
+        ui::Pagina& entrada = AnadirPagina(cat::kPaginaEntrada);
+        Anadir(entrada, cat::kFilasTensiones<M>);
+        Anadir(entrada, kCorrientes);
+        ui::Pagina& salida = AnadirPagina(cat::kPaginaSalida);
+        Anadir(salida, cat::kFilasSalida<M>);
+        Anadir(salida, kFase);
+        Anadir(AnadirPagina(cat::kPaginaSistema), cat::kFilasSistema<M>);
         Abrir(bSoloLectura);
     }
 };

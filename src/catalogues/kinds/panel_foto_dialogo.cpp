@@ -2,6 +2,7 @@
 
 #include "catalogues/import/importacion.h"
 #include "catalogues/import/panel_foto_pan.h"
+#include "catalogues/kinds/dialogo_modelo.h"
 #include "catalogues/kinds/importar_en_campos.h"
 #include "catalogues/kinds/panel_foto.h"
 #include "platform/numero/conversion.h"
@@ -19,33 +20,30 @@ constexpr auto kEntradasTipo = [] {
     return entradas;
 }();
 
-constexpr auto kGenerales = std::to_array<ui::Fila<P>>({
-    {"csModelo", &P::csModelo, L"Modelo:"},
-    {"csCodPrecio", &P::csCodPrecio, L"Cod.Precios:"},
+constexpr auto kGenerales = ui::Campos<P>({
+    {&P::csModelo, L"Modelo:"},
+    {&P::csCodPrecio, L"Cod.Precios:"},
 });
-constexpr auto kElectricos = std::to_array<ui::Fila<P>>({
-    {"dVsmax", &P::dVsmax, L"Tensión máxima del sistema [Vsmax] (V):", {0, 10000}},
-    {"dPmpm", &P::dPmpm, L"Potencia máxima [Pmpm] (W):", {0, 15000}},
-    {"dVmpm", &P::dVmpm, L"Tensión en máxima potencia [Vmpm] (V):", {0, 15000}},
-    {"dImpm", &P::dImpm, L"Corriente en máxima potencia [Impm] (A):", {0, 5000}},
-    {"dVoc", &P::dVoc, L"Tensión a circuito abierto [Voc] (V):", {0, 15000}},
-    {"dIsc", &P::dIsc, L"Corriente en cortocircuito [Isc] (A):", {0, 5000}},
+constexpr auto kElectricos = ui::Campos<P>({
+    {&P::dVsmax, L"Tensión máxima del sistema [Vsmax] (V):", {0, 10000}},
+    {&P::dPmpm, L"Potencia máxima [Pmpm] (W):", {0, 15000}},
+    {&P::dVmpm, L"Tensión en máxima potencia [Vmpm] (V):", {0, 15000}},
+    {&P::dImpm, L"Corriente en máxima potencia [Impm] (A):", {0, 5000}},
+    {&P::dVoc, L"Tensión a circuito abierto [Voc] (V):", {0, 15000}},
+    {&P::dIsc, L"Corriente en cortocircuito [Isc] (A):", {0, 5000}},
 });
-constexpr auto kTermicos = std::to_array<ui::Fila<P>>({
-    {"dCEf", &P::dCEf, L"Reducción efic. [1000 a 200 W/m² ](%):", {0, 100}},
+constexpr auto kTermicos = ui::Campos<P>({
+    {&P::dCEf, L"Reducción efic. [1000 a 200 W/m² ](%):", {0, 100}},
 });
-constexpr auto kFisicos = std::to_array<ui::Fila<P>>({
-    {"dAcel", &P::dAcel, L"Dimensiones de la célula [AxB] (mm²):"},
-    {"dH", &P::dH, L"Longitud (mm):", {0, 50000}, 0},
-    {"dB", &P::dB, L"Ancho (mm):", {0, 50000}, 0},
-    {"dA", &P::dA, L"Canto (mm):", {0, 50000}, 0},
-    {"dP", &P::dP, L"Peso (kg):", {0, 50000}},
-    {.nombre = "iTipoCelula",
-     .campo = &P::iTipoCelula,
-     .rotulo = L"Tecnología de la célula:",
-     .entradas = kEntradasTipo},
-    {"iNp", &P::iNp, L"Número de ramales paralelo:", {1, 1000}},
-    {"iNs", &P::iNs, L"Número de células por ramal:", {1, 1000}},
+constexpr auto kFisicos = ui::Campos<P>({
+    {&P::dAcel, L"Dimensiones de la célula [AxB] (mm²):"},
+    {&P::dH, L"Longitud (mm):", {0, 50000}, 0},
+    {&P::dB, L"Ancho (mm):", {0, 50000}, 0},
+    {&P::dA, L"Canto (mm):", {0, 50000}, 0},
+    {&P::dP, L"Peso (kg):", {0, 50000}},
+    {.miembro = &P::iTipoCelula, .rotulo = L"Tecnología de la célula:", .entradas = kEntradasTipo},
+    {&P::iNp, L"Número de ramales paralelo:", {1, 1000}},
+    {&P::iNs, L"Número de células por ramal:", {1, 1000}},
 });
 
 const ui::Lugar kLugarElectricos{.grupo = L"Características eléctricas"};
@@ -53,15 +51,16 @@ const ui::Lugar kLugarTermicos{.grupo = L"Coeficientes de temperatura"};
 const ui::Lugar kLugarFisicos{.grupo = L"Características físicas", .iColumna = 1};
 
 constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
-    {"csModelo", ui::Vacio<&P::csModelo>, L"El modelo del panel, necesita un nombre válido"},
-    {"dPmpm", ui::Nulo<&P::dPmpm>, L"La potencia máxima (Pmpm), no puede tener un valor nulo"},
-    {"dVmpm", ui::Nulo<&P::dVmpm>, L"La tensión a máxima potencia (Vmpm), no puede tener un valor nulo"},
-    {"dImpm", ui::Nulo<&P::dImpm>, L"La corriente a máxima potencia (Impm), no puede tener un valor nulo"},
-    {"dVoc", ui::Nulo<&P::dVoc>, L"La tensión a circuito abierto (Voc), no puede tener un valor nulo"},
-    {"dIsc", ui::Nulo<&P::dIsc>, L"La corriente a cortocircuito (Isc), no puede tener un valor nulo"},
-    {"dH", ui::Nulo<&P::dH>, L"La longitud del panel (H), no puede tener un valor nulo"},
-    {"dB", ui::Nulo<&P::dB>, L"La anchura del panel (B), no puede tener un valor nulo"},
-    {"dA", ui::Nulo<&P::dA>, L"La canto del panel (A), no puede tener un valor nulo"},
+    {efv::catalogues::kCampoModelo<P>, ui::Vacio<&P::csModelo>,
+     L"El modelo del panel, necesita un nombre válido"},
+    {&P::dPmpm, ui::Nulo<&P::dPmpm>, L"La potencia máxima (Pmpm), no puede tener un valor nulo"},
+    {&P::dVmpm, ui::Nulo<&P::dVmpm>, L"La tensión a máxima potencia (Vmpm), no puede tener un valor nulo"},
+    {&P::dImpm, ui::Nulo<&P::dImpm>, L"La corriente a máxima potencia (Impm), no puede tener un valor nulo"},
+    {&P::dVoc, ui::Nulo<&P::dVoc>, L"La tensión a circuito abierto (Voc), no puede tener un valor nulo"},
+    {&P::dIsc, ui::Nulo<&P::dIsc>, L"La corriente a cortocircuito (Isc), no puede tener un valor nulo"},
+    {&P::dH, ui::Nulo<&P::dH>, L"La longitud del panel (H), no puede tener un valor nulo"},
+    {&P::dB, ui::Nulo<&P::dB>, L"La anchura del panel (B), no puede tener un valor nulo"},
+    {&P::dA, ui::Nulo<&P::dA>, L"La canto del panel (A), no puede tener un valor nulo"},
     {nullptr, [](const P& p) { return p.iNp < 1 || p.iNs < 1; },
      L"El número de células y ramas no puede tener nulo", ui::Icono::error},
 });
@@ -76,12 +75,9 @@ CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectu
 {
     Anadir(kGenerales);
     Anadir(kElectricos, kLugarElectricos);
-    AnadirCoeficiente(m_coeficientes[0], "dCTVoc", L"Coeficiente de Tª de Voc:    (mV/ºC):", "iUnidadVoc",
-                      L"mV/ºC");
-    AnadirCoeficiente(m_coeficientes[1], "dCTIsc", L"Coeficiente de Tª de Isc:     (mA/ºC)", "iUnidadIsc",
-                      L"mA/ºC");
-    AnadirCoeficiente(m_coeficientes[2], "dCTPmpm", L"Coeficiente de Tª a Pmpm:    (mW/ºC):", "iUnidadPmpm",
-                      L"mW/ºC");
+    AnadirCoeficiente(m_coeficientes[0], L"Coeficiente de Tª de Voc:    (mV/ºC):", "iUnidadVoc", L"mV/ºC");
+    AnadirCoeficiente(m_coeficientes[1], L"Coeficiente de Tª de Isc:     (mA/ºC)", "iUnidadIsc", L"mA/ºC");
+    AnadirCoeficiente(m_coeficientes[2], L"Coeficiente de Tª a Pmpm:    (mW/ºC):", "iUnidadPmpm", L"mW/ºC");
     Anadir(kTermicos, kLugarTermicos);
     Anadir(kFisicos, kLugarFisicos);
     AnadirBotones();
@@ -94,11 +90,10 @@ CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectu
     }
 }
 
-void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, const char* nombre,
-                                               std::wstring_view rotulo, const char* nombreUnidad,
-                                               std::wstring_view unidadAbsoluta)
+void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, std::wstring_view rotulo,
+                                               const char* nombreUnidad, std::wstring_view unidadAbsoluta)
 {
-    auto& campo = Anadir<ui::Edicion>(nombre, rotulo);
+    auto& campo = Anadir<ui::Edicion>(ui::NombreDeCampo(coeficiente.valor), rotulo);
     campo.destino = &(datos.*coeficiente.valor);
     campo.iDecimales = 3;
     campo.intercambio = ui::Intercambio::aMano;

@@ -26,8 +26,8 @@ private:
         bool bTecleado = false;  // its text has been typed into and not yet taken over
     };
 
-    void AnadirCoeficiente(Coeficiente& coeficiente, const char* nombre, std::wstring_view rotulo,
-                           const char* nombreUnidad, std::wstring_view unidadAbsoluta);
+    void AnadirCoeficiente(Coeficiente& coeficiente, std::wstring_view rotulo, const char* nombreUnidad,
+                           std::wstring_view unidadAbsoluta);
     void AnadirBotones();
     double Mostrado(const Coeficiente& coeficiente) const;
     void Escribir(const Coeficiente& coeficiente);

@@ -9,15 +9,15 @@ using M = CBaseReceptorModelo;
 
 constexpr auto kTiposRed = std::to_array<std::wstring_view>({L"Red de CC", L"Red de CA"});
 
-constexpr auto kGenerales = std::to_array<ui::Fila<M>>({{"csModelo", &M::csModelo, L"Modelo:"}});
+constexpr auto kGenerales = ui::Campos<M>({{&M::csModelo, L"Modelo:"}});
 
-constexpr auto kDatos = std::to_array<ui::Fila<M>>({
-    {"dP", &M::dP, L"Potencia de consumo (W):"},
-    {"dVs", &M::dVs, L"Voltaje de servicio (V):", {1, 10000}},
-    {"dVsMin", &M::dVsMin, L"Voltaje mínimo de servicio (V):", {1, &M::dVs}},
-    {"dRend", &M::dRend, L"Rendimiento (%):", {1, 100}},
-    {.nombre = "iTipoRed", .campo = &M::iTipoRed, .rotulo = L"Tipo de red:", .entradas = kTiposRed},
-    {.nombre = "bIlum", .campo = &M::bIlum, .rotulo = L"Receptor con caracter de luminaria", .casilla = true},
+constexpr auto kDatos = ui::Campos<M>({
+    {&M::dP, L"Potencia de consumo (W):"},
+    {&M::dVs, L"Voltaje de servicio (V):", {1, 10000}},
+    {&M::dVsMin, L"Voltaje mínimo de servicio (V):", {1, &M::dVs}},
+    {&M::dRend, L"Rendimiento (%):", {1, 100}},
+    {.miembro = &M::iTipoRed, .rotulo = L"Tipo de red:", .entradas = kTiposRed},
+    {.miembro = &M::bIlum, .rotulo = L"Receptor con caracter de luminaria", .casilla = true},
 });
 
 class CDlgItemDatosReceptor : public efv::catalogues::DialogoModelo<M> {
