@@ -7,6 +7,7 @@
 #include "platform/numero/tolerancia.h"
 #include "solar/angulos.h"
 #include "solar/calendario.h"
+#include "solar/energia.h"
 #include "solar/filas.h"
 
 namespace efv::assistants {
@@ -106,7 +107,7 @@ struct AnoSolar {
     static double HoraPico(const DoceFactores& k, const DoceFactores& adRadiacion, int iMes)
     {
         const auto m = static_cast<std::size_t>(iMes);
-        return k[m] * adRadiacion[m] / 3600;
+        return solar::HorasPico(adRadiacion[m], k[m]);
     }
 
 private:

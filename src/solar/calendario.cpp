@@ -92,11 +92,11 @@ namespace {
 constexpr auto kDias = std::to_array<std::wstring_view>(
     {L"Lunes", L"Martes", L"Miércoles", L"Jueves", L"Viernes", L"Sábado", L"Domingo"});
 
-constexpr auto kMeses = std::to_array<std::wstring_view>(
+constexpr auto kNombresMes = std::to_array<std::wstring_view>(
     {L"Enero", L"Febrero", L"Marzo", L"Abril", L"Mayo", L"Junio", L"Julio", L"Agosto", L"Septiembre",
      L"Octubre", L"Noviembre", L"Diciembre", L"Anual", L"Favorable", L"Desfavorable"});
 
-constexpr auto kMesesCortos =
+constexpr auto kNombresMesCorto =
     std::to_array<std::wstring_view>({L"ENE", L"FEB", L"MAR", L"ABR", L"MAY", L"JUN", L"JUL", L"AGO", L"SEP",
                                       L"OCT", L"NOV", L"DIC", L"ANU", L"FAV", L"DFA"});
 
@@ -115,12 +115,12 @@ std::wstring_view NombreDia(int iTipoDia)
 
 std::wstring_view NombreMes(int iMes)
 {
-    return Nombre(kMeses, iMes);
+    return Nombre(kNombresMes, iMes);
 }
 
 std::wstring_view NombreMesCorto(int iMes)
 {
-    return Nombre(kMesesCortos, iMes);
+    return Nombre(kNombresMesCorto, iMes);
 }
 
 }  // namespace efv::solar

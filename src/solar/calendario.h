@@ -8,10 +8,11 @@
 #include <array>
 #include <string_view>
 
+#include <quorvel/solar/energia.h>
+
 namespace efv::solar {
 
 inline constexpr int kHorasAno = 8760;
-inline constexpr std::array<int, 12> kDiasMesReferencia = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 
 int HoraDelDia(int iHoraAno);
 int DiaDelMes(int iHoraAno);

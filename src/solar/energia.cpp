@@ -63,7 +63,7 @@ std::optional<double> RadiacionDia(const ConsultaRadiacion& c, int iMes, double 
     const auto k = FactoresK(tabla, c.dLatitud, c.iHemisferio, c.dInclinacion);
     if (!k)
         return std::nullopt;
-    return dRadHorizontal * (*k)[m] / 3600;
+    return HorasPico(dRadHorizontal, (*k)[m]);
 }
 
 std::optional<double> EnergiaDia(const ConsultaRadiacion& c, int iMes, double dRadHorizontal,

@@ -6,6 +6,7 @@
 #include <span>
 
 #include <quorvel/solar.h>
+#include <quorvel/solar/energia.h>
 
 namespace efv::solar {
 
@@ -20,9 +21,11 @@ struct ConsultaRadiacion {
     double dFactorAdicional;
 };
 
-/// The twelve factors for the magnitude of the latitude in that hemisphere; nothing outside the table.
-std::optional<std::array<double, 12>> FactoresK(const CBaseFactorK& tabla, double dLatitud, int iHemisferio,
-                                                double dAlpha);
+/// Peak sun hours of a plane: a horizontal radiation in kJ/m²·day by its factor, kWh/m²·day.
+constexpr double HorasPico(double dRadHorizontal, double dK)
+{
+    return dRadHorizontal * dK / 3600;
+}
 
 // Each gives nothing when its query fails.
 
