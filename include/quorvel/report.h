@@ -1,0 +1,9 @@
+// Reports: documents of sections, data, tables and charts made from plain results, their writers, and the
+// designs told as such with what a person must look at in them.
+#pragma once
+
+#include <quorvel/report/disenos.h>
+#include <quorvel/report/documento.h>
+#include <quorvel/report/equipos.h>
+#include <quorvel/report/ficha.h>
+#include <quorvel/report/texto.h>

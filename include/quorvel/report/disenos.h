@@ -1,0 +1,114 @@
+// The two kinds of design as studies: sized as the assistants do, with the energy of the year, what must be
+// looked at, and the whole told as a document.
+//
+// A forced recalculation comes first, in which the program's proposals replace the values; then the fields that
+// the project fixes are put in, and all is recalculated unforced.
+#pragma once
+
+#include <optional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include <quorvel/assistants_calculo.h>
+#include <quorvel/localidades.h>
+#include <quorvel/report/documento.h>
+#include <quorvel/report/equipos.h>
+#include <quorvel/solar/energia.h>
+
+namespace efv::report {
+
+/// Where the installation stands.
+struct LugarDiseno {
+    std::optional<Localidad> localidad;  ///< none when it was given by its figures
+    std::string nombre;                  ///< without a place of the list; may be empty
+    double dLatitud = 0.0;               ///< degrees
+    bool bNorte = true;
+    std::optional<solar::DoceMeses> adRadiacion;  ///< on the horizontal, kJ/m²·day
+
+    int Hemisferio() const { return bNorte ? 1 : 0; }
+};
+
+// ---------------------------------------------------------------------------------------------------
+// Stand-alone
+// ---------------------------------------------------------------------------------------------------
+
+struct ProyectoAislada {
+    std::string titulo;
+    LugarDiseno lugar;
+    CSFVAsistenteAislada registro;
+    std::set<std::string> fijados;  ///< fields of the record that the project gives
+    CObArrayPropio<CSFVDataReceptor> receptores;
+    std::vector<std::string> notas;  ///< what must be known of the project besides
+    // Catalogue models, which outlive it.
+    const CBaseAcumuladorModelo* acumulador = nullptr;
+    const CBasePanelFotoModelo* panel = nullptr;
+};
+
+struct EstudioAislada {
+    assistants::ValoresAislada v;
+    bool bPlano = false;                ///< the table of factors K reaches the latitude
+    solar::AnoEnergia ano;              ///< of the field, after the losses; zeros where the table doesn't reach
+    solar::DoceMeses adNecesaria = {};  ///< by the loads on the days of each month, kWh
+};
+
+/// The project of a design that the assistant accepted: every value of it stays, and the loads have the models
+/// of their catalogue. Models that the catalogues don't have are null; such a project can't be calculated.
+EFV_API ProyectoAislada ProyectoDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos);
+
+/// @param proyecto with its models; the loads take their hours of use of the sizing
+EFV_API EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& tabla);
+
+/// Where a value in force falls short or a limit is passed, and what else must be known.
+EFV_API std::vector<Aviso> Avisos(const ProyectoAislada& proyecto, const EstudioAislada& estudio);
+
+EFV_API Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislada& estudio,
+                                    std::vector<Aviso> avisos);
+
+// ---------------------------------------------------------------------------------------------------
+// Connected to the grid
+// ---------------------------------------------------------------------------------------------------
+
+struct ProyectoRed {
+    std::string titulo;
+    LugarDiseno lugar;
+    CSFVAsistenteRed registro;
+    std::set<std::string> fijados;   ///< fields of the record that the project gives
+    std::vector<std::string> notas;  ///< what must be known of the project besides
+    // Catalogue models, which outlive it.
+    const CBaseInversorModelo* inversor = nullptr;
+    const CBasePanelFotoModelo* panel = nullptr;
+    std::optional<double> dTemperaturaMinima,
+        dTemperaturaMaxima;              ///< of the cells, ºC, as the project gives them
+    std::optional<double> dRendimiento;  ///< of the whole installation, fraction
+
+    double Minima() const { return dTemperaturaMinima.value_or(-10.0); }
+    double Maxima() const { return dTemperaturaMaxima.value_or(70.0); }
+    double Rendimiento() const { return dRendimiento.value_or(0.8); }
+};
+
+struct EstudioRed {
+    assistants::ValoresRed v;
+    assistants::ComprobacionCampo comprobacion;
+    bool bPlano = false;                   ///< the table of factors K reaches the latitude
+    std::optional<solar::AnoEnergia> ano;  ///< nothing without radiations or outside the table
+};
+
+EFV_API ProyectoRed ProyectoDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos);
+
+EFV_API EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla);
+EFV_API std::vector<Aviso> Avisos(const ProyectoRed& proyecto, const EstudioRed& estudio);
+EFV_API Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estudio,
+                                    std::vector<Aviso> avisos);
+
+/// A limit told to people and to programs.
+struct TextoLimite {
+    const char* rotulo;
+    const char* clave;
+    const char* unidad;
+    int iDecimales;
+    bool bMinimo;  ///< else the limit is a maximum
+};
+EFV_API const TextoLimite& TextoDe(assistants::Limite limite);
+
+}  // namespace efv::report

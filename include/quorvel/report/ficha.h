@@ -1,0 +1,17 @@
+// The data sheet of a catalogue model as rows.
+#pragma once
+
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <quorvel/exportar.h>
+#include <quorvel/tipos_catalogo.h>
+
+namespace efv::report {
+
+/// What its dialog shows: caption and text. What has no caption stands with the control before it.
+EFV_API std::vector<std::pair<std::string, std::string>> FilasDeFicha(const TipoCatalogo& tipo,
+                                                                      const CModelo& modelo);
+
+}  // namespace efv::report
