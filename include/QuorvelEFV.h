@@ -15,6 +15,8 @@
 #include <quorvel/localidades.h>
 #include <quorvel/registros.h>
 #include <quorvel/reloj.h>
+#include <quorvel/report.h>
 #include <quorvel/solar.h>
+#include <quorvel/solar/energia.h>
 #include <quorvel/tipos_catalogo.h>
 #include <quorvel/ui.h>

@@ -14,29 +14,36 @@ using M = CBaseAcumuladorModelo;
 using Capacidad = double M::*;
 
 struct Regla {
+    std::wstring_view csNombre;
     Capacidad candidata;
     std::array<Capacidad, 4> inferiores;
 };
 
 constexpr auto kReglas = std::to_array<Regla>({
-    {&M::dCapC1, {&M::dCapC5, &M::dCapC10, &M::dCapC100, &M::dCapC120}},
-    {&M::dCapC5, {&M::dCapC1, &M::dCapC10, &M::dCapC100, &M::dCapC120}},
-    {&M::dCapC10, {&M::dCapC1, &M::dCapC5, &M::dCapC100, &M::dCapC120}},
-    {&M::dCapC20, {&M::dCapC1, &M::dCapC5, &M::dCapC100, &M::dCapC120}},
-    {&M::dCapC100, {&M::dCapC1, &M::dCapC5, &M::dCapC10, &M::dCapC120}},
-    {&M::dCapC120, {&M::dCapC1, &M::dCapC5, &M::dCapC10, &M::dCapC100}},
+    {L"C1", &M::dCapC1, {&M::dCapC5, &M::dCapC10, &M::dCapC100, &M::dCapC120}},
+    {L"C5", &M::dCapC5, {&M::dCapC1, &M::dCapC10, &M::dCapC100, &M::dCapC120}},
+    {L"C10", &M::dCapC10, {&M::dCapC1, &M::dCapC5, &M::dCapC100, &M::dCapC120}},
+    {L"C20", &M::dCapC20, {&M::dCapC1, &M::dCapC5, &M::dCapC100, &M::dCapC120}},
+    {L"C100", &M::dCapC100, {&M::dCapC1, &M::dCapC5, &M::dCapC10, &M::dCapC120}},
+    {L"C120", &M::dCapC120, {&M::dCapC1, &M::dCapC5, &M::dCapC10, &M::dCapC100}},
 });
 
 }  // namespace
 
-std::optional<double> CapacidadEnVigor(const CBaseAcumuladorModelo& modelo)
+std::optional<Regimen> RegimenEnVigor(const CBaseAcumuladorModelo& modelo)
 {
     for (const Regla& regla : kReglas) {
         const double d = modelo.*regla.candidata;
         if (std::ranges::all_of(regla.inferiores, [&](Capacidad c) { return numero::Mayor(d, modelo.*c); }))
-            return d;
+            return Regimen{d, regla.csNombre};
     }
     return std::nullopt;
+}
+
+std::optional<double> CapacidadEnVigor(const CBaseAcumuladorModelo& modelo)
+{
+    const auto regimen = RegimenEnVigor(modelo);
+    return regimen ? std::optional(regimen->dCapacidad) : std::nullopt;
 }
 
 DatosAcumulador LeerAcumulador(const CBaseAcumuladorModelo& m)

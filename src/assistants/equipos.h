@@ -15,6 +15,13 @@ DatosAcumulador LeerAcumulador(const CBaseAcumuladorModelo& modelo);
 /// discharge wins.
 std::optional<double> CapacidadEnVigor(const CBaseAcumuladorModelo& modelo);
 
+/// The same with the name of its discharge regime, "C100".
+struct Regimen {
+    double dCapacidad;  ///< Ah
+    std::wstring_view csNombre;
+};
+std::optional<Regimen> RegimenEnVigor(const CBaseAcumuladorModelo& modelo);
+
 /// The lowest positive current of a list such as "12,5/9/0", A: the weakest tracker limits all. `dICCMax`
 /// when the list holds none.
 double CorrienteLimite(double dICCMax, std::wstring_view csICCMaxMPPT);

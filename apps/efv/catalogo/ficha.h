@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -15,9 +14,7 @@ using Json = nlohmann::ordered_json;
 
 /// One line of a terminal each: identification and the columns that the kind's lists have.
 std::string ListaTexto(const TipoCatalogo& tipo, const Modelos& modelos);
-/// What its dialog shows: caption and text. What has no caption stands with the control before it.
-std::vector<std::pair<std::string, std::string>> FilasDeFicha(const TipoCatalogo& tipo, const CModelo& modelo);
-/// The same with the family, a line a caption.
+/// What its dialog shows with the family, a line a caption.
 std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo);
 /// Every field by its name; what isn't finite is null.
 Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo);

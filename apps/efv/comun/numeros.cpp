@@ -6,8 +6,6 @@
 #include <cmath>
 #include <cwctype>
 
-#include <fmt/format.h>
-
 namespace efv::orden {
 
 namespace {
@@ -33,12 +31,6 @@ wchar_t PlegarLetra(wchar_t c)
         if (formas.find(c) != std::wstring_view::npos)
             return base;
     return c < 0x80 ? static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))) : c;
-}
-
-std::string ConComa(std::string texto)
-{
-    std::ranges::replace(texto, '.', ',');
-    return texto;
 }
 
 std::vector<std::string> Partir(const std::string& texto, std::string_view separadores)
@@ -77,35 +69,6 @@ std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras
         todo += palabra + ' ';
     std::vector<std::string> partes = Partir(todo, "; ");
     return partes.size() == cuantos ? partes : Partir(todo, ",; ");
-}
-
-std::string Decimal(double d, int iDecimales)
-{
-    if (!std::isfinite(d))
-        return "—";
-    std::string texto = fmt::format("{:.{}f}", d, iDecimales);
-    if (texto.starts_with('-') && texto.find_first_of("123456789") == std::string::npos)
-        texto.erase(0, 1);
-    return ConComa(std::move(texto));
-}
-
-std::string DecimalExacto(double d)
-{
-    return std::isfinite(d) ? ConComa(fmt::format("{}", d)) : std::string();
-}
-
-std::string EnUnaLinea(std::string_view texto)
-{
-    std::string linea = CadenaUtf8(CadenaDesdeUtf8(texto));
-    const auto esControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '\x7f'; };
-    std::ranges::replace_if(linea, esControl, '?');
-    return linea;
-}
-
-std::size_t Anchura(std::string_view utf8)
-{
-    return static_cast<std::size_t>(
-        std::ranges::count_if(utf8, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 CString Plegar(const CString& texto)

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <quorvel/framework/CString.h>
+#include <quorvel/report/texto.h>
 
 namespace efv::orden {
 
@@ -17,17 +18,11 @@ std::optional<double> LeerNumero(std::string_view texto);
 /// mark where another separator makes that many.
 std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras, std::size_t cuantos);
 
-/// `d` with that many decimals and a comma; "—" when it isn't finite.
-std::string Decimal(double d, int iDecimales);
-
-/// `d` with as few digits as tell it from any other double, and a comma; empty when it isn't finite.
-std::string DecimalExacto(double d);
-
-/// `texto` fit for one line of a terminal: control characters become "?", malformed bytes U+FFFD.
-std::string EnUnaLinea(std::string_view texto);
-
-/// Number of characters, for alignment. @param utf8 without combining or double-width characters
-std::size_t Anchura(std::string_view utf8);
+using report::Anchura;
+using report::Decimal;
+using report::DecimalExacto;
+using report::EnUnaLinea;
+using report::TablaTexto;
 
 /// Lower case without accents, for searching.
 CString Plegar(const CString& texto);

@@ -17,7 +17,6 @@
 #include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
-#include "comun/tabla_texto.h"
 
 namespace efv::orden {
 

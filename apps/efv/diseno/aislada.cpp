@@ -1,5 +1,4 @@
-#include "diseno/aislada.h"
-
+// A stand-alone installation out of its project file.
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -11,6 +10,8 @@
 #include "comun/numeros.h"
 #include "comun/tabla_k.h"
 #include "diseno/diseno.h"
+#include "diseno/modelos.h"
+#include "diseno/proyecto.h"
 #include "diseno/receptores.h"
 #include "diseno/salida.h"
 #include "rpc/valores.h"
@@ -19,7 +20,7 @@ namespace efv::orden {
 
 namespace {
 
-using assistants::ValoresAislada;
+using report::ProyectoAislada;
 
 constexpr double kMaximo = 1e9;
 
@@ -66,7 +67,7 @@ void AnotarCargas(ProyectoAislada& proyecto, const CatalogoDatos& catalogo)
             proyecto.notas.push_back(
                 fmt::format("{}: se calcula con {}; el archivo no guarda la potencia, y quien lo "
                             "abra tomará la del catálogo, {}.",
-                            id, Con(receptor->dPotencia, 1, "W"), Con(dCatalogo, 1, "W")));
+                            id, report::Con(receptor->dPotencia, 1, "W"), report::Con(dCatalogo, 1, "W")));
         }
         if (receptor->bNoCalcular != 0)
             proyecto.notas.push_back(fmt::format("{}: «bNoCalcular» no lo saca del dimensionado.", id));
@@ -103,17 +104,11 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
         &ElegirModelo<CBasePanelFotoModelo>(objeto, "csPanel", catalogos.modulos, proyecto.registro.csPanel);
     LeerCargas(objeto, proyecto, catalogos);
     objeto.Terminar();
+    for (const char* campo : {"iAcumuladoresSerie", "dPotenciaMaxFV", "dKaAjustado", "dR"})
+        if (proyecto.fijados.contains(campo))
+            proyecto.notas.push_back(
+                fmt::format("«{}» se calcula siempre: el valor del fichero no cuenta.", campo));
     return proyecto;
-}
-
-// kWh of a month of the reference year by the bands of each day.
-double EnergiaDelMes(const CObArrayPropio<CSFVDataReceptor>& receptores, int iMes)
-{
-    double dSuma = 0.0;
-    for (int d = 0; d < DiasDelMes(static_cast<std::size_t>(iMes)); ++d)
-        for (const auto& receptor : receptores)
-            dSuma += receptor->GetPcc() * receptor->GetNHdia(iMes, phGetTipoDiaSemana(iMes, d));
-    return dSuma / 1000.0;
 }
 
 JsonEscrito ReceptoresJson(const CObArrayPropio<CSFVDataReceptor>& receptores)
@@ -129,48 +124,6 @@ JsonEscrito ReceptoresJson(const CObArrayPropio<CSFVDataReceptor>& receptores)
 
 }  // namespace
 
-double HorasDeCalculo(CSFVDataReceptor& receptor)
-{
-    return receptor.GetNHdia(0, 0);
-}
-
-EstudioAislada Calcular(ProyectoAislada& proyecto)
-{
-    EstudioAislada estudio;
-    ValoresAislada& v = estudio.v;
-    assistants::TomarDelRegistro(v, proyecto.registro);
-    v.dLatitud = proyecto.lugar.dLatitud;
-    v.iHemisferio = proyecto.lugar.Hemisferio();
-    v.adRadiacion = proyecto.lugar.adRadiacion.value_or(std::array<double, kMeses>{});
-
-    for (std::size_t m = 0; m < kMeses; ++m)
-        estudio.ano[m].dNecesaria = EnergiaDelMes(proyecto.receptores, static_cast<int>(m));
-    std::vector<assistants::Carga> cargas;
-    for (const auto& receptor : proyecto.receptores)
-        cargas.push_back({receptor->iCantidad, receptor->dPotencia, HorasDeCalculo(*receptor)});
-    const assistants::EntradaAislada entrada = {
-        .acumulador = proyecto.acumulador,
-        .panel = proyecto.panel,
-        .cargas = cargas,
-        .factoresK = [&](double /*dLatitud*/, int /*iHemisferio*/, double dAlpha) {
-            return FactoresK(proyecto.lugar, dAlpha);
-        }};
-    assistants::Recalcular(v, entrada, true);
-    CopiarCampos(proyecto.registro, v, proyecto.fijados);
-    assistants::Recalcular(v, entrada, false);
-
-    const double dRendimiento = (100 - v.dPerdidaAcumulador) / 100 * ((100 - v.dPerdidaCableado) / 100) *
-                                ((100 - v.dPerdidaAcoplamiento) / 100);
-    const AnoDiseno campo =
-        CalcularAno(v.adRadiacion, v.adRadiacionInclinada, v.dPotenciaInstalada / 1000.0, dRendimiento);
-    for (std::size_t m = 0; m < kMeses; ++m) {
-        const std::optional<double> dNecesaria = estudio.ano[m].dNecesaria;
-        estudio.ano[m] = campo[m];
-        estudio.ano[m].dNecesaria = dNecesaria;
-    }
-    return estudio;
-}
-
 Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
 {
     JsonLeido j = proyectoJson;
@@ -180,21 +133,17 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
     CargarTablaK(csDatos);
     const Catalogos catalogos(csDatos);
     ProyectoAislada proyecto = LeerProyecto(j, catalogos, csDatos);
-    EstudioAislada estudio = Calcular(proyecto);
-    const std::vector<Aviso> avisos = Avisos(proyecto, estudio);
+    report::EstudioAislada estudio = report::Calcular(proyecto, phGetBaseFactorK());
+    const std::vector<report::Aviso> avisos = report::Avisos(proyecto, estudio);
 
     Diseno diseno;
-    diseno.documento = EscribirDocumento(proyecto, estudio, avisos);
-    const auto modelos =
-        std::to_array<ModeloElegido>({{"Acumulador", &catalogos.acumuladores.Tipo(), proyecto.acumulador},
-                                      {"Panel fotovoltaico", &catalogos.modulos.Tipo(), proyecto.panel}});
-    diseno.documento.secciones.push_back(SeccionModelos(modelos));
+    diseno.documento = report::EscribirDocumento(proyecto, estudio, avisos);
     diseno.valores = {{"tipo", "aislada"},
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},
                       {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
                       {"receptores", ReceptoresJson(proyecto.receptores)},
-                      {"meses", AnoJson(estudio.ano)},
+                      {"meses", AnoJson(estudio.ano, &estudio.adNecesaria)},
                       {"avisos", AvisosJson(avisos)}};
     assistants::DevolverAlRegistro(estudio.v, proyecto.registro);
     assistants::GuardarReceptores(proyecto.receptores, proyecto.registro);

@@ -7,13 +7,14 @@
 
 #include <nlohmann/json.hpp>
 
-#include "diseno/documento.h"
+#include <quorvel/report/documento.h>
+
 #include "diseno/lectura.h"
 
 namespace efv::orden {
 
 struct Diseno {
-    Documento documento;
+    report::Documento documento;
     nlohmann::ordered_json valores;  ///< what --json writes
     std::vector<std::byte> archivo;  ///< the record's items alone
 };

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <type_traits>
 #include <variant>
 
 #include <fmt/format.h>
@@ -96,26 +95,11 @@ private:
     }
 };
 
-void Copiar(const ReferenciaCampo& origen, const ReferenciaCampo& destino)
-{
-    std::visit(
-        [&](auto de) {
-            auto a = std::get<decltype(de)>(destino);
-            if constexpr (std::is_pointer_v<decltype(de)>)
-                *a = *de;
-            else if constexpr (std::is_same_v<decltype(de), std::span<double>>)
-                std::ranges::copy(de, a.begin());
-            else
-                throw rpc::ErrorValor("una lista de registros no se puede fijar");
-        },
-        origen);
-}
-
 }  // namespace
 
-LugarProyecto LeerLugar(Objeto& proyecto, const std::string& csDatos, bool bExigirRadiacion)
+report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool bExigirRadiacion)
 {
-    LugarProyecto lugar;
+    report::LugarDiseno lugar;
     const JsonLeido* nombre = proyecto.Buscar("lugar");
     const JsonLeido* latitud = proyecto.Buscar("latitud");
     const JsonLeido* hemisferio = proyecto.Buscar("hemisferio");
@@ -162,14 +146,6 @@ std::set<std::string> LeerCampos(Objeto& objeto, CObject& registro, std::span<co
         leidos.emplace(campo.nombre);
     }
     return leidos;
-}
-
-void CopiarCampos(CObject& origen, CObject& destino, const std::set<std::string>& nombres)
-{
-    const auto de = CamposDeRegistro(origen), a = CamposDeRegistro(destino);
-    for (std::size_t i = 0; i < de.size(); ++i)
-        if (nombres.contains(std::string(de[i].nombre)))
-            Copiar(de[i].valor, a[i].valor);
 }
 
 void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo)

@@ -9,7 +9,7 @@
 #include <string_view>
 
 #include <quorvel/framework/CObject.h>
-#include <quorvel/localidades.h>
+#include <quorvel/report/disenos.h>
 
 #include "catalogo/acceso.h"
 #include "diseno/lectura.h"
@@ -18,19 +18,9 @@
 
 namespace efv::orden {
 
-/// Where the installation stands.
-struct LugarProyecto {
-    std::optional<Localidad> localidad;  ///< none when it was given by its figures
-    double dLatitud = 0.0;               ///< degrees
-    bool bNorte = true;
-    std::optional<std::array<double, kMeses>> adRadiacion;  ///< on the horizontal, kJ/m²·day
-
-    int Hemisferio() const { return bNorte ? 1 : 0; }
-};
-
 /// `lugar`, or else `latitud`, `hemisferio` (by the latitude's sign when it is missing) and `radiacion`.
 /// @throws rpc::ErrorValor, ErrorEjecucion for a place that isn't known
-LugarProyecto LeerLugar(Objeto& proyecto, const std::string& csDatos, bool bExigirRadiacion);
+report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool bExigirRadiacion);
 
 /// Values that a field may have within the record's own limits.
 struct RangoCampo {
@@ -41,9 +31,6 @@ struct RangoCampo {
 /// Reads the record's numbers and texts that the object has, each by its name.
 /// @return the names of those that were there @throws rpc::ErrorValor
 std::set<std::string> LeerCampos(Objeto& objeto, CObject& registro, std::span<const RangoCampo> rangos);
-
-/// Writes the named fields of `origen` into `destino`, a record of the same class.
-void CopiarCampos(CObject& origen, CObject& destino, const std::set<std::string>& nombres);
 
 /// What every project has: `titulo`, and `tipo`, which must be that of the command when it is there.
 void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo);

@@ -1,22 +1,15 @@
 #include "diseno/salida.h"
 
 #include <cmath>
-#include <type_traits>
 #include <variant>
 
-#include <fmt/format.h>
-
 #include <quorvel/framework/CArchive.h>
-#include <quorvel/solar.h>
 
-#include "catalogo/ficha.h"
-#include "comun/numeros.h"
+#include "energia/campo.h"
 
 namespace efv::orden {
 
 namespace {
-
-constexpr double kHolguraFilas = 1.0;  // mm
 
 JsonEscrito ListaJson(std::span<const double> ad)
 {
@@ -69,30 +62,31 @@ JsonEscrito ValoresJson(const std::vector<CampoRegistroConst>& valores)
     return json;
 }
 
-JsonEscrito AvisosJson(const std::vector<Aviso>& avisos)
+JsonEscrito AvisosJson(const std::vector<report::Aviso>& avisos)
 {
     JsonEscrito lista = JsonEscrito::array();
-    for (const Aviso& aviso : avisos)
+    for (const report::Aviso& aviso : avisos)
         lista.push_back({{"falta", aviso.bFalta}, {"texto", aviso.texto}});
     return lista;
 }
 
-JsonEscrito AnoJson(const AnoDiseno& ano)
+JsonEscrito AnoJson(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria)
 {
     JsonEscrito lista = JsonEscrito::array();
     for (std::size_t m = 0; m < kMeses; ++m) {
+        const solar::MesEnergia& calculado = ano.meses[m];
         JsonEscrito mes = {{"mes", NombreMes(m)},
-                           {"horizontal_kWh_m2_dia", NumeroJson(ano[m].dHorizontal)},
-                           {"plano_kWh_m2_dia", NumeroJson(ano[m].dPlano)},
-                           {"producida_kWh", NumeroJson(ano[m].dProducida)}};
-        if (ano[m].dNecesaria)
-            mes["necesaria_kWh"] = NumeroJson(*ano[m].dNecesaria);
+                           {"horizontal_kWh_m2_dia", NumeroJson(calculado.dHorizontal)},
+                           {"plano_kWh_m2_dia", NumeroJson(calculado.dPlano)},
+                           {"producida_kWh", NumeroJson(calculado.dEnergiaMes)}};
+        if (necesaria != nullptr)
+            mes["necesaria_kWh"] = NumeroJson((*necesaria)[m]);
         lista.push_back(std::move(mes));
     }
     return lista;
 }
 
-JsonEscrito LugarJson(const LugarProyecto& lugar)
+JsonEscrito LugarJson(const report::LugarDiseno& lugar)
 {
     JsonEscrito json = {{"latitud", lugar.dLatitud}, {"hemisferio", lugar.bNorte ? "N" : "S"}};
     if (lugar.localidad)
@@ -107,65 +101,6 @@ std::vector<std::byte> Archivar(CObject& registro)
     CArchive ar(bytes);
     registro.Serialize(ar);
     return bytes;
-}
-
-Seccion SeccionModelos(std::span<const ModeloElegido> modelos)
-{
-    Seccion seccion("Datos de los modelos elegidos");
-    seccion.bSoloPagina = true;
-    seccion.bPaginaNueva = true;
-    for (const ModeloElegido& elegido : modelos) {
-        Cuadro& cuadro = seccion.cuadros.emplace_back();
-        cuadro.titulo = fmt::format("{}: {}", elegido.titulo, CadenaUtf8(Identificacion(*elegido.modelo)));
-        cuadro.columnas = {{"Dato", false}, {"Valor", true}};
-        for (auto& [rotulo, texto] : FilasDeFicha(*elegido.tipo, *elegido.modelo))
-            if (!texto.empty())
-                cuadro.filas.push_back({std::move(rotulo), std::move(texto)});
-    }
-    return seccion;
-}
-
-std::string Con(double d, int iDecimales, std::string_view unidad)
-{
-    const bool bPegada = unidad.empty() || unidad == "°";
-    return fmt::format("{}{}{}", Decimal(d, iDecimales), bPegada ? "" : " ", unidad);
-}
-
-Dato DatoDoble(std::string rotulo, double dEnVigor, double dPropuesta, int iDecimales, std::string_view unidad)
-{
-    return {std::move(rotulo), Con(dEnVigor, iDecimales, unidad), Con(dPropuesta, iDecimales, unidad)};
-}
-
-Dato DatoDoble(std::string rotulo, int iEnVigor, int iPropuesta)
-{
-    return {std::move(rotulo), std::to_string(iEnVigor), std::to_string(iPropuesta)};
-}
-
-void AvisarDelPlano(const LugarProyecto& lugar, double dInclinacion, std::vector<Aviso>& avisos)
-{
-    if (!FactoresK(lugar, 0.0)) {
-        avisos.push_back(
-            {true, fmt::format("La tabla de factores K no llega a la latitud {}°: no hay radiación "
-                               "sobre el plano.",
-                               Decimal(lugar.dLatitud, 2))});
-    } else if (dInclinacion < 0.0 || dInclinacion > 90.0) {
-        avisos.push_back({true, fmt::format("La inclinación en vigor, {}°, está fuera de 0° a 90°: la tabla de "
-                                            "factores K no da radiación sobre ese plano. Fije «dInclinacion».",
-                                            Decimal(dInclinacion, 2))});
-    }
-}
-
-void AvisarDeFilas(const LugarProyecto& lugar, const Filas& filas, std::vector<Aviso>& avisos)
-{
-    if (filas.iPaneles <= filas.dPanelesPorFila)
-        return;
-    double dNecesaria = 0.0, dLibre = 0.0, dAlturaPanel = 0.0, dAlturaFila = 0.0;
-    phGetDistanciaMinimaPCT(1, filas.dLargo, filas.dInclinacion, 0.0, std::abs(lugar.dLatitud), dNecesaria,
-                            dLibre, dAlturaPanel, dAlturaFila);
-    if (filas.dDistancia < dNecesaria - kHolguraFilas)
-        avisos.push_back({true, fmt::format("Distancia fila - fila en vigor, {}, inferior a la que pide la "
-                                            "inclinación en vigor para que las filas no se den sombra, {}.",
-                                            Con(filas.dDistancia, 0, "mm"), Con(dNecesaria, 0, "mm"))});
 }
 
 }  // namespace efv::orden

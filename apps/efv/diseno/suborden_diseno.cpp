@@ -110,7 +110,7 @@ public:
             escritos.push_back(*m_guardar);
         }
         if (m_informe) {
-            Guardar(*m_informe, DocumentoHtml(diseno.documento, Fecha()));
+            Guardar(*m_informe, report::DocumentoHtml(diseno.documento, Fecha()));
             escritos.push_back(*m_informe);
         }
         if (m_bJson) {
@@ -118,7 +118,7 @@ public:
             salida << diseno.valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
             return 0;
         }
-        salida << DocumentoTexto(diseno.documento);
+        salida << report::DocumentoTexto(diseno.documento);
         for (std::size_t i = 0; i < escritos.size(); ++i)
             salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
         return 0;

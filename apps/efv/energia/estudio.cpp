@@ -5,7 +5,7 @@
 
 #include <fmt/format.h>
 
-#include <QuorvelEFV.h>
+#include <quorvel/solar.h>
 
 #include "comun/consola.h"
 #include "comun/numeros.h"
@@ -15,12 +15,10 @@ namespace efv::orden {
 
 namespace {
 
-constexpr std::size_t kFebrero = 1;
 // More than any plane gets on the mean of a month, kWh/m²·day.
 constexpr double kRIMaxima = 15.0;
 // A tilt that multiplies the radiation by more stands on a sun that hardly rises.
 constexpr double kRazonMaxima = 5.0;
-constexpr double kKJporKWh = 3600.0;
 
 // Names of the months that `elegido(month)` picks.
 template <class Elegido>
@@ -45,7 +43,7 @@ void AnotarCampo(Estudio& estudio)
     if (campo.dOrientacion != campo.OrientacionEcuador())
         orientacion += fmt::format(", aunque se pida {}°", DecimalExacto(campo.dOrientacion));
     estudio.notas.push_back(orientacion + ".");
-    if (campo.EsSur() && estudio.correlacion) {
+    if (!campo.bNorte && estudio.correlacion) {
         estudio.notas.push_back(
             fmt::format("Hemisferio sur: la correlación inclina hacia el sur, por lo que se consulta con {}° "
                         "para que sea el mismo campo, inclinado {}° hacia el norte.",
@@ -55,20 +53,17 @@ void AnotarCampo(Estudio& estudio)
 
 void AnotarCorrelacion(Estudio& estudio)
 {
-    const Resultado& resultado = *estudio.correlacion;
-    estudio.notas.push_back(fmt::format("Correlación: febrero con {} días, por el año del reloj ({}).",
-                                        phGetNumDiasMes(estudio.iAnoReloj, kFebrero), estudio.iAnoReloj));
+    const solar::AnoEnergia& resultado = *estudio.correlacion;
     estudio.notas.emplace_back(
         "Correlación: octubre lleva la declinación del día 270 del año (27 de septiembre); de ahí que difiera "
         "de la tabla más que los otros meses.");
-    const auto sinValor = [&](std::size_t m) { return !std::isfinite(resultado.meses[m].dRI); };
+    const auto sinValor = [&](std::size_t m) { return !std::isfinite(resultado.meses[m].dPlano); };
     if (const std::string meses = NombresDeMeses(sinValor); !meses.empty())
         estudio.notas.push_back(
             fmt::format("Correlación sin valor en {}: el sol no sale o no se pone a esa latitud.", meses));
     const auto dudoso = [&](std::size_t m) {
-        const double dRI = resultado.meses[m].dRI;
-        const double dHorizontal = estudio.encargo.campo.adRadHorizontal[m] / kKJporKWh;
-        return dRI < 0.0 || dRI > std::min(kRIMaxima, kRazonMaxima * dHorizontal);
+        const auto& [dHorizontal, dPlano, dDia, dMes] = resultado.meses[m];
+        return dPlano < 0.0 || dPlano > std::min(kRIMaxima, kRazonMaxima * dHorizontal);
     };
     if (const std::string meses = NombresDeMeses(dudoso); !meses.empty()) {
         estudio.notas.push_back(
@@ -78,20 +73,20 @@ void AnotarCorrelacion(Estudio& estudio)
     }
 }
 
-void AnotarTabla(Estudio& estudio)
+void AnotarMetodos(Estudio& estudio)
 {
     const Campo& campo = estudio.encargo.campo;
-    if (!estudio.tabla) {
+    if (estudio.encargo.bTabla && !estudio.tabla)
         estudio.notas.push_back(
             fmt::format("Tabla: no llega a la latitud {}°.", DecimalExacto(campo.dLatitud)));
-        return;
-    }
-    const double dReduccion = campo.dPR * campo.dFactor;
-    std::string nota = "Tabla: no aplica ni PR ni factor, y cuenta febrero con 29 días";
-    if (dReduccion != 1.0)
-        nota += fmt::format("; por PR × factor = {} serían {} kWh al año", DecimalExacto(dReduccion),
-                            Decimal(estudio.tabla->dEnergiaAno * dReduccion, 2));
-    estudio.notas.push_back(nota + ".");
+    estudio.notas.push_back(fmt::format(
+        "Energía: RI × potencia × PR × factor, por cualquiera de los métodos; PR × factor = {}. Año "
+        "de 365 días.",
+        DecimalExacto(campo.dPR * campo.dFactor)));
+    if (estudio.tabla && estudio.correlacion)
+        estudio.notas.emplace_back(
+            "La cifra que se usa es la de la tabla, la misma de los diseños; la correlación sirve de "
+            "comparación.");
 }
 
 }  // namespace
@@ -101,20 +96,21 @@ Estudio Estudiar(Encargo encargo)
     Estudio estudio;
     if (encargo.bTabla)
         CargarTablaK(encargo.csDatos);
+    const auto calcular = [&](solar::Metodo metodo) {
+        return solar::CalcularEnergia(encargo.campo, metodo, phGetBaseFactorK());
+    };
     if (encargo.bTabla)
-        estudio.tabla = Calcular(encargo.campo, Metodo::tabla);
+        estudio.tabla = calcular(solar::Metodo::tabla);
     if (encargo.bCorrelacion)
-        estudio.correlacion = Calcular(encargo.campo, Metodo::correlacion);
+        estudio.correlacion = calcular(solar::Metodo::correlacion);
     estudio.encargo = std::move(encargo);
     if (!estudio.tabla && !estudio.correlacion)
         throw ErrorEjecucion(fmt::format("la tabla de factores K no llega a la latitud {}°",
                                          DecimalExacto(estudio.encargo.campo.dLatitud)));
-    estudio.iAnoReloj = phGetAnoActual();
     AnotarCampo(estudio);
     if (estudio.correlacion)
         AnotarCorrelacion(estudio);
-    if (estudio.encargo.bTabla)
-        AnotarTabla(estudio);
+    AnotarMetodos(estudio);
     return estudio;
 }
 

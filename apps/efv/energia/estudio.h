@@ -12,10 +12,13 @@ namespace efv::orden {
 
 struct Estudio {
     Encargo encargo;
-    std::optional<Resultado> correlacion;
-    std::optional<Resultado> tabla;
-    int iAnoReloj = 0;  ///< decides the days of February in the correlation
+    std::optional<solar::AnoEnergia> correlacion;
+    std::optional<solar::AnoEnergia> tabla;
     std::vector<std::string> notas;
+
+    /// The method whose figure counts: the one of use where it was asked for and has an answer, else the other.
+    solar::Metodo DeUso() const { return tabla ? solar::kMetodoDeUso : solar::Metodo::correlacion; }
+    const solar::AnoEnergia& AnoDeUso() const { return tabla ? *tabla : *correlacion; }
 };
 
 /// Loads the factor table when it is needed and calculates. @throws ErrorEjecucion, CException

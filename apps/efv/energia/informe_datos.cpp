@@ -12,30 +12,28 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-constexpr double kKJporKWh = 3600.0;
-
 Json Numero(double d)
 {
     return std::isfinite(d) ? Json(d) : Json();
 }
 
-Json DelMes(const std::optional<Resultado>& resultado, std::size_t iMes)
+Json DelMes(const std::optional<solar::AnoEnergia>& resultado, std::size_t iMes)
 {
     if (!resultado)
         return nullptr;
-    const MesCalculado& mes = resultado->meses[iMes];
-    return {{"ri_kWh_m2_dia", Numero(mes.dRI)},
+    const solar::MesEnergia& mes = resultado->meses[iMes];
+    return {{"ri_kWh_m2_dia", Numero(mes.dPlano)},
             {"energia_kWh_dia", Numero(mes.dEnergiaDia)},
             {"energia_kWh_mes", Numero(mes.dEnergiaMes)}};
 }
 
-Json DelAno(const std::optional<Resultado>& resultado)
+Json DelAno(const std::optional<solar::AnoEnergia>& resultado)
 {
     if (!resultado)
         return nullptr;
-    return {{"ri_media_kWh_m2_dia", Numero(resultado->RIMedia())},
+    return {{"ri_media_kWh_m2_dia", Numero(resultado->PlanoMedio())},
             {"energia_media_kWh_dia", Numero(resultado->EnergiaDiaMedia())},
-            {"energia_kWh", Numero(resultado->dEnergiaAno)}};
+            {"energia_kWh", Numero(resultado->Energia())}};
 }
 
 Json DelLugar(const std::optional<Localidad>& lugar)
@@ -48,14 +46,14 @@ Json DelLugar(const std::optional<Localidad>& lugar)
 }
 
 // The cells of one method in a line of CSV: none when it wasn't asked for, empty ones when it has no answer.
-std::string Celdas(bool bPedido, const std::optional<Resultado>& resultado, std::size_t iMes)
+std::string Celdas(bool bPedido, const std::optional<solar::AnoEnergia>& resultado, std::size_t iMes)
 {
     if (!resultado)
         return bPedido ? ";;;" : "";
     if (iMes == kMeses)
-        return fmt::format(";;;{}", DecimalExacto(resultado->dEnergiaAno));
-    const MesCalculado& mes = resultado->meses[iMes];
-    return fmt::format(";{};{};{}", DecimalExacto(mes.dRI), DecimalExacto(mes.dEnergiaDia),
+        return fmt::format(";;;{}", DecimalExacto(resultado->Energia()));
+    const solar::MesEnergia& mes = resultado->meses[iMes];
+    return fmt::format(";{};{};{}", DecimalExacto(mes.dPlano), DecimalExacto(mes.dEnergiaDia),
                        DecimalExacto(mes.dEnergiaMes));
 }
 
@@ -68,23 +66,25 @@ std::string InformeJson(const Estudio& estudio)
     for (std::size_t m = 0; m < kMeses; ++m) {
         meses.push_back({{"mes", NombreMes(m)},
                          {"radiacion_kJ_m2_dia", campo.adRadHorizontal[m]},
-                         {"radiacion_kWh_m2_dia", campo.adRadHorizontal[m] / kKJporKWh},
+                         {"radiacion_kWh_m2_dia", campo.adRadHorizontal[m] / solar::kKJporKWh},
                          {"correlacion", DelMes(estudio.correlacion, m)},
                          {"tabla", DelMes(estudio.tabla, m)}});
     }
     const Json documento{
         {"lugar", DelLugar(estudio.encargo.lugar)},
         {"latitud", campo.dLatitud},
-        {"hemisferio", campo.EsSur() ? "sur" : "norte"},
+        {"hemisferio", campo.bNorte ? "norte" : "sur"},
         {"inclinacion", campo.dInclinacion},
         {"inclinacion_correlacion", campo.InclinacionCorrelacion()},
         {"orientacion", campo.dOrientacion},
         {"potencia_kWp", campo.dPotencia},
         {"pr", campo.dPR},
         {"factor", campo.dFactor},
-        {"ano_reloj", estudio.iAnoReloj},
         {"meses", meses},
         {"ano", {{"correlacion", DelAno(estudio.correlacion)}, {"tabla", DelAno(estudio.tabla)}}},
+        {"de_uso",
+         {{"metodo", estudio.DeUso() == solar::Metodo::tabla ? "tabla" : "correlacion"},
+          {"energia_kWh", Numero(estudio.AnoDeUso().Energia())}}},
         {"notas", estudio.notas},
     };
     return documento.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
@@ -104,8 +104,8 @@ std::string InformeCsv(const Estudio& estudio)
     texto += '\n';
     for (std::size_t m = 0; m < kMeses; ++m) {
         const double dRad = estudio.encargo.campo.adRadHorizontal[m];
-        texto += fmt::format("{};{};{}{}\n", NombreMes(m), DecimalExacto(dRad), DecimalExacto(dRad / kKJporKWh),
-                             celdas(m));
+        texto += fmt::format("{};{};{}{}\n", NombreMes(m), DecimalExacto(dRad),
+                             DecimalExacto(dRad / solar::kKJporKWh), celdas(m));
     }
     return texto + "Total;;" + celdas(kMeses) + '\n';
 }

@@ -3,14 +3,11 @@
 #include <fmt/format.h>
 
 #include "comun/numeros.h"
-#include "comun/tabla_texto.h"
 #include "energia/informe.h"
 
 namespace efv::orden {
 
 namespace {
-
-constexpr double kKJporKWh = 3600.0;
 
 std::string Coordenada(double d, const char* positiva, const char* negativa)
 {
@@ -46,25 +43,28 @@ std::string Diferencia(double dTabla, double dCorrelacion)
     return Decimal((dTabla / dCorrelacion - 1.0) * 100.0, 1);
 }
 
+solar::MesEnergia DelAno(const solar::AnoEnergia& ano)
+{
+    return {ano.HorizontalMedia(), ano.PlanoMedio(), ano.EnergiaDiaMedia(), ano.Energia()};
+}
+
 // One month, or the year in `iMes` = kMeses.
 std::vector<std::string> Fila(const Estudio& estudio, std::size_t iMes)
 {
     const auto& radiaciones = estudio.encargo.campo.adRadHorizontal;
     const bool bAno = iMes == kMeses;
-    const double dRad = bAno ? MediaAnual(radiaciones) : radiaciones[iMes];
+    const double dRad = bAno ? solar::MediaAnual(radiaciones) : radiaciones[iMes];
     std::vector<std::string> fila{bAno ? "Año" : NombreMes(iMes), Decimal(dRad, 0),
-                                  Decimal(dRad / kKJporKWh, 2)};
-    const auto valores = [&](const Resultado& r) {
-        return bAno ? MesCalculado{r.RIMedia(), r.EnergiaDiaMedia(), r.dEnergiaAno} : r.meses[iMes];
-    };
-    for (const auto& resultado : {estudio.correlacion, estudio.tabla}) {
-        if (!resultado)
+                                  Decimal(dRad / solar::kKJporKWh, 2)};
+    const auto valores = [&](const solar::AnoEnergia& ano) { return bAno ? DelAno(ano) : ano.meses[iMes]; };
+    for (const auto& ano : {estudio.correlacion, estudio.tabla}) {
+        if (!ano)
             continue;
-        const MesCalculado mes = valores(*resultado);
-        AnadirValores(fila, mes.dRI, mes.dEnergiaDia, mes.dEnergiaMes);
+        const solar::MesEnergia mes = valores(*ano);
+        AnadirValores(fila, mes.dPlano, mes.dEnergiaDia, mes.dEnergiaMes);
     }
     if (estudio.correlacion && estudio.tabla)
-        fila.push_back(Diferencia(valores(*estudio.tabla).dRI, valores(*estudio.correlacion).dRI));
+        fila.push_back(Diferencia(valores(*estudio.tabla).dPlano, valores(*estudio.correlacion).dPlano));
     return fila;
 }
 
@@ -105,6 +105,9 @@ std::string InformeTexto(const Estudio& estudio)
         "el total.\n";
     if (estudio.correlacion && estudio.tabla)
         texto += "Dif. RI: lo que la RI de la tabla pasa de la de la correlación, en tanto por ciento.\n";
+    texto +=
+        fmt::format("Cifra que se usa: {} kWh al año, por la {}.\n", Decimal(estudio.AnoDeUso().Energia(), 2),
+                    estudio.tabla ? "tabla de factores K" : "correlación");
     for (const std::string& nota : estudio.notas)
         texto += "· " + nota + '\n';
     return texto;

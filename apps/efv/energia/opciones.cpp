@@ -40,10 +40,9 @@ constexpr auto kOpciones = std::to_array<OpcionNumerica>({
      ""},
     {"--potencia", "KWP", &Campo::dPotencia, 0, 1e6, true, "Potencia pico del campo en kWp; si falta, 1", ""},
     {"--pr", "FRACCION", &Campo::dPR, 0, 1, true,
-     "Rendimiento global (PR), mayor que 0 y hasta 1; si falta, 0,8. El método de la tabla no lo aplica",
-     "; es una fracción: 0,8 y no 80"},
+     "Rendimiento global (PR), mayor que 0 y hasta 1; si falta, 0,8", "; es una fracción: 0,8 y no 80"},
     {"--factor", "FRACCION", &Campo::dFactor, 0, 10, true,
-     "Otro factor sobre la energía, hasta 10; si falta, 1. El método de la tabla no lo aplica", ""},
+     "Otro factor sobre la energía, hasta 10; si falta, 1", ""},
 });
 
 constexpr const char* kAyudaRadiacion =
@@ -137,6 +136,7 @@ Encargo OpcionesEnergia::Leer() const
     LeerNumericas(encargo);
     LeerLugar(encargo);
     Campo& campo = encargo.campo;
+    campo.bNorte = campo.dLatitud >= 0.0;
     encargo.bInclinacionPropia = !m_numericas[kInclinacion];
     if (encargo.bInclinacionPropia)
         campo.dInclinacion = std::round(std::abs(campo.dLatitud));

@@ -12,7 +12,6 @@
 #include "comun/datos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
-#include "comun/tabla_texto.h"
 #include "energia/campo.h"
 
 namespace efv::orden {
@@ -20,8 +19,6 @@ namespace efv::orden {
 namespace {
 
 using Json = nlohmann::ordered_json;
-
-constexpr double kKJporKWh = 3600.0;
 
 bool Contiene(const Localidad& lugar, const CString& csPlegado)
 {
@@ -39,7 +36,8 @@ std::string ListaTexto(const std::vector<Localidad>& lugares)
     for (const Localidad& lugar : lugares)
         tabla.Fila({CadenaUtf8(lugar.csNombre), CadenaUtf8(lugar.csProvincia), CadenaUtf8(lugar.csPais),
                     Decimal(lugar.dLatitud, 2), Decimal(lugar.dLongitud, 2), Decimal(lugar.dAltitud, 0),
-                    CadenaUtf8(lugar.csZonaHE5), Decimal(MediaAnual(lugar.adRadHorizontal) / kKJporKWh, 2)});
+                    CadenaUtf8(lugar.csZonaHE5),
+                    Decimal(solar::MediaAnual(lugar.adRadHorizontal) / solar::kKJporKWh, 2)});
     return tabla.Texto() +
            "\nNorte y este positivos. kWh/m²·día: radiación global sobre la horizontal, media del año.\n";
 }

@@ -1,70 +1,36 @@
-// The equipment of a design with the figures of its catalogue models.
+// The equipment of the project's designs, from the module's catalogues.
 #pragma once
-
-#include <vector>
 
 #include <QuorvelEFV.h>
 
 namespace efv::estudio {
 
-/// What a design says of a model: the figures are 0 when the catalogue doesn't have it.
-struct Equipo {
-    CString csModelo;  ///< name without its family; empty when none was chosen
-    CString csFamilia;
-    bool bHallado = false;
-};
+using report::BancoAcumuladores;
+using report::CampoPaneles;
+using report::Equipo;
+using report::GrupoInversores;
+using report::HayDiseno;
+using Carga = report::CargaDiseno;
 
-struct CampoPaneles : Equipo {
-    int iSerie = 0, iParalelo = 0;                             ///< panels a string, strings
-    double dPmpm = 0.0, dVmpm = 0.0, dImpm = 0.0, dVoc = 0.0;  ///< of a panel: W, V, A, V
+/// The module's catalogues.
+report::Catalogos CatalogosDelModulo();
 
-    long long Paneles() const { return static_cast<long long>(iSerie) * iParalelo; }
-    double Potencia() const { return static_cast<double>(Paneles()) * dPmpm; }  ///< Wp
-    double Tension() const { return iSerie * dVmpm; }                           ///< V
-    double TensionVacio() const { return iSerie * dVoc; }                       ///< V
-    double Corriente() const { return iParalelo * dImpm; }                      ///< A
-};
-
-struct BancoAcumuladores : Equipo {
-    int iSerie = 0, iParalelo = 0;
-    double dVnom = 0.0;       ///< of a battery, V
-    double dCapacidad = 0.0;  ///< of a battery, the greatest of its rated ones, Ah
-    CString csRegimen;        ///< at which it has that one: "C100"
-
-    long long Acumuladores() const { return static_cast<long long>(iSerie) * iParalelo; }
-    double Tension() const { return iSerie * dVnom; }            ///< V
-    double Capacidad() const { return iParalelo * dCapacidad; }  ///< Ah
-    double Energia() const { return Tension() * Capacidad(); }   ///< Wh
-};
-
-struct GrupoInversores : Equipo {
-    int iCuantos = 0;
-    double dPCANom = 0.0, dVCANom = 0.0;    ///< of one, W and V
-    double dVMPPMin = 0.0, dVMPPMax = 0.0;  ///< V
-    int iNumMPPT = 0, iNumEntradas = 0;
-    int iTipoSalida = 0;  ///< 0 single-phase, 1 three-phase
-
-    double Potencia() const { return iCuantos * dPCANom; }  ///< W
-};
-
-/// A load of the stand-alone design.
-struct Carga : Equipo {
-    double dCantidad = 0.0, dHorasDia = 0.0;
-    double dPotencia = 0.0;  ///< of one, W
-    bool bAlterna = false;
-
-    double Potencia() const { return dCantidad * dPotencia; }  ///< W
-    double Energia() const { return Potencia() * dHorasDia; }  ///< Wh a day
-};
-
-CampoPaneles PanelesDe(const CSFVAsistenteAislada& diseno);
-CampoPaneles PanelesDe(const CSFVAsistenteRed& diseno);  ///< of one inverter
-BancoAcumuladores AcumuladoresDe(const CSFVAsistenteAislada& diseno);
-GrupoInversores InversoresDe(const CSFVAsistenteRed& diseno);
-std::vector<Carga> CargasDe(const CSFVAsistenteAislada& diseno);
-
-/// Whether the assistant has been accepted: a fresh record has no such counts, or no inverter.
-bool HayDiseno(const CSFVAsistenteAislada& diseno);
-bool HayDiseno(const CSFVAsistenteRed& diseno);
+template <class DISENO>
+CampoPaneles PanelesDe(const DISENO& diseno)
+{
+    return report::PanelesDe(diseno, CatalogosDelModulo());
+}
+inline BancoAcumuladores AcumuladoresDe(const CSFVAsistenteAislada& diseno)
+{
+    return report::AcumuladoresDe(diseno, CatalogosDelModulo());
+}
+inline GrupoInversores InversoresDe(const CSFVAsistenteRed& diseno)
+{
+    return report::InversoresDe(diseno, CatalogosDelModulo());
+}
+inline std::vector<Carga> CargasDe(const CSFVAsistenteAislada& diseno)
+{
+    return report::CargasDe(diseno, CatalogosDelModulo());
+}
 
 }  // namespace efv::estudio

@@ -1,16 +1,20 @@
 #include "energia/panel_energia.h"
 
+#include <algorithm>
+
 #include "comun/numeros.h"
 
 namespace efv::estudio {
 
 namespace {
 
-constexpr double kKJporKWh = 3600.0;
-constexpr int kDiasAno = 365;
-constexpr int kAnoComun = 2018;  // any of 365 days
+constexpr std::array kMetodos = {solar::Metodo::correlacion, solar::Metodo::tabla};
 constexpr std::array<ui::Color, 2> kColores = {0xC0702F, 0x2F90E0};
-constexpr std::wstring_view kNotaTabla = L"La tabla de factores K no aplica el PR.";
+constexpr std::wstring_view kNota =
+    L"Los dos métodos llevan el PR y un año de 365 días.\nLa cifra que se usa es la de la tabla K, la de los "
+    L"diseños.";
+constexpr std::wstring_view kNotaSinTabla =
+    L"La tabla de factores K no llega a esta latitud: se usa la correlación.";
 
 class FilasEnergia final : public ui::ModeloFilas {
 public:
@@ -84,40 +88,45 @@ void PanelEnergia::Poner(const Lugar& otro)
 void PanelEnergia::AlCambiar()
 {
     const auto rechazo = Recoger();
-    m_nota->csTexto = rechazo ? rechazo->csTexto : CString(kNotaTabla);
     m_nota->color = rechazo ? ui::kRojo : ui::kNegro;
-    if (!rechazo) {
-        Calcular();
-        Mostrar();
+    if (rechazo) {
+        m_nota->csTexto = rechazo->csTexto;
+        return;
     }
+    m_nota->csTexto = Calcular() ? kNota : kNotaSinTabla;
+    Mostrar();
 }
 
-void PanelEnergia::Calcular()
+bool PanelEnergia::Calcular()
 {
+    solar::CampoSolar campo{.dLatitud = m_lugar.dLatitud,
+                            .bNorte = m_lugar.iHemisferio == 1,
+                            .dInclinacion = m_dInclinacion,
+                            .dPotencia = m_dPotencia,
+                            .dPR = m_dPR};
+    std::ranges::copy(m_lugar.adRadHorizontal, campo.adRadHorizontal.begin());
     m_filas->assign(kMeses + 1, {});
-    FilaEnergia& ano = m_filas->back();
-    ano.csNombre = L"Año";
-    ano.adRI = ano.adEnergia = {0.0, 0.0};
-    for (std::size_t m = 0; m < kMeses; ++m) {
-        FilaEnergia& fila = (*m_filas)[m];
-        const int iMes = static_cast<int>(m);
-        phGetNombreMes(iMes, fila.csNombre);
-        fila.dHorizontal = m_lugar.adRadHorizontal[m] / kKJporKWh;
-        const double dParte = static_cast<double>(phGetNumDiasMes(kAnoComun, iMes)) / kDiasAno;
-        ano.dHorizontal += dParte * fila.dHorizontal;
-        for (int iMetodo = 0; iMetodo < 2; ++iMetodo) {
-            const auto i = static_cast<std::size_t>(iMetodo);
-            // The correlation tilts toward the south whatever the latitude.
-            const double dInclinacion =
-                iMetodo == 0 && m_lugar.dLatitud < 0.0 ? -m_dInclinacion : m_dInclinacion;
-            phGetRI_kWh_m2_dia(fila.adRI[i], iMetodo, iMes, m_lugar.dLatitud, m_lugar.iHemisferio,
-                               m_lugar.adRadHorizontal[m], dInclinacion, 0.0, m_dPR, 1.0);
-            phGetEIR_kWh_mes(fila.adEnergia[i], iMetodo, iMes, m_lugar.dLatitud, m_lugar.iHemisferio,
-                             m_lugar.adRadHorizontal[m], dInclinacion, 0.0, m_dPotencia, m_dPR, 1.0);
-            ano.adRI[i] += dParte * fila.adRI[i];
-            ano.adEnergia[i] += fila.adEnergia[i];
+    bool bTodos = true;
+    for (std::size_t i = 0; i < kMetodos.size(); ++i) {
+        const auto ano = solar::CalcularEnergia(campo, kMetodos[i], phGetBaseFactorK());
+        bTodos = bTodos && ano.has_value();
+        for (std::size_t m = 0; ano && m < kMeses; ++m) {
+            FilaEnergia& fila = (*m_filas)[m];
+            fila.dHorizontal = ano->meses[m].dHorizontal;
+            fila.adRI[i] = ano->meses[m].dPlano;
+            fila.adEnergia[i] = ano->meses[m].dEnergiaMes;
+        }
+        if (ano) {
+            FilaEnergia& total = m_filas->back();
+            total.dHorizontal = ano->HorizontalMedia();
+            total.adRI[i] = ano->PlanoMedio();
+            total.adEnergia[i] = ano->Energia();
         }
     }
+    for (std::size_t m = 0; m < kMeses; ++m)
+        phGetNombreMes(static_cast<int>(m), (*m_filas)[m].csNombre);
+    m_filas->back().csNombre = L"Año";
+    return bTodos;
 }
 
 void PanelEnergia::Mostrar()

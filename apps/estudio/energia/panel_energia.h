@@ -1,15 +1,17 @@
-// Energy of a field at the project's place, month by month, by both methods of the library.
+// Energy of a field at the project's place, month by month, by both methods.
 #pragma once
 
 #include <array>
 #include <limits>
 #include <vector>
 
+#include <quorvel/solar/energia.h>
+
 #include "proyecto/proyecto.h"
 
 namespace efv::estudio {
 
-inline constexpr std::size_t kMeses = 12;
+using solar::kMeses;
 
 /// One month, or the year. What a method has no answer for is not-a-number.
 struct FilaEnergia {
@@ -31,7 +33,8 @@ public:
 
 private:
     void AlCambiar();
-    void Calcular();
+    /// @return whether all methods reach the place
+    bool Calcular();
     void Mostrar();
 
     Lugar m_lugar;

@@ -3,11 +3,12 @@
 #include <algorithm>
 #include <iterator>
 
+#include <quorvel/solar/energia.h>
+
 namespace efv::estudio {
 
 namespace {
 
-constexpr double kRadiacionMaxima = 100000.0;  // kJ/m²·day, more than falls outside the atmosphere
 constexpr std::wstring_view kGrupoRadiacion = L"Radiación horizontal (kJ/m²·día)";
 constexpr std::wstring_view kGrupoLugar = L"Lugar";
 
@@ -78,7 +79,7 @@ void PanelLugar::AnadirRadiaciones()
         edicion.lugar.grupo = kGrupoRadiacion;
         edicion.lugar.iColumna = m < std::size(m_lugar.adRadHorizontal) / 2 ? 0 : 1;
         edicion.destino = &m_lugar.adRadHorizontal[m];
-        edicion.limites = ui::Intervalo{0.0, kRadiacionMaxima};
+        edicion.limites = ui::Intervalo{0.0, solar::kRadiacionMaxima};
         edicion.iDecimales = 1;
         edicion.alCambiar = [this] { AlCambiar(); };
         m_figuras.push_back(&edicion);

@@ -21,6 +21,12 @@ using DoceMeses = std::array<double, kMeses>;
 
 inline constexpr double kKJporKWh = 3600.0;
 
+/// No plane on Earth gets more on the mean of a month than the poles at midsummer outside the air, 45 MJ;
+/// kJ/m²·day.
+inline constexpr double kRadiacionMaxima = 50000.0;
+/// Below this the year's best month can only have been given in another unit; kJ/m²·day.
+inline constexpr double kRadiacionSospechosa = 100.0;
+
 /// Days of the months in a year of 365.
 inline constexpr std::array<int, kMeses> kDiasMesReferencia = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
 

@@ -148,6 +148,31 @@ TEST_F(Diseno, LaCubiertaDaLasCuentasAMano)
     EXPECT_NEAR(json["meses"][5]["producida_kWh"].get<double>(), 837.633, 1e-3);
 }
 
+// One field has one energy, whichever command tells it.
+TEST_F(Diseno, LaEnergiaEsLaDeEfvEnergia)
+{
+    const auto energia = [](const Json& diseno, const std::string& lugar, const std::string& pr) {
+        const Json& v = diseno["valores"];
+        const double dPotencia = v.contains("dPotenciaTotal") ? v["dPotenciaTotal"].get<double>()
+                                                              : v["dPotenciaInstalada"].get<double>() / 1000;
+        const Corrida corrida =
+            Correr({"energia", "--json", "--lugar", lugar, "--inclinacion", v["dInclinacion"].dump(),
+                    "--potencia", Json(dPotencia).dump(), "--pr", pr});
+        EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
+        return Json::parse(corrida.salida);
+    };
+    const Json red = Calcular("red", Cubierta()), casa = Calcular("aislada", Casa());
+    // 0.90 · 0.94 · 0.80, the losses of the house.
+    for (const auto& [diseno, otro] :
+         {std::pair(red, energia(red, "Sevilla", "0.8")), {casa, energia(casa, "Cuenca", "0.6768")}}) {
+        for (std::size_t m = 0; m < 12; ++m) {
+            const Json &uno = diseno["meses"][m], &dos = otro["meses"][m]["tabla"];
+            EXPECT_EQ(uno["plano_kWh_m2_dia"], dos["ri_kWh_m2_dia"]) << m;
+            EXPECT_NEAR(uno["producida_kWh"].get<double>(), dos["energia_kWh_mes"].get<double>(), 1e-9) << m;
+        }
+    }
+}
+
 // What the archive holds, read by the scripted host, is a project again, and the same design.
 TEST_F(Diseno, ElArchivoGuardadoEsElRegistro)
 {
@@ -354,6 +379,19 @@ TEST_F(Diseno, EnElTerminalLoQueEstaEnVigorVaJuntoALaPropuesta)
     // Data sheets are for the page; a line of the terminal holds no control character of a file.
     EXPECT_EQ(cubierta.find("Datos de los modelos"), std::string::npos);
     EXPECT_EQ(Disenar("red", Cubierta({{"titulo", "a\x1b[31m\nb"}})).salida.find('\x1b'), std::string::npos);
+}
+
+// 3515 / 0.6768 = 5193.56 needed; the coupling leaves 80 % of it, 4154.85; the wiring 94 % of that, 3905.56; the
+// batteries 90 % of that, 3515.
+TEST_F(Diseno, LoNecesarioEsLoDeLosReceptoresMasLasPerdidasQueSeEscriben)
+{
+    static_assert(3515 + 391 + 249 + 1039 == 5194);
+    const std::string casa = SinHuecos(Disenar("aislada", Casa()).salida);
+    for (const char* linea :
+         {"\n Total 4770,00 3515,00\n", "\n Energía diaria de los receptores 3515 Wh/día\n",
+          "\n Pérdidas en el acumulador 10,00 %, 391 Wh/día\n", "\n Pérdidas en el cableado 6,00 %, 249 Wh/día\n",
+          "\n Pérdidas por acoplamiento 20,00 %, 1039 Wh/día\n", "\n Energía necesaria 5194 Wh/día\n"})
+        EXPECT_NE(casa.find(linea), std::string::npos) << linea;
 }
 
 TEST_F(Diseno, LasCantidadesMuyElevadasSePreguntanDesdeSuLimite)

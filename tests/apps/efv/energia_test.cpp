@@ -66,24 +66,32 @@ const char* const kSur = "25200,22300,18000,12600,8600,6800,7600,10400,14000,187
 const std::vector<std::string> kCampo = {"--lat", "40.4",       "--radiacion", kNorte,     "--inclinacion",
                                          "35",    "--potencia", "5",           "--factor", "0,9"};
 
-// Expected values of the correlation: a Python script of the published method, sunset angles by arccosine.
-TEST_F(Energia, LaCorrelacionDaLoDelMetodoYFebreroSigueAlReloj)
+// Expected values of the correlation: a Python script of the published method, sunset angles by arccosine, for
+// a year of 365 days; the clock's is one of 366.
+TEST_F(Energia, LaCorrelacionDaLoDelMetodoEnUnAnoDe365Dias)
 {
-    const Json bisiesto = Calcular(kCampo);
-    EXPECT_NEAR(bisiesto["meses"][0]["correlacion"]["ri_kWh_m2_dia"].get<double>(), 3.464593662209625, 1e-9);
-    EXPECT_NEAR(bisiesto["meses"][9]["correlacion"]["ri_kWh_m2_dia"].get<double>(), 3.8232280882574825, 1e-9);
-    EXPECT_NEAR(bisiesto["ano"]["correlacion"]["energia_kWh"].get<double>(), 6472.495090548067, 1e-6);
-    EXPECT_EQ(bisiesto["ano_reloj"], 2028);
-    Entorno("EFV_AHORA", "2027-02-01");
-    EXPECT_NEAR(Calcular(kCampo)["ano"]["correlacion"]["energia_kWh"].get<double>(), 6457.640007268944, 1e-6);
+    const Json json = Calcular(kCampo);
+    EXPECT_NEAR(json["meses"][0]["correlacion"]["ri_kWh_m2_dia"].get<double>(), 3.464593662209625, 1e-9);
+    EXPECT_NEAR(json["meses"][9]["correlacion"]["ri_kWh_m2_dia"].get<double>(), 3.8232280882574825, 1e-9);
+    EXPECT_NEAR(json["ano"]["correlacion"]["energia_kWh"].get<double>(), 6457.640007268944, 1e-6);
 }
 
-TEST_F(Energia, LaTablaNoAplicaPRNiFactor)
+// Factor at 40.4 between 1.2 and 1.4: 1.28. 10100 × 1.28 / 3600 = 3.591111; × 5 × 0.8 × 0.9 × 28 = 361.984.
+TEST_F(Energia, LosDosMetodosLlevanPRFactorYLosMismosDias)
 {
-    const Json tabla = Calcular(kCampo)["meses"][1]["tabla"];
-    // Factor at 40.4 between 1.2 and 1.4: 1.28. 10100 × 1.28 / 3600; 10100 × 5 × 1.28 × 0.000278 × 29.
+    const Json json = Calcular(kCampo);
+    const Json tabla = json["meses"][1]["tabla"];
     EXPECT_NEAR(tabla["ri_kWh_m2_dia"].get<double>(), 3.591111111111111, 1e-12);
-    EXPECT_NEAR(tabla["energia_kWh_mes"].get<double>(), 521.127, 0.001);
+    EXPECT_NEAR(tabla["energia_kWh_mes"].get<double>(), 361.984, 1e-9);
+    for (const char* metodo : {"correlacion", "tabla"}) {
+        const Json ano = json["ano"][metodo];
+        EXPECT_NEAR(ano["energia_kWh"].get<double>(),
+                    ano["ri_media_kWh_m2_dia"].get<double>() * 5 * 0.8 * 0.9 * 365, 1e-9);
+    }
+    EXPECT_EQ(json["de_uso"]["metodo"], "tabla");
+    EXPECT_EQ(json["de_uso"]["energia_kWh"], json["ano"]["tabla"]["energia_kWh"]);
+    const Json correlacion = Calcular(Mas(kCampo, {"--metodo", "correlacion"}));
+    EXPECT_EQ(correlacion["de_uso"]["energia_kWh"], json["ano"]["correlacion"]["energia_kWh"]);
     EXPECT_EQ(Calcular(Mas(kCampo, {"--metodo", "tabla"}))["meses"][1]["correlacion"], nullptr);
 }
 

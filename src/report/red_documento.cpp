@@ -1,11 +1,12 @@
 // A grid-connected design as an engineer lays it out.
 #include <fmt/format.h>
 
-#include "comun/numeros.h"
-#include "diseno/red.h"
-#include "diseno/salida.h"
+#include <quorvel/report/disenos.h>
+#include <quorvel/report/texto.h>
 
-namespace efv::orden {
+#include "report/secciones.h"
+
+namespace efv::report {
 
 namespace {
 
@@ -110,7 +111,7 @@ std::vector<Dato> Resumen(const EstudioRed& estudio)
          fmt::format("{} ({} × {} por inversor)", v.iTotalPaneles, v.iPanelesSerie, v.iPanelesParalelo)},
         {"Inclinación", Con(v.dInclinacion, 1, "°")}};
     if (estudio.ano)
-        resumen.emplace_back("Energía del año", Con(TotalProducido(*estudio.ano), 0, "kWh"));
+        resumen.emplace_back("Energía del año", Con(estudio.ano->Energia(), 0, "kWh"));
     return resumen;
 }
 
@@ -152,9 +153,11 @@ Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estud
     documento.secciones = {SeccionLugar(proyecto.lugar), SeccionEquipos(v), SeccionCampo(v),
                            SeccionGeometria(v), SeccionComprobacion(proyecto, estudio.comprobacion)};
     if (estudio.ano)
-        documento.secciones.push_back(SeccionMeses(*estudio.ano));
+        documento.secciones.push_back(SeccionMeses(*estudio.ano, nullptr));
+    documento.secciones.push_back(SeccionModelos(
+        {{"Inversor", "inversores", proyecto.inversor}, {"Panel fotovoltaico", "modulos", proyecto.panel}}));
     documento.supuestos = Supuestos(proyecto, estudio.ano.has_value());
     return documento;
 }
 
-}  // namespace efv::orden
+}  // namespace efv::report

@@ -1,11 +1,12 @@
 // What a person must look at in a grid-connected design.
 #include <fmt/format.h>
 
-#include "comun/numeros.h"
-#include "diseno/red.h"
-#include "diseno/salida.h"
+#include <quorvel/report/disenos.h>
+#include <quorvel/report/texto.h>
 
-namespace efv::orden {
+#include "report/secciones.h"
+
+namespace efv::report {
 
 namespace {
 
@@ -108,13 +109,13 @@ private:
 
     void DeEnergia()
     {
-        const LugarProyecto& lugar = m_proyecto.lugar;
+        const LugarDiseno& lugar = m_proyecto.lugar;
         if (!lugar.adRadiacion)
             Nota("Sin radiaciones del lugar no se calcula la energía mensual.");
         else
-            AvisarDelPlano(lugar, m_estudio.v.dInclinacion, m_avisos);
-        if (m_proyecto.fijados.contains("iTipoSalida"))
-            Nota("«iTipoSalida» se toma siempre del inversor: el valor del fichero no cuenta.");
+            AvisarDelPlano(lugar, m_estudio.bPlano, m_estudio.v.dInclinacion, m_avisos);
+        for (const std::string& nota : m_proyecto.notas)
+            Nota(nota);
     }
 
     const ProyectoRed& m_proyecto;
@@ -129,4 +130,4 @@ std::vector<Aviso> Avisos(const ProyectoRed& proyecto, const EstudioRed& estudio
     return Avisador(proyecto, estudio).Avisar();
 }
 
-}  // namespace efv::orden
+}  // namespace efv::report

@@ -1,10 +1,11 @@
+#include <algorithm>
+
 #include <fmt/format.h>
 
-#include "comun/numeros.h"
-#include "comun/tabla_texto.h"
-#include "diseno/documento.h"
+#include <quorvel/report/documento.h>
+#include <quorvel/report/texto.h>
 
-namespace efv::orden {
+namespace efv::report {
 
 namespace {
 
@@ -95,4 +96,4 @@ std::string DocumentoTexto(const Documento& documento)
     return texto;
 }
 
-}  // namespace efv::orden
+}  // namespace efv::report

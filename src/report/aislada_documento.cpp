@@ -1,28 +1,20 @@
 // A stand-alone design as an engineer lays it out.
-#include <array>
+#include <cmath>
 
 #include <fmt/format.h>
 
-#include <quorvel/solar.h>
+#include <quorvel/report/disenos.h>
+#include <quorvel/report/texto.h>
 
-#include "comun/numeros.h"
-#include "diseno/aislada.h"
-#include "diseno/salida.h"
+#include "report/secciones.h"
 
-namespace efv::orden {
+namespace efv::report {
 
 namespace {
 
 using V = assistants::ValoresAislada;
 
 constexpr double kTolerancia = 1e-6;
-
-std::string NombreMesCalculo(int iMes)
-{
-    CString csNombre;
-    phGetNombreMes(iMes, csNombre);
-    return CadenaUtf8(csNombre);
-}
 
 Seccion SeccionReceptores(const ProyectoAislada& proyecto)
 {
@@ -45,19 +37,37 @@ Seccion SeccionReceptores(const ProyectoAislada& proyecto)
     return seccion;
 }
 
+// What is lost on the way from the panels to the loads, one loss after another, in whole Wh a day that add up
+// to what is printed of both ends.
+struct Balance {
+    double dReceptores, dAcumulador, dCableado, dAcoplamiento, dNecesaria;
+
+    explicit Balance(const V& v)
+    {
+        const double dTrasAcoplar = v.dEnergiaNecesaria * (100 - v.dPerdidaAcoplamiento) / 100;
+        const double dTrasCablear = dTrasAcoplar * (100 - v.dPerdidaCableado) / 100;
+        dNecesaria = std::nearbyint(v.dEnergiaNecesaria);
+        dReceptores = std::nearbyint(v.dEnergiaDiaria);
+        dAcoplamiento = dNecesaria - std::nearbyint(dTrasAcoplar);
+        dCableado = std::nearbyint(dTrasAcoplar) - std::nearbyint(dTrasCablear);
+        dAcumulador = std::nearbyint(dTrasCablear) - dReceptores;
+    }
+};
+
 Seccion SeccionEnergia(const V& v)
 {
     Seccion seccion("Balance de energía");
+    const Balance balance(v);
     const auto perdida = [](double dPorcentaje, double dEnergia) {
         return fmt::format("{} %, {}", Decimal(dPorcentaje, 2), Con(dEnergia, 0, "Wh/día"));
     };
     seccion.datos = {
-        {"Energía diaria de los receptores", Con(v.dEnergiaDiaria, 0, "Wh/día")},
-        {"Pérdidas en el acumulador", perdida(v.dPerdidaAcumulador, v.dEnergiaAcumulador)},
-        {"Pérdidas en el cableado", perdida(v.dPerdidaCableado, v.dEnergiaCableado)},
-        {"Pérdidas por acoplamiento", perdida(v.dPerdidaAcoplamiento, v.dEnergiaAcoplamiento)},
-        {"Energía necesaria", Con(v.dEnergiaNecesaria, 0, "Wh/día")},
-        {"Mes a considerar en el cálculo", NombreMesCalculo(v.iMesCalculo)},
+        {"Energía diaria de los receptores", Con(balance.dReceptores, 0, "Wh/día")},
+        {"Pérdidas en el acumulador", perdida(v.dPerdidaAcumulador, balance.dAcumulador)},
+        {"Pérdidas en el cableado", perdida(v.dPerdidaCableado, balance.dCableado)},
+        {"Pérdidas por acoplamiento", perdida(v.dPerdidaAcoplamiento, balance.dAcoplamiento)},
+        {"Energía necesaria", Con(balance.dNecesaria, 0, "Wh/día")},
+        {"Mes a considerar en el cálculo", NombreMes(v.iMesCalculo)},
         {"Mes de referencia para el dimensionado", CadenaUtf8(v.csMesReferencia)},
         DatoDoble("Hora solar pico (H.S.P.)", v.dHSP, v.dHSPP, 2, "kWh/m²·día"),
     };
@@ -167,10 +177,16 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
     documento.proyecto = proyecto.titulo;
     documento.resumen = Resumen(v);
     documento.avisos = std::move(avisos);
-    documento.secciones = {
-        SeccionLugar(proyecto.lugar), SeccionReceptores(proyecto), SeccionEnergia(v),
-        SeccionAcumuladores(v),       SeccionPaneles(v),           SeccionRegulador(proyecto, v),
-        SeccionGeometria(v),          SeccionMeses(estudio.ano)};
+    documento.secciones = {SeccionLugar(proyecto.lugar),
+                           SeccionReceptores(proyecto),
+                           SeccionEnergia(v),
+                           SeccionAcumuladores(v),
+                           SeccionPaneles(v),
+                           SeccionRegulador(proyecto, v),
+                           SeccionGeometria(v),
+                           SeccionMeses(estudio.ano, &estudio.adNecesaria),
+                           SeccionModelos({{"Acumulador", "acumuladores", proyecto.acumulador},
+                                           {"Panel fotovoltaico", "modulos", proyecto.panel}})};
     documento.supuestos.emplace_back(
         "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.");
     documento.supuestos.emplace_back(
@@ -183,6 +199,9 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
         "La radiación sobre el plano es la horizontal por el factor K de la tabla, para un campo orientado al "
         "ecuador: la orientación no entra en ninguna fórmula.");
     documento.supuestos.emplace_back(
+        "Cada pérdida es el tanto por ciento de lo que llega hasta ella: primero el acoplamiento, después el "
+        "cableado y el acumulador. Energía necesaria = receptores + pérdidas.");
+    documento.supuestos.emplace_back(
         "Energía producida de un mes: potencia instalada × horas de sol pico × (1 − pérdidas) × días. La que "
         "sobra en un mes no pasa al siguiente.");
     documento.supuestos.emplace_back(
@@ -190,4 +209,4 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
     return documento;
 }
 
-}  // namespace efv::orden
+}  // namespace efv::report

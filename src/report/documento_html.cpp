@@ -1,9 +1,11 @@
+#include <algorithm>
+
 #include <fmt/format.h>
 
-#include "comun/numeros.h"
-#include "diseno/documento.h"
+#include <quorvel/framework/CString.h>
+#include <quorvel/report/documento.h>
 
-namespace efv::orden {
+namespace efv::report {
 
 namespace {
 
@@ -216,4 +218,4 @@ std::string DocumentoHtml(const Documento& documento, const std::string& fecha)
     return html + "<footer>QuorvelEFV</footer>\n</body>\n</html>\n";
 }
 
-}  // namespace efv::orden
+}  // namespace efv::report

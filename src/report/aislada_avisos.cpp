@@ -1,13 +1,15 @@
 // What a person must look at in a stand-alone design.
-#include <cmath>
+#include <algorithm>
 
 #include <fmt/format.h>
 
-#include "comun/numeros.h"
-#include "diseno/aislada.h"
-#include "diseno/salida.h"
+#include <quorvel/report/disenos.h>
+#include <quorvel/report/texto.h>
 
-namespace efv::orden {
+#include "report/receptores.h"
+#include "report/secciones.h"
+
+namespace efv::report {
 
 namespace {
 
@@ -19,7 +21,7 @@ constexpr int kMuchosRamalesPaneles = 100, kMuchosRamalesAcumuladores = 25, kMuc
 class Avisador {
 public:
     Avisador(const ProyectoAislada& proyecto, const EstudioAislada& estudio)
-        : m_proyecto(proyecto), m_v(estudio.v), m_ano(estudio.ano)
+        : m_proyecto(proyecto), m_estudio(estudio), m_v(estudio.v)
     {
     }
 
@@ -33,7 +35,8 @@ public:
                       m_avisos);
         DeCantidades();
         DeReceptores();
-        DeCampos();
+        for (const std::string& nota : m_proyecto.notas)
+            Nota(nota);
         return std::move(m_avisos);
     }
 
@@ -58,7 +61,7 @@ private:
                     fmt::format("Capacidad Resultante, {}, inferior a la necesaria, {}.",
                                 Con(v.dCapacidadResultante, 1, "Ah"), Con(v.dCapacidadNecesaria, 1, "Ah")));
         }
-        AvisarDelPlano(m_proyecto.lugar, v.dInclinacion, m_avisos);
+        AvisarDelPlano(m_proyecto.lugar, m_estudio.bPlano, v.dInclinacion, m_avisos);
         FaltaSi(v.dHSP <= kTolerancia,
                 "Sin horas de sol pico en el mes de referencia no hay potencia necesaria "
                 "que calcular.");
@@ -66,9 +69,9 @@ private:
                 fmt::format("Potencia instalada, {}, inferior a la mínima necesaria, {}.",
                             Con(v.dPotenciaInstalada, 0, "Wp"), Con(v.dPotenciaMinima, 0, "Wp")));
         std::string meses;
-        for (std::size_t m = 0; m < kMeses; ++m)
-            if (m_ano[m].dProducida + kTolerancia < m_ano[m].dNecesaria.value_or(0.0))
-                meses += (meses.empty() ? "" : ", ") + NombreMes(m);
+        for (std::size_t m = 0; m < solar::kMeses; ++m)
+            if (m_estudio.ano.meses[m].dEnergiaMes + kTolerancia < m_estudio.adNecesaria[m])
+                meses += (meses.empty() ? "" : ", ") + NombreMes(static_cast<int>(m));
         FaltaSi(!meses.empty(), "La energía producida no alcanza la necesaria en " + meses + ".");
     }
 
@@ -147,18 +150,9 @@ private:
         }
     }
 
-    void DeCampos()
-    {
-        for (const std::string& nota : m_proyecto.notas)
-            Nota(nota);
-        for (const char* campo : {"iAcumuladoresSerie", "dPotenciaMaxFV", "dKaAjustado", "dR"})
-            if (m_proyecto.fijados.contains(campo))
-                Nota(fmt::format("«{}» se calcula siempre: el valor del fichero no cuenta.", campo));
-    }
-
     const ProyectoAislada& m_proyecto;
+    const EstudioAislada& m_estudio;
     const assistants::ValoresAislada& m_v;
-    const AnoDiseno& m_ano;
     std::vector<Aviso> m_avisos;
 };
 
@@ -169,4 +163,4 @@ std::vector<Aviso> Avisos(const ProyectoAislada& proyecto, const EstudioAislada&
     return Avisador(proyecto, estudio).Avisar();
 }
 
-}  // namespace efv::orden
+}  // namespace efv::report

@@ -1,10 +1,8 @@
-#include "comun/tabla_texto.h"
-
 #include <algorithm>
 
-#include "comun/numeros.h"
+#include <quorvel/report/texto.h>
 
-namespace efv::orden {
+namespace efv::report {
 
 namespace {
 
@@ -60,4 +58,4 @@ std::string TablaTexto::Texto() const
     return texto;
 }
 
-}  // namespace efv::orden
+}  // namespace efv::report

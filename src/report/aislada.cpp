@@ -1,0 +1,80 @@
+// A stand-alone design, calculated.
+#include <vector>
+
+#include <quorvel/report/disenos.h>
+
+#include "assistants/cargas_aislada.h"
+#include "report/campos.h"
+#include "report/receptores.h"
+#include "solar/calendario.h"
+
+namespace efv::report {
+
+double HorasDeCalculo(CSFVDataReceptor& receptor)
+{
+    return receptor.GetNHdia(0, 0);
+}
+
+solar::DoceMeses EnergiaNecesaria(const CObArrayPropio<CSFVDataReceptor>& receptores)
+{
+    constexpr double kWhPorKWh = 1000.0;
+    solar::DoceMeses adEnergia{};
+    for (std::size_t m = 0; m < solar::kMeses; ++m) {
+        const int iMes = static_cast<int>(m);
+        for (int d = 0; d < solar::kDiasMesReferencia[m]; ++d)
+            for (const auto& receptor : receptores)
+                adEnergia[m] +=
+                    receptor->GetPcc() * receptor->GetNHdia(iMes, solar::TipoDiaReferencia(iMes, d));
+        adEnergia[m] /= kWhPorKWh;
+    }
+    return adEnergia;
+}
+
+ProyectoAislada ProyectoDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos)
+{
+    ProyectoAislada proyecto;
+    proyecto.registro = diseno;
+    proyecto.fijados = CamposFijos(proyecto.registro);
+    proyecto.receptores = assistants::LeerCargas(diseno, catalogos.receptores);
+    proyecto.acumulador = catalogos.acumuladores.BuscarModelo(diseno.csAcumulador);
+    proyecto.panel = catalogos.paneles.BuscarModelo(diseno.csPanel);
+    return proyecto;
+}
+
+EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& tabla)
+{
+    EstudioAislada estudio;
+    assistants::ValoresAislada& v = estudio.v;
+    assistants::TomarDelRegistro(v, proyecto.registro);
+    v.dLatitud = proyecto.lugar.dLatitud;
+    v.iHemisferio = proyecto.lugar.Hemisferio();
+    v.adRadiacion = proyecto.lugar.adRadiacion.value_or(solar::DoceMeses{});
+
+    estudio.adNecesaria = EnergiaNecesaria(proyecto.receptores);
+    std::vector<assistants::Carga> cargas;
+    for (const auto& receptor : proyecto.receptores)
+        cargas.push_back({receptor->iCantidad, receptor->dPotencia, HorasDeCalculo(*receptor)});
+    const auto factores = [&](double dLatitud, int iHemisferio, double dAlpha) {
+        return solar::FactoresK(tabla, dLatitud, iHemisferio, dAlpha);
+    };
+    const assistants::EntradaAislada entrada = {
+        .acumulador = proyecto.acumulador, .panel = proyecto.panel, .cargas = cargas, .factoresK = factores};
+    assistants::Recalcular(v, entrada, true);
+    CopiarCampos(proyecto.registro, v, proyecto.fijados);
+    assistants::Recalcular(v, entrada, false);
+
+    const auto adK = factores(v.dLatitud, v.iHemisferio, v.dInclinacion);
+    estudio.bPlano = adK.has_value();
+    estudio.ano =
+        solar::CalcularEnergia({.dLatitud = v.dLatitud,
+                                .bNorte = proyecto.lugar.bNorte,
+                                .adRadHorizontal = v.adRadiacion,
+                                .dInclinacion = v.dInclinacion,
+                                .dPotencia = v.dPotenciaInstalada / 1000.0,
+                                .dPR = (100 - v.dPerdidaAcumulador) / 100 * ((100 - v.dPerdidaCableado) / 100) *
+                                       ((100 - v.dPerdidaAcoplamiento) / 100)},
+                               adK.value_or(solar::DoceMeses{}));
+    return estudio;
+}
+
+}  // namespace efv::report

@@ -1,0 +1,107 @@
+#include "report/secciones.h"
+
+#include <cmath>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include <quorvel/report/ficha.h>
+#include <quorvel/report/texto.h>
+
+#include "solar/calendario.h"
+#include "solar/filas.h"
+
+namespace efv::report {
+
+namespace {
+
+constexpr double kHolguraFilas = 1.0;  // mm
+
+std::string Coordenada(double d, const char* positiva, const char* negativa)
+{
+    return fmt::format("{}° {}", Decimal(std::abs(d), 2), d < 0.0 ? negativa : positiva);
+}
+
+}  // namespace
+
+std::string NombreMes(int iMes)
+{
+    return CadenaUtf8(solar::NombreMes(iMes));
+}
+
+Dato DatoDoble(std::string rotulo, double dEnVigor, double dPropuesta, int iDecimales, std::string_view unidad)
+{
+    return {std::move(rotulo), Con(dEnVigor, iDecimales, unidad), Con(dPropuesta, iDecimales, unidad)};
+}
+
+Dato DatoDoble(std::string rotulo, int iEnVigor, int iPropuesta)
+{
+    return {std::move(rotulo), std::to_string(iEnVigor), std::to_string(iPropuesta)};
+}
+
+Seccion SeccionLugar(const LugarDiseno& lugar)
+{
+    Seccion seccion("Lugar");
+    if (const auto& l = lugar.localidad) {
+        const std::string provincia = l->csProvincia.empty() ? "" : CadenaUtf8(l->csProvincia) + ", ";
+        seccion.datos = {
+            {"Localidad", fmt::format("{} ({}{})", CadenaUtf8(l->csNombre), provincia, CadenaUtf8(l->csPais))},
+            {"Longitud", Coordenada(l->dLongitud, "E", "O")},
+            {"Altitud", Decimal(l->dAltitud, 0) + " m"},
+            {"Radiación", CadenaUtf8(l->csFuente)}};
+    } else {
+        if (!lugar.nombre.empty())
+            seccion.datos.emplace_back("Localidad", lugar.nombre);
+        seccion.datos.emplace_back("Radiación", lugar.adRadiacion ? "la del fichero de proyecto" : "sin datos");
+    }
+    seccion.datos.insert(
+        seccion.datos.begin(),
+        {"Latitud", fmt::format("{}° {}", Decimal(std::abs(lugar.dLatitud), 2), lugar.bNorte ? "N" : "S")});
+    return seccion;
+}
+
+Seccion SeccionModelos(std::initializer_list<ModeloElegido> modelos)
+{
+    Seccion seccion("Datos de los modelos elegidos");
+    seccion.bSoloPagina = true;
+    seccion.bPaginaNueva = true;
+    for (const ModeloElegido& elegido : modelos) {
+        Cuadro& cuadro = seccion.cuadros.emplace_back();
+        cuadro.titulo = fmt::format("{}: {}#{}", elegido.titulo, CadenaUtf8(elegido.modelo->csFamilia),
+                                    CadenaUtf8(elegido.modelo->csModelo));
+        cuadro.columnas = {{"Dato", false}, {"Valor", true}};
+        for (auto& [rotulo, texto] : FilasDeFicha(*BuscarTipoCatalogo(elegido.tipo), *elegido.modelo))
+            if (!texto.empty())
+                cuadro.filas.push_back({std::move(rotulo), std::move(texto)});
+    }
+    return seccion;
+}
+
+void AvisarDelPlano(const LugarDiseno& lugar, bool bPlano, double dInclinacion, std::vector<Aviso>& avisos)
+{
+    if (!bPlano) {
+        avisos.push_back(
+            {true, fmt::format("La tabla de factores K no llega a la latitud {}°: no hay radiación "
+                               "sobre el plano.",
+                               Decimal(lugar.dLatitud, 2))});
+    } else if (dInclinacion < 0.0 || dInclinacion > 90.0) {
+        avisos.push_back({true, fmt::format("La inclinación en vigor, {}°, está fuera de 0° a 90°: la tabla de "
+                                            "factores K no da radiación sobre ese plano. Fije «dInclinacion».",
+                                            Decimal(dInclinacion, 2))});
+    }
+}
+
+void AvisarDeFilas(const LugarDiseno& lugar, const FilasPaneles& filas, std::vector<Aviso>& avisos)
+{
+    if (filas.iPaneles <= filas.dPanelesPorFila)
+        return;
+    const double dNecesaria = solar::SeparacionPorCondicionesTecnicas(1, filas.dLargo, filas.dInclinacion, 0.0,
+                                                                      std::abs(lugar.dLatitud))
+                                  .dDistanciaFilas;
+    if (filas.dDistancia < dNecesaria - kHolguraFilas)
+        avisos.push_back({true, fmt::format("Distancia fila - fila en vigor, {}, inferior a la que pide la "
+                                            "inclinación en vigor para que las filas no se den sombra, {}.",
+                                            Con(filas.dDistancia, 0, "mm"), Con(dNecesaria, 0, "mm"))});
+}
+
+}  // namespace efv::report

@@ -1,0 +1,49 @@
+// Sections and warnings that the designs write alike.
+#pragma once
+
+#include <initializer_list>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include <quorvel/report/disenos.h>
+#include <quorvel/report/documento.h>
+
+namespace efv::report {
+
+/// Name of a month, "Enero"; also 12 to 14, the year and its two cases.
+std::string NombreMes(int iMes);
+
+/// A value in force beside its proposal.
+Dato DatoDoble(std::string rotulo, double dEnVigor, double dPropuesta, int iDecimales, std::string_view unidad);
+Dato DatoDoble(std::string rotulo, int iEnVigor, int iPropuesta);
+
+/// Where the place stands and where its radiation comes from.
+Seccion SeccionLugar(const LugarDiseno& lugar);
+
+/// Table and charts of a year. @param necesaria kWh of each month; null without loads
+Seccion SeccionMeses(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
+
+/// The data sheets of the chosen models, for the page.
+struct ModeloElegido {
+    std::string_view titulo;
+    std::string_view tipo;  ///< name of its kind
+    const CModelo* modelo;
+};
+Seccion SeccionModelos(std::initializer_list<ModeloElegido> modelos);
+
+/// What is said of a tilt outside 0 to 90 degrees, of a place outside the table of factors K.
+void AvisarDelPlano(const LugarDiseno& lugar, bool bPlano, double dInclinacion, std::vector<Aviso>& avisos);
+
+/// Rows of panels as they are laid out.
+struct FilasPaneles {
+    int iPaneles;
+    double dPanelesPorFila;
+    double dDistancia;    ///< row to row, mm
+    double dLargo;        ///< of a panel up the slope, mm
+    double dInclinacion;  ///< degrees
+};
+/// What is said of rows that shade each other on level ground.
+void AvisarDeFilas(const LugarDiseno& lugar, const FilasPaneles& filas, std::vector<Aviso>& avisos);
+
+}  // namespace efv::report
