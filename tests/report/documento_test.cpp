@@ -1,0 +1,73 @@
+// Documents and their two writers; the numbers and tables that they are made of.
+#include <limits>
+
+#include <gtest/gtest.h>
+
+#include <quorvel/report.h>
+
+namespace {
+
+using namespace efv::report;
+
+TEST(TextoInforme, LosNumerosLlevanComaYNuncaMenosCero)
+{
+    EXPECT_EQ(Decimal(1234.56, 2), "1234,56");
+    EXPECT_EQ(Decimal(-0.004, 2), "0,00");
+    EXPECT_EQ(Decimal(-0.006, 2), "-0,01");
+    EXPECT_EQ(Decimal(std::numeric_limits<double>::quiet_NaN(), 1), "—");
+    EXPECT_EQ(DecimalExacto(0.1), "0,1");
+    EXPECT_EQ(Con(3.5, 2, "kW"), "3,50 kW");
+    EXPECT_EQ(Con(30.0, 1, "°"), "30,0°");
+    EXPECT_EQ(EnUnaLinea("a\nb\x1b"), "a?b?");
+    EXPECT_EQ(Anchura("añ—"), 3U);
+}
+
+Documento Ejemplo()
+{
+    Documento documento;
+    documento.titulo = "Título";
+    documento.proyecto = "<proyecto>";
+    documento.resumen = {{"Potencia", "5 kWp"}};
+    documento.avisos = {{true, "Falta algo."}, {false, "Se sabe."}};
+    Seccion seccion("Datos");
+    seccion.datos = {{"Inclinación", "30°", "35°"}, {"Tensión", "700 V", "", true}};
+    Cuadro& cuadro = seccion.cuadros.emplace_back();
+    cuadro.titulo = "Cuadro";
+    cuadro.columnas = {{"Mes", false}, {"kWh", true}};
+    cuadro.filas = {{"Enero", "9,0"}, {"Total", "10,0"}};
+    cuadro.bTotal = true;
+    documento.secciones.push_back(seccion);
+    Seccion pagina("Fichas");
+    pagina.bSoloPagina = true;
+    documento.secciones.push_back(pagina);
+    documento.supuestos = {"Se supone."};
+    return documento;
+}
+
+TEST(DocumentoTexto, EsUnTextoDeColumnas)
+{
+    const std::string raya = "─────────────\n";
+    EXPECT_EQ(DocumentoTexto(Ejemplo()),
+              "Título\n<proyecto>\n\nDatos\n"
+              "  Inclinación  30°    propuesta 35°\n"
+              "  Tensión      700 V                 << fuera\n"
+              "  Mes     kWh\n" +
+                  raya + "  Enero   9,0\n" + raya +
+                  "  Total  10,0\n"
+                  "\nAvisos\n  ! Falta algo.\n  · Se sabe.\n\nSupuestos\n"
+                  "  · Se supone.\n");
+}
+
+TEST(DocumentoHtml, EsUnaPaginaConSusPartes)
+{
+    const std::string html = DocumentoHtml(Ejemplo(), "1-2-2028");
+    for (const char* parte :
+         {"<title>&lt;proyecto&gt; · Título</title>", "<p>&lt;proyecto&gt; · 1-2-2028</p>",
+          "<div><dt>Potencia</dt><dd>5 kWp</dd></div>",
+          "<li><strong class=\"falta\">Atención:</strong> Falta algo.</li>\n<li>Se sabe.</li>",
+          "<td class=\"n\"><span class=\"falta\">700 V (fuera)</span></td>",
+          "<tr class=\"total\"><th scope=\"row\">Total</th><td class=\"n\">10,0</td></tr>", "Fichas</h2>"})
+        EXPECT_NE(html.find(parte), std::string::npos) << parte;
+}
+
+}  // namespace
