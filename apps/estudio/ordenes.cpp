@@ -66,6 +66,14 @@ void GuardarEsquema(Ventana& ventana)
         GuardarDibujo(*dibujo, *csRuta);
 }
 
+void GuardarInformeALaVista(Ventana& ventana)
+{
+    if (const auto diseno = ventana.DisenoALaVista())
+        GuardarInforme(ventana.LaSesion().Proyecto(), *diseno);
+    else
+        ui::MostrarAviso(L"No hay ningún diseño a la vista.", ui::Icono::informacion);
+}
+
 void AmpliarEsquema(Ventana& ventana, double dFactor)
 {
     if (VistaEsquema* vista = ventana.EsquemaALaVista())
@@ -94,6 +102,8 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, "Instalación &aislada…", nullptr, [](Ventana& v) { DisenarAislada(v.LaSesion()); }},
     {kDiseno, "Conexión a &red…", nullptr, [](Ventana& v) { DisenarRed(v.LaSesion()); }},
     {kDiseno, "&Consumo…", nullptr, [](Ventana& v) { EditarConsumo(v.LaSesion()); }},
+    {kDiseno, nullptr, nullptr, nullptr},
+    {kDiseno, "I&nforme…", "Ctrl+I", &GuardarInformeALaVista},
     {kEsquema, "&Encajar en la ventana", "Ctrl+0", &EncajarEsquema},
     {kEsquema, "&Ampliar", "Ctrl++", [](Ventana& v) { AmpliarEsquema(v, kPasoAmpliar); }},
     {kEsquema, "&Reducir", "Ctrl+-", [](Ventana& v) { AmpliarEsquema(v, 1.0 / kPasoAmpliar); }},

@@ -154,16 +154,24 @@ void VentanaPrincipal::MostrarPestana(int iPestana)
     m_pestanas->setCurrentIndex(iPestana);
 }
 
-VistaEsquema* VentanaPrincipal::EsquemaALaVista() const
+std::optional<Diseno> VentanaPrincipal::DisenoALaVista() const
 {
     switch (m_pestanas->currentIndex()) {
         case aislada:
-            return m_esquemaAislada;
+            return Diseno::aislada;
         case red:
-            return m_esquemaRed;
+            return Diseno::red;
         default:
-            return nullptr;
+            return std::nullopt;
     }
+}
+
+VistaEsquema* VentanaPrincipal::EsquemaALaVista() const
+{
+    const auto diseno = DisenoALaVista();
+    if (!diseno)
+        return nullptr;
+    return *diseno == Diseno::aislada ? m_esquemaAislada : m_esquemaRed;
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento)

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 #include <QMainWindow>
 
 #include "energia/panel_energia.h"
 #include "esquema/vista_esquema.h"
+#include "informe/informe.h"
 #include "paneles/panel_lugar.h"
 #include "paneles/panel_resumen.h"
 #include "proyecto/sesion.h"
@@ -30,6 +32,8 @@ public:
     void MostrarPestana(int iPestana);
     /// The schematic of the tab on view; null when it has none.
     VistaEsquema* EsquemaALaVista() const;
+    /// The design of the tab on view; nothing when it has none.
+    std::optional<Diseno> DisenoALaVista() const;
     /// Runs it and tells the person what went wrong: an exception must not pass through Qt's loop.
     void Atender(const std::function<void()>& accion);
 

@@ -1,7 +1,10 @@
 // The program's window: what the person writes gets into the project, what is accepted onto the screen.
 #include "ventana_principal.h"
 
+#include <array>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include <QLineEdit>
 
@@ -188,6 +191,35 @@ TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
         if (std::string_view(orden.menu) == "&Esquema" && orden.funcion != nullptr)
             orden.funcion(ventana);
     EXPECT_EQ(guion.Mensajes().size(), 2U);  // copy and save
+}
+
+// What is told of the example: 4 inverters of 5 kW, 24 batteries, the place, the data sheets.
+TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
+{
+    const CarpetaTemporal carpeta;
+    const auto orden = std::ranges::find(Ordenes(), std::string_view("I&nforme…"), [](const Orden& o) {
+        return std::string_view(o.texto == nullptr ? "" : o.texto);
+    });
+    ASSERT_NE(orden, Ordenes().end());
+    ventana.MostrarPestana(VentanaPrincipal::consumo);
+    orden->funcion(ventana);
+    ventana.MostrarPestana(VentanaPrincipal::red);
+    ventana.Atender([&] { orden->funcion(ventana); });
+    ASSERT_EQ(guion.Mensajes().size(), 2U);  // no design on view, none accepted
+
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    for (const auto& [pestana, textos] :
+         {std::pair(VentanaPrincipal::red, std::array{"conectada a red", "4 · 20,00 kW", "SB5.0-1AV-40"}),
+          std::pair(VentanaPrincipal::aislada, std::array{"aislada", "(24 × ", "6 OPzS 420"})}) {
+        const std::filesystem::path ruta = carpeta.Ruta() / "informe.html";
+        guion.presentador.ficheros.emplace_back(ruta.wstring());
+        ventana.MostrarPestana(pestana);
+        orden->funcion(ventana);
+        std::ifstream fichero(ruta, std::ios::binary);
+        const std::string html{std::istreambuf_iterator<char>(fichero), {}};
+        for (const char* texto : {textos[0], textos[1], textos[2], "Casa de labor", "Madrid", "Supuestos"})
+            EXPECT_NE(html.find(texto), std::string::npos) << texto;
+    }
 }
 
 }  // namespace
