@@ -24,7 +24,7 @@ const std::array<std::string, 7> kLineas = {
 
 void RpcMezcla(benchmark::State& estado)
 {
-    efv::orden::rpc::Servidor servidor;
+    efv::rpc::Servidor servidor;
     std::string salida;
     std::size_t i = 0;
     for (auto _ : estado) {

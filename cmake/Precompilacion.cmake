@@ -5,6 +5,7 @@
 set(EFV_CABECERAS_NORMA
     <algorithm> <array> <cmath> <functional> <memory> <optional> <span> <string> <string_view> <utility> <vector>)
 set(EFV_CABECERAS_FMT <fmt/format.h>)
+set(EFV_CABECERAS_JSON <nlohmann/json.hpp>)
 set(EFV_CABECERAS_QT <QLabel> <QPainter> <QVBoxLayout> <QWidget>)
 set(EFV_CABECERAS_PRUEBAS <gtest/gtest.h>)
 

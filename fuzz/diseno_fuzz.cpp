@@ -34,7 +34,7 @@ void Probar(Diseno (*disenar)(const JsonLeido&, const std::string&), const JsonL
         CArchive ar{std::span<const std::byte>(diseno.archivo)};
         Registro().Serialize(ar);
         Exigir(ar.Restantes() == 0);
-    } catch (const efv::orden::rpc::ErrorValor&) {
+    } catch (const efv::rpc::ErrorValor&) {
         return;
     } catch (const efv::orden::ErrorEjecucion&) {
         return;
@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tam
     JsonLeido proyecto;
     try {
         proyecto = efv::orden::AnalizarJson(std::string_view(reinterpret_cast<const char*>(datos), tamano));
-    } catch (const efv::orden::rpc::ErrorValor&) {
+    } catch (const efv::rpc::ErrorValor&) {
         return 0;
     }
     Probar<CSFVAsistenteAislada>(&efv::orden::DisenarAislada, proyecto);

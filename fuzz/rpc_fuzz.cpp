@@ -1,4 +1,6 @@
-// Any bytes as a line of the scripted host: one answer, one line, JSON, with the members of its kind.
+// Any bytes as a line of the scripted host: at most one line of JSON, with the members of its kind; a request
+// without id is not answered, a batch with a list.
+#include <algorithm>
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -36,25 +38,54 @@ bool EsResultado(const Json& peticion, const Json& resultado)
            resultado.at("messages").is_array() && resultado.at("dialogs").is_array();
 }
 
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tamano)
+bool SeCalla(const Json& peticion)
 {
-    static efv::orden::rpc::Servidor servidor;
-    const std::string_view linea(reinterpret_cast<const char*>(datos), tamano);
-    const std::string texto = servidor.Responder(linea);
-    Exigir(texto.find('\n') == std::string::npos);
-    const Json respuesta = Json::parse(texto, nullptr, false);
+    return peticion.is_object() && !peticion.contains("id");
+}
+
+void ExigirRespuesta(const Json& peticion, const Json& respuesta)
+{
     Exigir(respuesta.is_object() && respuesta.size() == 3 && respuesta.at("jsonrpc") == "2.0" &&
            respuesta.contains("id"));
     if (respuesta.contains("error")) {
         Exigir(EsError(respuesta.at("error")));
-        return 0;
+        return;
     }
     // What was answered was a request, and the answer carries its id.
-    const Json peticion = Json::parse(linea, nullptr, false);
     Exigir(peticion.is_object() && respuesta.contains("result"));
-    Exigir(respuesta.at("id") == peticion.value("id", Json()));
+    Exigir(respuesta.at("id") == peticion.at("id"));
     Exigir(EsResultado(peticion, respuesta.at("result")));
+}
+
+// A request without id has an answer only when it is no request at all.
+void ExigirLote(const Json& lote, const Json& respuestas)
+{
+    const auto callados = static_cast<std::size_t>(std::ranges::count_if(lote, SeCalla));
+    Exigir(respuestas.is_array() && !respuestas.empty() && respuestas.size() <= lote.size() &&
+           respuestas.size() >= lote.size() - callados);
+    for (const Json& respuesta : respuestas)
+        Exigir(respuesta.at("jsonrpc") == "2.0" && respuesta.contains("id") &&
+               (respuesta.contains("result") || EsError(respuesta.at("error"))));
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tamano)
+{
+    static efv::rpc::Servidor servidor;
+    const std::string_view linea(reinterpret_cast<const char*>(datos), tamano);
+    const std::string texto = servidor.Responder(linea);
+    const Json peticion = Json::parse(linea, nullptr, false);
+    if (texto.empty()) {
+        const bool bLote = peticion.is_array() && !peticion.empty();
+        Exigir(bLote ? std::ranges::all_of(peticion, SeCalla) : SeCalla(peticion));
+        return 0;
+    }
+    Exigir(texto.find('\n') == std::string::npos);
+    const Json respuesta = Json::parse(texto, nullptr, false);
+    if (respuesta.is_array())
+        ExigirLote(peticion, respuesta);
+    else
+        ExigirRespuesta(peticion, respuesta);
     return 0;
 }

@@ -8,6 +8,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "anfitrion/suborden_rpc.h"
 #include "catalogo/suborden_catalogo.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
@@ -18,7 +19,6 @@
 #include "diseno/suborden_diseno.h"
 #include "energia/suborden_energia.h"
 #include "lugares/suborden_lugares.h"
-#include "rpc/suborden_rpc.h"
 
 namespace efv::orden {
 

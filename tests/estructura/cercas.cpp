@@ -33,6 +33,10 @@ void LeerRegla(Reglas& reglas, const std::string& clave, std::istream& resto)
         reglas.publicas.merge(Capas(reglas, resto));
         return;
     }
+    if (clave == "abierta") {
+        reglas.abiertas.merge(Capas(reglas, resto));
+        return;
+    }
     if (clave == "llama") {
         reglas.llaman.merge(Capas(reglas, resto));
         return;
@@ -218,7 +222,8 @@ private:
         const auto solo = m_reglas.solo.find(s.capa);
         if (suya >= mia || (solo != m_reglas.solo.end() && !solo->second.contains(capa)))
             Falta(*s.fichero, "includes " + incluida + " of " + capa);
-        else if (!bPublica && (m_reglas.publicas.contains(s.capa) || s.fichero->ruta.starts_with("include/")))
+        else if (!bPublica && (s.fichero->ruta.starts_with("include/") ||
+                               (m_reglas.publicas.contains(s.capa) && !m_reglas.abiertas.contains(capa))))
             Falta(*s.fichero, "includes " + incluida + ", which isn't public");
     }
 

@@ -23,6 +23,7 @@ struct Reglas {
     std::map<std::string, int, std::less<>> capas;      // name to place in the order
     std::map<std::string, std::set<std::string>> solo;  // layer to the only others it may include
     std::set<std::string> publicas;                     // layers that see public headers only
+    std::set<std::string> abiertas;                     // layers whose files those may include as well
     std::set<std::string> llaman;                       // layers that may call exported functions
     std::set<std::string> exponen;                      // layers whose public headers show libraries
     std::map<std::string, std::string> cabeceras;       // public header or folder to its layer

@@ -4,6 +4,7 @@
 #include <set>
 
 #include "apoyo.h"
+#include "rpc/presupuesto.h"
 #include "rpc/tabla_funciones.h"
 
 namespace efv::orden::pruebas {
@@ -30,7 +31,6 @@ TEST(Peticion, CadaErrorTieneSuNumeroYSuId)
         {"{\"jsonrpc\":\"2.0\",\"id\":\"\xff\",\"method\":\"phGetPathApp\"}", -32700, nullptr, ""},
         {"7", -32600, nullptr, ""},
         {"[]", -32600, nullptr, ""},
-        {"[{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"phGetPathApp\"}]", -32600, nullptr, ""},
         {"{\"id\":1,\"method\":\"phGetPathApp\"}", -32600, 1, "jsonrpc"},
         {"{\"jsonrpc\":\"1.0\",\"id\":1,\"method\":\"phGetPathApp\"}", -32600, 1, "jsonrpc"},
         {"{\"jsonrpc\":\"2.0\",\"id\":\"a\"}", -32600, "a", "method"},
@@ -38,7 +38,9 @@ TEST(Peticion, CadaErrorTieneSuNumeroYSuId)
         {"{\"jsonrpc\":\"2.0\",\"id\":[1],\"method\":\"phGetPathApp\"}", -32600, nullptr, "id"},
         {"{\"jsonrpc\":\"2.0\",\"id\":true,\"method\":\"phGetPathApp\"}", -32600, nullptr, "id"},
         {"{\"jsonrpc\":\"2.0\",\"id\":2.5,\"method\":\"phNada\"}", -32601, 2.5, "phNada"},
-        {"{\"jsonrpc\":\"2.0\",\"method\":\"phgethora\",\"params\":[1]}", -32601, nullptr, "phgethora"},
+        {"{\"jsonrpc\":\"2.0\",\"id\":null,\"method\":\"phgethora\",\"params\":[1]}", -32601, nullptr,
+         "phgethora"},
+        {"{\"foo\":\"boo\"}", -32600, nullptr, "jsonrpc"},
         {"{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"phGetHora\"}", -32602, 1, "iHoraAno"},
         {"{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"phGetHora\",\"params\":{}}", -32602, 1, "params"},
         {"{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"phGetHora\",\"params\":[1,2]}", -32602, 1, "iHoraAno"},
@@ -53,6 +55,64 @@ TEST(Peticion, CadaErrorTieneSuNumeroYSuId)
             << respuesta;
     }
     EXPECT_EQ(anfitrion.Resultado("phGetHora", {25})["return"], 1);
+}
+
+// A request without id is carried out and never answered, not even with an error.
+TEST(Peticion, UnaNotificacionNoTieneRespuesta)
+{
+    rpc::Servidor servidor;
+    std::string salida;
+    servidor.Responder(R"({"jsonrpc":"2.0","method":"phSetPathApp","params":["/nota/"]})", salida);
+    servidor.Responder(R"({"jsonrpc":"2.0","method":"phNada"})", salida);
+    servidor.Responder(R"({"jsonrpc":"2.0","method":"phGetHora","params":["x"]})", salida);
+    EXPECT_EQ(salida, "");
+    servidor.Responder(R"({"jsonrpc":"2.0","id":1,"method":"phGetPathApp"})", salida);
+    EXPECT_EQ(Json::parse(salida)["result"]["return"], "/nota/");
+    // Without a method it is no notification but no request.
+    EXPECT_EQ(Json::parse(servidor.Responder(R"({"jsonrpc":"2.0"})"))["error"]["code"], -32600);
+}
+
+// The batch of JSON-RPC 2.0's own examples, with this library's functions.
+TEST(Peticion, UnLoteSeRespondeEnUnaLinea)
+{
+    rpc::Servidor servidor;
+    const std::string texto = servidor.Responder(
+        R"([{"jsonrpc":"2.0","method":"phGetHora","params":[25],"id":"1"},
+            {"jsonrpc":"2.0","method":"phSetPathApp","params":["/lote/"]},
+            {"jsonrpc":"2.0","method":"phGetPathApp","id":"2"},
+            {"foo":"boo"},
+            {"jsonrpc":"2.0","method":"foo.get","params":{"name":"myself"},"id":"5"},
+            1])");
+    EXPECT_EQ(texto.find('\n'), std::string::npos);
+    const Json respuestas = Json::parse(texto);
+    ASSERT_EQ(respuestas.size(), 5U);
+    EXPECT_EQ(respuestas[0]["result"]["return"], 1);
+    EXPECT_EQ(respuestas[1]["result"]["return"], "/lote/");
+    const std::pair<int, Json> errores[] = {{-32600, nullptr}, {-32601, "5"}, {-32600, nullptr}};
+    for (std::size_t i = 0; i < 3; ++i) {
+        EXPECT_EQ(respuestas[i + 2]["error"]["code"], errores[i].first);
+        EXPECT_EQ(respuestas[i + 2]["id"], errores[i].second);
+    }
+    EXPECT_EQ(servidor.Responder(R"([{"jsonrpc":"2.0","method":"phGetPathApp"}])"), "");
+    EXPECT_EQ(Json::parse(servidor.Responder("[]"))["error"]["code"], -32600);
+    EXPECT_EQ(Json::parse(servidor.Responder("[1,[2]]"))[1]["error"]["code"], -32600);
+}
+
+// A short batch can't ask for an answer without end.
+TEST(Peticion, LaRespuestaDeUnLoteTieneTope)
+{
+    rpc::Servidor servidor;
+    std::string demasiadas = "[0", largas = "[";
+    for (std::size_t i = 0; i < rpc::kLoteMaximo; ++i)
+        demasiadas += ",0";
+    EXPECT_EQ(Json::parse(servidor.Responder(demasiadas + "]"))["error"]["code"], -32600);
+    const std::string descubrir = R"({"jsonrpc":"2.0","id":1,"method":"rpc.discover"})";
+    for (std::size_t i = 0; i < 9000; ++i)
+        largas += descubrir + ",";
+    const std::string texto = servidor.Responder(largas + descubrir + "]");
+    EXPECT_LT(texto.size(), rpc::kRespuestaDeLoteMaxima + std::size_t{4} * 1024 * 1024);
+    EXPECT_TRUE(texto.starts_with(R"([{"jsonrpc":"2.0","id":1,"result":[)"));
+    EXPECT_TRUE(texto.ends_with("pasa de 67108864 bytes\"}}]")) << texto.substr(texto.size() - 100);
 }
 
 TEST(Peticion, LoQueSigueAUnNuloNoSeCree)
@@ -294,11 +354,11 @@ TEST(Control, ContestaPorSimbolosYCategorias)
 }
 
 // Packed by hand with Python's struct module, "<idi3d…", all fields different.
-const std::string kEsquema1 =
+const std::string kSchema1 =
     "01000000000000000000044007000000000000000000f03f00000000000000400000000000000840fffeff0341002300f100"
     "04000000fffeff01420005000000060000000000000000803ec09a9999999999b93f00000000000020400000000000002240"
     "0000000000002440";
-const std::string kEsquema3 = "03" + kEsquema1.substr(2) + "0b0000000c00000001000000";
+const std::string kSchema3 = "03" + kSchema1.substr(2) + "0b0000000c00000001000000";
 const Json kRegistro = {{"dPotenciaObjetivo", 2.5}, {"iTipoSalida", 7},         {"dLongitudL1", 1.0},
                         {"dLongitudL2", 2.0},       {"dLongitudL3", 3.0},       {"csInversor", "A#ñ"},
                         {"iInversores", 4},         {"csPanel", "B"},           {"iPanelesSerie", 5},
@@ -313,12 +373,12 @@ TEST(Archivo, UnRegistroVaABytesYVuelve)
     const auto archivar = [&](const char* que, const Json& valor) {
         return anfitrion.Resultado("rpc.archive", {{"record", "CSFVAsistenteRed"}, {que, valor}});
     };
-    EXPECT_EQ(archivar("value", completo), kEsquema3);
-    EXPECT_EQ(archivar("bytes", kEsquema3), completo);
-    EXPECT_EQ(archivar("bytes", kEsquema3 + "FFfe00"), completo);
+    EXPECT_EQ(archivar("value", completo), kSchema3);
+    EXPECT_EQ(archivar("bytes", kSchema3), completo);
+    EXPECT_EQ(archivar("bytes", kSchema3 + "FFfe00"), completo);
     // What the first schema lacks, and what a value leaves out, has the constructor's default.
     completo.update({{"iSimboloInversor", 0}, {"iSimboloPanel", 0}, {"iDisposicion", 0}});
-    EXPECT_EQ(archivar("bytes", kEsquema1), completo);
+    EXPECT_EQ(archivar("bytes", kSchema1), completo);
     const Json porDefecto = archivar("bytes", archivar("value", Json::object()));
     EXPECT_EQ(porDefecto["dPotenciaObjetivo"], 5.0);
     EXPECT_EQ(porDefecto["dPanelesPorFila"], 25.0);
@@ -361,8 +421,8 @@ TEST(Archivo, LoQueNoEsUnRegistroSeRechaza)
           Json{{"record", "CBaseFactorK"}, {"value", Json::object()}}, Json{{"value", Json::object()}}})
         EXPECT_EQ(error(params).first, -32602) << params;
     EXPECT_NE(error(con("value", {{"iInversores", 1.5}})).second.find("iInversores"), std::string::npos);
-    for (std::size_t n = 0; n < kEsquema3.size(); n += 2)
-        EXPECT_EQ(error(con("bytes", kEsquema3.substr(0, n))).first, -32000) << n;
+    for (std::size_t n = 0; n < kSchema3.size(); n += 2)
+        EXPECT_EQ(error(con("bytes", kSchema3.substr(0, n))).first, -32000) << n;
 }
 
 TEST(Cadenas, SePidenPorNumero)

@@ -19,7 +19,7 @@
 #include "rpc/json.h"
 #include "rpc/valores.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// What arguments refer to besides their JSON value.
 struct Contexto {
@@ -136,6 +136,7 @@ class Argumento<T> {
 public:
     void Leer(const Json& j, const Contexto&) { LeerValor(j, ListaRegistros(m_registros)); }
     T Pasar() { return m_registros; }
+    std::ptrdiff_t Cuantos() const { return m_registros.GetSize(); }
     void Escribir(std::string& salida)
     {
         EscribirValor(salida, ListaRegistrosConst(ListaRegistros(m_registros)));
@@ -196,11 +197,50 @@ private:
     IBIMCtrl* m_control = nullptr;
 };
 
+/// Of a row: argument `iArgumento`, a pointer to doubles, has (n + 1) · 8928 of them, blocks of 12 months of
+/// 31 days of 24 hours, n being the size of the list that is argument `iLista`. Both count from 0.
+struct BloquesPorRegistro {
+    std::size_t iArgumento;
+    std::size_t iLista;
+    bool bPuedeFaltar = false;  ///< null stays null; otherwise it is refused
+};
+inline constexpr std::size_t kNumerosDeBloque = std::size_t{12} * 31 * 24;
+
+/// Blocks by pointer. A null is never passed where the function doesn't take one.
+template <class T>
+class ArgumentoBloques {
+public:
+    void Leer(const Json& j, std::ptrdiff_t nRegistros, bool bPuedeFaltar)
+    {
+        if (j.is_null() && bPuedeFaltar)
+            return;
+        const std::size_t n = (static_cast<std::size_t>(nRegistros) + 1) * kNumerosDeBloque;
+        if (!j.is_array() || j.size() != n)
+            Esperaba(fmt::format("una lista de {} números{}", n, bPuedeFaltar ? " o null" : ""), j);
+        LeerValor(j, std::span<double>(m_valores.emplace(n)));
+    }
+    T Pasar() { return m_valores ? m_valores->data() : nullptr; }
+    void Escribir(std::string& salida) const
+    {
+        if (m_valores)
+            EscribirValor(salida, std::span<const double>(*m_valores));
+        else
+            salida += "null";
+    }
+
+private:
+    static_assert(std::is_same_v<T, double*> || std::is_same_v<T, const double*>);
+
+    std::optional<std::vector<double>> m_valores;
+};
+
 /// Types and names of a function.
 struct Firma {
     struct Parametro {
         std::string nombre;
         std::string tipo;
+        std::string longitud = {};  ///< how many numbers are behind a pointer; empty for all else
+        bool bPuedeFaltar = false;
     };
     std::string retorno;
     std::vector<Parametro> parametros;
@@ -212,11 +252,11 @@ public:
     using Descriptor = Firma (*)(const Funcion&);
 
     /// A row for F. `argumentos` are the names of its arguments, with ", " between them; a wrong number
-    /// of names doesn't compile.
-    template <auto F>
+    /// of names doesn't compile. BLOQUES say which arguments are blocks by the size of a list.
+    template <auto F, BloquesPorRegistro... BLOQUES>
     static consteval Funcion De(std::string_view nombre, std::string_view argumentos)
     {
-        return Hacer<F>(F, nombre, argumentos);
+        return Hacer<F, BLOQUES...>(F, nombre, argumentos);
     }
 
     std::string_view GetNombre() const { return m_nombre; }
@@ -244,13 +284,37 @@ private:
     {
     }
 
-    template <auto F, class R, class... A>
+    template <auto F, BloquesPorRegistro... BLOQUES, class R, class... A>
     static consteval Funcion Hacer(R (*)(A...), std::string_view nombre, std::string_view argumentos)
     {
         if (Contar(argumentos) != sizeof...(A))
             throw "the number of argument names isn't the function's";
-        return {nombre, argumentos, &InvocarCon<F, R, A...>, &DescribirCon<R, A...>};
+        using Reglas = ReglasDeBloques<BLOQUES...>;
+        return {nombre, argumentos, &InvocarCon<F, Reglas, R, A...>, &DescribirCon<Reglas, R, A...>};
     }
+
+    // The blocks of a row, by argument.
+    template <BloquesPorRegistro... BLOQUES>
+    struct ReglasDeBloques {
+        static constexpr std::array<BloquesPorRegistro, sizeof...(BLOQUES)> reglas{BLOQUES...};
+
+        static constexpr const BloquesPorRegistro* De(std::size_t i)
+        {
+            for (const BloquesPorRegistro& regla : reglas)
+                if (regla.iArgumento == i)
+                    return &regla;
+            return nullptr;
+        }
+    };
+
+    template <class REGLAS, std::size_t I, class A>
+    struct Lugar {
+        using Tipo = Argumento<A>;
+    };
+    template <class REGLAS, std::size_t I, class A>
+    requires(REGLAS::De(I) != nullptr) struct Lugar<REGLAS, I, A> {
+        using Tipo = ArgumentoBloques<A>;
+    };
 
     static constexpr std::size_t Contar(std::string_view argumentos)
     {
@@ -263,30 +327,48 @@ private:
     std::string_view NombreArgumento(std::size_t i) const;
     void ComprobarNumero(const Json& argumentos, std::size_t n) const;
 
-    template <class A>
-    void Leer(Argumento<A>& argumento, std::size_t i, const Json& j, const Contexto& contexto) const
+    /// Calls `leer`; what it refuses is told with the argument's name and type.
+    template <class A, class Leer>
+    void NombrarArgumento(std::size_t i, Leer&& leer) const
     {
         NombrarLugar([&] { return fmt::format("argumento «{}» ({})", NombreArgumento(i), NombreTipo<A>()); },
-                     [&] { argumento.Leer(j, contexto); });
+                     leer);
     }
 
-    template <class A>
-    static void Escribir(Argumento<A>& argumento, std::size_t i, std::string& salida)
+    // Blocks wait until the lists that they follow are there.
+    template <class REGLAS, std::size_t I, class A, class ARGUMENTOS>
+    void Leer(ARGUMENTOS& argumentos, const Json& j, const Contexto& contexto, bool bBloques) const
+    {
+        constexpr const BloquesPorRegistro* regla = REGLAS::De(I);
+        if (bBloques != (regla != nullptr))
+            return;
+        NombrarArgumento<A>(I, [&] {
+            if constexpr (regla != nullptr)
+                std::get<I>(argumentos)
+                    .Leer(j, std::get<regla->iLista>(argumentos).Cuantos(), regla->bPuedeFaltar);
+            else
+                std::get<I>(argumentos).Leer(j, contexto);
+        });
+    }
+
+    template <class ARGUMENTO>
+    static void Escribir(ARGUMENTO& argumento, std::size_t i, std::string& salida)
     {
         if (i > 0)
             salida += ',';
         argumento.Escribir(salida);
     }
 
-    template <auto F, class R, class... A>
+    template <auto F, class REGLAS, class R, class... A>
     static void InvocarCon(const Funcion& funcion, const Json& j, [[maybe_unused]] const Contexto& contexto,
                            std::string& salida)
     {
         funcion.ComprobarNumero(j, sizeof...(A));
-        std::tuple<Argumento<A>...> argumentos;
         [&]<std::size_t... I>(std::index_sequence<I...>)
         {
-            (funcion.Leer(std::get<I>(argumentos), I, j[I], contexto), ...);
+            std::tuple<typename Lugar<REGLAS, I, A>::Tipo...> argumentos;
+            for ([[maybe_unused]] const bool bBloques : {false, true})
+                (funcion.Leer<REGLAS, I, A>(argumentos, j[I], contexto, bBloques), ...);
             salida += "\"return\":";
             if constexpr (std::is_void_v<R>) {
                 F(std::get<I>(argumentos).Pasar()...);
@@ -301,13 +383,21 @@ private:
         (std::index_sequence_for<A...>());
     }
 
-    template <class R, class... A>
+    template <class REGLAS, class R, class... A>
     static Firma DescribirCon(const Funcion& funcion)
     {
         Firma firma{NombreTipo<R>(), {}};
-        (firma.parametros.push_back(
-             {std::string(funcion.NombreArgumento(firma.parametros.size())), NombreTipo<A>()}),
-         ...);
+        [[maybe_unused]] const auto anadir = [&](std::string tipo) {
+            const std::size_t i = firma.parametros.size();
+            firma.parametros.push_back({std::string(funcion.NombreArgumento(i)), std::move(tipo)});
+            Firma::Parametro& parametro = firma.parametros.back();
+            if (const BloquesPorRegistro* regla = REGLAS::De(i)) {
+                parametro.longitud =
+                    fmt::format("({} + 1) * {}", funcion.NombreArgumento(regla->iLista), kNumerosDeBloque);
+                parametro.bPuedeFaltar = regla->bPuedeFaltar;
+            }
+        };
+        (anadir(NombreTipo<A>()), ...);
         return firma;
     }
 
@@ -317,4 +407,4 @@ private:
     Descriptor m_describir;
 };
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

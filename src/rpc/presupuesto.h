@@ -6,7 +6,7 @@
 #include <new>
 #include <string_view>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// Longest line that is read, bytes.
 inline constexpr std::size_t kLineaMaxima = std::size_t{64} * 1024 * 1024;
@@ -14,6 +14,10 @@ inline constexpr std::size_t kLineaMaxima = std::size_t{64} * 1024 * 1024;
 inline constexpr int kProfundidadMaxima = 64;
 /// Most memory that a document may take besides the bytes of its texts.
 inline constexpr std::size_t kDocumentoMaximo = std::size_t{200} * 1000 * 1000;
+
+/// Most requests in a batch, and the size of its answer from which the rest isn't attended any more, bytes.
+inline constexpr std::size_t kLoteMaximo = 10000;
+inline constexpr std::size_t kRespuestaDeLoteMaxima = std::size_t{64} * 1024 * 1024;
 
 enum class Veredicto { admisible, demasiadoProfunda, demasiadoGrande, conNulo };
 
@@ -44,4 +48,4 @@ private:
     Bloque m_bloque;
 };
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -6,7 +6,7 @@
 #include <cerrno>
 #include <utility>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -106,4 +106,4 @@ bool EscribirTodo(int iDescriptor, std::string_view texto)
     return true;
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -6,7 +6,7 @@
 
 #include "rpc/funcion.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// The table, in the order of the public headers.
 std::span<const Funcion> Funciones();
@@ -14,4 +14,4 @@ std::span<const Funcion> Funciones();
 /// The function of that very name; null when there is none.
 const Funcion* BuscarFuncion(std::string_view nombre);
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

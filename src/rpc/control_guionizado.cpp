@@ -7,7 +7,7 @@
 #include "rpc/errores.h"
 #include "rpc/valores.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -176,4 +176,4 @@ IBIMCtrl::Resultado ControlGuionizado::ElegirSimbolo(std::span<const Argumento> 
     return true;
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -4,7 +4,7 @@
 #include <iosfwd>
 #include <string>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// Answers every line of standard input until its end, or until nobody reads the answers any more.
 /// Sets the process's memory limit. @return exit status
@@ -13,4 +13,4 @@ int AtenderEntrada();
 /// One declaration a line.
 std::string ListaDeFunciones();
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

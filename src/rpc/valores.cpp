@@ -8,7 +8,7 @@
 
 #include "rpc/errores.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -341,4 +341,4 @@ void LeerRegistro(const Json& j, CObject& registro)
     }
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

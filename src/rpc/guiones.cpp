@@ -8,7 +8,7 @@
 #include "rpc/errores.h"
 #include "rpc/valores.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -371,4 +371,4 @@ void EscribirDialogos(std::string& salida, std::span<const ui::Transcripcion> di
     salida += ']';
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -1,4 +1,4 @@
-// The scripted host without its streams: a line with a request in, a line with the answer out.
+// The scripted host without its streams: a line with a request or a batch in, a line with the answer out.
 #pragma once
 
 #include <string>
@@ -9,7 +9,7 @@
 #include "rpc/control_guionizado.h"
 #include "rpc/json.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// Answers JSON-RPC 2.0 requests, one a line. It is the library's presenter while it lives: boxes go
 /// into the answer and questions take their answers from the request. The library's state is the
@@ -21,8 +21,9 @@ public:
     Servidor(const Servidor&) = delete;
     Servidor& operator=(const Servidor&) = delete;
 
-    /// The answer to one line, without line end, in one line without line end. Whatever the line holds,
-    /// there is exactly one answer and nothing is thrown but for want of memory for a short error text.
+    /// The answer to one line, without line end, in one line without line end; empty for a notification (a
+    /// request without id) and for a batch of them. Whatever the line holds, there is at most one answer and
+    /// nothing is thrown but for want of memory for a short error text.
     std::string Responder(std::string_view linea);
 
     /// The same, appended to `salida` with a line end.
@@ -32,12 +33,15 @@ public:
     static void RechazarLinea(std::string& salida);
 
 private:
-    void Atender(std::string_view linea, std::string& id, std::string& salida);
-    void Llamar(const Json& documento, std::string& salida);
-    void PrepararGuion(const Json& documento);
+    void AtenderLinea(std::string_view linea, std::string& salida);
+    void AtenderLote(const Json& lote, std::string& salida);
+    /// @param bHayLugar false: what would be carried out is refused for want of room in the answer
+    void Atender(const Json& peticion, std::string& salida, bool bHayLugar = true);
+    void Llamar(const Json& peticion, std::string& salida);
+    void PrepararGuion(const Json& peticion);
     void EscribirMensajes(std::string& salida) const;
 
     ui::PresentadorGuionizado m_presentador;
 };
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

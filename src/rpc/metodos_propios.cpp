@@ -10,7 +10,7 @@
 #include "rpc/tabla_funciones.h"
 #include "rpc/valores.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -62,10 +62,9 @@ std::unique_ptr<CObject> CrearRegistro(const Json& nombre)
     if (!nombre.is_string())
         Esperaba("el nombre de un registro", nombre);
     const CRuntimeClass* clase = CRuntimeClass::FromName(nombre.get_ref<const std::string&>());
-    std::unique_ptr<CObject> registro = clase == nullptr ? nullptr : clase->CreateObject();
-    if (!registro || CamposDeRegistro(*registro).empty())
+    if (clase == nullptr || clase->m_pTabla == nullptr)
         Esperaba("el nombre de un registro", nombre);
-    return registro;
+    return clase->CreateObject();
 }
 
 void Discover(const Json& params, std::string& salida)
@@ -80,7 +79,11 @@ void Discover(const Json& params, std::string& salida)
         separador = ',';
         std::string_view coma;
         for (const Firma::Parametro& parametro : firma.parametros) {
-            salida += fmt::format(R"({}{{"name":"{}","type":"{}"}})", coma, parametro.nombre, parametro.tipo);
+            salida += fmt::format(R"({}{{"name":"{}","type":"{}")", coma, parametro.nombre, parametro.tipo);
+            if (!parametro.longitud.empty())
+                salida +=
+                    fmt::format(R"(,"length":"{}","nullable":{})", parametro.longitud, parametro.bPuedeFaltar);
+            salida += '}';
             coma = ",";
         }
         salida += "]}";
@@ -139,4 +142,4 @@ MetodoPropio BuscarMetodoPropio(std::string_view nombre)
     return nullptr;
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -1,7 +1,7 @@
-#include "rpc/suborden_rpc.h"
+#include "anfitrion/suborden_rpc.h"
 
 #include "comun/linea_ordenes.h"
-#include "rpc/orden_rpc.h"
+#include "rpc/entrada.h"
 
 namespace efv::orden {
 

@@ -1,6 +1,6 @@
 #include "rpc/funcion.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 std::string Funcion::Declaracion() const
 {
@@ -30,4 +30,4 @@ void Funcion::ComprobarNumero(const Json& argumentos, std::size_t n) const
                                                        argumentos.size(), Declaracion()));
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -9,7 +9,7 @@
 
 #include "rpc/json.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// The request's scripts, one a dialog. Throws ErrorValor, naming script and step, for a wrong shape.
 std::deque<ui::GuionDialogo> LeerGuiones(const Json& guiones);
@@ -17,4 +17,4 @@ std::deque<ui::GuionDialogo> LeerGuiones(const Json& guiones);
 /// The dialogs that opened, in order of opening.
 void EscribirDialogos(std::string& salida, std::span<const ui::Transcripcion> dialogos);
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -1,4 +1,4 @@
-#include "rpc/orden_rpc.h"
+#include "rpc/entrada.h"
 
 #if defined(__GLIBC__)
 #include <malloc.h>
@@ -14,7 +14,7 @@
 #include "rpc/servidor.h"
 #include "rpc/tabla_funciones.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -110,4 +110,4 @@ std::string ListaDeFunciones()
     return lista;
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

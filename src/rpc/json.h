@@ -6,7 +6,7 @@
 
 #include <nlohmann/json.hpp>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 using Json = nlohmann::json;
 
@@ -19,4 +19,4 @@ void EscribirDoble(std::string& salida, double d);
 /// A JSON string of UTF-8 text. Malformed bytes become U+FFFD; no byte of it is a line end.
 void EscribirTexto(std::string& salida, std::string_view utf8);
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -14,7 +14,7 @@
 #include "rpc/errores.h"
 #include "rpc/json.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// Throws ErrorValor: `que` was expected, `llego` came.
 [[noreturn]] void Esperaba(std::string_view que, const Json& llego);
@@ -65,4 +65,4 @@ auto EnFila(T& valores)
     return std::span<Elemento>(reinterpret_cast<Elemento*>(&valores), sizeof(T) / sizeof(Elemento));
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 class LectorLineas {
 public:
@@ -42,4 +42,4 @@ private:
 /// Writes all of `texto`; false when the other end is closed or the write fails.
 bool EscribirTodo(int iDescriptor, std::string_view texto);
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

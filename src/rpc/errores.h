@@ -5,7 +5,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// Numbers of JSON-RPC 2.0.
 enum class Codigo : int {
@@ -48,4 +48,4 @@ void NombrarLugar(Lugar&& lugar, Leer&& leer)
     }
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

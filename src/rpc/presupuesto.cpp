@@ -2,7 +2,7 @@
 
 #include <array>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -74,4 +74,4 @@ ReservaDeMemoria::Bloque ReservaDeMemoria::Pedir(std::size_t nBytes)
     return Bloque(::operator new(nBytes));
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

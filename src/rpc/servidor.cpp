@@ -12,7 +12,7 @@
 #include "rpc/presupuesto.h"
 #include "rpc/tabla_funciones.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -54,7 +54,29 @@ void EscribirError(std::string& salida, std::string_view id, Codigo codigo, std:
     salida += fmt::format(R"({{"jsonrpc":"2.0","id":{},"error":{{"code":{},"message":)", id,
                           static_cast<int>(codigo));
     EscribirTexto(salida, texto);
-    salida += "}}\n";
+    salida += "}}";
+}
+
+// Runs `atender`; whatever leaves it takes the place of what it had written.
+template <class Atender>
+void ConErrores(std::string& salida, const std::string& id, Atender&& atender)
+{
+    const std::size_t inicio = salida.size();
+    const auto fallar = [&](Codigo codigo, std::string_view texto) {
+        salida.resize(inicio);
+        EscribirError(salida, id, codigo, texto);
+    };
+    try {
+        atender();
+    } catch (const ErrorRpc& e) {
+        fallar(e.GetCodigo(), e.what());
+    } catch (const std::bad_alloc&) {
+        fallar(Codigo::excepcion, "memoria insuficiente");
+    } catch (const std::exception& e) {
+        fallar(Codigo::excepcion, e.what());
+    } catch (...) {
+        fallar(Codigo::excepcion, "excepción desconocida");
+    }
 }
 
 Json Interpretar(std::string_view linea)
@@ -78,14 +100,6 @@ Json Interpretar(std::string_view linea)
                    veredicto == Veredicto::demasiadoProfunda
                        ? fmt::format("más de {} listas u objetos anidados", kProfundidadMaxima)
                        : std::string("la petición ocuparía demasiada memoria"));
-}
-
-void ComprobarPeticion(const Json& documento)
-{
-    if (documento.is_array())
-        throw ErrorRpc(Codigo::noEsPeticion, "no se admiten lotes: una petición por línea");
-    if (!documento.is_object())
-        throw ErrorRpc(Codigo::noEsPeticion, "una petición es un objeto");
 }
 
 const Json& Miembro(const Json& documento, const char* nombre)
@@ -151,39 +165,28 @@ std::string Servidor::Responder(std::string_view linea)
 {
     std::string salida;
     Responder(linea, salida);
-    salida.pop_back();
+    if (!salida.empty())
+        salida.pop_back();
     return salida;
 }
 
 void Servidor::Responder(std::string_view linea, std::string& salida)
 {
-    const std::size_t inicio = salida.size();
-    std::string id = "null";
-    const auto fallar = [&](Codigo codigo, std::string_view texto) {
-        salida.resize(inicio);
-        EscribirError(salida, id, codigo, texto);
-    };
     if (linea.ends_with('\r'))
         linea.remove_suffix(1);
-    try {
-        Atender(linea, id, salida);
-    } catch (const ErrorRpc& e) {
-        fallar(e.GetCodigo(), e.what());
-    } catch (const std::bad_alloc&) {
-        fallar(Codigo::excepcion, "memoria insuficiente");
-    } catch (const std::exception& e) {
-        fallar(Codigo::excepcion, e.what());
-    } catch (...) {
-        fallar(Codigo::excepcion, "excepción desconocida");
-    }
+    const std::size_t inicio = salida.size();
+    ConErrores(salida, "null", [&] { AtenderLinea(linea, salida); });
+    if (salida.size() > inicio)
+        salida += '\n';
 }
 
 void Servidor::RechazarLinea(std::string& salida)
 {
     EscribirError(salida, "null", Codigo::noEsPeticion, fmt::format("la línea pasa de {} bytes", kLineaMaxima));
+    salida += '\n';
 }
 
-void Servidor::Atender(std::string_view linea, std::string& id, std::string& salida)
+void Servidor::AtenderLinea(std::string_view linea, std::string& salida)
 {
     const Peso peso = Sopesar(linea);
     if (peso.veredicto != Veredicto::admisible)
@@ -191,29 +194,76 @@ void Servidor::Atender(std::string_view linea, std::string& id, std::string& sal
     Json documento;
     const ReservaDeMemoria reserva(peso, linea.size());
     documento = Interpretar(linea);
-    ComprobarPeticion(documento);
-    id = LeerId(Miembro(documento, "id"));
-    salida += R"({"jsonrpc":"2.0","id":)";
-    salida += id;
-    salida += ",\"result\":";
-    Llamar(documento, salida);
-    salida += "}\n";
+    if (documento.is_array())
+        AtenderLote(documento, salida);
+    else
+        Atender(documento, salida);
 }
 
-void Servidor::Llamar(const Json& documento, std::string& salida)
+// The answers in the order of the requests; none at all when there is nothing but notifications.
+void Servidor::AtenderLote(const Json& lote, std::string& salida)
 {
-    const std::string_view metodo = LeerMetodo(documento);
+    if (lote.empty())
+        throw ErrorRpc(Codigo::noEsPeticion, "un lote lleva alguna petición");
+    if (lote.size() > kLoteMaximo)
+        throw ErrorRpc(Codigo::noEsPeticion, fmt::format("un lote lleva a lo sumo {} peticiones", kLoteMaximo));
+    const std::size_t inicio = salida.size();
+    salida += '[';
+    for (const Json& peticion : lote) {
+        const std::size_t antes = salida.size();
+        if (antes > inicio + 1)
+            salida += ',';
+        const std::size_t detrasDeLaComa = salida.size();
+        Atender(peticion, salida, antes - inicio < kRespuestaDeLoteMaxima);
+        if (salida.size() == detrasDeLaComa)
+            salida.resize(antes);
+    }
+    if (salida.size() > inicio + 1)
+        salida += ']';
+    else
+        salida.resize(inicio);
+}
+
+// What isn't a request is answered with an error, whether it has an id or not; a request without id is
+// carried out and not answered, whatever comes of it.
+void Servidor::Atender(const Json& peticion, std::string& salida, bool bHayLugar)
+{
+    const std::size_t inicio = salida.size();
+    std::string id = "null";
+    bool bCallar = false;
+    ConErrores(salida, id, [&] {
+        if (!peticion.is_object())
+            throw ErrorRpc(Codigo::noEsPeticion, "una petición es un objeto");
+        id = LeerId(Miembro(peticion, "id"));
+        LeerMetodo(peticion);
+        bCallar = !peticion.contains("id");
+        if (!bHayLugar)
+            throw ErrorRpc(Codigo::excepcion, fmt::format("sin atender: la respuesta del lote pasa de {} bytes",
+                                                          kRespuestaDeLoteMaxima));
+        salida += R"({"jsonrpc":"2.0","id":)";
+        salida += id;
+        salida += ",\"result\":";
+        Llamar(peticion, salida);
+        salida += '}';
+    });
+    if (bCallar)
+        salida.resize(inicio);
+}
+
+void Servidor::Llamar(const Json& peticion, std::string& salida)
+{
+    const std::string_view metodo = LeerMetodo(peticion);
     const Funcion* funcion = BuscarFuncion(metodo);
     const MetodoPropio propio = funcion == nullptr ? BuscarMetodoPropio(metodo) : nullptr;
     if (funcion == nullptr && propio == nullptr)
         throw ErrorRpc(Codigo::noExiste, fmt::format("no hay función «{}»", metodo.substr(0, kCitaMaxima)));
-    PrepararGuion(documento);
+    PrepararGuion(peticion);
     if (propio != nullptr) {
-        propio(Miembro(documento, "params"), salida);
+        propio(Miembro(peticion, "params"), salida);
         return;
     }
     salida += '{';
-    funcion->Invocar(Lista(documento, "params"), {ControlDelProceso()}, salida);
+    funcion->Invocar(Lista(peticion, "params"), {ControlDelProceso()}, salida);
     if (m_presentador.csErrorGuion)
         throw ErrorRpc(Codigo::argumentos, "dialogs: " + CadenaUtf8(*m_presentador.csErrorGuion));
     salida += ",\"messages\":";
@@ -224,7 +274,7 @@ void Servidor::Llamar(const Json& documento, std::string& salida)
 }
 
 // Answers hold for this request only; the control stands until another one comes.
-void Servidor::PrepararGuion(const Json& documento)
+void Servidor::PrepararGuion(const Json& peticion)
 {
     m_presentador.mostrados.clear();
     m_presentador.respuestas.clear();
@@ -233,10 +283,10 @@ void Servidor::PrepararGuion(const Json& documento)
     m_presentador.csErrorGuion.reset();
     m_presentador.simbolos.clear();
     ControlDelProceso().simbolosElegidos = &m_presentador.simbolos;
-    for (const Json& respuesta : Lista(documento, "answers"))
+    for (const Json& respuesta : Lista(peticion, "answers"))
         m_presentador.respuestas.push_back(LeerRespuesta(respuesta));
-    m_presentador.guiones = LeerGuiones(Lista(documento, "dialogs"));
-    if (const Json& control = Miembro(documento, "control"); !control.is_null()) {
+    m_presentador.guiones = LeerGuiones(Lista(peticion, "dialogs"));
+    if (const Json& control = Miembro(peticion, "control"); !control.is_null()) {
         NombrarLugar([] { return "control"; }, [&] { ControlDelProceso().Fijar(LeerDibujo(control)); });
         phSetQuorvelBIMCtrl(ControlDelProceso());
     }
@@ -258,4 +308,4 @@ void Servidor::EscribirMensajes(std::string& salida) const
     salida += ']';
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

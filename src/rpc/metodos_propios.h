@@ -6,7 +6,7 @@
 
 #include "rpc/json.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// Appends the method's whole `result` to `salida`. @throws ErrorRpc
 using MetodoPropio = void (*)(const Json& params, std::string& salida);
@@ -14,4 +14,4 @@ using MetodoPropio = void (*)(const Json& params, std::string& salida);
 /// `rpc.discover`, `rpc.archive`, `rpc.string`; null for another name.
 MetodoPropio BuscarMetodoPropio(std::string_view nombre);
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -5,7 +5,7 @@
 #include <charconv>
 #include <cmath>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -48,4 +48,4 @@ void EscribirTexto(std::string& salida, std::string_view utf8)
     salida += Json(utf8).dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -9,7 +9,7 @@
 
 #include "rpc/json.h"
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 /// What the control knows. Whatever it doesn't know is 0, empty or false.
 struct Dibujo {
@@ -52,4 +52,4 @@ private:
     Dibujo m_dibujo;
 };
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc

@@ -5,7 +5,7 @@
 
 #include <QuorvelEFV.h>
 
-namespace efv::orden::rpc {
+namespace efv::rpc {
 
 namespace {
 
@@ -230,4 +230,4 @@ const Funcion* BuscarFuncion(std::string_view nombre)
     return fila == indice.end() ? nullptr : fila->second;
 }
 
-}  // namespace efv::orden::rpc
+}  // namespace efv::rpc
