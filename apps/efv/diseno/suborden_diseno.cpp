@@ -5,12 +5,14 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/assistants.h>
 #include <quorvel/reloj.h>
 
 #include "comun/datos.h"
 #include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "diseno/ayuda_campos.h"
 #include "diseno/diseno.h"
 
 namespace efv::orden {
@@ -25,6 +27,7 @@ struct Clase {
     const char* descripcion;
     const char* pie;
     Diseno (*disenar)(const JsonLeido& proyecto, const std::string& csDatos);
+    const CRuntimeClass& (*registro)();
 };
 
 constexpr Clase kAislada = {
@@ -43,7 +46,7 @@ constexpr Clase kAislada = {
     "\"Diciembre\", \"Desfavorable\"...), dProfundidadDescarga, dTensionMaxFV, iPanelesSerie... Lo que fija\n"
     "el fichero queda en vigor; lo demás toma la propuesta del programa. Los avisos no son errores.\n"
     "Ejemplo:\n  efv aislada casa-aislada.json --informe casa.html",
-    &DisenarAislada};
+    &DisenarAislada, &CSFVAsistenteAislada::GetThisClass};
 
 constexpr Clase kRed = {
     "red", "Diseña una instalación conectada a red a partir de un fichero de proyecto",
@@ -58,7 +61,7 @@ constexpr Clase kRed = {
     "iPanelesParalelo, dInclinacion, iDisposicion... Lo que fija el fichero queda en vigor; lo demás toma\n"
     "la propuesta del programa. Los avisos no son errores.\n"
     "Ejemplo:\n  efv red cubierta-red.json --informe cubierta.html",
-    &DisenarRed};
+    &DisenarRed, &CSFVAsistenteRed::GetThisClass};
 
 std::string Fecha()
 {
@@ -92,7 +95,7 @@ public:
         linea.add_option("--informe", m_informe, "Escribe un informe para imprimir, una página HTML")
             ->type_name("FICHERO");
         linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
-        linea.footer(m_clase.pie);
+        linea.footer(AyudaDeCampos(m_clase.registro()) + "\n\n" + m_clase.pie);
         return linea;
     }
 
