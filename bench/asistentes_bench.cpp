@@ -67,13 +67,13 @@ void RecalcularAislada(benchmark::State& estado)
     CBasePanelFotoModelo panel;
     panel.dPmpm = 400;
     panel.dVoc = 37.1;
-    const std::vector<Carga> cargas(50, Carga{2, 60.5, 3.25});
+    const std::vector<DatosReceptor> receptores(50, DatosReceptor{2, 60.5, 3.25});
     ValoresAislada v;
     v.dLatitud = 40.42;
     v.adRadiacion.fill(16'000);
     for (auto _ : estado) {
         benchmark::DoNotOptimize(v);
-        Recalcular(v, {&acumulador, &panel, cargas, factores}, true);
+        Recalcular(v, {&acumulador, &panel, receptores, factores}, true);
         benchmark::ClobberMemory();
     }
 }

@@ -114,8 +114,9 @@ EFV_API int phSeleccionAsistenteSFV();
 
 /// Runs the stand-alone assistant on the project's record. Batteries, panels, loads and factors K come from
 /// the loaded catalogues. Branches of batteries, the panels, tilt, orientation and row spacing in the record
-/// are replaced by proposals as the assistant opens. The record's loads are replaced at OK, even at one that
-/// is refused afterwards.
+/// are replaced by proposals as the assistant opens; a value out of its limits is told and shown instead, and
+/// the proposals come as soon as all lie within. The record's loads are replaced at OK, even at one that is
+/// refused afterwards.
 /// @param dLatitud degrees  @param iHemisferio 1 north, 0 south
 /// @param adRadiacion mean daily horizontal radiation of each month, kJ/m²·day, January first
 /// @return 1 accepted, with the design in `asistente`; 0 cancelled.
@@ -124,8 +125,8 @@ EFV_API int phAsistenteSFVAislada(CString csLugar, double dLatitud, int iHemisfe
 
 /// Runs the grid-connected assistant on the project's record. Inverters and panels come from the loaded
 /// catalogues. Counts, tilt, orientation and row spacing in the record are replaced by proposals as the
-/// assistant opens.
-/// @param dLatitud degrees  @param iHemisferio 1 north, 0 south
+/// assistant opens; a value out of its limits as in the stand-alone one.
+/// @param dLatitud degrees  @param iHemisferio 1 north, else south
 /// @return 1 accepted, with the design in `asistente`; 0 cancelled, nothing written.
 EFV_API int phAsistenteSFVRed(CString csLugar, double dLatitud, int iHemisferio, CSFVAsistenteRed& asistente);
 

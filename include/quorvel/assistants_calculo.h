@@ -119,7 +119,7 @@ EFV_API void GuardarReceptores(const CObArrayPropio<CSFVDataReceptor>& lReceptor
                                CSFVAsistenteAislada& registro);
 
 /// What counts of a load.
-struct Carga {
+struct DatosReceptor {
     int iCantidad;
     double dPotencia;  ///< of one unit, W
     double dHorasDia;  ///< h a day
@@ -134,7 +134,7 @@ struct EntradaAislada {
     const CBaseAcumuladorModelo*
         acumulador;                     ///< null: unknown model; only the radiation row is then worked out
     const CBasePanelFotoModelo* panel;  ///< null: unknown model; the panels then keep their results
-    std::span<const Carga> cargas;
+    std::span<const DatosReceptor> receptores;
     ConsultaFactoresK factoresK;
 };
 

@@ -1,9 +1,15 @@
-// The stand-alone assistant.
+// The stand-alone assistant: place and loads above five pages, the calculation, and what OK checks.
 #pragma once
 
-#include "assistants/cargas_aislada.h"
 #include "assistants/dialogo_asistente.h"
 #include "assistants/lugar.h"
+#include "assistants/receptores_aislada.h"
+
+namespace efv::assistants {
+class PaginaAcumuladores;
+class PaginaPaneles;
+class PaginaRegulacion;
+}  // namespace efv::assistants
 
 class CDlgAsistenteSFVAislada : public efv::assistants::DialogoAsistente<efv::assistants::ValoresAislada> {
 public:
@@ -14,45 +20,30 @@ public:
                             const efv::catalogues::Bases& bases, int& iUltimaPagina);
 
 private:
-    void AnadirCargas();
-    void AnadirPaginaAcumuladores();
-    void AnadirPaginaPaneles();
-    void AnadirPaginaRegulacion();
-    void AnadirPaginaPerdidas();
-    void AnadirPaginaSolucion();
+    friend class efv::assistants::PaginaAcumuladores;
+    friend class efv::assistants::PaginaPaneles;
+    friend class efv::assistants::PaginaRegulacion;
 
-    void NuevaCarga();
-    void EditarCarga();
-    void EliminarCarga();
-    void EscribirCargas();
-    CSFVDataReceptor* CargaElegida();
+    void AnadirReceptores();
+    void AnadirPaginas();
+    void NuevoReceptor();
+    void EditarReceptor();
+    void EliminarReceptor();
+    void EscribirReceptores();
+    CSFVDataReceptor* ReceptorElegido();
 
-    void ElegirAcumulador();
-    void ElegirPanel();
-    void AlElegirTension();
-    void AlElegirDisposicion();
-    void AlMarcarSalida();
-    void AlEspaciar();
-    void AlPulsarRegulacion();
-
-    void AbrirRadiacion();
-    void EscribirRadiacion();
     void MostrarValores();
-    void Recalcular(bool bForzar) override;
+    void Calcular(bool bForzar) override;
     bool AntesDeAceptar() override;
     bool AlAceptar() override;
 
     CSFVAsistenteAislada& m_registro;
     int& m_iUltimaPagina;
-    efv::assistants::ListaCargas m_cargas;
-    CListCtrl m_filasCargas, m_filasRadiacion;
+    efv::assistants::ListaReceptores m_receptores;
+    CListCtrl m_filasReceptores;
 
-    efv::ui::Seleccion* m_paginas = nullptr;
     efv::ui::Lista* m_lista = nullptr;
-    efv::ui::Lista* m_radiacion = nullptr;
-    efv::ui::Boton* m_acumulador = nullptr;
-    efv::ui::Boton* m_panel = nullptr;
-    efv::ui::Seleccion* m_tension = nullptr;
-    efv::ui::TextoFijo* m_mesReferencia = nullptr;
-    bool m_bAbierto = false;
+    efv::assistants::PaginaAcumuladores* m_acumuladores = nullptr;
+    efv::assistants::PaginaPaneles* m_paneles = nullptr;
+    efv::assistants::PaginaRegulacion* m_regulacion = nullptr;
 };

@@ -50,12 +50,12 @@ bool EsNorte(const V& v)
     return v.iHemisferio == 1;
 }
 
-void DimensionarAcumuladores(V& v, std::span<const Carga> cargas, bool bForzar)
+void DimensionarAcumuladores(V& v, std::span<const DatosReceptor> receptores, bool bForzar)
 {
     const double dDescarga = v.dProfundidadDescarga / 100;
     CalcularCoeficientes(v);
     v.dEnergiaDiaria = 0.0;
-    for (const Carga& c : cargas)
+    for (const DatosReceptor& c : receptores)
         v.dEnergiaDiaria += c.iCantidad * c.dPotencia * c.dHorasDia;
     v.dEnergiaNecesaria =
         v.dEnergiaDiaria / (((100 - v.dPerdidaAcumulador) / 100) * ((100 - v.dPerdidaCableado) / 100) *
@@ -218,7 +218,7 @@ void Recalcular(ValoresAislada& v, const EntradaAislada& entrada, bool bForzar)
     if (entrada.acumulador != nullptr) {
         v.acumulador = LeerAcumulador(*entrada.acumulador);
         v.dCapacidadAcumulador = CapacidadEnVigor(*entrada.acumulador).value_or(v.dCapacidadAcumulador);
-        DimensionarAcumuladores(v, entrada.cargas, bForzar);
+        DimensionarAcumuladores(v, entrada.receptores, bForzar);
         ProponerPosicion(v, bForzar);
     }
     const DoceFactores k = Factores(v, entrada, v.dInclinacion);
@@ -267,20 +267,6 @@ void DevolverAlRegistro(const ValoresAislada& v, CSFVAsistenteAislada& registro)
     std::swap(nuevo.adHorasDia, registro.adHorasDia);
     std::swap(nuevo.adHorario, registro.adHorario);
     registro = nuevo;
-}
-
-void GuardarReceptores(const CObArrayPropio<CSFVDataReceptor>& lReceptores, CSFVAsistenteAislada& registro)
-{
-    registro.Reset();
-    for (const auto& receptor : lReceptores) {
-        registro.adCantidad.Add(receptor->iCantidad);
-        registro.acsModelo.Add(receptor->csModelo);
-        registro.adHorasDia.Add(receptor->dHorasDia);
-        for (const auto& mes : receptor->dHorario)
-            for (const auto& dia : mes)
-                for (const double dMinuto : dia)
-                    registro.adHorario.Add(dMinuto);
-    }
 }
 
 }  // namespace efv::assistants

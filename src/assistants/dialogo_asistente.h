@@ -1,15 +1,18 @@
 // What the dialogs of the two assistants share: values in force beside proposals, the mark of a change,
-// models and symbols chosen by button.
+// the opening's calculation, models and symbols chosen by button.
 #pragma once
 
 #include <array>
 #include <functional>
 #include <string_view>
+#include <utility>
 
+#include "assistants/valores_registro.h"
 #include "catalogues/bases.h"
 #include "frame/control.h"
 #include "frame/estado.h"
 #include "frame/recursos.h"
+#include "ui/campos_registro.h"
 #include "ui/filas.h"
 
 namespace efv::assistants {
@@ -17,20 +20,23 @@ namespace efv::assistants {
 inline constexpr ui::Color kColorPropuesta = 0xFF0000;  // blue, 0xBBGGRR
 inline constexpr ui::Color kColorInsuficiente = 0x0000FF;
 
+// Numbers of the categories of symbols in the string table.
+inline constexpr int kCategoriaPanel = 20413;
+inline constexpr int kCategoriaRegulador = 20415;
+inline constexpr int kCategoriaAcumulador = 20416;
+inline constexpr int kCategoriaInversor = 20417;
+
 // The position of the panel field, and its proposals.
 template <class V>
-inline constexpr auto kAngulos = std::to_array<ui::Fila<V>>({
-    {"dInclinacion", &V::dInclinacion, L"Inclinación (º):", {0, 90}},
-    {"dOrientacion", &V::dOrientacion, L"Orientación (º): [0=Sur]", {-180, 180}},
+inline constexpr auto kAngulos = ui::Campos<V>({
+    {&V::dInclinacion, L"Inclinación (º):"},
+    {&V::dOrientacion, L"Orientación (º): [0=Sur]"},
 });
 template <class V>
-inline constexpr auto kAngulosP = std::to_array<ui::Fila<V>>({
-    {"dInclinacionP", &V::dInclinacionP, L""},
-    {"dOrientacionP", &V::dOrientacionP, L""},
-});
+inline constexpr auto kAngulosP = ui::Campos<V>({{&V::dInclinacionP, L""}, {&V::dOrientacionP, L""}});
 template <class V>
-inline constexpr auto kDistanciaP = std::to_array<ui::Fila<V>>(
-    {{.nombre = "dDistanciaFilasP", .campo = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
+inline constexpr auto kDistanciaP =
+    ui::Campos<V>({{.miembro = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
 
 template <class V>
 class DialogoAsistente : public ui::DialogoFicha<V> {
@@ -43,16 +49,53 @@ protected:
     {
     }
 
-    /// Takes the fields over and calculates everything; a refused field stops it.
-    virtual void Recalcular(bool bForzar) = 0;
+    /// The whole calculation on `datos` as it stands, and what the fields then show.
+    virtual void Calcular(bool bForzar) = 0;
 
-    /// Adds fields that only show.
-    template <std::size_t N>
-    void AnadirResultados(const std::array<ui::Fila<V>, N>& filas, ui::Color color, const ui::Lugar& lugar)
+    /// Takes the fields over and calculates everything; a refused field is told and stops it. As long as the
+    /// opening's calculation hasn't run, the first that does counts as that one.
+    void Recalcular(bool bForzar)
     {
-        this->Anadir(filas, lugar);
-        for (const auto& fila : filas)
-            SoloMostrar(this->template ControlDe<ui::Edicion>(fila.nombre), color);
+        if (!this->RecogerAvisando())
+            return;
+        Calcular(bForzar || m_bPendiente);
+        m_bPendiente = false;
+    }
+
+    /// At OK: the opening's calculation, when values out of their limits have stopped it until now. False
+    /// while they still do: OK's own data exchange then refuses and tells it.
+    bool AbiertoDelTodo()
+    {
+        if (!m_bPendiente)
+            return true;
+        if (this->Recoger())
+            return false;
+        Calcular(true);
+        m_bPendiente = false;
+        return true;
+    }
+
+    /// Adds fields that only show to the dialog or one of its pages.
+    template <class DONDE, std::size_t N>
+    void AnadirResultados(DONDE& donde, const std::array<ui::Campo<V>, N>& campos, ui::Color color,
+                          const ui::Lugar& lugar = {})
+    {
+        AnadirCampos(donde, campos, lugar);
+        for (const auto& campo : campos)
+            SoloMostrar(this->template De<ui::Edicion>(campo.miembro), color);
+    }
+
+    template <std::size_t N>
+    void AnadirCampos(ui::Pagina& pagina, const std::array<ui::Campo<V>, N>& campos,
+                      const ui::Lugar& lugar = {})
+    {
+        this->Anadir(pagina, campos, lugar);
+    }
+    template <std::size_t N>
+    void AnadirCampos(DialogoAsistente& /*yo*/, const std::array<ui::Campo<V>, N>& campos,
+                      const ui::Lugar& lugar = {})
+    {
+        this->Anadir(campos, lugar);
     }
 
     static void SoloMostrar(ui::Edicion& edicion, ui::Color color)
@@ -62,19 +105,19 @@ protected:
         edicion.intercambio = ui::Intercambio::soloMuestra;
     }
 
-    void AnadirTexto(const char* nombre, std::wstring_view rotulo, std::wstring_view texto,
-                     const ui::Lugar& lugar = {}, ui::Color color = ui::kNegro)
+    void AnadirTexto(std::string_view nombre, std::wstring_view rotulo, std::wstring_view texto,
+                     ui::Color color = ui::kNegro)
     {
         auto& control = this->template Anadir<ui::TextoFijo>(nombre, rotulo);
         control.csTexto = texto;
-        control.lugar = lugar;
         control.color = color;
     }
 
-    ui::Boton& AnadirBoton(const char* nombre, std::wstring_view rotulo, const ui::Lugar& lugar,
-                           std::function<void()> alPulsar)
+    template <class DONDE>
+    ui::Boton& AnadirBoton(DONDE& donde, std::string_view nombre, std::wstring_view rotulo,
+                           const ui::Lugar& lugar, std::function<void()> alPulsar)
     {
-        auto& boton = this->template Anadir<ui::Boton>(nombre, rotulo);
+        auto& boton = donde.template Anadir<ui::Boton>(nombre, rotulo);
         boton.lugar = lugar;
         boton.alPulsar = std::move(alPulsar);
         return boton;
@@ -82,16 +125,16 @@ protected:
 
     void AnadirNotas()
     {
-        AnadirTexto("", L"", L"*En color azul, solución propuesta por el programa", {}, kColorPropuesta);
+        AnadirTexto("", L"", L"*En color azul, solución propuesta por el programa", kColorPropuesta);
         AnadirTexto("", L"",
                     L"**Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin "
                     L"simulación horaria");
     }
 
     /// A change of that field calls for a calculation when the field is left.
-    void Vigilar(const char* nombre, bool bForzar = false)
+    void Vigilar(const ui::Miembro<V>& miembro, bool bForzar = false)
     {
-        auto& edicion = this->template ControlDe<ui::Edicion>(nombre);
+        auto& edicion = this->template De<ui::Edicion>(miembro);
         edicion.alCambiar = [this] { bModificado = 1; };
         edicion.alSalir = [this, bForzar] {
             if (bModificado == 0)
@@ -102,10 +145,11 @@ protected:
     }
 
     /// How the panels stand.
-    ui::Seleccion& AnadirDisposicion(const ui::Lugar& lugar, std::function<void()> alElegir)
+    template <class DONDE>
+    ui::Seleccion& AnadirDisposicion(DONDE& donde, const ui::Lugar& lugar, std::function<void()> alElegir)
     {
-        auto& radio = this->template Anadir<ui::Seleccion>("iDisposicion", L"Disposición de paneles:",
-                                                           ui::Seleccion::Forma::radio);
+        auto& radio = donde.template Anadir<ui::Seleccion>(
+            ui::NombreDeMiembro<V>(&V::iDisposicion), L"Disposición de paneles:", ui::Seleccion::Forma::radio);
         radio.acsEntradas = {L"Vertical", L"Horizontal"};
         radio.destino = &this->datos.iDisposicion;
         radio.lugar = lugar;
@@ -114,23 +158,27 @@ protected:
     }
 
     /// The button that chooses the host's symbol of a category; without a host's control it can't be used.
-    void AnadirSimbolo(const char* nombre, int& iSimbolo, int iCadenaCategoria, const ui::Lugar& lugar)
+    template <class DONDE>
+    void AnadirSimbolo(DONDE& donde, int V::*simbolo, int iCadenaCategoria, const ui::Lugar& lugar = {})
     {
-        auto& boton = AnadirBoton(nombre, L"...", lugar, [&iSimbolo, iCadenaCategoria] {
-            const auto elegido = frame::ElegirSimbolo(*frame::Estado().pBIMCtrl,
-                                                      frame::FormatearCadena(iCadenaCategoria, L""), iSimbolo);
-            if (elegido.bValido)
-                iSimbolo = elegido.iSimbolo;
-            else
-                ui::MostrarAviso(L"La categoria a la que pertenece el simbolo \"" + elegido.csNombre +
-                                     L"\" no corresponde. La selección no es válida.",
-                                 ui::Icono::advertencia);
-        });
+        int& iSimbolo = this->datos.*simbolo;
+        auto& boton =
+            AnadirBoton(donde, ui::NombreDeCampo(simbolo), L"...", lugar, [&iSimbolo, iCadenaCategoria] {
+                const auto elegido = frame::ElegirSimbolo(
+                    *frame::Estado().pBIMCtrl, frame::FormatearCadena(iCadenaCategoria, L""), iSimbolo);
+                if (elegido.bValido)
+                    iSimbolo = elegido.iSimbolo;
+                else
+                    ui::MostrarAviso(L"La categoria a la que pertenece el simbolo \"" + elegido.csNombre +
+                                         L"\" no corresponde. La selección no es válida.",
+                                     ui::Icono::advertencia);
+            });
         boton.bHabilitado = frame::Estado().pBIMCtrl != nullptr;
     }
 
     const catalogues::Bases& m_bases;
-    int bModificado = 0;  ///< a field was typed into and no calculation has run since
+    int bModificado = 0;       ///< a field was typed into and no calculation has run since
+    bool m_bPendiente = true;  ///< the forced calculation of the opening hasn't run yet
 };
 
 }  // namespace efv::assistants

@@ -5,13 +5,11 @@
 
 #include "platform/numero/conversion.h"
 
-using efv::assistants::PerdidasAislada;
-
-CDlgDatosPerdidasSolarAislada::CDlgDatosPerdidasSolarAislada(const PerdidasAislada& inicial)
+CDlgDatosPerdidasSolarAislada::CDlgDatosPerdidasSolarAislada(const CSFVAsistenteAislada& inicial)
     : DialogoFicha("CDlgDatosPerdidasSolarAislada", L"Criterios de pérdida para el cálculo de acumuladores",
                    inicial, {})
 {
-    Anadir(efv::assistants::kFilasPerdidas<PerdidasAislada>);
+    Anadir(efv::assistants::kPerdidas<CSFVAsistenteAislada>);
     Volcar();
 }
 

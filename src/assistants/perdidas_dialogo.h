@@ -1,30 +1,26 @@
 // Dialog of the losses that batteries are sized with.
 #pragma once
 
+#include "assistants/asistente_aislada_registro.h"
+#include "ui/campos_registro.h"
 #include "ui/filas.h"
 
 namespace efv::assistants {
 
-/// Percentages.
-struct PerdidasAislada {
-    double dPerdidaCableado = 0.0;
-    double dPerdidaAcumulador = 0.0;
-    double dPerdidaAcoplamiento = 0.0;
-};
-
 /// The three fields, for whoever edits them among others.
 template <class V>
-inline constexpr auto kFilasPerdidas = std::to_array<ui::Fila<V>>({
-    {"dPerdidaCableado", &V::dPerdidaCableado, L"Pérdidas en el cableado (%):", {0, 100}},
-    {"dPerdidaAcumulador", &V::dPerdidaAcumulador, L"Pérdidas en el acumulador (%):", {0, 100}},
-    {"dPerdidaAcoplamiento", &V::dPerdidaAcoplamiento, L"Pérdidas por acoplamiento (%):", {0, 100}},
+inline constexpr auto kPerdidas = ui::Campos<V>({
+    {&V::dPerdidaCableado, L"Pérdidas en el cableado (%):"},
+    {&V::dPerdidaAcumulador, L"Pérdidas en el acumulador (%):"},
+    {&V::dPerdidaAcoplamiento, L"Pérdidas por acoplamiento (%):"},
 });
 
 }  // namespace efv::assistants
 
-class CDlgDatosPerdidasSolarAislada : public efv::ui::DialogoFicha<efv::assistants::PerdidasAislada> {
+/// On a record of which only the three losses count.
+class CDlgDatosPerdidasSolarAislada : public efv::ui::DialogoFicha<CSFVAsistenteAislada> {
 public:
-    explicit CDlgDatosPerdidasSolarAislada(const efv::assistants::PerdidasAislada& inicial);
+    explicit CDlgDatosPerdidasSolarAislada(const CSFVAsistenteAislada& inicial);
 
 private:
     bool AlAceptar() override;

@@ -14,69 +14,55 @@ namespace ui = efv::ui;
 namespace as = efv::assistants;
 using V = as::ValoresRed;
 
-constexpr int kCategoriaPanel = 20413;
-constexpr int kCategoriaInversor = 20417;
-
 constexpr ui::Lugar kGrupoObjetivo{.grupo = L"Instalación"};
 constexpr ui::Lugar kGrupoInversor{.grupo = L"Inversor"};
 constexpr ui::Lugar kGrupoPanel{.grupo = L"Paneles fotovoltaicos"};
 constexpr ui::Lugar kGrupoGeometria{.grupo = L"Disposición", .iColumna = 1};
 constexpr ui::Lugar kGrupoResultado{.grupo = L"Solución del sistema", .iColumna = 1};
 
-constexpr auto kObjetivo = std::to_array<ui::Fila<V>>({
-    {"dPotenciaObjetivo", &V::dPotenciaObjetivo, L"Potencia mínima instalada (kW):", {0, 1000000}},
-    {"dLongitudL1", &V::dLongitudL1, L"Longitud cableado Generador - Inversor [L1]: ", {0, 1000}},
-    {"dLongitudL2", &V::dLongitudL2, L"Longitud cableado Inversor - Caja conexión [L2]:", {0, 1000}},
-    {"dLongitudL3", &V::dLongitudL3, L"Longitud cableado Caja Conexión - Red [L3]:", {0, 1000}},
+constexpr auto kObjetivo = ui::Campos<V>({
+    {&V::dPotenciaObjetivo, L"Potencia mínima instalada (kW):"},
+    {&V::dLongitudL1, L"Longitud cableado Generador - Inversor [L1]: "},
+    {&V::dLongitudL2, L"Longitud cableado Inversor - Caja conexión [L2]:"},
+    {&V::dLongitudL3, L"Longitud cableado Caja Conexión - Red [L3]:"},
 });
 
-constexpr auto kInversores =
-    std::to_array<ui::Fila<V>>({{"iInversores", &V::iInversores, L"Nº de inversores:", {1, 100000}}});
-constexpr auto kInversoresP = std::to_array<ui::Fila<V>>({{"iInversoresP", &V::iInversoresP, L""}});
+constexpr auto kInversores = ui::Campos<V>({{&V::iInversores, L"Nº de inversores:"}});
+constexpr auto kInversoresP = ui::Campos<V>({{&V::iInversoresP, L""}});
 
-constexpr auto kRamales = std::to_array<ui::Fila<V>>({
-    {"iPanelesSerie", &V::iPanelesSerie, L"Nº de paneles por ramal:", {1, 100000}},
-    {"iPanelesParalelo", &V::iPanelesParalelo, L"Nº de ramales en paralelo:", {1, 100000}},
+constexpr auto kRamales = ui::Campos<V>({
+    {&V::iPanelesSerie, L"Nº de paneles por ramal:"},
+    {&V::iPanelesParalelo, L"Nº de ramales en paralelo:"},
 });
-constexpr auto kRamalesP = std::to_array<ui::Fila<V>>({
-    {"iPanelesSerieP", &V::iPanelesSerieP, L""},
-    {"iPanelesParaleloP", &V::iPanelesParaleloP, L""},
-});
+constexpr auto kRamalesP = ui::Campos<V>({{&V::iPanelesSerieP, L""}, {&V::iPanelesParaleloP, L""}});
 
-constexpr auto kFilasDePaneles = std::to_array<ui::Fila<V>>({
-    {"dPanelesPorFila", &V::dPanelesPorFila, L"Nº máximo de paneles por fila:", {1, 1000}, 0},
-    {"dDistanciaPaneles", &V::dDistanciaPaneles, L"Distancia panel - panel (mm):", {0, 10000}, 0},
-    {"dDistanciaFilas", &V::dDistanciaFilas, L"Distancia fila - fila (mm):", {0, 100000}, 0},
+constexpr auto kFilasDePaneles = ui::Campos<V>({
+    {.miembro = &V::dPanelesPorFila, .rotulo = L"Nº máximo de paneles por fila:", .decimales = 0},
+    {.miembro = &V::dDistanciaPaneles, .rotulo = L"Distancia panel - panel (mm):", .decimales = 0},
+    {.miembro = &V::dDistanciaFilas, .rotulo = L"Distancia fila - fila (mm):", .decimales = 0},
 });
 
-constexpr auto kTotales = std::to_array<ui::Fila<V>>({
-    {"dPotenciaInversorCampo", &V::dPotenciaInversorCampo, L"Potencia (Wp):"},
-    {"dTensionRamal", &V::dTensionRamal, L"Tensión del ramal (V):"},
-    {"iPanelesInversor", &V::iPanelesInversor, L"Nº de paneles por inversor:"},
-    {"iTotalPaneles", &V::iTotalPaneles, L"Nº de paneles en total:"},
-    {"dPotenciaTotal", &V::dPotenciaTotal, L"Potencia total instalada (kW):"},
-    {"dPotenciaInversores", &V::dPotenciaInversores, L"Potencia total de inversores (kW):"},
-    {.nombre = "dSuperficieTotal",
-     .campo = &V::dSuperficieTotal,
-     .rotulo = L"Superficie solar total (~SUP~):",
-     .magnitud = L"Superficie"},
-    {.nombre = "dSuperficieProyectada",
-     .campo = &V::dSuperficieProyectada,
+constexpr auto kTotales = ui::Campos<V>({
+    {&V::dPotenciaInversorCampo, L"Potencia (Wp):"},
+    {&V::dTensionRamal, L"Tensión del ramal (V):"},
+    {&V::iPanelesInversor, L"Nº de paneles por inversor:"},
+    {&V::iTotalPaneles, L"Nº de paneles en total:"},
+    {&V::dPotenciaTotal, L"Potencia total instalada (kW):"},
+    {&V::dPotenciaInversores, L"Potencia total de inversores (kW):"},
+    {.miembro = &V::dSuperficieTotal, .rotulo = L"Superficie solar total (~SUP~):", .magnitud = L"Superficie"},
+    {.miembro = &V::dSuperficieProyectada,
      .rotulo = L"Superficie solar proyectada (~SUP~):",
      .magnitud = L"Superficie"},
 });
-constexpr auto kTotalesP = std::to_array<ui::Fila<V>>({
-    {"dPotenciaInversorCampoP", &V::dPotenciaInversorCampoP, L""},
-    {"dTensionRamalP", &V::dTensionRamalP, L""},
-    {"iPanelesInversorP", &V::iPanelesInversorP, L""},
-    {"iTotalPanelesP", &V::iTotalPanelesP, L""},
-    {"dPotenciaTotalP", &V::dPotenciaTotalP, L""},
-    {"dPotenciaInversoresP", &V::dPotenciaInversoresP, L""},
-    {.nombre = "dSuperficieTotalP", .campo = &V::dSuperficieTotalP, .rotulo = L"", .magnitud = L"Superficie"},
-    {.nombre = "dSuperficieProyectadaP",
-     .campo = &V::dSuperficieProyectadaP,
-     .rotulo = L"",
-     .magnitud = L"Superficie"},
+constexpr auto kTotalesP = ui::Campos<V>({
+    {&V::dPotenciaInversorCampoP, L""},
+    {&V::dTensionRamalP, L""},
+    {&V::iPanelesInversorP, L""},
+    {&V::iTotalPanelesP, L""},
+    {&V::dPotenciaTotalP, L""},
+    {&V::dPotenciaInversoresP, L""},
+    {.miembro = &V::dSuperficieTotalP, .rotulo = L"", .magnitud = L"Superficie"},
+    {.miembro = &V::dSuperficieProyectadaP, .rotulo = L"", .magnitud = L"Superficie"},
 });
 
 CString RotuloDe(const CString& csId)
@@ -98,53 +84,65 @@ CDlgAsistenteSFVRed::CDlgAsistenteSFVRed(const V& inicial, const as::TextoLugar&
     AnadirResultadosTotales();
     AnadirNotas();
 
-    Vigilar("dPotenciaObjetivo", true);
-    for (const char* campo :
-         {"iInversores", "iPanelesSerie", "iPanelesParalelo", "dInclinacion", "dOrientacion"})
-        Vigilar(campo);
+    Vigilar(&V::dPotenciaObjetivo, true);
+    for (const ui::Miembro<V>& miembro : {ui::Miembro<V>(&V::iInversores), ui::Miembro<V>(&V::iPanelesSerie),
+                                          ui::Miembro<V>(&V::iPanelesParalelo),
+                                          ui::Miembro<V>(&V::dInclinacion), ui::Miembro<V>(&V::dOrientacion)})
+        Vigilar(miembro);
     LeerInversor();
     LeerPanel();
     MostrarValores();
     Recalcular(true);
-    m_bAbierto = true;
 }
 
 void CDlgAsistenteSFVRed::AnadirEquipos()
 {
-    m_inversor = &AnadirBoton("csInversor", L"", kGrupoInversor, [this] { ElegirInversor(); });
-    AnadirSimbolo("iSimboloInversor", datos.iSimboloInversor, kCategoriaInversor, kGrupoInversor);
-    auto& nominal = Anadir<ui::Edicion>("dPCANom", L"Potencia Nominal (W):");
-    auto& nominalP = Anadir<ui::Edicion>("dPCANomP", L"");
-    nominal.destino = nominalP.destino = &datos.inversor.dPCANom;
-    nominal.lugar = nominalP.lugar = kGrupoInversor;
-    SoloMostrar(nominal, ui::kNegro);
-    SoloMostrar(nominalP, as::kColorPropuesta);
+    const auto elegible = [this](CString V::*modelo, const ui::Lugar& lugar,
+                                 void (CDlgAsistenteSFVRed::*elegir)()) {
+        return &AnadirBoton(*this, ui::NombreDeCampo(modelo), L"", lugar,
+                            [this, elegir] { (this->*elegir)(); });
+    };
+    m_inversor = elegible(&V::csInversor, kGrupoInversor, &CDlgAsistenteSFVRed::ElegirInversor);
+    AnadirSimbolo(*this, &V::iSimboloInversor, as::kCategoriaInversor, kGrupoInversor);
+    m_nominal = &AnadirNominal("dPCANom", L"Potencia Nominal (W):", ui::kNegro);
+    m_nominalP = &AnadirNominal("dPCANomP", L"", as::kColorPropuesta);
     m_rango = &Anadir<ui::TextoFijo>("csRangoMPPT", L"Rango tensiones MPPT (máx./min.):");
     m_rango->lugar = kGrupoInversor;
     Anadir(kInversores, kGrupoInversor);
-    AnadirResultados(kInversoresP, as::kColorPropuesta, kGrupoInversor);
+    AnadirResultados(*this, kInversoresP, as::kColorPropuesta, kGrupoInversor);
 
-    m_panel = &AnadirBoton("csPanel", L"", kGrupoPanel, [this] { ElegirPanel(); });
-    AnadirSimbolo("iSimboloPanel", datos.iSimboloPanel, kCategoriaPanel, kGrupoPanel);
+    m_panel = elegible(&V::csPanel, kGrupoPanel, &CDlgAsistenteSFVRed::ElegirPanel);
+    AnadirSimbolo(*this, &V::iSimboloPanel, as::kCategoriaPanel, kGrupoPanel);
     Anadir(kRamales, kGrupoPanel);
-    AnadirResultados(kRamalesP, as::kColorPropuesta, kGrupoPanel);
+    AnadirResultados(*this, kRamalesP, as::kColorPropuesta, kGrupoPanel);
+}
+
+// The inverter's nominal output, which stands there twice.
+ui::Edicion& CDlgAsistenteSFVRed::AnadirNominal(std::string_view nombre, std::wstring_view rotulo,
+                                                ui::Color color)
+{
+    auto& nominal = Anadir<ui::Edicion>(nombre, rotulo);
+    nominal.destino = &datos.inversor.dPCANom;
+    nominal.lugar = kGrupoInversor;
+    SoloMostrar(nominal, color);
+    return nominal;
 }
 
 void CDlgAsistenteSFVRed::AnadirCampo()
 {
     Anadir(as::kAngulos<V>, kGrupoGeometria);
-    AnadirResultados(as::kAngulosP<V>, as::kColorPropuesta, kGrupoGeometria);
-    AnadirBoton("CDlgImgCoordenadas", L"...", kGrupoGeometria, [] { CDlgImgCoordenadas().Mostrar(); });
+    AnadirResultados(*this, as::kAngulosP<V>, as::kColorPropuesta, kGrupoGeometria);
+    AnadirBoton(*this, "CDlgImgCoordenadas", L"...", kGrupoGeometria, [] { CDlgImgCoordenadas().Mostrar(); });
     Anadir(kFilasDePaneles, kGrupoGeometria);
-    AnadirResultados(as::kDistanciaP<V>, as::kColorPropuesta, kGrupoGeometria);
-    AnadirBoton("EspaciarFilas", L"...", kGrupoGeometria, [this] { AlEspaciar(); });
-    AnadirDisposicion(kGrupoGeometria, [this] { AlElegirDisposicion(); });
+    AnadirResultados(*this, as::kDistanciaP<V>, as::kColorPropuesta, kGrupoGeometria);
+    AnadirBoton(*this, "EspaciarFilas", L"...", kGrupoGeometria, [this] { AlEspaciar(); });
+    m_disposicion = &AnadirDisposicion(*this, kGrupoGeometria, [this] { AlElegirDisposicion(); });
 }
 
 void CDlgAsistenteSFVRed::AnadirResultadosTotales()
 {
-    AnadirResultados(kTotales, ui::kNegro, kGrupoResultado);
-    AnadirResultados(kTotalesP, as::kColorPropuesta, kGrupoResultado);
+    AnadirResultados(*this, kTotales, ui::kNegro, kGrupoResultado);
+    AnadirResultados(*this, kTotalesP, as::kColorPropuesta, kGrupoResultado);
 }
 
 bool CDlgAsistenteSFVRed::LeerInversor()
@@ -165,13 +163,21 @@ bool CDlgAsistenteSFVRed::LeerPanel()
 
 void CDlgAsistenteSFVRed::ElegirInversor()
 {
-    if (m_bases.elegirInversor(datos.csInversor) == 1 && LeerInversor())
+    if (m_bases.elegirInversor(datos.csInversor) != 1)
+        return;
+    const bool bHallado = LeerInversor();
+    MostrarModelos();
+    if (bHallado)
         Recalcular(true);
 }
 
 void CDlgAsistenteSFVRed::ElegirPanel()
 {
-    if (m_bases.elegirPanelFoto(datos.csPanel) == 1 && LeerPanel())
+    if (m_bases.elegirPanelFoto(datos.csPanel) != 1)
+        return;
+    const bool bHallado = LeerPanel();
+    MostrarModelos();
+    if (bHallado)
         Recalcular(true);
 }
 
@@ -179,11 +185,10 @@ void CDlgAsistenteSFVRed::ElegirPanel()
 void CDlgAsistenteSFVRed::AlElegirDisposicion()
 {
     bModificado = 1;
-    const int iElegida = ControlDe<ui::Seleccion>("iDisposicion").iSeleccion;
-    if (iElegida == datos.iDisposicion)
+    if (m_disposicion->iSeleccion == datos.iDisposicion)
         return;
     std::swap(datos.panel.dLargoPanel, datos.panel.dAnchoPanel);
-    datos.iDisposicion = iElegida;
+    datos.iDisposicion = m_disposicion->iSeleccion;
     Recalcular(false);
     bModificado = 0;
 }
@@ -191,24 +196,28 @@ void CDlgAsistenteSFVRed::AlElegirDisposicion()
 void CDlgAsistenteSFVRed::AlEspaciar()
 {
     if (as::EspaciarFilas(datos))
-        ControlDe<ui::Edicion>("dDistanciaFilas").csTexto =
-            efv::numero::nuConvertFltToIntlStr(datos.dDistanciaFilas, 2);
+        De(&V::dDistanciaFilas).csTexto = efv::numero::nuConvertFltToIntlStr(datos.dDistanciaFilas, 2);
 }
 
-void CDlgAsistenteSFVRed::MostrarValores()
+// Captions and figures of the two models, which no typed field touches.
+void CDlgAsistenteSFVRed::MostrarModelos()
 {
     m_inversor->csRotulo = RotuloDe(datos.csInversor);
     m_panel->csRotulo = RotuloDe(datos.csPanel);
     m_rango->csTexto = efv::numero::nuConvertFltToIntlStr(datos.inversor.dVMPPMax, 0) + L"/" +
                        efv::numero::nuConvertFltToIntlStr(datos.inversor.dVMPPMin, 0);
+    ui::Volcar(*m_nominal);
+    ui::Volcar(*m_nominalP);
+}
+
+void CDlgAsistenteSFVRed::MostrarValores()
+{
+    MostrarModelos();
     Volcar();
 }
 
-void CDlgAsistenteSFVRed::Recalcular(bool bForzar)
+void CDlgAsistenteSFVRed::Calcular(bool bForzar)
 {
-    // Nobody sees the fields yet while the dialog is being set up.
-    if (m_bAbierto ? !RecogerAvisando() : Recoger().has_value())
-        return;
     as::RecalcularRed(datos, bForzar);
     MostrarValores();
 }
@@ -216,6 +225,8 @@ void CDlgAsistenteSFVRed::Recalcular(bool bForzar)
 // On the values as last calculated: the fields are taken over after this.
 bool CDlgAsistenteSFVRed::AntesDeAceptar()
 {
+    if (!AbiertoDelTodo())
+        return true;
     const auto error = [](const CString& csTexto) {
         ui::MostrarAviso(csTexto, ui::Icono::error);
         return false;

@@ -12,6 +12,7 @@ public:
 
 private:
     void AnadirEquipos();
+    efv::ui::Edicion& AnadirNominal(std::string_view nombre, std::wstring_view rotulo, efv::ui::Color color);
     void AnadirCampo();
     void AnadirResultadosTotales();
 
@@ -21,12 +22,15 @@ private:
     void ElegirPanel();
     void AlElegirDisposicion();
     void AlEspaciar();
+    void MostrarModelos();
     void MostrarValores();
-    void Recalcular(bool bForzar) override;
+    void Calcular(bool bForzar) override;
     bool AntesDeAceptar() override;
 
     efv::ui::Boton* m_inversor = nullptr;
     efv::ui::Boton* m_panel = nullptr;
     efv::ui::TextoFijo* m_rango = nullptr;
-    bool m_bAbierto = false;
+    efv::ui::Edicion* m_nominal = nullptr;
+    efv::ui::Edicion* m_nominalP = nullptr;
+    efv::ui::Seleccion* m_disposicion = nullptr;
 };

@@ -45,7 +45,7 @@ int phAsistenteSFVRed(CString csLugar, double dLatitud, int iHemisferio, CSFVAsi
     as::ValoresRed valores;
     static_cast<CSFVAsistenteRed&>(valores) = asistente;
     valores.dLatitud = dLatitud;
-    valores.csHemisferio = iHemisferio != 0 ? L"N" : L"S";
+    valores.csHemisferio = iHemisferio == 1 ? L"N" : L"S";
     CDlgAsistenteSFVRed dialogo(valores, as::PartirLugar(csLugar), efv::module::Bases());
     if (dialogo.Mostrar() != Dialogo::ok)
         return 0;
@@ -57,7 +57,11 @@ int phAsistenteSFVRed(CString csLugar, double dLatitud, int iHemisferio, CSFVAsi
 int phDatosPerdidasAislada(double& dPerdidaCableado, double& dPerdidaAcumulador, double& dPerdidaAcoplamiento)
 {
     const AmbitoRecursos ambito;
-    CDlgDatosPerdidasSolarAislada dialogo({dPerdidaCableado, dPerdidaAcumulador, dPerdidaAcoplamiento});
+    CSFVAsistenteAislada perdidas;
+    perdidas.dPerdidaCableado = dPerdidaCableado;
+    perdidas.dPerdidaAcumulador = dPerdidaAcumulador;
+    perdidas.dPerdidaAcoplamiento = dPerdidaAcoplamiento;
+    CDlgDatosPerdidasSolarAislada dialogo(perdidas);
     if (dialogo.Mostrar() != Dialogo::ok)
         return 0;
     dPerdidaCableado = dialogo.datos.dPerdidaCableado;

@@ -3,7 +3,7 @@
 
 #include <quorvel/report/disenos.h>
 
-#include "assistants/cargas_aislada.h"
+#include "assistants/receptores_aislada.h"
 #include "report/campos.h"
 #include "report/receptores.h"
 #include "solar/calendario.h"
@@ -35,7 +35,7 @@ ProyectoAislada ProyectoDe(const CSFVAsistenteAislada& diseno, const Catalogos& 
     ProyectoAislada proyecto;
     proyecto.registro = diseno;
     proyecto.fijados = CamposFijos(proyecto.registro);
-    proyecto.receptores = assistants::LeerCargas(diseno, catalogos.receptores);
+    proyecto.receptores = assistants::LeerReceptores(diseno, catalogos.receptores);
     proyecto.acumulador = catalogos.acumuladores.BuscarModelo(diseno.csAcumulador);
     proyecto.panel = catalogos.paneles.BuscarModelo(diseno.csPanel);
     return proyecto;
@@ -51,14 +51,16 @@ EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& tabla)
     v.adRadiacion = proyecto.lugar.adRadiacion.value_or(solar::DoceMeses{});
 
     estudio.adNecesaria = EnergiaNecesaria(proyecto.receptores);
-    std::vector<assistants::Carga> cargas;
+    std::vector<assistants::DatosReceptor> receptores;
     for (const auto& receptor : proyecto.receptores)
-        cargas.push_back({receptor->iCantidad, receptor->dPotencia, HorasDeCalculo(*receptor)});
+        receptores.push_back({receptor->iCantidad, receptor->dPotencia, HorasDeCalculo(*receptor)});
     const auto factores = [&](double dLatitud, int iHemisferio, double dAlpha) {
         return solar::FactoresK(tabla, dLatitud, iHemisferio, dAlpha);
     };
-    const assistants::EntradaAislada entrada = {
-        .acumulador = proyecto.acumulador, .panel = proyecto.panel, .cargas = cargas, .factoresK = factores};
+    const assistants::EntradaAislada entrada = {.acumulador = proyecto.acumulador,
+                                                .panel = proyecto.panel,
+                                                .receptores = receptores,
+                                                .factoresK = factores};
     assistants::Recalcular(v, entrada, true);
     CopiarCampos(proyecto.registro, v, proyecto.fijados);
     assistants::Recalcular(v, entrada, false);

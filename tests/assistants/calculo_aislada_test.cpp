@@ -61,10 +61,10 @@ TEST(CalculoAislada, DaLosVectores)
                  acumulador.dCapC100, acumulador.dCapC120) =
             std::tie(caps[0], caps[1], caps[2], caps[3], caps[4], caps[5]);
         const auto numeros = pruebas::Numeros(vector.Entrada("cargas"));
-        std::vector<Carga> cargas;
+        std::vector<DatosReceptor> receptores;
         for (std::size_t c = 0; c < numeros.size(); c += 3)
-            cargas.push_back({static_cast<int>(numeros[c]), numeros[c + 1], numeros[c + 2]});
-        Recalcular(v, {&acumulador, &panel, cargas, FactorVectores}, vector.bForzar);
+            receptores.push_back({static_cast<int>(numeros[c]), numeros[c + 1], numeros[c + 2]});
+        Recalcular(v, {&acumulador, &panel, receptores, FactorVectores}, vector.bForzar);
         for (const auto& [nombre, texto] : vector.resultados)
             pruebas::Esperar(Nombrados(v), nombre, texto, i);
     }
@@ -77,7 +77,7 @@ protected:
     ValoresAislada v;
     CBaseAcumuladorModelo acumulador;
     CBasePanelFotoModelo panel;
-    std::vector<Carga> cargas{{2, 100.0, 3.0}, {1, 50.0, 8.0}};
+    std::vector<DatosReceptor> receptores{{2, 100.0, 3.0}, {1, 50.0, 8.0}};
     ConsultaFactoresK factores = [](double, int, double) { return Todos(1.0); };
 
     CalculoAisladaAMano()
@@ -106,7 +106,7 @@ protected:
         return k;
     }
 
-    void Calcular(bool bForzar) { Recalcular(v, {&acumulador, &panel, cargas, factores}, bForzar); }
+    void Calcular(bool bForzar) { Recalcular(v, {&acumulador, &panel, receptores, factores}, bForzar); }
 };
 
 TEST_F(CalculoAisladaAMano, DimensionaAcumuladoresYPaneles)
@@ -150,9 +150,9 @@ TEST_F(CalculoAisladaAMano, SinForzarSoloLosAcumuladoresPorRamalSiguenLaPropuest
     EXPECT_EQ(v.iRamalesNecesarios, 10);
 }
 
-TEST_F(CalculoAisladaAMano, SinCargasSeProponeUnRamalDeCada)
+TEST_F(CalculoAisladaAMano, SinReceptoresSeProponeUnRamalDeCada)
 {
-    cargas.clear();
+    receptores.clear();
     Calcular(true);
     EXPECT_EQ(v.dCapacidadNecesaria, 0.0);
     EXPECT_EQ(v.iAcumuladoresParalelo, 1);
@@ -167,7 +167,7 @@ TEST_F(CalculoAisladaAMano, MasDeDiezHorasPicoPropuestasCuentanComoNinguna)
     EXPECT_EQ(v.dHSPP, 10.0);
     EXPECT_EQ(v.iPanelesParaleloP, 1);
     factores = [](double, int, double) { return Todos(1.05); };
-    cargas.front().iCantidad = 200;
+    receptores.front().iCantidad = 200;
     Calcular(true);
     EXPECT_EQ(v.dHSP, 1.05 * 36000 / 3600);
     EXPECT_EQ(v.dHSPP, 0.0);
@@ -219,8 +219,8 @@ TEST_F(CalculoAisladaAMano, UnModeloDesconocidoDejaLoAnterior)
 {
     Calcular(true);
     const int iParalelo = v.iPanelesParalelo;
-    cargas.front().iCantidad = 50;
-    Recalcular(v, {&acumulador, nullptr, cargas, factores}, true);
+    receptores.front().iCantidad = 50;
+    Recalcular(v, {&acumulador, nullptr, receptores, factores}, true);
     EXPECT_EQ(v.iPanelesParalelo, iParalelo);
     EXPECT_GT(v.iAcumuladoresParalelo, 3);
     const int iAcumuladores = v.iAcumuladoresParalelo;
@@ -279,7 +279,7 @@ TEST(Equipos, LaCapacidadEnVigorEsLaQueSobresale)
     EXPECT_EQ(EnVigor({}), std::nullopt);
 }
 
-TEST(ValoresAislada, VanYVuelvenDelRegistroSinSusCargas)
+TEST(ValoresAislada, VanYVuelvenDelRegistroSinSusReceptores)
 {
     CSFVAsistenteAislada registro;
     registro.adCantidad.Add(3.0);

@@ -88,11 +88,11 @@ protected:
         };
         const std::string inversor =
             "dPCANom='2500' dVMPPMax='400' dVMPPMin='100' dVCCMax='500' dICCMax='20' iNumMPPT='1' ";
-        EXPECT_EQ(
-            phCargarBaseInversores(escribir(
-                "i.xml", "<Modelo csModelo='i' iNumEntradas='1' iTipoSalida='1' " + inversor +
-                             "/><Modelo csModelo='sin' iUsoPrincipal='1' iNumEntradas='9' " + inversor + "/>")),
-            1);
+        EXPECT_EQ(phCargarBaseInversores(escribir(
+                      "i.xml", "<Modelo csModelo='i' iNumEntradas='1' iTipoSalida='1' " + inversor +
+                                   "/><Modelo csModelo='sin' iUsoPrincipal='1' iNumEntradas='9' " + inversor +
+                                   "/><Modelo csModelo='otro' dPCANom='1000' dVMPPMax='300' dVMPPMin='90'/>")),
+                  1);
         EXPECT_EQ(phCargarBasePanelesFotovoltaicos(
                       escribir("p.xml",
                                "<Modelo csModelo='p' dPmpm='250' dVmpm='30' dImpm='8' dVoc='36' dH='1600' "
@@ -194,6 +194,45 @@ TEST_F(AsistenteRed, ElegirUnModeloRecalculaConLaPropuesta)
               (std::vector<CString>{L"Inversor no indicado para uso en conexión a red. Elija otro modelo."}));
 }
 
+// An invalid field stops the recalculation; the model's own caption and figures are already the new one's.
+TEST_F(AsistenteRed, UnModeloElegidoSeMuestraAunqueElCalculoSePare)
+{
+    guion.Dialogo("CDlgAsistenteSFVRed",
+                  {paso::Poner{"dLongitudL1", L"x"}, paso::Pulsar{"csInversor"},
+                   paso::Leer{{"csInversor", "csRangoMPPT", "dPCANom", "dPCANomP", "dLongitudL1"}}});
+    guion.Dialogo("CDlgVisorXML", {paso::Elegir{"arbol", CString(L"A#otro")}, paso::Pulsar{"OK"}});
+    EXPECT_EQ(phAsistenteSFVRed(L"", 40.0, 1, registro), 0);
+    EXPECT_EQ(guion.Texto(0, 0, "csInversor"), L"A#otro");
+    EXPECT_EQ(guion.Texto(0, 0, "csRangoMPPT"), L"300/90");
+    EXPECT_EQ(guion.Texto(0, 0, "dPCANom"), L"1000,00");
+    EXPECT_EQ(guion.Texto(0, 0, "dPCANomP"), L"1000,00");
+    EXPECT_EQ(guion.Texto(0, 0, "dLongitudL1"), L"x");
+}
+
+TEST_F(AsistenteRed, SoloElUnoEsElNorte)
+{
+    for (const int iHemisferio : {0, 2, -1}) {
+        guion.Dialogo("CDlgAsistenteSFVRed", {paso::Pulsar{"OK"}});
+        EXPECT_EQ(phAsistenteSFVRed(L"", 40.0, iHemisferio, registro), 1);
+        EXPECT_EQ(registro.dOrientacion, 180.0) << iHemisferio;
+    }
+}
+
+TEST_F(AsistenteRed, AbiertoFueraDeLimitesLoDiceYCalculaEnCuantoPuede)
+{
+    registro.dLongitudL2 = 1001.0;
+    EXPECT_EQ(Correr({paso::Leer{{"dLongitudL2", "iInversoresP"}}, paso::Pulsar{"OK"},
+                      paso::Poner{"dLongitudL2", L"4"}, paso::Pulsar{"OK"}}),
+              1);
+    EXPECT_EQ(guion.Mensajes(), (std::vector<CString>{L"Introduzca un número entre 0 y 1000."}));
+    EXPECT_EQ(guion.Texto(0, 0, "dLongitudL2"), L"1001,00");
+    EXPECT_EQ(guion.Texto(0, 0, "iInversoresP"), L"0");
+    // 3000 W on inverters of 2500 W; |40| - 10 degrees.
+    EXPECT_EQ(registro.iInversores, 2);
+    EXPECT_EQ(registro.dInclinacion, 30.0);
+    EXPECT_EQ(registro.dLongitudL2, 4.0);
+}
+
 TEST_F(AsistenteRed, AceptarCompruebaEnSuOrden)
 {
     guion.presentador.respuestas = {ui::Respuesta::si};
@@ -260,7 +299,7 @@ protected:
         registro.dTensionMaxFV = 50.0;
         registro.iMesCalculo = 12;
         registro.iPanelesPorFila = 7;
-        AnadirCarga(L"A#r", 2, 480, 600);
+        AnadirReceptor(L"A#r", 2, 480, 600);
     }
     ~AsistenteAislada() override
     {
@@ -271,7 +310,7 @@ protected:
     }
 
     // A load with the same band every day.
-    void AnadirCarga(const CString& csModelo, int iCantidad, double dInicio, double dFin)
+    void AnadirReceptor(const CString& csModelo, int iCantidad, double dInicio, double dFin)
     {
         registro.adCantidad.Add(iCantidad);
         registro.acsModelo.Add(csModelo);
@@ -328,11 +367,11 @@ TEST_F(AsistenteAislada, AbrirYAceptarPoneLaPropuestaEnElRegistro)
     EXPECT_EQ(registro.adHorario.GetSize(), 504);
 }
 
-TEST_F(AsistenteAislada, UnaCargaSinModeloCedeSusBandas)
+TEST_F(AsistenteAislada, UnReceptorSinModeloCedeSusBandas)
 {
     registro.Reset();
-    AnadirCarga(L"A#nadie", 1, 60, 120);
-    AnadirCarga(L"A#r", 1, 60, 660);
+    AnadirReceptor(L"A#nadie", 1, 60, 120);
+    AnadirReceptor(L"A#r", 1, 60, 660);
     Correr({paso::Leer{{"lReceptores", "dEnergiaNecesaria"}}, paso::Pulsar{"Cancel"}});
     EXPECT_EQ(guion.Texto(0, 0, "dEnergiaNecesaria"), L"100,00");  // one hour, of the dropped one
     EXPECT_EQ(registro.adCantidad.GetSize(), 2);
@@ -365,7 +404,7 @@ TEST_F(AsistenteAislada, LosCambiosRecalculan)
 }
 
 // Twice the units: 800 Wh, two branches of batteries.
-TEST_F(AsistenteAislada, EditarUnaCargaRecalculaConLaPropuesta)
+TEST_F(AsistenteAislada, EditarUnReceptorRecalculaConLaPropuesta)
 {
     guion.Dialogo("CDlgAsistenteSFVAislada",
                   {paso::Pulsar{"Editar ..."}, paso::Poner{"iAcumuladoresParalelo", L"5"},
@@ -382,7 +421,7 @@ TEST_F(AsistenteAislada, EditarUnaCargaRecalculaConLaPropuesta)
     EXPECT_EQ(registro.adCantidad, (CArray<double, double&>{4.0}));
 }
 
-TEST_F(AsistenteAislada, EliminarUnaCargaPregunta)
+TEST_F(AsistenteAislada, EliminarUnReceptorPregunta)
 {
     guion.presentador.respuestas = {ui::Respuesta::no, ui::Respuesta::si};
     EXPECT_EQ(Correr({paso::Pulsar{"Eliminar"}, paso::Elegir{"lReceptores", 0}, paso::Pulsar{"Eliminar"},
@@ -425,6 +464,34 @@ TEST_F(AsistenteAislada, UnCampoRechazadoMuestraSuPagina)
     EXPECT_EQ(guion.Texto(0, 0, "dPerdidaCableado"), L"101");
     EXPECT_EQ(guion.Mensajes(), (std::vector<CString>{L"Introduzca un número entre 0 y 100."}));
     EXPECT_EQ(registro.dPerdidaCableado, 0.0);
+}
+
+// The page of the field comes to the front and OK tells the field, not the counts that were never worked out.
+TEST_F(AsistenteAislada, AbiertoFueraDeLimitesMuestraSuPagina)
+{
+    registro.dPerdidaAcoplamiento = 150.0;
+    EXPECT_EQ(Correr({paso::Leer{{"tab", "dPerdidaAcoplamiento", "iPanelesSerieP"}}, paso::Pulsar{"OK"},
+                      paso::Poner{"dPerdidaAcoplamiento", L"0"},
+                      paso::Leer{{"iPanelesSerieP", "iPanelesSerie"}}, paso::Pulsar{"OK"}}),
+              1);
+    EXPECT_EQ(guion.Mensajes(), (std::vector<CString>{L"Introduzca un número entre 0 y 100."}));
+    EXPECT_EQ(guion.Texto(0, 0, "tab"), L"Perdidas");
+    EXPECT_EQ(guion.Texto(0, 0, "dPerdidaAcoplamiento"), L"150,00");
+    // As when it opens within the limits: the proposals go into force.
+    EXPECT_EQ(guion.Texto(0, 1, "iPanelesSerie"), L"2");
+    EXPECT_EQ(registro.iAcumuladoresParalelo, 1);
+    EXPECT_EQ(registro.dInclinacion, 30.0);
+}
+
+TEST_F(AsistenteAislada, UnPanelElegidoSeMuestraAunqueElCalculoSePare)
+{
+    registro.csPanel.clear();
+    guion.Dialogo("CDlgAsistenteSFVAislada",
+                  {paso::Poner{"dDistanciaPaneles", L"x"}, paso::Pulsar{"csPanel"}, paso::Leer{{"csPanel"}}});
+    guion.Dialogo("CDlgVisorXML", {paso::Elegir{"arbol", CString(L"A#p")}, paso::Pulsar{"OK"}});
+    const double adRadiacion[12] = {};
+    EXPECT_EQ(phAsistenteSFVAislada(L"", 40.0, 1, adRadiacion, registro), 0);
+    EXPECT_EQ(guion.Texto(0, 0, "csPanel"), L"A#p");
 }
 
 TEST_F(AsistenteAislada, LaSalidaDeAlternaAbreSusCampos)

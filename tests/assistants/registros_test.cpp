@@ -106,22 +106,22 @@ Bytes Archivar(CObject& registro)
     return bytes;
 }
 
-TEST(RegistrosAsistentes, CadaEsquemaTraeLoSuyoYElRestoQuedaPorDefecto)
+TEST(RegistrosAsistentes, CadaSchemaTraeLoSuyoYElRestoQuedaPorDefecto)
 {
     const auto modelos = LeerModelos();
     ASSERT_EQ(modelos.size(), 2U);
     for (const auto& [clase, modelo] : modelos) {
         ASSERT_EQ(Valores(*CRuntimeClass::FromName(clase)->CreateObject()).size(), modelo.campos.size());
-        for (const auto& [iEsquema, bytes] : modelo.archivos) {
+        for (const auto& [iSchema, bytes] : modelo.archivos) {
             const auto leidos = Valores(*Leer(clase, bytes));
             for (const auto& campo : modelo.campos)
-                EXPECT_EQ(leidos.at(campo.nombre), campo.iDesde <= iEsquema ? campo.valor : campo.defecto)
-                    << clase << " " << iEsquema << " " << campo.nombre;
+                EXPECT_EQ(leidos.at(campo.nombre), campo.iDesde <= iSchema ? campo.valor : campo.defecto)
+                    << clase << " " << iSchema << " " << campo.nombre;
         }
     }
 }
 
-TEST(RegistrosAsistentes, SeEscribeElUltimoEsquemaYUnoPosteriorSeLee)
+TEST(RegistrosAsistentes, SeEscribeElUltimoSchemaYUnoPosteriorSeLee)
 {
     for (const auto& [clase, modelo] : LeerModelos()) {
         const Bytes& actual = modelo.archivos.rbegin()->second;
@@ -136,16 +136,16 @@ TEST(RegistrosAsistentes, SeEscribeElUltimoEsquemaYUnoPosteriorSeLee)
 TEST(RegistrosAsistentes, CualquierCorteEsFinDeArchivo)
 {
     for (const auto& [clase, modelo] : LeerModelos()) {
-        for (const auto& [iEsquema, bytes] : modelo.archivos) {
+        for (const auto& [iSchema, bytes] : modelo.archivos) {
             const std::size_t paso = bytes.size() > 2000 ? 61 : 1;
             for (std::size_t n = 0; n < bytes.size(); n += paso)
                 EXPECT_THROW(Leer(clase, std::span(bytes).first(n)), CArchiveException)
-                    << clase << iEsquema << n;
+                    << clase << iSchema << n;
         }
     }
 }
 
-TEST(RegistrosAsistentes, ReiniciarSoloVaciaLasCargas)
+TEST(RegistrosAsistentes, ReiniciarSoloVaciaLosReceptores)
 {
     const auto modelos = LeerModelos();
     const auto leido = Leer("CSFVAsistenteAislada", modelos.at("CSFVAsistenteAislada").archivos.at(6));

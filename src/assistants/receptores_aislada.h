@@ -11,17 +11,14 @@
 
 namespace efv::assistants {
 
-using ListaCargas = CObArrayPropio<CSFVDataReceptor>;
+using ListaReceptores = CObArrayPropio<CSFVDataReceptor>;
 
 /// Loads out of the record. One whose model the catalogue doesn't have is dropped, and the next takes its
 /// bands of use; bands that the record lacks are empty.
 /// @throws CInvalidArgException when the arrays of models or hours are shorter than that of units
-ListaCargas LeerCargas(const CSFVAsistenteAislada& registro, const CBaseReceptores& base);
-
-/// Loads into the record, in place of those that it has.
-void GuardarCargas(const ListaCargas& cargas, CSFVAsistenteAislada& registro);
+ListaReceptores LeerReceptores(const CSFVAsistenteAislada& registro, const CBaseReceptores& base);
 
 /// What the sizing needs of them. Whether a load is excluded from consumption sums plays no part.
-std::vector<Carga> CargasParaCalculo(const ListaCargas& cargas);
+std::vector<DatosReceptor> ReceptoresParaCalculo(const ListaReceptores& receptores);
 
 }  // namespace efv::assistants
