@@ -19,7 +19,7 @@ using Referencia = std::variant<int*, double*, CString*>;
 /// The values of a sizing by name.
 using Valores = std::map<std::string, Referencia>;
 
-struct Vector {
+struct VectorDiseno {
     bool bForzar;
     std::vector<std::pair<std::string, std::string>> entradas, resultados;
 
@@ -32,13 +32,13 @@ struct Vector {
     }
 };
 
-inline std::vector<Vector> LeerVectores(const std::string& clase)
+inline std::vector<VectorDiseno> LeerVectores(const std::string& clase)
 {
-    std::vector<Vector> vectores;
+    std::vector<VectorDiseno> vectores;
     for (const auto& fila : LeerCsv("assistants/vectores.csv")) {
         if (fila[0] != clase)
             continue;
-        Vector& vector = vectores.emplace_back(fila[1] == "1");
+        VectorDiseno& vector = vectores.emplace_back(fila[1] == "1");
         auto* destino = &vector.entradas;
         for (std::size_t i = 2; i < fila.size(); ++i) {
             const std::size_t igual = fila[i].find('=');

@@ -61,6 +61,8 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
                                                       "CBaseReceptores",
                                                       "CBaseReceptorFamilia",
                                                       "CBaseReceptorModelo",
+                                                      "CSFVCalculoEconomico",
+                                                      "CSFVCalculoEconomicoAuto",
                                                       "CSFVAsistenteAislada",
                                                       "CSFVAsistenteRed",
                                                       "CSFVDataReceptor"}));
