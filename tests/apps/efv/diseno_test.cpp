@@ -381,15 +381,16 @@ TEST_F(Diseno, EnElTerminalLoQueEstaEnVigorVaJuntoALaPropuesta)
     EXPECT_EQ(Disenar("red", Cubierta({{"titulo", "a\x1b[31m\nb"}})).salida.find('\x1b'), std::string::npos);
 }
 
-// 3515 / 0.6768 = 5193.56 needed; the coupling leaves 80 % of it, 4154.85; the wiring 94 % of that, 3905.56; the
-// batteries 90 % of that, 3515.
+// 3515 / 0.6768 = 5193.56 needed; the coupling leaves 80 % of it, 4154.85; the wiring 94 % of that, 3905.56;
+// the batteries 90 % of that, 3515.
 TEST_F(Diseno, LoNecesarioEsLoDeLosReceptoresMasLasPerdidasQueSeEscriben)
 {
     static_assert(3515 + 391 + 249 + 1039 == 5194);
     const std::string casa = SinHuecos(Disenar("aislada", Casa()).salida);
     for (const char* linea :
          {"\n Total 4770,00 3515,00\n", "\n Energía diaria de los receptores 3515 Wh/día\n",
-          "\n Pérdidas en el acumulador 10,00 %, 391 Wh/día\n", "\n Pérdidas en el cableado 6,00 %, 249 Wh/día\n",
+          "\n Pérdidas en el acumulador 10,00 %, 391 Wh/día\n",
+          "\n Pérdidas en el cableado 6,00 %, 249 Wh/día\n",
           "\n Pérdidas por acoplamiento 20,00 %, 1039 Wh/día\n", "\n Energía necesaria 5194 Wh/día\n"})
         EXPECT_NE(casa.find(linea), std::string::npos) << linea;
 }
