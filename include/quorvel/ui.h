@@ -4,6 +4,7 @@
 
 #include <quorvel/ui/arbol.h>
 #include <quorvel/ui/color.h>
+#include <quorvel/ui/como.h>
 #include <quorvel/ui/controles.h>
 #include <quorvel/ui/dialogo.h>
 #include <quorvel/ui/grafica.h>

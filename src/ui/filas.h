@@ -9,12 +9,12 @@
 #include <utility>
 #include <vector>
 
+#include <quorvel/ui/como.h>
 #include <quorvel/ui/dialogo.h>
 #include <quorvel/ui/presentador.h>
 
 #include "platform/numero/tolerancia.h"
 #include "ui/campos.h"
-#include "ui/como.h"
 #include "ui/intercambio.h"
 
 namespace efv::ui {

@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include <quorvel/ui/como.h>
 #include <quorvel/ui/dialogo.h>
 
 #include "platform/numero/conversion.h"
-#include "ui/como.h"
 
 namespace efv::ui {
 

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 
 #include <quorvel/report/ficha.h>
+#include <quorvel/ui/como.h>
 
 #include "comun/numeros.h"
 
@@ -26,11 +27,11 @@ public:
         for (const auto& control : dialogo.Controles()) {
             if (control->nombre != campo.nombre)
                 continue;
-            if (const auto* edicion = dynamic_cast<const ui::Edicion*>(control))
+            if (const auto* edicion = ui::Como<ui::Edicion>(*control))
                 m_iDecimales = edicion->iDecimales;
-            if (const auto* seleccion = dynamic_cast<const Seleccion*>(control))
+            if (const auto* seleccion = ui::Como<Seleccion>(*control))
                 m_acsEntradas = seleccion->acsEntradas;
-            if (dynamic_cast<const ui::Casilla*>(control) != nullptr)
+            if (ui::Como<ui::Casilla>(*control) != nullptr)
                 m_acsEntradas = {L"No", L"Sí"};
         }
         const bool bTexto = campo.clase == CampoCatalogo::Clase::texto || !m_acsEntradas.empty();

@@ -91,11 +91,7 @@ private:
     // One picture, or one of each page.
     void CapturarPaginas(ui::Dialogo& dialogo, QDialog& ventana, const std::string& nombre)
     {
-        ui::Seleccion* paginas = nullptr;
-        for (const auto& control : dialogo.Controles())
-            if (auto* seleccion = dynamic_cast<ui::Seleccion*>(control);
-                seleccion != nullptr && seleccion->forma == ui::Seleccion::Forma::pestanas)
-                paginas = seleccion;
+        ui::Seleccion* const paginas = dialogo.Pestanas();
         if (paginas == nullptr)
             return Capturar(ventana, nombre);
         const int iAntes = paginas->iSeleccion;

@@ -4,7 +4,8 @@
 #include <utility>
 #include <vector>
 
-#include "ui/como.h"
+#include <quorvel/ui/como.h>
+
 #include "ui/intercambio.h"
 
 namespace efv::catalogues {
