@@ -7,7 +7,6 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QLibraryInfo>
-#include <QTemporaryFile>
 #include <QTranslator>
 
 #include <QuorvelEFV.h>
@@ -15,6 +14,7 @@
 
 #include "anfitrion/simbolos.h"
 #include "capturas/capturar.h"
+#include "capturas/pantalla.h"
 #include "datos.h"
 #include "proyecto/ejemplo.h"
 #include "proyecto/recientes.h"
@@ -32,19 +32,15 @@ bool HayOpcion(int argc, char** argv, std::initializer_list<QByteArrayView> opci
     });
 }
 
-// Help and pictures need no screen. Pictures are made on one that isn't there, of a usual size.
-void PrepararPantalla(int argc, char** argv, QTemporaryFile& descripcion)
+// Help and pictures need no screen.
+void PrepararPantalla(int argc, char** argv, PantallaDeCapturas& pantalla)
 {
     if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
         return;
-    if (HayOpcion(argc, argv, {"--capturas"}) && descripcion.open()) {
-        descripcion.write(
-            R"({"screens":[{"name":"capturas","x":0,"y":0,"width":1920,"height":1080,"logicalDpi":96}]})");
-        descripcion.flush();
-        qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + descripcion.fileName().toUtf8());
-    } else if (HayOpcion(argc, argv, {"--help", "--ayuda", "--version", "-h", "-v"})) {
+    if (HayOpcion(argc, argv, {"--capturas"}))
+        pantalla.Poner();
+    else if (HayOpcion(argc, argv, {"--help", "--ayuda", "--version", "-h", "-v"}))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
 }
 
 std::vector<efv::Localidad> Lugares(const std::filesystem::path& datos)
@@ -58,10 +54,12 @@ int Capturar(const std::filesystem::path& datos, const std::filesystem::path& ca
     VentanaPrincipal ventana(Lugares(datos));
     ventana.LaSesion().Nuevo(ProyectoDeEjemplo(ventana.LaSesion().LugarInicial()));
     ventana.show();
-    const int nCapturas =
-        CapturarPrograma(ventana, carpeta) + efv::estudio::Capturar(Pantallas(ventana.LaSesion()), carpeta);
-    std::cout << nCapturas << " capturas en " << carpeta.string() << '\n';
-    return EXIT_SUCCESS;
+    const int nPrograma = CapturarPrograma(ventana, carpeta);
+    const ResultadoCapturas dialogos = efv::estudio::Capturar(Pantallas(ventana.LaSesion()), carpeta);
+    std::cout << nPrograma + dialogos.nCapturas << " capturas en " << carpeta.string() << '\n';
+    for (const std::string& falta : dialogos.faltas)
+        std::cerr << "efv-estudio: " << falta << '\n';
+    return dialogos.faltas.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 // Work goes on without them.
@@ -122,7 +120,7 @@ int Ejecutar(QApplication& programa)
 
 int main(int argc, char** argv)
 {
-    QTemporaryFile pantalla;
+    PantallaDeCapturas pantalla;
     PrepararPantalla(argc, argv, pantalla);
     QApplication programa(argc, argv);
     QApplication::setApplicationName("efv-estudio");

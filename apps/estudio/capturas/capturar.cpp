@@ -1,11 +1,12 @@
 #include "capturas/capturar.h"
 
+#include <algorithm>
 #include <array>
-#include <set>
 #include <stdexcept>
 
 #include <QApplication>
 #include <QDialog>
+#include <QScrollBar>
 
 #include <quorvel/qt.h>
 
@@ -43,18 +44,24 @@ int CapturarEsquema(const Dibujo& dibujo, const std::filesystem::path& carpeta, 
 // Takes a picture of each dialog that opens, then does in it what its screen says.
 class PresentadorCapturas final : public ui::Presentador {
 public:
-    PresentadorCapturas(const Pantalla& pantalla, const std::filesystem::path& carpeta)
-        : m_pantalla(pantalla), m_carpeta(carpeta)
+    PresentadorCapturas(const Pantalla& pantalla, const std::filesystem::path& carpeta,
+                        ResultadoCapturas& resultado)
+        : m_pantalla(pantalla), m_carpeta(carpeta), m_resultado(resultado)
     {
         ui::InstalarPresentador(this);
     }
     ~PresentadorCapturas() override { qt::InstalarPresentadorQt(); }
 
-    int Cuantas() const { return m_nCapturas; }
+    bool HaAbierto(std::string_view clase) const
+    {
+        return std::ranges::find(m_abiertas, clase) != m_abiertas.end();
+    }
 
     void MostrarModal(ui::Dialogo& dialogo) override
     {
         const std::unique_ptr<QDialog> ventana(qt::CrearVentana(dialogo));
+        m_abiertas.push_back(dialogo.clase);
+        m_resultado.clases.insert(dialogo.clase);
         std::string nombre = m_pantalla.nombre + '-' + dialogo.clase;
         // A class that opens again gets a number.
         for (int i = 2; !m_escritos.insert(nombre).second; ++i)
@@ -85,7 +92,10 @@ private:
     void Capturar(QDialog& ventana, const std::string& nombre)
     {
         CapturarVentana(ventana, m_carpeta / (nombre + ".png"));
-        ++m_nCapturas;
+        ++m_resultado.nCapturas;
+        for (const QScrollBar* barra : ventana.findChildren<QScrollBar*>())
+            if (barra->orientation() == Qt::Horizontal && barra->isVisible() && barra->maximum() > 0)
+                m_resultado.faltas.push_back("En «" + nombre + "» no cabe todo a lo ancho.");
     }
 
     // One picture, or one of each page.
@@ -106,26 +116,25 @@ private:
     const Pantalla& m_pantalla;
     const std::filesystem::path& m_carpeta;
     ui::PresentadorNulo m_nadie;
+    ResultadoCapturas& m_resultado;
     std::set<std::string> m_escritos;
-    int m_nCapturas = 0;
+    std::vector<std::string> m_abiertas;
 };
 
 }  // namespace
 
-int Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta)
+ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta)
 {
-    int nCapturas = 0;
+    ResultadoCapturas resultado;
     for (const Pantalla& pantalla : pantallas) {
-        PresentadorCapturas presentador(pantalla, carpeta);
-        if (pantalla.crear) {
-            const auto dialogo = pantalla.crear();
-            dialogo->Mostrar();
-        } else {
-            pantalla.abrir();
-        }
-        nCapturas += presentador.Cuantas();
+        const PresentadorCapturas presentador(pantalla, carpeta, resultado);
+        pantalla.abrir();
+        for (const std::string_view clase : pantalla.clases)
+            if (!presentador.HaAbierto(clase))
+                resultado.faltas.push_back("La pantalla «" + pantalla.nombre + "» no abre " +
+                                           std::string(clase) + '.');
     }
-    return nCapturas;
+    return resultado;
 }
 
 int CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta)

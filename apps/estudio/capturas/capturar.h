@@ -2,6 +2,8 @@
 #pragma once
 
 #include <filesystem>
+#include <set>
+#include <string>
 #include <vector>
 
 #include "capturas/registro.h"
@@ -10,10 +12,15 @@ namespace efv::estudio {
 
 class VentanaPrincipal;
 
+struct ResultadoCapturas {
+    int nCapturas = 0;
+    std::set<std::string> clases;     ///< of the dialogs that opened
+    std::vector<std::string> faltas;  ///< what isn't as it has to be, in Spanish: a dialog that didn't open
+};
+
 /// Writes "name-Class.png" into `carpeta` for every dialog that the screens open.
-/// @return how many.
 /// @throws std::runtime_error when a file can't be written.
-int Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta);
+ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta);
 
 /// Writes a picture of the program's window with each of its tabs, and of both schematics in both themes.
 /// @return how many.

@@ -49,6 +49,13 @@ void ElegirEntrada(ui::Dialogo& dialogo, std::string_view nombre, int iEntrada)
         dialogo.Elegir(*seleccion, iEntrada);
 }
 
+// What a hidden button leads to is there all the same.
+void PulsarOculto(ui::Dialogo& dialogo, std::string_view nombre)
+{
+    if (auto* boton = dynamic_cast<ui::Boton*>(Buscar(dialogo, nombre)); boton != nullptr && boton->alPulsar)
+        boton->alPulsar();
+}
+
 /// Opens what hangs on a dialog of that class.
 struct Ramificacion {
     std::string_view clase;
@@ -77,6 +84,7 @@ constexpr auto kRamificaciones = std::to_array<Ramificacion>({
          Pulsar(d, "Editar ...");
          Pulsar(d, "CDlgImgCoordenadas");
          Pulsar(d, "iSimboloPanel");
+         PulsarOculto(d, "Regulacion");
      }},
     {"CDlgDatosReceptor", [](ui::Dialogo& d) { ElegirEntrada(d, "Unificar planificación", 1); }},
     {"CDlgDatosConsumo",
@@ -87,10 +95,10 @@ constexpr auto kRamificaciones = std::to_array<Ramificacion>({
      }},
     {"CDlgDatosConsumoHoraHora",
      [](ui::Dialogo& d) {
-         ElegirEntrada(d, "iOrigen", 1);  // by a preset, which has its own dialog
-         Pulsar(d, "...");
          Pulsar(d, "Importar datos ...");
          Pulsar(d, "Datos mensuales ...");
+         ElegirEntrada(d, "iOrigen", 1);  // by a preset, which has its own dialog
+         Pulsar(d, "...");
      }},
 });
 
@@ -102,11 +110,10 @@ void Recorrer(ui::Dialogo& dialogo)
 }
 
 // Managing a catalogue: the first model and what hangs on it.
-Pantalla DeCatalogo(std::string nombre, int (*editar)(int))
+Pantalla DeCatalogo(std::string nombre, int (*editar)(int), std::vector<std::string_view> clases)
 {
-    return {std::move(nombre),
-            {},
-            [editar] { editar(0); },
+    clases.insert(clases.end(), {"CDlgVisorXML", "CDlgVisorNombre"});
+    return {std::move(nombre), std::move(clases), [editar] { editar(0); },
             [](ui::Dialogo& dialogo) {
                 if (dialogo.clase == "CDlgVisorXML")
                     ElegirFila(dialogo, "arbol", 1);
@@ -138,10 +145,10 @@ CString PrimerModelo()
 }
 
 // The consumption element by that entry of data. The project has its own back afterwards.
-Pantalla DeConsumo(Sesion& sesion, std::string nombre, int iTipoEntrada)
+Pantalla DeConsumo(Sesion& sesion, std::string nombre, int iTipoEntrada, std::vector<std::string_view> clases)
 {
-    return {std::move(nombre),
-            {},
+    clases.emplace_back("CDlgDatosConsumo");
+    return {std::move(nombre), std::move(clases),
             [&sesion, iTipoEntrada] {
                 Consumo& consumo = sesion.Proyecto().consumo;
                 const int iAntes = std::exchange(consumo.iTipoEntrada, iTipoEntrada);
@@ -167,26 +174,34 @@ void AbrirPerdidas()
 std::vector<Pantalla> Pantallas(Sesion& sesion)
 {
     return {
-        {"tipo", {}, [] { phSeleccionAsistenteSFV(); }, {}},
-        {"aislada", {}, [&sesion] { DisenarAislada(sesion); }, &Recorrer},
-        {"perdidas", {}, &AbrirPerdidas, {}},
-        {"red", {}, [&sesion] { DisenarRed(sesion); }, &Recorrer},
-        DeConsumo(sesion, "consumo-horas", 0),
-        DeConsumo(sesion, "consumo-receptores", 1),
+        {"tipo", {"CDlgAsistenteTipoInstalacion"}, [] { phSeleccionAsistenteSFV(); }, {}},
+        {"aislada",
+         {"CDlgAsistenteSFVAislada", "CDlgDatosReceptor", "CDlgMesAno", "CDlgImgCoordenadas",
+          "CDlgDatosRegulacion", "DialogoSimbolo"},
+         [&sesion] { DisenarAislada(sesion); },
+         &Recorrer},
+        {"perdidas", {"CDlgDatosPerdidasSolarAislada"}, &AbrirPerdidas, {}},
+        {"red", {"CDlgAsistenteSFVRed"}, [&sesion] { DisenarRed(sesion); }, &Recorrer},
+        DeConsumo(sesion, "consumo-horas", 0,
+                  {"CDlgDatosConsumoHoraHora", "CDlgConfigPatronConsumo", "CDlgConfigImportConsumo",
+                   "CDlgDatosConsumoMes", "CDlgDatosConsumoDia"}),
+        DeConsumo(sesion, "consumo-receptores", 1, {"CDlgDatosReceptor", "CDlgMesAno"}),
         {"paneles-elegir",
-         {},
+         {"CDlgVisorXML", "CDlgItemDatosPanelFoto"},
          [] {
              CString csId = PrimerModelo();
              phSeleccionPanelFoto(csId);
          },
          &Recorrer},
-        DeCatalogo("paneles", &phEditarBasePanelesFotovoltaicos),
-        DeCatalogo("acumuladores", &phEditarBaseAcumuladores),
-        DeCatalogo("inversores", &phEditarBaseInversores),
-        {"inversores-usos", {}, [] { phEditarBaseInversores(0); }, RecorrerUsos},
-        DeCatalogo("microinversores", &phEditarBaseMicroInversores),
-        DeCatalogo("convertidores", &phEditarBaseConvertidorCC),
-        DeCatalogo("receptores", &phEditarBaseReceptores),
+        DeCatalogo("paneles", &phEditarBasePanelesFotovoltaicos,
+                   {"CDlgItemDatosPanelFoto", "CDlgItemDatosGraficaPanelFoto"}),
+        DeCatalogo("acumuladores", &phEditarBaseAcumuladores,
+                   {"CDlgItemDatosAcumulador", "CDlgItemDatosAcumuladorCap"}),
+        DeCatalogo("inversores", &phEditarBaseInversores, {"CDlgItemDatosInversor"}),
+        {"inversores-usos", {"CDlgItemDatosInversor"}, [] { phEditarBaseInversores(0); }, RecorrerUsos},
+        DeCatalogo("microinversores", &phEditarBaseMicroInversores, {"CDlgItemDatosMicroInversor"}),
+        DeCatalogo("convertidores", &phEditarBaseConvertidorCC, {"CDlgItemDatosConvertidor"}),
+        DeCatalogo("receptores", &phEditarBaseReceptores, {"CDlgItemDatosReceptor"}),
     };
 }
 

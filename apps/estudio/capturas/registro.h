@@ -2,8 +2,8 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <quorvel/ui.h>
@@ -14,8 +14,8 @@ namespace efv::estudio {
 
 struct Pantalla {
     std::string nombre;
-    /// The dialog to show. Null for a screen that only the library can open, through `abrir`.
-    std::function<std::unique_ptr<ui::Dialogo>()> crear;
+    /// Classes of the dialogs that open: all of them must.
+    std::vector<std::string_view> clases;
     std::function<void()> abrir;
     /// What is done in each dialog that opens, once its picture is taken: it may open further ones.
     std::function<void(ui::Dialogo&)> recorrer;

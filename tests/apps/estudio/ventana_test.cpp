@@ -10,7 +10,6 @@
 
 #include "anfitrion/simbolos.h"
 #include "apoyo.h"
-#include "capturas/capturar.h"
 #include "comun/ficheros.h"
 #include "comun/guion.h"
 #include "ordenes.h"
@@ -151,22 +150,6 @@ TEST_F(Ventanas, ElConsumoAceptadoQuedaEnElProyecto)
     EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt);
     EXPECT_EQ(sesion.Proyecto().consumo.csReferencia, L"Taller");
     EXPECT_TRUE(sesion.Modificado());
-}
-
-// Every screen opens, and the project stays as it was.
-TEST_F(Ventanas, TodasLasPantallasRegistradasSeCapturan)
-{
-    const CarpetaTemporal carpeta;
-    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
-    EXPECT_EQ(CapturarPrograma(ventana, carpeta.Ruta()), VentanaPrincipal::kPestanas + 4);
-    for (const Pantalla& pantalla : Pantallas(sesion))
-        EXPECT_GE(Capturar({pantalla}, carpeta.Ruta()), 1) << pantalla.nombre;
-    EXPECT_FALSE(sesion.Modificado());
-    // What opens within another dialog opened too.
-    for (const char* nombre :
-         {"aislada-CDlgMesAno.png", "aislada-DialogoSimbolo.png", "consumo-horas-CDlgDatosConsumoDia.png",
-          "consumo-horas-CDlgConfigPatronConsumo.png"})
-        EXPECT_TRUE(std::filesystem::exists(carpeta.Ruta() / nombre)) << nombre;
 }
 
 // All of the example's models are in the shipped catalogues, and the assistants take it.
