@@ -1,6 +1,8 @@
 // The module's dialogs on a Qt 6 Widgets host: one call, and they open as windows of the host.
 #pragma once
 
+#include <functional>
+
 #include <QtCore/qglobal.h>
 
 #if defined(EFV_QT_COMPILANDO)
@@ -11,6 +13,9 @@
 
 QT_BEGIN_NAMESPACE
 class QDialog;
+class QIcon;
+class QPalette;
+class QString;
 class QWidget;
 QT_END_NAMESPACE
 
@@ -23,6 +28,13 @@ namespace efv::qt {
 /// Makes Qt the module's presenter: its dialogs, message boxes and file choosers open as windows, over
 /// `padre` when no other dialog is open. Needs a QApplication; without one a dialog counts as cancelled.
 EFV_QT_API void InstalarPresentadorQt(QWidget* padre = nullptr);
+
+/// Gives the picture of that name in a theme's colours; a null icon for a name it doesn't know.
+using FuenteIconos = std::function<QIcon(const QString& nombre, const QPalette& paleta)>;
+
+/// From now on pictures of the host's own go before those that come with the dialogs, in windows and panels
+/// made afterwards.
+EFV_QT_API void PonerIconos(FuenteIconos fuente);
 
 /// The window that shows `dialogo`, without showing it. It belongs to the caller or to `padre`; `dialogo`
 /// must outlive it.

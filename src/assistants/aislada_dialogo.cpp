@@ -84,6 +84,8 @@ void CDlgAsistenteSFVAislada::AnadirReceptores()
 {
     m_lista = &Anadir<ui::Lista>("lReceptores", L"", ui::Lista::Forma::tabla);
     m_lista->acsColumnas = {L"Cant.", L"Modelo", L"Red", L"Potencia (W)", L"h/día", L"Consumo (Wh)"};
+    m_lista->alineaciones.assign(3, ui::Alineacion::izquierda);
+    m_lista->otras = ui::Alineacion::derecha;
     m_lista->modelo = std::make_shared<ui::FilasDeLista>(m_filasReceptores, ui::FilasDeLista::conCasillas);
     m_lista->lugar.bEstirar = true;
     m_lista->alElegir = [this] { m_filasReceptores.SetSelectionMark(m_lista->iSeleccion); };

@@ -18,9 +18,9 @@ constexpr auto kCapacidades = ui::Campos<V>({
     {&V::dCapacidadResultante, L"Capacidad Resultante (Ah):"},
 });
 constexpr auto kPropuestas = ui::Campos<V>({
-    {&V::iAcumuladoresSerieP, L""},
-    {&V::iAcumuladoresParaleloP, L""},
-    {&V::dCapacidadResultanteP, L""},
+    {.miembro = &V::iAcumuladoresSerieP, .rotulo = L"", .junto = &V::iAcumuladoresSerie},
+    {.miembro = &V::iAcumuladoresParaleloP, .rotulo = L"", .junto = &V::iAcumuladoresParalelo},
+    {.miembro = &V::dCapacidadResultanteP, .rotulo = L"", .junto = &V::dCapacidadResultante},
 });
 
 }  // namespace
@@ -31,7 +31,7 @@ PaginaAcumuladores::PaginaAcumuladores(ui::Dialogo& dialogo, CDlgAsistenteSFVAis
       m_modelo(
           asistente.AnadirBoton(*this, ui::NombreDeMiembro<V>(&V::csAcumulador), L"", {}, [this] { Elegir(); }))
 {
-    asistente.AnadirSimbolo(*this, &V::iSimboloAcumulador, kCategoriaAcumulador);
+    asistente.AnadirSimbolo(*this, &V::iSimboloAcumulador, kCategoriaAcumulador, ui::JuntoA(m_modelo));
     asistente.AnadirCampos(*this, kCampos);
     asistente.AnadirResultados(*this, kCapacidades, ui::kNegro);
     asistente.AnadirResultados(*this, kPropuestas, kColorPropuesta);

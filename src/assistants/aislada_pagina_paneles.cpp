@@ -31,11 +31,11 @@ constexpr auto kPotencias = ui::Campos<V>({
     {&V::dHSP, L"Hora solar pico (H.S.P.):"},
 });
 constexpr auto kPropuestas = ui::Campos<V>({
-    {&V::iPanelesSerieP, L""},
-    {&V::iPanelesParaleloP, L""},
-    {&V::dPotenciaMinimaP, L""},
-    {&V::dPotenciaInstaladaP, L""},
-    {&V::dHSPP, L""},
+    {.miembro = &V::iPanelesSerieP, .rotulo = L"", .junto = &V::iPanelesSerie},
+    {.miembro = &V::iPanelesParaleloP, .rotulo = L"", .junto = &V::iPanelesParalelo},
+    {.miembro = &V::dPotenciaMinimaP, .rotulo = L"", .junto = &V::dPotenciaMinima},
+    {.miembro = &V::dPotenciaInstaladaP, .rotulo = L"", .junto = &V::dPotenciaInstalada},
+    {.miembro = &V::dHSPP, .rotulo = L"", .junto = &V::dHSP},
 });
 constexpr auto kDistancias = ui::Campos<V>({
     {.miembro = &V::dDistanciaPaneles, .rotulo = L"Distancia panel - panel (mm):", .decimales = 0},
@@ -74,7 +74,7 @@ PaginaPaneles::PaginaPaneles(ui::Dialogo& dialogo, CDlgAsistenteSFVAislada& asis
 
 void PaginaPaneles::AnadirCampo()
 {
-    m_asistente.AnadirSimbolo(*this, &V::iSimboloPanel, kCategoriaPanel);
+    m_asistente.AnadirSimbolo(*this, &V::iSimboloPanel, kCategoriaPanel, ui::JuntoA(m_modelo));
     auto& mes = Anadir<ui::Seleccion>(ui::NombreDeMiembro<V>(&V::iMesCalculo),
                                       L"Mes a considerar en el cálculo:", ui::Seleccion::Forma::combo);
     for (int m = 0; m < 15; ++m)
@@ -92,13 +92,15 @@ void PaginaPaneles::AnadirPosicion()
 {
     m_asistente.AnadirCampos(*this, kAngulos<V>, kDerecha);
     m_asistente.AnadirResultados(*this, kAngulosP<V>, kColorPropuesta, kDerecha);
-    m_asistente.AnadirBoton(*this, "CDlgImgCoordenadas", L"...", kDerecha,
+    m_asistente.AnadirBoton(*this, "CDlgImgCoordenadas", L"...", ui::JuntoA(m_asistente.De(&V::dOrientacion)),
                             [] { CDlgImgCoordenadas().Mostrar(); });
     AnadirPanelesPorFila();
     m_asistente.AnadirCampos(*this, kDistancias, kDerecha);
     m_asistente.AnadirResultados(*this, kDistanciaP<V>, ui::kNegro, kDerecha);
-    m_asistente.AnadirBoton(*this, "EspaciarFilas", L"...", kDerecha, [this] { AlEspaciar(); }).bVisible =
-        false;
+    m_asistente
+        .AnadirBoton(*this, "EspaciarFilas", L"...", ui::JuntoA(m_asistente.De(&V::dDistanciaFilas)),
+                     [this] { AlEspaciar(); })
+        .bVisible = false;
     m_disposicion = &m_asistente.AnadirDisposicion(*this, kDerecha, [this] { AlElegirDisposicion(); });
 }
 
@@ -124,6 +126,7 @@ void PaginaPaneles::AnadirRadiacion()
     m_radiacion->acsColumnas = {L"Ángulo/Rad."};
     for (int m = 0; m < 12; ++m)
         m_radiacion->acsColumnas.emplace_back(solar::NombreMesCorto(m));
+    m_radiacion->otras = ui::Alineacion::derecha;
     m_radiacion->modelo = std::make_shared<ui::FilasDeLista>(m_filasRadiacion);
 }
 

@@ -15,11 +15,11 @@ constexpr auto kTiposSalida = std::to_array<std::wstring_view>({L"Monofasico", L
 constexpr auto kPotencia = ui::Campos<V>({{&V::dPotenciaMaxFV, L"Potencia fotovoltaica máxima (W):"}});
 constexpr auto kTensionesFV = ui::Campos<V>({
     {&V::dTensionMaxFV, L"Tensión FV [máx, mín] (V):"},
-    {&V::dTensionMinFV, L""},
+    {.miembro = &V::dTensionMinFV, .rotulo = L"", .junto = &V::dTensionMaxFV},
 });
 constexpr auto kSalida = ui::Campos<V>({
     {.miembro = &V::bSalidaCA, .rotulo = L"Inversor con salida en CA (V):", .casilla = true},
-    {&V::dTensionSalidaCA, L""},
+    {.miembro = &V::dTensionSalidaCA, .rotulo = L"", .junto = &V::bSalidaCA},
     {.miembro = &V::iTipoSalidaCA, .rotulo = L"Tipo de salida (ca):", .entradas = kTiposSalida},
 });
 

@@ -33,10 +33,12 @@ inline constexpr auto kAngulos = ui::Campos<V>({
     {&V::dOrientacion, L"Orientación (º): [0=Sur]"},
 });
 template <class V>
-inline constexpr auto kAngulosP = ui::Campos<V>({{&V::dInclinacionP, L""}, {&V::dOrientacionP, L""}});
+inline constexpr auto kAngulosP =
+    ui::Campos<V>({{.miembro = &V::dInclinacionP, .rotulo = L"", .junto = &V::dInclinacion},
+                   {.miembro = &V::dOrientacionP, .rotulo = L"", .junto = &V::dOrientacion}});
 template <class V>
-inline constexpr auto kDistanciaP =
-    ui::Campos<V>({{.miembro = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0}});
+inline constexpr auto kDistanciaP = ui::Campos<V>(
+    {{.miembro = &V::dDistanciaFilasP, .rotulo = L"", .decimales = 0, .junto = &V::dDistanciaFilas}});
 
 template <class V>
 class DialogoAsistente : public ui::DialogoFicha<V> {

@@ -28,13 +28,16 @@ constexpr auto kObjetivo = ui::Campos<V>({
 });
 
 constexpr auto kInversores = ui::Campos<V>({{&V::iInversores, L"Nº de inversores:"}});
-constexpr auto kInversoresP = ui::Campos<V>({{&V::iInversoresP, L""}});
+constexpr auto kInversoresP =
+    ui::Campos<V>({{.miembro = &V::iInversoresP, .rotulo = L"", .junto = &V::iInversores}});
 
 constexpr auto kRamales = ui::Campos<V>({
     {&V::iPanelesSerie, L"Nº de paneles por ramal:"},
     {&V::iPanelesParalelo, L"Nº de ramales en paralelo:"},
 });
-constexpr auto kRamalesP = ui::Campos<V>({{&V::iPanelesSerieP, L""}, {&V::iPanelesParaleloP, L""}});
+constexpr auto kRamalesP =
+    ui::Campos<V>({{.miembro = &V::iPanelesSerieP, .rotulo = L"", .junto = &V::iPanelesSerie},
+                   {.miembro = &V::iPanelesParaleloP, .rotulo = L"", .junto = &V::iPanelesParalelo}});
 
 constexpr auto kFilasDePaneles = ui::Campos<V>({
     {.miembro = &V::dPanelesPorFila, .rotulo = L"Nº máximo de paneles por fila:", .decimales = 0},
@@ -55,14 +58,17 @@ constexpr auto kTotales = ui::Campos<V>({
      .magnitud = L"Superficie"},
 });
 constexpr auto kTotalesP = ui::Campos<V>({
-    {&V::dPotenciaInversorCampoP, L""},
-    {&V::dTensionRamalP, L""},
-    {&V::iPanelesInversorP, L""},
-    {&V::iTotalPanelesP, L""},
-    {&V::dPotenciaTotalP, L""},
-    {&V::dPotenciaInversoresP, L""},
-    {.miembro = &V::dSuperficieTotalP, .rotulo = L"", .magnitud = L"Superficie"},
-    {.miembro = &V::dSuperficieProyectadaP, .rotulo = L"", .magnitud = L"Superficie"},
+    {.miembro = &V::dPotenciaInversorCampoP, .rotulo = L"", .junto = &V::dPotenciaInversorCampo},
+    {.miembro = &V::dTensionRamalP, .rotulo = L"", .junto = &V::dTensionRamal},
+    {.miembro = &V::iPanelesInversorP, .rotulo = L"", .junto = &V::iPanelesInversor},
+    {.miembro = &V::iTotalPanelesP, .rotulo = L"", .junto = &V::iTotalPaneles},
+    {.miembro = &V::dPotenciaTotalP, .rotulo = L"", .junto = &V::dPotenciaTotal},
+    {.miembro = &V::dPotenciaInversoresP, .rotulo = L"", .junto = &V::dPotenciaInversores},
+    {.miembro = &V::dSuperficieTotalP, .rotulo = L"", .magnitud = L"Superficie", .junto = &V::dSuperficieTotal},
+    {.miembro = &V::dSuperficieProyectadaP,
+     .rotulo = L"",
+     .magnitud = L"Superficie",
+     .junto = &V::dSuperficieProyectada},
 });
 
 CString RotuloDe(const CString& csId)
@@ -103,16 +109,17 @@ void CDlgAsistenteSFVRed::AnadirEquipos()
                             [this, elegir] { (this->*elegir)(); });
     };
     m_inversor = elegible(&V::csInversor, kGrupoInversor, &CDlgAsistenteSFVRed::ElegirInversor);
-    AnadirSimbolo(*this, &V::iSimboloInversor, as::kCategoriaInversor, kGrupoInversor);
+    AnadirSimbolo(*this, &V::iSimboloInversor, as::kCategoriaInversor, ui::JuntoA(*m_inversor));
     m_nominal = &AnadirNominal("dPCANom", L"Potencia Nominal (W):", ui::kNegro);
     m_nominalP = &AnadirNominal("dPCANomP", L"", as::kColorPropuesta);
+    m_nominalP->lugar = ui::JuntoA(*m_nominal);
     m_rango = &Anadir<ui::TextoFijo>("csRangoMPPT", L"Rango tensiones MPPT (máx./min.):");
     m_rango->lugar = kGrupoInversor;
     Anadir(kInversores, kGrupoInversor);
     AnadirResultados(*this, kInversoresP, as::kColorPropuesta, kGrupoInversor);
 
     m_panel = elegible(&V::csPanel, kGrupoPanel, &CDlgAsistenteSFVRed::ElegirPanel);
-    AnadirSimbolo(*this, &V::iSimboloPanel, as::kCategoriaPanel, kGrupoPanel);
+    AnadirSimbolo(*this, &V::iSimboloPanel, as::kCategoriaPanel, ui::JuntoA(*m_panel));
     Anadir(kRamales, kGrupoPanel);
     AnadirResultados(*this, kRamalesP, as::kColorPropuesta, kGrupoPanel);
 }
@@ -132,10 +139,11 @@ void CDlgAsistenteSFVRed::AnadirCampo()
 {
     Anadir(as::kAngulos<V>, kGrupoGeometria);
     AnadirResultados(*this, as::kAngulosP<V>, as::kColorPropuesta, kGrupoGeometria);
-    AnadirBoton(*this, "CDlgImgCoordenadas", L"...", kGrupoGeometria, [] { CDlgImgCoordenadas().Mostrar(); });
+    AnadirBoton(*this, "CDlgImgCoordenadas", L"...", ui::JuntoA(De(&V::dOrientacion)),
+                [] { CDlgImgCoordenadas().Mostrar(); });
     Anadir(kFilasDePaneles, kGrupoGeometria);
     AnadirResultados(*this, as::kDistanciaP<V>, as::kColorPropuesta, kGrupoGeometria);
-    AnadirBoton(*this, "EspaciarFilas", L"...", kGrupoGeometria, [this] { AlEspaciar(); });
+    AnadirBoton(*this, "EspaciarFilas", L"...", ui::JuntoA(De(&V::dDistanciaFilas)), [this] { AlEspaciar(); });
     m_disposicion = &AnadirDisposicion(*this, kGrupoGeometria, [this] { AlElegirDisposicion(); });
 }
 

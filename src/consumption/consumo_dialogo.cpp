@@ -136,6 +136,7 @@ void CDlgDatosConsumo::AnadirTablaDeDias()
 {
     m_dias = &Anadir<ui::Lista>("adHoras", L"", ui::Lista::Forma::tabla);
     m_dias->acsColumnas = efv::consumption::ColumnasDeDias();
+    m_dias->otras = ui::Alineacion::derecha;
     m_dias->modelo = std::make_shared<efv::consumption::TablaDeDias>(adHoras);
     m_dias->alAbrir = [this](int iFila, int iColumna) { AlAbrirDia(iFila, iColumna); };
     m_dias->lugar.bEstirar = true;
@@ -145,6 +146,8 @@ void CDlgDatosConsumo::AnadirReceptores()
 {
     m_receptores = &Anadir<ui::Lista>("lReceptores", L"", ui::Lista::Forma::tabla);
     m_receptores->acsColumnas.assign(kColumnasReceptores.begin(), kColumnasReceptores.end());
+    m_receptores->alineaciones.assign(3, ui::Alineacion::izquierda);
+    m_receptores->otras = ui::Alineacion::derecha;
     m_receptores->modelo = std::make_shared<ui::FilasDeLista>(m_filas, ui::FilasDeLista::conCasillas);
     m_receptores->alElegir = [this] { m_filas.SetSelectionMark(m_receptores->iSeleccion); };
     m_receptores->alAbrir = [this](int iFila, int) {

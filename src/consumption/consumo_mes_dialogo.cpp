@@ -42,7 +42,7 @@ void CDlgDatosConsumoMes::AnadirMeses()
             auto& campo = Anadir<ui::Edicion>(fmt::format("adMes[{}][{}]", iMes, p), kRotulosPeriodos[p]);
             campo.destino = &datos.adMes[iMes][p];
             campo.limites = ui::Intervalo{0, kEnergiaMaxima};
-            campo.lugar.grupo = kGrupoMeses;
+            campo.lugar = ui::JuntoA(mes);
         }
     }
 }

@@ -26,6 +26,7 @@ ControlesHoras::ControlesHoras(const AspectoHoras& aspecto, const Anadir& anadir
     }
     m_grafica = &anadirGrafica();
     m_grafica->datos = aspecto.grafica;
+    m_grafica->lugar.iColumna = 2;
 }
 
 void ControlesHoras::Mostrar()

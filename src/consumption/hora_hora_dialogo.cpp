@@ -86,6 +86,7 @@ void CDlgDatosConsumoHoraHora::AnadirControles()
     m_origen = &AnadirEleccion(&P::iOrigen, L"", Forma::radio, {kOrigenes.begin(), kOrigenes.end()});
     m_patron = &AnadirEleccion(&P::iPatron, L"", Forma::combo, Titulos());
     m_editar = &Anadir<ui::Boton>("", L"...");
+    m_editar->lugar = ui::JuntoA(*m_patron);
     Anadir(kPotencia);
     m_consejo = &Anadir<ui::Edicion>("csDescripcion", L"");
     m_consejo->bSoloLectura = true;

@@ -39,7 +39,9 @@ CDlgConfigImportConsumo::CDlgConfigImportConsumo(const P& inicial, Modo modo)
     } else {
         Anadir(kCampos);
     }
-    Anadir<ui::Boton>("", L"...").alPulsar = [this, modo] { AlBuscarArchivo(modo); };
+    auto& buscar = Anadir<ui::Boton>("", L"...");
+    buscar.lugar = ui::JuntoA(De(&efv::consumption::DatosImportConsumo::csArchivo));
+    buscar.alPulsar = [this, modo] { AlBuscarArchivo(modo); };
     Volcar();
 }
 

@@ -77,12 +77,15 @@ CDlgDatosReceptor::CDlgDatosReceptor(const D& inicial, const efv::catalogues::Ba
 
 void CDlgDatosReceptor::AnadirModelo()
 {
-    m_receptor.Anadir(*this, {&R::csModelo, L"Modelo:"}).bSoloLectura = true;
+    auto& modelo = m_receptor.Anadir(*this, {&R::csModelo, L"Modelo:"});
+    modelo.bSoloLectura = true;
     Anadir(ui::Campos<D>({{.miembro = &D::bModelo, .rotulo = L"", .casilla = true}}));
     auto& conModelo = De<ui::Casilla>(&D::bModelo);
+    conModelo.lugar = ui::JuntoA(modelo);
     conModelo.bHabilitado = datos.bPedirCantidad == 0;
     conModelo.alCambiar = [this, &conModelo] { m_elegir->bHabilitado = conModelo.bMarcada; };
     m_elegir = &Anadir<ui::Boton>("", L"...");
+    m_elegir->lugar = ui::JuntoA(modelo);
     m_elegir->bHabilitado = datos.bModelo != 0;
     m_elegir->alPulsar = [this] { AlElegirModelo(); };
     m_receptor.Anadir(*this, {&R::iCantidad, L"Cantidad:", {0, 10000}}).bVisible = datos.bPedirCantidad != 0;
@@ -142,10 +145,11 @@ void CDlgDatosReceptor::AnadirLimites()
         deslizador.alMover = [this, i] { AlMover(i); };
         deslizador.lugar = kPlanificacion;
         auto& lectura = Anadir<ui::TextoFijo>(fmt::format("csLectura[{}]", i), L"");
-        lectura.lugar = kPlanificacion;
+        lectura.lugar = ui::JuntoA(deslizador);
         m_limites[i] = {&deslizador, &lectura};
     }
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
+    m_grafica->lugar.iColumna = 1;
     m_grafica->lugar.bEstirar = true;
 }
 

@@ -1,9 +1,11 @@
 // Pictures of buttons and rows, drawn: they follow the theme's colours and any screen's resolution.
 #pragma once
 
+#include <string_view>
+
 #include <QIcon>
 
-#include <quorvel/framework/CString.h>
+#include <quorvel/qt.h>
 
 QT_BEGIN_NAMESPACE
 class QPalette;
@@ -11,10 +13,8 @@ QT_END_NAMESPACE
 
 namespace efv::qt {
 
-/// The picture of that name; a null icon for an unknown one.
-QIcon IconoDe(const CString& nombre, const QPalette& paleta);
-
-/// The picture of a row: 0 a group, other numbers a leaf, negative none.
-QIcon IconoDeFila(int iImagen, const QPalette& paleta);
+/// The picture of that name: the host's own, else the one that comes with the dialogs. A null icon for an
+/// unknown name.
+QIcon IconoDe(std::wstring_view nombre, const QPalette& paleta);
 
 }  // namespace efv::qt

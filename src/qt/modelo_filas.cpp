@@ -10,17 +10,6 @@
 
 namespace efv::qt {
 
-namespace {
-
-bool PareceNumero(const QString& texto)
-{
-    return !texto.isEmpty() && std::ranges::all_of(texto, [](QChar c) {
-        return c.isDigit() || c == ',' || c == '.' || c == '-' || c == '+' || c == '%' || c == ' ';
-    });
-}
-
-}  // namespace
-
 ModeloLista::ModeloLista(const ui::Lista& lista, QObject* padre) : QAbstractItemModel(padre), m_lista(lista)
 {
     Recargar();
@@ -122,6 +111,12 @@ const QString& ModeloLista::Celda(int iFila, int iColumna) const
     return m_cache;
 }
 
+int ModeloLista::Alineacion(int iColumna) const
+{
+    const bool bDerecha = m_lista.AlineacionDe(iColumna) == ui::Alineacion::derecha;
+    return static_cast<int>((bDerecha ? Qt::AlignRight : Qt::AlignLeft) | Qt::AlignVCenter);
+}
+
 QVariant ModeloLista::data(const QModelIndex& indice, int papel) const
 {
     const int iFila = Fila(indice);
@@ -130,14 +125,14 @@ QVariant ModeloLista::data(const QModelIndex& indice, int papel) const
         return {};
     if (papel == Qt::DisplayRole)
         return Celda(iFila, indice.column());
-    if (papel == Qt::TextAlignmentRole && indice.column() > 0 && PareceNumero(Celda(iFila, indice.column())))
-        return static_cast<int>(Qt::AlignRight | Qt::AlignVCenter);
+    if (papel == Qt::TextAlignmentRole)
+        return Alineacion(indice.column());
     if (papel == Qt::CheckStateRole && indice.column() == 0) {
         if (const auto bMarca = m_filas->Marca(iFila))
             return *bMarca ? Qt::Checked : Qt::Unchecked;
     }
     if (papel == Qt::DecorationRole && indice.column() == 0) {
-        if (const QIcon icono = IconoDeFila(m_filas->Imagen(iFila), QApplication::palette()); !icono.isNull())
+        if (const QIcon icono = IconoDe(m_filas->Imagen(iFila), QApplication::palette()); !icono.isNull())
             return icono;
     }
     return {};
@@ -145,6 +140,8 @@ QVariant ModeloLista::data(const QModelIndex& indice, int papel) const
 
 QVariant ModeloLista::headerData(int seccion, Qt::Orientation orientacion, int papel) const
 {
+    if (orientacion == Qt::Horizontal && papel == Qt::TextAlignmentRole)
+        return Alineacion(seccion);
     if (orientacion != Qt::Horizontal || papel != Qt::DisplayRole)
         return {};
     const auto i = static_cast<std::size_t>(seccion);

@@ -36,6 +36,7 @@ private:
     bool EsArbol() const { return m_lista.forma == ui::Lista::Forma::arbol; }
     void ContarArbol();
     const QString& Celda(int iFila, int iColumna) const;
+    int Alineacion(int iColumna) const;
 
     const ui::Lista& m_lista;
     std::shared_ptr<const ui::ModeloFilas> m_filas;

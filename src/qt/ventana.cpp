@@ -34,6 +34,7 @@ std::vector<VentanaDialogo*>& Abiertas()
 constexpr double kParteDePantalla = 0.92;
 constexpr QSize kTamanoMinimo(300, 0);
 constexpr QSize kTamanoMaximizable(760, 540);  // of what is meant to be looked at large
+constexpr int kMargenDeBarra = 6;              // between the controls and the bar that scrolls them
 constexpr int kAdornosDeTitulo = 140;          // icon and buttons of a title bar
 
 }  // namespace
@@ -150,16 +151,16 @@ void VentanaDialogo::DarTamano(QVBoxLayout& pila, QWidget* controles)
 {
     const QSize sitio = screen()->availableSize() * kParteDePantalla;
     QSize pedido = sizeHint();
-    if (pedido.width() > sitio.width() || pedido.height() > sitio.height()) {
+    const QSize necesario = minimumSizeHint();
+    if (necesario.width() > sitio.width() || necesario.height() > sitio.height()) {
         auto* rollo = new QScrollArea(this);
         rollo->setFrameShape(QFrame::NoFrame);
         rollo->setWidgetResizable(true);
         rollo->setFocusPolicy(Qt::NoFocus);
         delete pila.replaceWidget(controles, rollo);
-        controles->layout()->setContentsMargins(0, 0, 6, 0);
+        controles->layout()->setContentsMargins(0, 0, kMargenDeBarra, 0);
         rollo->setWidget(controles);
-        pedido += QSize(rollo->verticalScrollBar()->sizeHint().width(),
-                        rollo->horizontalScrollBar()->sizeHint().height());
+        pedido += QSize(rollo->verticalScrollBar()->sizeHint().width() + kMargenDeBarra, 0);
     }
     const QSize minimo = m_dialogo.bMaximizable ? kTamanoMaximizable : kTamanoMinimo;
     const QSize titulo(fontMetrics().horizontalAdvance(windowTitle()) + kAdornosDeTitulo, 0);

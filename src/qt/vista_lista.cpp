@@ -15,10 +15,11 @@ namespace efv::qt {
 namespace {
 
 constexpr int kFilasMedidas = 40;  // rows that a column's width is taken from
-constexpr int kAnchoMaximo = 680;  // a list asks for no more
 constexpr int kAnchoMinimo = 220;
+constexpr int kAnchoImprescindible = 400;
 constexpr int kAireDeFila = 6;  // above and below a row's letters
 constexpr int kFilasMinimas = 5;
+constexpr int kFilasImprescindibles = 3;
 constexpr int kFilasMaximas = 14;
 
 // Both kinds of view tell when they get their size, and open the current cell by the keyboard.
@@ -88,7 +89,6 @@ public:
         Cabecera().setResizeContentsPrecision(kFilasMedidas);
         Cabecera().setHighlightSections(false);
         Cabecera().setSectionsClickable(false);
-        Cabecera().setDefaultAlignment(Qt::AlignCenter);
         if (lista.acsColumnas.size() <= 1)
             Cabecera().setStretchLastSection(true);
         Conectar();
@@ -149,18 +149,23 @@ private:
         for (int i = 0; i < Cabecera().count(); ++i) {
             const int iContenido = Rejas().sizeHintForColumn(i);
             m_aiAnchos.push_back(std::max(iContenido, Cabecera().sectionSizeHint(i)) + 8);
-            iAncho += m_aiAnchos.back();
         }
+        if (m_lista.bColumnasIguales)
+            std::ranges::fill(m_aiAnchos, *std::ranges::max_element(m_aiAnchos));
+        for (const int iColumna : m_aiAnchos)
+            iAncho += iColumna;
         const int iLinea = widget->fontMetrics().height() + kAireDeFila;
         const int iMarco =
             2 * Rejas().frameWidth() + (m_lista.acsColumnas.empty() ? 0 : Cabecera().sizeHint().height());
-        const QSize propuesto(std::clamp(iAncho, kAnchoMinimo, kAnchoMaximo),
+        const QSize propuesto(std::max(iAncho, kAnchoMinimo),
                               iMarco + std::clamp(m_nFilas, kFilasMinimas, kFilasMaximas) * iLinea);
         if (auto* arbol = dynamic_cast<Rejilla<QTreeView>*>(widget))
             arbol->propuesto = propuesto;
         else if (auto* tabla = dynamic_cast<Rejilla<QTableView>*>(widget))
             tabla->propuesto = propuesto;
-        widget->setMinimumSize(propuesto.width(), iMarco + kFilasMinimas * iLinea);
+        // On a small screen it scrolls by itself rather than make the whole dialog scroll.
+        widget->setMinimumSize(std::min(propuesto.width(), kAnchoImprescindible),
+                               iMarco + kFilasImprescindibles * iLinea);
         RepartirColumnas();
     }
 

@@ -11,19 +11,42 @@
 
 namespace efv::qt {
 
+namespace {
+
+bool SeLee(const CString& csTexto)
+{
+    return std::ranges::any_of(csTexto, [](wchar_t c) { return QChar::isLetterOrNumber(static_cast<uint>(c)); });
+}
+
+// A control without a caption of its own goes by that of the one on whose line it stands.
+QString RotuloHablado(const ui::Control& control)
+{
+    if (SeLee(control.csRotulo) || control.lugar.junto == nullptr)
+        return SinMnemonico(control.csRotulo);
+    return RotuloHablado(*control.lugar.junto);
+}
+
+}  // namespace
+
 Vista::Vista(ui::Control& controlVisto, QWidget* widgetPropio) : control(controlVisto), widget(widgetPropio)
 {
     const QString nombre =
         control.nombre.empty() ? SinMnemonico(control.csRotulo) : QString::fromStdString(control.nombre);
     widget->setObjectName(nombre);
-    widget->setAccessibleName(SinMnemonico(control.csRotulo));
 }
 
 Vista::~Vista() = default;
 
+QString Vista::NombreHablado() const
+{
+    return RotuloHablado(control);
+}
+
 void Vista::Refrescar()
 {
     RefrescarContenido();
+    if (const QString nombre = NombreHablado(); widget->accessibleName() != nombre)
+        widget->setAccessibleName(nombre);
     RefrescarColores();
     const bool bUtilizable = Utilizable();
     if (widget->isEnabledTo(widget->parentWidget()) != bUtilizable)

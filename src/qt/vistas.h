@@ -55,6 +55,8 @@ public:
 
 protected:
     virtual void RefrescarContenido() = 0;
+    /// What it is called to whoever hears it rather than sees it.
+    virtual QString NombreHablado() const;
     /// Whether the person can use it at all.
     virtual bool Utilizable() const { return control.bHabilitado; }
 

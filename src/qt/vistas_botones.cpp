@@ -53,6 +53,11 @@ public:
 private:
     QPushButton& Pulsador() const { return static_cast<QPushButton&>(*widget); }
 
+    QString NombreHablado() const override
+    {
+        return m_boton.csIndicacion.empty() ? Vista::NombreHablado() : SinMnemonico(m_boton.csIndicacion);
+    }
+
     void RefrescarContenido() override
     {
         if (m_csImagen != m_boton.csImagen || m_paleta != widget->palette().cacheKey()) {

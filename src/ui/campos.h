@@ -143,6 +143,7 @@ struct Campo {
     std::span<const std::wstring_view> entradas = {};  ///< not empty: a combo over an int
     std::wstring_view magnitud = {};                   ///< of a decimal that is shown in the person's unit
     bool casilla = false;                              ///< a check box over an int, 0 or 1
+    std::optional<Miembro<P>> junto = {};              ///< the field, further up, on whose line it stands
 };
 
 /// A table of rows; each member must have a name.
@@ -184,6 +185,8 @@ public:
     {
         Control& control = Crear(donde, nombre, campo);
         control.lugar = lugar;
+        if (campo.junto)
+            control.lugar.junto = &De(*campo.junto);
         return control;
     }
 

@@ -30,6 +30,7 @@ struct Fila {
     std::span<const std::wstring_view> entradas = {};
     std::wstring_view magnitud = {};
     bool casilla = false;
+    std::optional<Miembro<P>> junto = {};
 };
 
 /// Where the focus goes: a field of the dialog, or nowhere else than it is.
@@ -122,7 +123,7 @@ protected:
         for (const Fila<P>& fila : filas)
             m_campos.Anadir(*this, fila.nombre,
                             {fila.campo, fila.rotulo, fila.limites, fila.decimales, fila.entradas,
-                             fila.magnitud, fila.casilla},
+                             fila.magnitud, fila.casilla, fila.junto},
                             lugar);
     }
     using Dialogo::Anadir;

@@ -92,6 +92,7 @@ TEST(Ventana, LoQueDiceElDialogoSeVe)
         EXPECT_EQ(Hijo<QProgressBar>(v, "progreso").value(), 400);
         EXPECT_EQ(Hijo<QLabel>(v, "nota").palette().color(QPalette::WindowText), QColor(Qt::blue));
         EXPECT_FALSE(Hijo<QPushButton>(v, "curvas").icon().isNull());
+        EXPECT_EQ(Hijo<QPushButton>(v, "curvas").accessibleName(), "Curvas <I-V>");
         // Escaped: a tool-tip that looks like mark-up would be taken for it.
         EXPECT_TRUE(Hijo<QPushButton>(v, "curvas").toolTip().contains("I-V"));
 
@@ -174,18 +175,24 @@ TEST(Ventana, UnaImagenSeDibujaYSinElloSeDice)
     });
 }
 
-// What says nothing by itself stands on the line of the field before it: a second field, a unit, a button.
-TEST(Ventana, LoQueNoTieneRotuloSigueEnSuLinea)
+// Said by the controls, however late they were declared: a second field, a unit, a button, the field of a tick.
+TEST(Ventana, LoQueVaJuntoAOtroEstaEnSuLinea)
 {
     class Rango : public ui::Dialogo {
     public:
         Rango() : Dialogo("Rango", L"Rango")
         {
-            Anadir<ui::Edicion>("dMaximo", L"Rango de tensiones MPPT (V) [máx - mín]:");
-            Anadir<ui::Edicion>("dMinimo", L"");
-            Anadir<ui::TextoFijo>("unidad", L"").csTexto = L"V";
-            Anadir<ui::Boton>("elegir", L"...");
+            auto& maximo = Anadir<ui::Edicion>("dMaximo", L"Rango de tensiones MPPT (V) [máx - mín]:");
             Anadir<ui::Edicion>("otro", L"Otro:");
+            Anadir<ui::Edicion>("solo", L"");
+            for (const char* nombre : {"dMinimo", "dMinimoP"})
+                Anadir<ui::Edicion>(nombre, L"").lugar = ui::JuntoA(maximo);
+            auto& unidad = Anadir<ui::TextoFijo>("unidad", L"");
+            unidad.csTexto = L"V";
+            unidad.lugar = ui::JuntoA(maximo);
+            Anadir<ui::Boton>("elegir", L"Elegir un modelo ...").lugar = ui::JuntoA(maximo);
+            auto& casilla = Anadir<ui::Casilla>("bSalida", L"Salida (V):");
+            Anadir<ui::Edicion>("dSalida", L"").lugar = ui::JuntoA(casilla);
         }
     } d;
     Mostrar(d, [](QDialog& v) {
@@ -194,39 +201,16 @@ TEST(Ventana, LoQueNoTieneRotuloSigueEnSuLinea)
             return w.mapTo(&v, w.rect().center());
         };
         int iAnterior = centro("dMaximo").x();
-        for (const char* nombre : {"dMinimo", "unidad", "elegir"}) {
+        for (const char* nombre : {"dMinimo", "dMinimoP", "unidad", "elegir"}) {
             EXPECT_NEAR(centro(nombre).y(), centro("dMaximo").y(), 2) << nombre;
             EXPECT_GT(centro(nombre).x(), iAnterior) << nombre;
             iAnterior = centro(nombre).x();
         }
+        EXPECT_EQ(Hijo<QWidget>(v, "dMinimoP").accessibleName(), Hijo<QWidget>(v, "dMaximo").accessibleName());
         EXPECT_GT(centro("otro").y(), centro("dMaximo").y() + 10);
-    });
-}
-
-// Declared after all values, each proposal stands beside its own; so does the field of a tick.
-TEST(Ventana, LasPropuestasYLosCamposDeCasillaTienenSuLinea)
-{
-    class Propuestas : public ui::Dialogo {
-    public:
-        Propuestas() : Dialogo("Propuestas", L"Propuestas")
-        {
-            Anadir<ui::Edicion>("iSerie", L"En serie:");
-            Anadir<ui::Edicion>("iParalelo", L"En paralelo:");
-            Anadir<ui::Edicion>("iSerieP", L"");
-            Anadir<ui::Edicion>("iParaleloP", L"");
-            Anadir<ui::Casilla>("bSalida", L"Salida (V):");
-            Anadir<ui::Edicion>("dSalida", L"");
-        }
-    } d;
-    Mostrar(d, [](QDialog& v) {
-        const auto y = [&](const char* nombre) {
-            auto& w = Hijo<QWidget>(v, nombre);
-            return w.mapTo(&v, w.rect().center()).y();
-        };
-        EXPECT_NEAR(y("iSerieP"), y("iSerie"), 2);
-        EXPECT_NEAR(y("iParaleloP"), y("iParalelo"), 2);
-        EXPECT_NEAR(y("dSalida"), y("bSalida"), 2);
-        EXPECT_GT(y("iParalelo"), y("iSerie") + 10);
+        EXPECT_GT(centro("solo").y(), centro("otro").y() + 10);
+        EXPECT_NEAR(centro("dSalida").y(), centro("bSalida").y(), 2);
+        EXPECT_GT(centro("dSalida").x(), centro("bSalida").x());
     });
 }
 

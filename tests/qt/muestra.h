@@ -82,7 +82,7 @@ public:
         deslizador.iPaso = 5;
         deslizador.iPasoGrande = 60;
         deslizador.alMover = [this] { hora.csTexto = std::to_wstring(deslizador.iValor); };
-        imagen.csImagen = L"grafica";
+        imagen.csImagen = L"coordenadas";
         Volcar();
     }
 

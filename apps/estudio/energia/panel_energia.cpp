@@ -70,6 +70,8 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
                             L"Tabla K\nkWh/m²·día",
                             L"Correlación\nkWh",
                             L"Tabla K\nkWh"};
+    m_tabla->alineaciones = {ui::Alineacion::izquierda};
+    m_tabla->otras = ui::Alineacion::derecha;
     m_tabla->modelo = std::make_shared<FilasEnergia>(m_filas);
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
     m_grafica->lugar.iColumna = 1;

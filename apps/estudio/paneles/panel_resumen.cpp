@@ -33,6 +33,7 @@ PanelResumen::PanelResumen(std::string_view nombreClase, std::wstring_view csBot
     Anadir<ui::Boton>("asistente", csBoton).alPulsar = std::move(accion);
     m_tabla = &Anadir<ui::Lista>("resumen", L"", ui::Lista::Forma::tabla);
     m_tabla->acsColumnas = {L"Concepto", L"Valor"};
+    m_tabla->alineaciones = {ui::Alineacion::izquierda, ui::Alineacion::derecha};
     m_tabla->modelo = std::make_shared<FilasResumen>(m_lineas);
     if (m_leer().grafica) {
         m_grafica = &Anadir<ui::Grafica>("grafica", L"");

@@ -17,12 +17,15 @@
 
 namespace efv::ui {
 
+class Control;
+
 /// Where a control stands, as a hint for whoever lays the dialog out.
 struct Lugar {
     int iPagina = -1;              ///< page of the dialog's tabs; -1 outside them, or said by who owns it
     std::wstring_view grupo = {};  ///< framed group of that caption; empty for none
     int iColumna = 0;
-    bool bEstirar = false;  ///< takes the room that is left
+    bool bEstirar = false;           ///< takes the room that is left
+    const Control* junto = nullptr;  ///< stands on the line of that control, behind what is there already
 };
 
 /// The value that a control stands for: none, a tick, a number, a text.
@@ -88,6 +91,14 @@ public:
     virtual Valor ValorActual() const = 0;
     virtual void Visitar(VisitanteControl& visitante) = 0;
 };
+
+/// The place on the line of `control`.
+inline Lugar JuntoA(const Control& control)
+{
+    Lugar lugar = control.lugar;
+    lugar.junto = &control;
+    return lugar;
+}
 
 /// Text that the person can't change.
 class EFV_API TextoFijo final : public Control {
@@ -217,10 +228,14 @@ public:
     virtual CString Celda(int iFila, int iColumna) const = 0;
     /// Depth of a row in a tree, 0 at the root.
     virtual int Nivel(int /*iFila*/) const { return 0; }
-    virtual int Imagen(int /*iFila*/) const { return -1; }
+    /// Name of the picture before a row; empty for none.
+    virtual std::wstring_view Imagen(int /*iFila*/) const { return {}; }
     /// Tick before a row, only to be looked at; nothing where rows have none.
     virtual std::optional<bool> Marca(int /*iFila*/) const { return std::nullopt; }
 };
+
+/// Where the texts of a column stand.
+enum class Alineacion { izquierda, derecha };
 
 /// A list, a table, or a tree told by the levels of its rows.
 class EFV_API Lista final : public Control {
@@ -234,6 +249,9 @@ public:
 
     const Forma forma;
     std::vector<CString> acsColumnas;
+    std::vector<Alineacion> alineaciones;       ///< of the first columns
+    Alineacion otras = Alineacion::izquierda;   ///< of those after them
+    bool bColumnasIguales = false;              ///< all as wide
     std::shared_ptr<const ModeloFilas> modelo;  ///< null: no rows
     int iSeleccion = -1;
     unsigned uVersion = 0;  ///< raised with each change of the rows, so that a view knows
@@ -241,6 +259,11 @@ public:
     std::function<void(int iFila, int iColumna)> alAbrir;  ///< double click
 
     int Filas() const { return modelo ? modelo->Filas() : 0; }
+    Alineacion AlineacionDe(int iColumna) const
+    {
+        const auto i = static_cast<std::size_t>(iColumna);
+        return i < alineaciones.size() ? alineaciones[i] : otras;
+    }
     CString Texto() const override;
     Valor ValorActual() const override { return iSeleccion; }
     void Visitar(VisitanteControl& visitante) override;

@@ -31,6 +31,7 @@ struct NombresCatalogo {
     std::wstring_view rotulo;  ///< label in the viewer
     std::wstring_view titulo;  ///< title of the viewer
     int iCadenaFichero;        ///< number of the text that names its file
+    std::wstring_view imagen;  ///< name of the picture of a model
 };
 
 /// What is to be given for each model class M, derived from ReglasCatalogo<M>:

@@ -15,7 +15,8 @@ struct Catalogo<CBaseAcumuladorModelo> : ReglasCatalogo<CBaseAcumuladorModelo> {
 
     static constexpr NombresCatalogo kNombres{
         "CBaseAcumuladores", "CBaseAcumuladorFamilia",         "CBaseAcumuladorModelo",
-        L"Acumuladores",     L"Base de Datos de Acumuladores", 20443};
+        L"Acumuladores",     L"Base de Datos de Acumuladores", 20443,
+        L"acumulador"};
     static constexpr auto kCampos = std::to_array<CampoModelo<M>>({
         {"csModelo", &M::csModelo},
         {"iTipo", &M::iTipo, L"Tipo"},

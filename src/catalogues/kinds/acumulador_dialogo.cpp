@@ -129,6 +129,9 @@ public:
         Anadir(kFisicos);
         m_lista = &Anadir<ui::Lista>("listaRegimenes", L"", ui::Lista::Forma::tabla);
         m_lista->acsColumnas = {L"Cv", L"Cap. (Ah)", L"Voltaje (V)"};
+        m_lista->alineaciones = {ui::Alineacion::izquierda};
+        m_lista->otras = ui::Alineacion::derecha;
+        m_lista->bColumnasIguales = true;
         m_lista->modelo = m_regimenes;
         m_lista->alAbrir = [this](int, int) { ModificarFila(); };
         Anadir<ui::Boton>("", L"Modificar ...").alPulsar = [this] { ModificarFila(); };

@@ -15,7 +15,8 @@ struct Catalogo<CBaseConvertidorModelo> : ReglasCatalogo<CBaseConvertidorModelo>
 
     static constexpr NombresCatalogo kNombres{
         "CBaseConvertidores", "CBaseConvertidorFamilia",         "CBaseConvertidorModelo",
-        L"Convertidores",     L"Base de Datos de Convertidores", 20445};
+        L"Convertidores",     L"Base de Datos de Convertidores", 20445,
+        L"convertidor"};
     static constexpr auto kCampos = std::to_array<CampoModelo<M>>({
         {"csModelo", &M::csModelo},
         {"dVInMin", &M::dVInMin, L"Vin mín. (V)"},

@@ -21,7 +21,8 @@ struct Catalogo<CBaseInversorModelo> : ReglasInversor<CBaseInversorModelo> {
 
     static constexpr NombresCatalogo kNombres{
         "CBaseInversores", "CBaseInversorFamilia",         "CBaseInversorModelo",
-        L"Inversores",     L"Base de Datos de Inversores", 20444};
+        L"Inversores",     L"Base de Datos de Inversores", 20444,
+        L"inversor"};
     static constexpr auto kCampos = Unir(std::to_array<CampoModelo<M>>({
                                              {"csModelo", &M::csModelo},
                                              {"iUsoPrincipal", &M::iUsoPrincipal, L"Uso"},

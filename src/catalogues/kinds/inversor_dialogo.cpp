@@ -28,7 +28,7 @@ constexpr auto kGenerales = ui::Campos<M>({
 
 constexpr auto kCorrientes = ui::Campos<M>({
     {&M::iNumMPPT, L"Nº de inversores MPPT y entradas (total):", {1, 100}},
-    {&M::iNumEntradas, L"", {&M::iNumMPPT, 100}},
+    {.miembro = &M::iNumEntradas, .rotulo = L"", .limites = {&M::iNumMPPT, 100}, .junto = &M::iNumMPPT},
     {&M::csICCMaxMPPT, L"Corriente máxima por MPPT (A):"},
     {&M::csICCMinMPPT, L"Corriente mínima por MPPT (A):"},
 });
@@ -36,7 +36,7 @@ constexpr auto kCortocircuito = ui::Campos<M>({{&M::dIScMax, L"Corriente de cort
 
 constexpr auto kFase = ui::Campos<M>({
     {&M::dFP, L"Factor de potencia:", {0.1, 1, [](const M& m) { return m.iUsoPrincipal == kRed; }}},
-    {.miembro = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas},
+    {.miembro = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas, .junto = &M::dFP},
 });
 
 /// What a field is called in each use once the use has been chosen. A field without a caption in

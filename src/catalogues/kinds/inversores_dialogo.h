@@ -17,9 +17,9 @@ template <class M>
 inline constexpr auto kFilasTensiones = ui::Campos<M>({
     {&M::dPCCMax, L"Potencia CC máx (W):"},
     {&M::dVMPPMax, L"Rango de tensiones MPPT (V) [máx - mín]:"},
-    {&M::dVMPPMin, L""},
+    {.miembro = &M::dVMPPMin, .rotulo = L"", .junto = &M::dVMPPMax},
     {&M::dVCCMax, L"Tensión de entrada máxima (V):"},
-    {&M::dVCCMin, L""},
+    {.miembro = &M::dVCCMin, .rotulo = L"", .junto = &M::dVCCMax},
 });
 
 template <class M>
@@ -28,7 +28,7 @@ inline constexpr auto kFilasSalida = ui::Campos<M>({
     {&M::dPCAMax, L"Potencia máxima de salida (W):"},
     {&M::dVCANom, L"Tensión nominal de salida (V):"},
     {&M::dICAMax, L"Corriente de salida (A) [máx.- mín.]:"},
-    {&M::dICAMin, L""},
+    {.miembro = &M::dICAMin, .rotulo = L"", .junto = &M::dICAMax},
 });
 
 template <class M>

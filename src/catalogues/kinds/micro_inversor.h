@@ -15,7 +15,8 @@ struct Catalogo<CBaseMicroInversorModelo> : ReglasInversor<CBaseMicroInversorMod
 
     static constexpr NombresCatalogo kNombres{
         "CBaseMicroInversores", "CBaseMicroInversorFamilia",         "CBaseMicroInversorModelo",
-        L"MicroInversores",     L"Base de Datos de MicroInversores", 20447};
+        L"MicroInversores",     L"Base de Datos de MicroInversores", 20447,
+        L"microinversor"};
     static constexpr auto kCampos = Unir(std::to_array<CampoModelo<M>>({{"csModelo", &M::csModelo}}),
                                          kCamposEntrada<M>, kCamposRestantes<M>);
 };

@@ -15,7 +15,7 @@ constexpr auto kPrecio = ui::Campos<M>({{&M::csCodPrecio, L"Cod.Precios:"}});
 
 constexpr auto kCorrientes = ui::Campos<M>({
     {&M::dICCMax, L"Corriente de entrada (A) [máx - mín]:"},
-    {&M::dICCMin, L""},
+    {.miembro = &M::dICCMin, .rotulo = L"", .junto = &M::dICCMax},
     {&M::dIScMax, L"Corriente de cortocircuito máxima (A):"},
     {&M::iNumMPPT, L"Número de inversores MPPT:", {1, 100}},
     {&M::iNumEntradas, L"Número de entradas:", {&M::iNumMPPT, 100}},
@@ -23,7 +23,7 @@ constexpr auto kCorrientes = ui::Campos<M>({
 
 constexpr auto kFase = ui::Campos<M>({
     {&M::dFP, L"Factor de potencia:", {0.1, 1}},
-    {.miembro = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas},
+    {.miembro = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas, .junto = &M::dFP},
 });
 
 class CDlgItemDatosMicroInversor : public cat::DialogoInversor<M> {

@@ -19,7 +19,8 @@ struct Catalogo<CBasePanelFotoModelo> : ReglasCatalogo<CBasePanelFotoModelo> {
                                               "CBasePanelFotoModelo",
                                               L"Panel Fotovoltaico",
                                               L"Base de Datos de Paneles Fotovoltaicos",
-                                              20442};
+                                              20442,
+                                              L"panel"};
     static constexpr auto kCampos = std::to_array<CampoModelo<M>>({
         {"csModelo", &M::csModelo},
         {"dPmpm", &M::dPmpm, L"Pmpm (W)"},

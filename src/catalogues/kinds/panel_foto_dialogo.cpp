@@ -108,7 +108,7 @@ void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, std::ws
     auto& unidad = Anadir<ui::Seleccion>(nombreUnidad, L"", ui::Seleccion::Forma::combo);
     unidad.acsEntradas = {CString(unidadAbsoluta), L"%/ºC"};
     unidad.iSeleccion = coeficiente.iUnidad;
-    unidad.lugar = kLugarTermicos;
+    unidad.lugar = ui::JuntoA(campo);
     unidad.alElegir = [this, &coeficiente] { AlCambiarUnidad(coeficiente); };
     coeficiente.unidad = &unidad;
 }

@@ -16,7 +16,8 @@ struct Catalogo<CBaseReceptorModelo> : ReglasCatalogo<CBaseReceptorModelo> {
 
     static constexpr NombresCatalogo kNombres{
         "CBaseReceptores", "CBaseReceptorFamilia",         "CBaseReceptorModelo",
-        L"Receptores",     L"Base de Datos de Receptores", 20446};
+        L"Receptores",     L"Base de Datos de Receptores", 20446,
+        L"receptor"};
     static constexpr auto kCampos = std::to_array<CampoModelo<M>>({
         {"csModelo", &M::csModelo},
         {"dP", &M::dP, L"P (W)"},

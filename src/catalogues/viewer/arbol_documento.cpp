@@ -17,8 +17,9 @@ bool Contiene(const FilaArbol& fila, const CString& csBuscado)
 
 }  // namespace
 
-FilasVisibles::FilasVisibles(std::shared_ptr<const std::vector<FilaArbol>> todas, const CString& csBuscado)
-    : m_todas(std::move(todas))
+FilasVisibles::FilasVisibles(std::shared_ptr<const std::vector<FilaArbol>> todas, const CString& csBuscado,
+                             std::wstring_view imagenModelo)
+    : m_todas(std::move(todas)), m_imagenModelo(imagenModelo)
 {
     const CString csPlegado = texto::Plegar(csBuscado);
     bool familiaCoincide = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <string_view>
 #include <vector>
 
 #include <quorvel/ui/controles.h>
@@ -22,12 +23,17 @@ struct FilaArbol {
 /// all models of a family whose name matches are.
 class FilasVisibles final : public ui::ModeloFilas {
 public:
-    FilasVisibles(std::shared_ptr<const std::vector<FilaArbol>> todas, const CString& csBuscado);
+    /// `imagenModelo` names the picture of a model.
+    FilasVisibles(std::shared_ptr<const std::vector<FilaArbol>> todas, const CString& csBuscado,
+                  std::wstring_view imagenModelo = {});
 
     int Filas() const override { return static_cast<int>(m_visibles.size()); }
     CString Celda(int iFila, int iColumna) const override;
     int Nivel(int iFila) const override { return Fila(iFila).bModelo ? 1 : 0; }
-    int Imagen(int iFila) const override { return Nivel(iFila); }
+    std::wstring_view Imagen(int iFila) const override
+    {
+        return Fila(iFila).bModelo ? m_imagenModelo : std::wstring_view(L"familia");
+    }
 
     const FilaArbol& Fila(int iFila) const;
     /// The family's row of a model's row; the row itself for a family.
@@ -41,6 +47,7 @@ public:
 
 private:
     std::shared_ptr<const std::vector<FilaArbol>> m_todas;
+    std::wstring_view m_imagenModelo;
     std::vector<std::size_t> m_visibles;  // places in m_todas
 };
 

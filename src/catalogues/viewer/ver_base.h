@@ -49,6 +49,7 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, const AperturaElementos
     peticion.csRuta = base.csArchivo;
     peticion.rotulo = Catalogo<M>::Nombres().rotulo;
     peticion.titulo = Catalogo<M>::Nombres().titulo;
+    peticion.imagen = Catalogo<M>::Nombres().imagen;
     peticion.bModificable = !apertura.bSoloLectura;
     for (const auto& campo : Catalogo<M>::Campos()) {
         peticion.atributos.push_back(campo.atributo);

@@ -18,6 +18,7 @@ struct PeticionVisor {
     CString csRuta;
     std::wstring_view rotulo;  ///< label of the catalogue
     std::wstring_view titulo;
+    std::wstring_view imagen;            ///< name of the picture of a model
     bool bModificable = false;           ///< the document may be changed; else it is shown for choosing
     std::vector<const char*> atributos;  ///< all attributes of a model, for a new one, in file order
     std::vector<bool> abNumerico;        ///< whether the attribute of that place is a number

@@ -84,7 +84,7 @@ CString CDlgVisorXML::Seleccion() const
 
 void CDlgVisorXML::Filtrar(xml::Elemento elemento)
 {
-    m_visibles = std::make_shared<FilasVisibles>(m_filas, m_buscar.csTexto);
+    m_visibles = std::make_shared<FilasVisibles>(m_filas, m_buscar.csTexto, m_peticion.imagen);
     m_arbol.modelo = m_visibles;
     ++m_arbol.uVersion;
     m_arbol.iSeleccion = elemento ? m_visibles->FilaDe(elemento) : -1;
