@@ -4,6 +4,7 @@
 #include <memory>
 #include <new>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <QuorvelEFV.h>

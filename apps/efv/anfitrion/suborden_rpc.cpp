@@ -1,5 +1,7 @@
 #include "anfitrion/suborden_rpc.h"
 
+#include <CLI/CLI.hpp>
+
 #include "comun/linea_ordenes.h"
 #include "rpc/entrada.h"
 

@@ -8,10 +8,12 @@
 #include <string_view>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
 #include <quorvel/localidades.h>
 #include <quorvel/tipos_catalogo.h>
+
+namespace CLI {
+class App;
+}
 
 namespace efv::orden {
 

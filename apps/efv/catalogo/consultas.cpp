@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "catalogo/exportacion.h"

@@ -1,5 +1,7 @@
 #include "catalogo/grupo_ordenes.h"
 
+#include <CLI/CLI.hpp>
+
 #include "comun/consola.h"
 #include "comun/linea_ordenes.h"
 

@@ -12,6 +12,10 @@
 
 #include "catalogo/acceso.h"
 
+namespace CLI {
+class App;
+}
+
 namespace efv::orden {
 
 class GrupoOrdenes {

@@ -1,6 +1,7 @@
 // Orders that add models to a catalogue.
 #include <array>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "catalogo/grupo_ordenes.h"

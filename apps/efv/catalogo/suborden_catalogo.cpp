@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include <CLI/CLI.hpp>
+
 #include "catalogo/grupo_ordenes.h"
 #include "comun/linea_ordenes.h"
 

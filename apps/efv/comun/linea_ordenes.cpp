@@ -3,6 +3,7 @@
 #include <string_view>
 #include <type_traits>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "comun/numeros.h"

@@ -4,7 +4,11 @@
 #include <memory>
 #include <string>
 
-#include <CLI/CLI.hpp>
+namespace CLI {
+class App;
+class Formatter;
+class ParseError;
+}
 
 namespace efv::orden {
 

@@ -1,9 +1,13 @@
 // A subcommand of `efv`.
 #pragma once
 
-#include <CLI/CLI.hpp>
+#include <iosfwd>
 
 #include "comun/consola.h"
+
+namespace CLI {
+class App;
+}
 
 namespace efv::orden {
 

@@ -4,6 +4,7 @@
 #include <optional>
 #include <utility>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <quorvel/solar.h>

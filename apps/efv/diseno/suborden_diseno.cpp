@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include <quorvel/assistants.h>

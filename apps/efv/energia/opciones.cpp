@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include <CLI/CLI.hpp>
 #include <fmt/format.h>
 
 #include "comun/consola.h"

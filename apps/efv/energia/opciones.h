@@ -6,11 +6,13 @@
 #include <string>
 #include <vector>
 
-#include <CLI/CLI.hpp>
-
 #include <quorvel/localidades.h>
 
 #include "energia/campo.h"
+
+namespace CLI {
+class App;
+}
 
 namespace efv::orden {
 

@@ -1,5 +1,7 @@
 #include "energia/suborden_energia.h"
 
+#include <CLI/CLI.hpp>
+
 #include "comun/linea_ordenes.h"
 #include "energia/estudio.h"
 #include "energia/informe.h"
