@@ -24,8 +24,10 @@ target_compile_options(efv_compilacion INTERFACE
     -fno-plt
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wold-style-cast
     -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align -Wdouble-promotion -Wformat=2
-    -Wimplicit-fallthrough -Wextra-semi
-    -Werror)
+    -Wimplicit-fallthrough -Wextra-semi)
+if(EFV_ERRORES)
+    target_compile_options(efv_compilacion INTERFACE -Werror)
+endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(efv_compilacion INTERFACE
         -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wuseless-cast
