@@ -1,8 +1,10 @@
 #include "solar/calendario.h"
 
+#include <array>
 #include <chrono>
 #include <span>
 
+#include "platform/calendario/ano_comun.h"
 #include "platform/reloj/reloj.h"
 
 namespace efv::solar {
@@ -89,12 +91,10 @@ int TipoDiaReferencia(int iMes, int iDia)
 
 namespace {
 
-constexpr auto kDias = std::to_array<std::wstring_view>(
-    {L"Lunes", L"Martes", L"Miércoles", L"Jueves", L"Viernes", L"Sábado", L"Domingo"});
+static_assert(calendario::kDiasMes == kDiasMesReferencia);
 
-constexpr auto kNombresMes = std::to_array<std::wstring_view>(
-    {L"Enero", L"Febrero", L"Marzo", L"Abril", L"Mayo", L"Junio", L"Julio", L"Agosto", L"Septiembre",
-     L"Octubre", L"Noviembre", L"Diciembre", L"Anual", L"Favorable", L"Desfavorable"});
+// What stands behind the twelve months in lists of them.
+constexpr auto kTrasLosMeses = std::to_array<std::wstring_view>({L"Anual", L"Favorable", L"Desfavorable"});
 
 constexpr auto kNombresMesCorto =
     std::to_array<std::wstring_view>({L"ENE", L"FEB", L"MAR", L"ABR", L"MAY", L"JUN", L"JUL", L"AGO", L"SEP",
@@ -110,12 +110,13 @@ std::wstring_view Nombre(std::span<const std::wstring_view> nombres, int i)
 
 std::wstring_view NombreDia(int iTipoDia)
 {
-    return Nombre(kDias, iTipoDia);
+    return Nombre(calendario::kNombresDia, iTipoDia);
 }
 
 std::wstring_view NombreMes(int iMes)
 {
-    return Nombre(kNombresMes, iMes);
+    constexpr int nMeses = calendario::kNombresMes.size();
+    return iMes < nMeses ? Nombre(calendario::kNombresMes, iMes) : Nombre(kTrasLosMeses, iMes - nMeses);
 }
 
 std::wstring_view NombreMesCorto(int iMes)

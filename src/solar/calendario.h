@@ -5,7 +5,6 @@
 // by the factor table.
 #pragma once
 
-#include <array>
 #include <string_view>
 
 #include <quorvel/solar/energia.h>
