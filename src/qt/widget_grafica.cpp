@@ -95,6 +95,25 @@ public:
         m_pintor.fillRect(QRectF(r.dX, r.dY, r.dAncho, r.dAlto), ColorDeTexto(color, m_texto, m_fondo));
     }
 
+    void Poligono(std::span<const ui::Punto> puntos, ui::Color color) override
+    {
+        QPolygonF figura;
+        for (const ui::Punto& punto : puntos)
+            figura << QPointF(punto.dX, punto.dY);
+        m_pintor.setPen(QPen(m_fondo, 1.0));
+        m_pintor.setBrush(ColorDeTexto(color, m_texto, m_fondo));
+        m_pintor.drawPolygon(figura);
+    }
+
+    void Rayado(std::span<const ui::Punto> extremos) override
+    {
+        QList<QPointF> puntos;
+        for (const ui::Punto& punto : extremos)
+            puntos << QPointF(punto.dX, punto.dY);
+        m_pintor.setPen(QPen(m_fondo, 1.2));
+        m_pintor.drawLines(puntos);
+    }
+
     QColor Mezcla(double dParteDeTexto) const
     {
         const auto t = static_cast<float>(dParteDeTexto);
@@ -168,8 +187,7 @@ void WidgetGrafica::PintarLectura(QPainter& pintor, const ui::Trazado& trazado) 
     pintor.setPen(QPen(palette().color(QPalette::Base), 1.5));
     pintor.drawEllipse(punto, 4.5, 4.5);
 
-    const QString texto =
-        "x = " + AQt(ui::RotuloValor(cercano->dX)) + "\ny = " + AQt(ui::RotuloValor(cercano->dY));
+    const QString texto = AQt(trazado.Lectura(*cercano));
     const QFontMetricsF medidas(font());
     QRectF caja =
         medidas.boundingRect(QRectF(0, 0, width(), height()), Qt::AlignLeft, texto).adjusted(-6, -4, 6, 4);

@@ -7,7 +7,7 @@
 
 #include <quorvel/ui/grafica.h>
 
-#include "ui/ejes.h"
+#include "ui/trazado.h"
 
 namespace efv::qt {
 

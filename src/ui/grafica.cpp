@@ -5,6 +5,27 @@
 
 namespace efv::ui {
 
+namespace {
+
+// Along these, 0 is a value like any other; elsewhere it is none.
+bool TieneCero(ClaseEje clase)
+{
+    return clase == ClaseEje::numero || clase == ClaseEje::hora;
+}
+
+CCtrlCurva2D Vacia(std::wstring_view csTitulo, std::wstring_view csTituloX, std::wstring_view csTituloY,
+                   ClaseEje clase)
+{
+    CCtrlCurva2D grafica;
+    grafica.csTitulo = csTitulo;
+    grafica.csTituloX = csTituloX;
+    grafica.csTituloY = csTituloY;
+    grafica.claseX = clase;
+    return grafica;
+}
+
+}  // namespace
+
 std::string ColorHex(Color color)
 {
     static constexpr std::string_view kCifras = "0123456789ABCDEF";
@@ -13,6 +34,29 @@ std::string ColorHex(Color color)
     for (const unsigned desplazamiento : {4U, 0U, 12U, 8U, 20U, 16U})
         texto += kCifras[(color >> desplazamiento) & 0xFU];
     return texto;
+}
+
+CCtrlCurva2D GraficaDeMeses(std::wstring_view csTitulo, std::wstring_view csTituloY)
+{
+    return Vacia(csTitulo, L"Mes", csTituloY, ClaseEje::mes);
+}
+
+CCtrlCurva2D GraficaDeHoras(std::wstring_view csTitulo, std::wstring_view csTituloY)
+{
+    return Vacia(csTitulo, L"Hora", csTituloY, ClaseEje::hora);
+}
+
+SerieCurva BarrasDeMeses(std::wstring_view csNombre, Color color, std::span<const double> adMeses)
+{
+    SerieCurva serie;
+    serie.csNombre = csNombre;
+    serie.color = color;
+    serie.forma = FormaSerie::barra;
+    for (std::size_t m = 0; m < adMeses.size(); ++m) {
+        serie.adX.push_back(static_cast<double>(m + 1));
+        serie.adY.push_back(adMeses[m]);
+    }
+    return serie;
 }
 
 Extension ExtensionDe(const CCtrlCurva2D& grafica)
@@ -26,6 +70,8 @@ Extension ExtensionDe(const CCtrlCurva2D& grafica)
             const double dY = serie.adY[i];
             if (!std::isfinite(dX) || !std::isfinite(dY))
                 continue;
+            if (!bHayPuntos && !TieneCero(grafica.claseX))
+                extension.dMinX = extension.dMaxX = dX;
             bHayPuntos = true;
             extension.dMinX = std::min(extension.dMinX, dX);
             extension.dMaxX = std::max(extension.dMaxX, dX);

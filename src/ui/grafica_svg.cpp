@@ -4,7 +4,7 @@
 
 #include <quorvel/ui/grafica.h>
 
-#include "ui/ejes.h"
+#include "ui/trazado.h"
 
 namespace efv::ui {
 
@@ -109,10 +109,27 @@ public:
         documento += "/>\n";
     }
 
+    void Poligono(std::span<const Punto> puntos, Color color) override
+    {
+        documento += "<path d=\"M";
+        for (const Punto& punto : puntos)
+            documento += Coordenadas(punto) + 'L';
+        documento.back() = 'Z';
+        documento += "\" fill=\"" + ColorHex(color) + "\" stroke=\"#FFFFFF\"/>\n";
+    }
+
     void Barra(const Recuadro& r, Color color) override
     {
         documento += "<rect x=\"" + Cifra(r.dX) + "\" y=\"" + Cifra(r.dY) + "\" width=\"" + Cifra(r.dAncho) +
                      "\" height=\"" + Cifra(r.dAlto) + "\" fill=\"" + ColorHex(color) + "\"/>\n";
+    }
+
+    void Rayado(std::span<const Punto> extremos) override
+    {
+        documento += "<path d=\"";
+        for (std::size_t i = 0; i < extremos.size(); ++i)
+            documento += (i % 2 == 0 ? 'M' : 'L') + Coordenadas(extremos[i]);
+        documento += "\" stroke=\"#FFFFFF\" stroke-width=\"1.2\"/>\n";
     }
 
 private:

@@ -1,12 +1,13 @@
 // Axes that people can read, and charts as SVG that hold for any series.
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <limits>
 #include <regex>
 
 #include <gtest/gtest.h>
 
-#include "ui/ejes.h"
+#include "ui/trazado.h"
 
 namespace {
 
@@ -171,20 +172,58 @@ TEST(Svg, LasSeriesVaciasDesigualesYEnormesSeAguantan)
     EXPECT_NE(svg.find(',' + hallado[1].str() + ' '), svg.npos);  // the axis ends at 40, the frame's top
 }
 
+// What was drawn.
+struct Dibujo {
+    struct Escrito {
+        Punto base;
+        CString texto;
+    };
+    std::vector<Escrito> textos;
+    std::vector<Recuadro> barras;
+    std::vector<std::size_t> figuras;  // corners of each
+    std::size_t nRayados = 0;
+
+    const Escrito* Buscar(const CString& texto) const
+    {
+        const auto i = std::ranges::find(textos, texto, &Escrito::texto);
+        return i == textos.end() ? nullptr : &*i;
+    }
+};
+
+// Every letter is as wide as high.
+class Papel final : public Lienzo {
+public:
+    Dibujo dibujo;
+
+    double AnchoTexto(std::wstring_view t, double dCuerpo) const override
+    {
+        return dCuerpo * static_cast<double>(t.size());
+    }
+    void Linea(Punto, Punto, Tinta) override {}
+    void Texto(Punto base, std::wstring_view t, double, Ancla, bool) override
+    {
+        dibujo.textos.push_back({base, CString(t)});
+    }
+    void EmpezarSeries(const Recuadro&) override {}
+    void AcabarSeries() override {}
+    void Polilinea(std::span<const Punto>, const SerieCurva&) override {}
+    void Poligono(std::span<const Punto> puntos, Color) override { dibujo.figuras.push_back(puntos.size()); }
+    void Barra(const Recuadro& r, Color) override { dibujo.barras.push_back(r); }
+    void Rayado(std::span<const Punto>) override { ++dibujo.nRayados; }
+};
+
+constexpr double kCuerpo = 10.0;
+
+Dibujo Dibujada(const CCtrlCurva2D& grafica, double dAncho = 800, double dAlto = 400)
+{
+    Papel papel;
+    Trazado(grafica, dAncho, dAlto, kCuerpo, papel).Dibujar(papel);
+    return papel.dibujo;
+}
+
 TEST(Trazado, ElPuntoCercanoEsElDeUnaSerieVisible)
 {
-    class Papel final : public Lienzo {
-        double AnchoTexto(std::wstring_view t, double dCuerpo) const override
-        {
-            return dCuerpo * static_cast<double>(t.size());
-        }
-        void Linea(Punto, Punto, Tinta) override {}
-        void Texto(Punto, std::wstring_view, double, Ancla, bool) override {}
-        void EmpezarSeries(const Recuadro&) override {}
-        void AcabarSeries() override {}
-        void Polilinea(std::span<const Punto>, const SerieCurva&) override {}
-        void Barra(const Recuadro&, Color) override {}
-    } papel;
+    const Papel papel;
     const CCtrlCurva2D g{L"", L"", L"", 10, 8, {{{5}, {5}, kNegro, 0}, {{0, 10, kNan}, {0, 10, 5}, kRojo, 1}}};
     const Trazado trazado(g, 400, 300, 10, papel);
     const Punto arriba = trazado.APantalla(10, 10);
@@ -193,6 +232,175 @@ TEST(Trazado, ElPuntoCercanoEsElDeUnaSerieVisible)
     EXPECT_EQ(cercano->iSerie, 1U);
     EXPECT_EQ(cercano->dX, 10);
     EXPECT_FALSE(trazado.PuntoCercano(trazado.APantalla(5, 5), 20));
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Months, days of the week, hours and dates
+// ---------------------------------------------------------------------------------------------------
+
+TEST(EjesDeCalendario, CadaClaseSeRotulaComoSeDice)
+{
+    EXPECT_EQ(Rotulos(CalcularEje(ClaseEje::mes, 3, 5, 10)),  // all twelve, whatever there is
+              (std::vector<CString>{L"Ene", L"Feb", L"Mar", L"Abr", L"May", L"Jun", L"Jul", L"Ago", L"Sep",
+                                    L"Oct", L"Nov", L"Dic"}));
+    EXPECT_EQ(Rotulos(CalcularEje(ClaseEje::mes, 11, 14, 10)),  // round the end of the year
+              (std::vector<CString>{L"Nov", L"Dic", L"Ene", L"Feb"}));
+    EXPECT_EQ(Rotulos(CalcularEje(ClaseEje::diaSemana, 1, 7, 10)),
+              (std::vector<CString>{L"Lun", L"Mar", L"Mié", L"Jue", L"Vie", L"Sáb", L"Dom"}));
+    EXPECT_EQ(
+        Rotulos(CalcularEje(ClaseEje::hora, 0, 24, 8)),
+        (std::vector<CString>{L"0 h", L"3 h", L"6 h", L"9 h", L"12 h", L"15 h", L"18 h", L"21 h", L"24 h"}));
+    EXPECT_EQ(Rotulos(CalcularEje(ClaseEje::hora, 0, 24, 24)).at(23), L"23 h");
+    // Days of the year: 1 and 32 are firsts, so is 60 without a 29 February, and 335 of December.
+    const Eje ano = CalcularEje(ClaseEje::fecha, 1, 365, 10);
+    EXPECT_EQ(ano.adMarcas, (std::vector<double>{1, 32, 60, 91, 121, 152, 182, 213, 244, 274, 305, 335}));
+    EXPECT_EQ(Rotulos(ano).back(), L"1 dic");
+    EXPECT_EQ(Rotulos(CalcularEje(ClaseEje::fecha, 28, 36, 4)),
+              (std::vector<CString>{L"28 ene", L"30 ene", L"1 feb", L"3 feb", L"5 feb"}));
+    EXPECT_EQ(RotuloLectura(ano, 59), L"28 de febrero");
+    EXPECT_EQ(RotuloLectura(ano, 366), L"1 de enero");
+    EXPECT_EQ(RotuloLectura(CalcularEje(ClaseEje::hora, 0, 24, 10), 13.5), L"13:30 h");
+}
+
+TEST(EjesDeCalendario, UnIntervaloImposibleSaleEnNumeros)
+{
+    for (const ClaseEje clase : {ClaseEje::mes, ClaseEje::diaSemana, ClaseEje::hora, ClaseEje::fecha}) {
+        for (const auto& [dMin, dMax] : {std::pair(0.0, 1e12), {-1e300, 1e300}, {kNan, 1.0}, {1e9, 1e9}}) {
+            const Eje eje = CalcularEje(clase, dMin, dMax, 10);
+            EXPECT_EQ(eje.clase, ClaseEje::numero);
+            EXPECT_LE(eje.adMarcas.size(), 202U);
+        }
+    }
+}
+
+TEST(GraficaDeMeses, LasBarrasDeUnMesRodeanSuRayaYNoSalenDeSuBanda)
+{
+    CCtrlCurva2D g = GraficaDeMeses(L"t", L"kWh");
+    const std::array<double, 12> adUna{10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0, -5}, adOtra{1, 2, 3, 4, 5, 6, 7, 8, 9};
+    g.aSeries = {BarrasDeMeses(L"Una", kRojo, adUna), BarrasDeMeses(L"Otra", kAzul, adOtra)};
+    const Dibujo dibujo = Dibujada(g);
+    const Trazado trazado(g, 800, 400, kCuerpo, Papel());
+    const Recuadro marco = trazado.Marco();
+    ASSERT_EQ(dibujo.barras.size(), 24U + 2U);  // and two samples
+    const auto rotulos = std::to_array<const wchar_t*>(
+        {L"Ene", L"Feb", L"Mar", L"Abr", L"May", L"Jun", L"Jul", L"Ago", L"Sep", L"Oct", L"Nov", L"Dic"});
+    const double dBanda = marco.dAncho / 12;
+    const double dCero = trazado.APantalla(1, 0).dY;
+    for (std::size_t m = 0; m < 12; ++m) {
+        // A twelfth of the frame each, four fifths of it for both bars.
+        const double dCentro = marco.dX + (static_cast<double>(m) + 0.5) * dBanda;
+        const auto* rotulo = dibujo.Buscar(rotulos.at(m));
+        ASSERT_NE(rotulo, nullptr) << m;
+        EXPECT_NEAR(rotulo->base.dX, dCentro, 1e-9);
+        const Recuadro& una = dibujo.barras[2 + m];
+        const Recuadro& otra = dibujo.barras[14 + m];
+        EXPECT_NEAR(una.dX, dCentro - 0.4 * dBanda, 1e-9);
+        EXPECT_NEAR(una.dX + una.dAncho, dCentro, 1e-9);
+        EXPECT_NEAR(otra.dX, dCentro, 1e-9);
+        EXPECT_NEAR(otra.dX + otra.dAncho, dCentro + 0.4 * dBanda, 1e-9);
+        EXPECT_NEAR(m == 11 ? una.dY : una.dY + una.dAlto, dCero, 1e-9);
+    }
+    // The axis goes by twos from -6 to 10: 16 units in the frame's height.
+    EXPECT_NEAR(dibujo.barras[2].dAlto, marco.dAlto * 10 / 16, 1e-9);
+    EXPECT_NEAR(dibujo.barras[13].dAlto, marco.dAlto * 5 / 16, 1e-9);
+}
+
+TEST(GraficaDeMeses, LoQueNoSeSabeSeMarcaYNoCambiaLaEscala)
+{
+    CCtrlCurva2D g = GraficaDeMeses(L"", L"");
+    std::array<double, 12> adMeses;
+    adMeses.fill(2.0);
+    adMeses[0] = adMeses[11] = kNan;  // a night of months
+    adMeses[5] = kInf;
+    g.aSeries = {BarrasDeMeses(L"Una", kRojo, adMeses)};
+    const Dibujo dibujo = Dibujada(g);
+    EXPECT_EQ(dibujo.barras.size(), 9U);
+    EXPECT_EQ(std::ranges::count(dibujo.textos, L"—", &Dibujo::Escrito::texto), 3);
+    EXPECT_EQ(dibujo.Buscar(L"—")->base.dX, dibujo.Buscar(L"Ene")->base.dX);
+    ComprobarSvg(EscribirSvg(g));
+    adMeses.fill(kNan);
+    g.aSeries = {BarrasDeMeses(L"Una", kRojo, adMeses)};
+    ComprobarSvg(EscribirSvg(g));
+
+    // A line stops before the gap and goes on behind it; a step holds until its end.
+    CCtrlCurva2D dias{L"", L"", L"", 10, 8, {{{1, 2, 3, 4}, {1, kNan, 3, 4}, kRojo, 1, FormaSerie::escalon}}};
+    dias.claseX = ClaseEje::fecha;
+    const std::string svg = EscribirSvg(dias);
+    ComprobarSvg(svg);
+    EXPECT_EQ(Veces(svg, "<polyline"), 2U);
+    EXPECT_EQ(Veces(svg, "<circle"), 0U);
+}
+
+TEST(Leyenda, SalePorSusNombresYDistingueSinColores)
+{
+    CCtrlCurva2D g{L"", L"", L"", 10, 8, {{{0, 1}, {1, 2}, kRojo, 1}}};
+    g.aSeries[0].csNombre = L"Única";
+    EXPECT_EQ(Dibujada(g).Buscar(L"Única"), nullptr);
+    g.bLeyenda = true;
+    EXPECT_NE(Dibujada(g).Buscar(L"Única"), nullptr);
+    g.bLeyenda = false;
+
+    // Same stroke: markers of other shapes, two points each and a sample in the legend.
+    g.aSeries.push_back({{0, 1}, {2, 1}, kAzul, 1});
+    g.aSeries[1].csNombre = L"Otra";
+    g.aSeries.push_back({{0, 9}, {9, 9}, kNegro, 0});
+    g.aSeries[2].csNombre = L"Escala";
+    Dibujo dibujo = Dibujada(g);
+    EXPECT_NE(dibujo.Buscar(L"Única"), nullptr);
+    EXPECT_NE(dibujo.Buscar(L"Otra"), nullptr);
+    EXPECT_EQ(dibujo.Buscar(L"Escala"), nullptr);
+    std::ranges::sort(dibujo.figuras);
+    EXPECT_EQ(dibujo.figuras, (std::vector<std::size_t>{4, 4, 4, 16, 16, 16}));
+    // Strokes of their own need none.
+    g.aSeries[1].iEstilo = 3;
+    EXPECT_TRUE(Dibujada(g).figuras.empty());
+
+    CCtrlCurva2D barras = GraficaDeMeses(L"", L"");
+    const std::array<double, 2> ad{1, 2};
+    barras.aSeries = {BarrasDeMeses(L"A", kRojo, ad), BarrasDeMeses(L"B", kAzul, ad)};
+    dibujo = Dibujada(barras);
+    EXPECT_EQ(dibujo.nRayados, 3U);  // the second's bars and sample
+}
+
+TEST(Leyenda, MuchasEntradasNoSeComenElMarco)
+{
+    CCtrlCurva2D g{L"", L"", L"", 10, 8, {}};
+    for (int i = 0; i < 60; ++i) {
+        g.aSeries.push_back({{0, 1}, {0, 1}, kRojo, 1});
+        g.aSeries.back().csNombre = CString(30, L'n') + std::to_wstring(i);
+    }
+    const Dibujo dibujo = Dibujada(g, 500, 300);
+    EXPECT_GE(Trazado(g, 500, 300, kCuerpo, Papel()).Marco().dAlto, 0.4 * 300);
+    for (const auto& escrito : dibujo.textos)
+        if (escrito.texto.starts_with(L"nnn")) {
+            EXPECT_GE(escrito.base.dX, 0);
+            EXPECT_LE(escrito.base.dX + kCuerpo * static_cast<double>(escrito.texto.size()), 500);
+        }
+    ComprobarSvg(EscribirSvg(g, 60, 40));
+}
+
+TEST(Lectura, DiceLaSerieYElMesDeLaBarraBajoElPuntero)
+{
+    CCtrlCurva2D g = GraficaDeMeses(L"", L"Energía (kWh)");
+    const std::array<double, 2> adAlta{100, 80}, adBaja{10, 20.5};
+    g.aSeries = {BarrasDeMeses(L"Producida", kRojo, adAlta), BarrasDeMeses(L"Necesaria", kAzul, adBaja)};
+    const Papel papel;
+    const Trazado trazado(g, 800, 400, kCuerpo, papel);
+    // Near the foot of January's high bar, nearer to the top of the low one.
+    Punto pie = trazado.APantalla(0.8, 12);
+    auto cercano = trazado.PuntoCercano(pie, 1);
+    ASSERT_TRUE(cercano);
+    EXPECT_EQ(trazado.Lectura(*cercano), L"Producida\nEnero\nEnergía (kWh): 100");
+    EXPECT_NEAR(cercano->enPantalla.dX, trazado.APantalla(0.8, 0).dX, 1e-9);  // 0.4 · 1/2 from the middle
+    pie = trazado.APantalla(2.3, 1);
+    EXPECT_EQ(trazado.Lectura(trazado.PuntoCercano(pie, 1).value()),
+              L"Necesaria\nFebrero\nEnergía (kWh): 20,5");
+
+    CCtrlCurva2D dia = GraficaDeHoras(L"", L"Wh");
+    dia.aSeries = {{{0, 12, 18}, {5, 6, 7}, kRojo, 1, FormaSerie::escalon}};
+    const Trazado delDia(dia, 800, 400, kCuerpo, papel);
+    EXPECT_EQ(delDia.Lectura(delDia.PuntoCercano(delDia.APantalla(11, 5), 1).value()), L"0 h\nWh: 5");
+    EXPECT_EQ(delDia.Lectura(delDia.PuntoCercano(delDia.APantalla(23, 7), 1).value()), L"18 h\nWh: 7");
 }
 
 }  // namespace

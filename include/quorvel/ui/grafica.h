@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -27,6 +28,7 @@ enum class FormaSerie {
     barra     ///< one bar a point, from 0; the series of bars of a chart share the place of a point
 };
 
+/// What isn't a finite number interrupts a line; in the place of a bar it stands as "—".
 struct SerieCurva {
     std::vector<double> adX, adY;  ///< of the same length
     Color color = kNegro;
@@ -35,6 +37,18 @@ struct SerieCurva {
     /// Style of the line: 1 solid, 2 dashed, 3 dotted, 4 dashes and dots, 5 dashes and two dots; any other
     /// number is drawn solid. Bars have none.
     int iEstilo = 1;
+    /// What the legend calls it. Named lines of one style get markers and all bars but the first series'
+    /// get hatches, so that they are told apart without their colours.
+    CString csNombre = {};
+};
+
+/// What the numbers along the horizontal axis stand for.
+enum class ClaseEje {
+    numero,
+    mes,        ///< 1 January to 12 December and round again; each has a band of half a unit to both sides
+    diaSemana,  ///< 1 Monday to 7 Sunday, likewise
+    hora,       ///< hours since midnight
+    fecha       ///< day of the year of 365 days; 1 is the first of January
 };
 
 }  // namespace efv::ui
@@ -44,11 +58,21 @@ struct EFV_API CCtrlCurva2D {
     CString csTitulo, csTituloX, csTituloY;
     int iCuadriculaX = 10, iCuadriculaY = 8;  ///< grid counts
     std::vector<efv::ui::SerieCurva> aSeries;
+    efv::ui::ClaseEje claseX = efv::ui::ClaseEje::numero;
+    bool bLeyenda = false;  ///< also for a single named series; several have theirs in any case
 };
 
 namespace efv::ui {
 
-/// The extent of a chart: from the least to the greatest value of its finite points, 0 included.
+/// A chart without series over the months, or over the hours of a day.
+EFV_API CCtrlCurva2D GraficaDeMeses(std::wstring_view csTitulo, std::wstring_view csTituloY);
+EFV_API CCtrlCurva2D GraficaDeHoras(std::wstring_view csTitulo, std::wstring_view csTituloY);
+
+/// A bar for each month, from January.
+EFV_API SerieCurva BarrasDeMeses(std::wstring_view csNombre, Color color, std::span<const double> adMeses);
+
+/// The extent of a chart: from the least to the greatest value of its finite points, 0 included but along
+/// an axis that counts months, days or dates.
 struct Extension {
     double dMinX = 0, dMaxX = 1, dMinY = 0, dMaxY = 1;
 };
