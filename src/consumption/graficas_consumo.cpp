@@ -9,13 +9,9 @@ namespace {
 
 constexpr int kMinutosDia = 1440;
 
-CCtrlCurva2D Grafica(std::wstring_view titulo, std::wstring_view tituloX, std::wstring_view tituloY,
-                     ui::FormaSerie forma)
+CCtrlCurva2D Grafica(std::wstring_view titulo, std::wstring_view tituloY, ui::FormaSerie forma)
 {
-    CCtrlCurva2D grafica;
-    grafica.csTitulo = titulo;
-    grafica.csTituloX = tituloX;
-    grafica.csTituloY = tituloY;
+    CCtrlCurva2D grafica = ui::GraficaDeHoras(titulo, tituloY);
     ui::SerieCurva& serie = grafica.aSeries.emplace_back();
     serie.color = ui::kRojo;
     serie.iAncho = 2;
@@ -33,7 +29,7 @@ void Poner(ui::SerieCurva& serie, double dX, double dY)
 
 CCtrlCurva2D GraficaDiaDeHoras(DiaHorarioVista adDia)
 {
-    CCtrlCurva2D grafica = Grafica(L"Desarrollo diario del consumo (precisión de horas) [Hora solar]", L"Hora",
+    CCtrlCurva2D grafica = Grafica(L"Desarrollo diario del consumo (precisión de horas) [Hora solar]",
                                    L"Energía (Wh)", ui::FormaSerie::escalon);
     for (std::size_t h = 0; h < adDia.size(); ++h)
         Poner(grafica.aSeries[0], static_cast<double>(h), adDia[h]);
@@ -43,7 +39,7 @@ CCtrlCurva2D GraficaDiaDeHoras(DiaHorarioVista adDia)
 CCtrlCurva2D GraficaDiaDeReceptores(const CObArrayPropio<CSFVDataReceptor>& lReceptores, int iMes, int iDiaTipo)
 {
     CCtrlCurva2D grafica = Grafica(L"Desarrollo diario del consumo (precisión de minutos) [Hora solar]",
-                                   L"Hora", L"Potencia (W)", ui::FormaSerie::linea);
+                                   L"Potencia (W)", ui::FormaSerie::linea);
     for (int m = 0; m < kMinutosDia; ++m) {
         double dPotencia = 0.0;
         for (const auto& receptor : lReceptores)

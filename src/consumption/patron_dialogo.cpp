@@ -21,9 +21,7 @@ efv::consumption::AspectoHoras Aspecto()
 {
     efv::consumption::AspectoHoras aspecto;
     aspecto.limites = ui::Intervalo{0, 1};
-    aspecto.grafica.csTitulo = L"Factor de consumo";
-    aspecto.grafica.csTituloX = L"Hora";
-    aspecto.grafica.csTituloY = L"Factor [0-1]";
+    aspecto.grafica = ui::GraficaDeHoras(L"Factor de consumo", L"Factor [0-1]");
     return aspecto;
 }
 

@@ -4,6 +4,8 @@
 #include <span>
 #include <utility>
 
+#include <fmt/xchar.h>
+
 #include "platform/unidades/unidades.h"
 
 namespace efv::electrical {
@@ -97,8 +99,8 @@ CCtrlCurva2D Empezar(CString csTitulo, std::wstring_view csTituloX, std::wstring
     return g;
 }
 
-GraficasPanel Dibujar(const HojaModulo& hoja, const std::vector<NivelCurva>& niveles, CString csCorriente,
-                      CString csPotencia)
+GraficasPanel Dibujar(const HojaModulo& hoja, const std::vector<NivelCurva>& niveles,
+                      std::wstring_view csUnidad, CString csCorriente, CString csPotencia)
 {
     constexpr double kMargenX = 10.0 / 9.0;
     constexpr double kMargenY = 8.0 / 7.0;
@@ -107,8 +109,15 @@ GraficasPanel Dibujar(const HojaModulo& hoja, const std::vector<NivelCurva>& niv
         Empezar(std::move(csPotencia), kCorriente, kPotencia, kMargenX * hoja.dIsc,
                 kMargenY * hoja.dVmpm * hoja.dImpm)};
     for (const NivelCurva& nivel : niveles) {
-        graficas.corriente.aSeries.push_back({nivel.curva.adV, nivel.curva.adI, nivel.color, nivel.iAncho});
-        graficas.potencia.aSeries.push_back({nivel.curva.adI, nivel.curva.adP, nivel.color, nivel.iAncho});
+        const auto serie = [&](const std::vector<double>& adX, const std::vector<double>& adY) {
+            return ui::SerieCurva{.adX = adX,
+                                  .adY = adY,
+                                  .color = nivel.color,
+                                  .iAncho = nivel.iAncho,
+                                  .csNombre = fmt::format(L"{:.0f} {}", nivel.dNivel, csUnidad)};
+        };
+        graficas.corriente.aSeries.push_back(serie(nivel.curva.adV, nivel.curva.adI));
+        graficas.potencia.aSeries.push_back(serie(nivel.curva.adI, nivel.curva.adP));
     }
     return graficas;
 }
@@ -144,14 +153,14 @@ GraficasPanel GraficasTConstante(const HojaModulo& hoja, std::wstring_view csMod
                                  std::wstring_view csTemperatura)
 {
     const std::array datos = {csModelo, csTemperatura};
-    return Dibujar(hoja, CurvasTConstante(hoja), Formatear(kTituloCorrienteT, datos),
+    return Dibujar(hoja, CurvasTConstante(hoja), L"W/m²", Formatear(kTituloCorrienteT, datos),
                    Formatear(kTituloPotenciaT, datos));
 }
 
 GraficasPanel GraficasGConstante(const HojaModulo& hoja, std::wstring_view csModelo)
 {
     const std::array datos = {csModelo};
-    return Dibujar(hoja, CurvasGConstante(hoja), Formatear(kTituloCorrienteG, datos),
+    return Dibujar(hoja, CurvasGConstante(hoja), L"ºC", Formatear(kTituloCorrienteG, datos),
                    Formatear(kTituloPotenciaG, datos));
 }
 

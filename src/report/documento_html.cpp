@@ -39,8 +39,6 @@ tbody th { font-weight: 400; }
 .nota { color: var(--tenue); font-size: .9rem; }
 figure { margin: 1rem 0; }
 figure svg { max-width: 100%; height: auto; border: 1px solid var(--linea); }
-figcaption { font-size: .9rem; color: var(--tenue); }
-.muestra { display: inline-block; width: .9em; height: .9em; margin: 0 .35em 0 .8em; vertical-align: -.1em; }
 footer { margin-top: 2rem; border-top: 1px solid var(--linea); padding-top: .5rem; color: var(--tenue); font-size: .85rem; }
 @page { size: A4; margin: 14mm; }
 @media print {
@@ -136,16 +134,11 @@ std::string CuadroHtml(const Cuadro& cuadro)
     return html + "</tbody>\n</table>\n";
 }
 
-std::string GraficaHtml(const GraficaDocumento& g)
+std::string GraficaHtml(const CCtrlCurva2D& grafica)
 {
     // Inside a page the chart stands without a document's first line.
-    const std::string svg = ui::EscribirSvg(g.grafica, 760, 340);
-    std::string leyenda;
-    for (std::size_t i = 0; i < g.leyenda.size() && i < g.grafica.aSeries.size(); ++i)
-        leyenda += fmt::format("<span class=\"muestra\" style=\"background:{}\"></span>{}",
-                               ui::ColorHex(g.grafica.aSeries[i].color), Escapado(g.leyenda[i]));
-    return fmt::format("<figure>\n{}<figcaption>{}</figcaption>\n</figure>\n",
-                       svg.substr(std::min(svg.find("<svg"), svg.size())), leyenda);
+    const std::string svg = ui::EscribirSvg(grafica, 760, 340);
+    return fmt::format("<figure>\n{}</figure>\n", svg.substr(std::min(svg.find("<svg"), svg.size())));
 }
 
 std::string SeccionHtml(const Seccion& seccion, std::size_t iSeccion)
@@ -155,7 +148,7 @@ std::string SeccionHtml(const Seccion& seccion, std::size_t iSeccion)
                     seccion.bPaginaNueva ? " class=\"pagina\"" : "", Escapado(seccion.titulo));
     if (!seccion.datos.empty())
         html += DatosHtml(seccion);
-    for (const GraficaDocumento& grafica : seccion.graficas)
+    for (const CCtrlCurva2D& grafica : seccion.graficas)
         html += GraficaHtml(grafica);
     for (const Cuadro& cuadro : seccion.cuadros)
         html += CuadroHtml(cuadro);

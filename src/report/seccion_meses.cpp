@@ -1,4 +1,5 @@
 // The year of a field month by month.
+#include <algorithm>
 #include <utility>
 
 #include <quorvel/report/texto.h>
@@ -14,51 +15,25 @@ using solar::MesEnergia;
 
 constexpr ui::Color kGris = 0xB5AAA0, kNaranja = 0x1E82E0, kVerde = 0x5A9A3C;
 
-ui::SerieCurva Barras(ui::Color color)
+ui::SerieCurva Barras(std::wstring_view nombre, const solar::AnoEnergia& ano, ui::Color color,
+                      double MesEnergia::*valor)
 {
-    ui::SerieCurva serie;
-    serie.color = color;
-    serie.forma = ui::FormaSerie::barra;
-    for (std::size_t m = 0; m < kMeses; ++m)
-        serie.adX.push_back(static_cast<double>(m + 1));
-    return serie;
+    solar::DoceMeses adMeses{};
+    std::ranges::transform(ano.meses, adMeses.begin(), [&](const MesEnergia& mes) { return mes.*valor; });
+    return ui::BarrasDeMeses(nombre, color, adMeses);
 }
 
-ui::SerieCurva Barras(const solar::AnoEnergia& ano, ui::Color color, double MesEnergia::*valor)
+std::vector<CCtrlCurva2D> Graficas(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria)
 {
-    ui::SerieCurva serie = Barras(color);
-    for (const MesEnergia& mes : ano.meses)
-        serie.adY.push_back(mes.*valor);
-    return serie;
-}
-
-GraficaDocumento Grafica(std::wstring_view titulo, std::wstring_view tituloY)
-{
-    GraficaDocumento g;
-    g.grafica.csTitulo = titulo;
-    g.grafica.csTituloX = L"Mes (1 enero, 12 diciembre)";
-    g.grafica.csTituloY = tituloY;
-    g.grafica.iCuadriculaX = static_cast<int>(kMeses);
-    return g;
-}
-
-std::vector<GraficaDocumento> Graficas(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria)
-{
-    std::vector<GraficaDocumento> graficas;
-    GraficaDocumento& radiacion =
-        graficas.emplace_back(Grafica(L"Radiación diaria media de cada mes", L"kWh/m²·día"));
-    radiacion.grafica.aSeries = {Barras(ano, kGris, &MesEnergia::dHorizontal),
-                                 Barras(ano, kNaranja, &MesEnergia::dPlano)};
-    radiacion.leyenda = {"Sobre la horizontal", "Sobre el plano de los paneles"};
-    GraficaDocumento& energia = graficas.emplace_back(Grafica(L"Energía de cada mes", L"kWh"));
-    energia.grafica.aSeries = {Barras(ano, kVerde, &MesEnergia::dEnergiaMes)};
-    energia.leyenda = {"Producida"};
-    if (necesaria != nullptr) {
-        ui::SerieCurva& serie = energia.grafica.aSeries.emplace_back(Barras(kGris));
-        serie.adY.assign(necesaria->begin(), necesaria->end());
-        energia.leyenda.emplace_back("Necesaria");
-    }
-    return graficas;
+    CCtrlCurva2D radiacion = ui::GraficaDeMeses(L"Radiación diaria media de cada mes", L"kWh/m²·día");
+    radiacion.aSeries = {Barras(L"Sobre la horizontal", ano, kGris, &MesEnergia::dHorizontal),
+                         Barras(L"Sobre el plano de los paneles", ano, kNaranja, &MesEnergia::dPlano)};
+    CCtrlCurva2D energia = ui::GraficaDeMeses(L"Energía de cada mes", L"kWh");
+    energia.bLeyenda = true;
+    energia.aSeries = {Barras(L"Producida", ano, kVerde, &MesEnergia::dEnergiaMes)};
+    if (necesaria != nullptr)
+        energia.aSeries.push_back(ui::BarrasDeMeses(L"Necesaria", kGris, *necesaria));
+    return {std::move(radiacion), std::move(energia)};
 }
 
 }  // namespace

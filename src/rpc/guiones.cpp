@@ -240,6 +240,23 @@ std::string_view NombreDe(ui::FormaSerie forma)
     return {};
 }
 
+std::string_view NombreDe(ui::ClaseEje clase)
+{
+    switch (clase) {
+        case ui::ClaseEje::numero:
+            return "number";
+        case ui::ClaseEje::mes:
+            return "month";
+        case ui::ClaseEje::diaSemana:
+            return "weekday";
+        case ui::ClaseEje::hora:
+            return "hour";
+        case ui::ClaseEje::fecha:
+            return "date";
+    }
+    return {};
+}
+
 // What only controls of one kind have.
 class EscritorPropio {
 public:
@@ -288,13 +305,15 @@ public:
         EscribirMiembro(m_salida, "title", g.csTitulo);
         EscribirMiembro(m_salida, "xtitle", g.csTituloX);
         EscribirMiembro(m_salida, "ytitle", g.csTituloY);
-        m_salida += ",\"series\":[";
+        m_salida += fmt::format(",\"axis\":\"{}\",\"series\":[", NombreDe(g.claseX));
         std::string_view coma;
         for (const ui::SerieCurva& serie : g.aSeries) {
             m_salida += std::exchange(coma, ",");
             m_salida +=
                 fmt::format("{{\"colour\":\"{}\",\"width\":{},\"style\":{},\"kind\":\"{}\"",
                             ui::ColorHex(serie.color), serie.iAncho, serie.iEstilo, NombreDe(serie.forma));
+            if (!serie.csNombre.empty())
+                EscribirMiembro(m_salida, "name", serie.csNombre);
             EscribirMiembro(m_salida, "x", serie.adX);
             EscribirMiembro(m_salida, "y", serie.adY);
             m_salida += '}';

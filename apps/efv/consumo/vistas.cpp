@@ -137,16 +137,22 @@ std::string MapaDelAno(const AnoConsumo& ano)
     return svg + Rotulos() + Leyenda(dMaximo) + "</svg>\n";
 }
 
+// Seven days from hour `iInicio` of the reference year, whose first day is a Monday; a day has the width 1
+// around its number.
 CCtrlCurva2D GraficaDeSemana(const AnoConsumo& ano, int iInicio)
 {
     constexpr std::size_t kHoras = std::size_t{7} * 24;
     const DiaHorarioVista primero(ano.horas->begin() + iInicio, 24);
     CCtrlCurva2D grafica = GraficaDiaDeHoras(primero);
     grafica.csTitulo = L"Desarrollo semanal del consumo (precisión de horas) [Hora solar]";
-    grafica.iCuadriculaX = 7;
+    grafica.csTituloX = L"Día de la semana";
+    grafica.claseX = ui::ClaseEje::diaSemana;
     ui::SerieCurva& serie = grafica.aSeries[0];
-    for (std::size_t h = 24; h < kHoras; ++h) {
-        serie.adX.push_back(static_cast<double>(h));
+    serie.adX.clear();
+    serie.adY.clear();
+    const double dPrimerDia = iInicio / 24 % 7 + 0.5;
+    for (std::size_t h = 0; h < kHoras; ++h) {
+        serie.adX.push_back(dPrimerDia + static_cast<double>(h) / 24.0);
         serie.adY.push_back((*ano.horas)[static_cast<std::size_t>(iInicio) + h]);
     }
     return grafica;

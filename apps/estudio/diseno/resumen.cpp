@@ -144,14 +144,8 @@ std::vector<LineaResumen> ResumenDe(const Consumo& consumo, const AnoDeConsumo& 
 
 CCtrlCurva2D GraficaDe(const AnoDeConsumo& ano)
 {
-    CCtrlCurva2D datos{L"Consumo de cada mes", L"Mes", L"Energía (kWh)", 12, 8, {{}}};
-    ui::SerieCurva& serie = datos.aSeries[0];
-    serie.forma = ui::FormaSerie::barra;
-    serie.color = kColorBarras;
-    for (std::size_t m = 0; m < ano.adMes.size(); ++m) {
-        serie.adX.push_back(static_cast<double>(m + 1));
-        serie.adY.push_back(ano.adMes[m]);
-    }
+    CCtrlCurva2D datos = ui::GraficaDeMeses(L"Consumo de cada mes", L"Energía (kWh)");
+    datos.aSeries.push_back(ui::BarrasDeMeses(L"", kColorBarras, ano.adMes));
     return datos;
 }
 

@@ -9,7 +9,15 @@ namespace efv::estudio {
 namespace {
 
 constexpr std::array kMetodos = {solar::Metodo::correlacion, solar::Metodo::tabla};
-constexpr std::array<ui::Color, 2> kColores = {0xC0702F, 0x2F90E0};
+
+struct AspectoMetodo {
+    std::wstring_view csNombre;
+    ui::Color color;
+};
+// In step with the methods.
+constexpr auto kAspectos =
+    std::to_array<AspectoMetodo>({{L"Correlación", 0xC0702F}, {L"Tabla de factores K", 0x2F90E0}});
+
 constexpr std::wstring_view kNota =
     L"Los dos métodos llevan el PR y un año de 365 días.\nLa cifra que se usa es la de la tabla K, la de los "
     L"diseños.";
@@ -135,19 +143,12 @@ void PanelEnergia::Mostrar()
 {
     ++m_tabla->uVersion;
     CCtrlCurva2D& datos = m_grafica->datos;
-    datos.csTitulo = L"Energía mensual: correlación (azul) y tabla de factores K (naranja)";
-    datos.csTituloX = L"Mes";
-    datos.csTituloY = L"Energía (kWh)";
-    datos.iCuadriculaX = static_cast<int>(kMeses);
-    datos.aSeries.assign(2, {});
-    for (std::size_t i = 0; i < 2; ++i) {
-        ui::SerieCurva& serie = datos.aSeries[i];
-        serie.forma = ui::FormaSerie::barra;
-        serie.color = kColores[i];
-        for (std::size_t m = 0; m < kMeses; ++m) {
-            serie.adX.push_back(static_cast<double>(m + 1));
-            serie.adY.push_back((*m_filas)[m].adEnergia[i]);
-        }
+    datos = ui::GraficaDeMeses(L"Energía mensual", L"Energía (kWh)");
+    for (std::size_t i = 0; i < kMetodos.size(); ++i) {
+        std::array<double, kMeses> adMeses{};
+        for (std::size_t m = 0; m < kMeses; ++m)
+            adMeses[m] = (*m_filas)[m].adEnergia[i];
+        datos.aSeries.push_back(ui::BarrasDeMeses(kAspectos[i].csNombre, kAspectos[i].color, adMeses));
     }
 }
 

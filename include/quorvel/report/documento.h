@@ -33,16 +33,11 @@ struct Cuadro {
     bool bTotal = false;  ///< the last row sums the others up
 };
 
-struct GraficaDocumento {
-    CCtrlCurva2D grafica;
-    std::vector<std::string> leyenda;  ///< one entry a series
-};
-
 struct Seccion {
     std::string titulo;
     std::vector<Dato> datos;
     std::vector<Cuadro> cuadros;
-    std::vector<GraficaDocumento> graficas;  ///< on the page only
+    std::vector<CCtrlCurva2D> graficas;  ///< on the page only
     std::vector<std::string> notas;
     bool bSoloPagina = false;  ///< too long for a terminal
     bool bPaginaNueva = false;

@@ -30,17 +30,21 @@ TEST(Transcripcion, LasSeriesDicenSuFormaYSuTrazo)
         Estudio() : Dialogo("Estudio", L"Estudio")
         {
             using enum ui::FormaSerie;
-            Anadir<ui::Grafica>("grafica", L"").datos.aSeries = {{{0, 1}, {2, 3}, ui::kRojo, 2, linea, 3},
-                                                                 {{0}, {1}, ui::kAzul, 1, escalon},
-                                                                 {{0}, {1}, ui::kNegro, 1, barra}};
+            Anadir<ui::Grafica>("grafica", L"").datos.aSeries = {
+                {{0, 1}, {2, 3}, ui::kRojo, 2, linea, 3},
+                {{0}, {1}, ui::kAzul, 1, escalon},
+                {{0}, {1}, ui::kNegro, 1, barra, 1, L"Producida"}};
         }
     } d;
-    const Json series = Representar(d, R"([{"read":"*"}])")["reads"][0]["grafica"]["series"];
+    const Json grafica = Representar(d, R"([{"read":"*"}])")["reads"][0]["grafica"];
+    EXPECT_EQ(grafica["axis"], "number");
+    const Json& series = grafica["series"];
     EXPECT_EQ(series[0],
               Json::parse(R"({"x":[0,1],"y":[2,3],"colour":"#FF0000","width":2,"style":3,"kind":"line"})"));
     EXPECT_EQ(series[1]["kind"], "step");
     EXPECT_EQ(series[1]["style"], 1);
     EXPECT_EQ(series[2]["kind"], "bar");
+    EXPECT_EQ(series[2]["name"], "Producida");
     EXPECT_EQ(series[2]["style"], 1);
 }
 
