@@ -10,7 +10,8 @@ Rows: kind, inputs..., results. Kinds:
 import random
 from fractions import Fraction
 
-TOL = Fraction(1, 10**6)
+MINUTO = 10**7   # the rules run on whole numbers: of these a minute has
+TOL = 10         # 1e-6 min
 DIAS = [31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31]
 
 
@@ -89,10 +90,12 @@ def franjas(n):
             f[2] = f[1] + Fraction(random.choice([0, 0, -5, 5, -15]), 10**7)
         if random.random() < 0.3:
             f[4] = f[3] + Fraction(random.choice([0, 0, -5, 5, -15]), 10**7)
-        usos = [sum(cuenta(f, m) for m in range(60 * h, 60 * h + 60)) for h in range(24)]
-        minutos = sum(pinta(f, m) for m in range(1440))
-        print("franjas", *(repr(float(x)) for x in f), repr(float(Fraction(usa(f)) / 60)),
-              repr(float(Fraction(muestra(f)) / 60)), minutos, *usos, sep=",")
+        g = [int(x * MINUTO) for x in f]
+        assert all(x * MINUTO == y for x, y in zip(f, g))
+        usos = [sum(cuenta(g, m * MINUTO) for m in range(60 * h, 60 * h + 60)) for h in range(24)]
+        minutos = sum(pinta(g, m * MINUTO) for m in range(1440))
+        print("franjas", *(repr(float(x)) for x in f), repr(float(Fraction(usa(g), 60 * MINUTO))),
+              repr(float(Fraction(muestra(g), 60 * MINUTO))), minutos, *usos, sep=",")
 
 
 def reparto():
