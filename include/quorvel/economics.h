@@ -130,3 +130,31 @@ public:
 
     static const CRuntimeClass& GetThisClass();
 };
+
+// ---------------------------------------------------------------------------------------------------
+// Sale to the grid. The three studies append to the record's tables; CSFVCalculoEconomico::Reset empties them.
+// On a record that holds tables the years go on from its first entries.
+// More than 100,000 years of study: CInvalidArgException, the record unchanged.
+// ---------------------------------------------------------------------------------------------------
+
+/// A study with its months out of the radiation queries (phGetRI_kWh_m2_dia and those of the energy).
+/// @param iMetodo,dLatitud,iHemisferio,dInclinacion,dOrientacion,dFactorAdicional as those take them
+/// @param adRadHorizontal mean daily horizontal radiation of each month, kJ/m²·day, January first
+/// @param estudio a CSFVCalculoEconomico; of any other class nothing is done
+/// @return 1
+EFV_API int phCalcularViabilidadEconomicaRed(int iMetodo, double dLatitud, int iHemisferio,
+                                             const double (&adRadHorizontal)[12], double dInclinacion,
+                                             double dOrientacion, double dFactorAdicional, CObject* estudio);
+
+/// A study with its months out of the radiation on both planes.
+/// @param adHorizontal,adInclinada mean daily radiation, Wh/m²·day  @param adSinUso not read
+/// @return 1
+EFV_API int phCalcularViabilidadEconomicaRed2(const double (&adHorizontal)[12], const double (&adInclinada)[12],
+                                              const double (&adSinUso)[12], CObject* estudio);
+
+/// A study with its months out of the radiation on both planes and the energy of each month.
+/// @param adHorizontal,adInclinada mean daily radiation, Wh/m²·day
+/// @param adEnergia kWh of each month before the performance ratio
+/// @return 1
+EFV_API int phCalcularViabilidadEconomicaRed3(const double (&adHorizontal)[12], const double (&adInclinada)[12],
+                                              const double (&adEnergia)[12], CObject* estudio);

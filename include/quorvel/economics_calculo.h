@@ -46,6 +46,9 @@ EFV_API double PrimaInicial(const CSFVCalculoEconomico& estudio);
 /// The amounts that follow from the typed ones, in their order: energies, price, cost, subsidies, loan.
 EFV_API void CalcularImportes(CSFVCalculoEconomico& estudio);
 
+/// @throws CInvalidArgException above 100,000 years of study
+EFV_API void ComprobarAnos(const CSFVCalculoEconomico& estudio);
+
 /// Appends the rows of the years to the nine yearly arrays, with total and mean repayment. Energy, price and
 /// accumulated of year y > 0 follow from entry y - 1 counted from the start of the arrays.
 /// @throws CInvalidArgException above 100,000 years, before anything changes

@@ -254,3 +254,53 @@ EFV_API void phGetDistanciaMinimaGEN(int iNumPaneles, double dLongitudPanel, dou
 EFV_API void phGetDistanciaMinimaPCT(int iNumPaneles, double dLongitudPanel, double dInclinacion,
                                      double dPendiente, double dLatitud, double& dDistanciaFilas,
                                      double& dDistanciaLibre, double& dAlturaPanel, double& dAlturaFila);
+
+// ---------------------------------------------------------------------------------------------------
+// Tilt and orientation. The radiation is the net hourly one of the climate library in use (<quorvel/clima.h>):
+// part 0 less the magnitude of part 1.
+//
+//   dDatoSitio      what the climate library knows the site by; ours reads the altitude, m
+//   dHumedad        relative, fraction
+//   aTemperaturas   ºC by month and day from 0; days that don't exist are not read
+// ---------------------------------------------------------------------------------------------------
+
+/// The tilt that collects most in a month or the year, in steps of 0.5 degrees from 0 to just below the whole
+/// degrees of the latitude (of 10 near the equator), facing the equator. Equal within 1e-6, the lowest wins.
+/// @param iMes 0 to 11, 12 for the year; any other has no hours
+/// @param dInclinacion,dOrientacion outputs: the best tilt, 0 or 180
+/// @return the sum of the net radiation at the best tilt, Wh/m²
+EFV_API double phCalcularOrientacionInclinacionOptima(int iMes, double dDatoSitio, double dLatitud,
+                                                      double dHumedad, const double (&aTemperaturas)[12][31],
+                                                      double& dInclinacion, double& dOrientacion);
+
+/// What a plane loses against the optimum, %. Divisions by zero pass through.
+/// @param iMes 0 to 11, -1 for the year, unlike the search
+/// @param dRadOptima the optimum's sum; 0 or below: searched with the same `iMes`, which for -1 finds nothing
+EFV_API double phCalcularPerdidasOrientacionInclinacion(int iMes, double dDatoSitio, double dLatitud,
+                                                        double dHumedad, const double (&aTemperaturas)[12][31],
+                                                        double dInclinacion, double dOrientacion,
+                                                        double dRadOptima);
+
+/// Net radiation of a day on the tilted plane over that on the horizontal; a day without radiation is
+/// not-a-number.
+/// @param iMes 0 to 11  @param iDia from 0
+EFV_API double phCalcFactorK(int iMes, int iDia, double dInclinacion, double dLatitud, double dOrientacion,
+                             double dDatoSitio, double dHumedad, double dTemperatura);
+
+// ---------------------------------------------------------------------------------------------------
+// Minimum power by the Spanish building code of 2006, section HE 5
+// ---------------------------------------------------------------------------------------------------
+
+/// Minimum power of a building with two uses, kW: C·(A·S + B) of each, or C·(0.002·S − 5) without
+/// `bFormulaCoeficientes`; a negative one counts as 0. A second use that isn't there needs an unknown type:
+/// with surface 0 administrative buildings and hospitals still add C·B.
+/// @param iZona 1 to 5  @param iTipoUso1,iTipoUso2 0 to 6  @param dSuperficie1,dSuperficie2 built, m²
+EFV_API double phGetPotMinInstalarCTE(int iZona, int iTipoUso1, double dSuperficie1, int iTipoUso2,
+                                      double dSuperficie2, int bFormulaCoeficientes);
+/// Coefficients of a use (0 to 6) and of a zone (1 to 5); 0 for any other.
+EFV_API double phGetCoefA(int iTipoUso);
+EFV_API double phGetCoefB(int iTipoUso);
+EFV_API double phGetCoefC(int iZona);
+/// Name of a use, and of a disposition of panels (0 to 2); empty for any other.
+EFV_API void phGetCsTipoUso(int iTipoUso, CString& csNombre);
+EFV_API void phGetCsDisposicion(int iDisposicion, CString& csNombre);

@@ -46,10 +46,15 @@ void CalcularImportes(CSFVCalculoEconomico& e)
     e.dCuotaAnual = 0.0;
 }
 
-void CalcularAnos(CSFVCalculoEconomico& e)
+void ComprobarAnos(const CSFVCalculoEconomico& e)
 {
     if (e.dAniosEstudio > kMaximoAnosEstudio)
         throw CInvalidArgException("años de estudio");
+}
+
+void CalcularAnos(CSFVCalculoEconomico& e)
+{
+    ComprobarAnos(e);
     double dIngresosAcumulados = 0.0;
     for (int y = 0; y < e.dAniosEstudio; ++y) {
         const double dEnergia =

@@ -1,10 +1,13 @@
 #include "rpc/metodos_propios.h"
 
+#include <array>
 #include <cstddef>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include <fmt/format.h>
+#include <quorvel/clima.h>
 
 #include "rpc/errores.h"
 #include "rpc/tabla_funciones.h"
@@ -129,6 +132,63 @@ void String(const Json& params, std::string& salida)
     salida += '}';
 }
 
+// The answer of the climate library as a number.
+template <class F, std::size_t... I>
+void Radiacion(const Json& numeros, std::string_view nombre, std::index_sequence<I...>, F&& radiar,
+               std::string& salida)
+{
+    std::array<double, sizeof...(I)> ad{};
+    NombrarLugar([&] { return std::string(nombre); }, [&] { LeerValor(numeros, std::span<double>(ad)); });
+    EscribirValor(salida, radiar(ad[I]...));
+}
+
+// Loads or unloads a climate record or a horizon.
+void CargarClima(const Json& ruta, bool (*cargar)(const CString&, CString&), std::string& salida)
+{
+    CString csRuta;
+    if (!ruta.is_null())
+        NombrarLugar([] { return "ruta"; }, [&] { LeerValor(ruta, csRuta); });
+    CString csError;
+    if (!ruta.is_null() && csRuta.empty())
+        csError = L"la ruta está vacía";
+    if (!csError.empty() || !cargar(csRuta, csError))
+        throw ErrorRpc(Codigo::excepcion, CadenaUtf8(csRuta + L": " + csError));
+    salida += "true";
+}
+
+void Climate(const Json& params, std::string& salida)
+{
+    if (!params.is_object() || params.size() != 1)
+        throw ErrorRpc(Codigo::argumentos, "se esperaba uno de record, horizon, hour, id");
+    const auto& [nombre, valor] = *params.items().begin();
+    clima::BibliotecaClima& biblioteca = clima::BibliotecaActual();
+    if (nombre == "record")
+        return CargarClima(valor, &clima::CargarRegistroClimatico, salida);
+    if (nombre == "horizon")
+        return CargarClima(valor, &clima::CargarHorizonte, salida);
+    if (nombre == "hour")
+        return Radiacion(
+            valor, nombre, std::make_index_sequence<10>(),
+            [&](double dSitio, double dLatitud, double dMes, double dDia, double dHora, auto... resto) {
+                // What is no whole number of a calendar is no month, day or hour.
+                const auto entero = [](double d) {
+                    return d >= 0.0 && d <= 31.0 && d == static_cast<int>(d) ? static_cast<int>(d) : 0;
+                };
+                return biblioteca.clGetRadiacionSolarTotal(dSitio, dLatitud, entero(dMes), entero(dDia),
+                                                           entero(dHora), resto...);
+            },
+            salida);
+    if (nombre == "id")
+        return Radiacion(
+            valor, nombre, std::make_index_sequence<3>(),
+            [&](double dHora, double dInclinacion, double dOrientacion) {
+                const bool bEntera = dHora >= 0.0 && dHora < 8760.0 && dHora == static_cast<int>(dHora);
+                return bEntera ? biblioteca.clGetID(static_cast<int>(dHora), dInclinacion, dOrientacion) : 0.0;
+            },
+            salida);
+    throw ErrorRpc(Codigo::argumentos, "se esperaba uno de record, horizon, hour, id");
+}
+
 }  // namespace
 
 MetodoPropio BuscarMetodoPropio(std::string_view nombre)
@@ -139,6 +199,8 @@ MetodoPropio BuscarMetodoPropio(std::string_view nombre)
         return Archive;
     if (nombre == "rpc.string")
         return String;
+    if (nombre == "rpc.climate")
+        return Climate;
     return nullptr;
 }
 

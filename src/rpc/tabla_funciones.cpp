@@ -9,6 +9,25 @@ namespace efv::rpc {
 
 namespace {
 
+// Studies that take their record by its root: here by the class that they work on.
+int ViabilidadRed(int iMetodo, double dLatitud, int iHemisferio, const double (&adRadHorizontal)[12],
+                  double dInclinacion, double dOrientacion, double dFactorAdicional,
+                  CSFVCalculoEconomico& estudio)
+{
+    return phCalcularViabilidadEconomicaRed(iMetodo, dLatitud, iHemisferio, adRadHorizontal, dInclinacion,
+                                            dOrientacion, dFactorAdicional, &estudio);
+}
+int ViabilidadRed2(const double (&adHorizontal)[12], const double (&adInclinada)[12],
+                   const double (&adSinUso)[12], CSFVCalculoEconomico& estudio)
+{
+    return phCalcularViabilidadEconomicaRed2(adHorizontal, adInclinada, adSinUso, &estudio);
+}
+int ViabilidadRed3(const double (&adHorizontal)[12], const double (&adInclinada)[12],
+                   const double (&adEnergia)[12], CSFVCalculoEconomico& estudio)
+{
+    return phCalcularViabilidadEconomicaRed3(adHorizontal, adInclinada, adEnergia, &estudio);
+}
+
 constexpr auto kFunciones = std::to_array<Funcion>({
     // Module and host
     Funcion::De<&phSetQuorvelBIMCtrl>("phSetQuorvelBIMCtrl", "ctrl"),
@@ -84,6 +103,34 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phGetDistanciaMinimaPCT>("phGetDistanciaMinimaPCT",
                                           "iNumPaneles, dLongitudPanel, dInclinacion, dPendiente, dLatitud, "
                                           "dDistanciaFilas, dDistanciaLibre, dAlturaPanel, dAlturaFila"),
+
+    // Tilt and orientation, minimum power
+    Funcion::De<&phCalcularOrientacionInclinacionOptima>(
+        "phCalcularOrientacionInclinacionOptima",
+        "iMes, dDatoSitio, dLatitud, dHumedad, aTemperaturas, dInclinacion, dOrientacion"),
+    Funcion::De<&phCalcularPerdidasOrientacionInclinacion>(
+        "phCalcularPerdidasOrientacionInclinacion",
+        "iMes, dDatoSitio, dLatitud, dHumedad, aTemperaturas, dInclinacion, dOrientacion, dRadOptima"),
+    Funcion::De<&phCalcFactorK>(
+        "phCalcFactorK",
+        "iMes, iDia, dInclinacion, dLatitud, dOrientacion, dDatoSitio, dHumedad, dTemperatura"),
+    Funcion::De<&phGetPotMinInstalarCTE>(
+        "phGetPotMinInstalarCTE",
+        "iZona, iTipoUso1, dSuperficie1, iTipoUso2, dSuperficie2, bFormulaCoeficientes"),
+    Funcion::De<&phGetCoefA>("phGetCoefA", "iTipoUso"),
+    Funcion::De<&phGetCoefB>("phGetCoefB", "iTipoUso"),
+    Funcion::De<&phGetCoefC>("phGetCoefC", "iZona"),
+    Funcion::De<&phGetCsTipoUso>("phGetCsTipoUso", "iTipoUso, csNombre"),
+    Funcion::De<&phGetCsDisposicion>("phGetCsDisposicion", "iDisposicion, csNombre"),
+
+    // Economics
+    Funcion::De<&ViabilidadRed>("phCalcularViabilidadEconomicaRed",
+                                "iMetodo, dLatitud, iHemisferio, adRadHorizontal, dInclinacion, dOrientacion, "
+                                "dFactorAdicional, estudio"),
+    Funcion::De<&ViabilidadRed2>("phCalcularViabilidadEconomicaRed2",
+                                 "adHorizontal, adInclinada, adSinUso, estudio"),
+    Funcion::De<&ViabilidadRed3>("phCalcularViabilidadEconomicaRed3",
+                                 "adHorizontal, adInclinada, adEnergia, estudio"),
 
     // Module curves
     Funcion::De<&phCalcValoresTipicos>(

@@ -1,0 +1,77 @@
+// Exported functions of the economic studies.
+#include <array>
+
+#include <quorvel/economics.h>
+#include <quorvel/economics_calculo.h>
+
+#include "frame/recursos.h"
+#include "module/singletons.h"
+#include "solar/energia.h"
+
+using efv::frame::AmbitoRecursos;
+namespace ec = efv::economics;
+
+namespace {
+
+/// Runs what the three studies share on a record of the right class, then adds the months that `meses` makes of
+/// it.
+template <class MESES>
+int Estudiar(CObject* registro, MESES&& meses)
+{
+    const AmbitoRecursos ambito;
+    auto* estudio = dynamic_cast<CSFVCalculoEconomico*>(registro);
+    if (estudio == nullptr)
+        return 1;
+    ec::ComprobarAnos(*estudio);
+    ec::CalcularImportes(*estudio);
+    ec::CalcularAnos(*estudio);
+    ec::CalcularTIR(*estudio);
+    ec::AnadirMeses(*estudio, meses(*estudio));
+    return 1;
+}
+
+}  // namespace
+
+int phCalcularViabilidadEconomicaRed(int iMetodo, double dLatitud, int iHemisferio,
+                                     const double (&adRadHorizontal)[12], double dInclinacion,
+                                     double /*dOrientacion*/, double dFactorAdicional, CObject* estudio)
+{
+    return Estudiar(estudio, [&](const CSFVCalculoEconomico& e) {
+        const efv::solar::ConsultaRadiacion consulta{iMetodo,
+                                                     dLatitud,
+                                                     iHemisferio,
+                                                     dInclinacion,
+                                                     e.dPotenciaGenerador / 1000.0,
+                                                     e.dPerformanceRatio / 100.0,
+                                                     dFactorAdicional};
+        const CBaseFactorK& tabla = efv::module::BaseFactorK();
+        const double dMejora = e.dFactorMejora / 100.0 + 1.0;
+        ec::MesesVenta meses;
+        for (int m = 0; m < 12; ++m) {
+            const auto i = static_cast<std::size_t>(m);
+            const double dRad = adRadHorizontal[m];
+            // A query that fails leaves 0.
+            meses.adRadHorizontal[i] = dRad / 3600.0;
+            meses.adRadInclinada[i] = efv::solar::RadiacionDia(consulta, m, dRad, tabla).value_or(0.0);
+            meses.adEnergiaDia[i] = efv::solar::EnergiaDia(consulta, m, dRad, tabla).value_or(0.0) * dMejora;
+            meses.adEnergiaMes[i] = efv::solar::EnergiaMes(consulta, m, dRad, tabla).value_or(0.0) * dMejora;
+        }
+        return meses;
+    });
+}
+
+int phCalcularViabilidadEconomicaRed2(const double (&adHorizontal)[12], const double (&adInclinada)[12],
+                                      const double (&/*adSinUso*/)[12], CObject* estudio)
+{
+    return Estudiar(estudio, [&](const CSFVCalculoEconomico& e) {
+        return ec::MesesPorRadiacion(e, adHorizontal, adInclinada);
+    });
+}
+
+int phCalcularViabilidadEconomicaRed3(const double (&adHorizontal)[12], const double (&adInclinada)[12],
+                                      const double (&adEnergia)[12], CObject* estudio)
+{
+    return Estudiar(estudio, [&](const CSFVCalculoEconomico& e) {
+        return ec::MesesPorEnergia(e, adHorizontal, adInclinada, adEnergia);
+    });
+}
