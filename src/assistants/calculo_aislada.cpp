@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "assistants/aritmetica.h"
+#include "electrical/cables.h"
 #include "platform/numero/tolerancia.h"
 #include "solar/angulos.h"
 #include "solar/calendario.h"
@@ -246,8 +247,7 @@ void CalcularCoeficientes(CSFVAsistenteAislada& v)
     const double dDescarga = v.dProfundidadDescarga / 100;
     const double t = v.dTemperaturaAcumulador;
     v.dKaAjustado = (0.0014 * (t * t) + 0.0001 * t + 0.4) * v.dKa;
-    v.dR =
-        1 - (1 - v.dKb - v.dKc - v.dKv) * v.dKaAjustado * v.dDiasAutonomia / dDescarga - v.dKb - v.dKc - v.dKv;
+    v.dR = electrical::RendimientoBateria(v.dKaAjustado, v.dKb, v.dKc, v.dKv, dDescarga, v.dDiasAutonomia);
 }
 
 void TomarDelRegistro(ValoresAislada& v, const CSFVAsistenteAislada& registro)
