@@ -13,11 +13,22 @@ struct FechaHora {
     int iHora, iMinuto, iSegundo;
 };
 
-/// Replaces the clock by a fixed moment, for results that must repeat; an empty one gives the system's
+class EFV_API Reloj {
+public:
+    Reloj() = default;
+    Reloj(const Reloj&) = delete;
+    Reloj& operator=(const Reloj&) = delete;
+    virtual ~Reloj() = default;
+
+    /// The local time; nothing when the clock or its conversion fails.
+    virtual std::optional<FechaHora> Ahora() const = 0;
+};
+
+/// Replaces the clock in use by a fixed moment, for results that must repeat; an empty one gives the system's
 /// clock back.
 EFV_API void FijarReloj(std::optional<FechaHora> ahora);
 
-/// The local time of that clock; nothing when the system's clock fails.
+/// The local time of the clock in use; nothing when that fails.
 EFV_API std::optional<FechaHora> LeerReloj();
 
 }  // namespace efv

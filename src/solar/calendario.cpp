@@ -4,8 +4,9 @@
 #include <chrono>
 #include <span>
 
+#include <quorvel/reloj.h>
+
 #include "platform/calendario/ano_comun.h"
-#include "platform/reloj/reloj.h"
 
 namespace efv::solar {
 
@@ -37,7 +38,7 @@ int DiaDelMes(int iHoraAno)
 
 int AnoActual()
 {
-    const auto ahora = reloj::Ahora();
+    const auto ahora = LeerReloj();
     return ahora ? ahora->iAno : -1;
 }
 

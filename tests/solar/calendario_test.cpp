@@ -5,7 +5,7 @@
 #include <quorvel/reloj.h>
 #include <quorvel/solar.h>
 
-#include "platform/reloj/reloj.h"
+#include "comun/reloj_parado.h"
 
 namespace {
 
@@ -107,8 +107,10 @@ TEST(Calendario, AnoDelReloj)
 {
     efv::FijarReloj(efv::FechaHora{2031, 5, 6, 7, 8, 9});
     EXPECT_EQ(phGetAnoActual(), 2031);
-    efv::reloj::Sustituir([]() -> std::optional<efv::FechaHora> { return std::nullopt; });
-    EXPECT_EQ(phGetAnoActual(), -1);
+    {
+        const efv::pruebas::RelojParado parado;
+        EXPECT_EQ(phGetAnoActual(), -1);
+    }
     efv::FijarReloj(std::nullopt);
     EXPECT_GE(phGetAnoActual(), 2024);
 }

@@ -7,7 +7,7 @@
 #include <quorvel/solar.h>
 
 #include "comun/ficheros.h"
-#include "platform/reloj/reloj.h"
+#include "comun/reloj_parado.h"
 #include "solar/radiacion.h"
 
 namespace {
@@ -137,8 +137,10 @@ TEST(Energia, FebreroSigueAlReloj)
     EXPECT_DOUBLE_EQ(DiasDeFebrero(), 28);
     efv::FijarReloj(efv::FechaHora{2100, 1, 1, 0, 0, 0});
     EXPECT_DOUBLE_EQ(DiasDeFebrero(), 29);
-    efv::reloj::Sustituir([]() -> std::optional<efv::FechaHora> { return std::nullopt; });
-    EXPECT_DOUBLE_EQ(DiasDeFebrero(), 29);
+    {
+        const efv::pruebas::RelojParado parado;
+        EXPECT_DOUBLE_EQ(DiasDeFebrero(), 29);
+    }
     efv::FijarReloj(std::nullopt);
 }
 

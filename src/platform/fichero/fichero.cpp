@@ -1,178 +1,97 @@
 #include "platform/fichero/fichero.h"
 
+#include <algorithm>
 #include <cerrno>
-#include <cstdlib>
-#include <system_error>
 #include <utility>
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
+#include <quorvel/ficheros.h>
 #include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
 
-namespace efv::fichero {
+#include "platform/fichero/lectura.h"
+#include "platform/fichero/motivos.h"
+
+namespace efv {
+
+namespace fichero {
 
 namespace {
 
-class Descriptor {
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    ~Descriptor()
-    {
-        if (m_fd >= 0)
-            ::close(m_fd);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-    int Numero() const { return m_fd; }
-
-private:
-    int m_fd;
-};
-
-bool EsDeComparticion(int error)
-{
-    return error == EBUSY || error == ETXTBSY || error == EWOULDBLOCK;
-}
-
-// Reads until `bytes` is full or the file ends; false on an error.
-bool LeerTodo(int fd, std::string& bytes)
-{
-    std::size_t leidos = 0;
-    while (leidos < bytes.size()) {
-        const ssize_t n = ::read(fd, bytes.data() + leidos, bytes.size() - leidos);
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            return false;
-        if (n == 0)
-            break;
-        leidos += static_cast<std::size_t>(n);
-    }
-    bytes.resize(leidos);
-    return true;
-}
+// One byte more tells a file that is too large, also one that grows while it is read.
+constexpr std::size_t kTrozo = std::size_t{64} * 1024;
 
 }  // namespace
 
-std::filesystem::path Ruta(const CString& csRuta)
+int LeerTodo(SistemaFicheros& sistema, int iFichero, std::size_t maximo, std::string& bytes)
 {
-    return CadenaUtf8(csRuta);
+    DatosFichero datos;
+    if (const int iError = sistema.Estado(iFichero, datos); iError < 0)
+        return iError;
+    if (datos.uTamano > maximo)
+        return -EFBIG;
+    bytes.resize(datos.uTamano + 1);
+    std::size_t nLeidos = 0;
+    for (;;) {
+        const std::int64_t n = sistema.Leer(iFichero, std::span(bytes).subspan(nLeidos));
+        if (n < 0)
+            return static_cast<int>(n);
+        nLeidos += static_cast<std::size_t>(n);
+        if (nLeidos > maximo)
+            return -EFBIG;
+        if (n == 0)
+            break;
+        if (nLeidos == bytes.size())
+            bytes.resize(std::min(maximo + 1, bytes.size() + kTrozo));
+    }
+    bytes.resize(nLeidos);
+    return 0;
 }
 
 std::optional<std::string> LeerFichero(const CString& csRuta, std::size_t maximo)
 {
-    // Without O_NONBLOCK the opening of a pipe would wait for its other end.
-    const Descriptor fichero(::open(Ruta(csRuta).c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
-    if (fichero.Numero() < 0) {
-        if (EsDeComparticion(errno))
-            throw CFileException(CFileException::violacionComparticion,
-                                 "Otro proceso ocupa el fichero " + CadenaUtf8(csRuta));
-        return std::nullopt;
-    }
-    struct stat datos = {};
-    if (::fstat(fichero.Numero(), &datos) != 0 || !S_ISREG(datos.st_mode))
-        return std::nullopt;
-    if (datos.st_size < 0 || static_cast<std::size_t>(datos.st_size) > maximo)
-        return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(datos.st_size), '\0');
-    if (!LeerTodo(fichero.Numero(), bytes))
-        throw CFileException(CFileException::generica,
-                             CadenaUtf8(csRuta) + ": " + std::generic_category().message(errno));
-    return bytes;
+    return efv::LeerFichero(*ElMundo().ficheros, CadenaUtf8(csRuta), maximo).bytes;
 }
-
-namespace {
-
-CFileException::Causa CausaDe(int error)
-{
-    switch (error) {
-        case ENOENT:
-        case ENOTDIR:
-        case ENAMETOOLONG:
-            return CFileException::noEncontrado;
-        case EACCES:
-        case EPERM:
-        case EROFS:
-        case EISDIR:
-            return CFileException::accesoDenegado;
-        case ENOSPC:
-        case EDQUOT:
-            return CFileException::discoLleno;
-        default:
-            return CFileException::generica;
-    }
-}
-
-[[noreturn]] void FallarEscritura(const CString& csRuta, int error)
-{
-    throw CFileException(CausaDe(error), CadenaUtf8(csRuta) + ": " + std::generic_category().message(error));
-}
-
-bool EscribirTodo(int fd, std::string_view bytes)
-{
-    while (!bytes.empty()) {
-        const ssize_t n = ::write(fd, bytes.data(), bytes.size());
-        if (n < 0 && errno == EINTR)
-            continue;
-        if (n < 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(n));
-    }
-    return true;
-}
-
-// Removes a temporary file unless it was renamed into place.
-class Temporal {
-public:
-    explicit Temporal(std::string ruta) : m_ruta(std::move(ruta)) {}
-    ~Temporal()
-    {
-        if (!m_ruta.empty())
-            ::unlink(m_ruta.c_str());
-    }
-    Temporal(const Temporal&) = delete;
-    Temporal& operator=(const Temporal&) = delete;
-    void Conservar() { m_ruta.clear(); }
-
-private:
-    std::string m_ruta;
-};
-
-// The renaming itself must survive a loss of power as well.
-void VaciarCarpeta(const std::filesystem::path& carpeta)
-{
-    const Descriptor descriptor(::open(carpeta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (descriptor.Numero() >= 0)
-        ::fsync(descriptor.Numero());
-}
-
-}  // namespace
 
 void ReemplazarFichero(const CString& csRuta, std::string_view bytes)
 {
-    std::error_code error;
-    std::filesystem::path destino = std::filesystem::canonical(Ruta(csRuta), error);
-    if (error)
-        destino = std::filesystem::absolute(Ruta(csRuta));
-    struct stat datos = {};
-    const bool existe = ::stat(destino.c_str(), &datos) == 0;
-    // A folder that can be written would let a file be replaced that itself must not be.
-    if (existe && (!S_ISREG(datos.st_mode) || ::access(destino.c_str(), W_OK) != 0))
-        FallarEscritura(csRuta, S_ISREG(datos.st_mode) ? errno : EISDIR);
-
-    std::string ruta = destino.string() + ".XXXXXX";
-    const Descriptor fichero(::mkostemp(ruta.data(), O_CLOEXEC));
-    if (fichero.Numero() < 0)
-        FallarEscritura(csRuta, errno);
-    Temporal temporal(ruta);
-    const mode_t permisos = existe ? datos.st_mode & 07777U : 0644U;
-    if (!EscribirTodo(fichero.Numero(), bytes) || ::fchmod(fichero.Numero(), permisos) != 0 ||
-        ::fsync(fichero.Numero()) != 0 || ::rename(ruta.c_str(), destino.c_str()) != 0)
-        FallarEscritura(csRuta, errno);
-    temporal.Conservar();
-    VaciarCarpeta(destino.parent_path());
+    efv::ReemplazarFichero(*ElMundo().ficheros, CadenaUtf8(csRuta), bytes);
 }
 
-}  // namespace efv::fichero
+}  // namespace fichero
+
+LecturaFichero LeerFichero(SistemaFicheros& sistema, const std::string& ruta, std::size_t maximo)
+{
+    if (ruta.empty() || ruta.find('\0') != std::string::npos)
+        return {std::nullopt, "el nombre no es válido"};
+    const int iFichero = sistema.Abrir(ruta, Apertura::lectura);
+    if (iFichero < 0) {
+        if (fichero::Causa(-iFichero) == CFileException::violacionComparticion)
+            throw CFileException(CFileException::violacionComparticion,
+                                 "Otro proceso ocupa el fichero " + ruta);
+        return {std::nullopt, fichero::Motivo(-iFichero)};
+    }
+    struct Cierre {
+        SistemaFicheros& sistema;
+        int iFichero;
+        ~Cierre() { sistema.Cerrar(iFichero); }
+    } const cierre{sistema, iFichero};
+
+    DatosFichero datos;
+    int iError = sistema.Estado(iFichero, datos);
+    if (iError >= 0 && datos.clase == DatosFichero::Clase::carpeta)
+        iError = -EISDIR;
+    if (iError >= 0 && datos.clase != DatosFichero::Clase::normal)
+        return {std::nullopt, "no es un fichero normal"};
+    std::string bytes;
+    if (iError >= 0)
+        iError = fichero::LeerTodo(sistema, iFichero, maximo, bytes);
+    if (iError == -EFBIG)
+        return {std::nullopt, fichero::MotivoTamano(maximo)};
+    if (iError == -EISDIR)
+        return {std::nullopt, fichero::Motivo(EISDIR)};
+    if (iError < 0)
+        throw CFileException(fichero::Causa(-iError), ruta + ": " + fichero::Motivo(-iError));
+    return {std::move(bytes), {}};
+}
+
+}  // namespace efv

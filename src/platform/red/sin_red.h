@@ -1,0 +1,14 @@
+// A machine without network.
+#pragma once
+
+#include <quorvel/red.h>
+
+namespace efv {
+
+class SinRed final : public Red {
+public:
+    std::variant<RespuestaRed, FalloRed> Obtener(const std::string& url, const OpcionesDescarga& opciones,
+                                                 const AvanceRed& avance) override;
+};
+
+}  // namespace efv
