@@ -236,7 +236,6 @@ TEST_F(Visor, LoQueNoSePuedeEscribirSeDiceYNoSePierde)
     guion.Dialogo("CDlgVisorNombre", {paso::Poner{"csNombre", L"Nueva"}, paso::Pulsar{"OK"}});
     guion.presentador.guiones.push_front(
         {"CDlgVisorXML", {paso::Pulsar{"NuevaFamilia"}, paso::Pulsar{"OK"}, paso::Leer{{"arbol"}}}});
-    guion.presentador.respuestas = {ui::Respuesta::si};
     Intruso intruso(guion.presentador);
     // A folder takes the file's place.
     intruso.alPedirNombre = [&] {
@@ -245,8 +244,9 @@ TEST_F(Visor, LoQueNoSePuedeEscribirSeDiceYNoSePierde)
     };
     ui::InstalarPresentador(&intruso);
     EXPECT_EQ(phEditarBasePanelesFotovoltaicos(0), 0);
-    ASSERT_EQ(guion.Mensajes().size(), 2U);
-    EXPECT_TRUE(guion.Mensajes()[1].starts_with(L"No se ha podido guardar el archivo "));
+    ASSERT_EQ(guion.Mensajes().size(), 1U);
+    EXPECT_TRUE(guion.Mensajes()[0].starts_with(L"No se ha podido guardar el archivo "));
+    EXPECT_TRUE(guion.Mensajes()[0].ends_with(L": es una carpeta"));
     EXPECT_EQ(Arbol().back(), L"Nueva");  // the dialog stayed open with what was edited
 }
 

@@ -1,15 +1,18 @@
 #include "catalogues/format/anadir_modelos.h"
 
-#include <filesystem>
 #include <string>
 #include <string_view>
 #include <unordered_map>
 #include <unordered_set>
 #include <utility>
 
+#include <quorvel/ficheros.h>
 #include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
 
-#include "platform/fichero/fichero.h"
+#include "catalogues/format/guardar_documento.h"
+#include "platform/xml/codificacion.h"
+#include "platform/xml/xml.h"
 
 namespace efv::catalogues {
 
@@ -31,13 +34,14 @@ xml::Elemento BuscarTabla(const xml::DocumentoEditable& documento)
 constexpr std::string_view kVacio =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<QuorvelEFV>\n<TablaFamilias/>\n</QuorvelEFV>\n";
 
-xml::DocumentoEditable AbrirOCrear(const CString& csFichero, Adicion modo)
+xml::DocumentoEditable LeerOCrear(FicheroRetenido& fichero, const CString& csFichero, Adicion modo)
 {
-    std::error_code fallo;
-    const bool bCrear = modo == Adicion::tolerante && !std::filesystem::exists(fichero::Ruta(csFichero), fallo);
-    auto documento = bCrear ? xml::DocumentoEditable::Leer(kVacio) : xml::DocumentoEditable::Abrir(csFichero);
+    if (!fichero.Existe() && modo == Adicion::estricta)
+        Fallar(csFichero, "no existe");
+    auto documento = fichero.Existe() ? xml::DocumentoEditable::DeBytes(fichero.Leer(xml::kMaximoFichero))
+                                      : xml::DocumentoEditable::Leer(kVacio);
     if (!documento)
-        Fallar(csFichero, "no existe, no se puede leer o no es XML bien formado");
+        Fallar(csFichero, xml::MotivoIlegible(csFichero));
     return std::move(*documento);
 }
 
@@ -89,7 +93,9 @@ private:
 std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<const ModelosDeFamilia> nuevos,
                                           Adicion modo, const AtributosDeModelo& atributosDe)
 {
-    xml::DocumentoEditable documento = AbrirOCrear(csFichero, modo);
+    // Nobody else changes the file between its reading and its replacement.
+    FicheroRetenido fichero(*ElMundo().ficheros, CadenaUtf8(csFichero));
+    xml::DocumentoEditable documento = LeerOCrear(fichero, csFichero, modo);
     const xml::Elemento tabla = BuscarTabla(documento);
     if (!tabla)
         Fallar(csFichero, "no es un catálogo: no tiene TablaFamilias");
@@ -108,7 +114,7 @@ std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<co
         }
     }
     if (bCambiado)
-        fichero::ReemplazarFichero(csFichero, documento.Texto());
+        fichero.Reemplazar(TextoDeFichero(documento, csFichero));
     return sobrantes;
 }
 

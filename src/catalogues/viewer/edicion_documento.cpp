@@ -1,5 +1,6 @@
 #include "catalogues/viewer/edicion_documento.h"
 
+#include <memory>
 #include <utility>
 
 namespace efv::catalogues {
@@ -19,9 +20,10 @@ void EdicionDocumento::PonerAtributos(xml::Elemento elemento, const DocumentoEdi
     const auto anteriores = m_documento.LeerAtributos(elemento);
     if (anteriores == atributos)
         return;
+    Accion volver = [elemento, anteriores](DocumentoEditable& d) { d.PonerAtributos(elemento, anteriores); };
+    HacerSitio();
     m_documento.PonerAtributos(elemento, atributos);
-    m_deshacer.emplace_back(
-        [elemento, anteriores](DocumentoEditable& d) { d.PonerAtributos(elemento, anteriores); });
+    m_deshacer.push_back(std::move(volver));
 }
 
 void EdicionDocumento::Escribir(xml::Elemento elemento, const CXMLElemento& cambiado)
@@ -43,6 +45,7 @@ void EdicionDocumento::PonerAtributo(xml::Elemento elemento, std::wstring_view n
 xml::Elemento EdicionDocumento::Anadir(xml::Elemento padre, std::string_view nombre,
                                        const DocumentoEditable::Atributos& atributos)
 {
+    HacerSitio();
     const xml::Elemento nuevo = m_documento.Anadir(padre, nombre, atributos);
     m_deshacer.emplace_back([nuevo](DocumentoEditable& d) { d.Retirar(nuevo); });
     return nuevo;
@@ -50,6 +53,7 @@ xml::Elemento EdicionDocumento::Anadir(xml::Elemento padre, std::string_view nom
 
 xml::Elemento EdicionDocumento::Duplicar(xml::Elemento elemento)
 {
+    HacerSitio();
     const xml::Elemento copia = m_documento.Duplicar(elemento);
     m_deshacer.emplace_back([copia](DocumentoEditable& d) { d.Retirar(copia); });
     return copia;
@@ -57,8 +61,18 @@ xml::Elemento EdicionDocumento::Duplicar(xml::Elemento elemento)
 
 void EdicionDocumento::Retirar(xml::Elemento elemento)
 {
-    const auto retirado = m_documento.Retirar(elemento);
-    m_deshacer.emplace_back([retirado](DocumentoEditable& d) { d.Reponer(retirado); });
+    HacerSitio();
+    const auto retirado = std::make_shared<DocumentoEditable::Retirado>();
+    Accion volver = [retirado](DocumentoEditable& d) { d.Reponer(*retirado); };
+    *retirado = m_documento.Retirar(elemento);
+    m_deshacer.push_back(std::move(volver));
+}
+
+// Behind a change of the document nothing may fail that its way back needs.
+void EdicionDocumento::HacerSitio()
+{
+    if (m_deshacer.size() == m_deshacer.capacity())
+        m_deshacer.reserve(2 * m_deshacer.size() + 1);
 }
 
 void EdicionDocumento::Deshacer()

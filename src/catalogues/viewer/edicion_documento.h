@@ -32,10 +32,13 @@ public:
     void Deshacer();
 
 private:
+    using Accion = std::function<void(xml::DocumentoEditable&)>;
+
+    void HacerSitio();
     void PonerAtributos(xml::Elemento elemento, const xml::DocumentoEditable::Atributos& atributos);
 
     xml::DocumentoEditable m_documento;
-    std::vector<std::function<void(xml::DocumentoEditable&)>> m_deshacer;
+    std::vector<Accion> m_deshacer;
 };
 
 }  // namespace efv::catalogues

@@ -1,11 +1,14 @@
 #include "catalogues/viewer/visor_dialogo.h"
 
 #include <algorithm>
+#include <new>
 #include <utility>
 
 #include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
 #include <quorvel/ui/presentador.h>
 
+#include "catalogues/format/guardar_documento.h"
 #include "catalogues/viewer/nombre_dialogo.h"
 #include "platform/fichero/fichero.h"
 #include "platform/xml/xml.h"
@@ -32,11 +35,11 @@ CString Ancho(const char* texto)
 }  // namespace
 
 CDlgVisorXML::CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion, xml::DocumentoEditable documento,
-                           std::string huella, const CString& csSeleccion)
+                           efv::Huella huella, const CString& csSeleccion)
     : Dialogo("CDlgVisorXML", peticion.titulo),
       m_peticion(peticion),
       m_edicion(std::move(documento)),
-      m_huella(std::move(huella)),
+      m_huella(huella),
       m_buscar(Anadir<ui::Edicion>("csBuscar", L"&Buscar:")),
       m_arbol(Anadir<ui::Lista>("arbol", peticion.rotulo, ui::Lista::Forma::arbol))
 {
@@ -215,13 +218,18 @@ void CDlgVisorXML::Deshacer()
 bool CDlgVisorXML::Guardar()
 {
     const CString& csRuta = m_peticion.csRuta;
-    const auto actual = efv::fichero::LeerFichero(csRuta, xml::kMaximoFichero);
-    if ((!actual || *actual != m_huella) &&
-        !ui::Preguntar(L"Otro programa ha cambiado el archivo <" + csRuta +
-                       L"> desde que se abrió. ¿Desea sustituirlo por lo que muestra esta ventana?"))
-        return false;
-    const ui::Espera espera;
-    efv::fichero::ReemplazarFichero(csRuta, m_edicion.Documento().Texto());
+    const std::string texto = efv::catalogues::TextoDeFichero(m_edicion.Documento(), csRuta);
+    std::optional<efv::Huella> conocida = m_huella;
+    const auto escribir = [&] {
+        const ui::Espera espera;
+        return efv::ReemplazarSiSigue(*efv::ElMundo().ficheros, efv::CadenaUtf8(csRuta), texto, conocida,
+                                      xml::kMaximoFichero);
+    };
+    // Nobody is kept waiting by the question; what is changed meanwhile is asked again.
+    while (!escribir())
+        if (!ui::Preguntar(L"Otro programa ha cambiado el archivo <" + csRuta +
+                           L"> desde que se abrió. ¿Desea sustituirlo por lo que muestra esta ventana?"))
+            return false;
     return true;
 }
 
@@ -229,24 +237,31 @@ bool CDlgVisorXML::AlAceptar()
 {
     if (!m_edicion.Modificado())
         return true;
+    const auto avisar = [](const CString& csMotivo) {
+        ui::MostrarAviso(L"No se ha podido guardar el archivo " + csMotivo, ui::Icono::error);
+    };
     try {
         return Guardar();
     } catch (const CFileException& error) {
-        ui::MostrarAviso(L"No se ha podido guardar el archivo " + efv::CadenaDesdeUtf8(error.what()),
-                         ui::Icono::error);
-        return false;
+        avisar(efv::CadenaDesdeUtf8(error.what()));
+    } catch (const std::bad_alloc&) {
+        avisar(m_peticion.csRuta + L": memoria insuficiente");
     }
+    return false;
 }
 
 namespace efv::catalogues {
 
 int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion)
 {
-    auto huella = fichero::LeerFichero(peticion.csRuta, xml::kMaximoFichero);
-    auto documento = xml::DocumentoEditable::Abrir(peticion.csRuta);
-    if (!huella || !documento)
+    auto bytes = fichero::LeerFichero(peticion.csRuta, xml::kMaximoFichero);
+    if (!bytes)
         return 0;
-    CDlgVisorXML dialogo(peticion, std::move(*documento), std::move(*huella), csSeleccion);
+    const Huella huella = HuellaDe(*bytes);
+    auto documento = xml::DocumentoEditable::DeBytes(std::move(*bytes));
+    if (!documento)
+        return 0;
+    CDlgVisorXML dialogo(peticion, std::move(*documento), huella, csSeleccion);
     if (dialogo.Mostrar() != ui::Dialogo::ok)
         return ui::Dialogo::cancelado;
     csSeleccion = dialogo.Seleccion();

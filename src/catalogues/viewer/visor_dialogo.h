@@ -3,9 +3,9 @@
 
 #include <memory>
 #include <optional>
-#include <string>
 #include <vector>
 
+#include <quorvel/ficheros.h>
 #include <quorvel/ui/dialogo.h>
 
 #include "catalogues/viewer/arbol_documento.h"
@@ -14,9 +14,9 @@
 
 class CDlgVisorXML : public efv::ui::Dialogo {
 public:
-    /// `csHuella` is the file's content as it was opened, to notice that somebody else changed it.
+    /// `huella` is of the file as it was opened, to notice that somebody else changed it.
     CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion, efv::xml::DocumentoEditable documento,
-                 std::string huella, const CString& csSeleccion);
+                 efv::Huella huella, const CString& csSeleccion);
 
     /// Identification of the row that the person stands on; empty for none.
     CString Seleccion() const;
@@ -42,7 +42,7 @@ private:
 
     const efv::catalogues::PeticionVisor& m_peticion;
     efv::catalogues::EdicionDocumento m_edicion;
-    std::string m_huella;
+    efv::Huella m_huella;
     std::shared_ptr<const std::vector<efv::catalogues::FilaArbol>> m_filas;
     std::shared_ptr<const efv::catalogues::FilasVisibles> m_visibles;
     efv::ui::Edicion& m_buscar;

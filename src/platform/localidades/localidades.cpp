@@ -8,6 +8,7 @@
 
 #include "platform/texto/texto.h"
 #include "platform/xml/atributos.h"
+#include "platform/xml/codificacion.h"
 #include "platform/xml/xml.h"
 
 namespace efv {
@@ -124,7 +125,7 @@ std::vector<Localidad> LeerLocalidades(const CString& csArchivo)
 {
     const xml::Documento documento(csArchivo);
     if (!documento)
-        Fallar(csArchivo, "no existe, no se puede leer o no es XML bien formado");
+        Fallar(csArchivo, xml::MotivoIlegible(csArchivo));
     std::vector<Localidad> localidades;
     for (xml::Nodo grupo : documento.Superiores()) {
         if (!xml::SeLlama(grupo, "Localidades"))

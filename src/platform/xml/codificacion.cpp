@@ -4,6 +4,9 @@
 #include <initializer_list>
 #include <string_view>
 
+#include <quorvel/ficheros.h>
+#include <quorvel/mundo.h>
+
 #include "platform/fichero/fichero.h"
 #include "platform/texto/texto.h"
 #include "platform/xml/xml.h"
@@ -55,7 +58,7 @@ std::optional<std::string> DeUtf16(std::string_view bytes, bool granEndian)
 }
 
 // The document as UTF-8; nothing when its bytes aren't what its mark or declaration says.
-std::optional<std::string> AUtf8(std::string bytes)
+std::optional<std::string> Descodificar(std::string bytes)
 {
     const std::string_view vista = bytes;
     if (vista.starts_with("\xFF\xFE"))
@@ -82,15 +85,27 @@ std::optional<std::string> AUtf8(std::string bytes)
 
 }  // namespace
 
-std::optional<std::string> LeerComoUtf8(const CString& csRuta)
+std::optional<std::string> AUtf8(std::string bytes)
 {
-    std::optional<std::string> leido = fichero::LeerFichero(csRuta, kMaximoFichero);
-    if (!leido)
-        return std::nullopt;
-    std::optional<std::string> utf8 = AUtf8(std::move(*leido));
+    std::optional<std::string> utf8 = Descodificar(std::move(bytes));
     if (utf8 && utf8->find('\0') != std::string::npos)
         return std::nullopt;
     return utf8;
+}
+
+std::optional<std::string> LeerComoUtf8(const CString& csRuta)
+{
+    std::optional<std::string> leido = fichero::LeerFichero(csRuta, kMaximoFichero);
+    return leido ? AUtf8(std::move(*leido)) : std::nullopt;
+}
+
+std::string MotivoIlegible(const CString& csRuta)
+{
+    LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, CadenaUtf8(csRuta), kMaximoFichero);
+    if (!lectura.bytes)
+        return lectura.motivo;
+    return AUtf8(std::move(*lectura.bytes)) ? "no es XML bien formado"
+                                            : "no está en la codificación que declara";
 }
 
 bool EsTabla(std::string_view nombre)
@@ -99,3 +114,8 @@ bool EsTabla(std::string_view nombre)
 }
 
 }  // namespace efv::xml
+
+std::string efv::MotivoDocumentoIlegible(const CString& csRuta)
+{
+    return xml::MotivoIlegible(csRuta);
+}

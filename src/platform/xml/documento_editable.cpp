@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <sstream>
+#include <new>
 
 #include <pugixml.hpp>
 
@@ -39,6 +39,57 @@ bool EsBlanco(pugi::xml_node nodo)
            std::string_view(nodo.value()).find_first_not_of(" \t\r\n") == std::string_view::npos;
 }
 
+// The tree says with a null handle or a false that there was no memory.
+template <class Resultado>
+Resultado Exigir(Resultado resultado)
+{
+    if (!resultado)
+        throw std::bad_alloc();
+    return resultado;
+}
+
+// Removes a new node again, unless it is kept.
+class NodoNuevo {
+public:
+    explicit NodoNuevo(pugi::xml_node nodo) : m_nodo(Exigir(nodo)) {}
+    ~NodoNuevo()
+    {
+        if (m_nodo)
+            m_nodo.parent().remove_child(m_nodo);
+    }
+    NodoNuevo(const NodoNuevo&) = delete;
+    NodoNuevo& operator=(const NodoNuevo&) = delete;
+    pugi::xml_node Conservar() { return std::exchange(m_nodo, {}); }
+    pugi::xml_node& operator*() { return m_nodo; }
+    pugi::xml_node* operator->() { return &m_nodo; }
+
+private:
+    pugi::xml_node m_nodo;
+};
+
+class EscritorTexto final : public pugi::xml_writer {
+public:
+    void write(const void* bytes, std::size_t n) override { texto.append(static_cast<const char*>(bytes), n); }
+    std::string texto;
+};
+
+void Imprimir(pugi::xml_node nodo, EscritorTexto& escritor)
+{
+    nodo.print(escritor, "", pugi::format_raw, pugi::encoding_utf8);
+}
+
+bool Prohibido(wchar_t c)
+{
+    return (c < L' ' && c != L'\t' && c != L'\n' && c != L'\r') || c == 0xFFFE || c == 0xFFFF;
+}
+
+std::string Valor(const CString& csValor)
+{
+    CString csPermitido = csValor;
+    std::ranges::replace_if(csPermitido, Prohibido, L'\xFFFD');
+    return CadenaUtf8(csPermitido);
+}
+
 // What is written is UTF-8, whatever the file was.
 void DeclararUtf8(pugi::xml_document& arbol)
 {
@@ -46,7 +97,7 @@ void DeclararUtf8(pugi::xml_document& arbol)
     if (declaracion.type() != pugi::node_declaration)
         return;
     if (pugi::xml_attribute codificacion = declaracion.attribute("encoding"))
-        codificacion.set_value("UTF-8");
+        Exigir(codificacion.set_value("UTF-8"));
 }
 
 pugi::xml_node UltimoElemento(pugi::xml_node padre)
@@ -66,8 +117,11 @@ std::string Sangria(pugi::xml_node elemento)
 
 void InsertarSangriaAntes(pugi::xml_node elemento, const std::string& sangria)
 {
-    if (!sangria.empty())
-        elemento.parent().insert_child_before(pugi::node_pcdata, elemento).set_value(sangria.c_str());
+    if (sangria.empty())
+        return;
+    NodoNuevo blanco(elemento.parent().insert_child_before(pugi::node_pcdata, elemento));
+    Exigir(blanco->set_value(sangria.c_str()));
+    blanco.Conservar();
 }
 
 }  // namespace
@@ -83,30 +137,39 @@ std::optional<DocumentoEditable> DocumentoEditable::Abrir(const CString& csRuta)
     return utf8 ? Leer(*utf8) : std::nullopt;
 }
 
+std::optional<DocumentoEditable> DocumentoEditable::DeBytes(std::string bytes)
+{
+    const std::optional<std::string> utf8 = AUtf8(std::move(bytes));
+    return utf8 ? Leer(*utf8) : std::nullopt;
+}
+
 std::optional<DocumentoEditable> DocumentoEditable::Leer(std::string_view utf8)
 {
     DocumentoEditable documento;
     pugi::xml_document& arbol = documento.m->arbol;
     constexpr unsigned opciones = pugi::parse_full | pugi::parse_ws_pcdata;
-    if (!arbol.load_buffer(utf8.data(), utf8.size(), opciones, pugi::encoding_utf8) ||
-        std::count_if(arbol.begin(), arbol.end(), EsElemento) != 1)
+    const pugi::xml_parse_result leido =
+        arbol.load_buffer(utf8.data(), utf8.size(), opciones, pugi::encoding_utf8);
+    if (leido.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
+    if (!leido || std::count_if(arbol.begin(), arbol.end(), EsElemento) != 1)
         return std::nullopt;
     DeclararUtf8(arbol);
-    documento.m->papelera = arbol.append_child("papelera");
+    documento.m->papelera = Exigir(arbol.append_child("papelera"));
     return documento;
 }
 
 std::string DocumentoEditable::Texto() const
 {
-    std::ostringstream texto;
+    EscritorTexto escritor;
     // White space outside the outermost element isn't kept: each node there gets a line of its own.
     for (const pugi::xml_node nodo : m->arbol) {
         if (nodo == m->papelera)
             continue;
-        nodo.print(texto, "", pugi::format_raw, pugi::encoding_utf8);
-        texto << '\n';
+        Imprimir(nodo, escritor);
+        escritor.texto += '\n';
     }
-    return texto.str();
+    return std::move(escritor.texto);
 }
 
 std::vector<Elemento> DocumentoEditable::Superiores() const
@@ -152,19 +215,22 @@ DocumentoEditable::Atributos DocumentoEditable::LeerAtributos(Elemento elemento)
 void DocumentoEditable::PonerAtributos(Elemento elemento, const Atributos& atributos)
 {
     pugi::xml_node nodo = Nodo(elemento.m_nodo);
-    pugi::xml_attribute actual = nodo.first_attribute();
-    for (const auto& [nombre, valor] : atributos) {
-        if (!actual)
-            actual = nodo.append_attribute("");
-        actual.set_name(CadenaUtf8(nombre).c_str());
-        actual.set_value(CadenaUtf8(valor).c_str());
-        actual = actual.next_attribute();
+    const pugi::xml_attribute ultimo = nodo.last_attribute();
+    const auto primeroNuevo = [&] { return ultimo ? ultimo.next_attribute() : nodo.first_attribute(); };
+    // The old ones go when all new ones stand behind them.
+    try {
+        for (const auto& [nombre, valor] : atributos) {
+            pugi::xml_attribute nuevo = Exigir(nodo.append_attribute(CadenaUtf8(nombre).c_str()));
+            Exigir(nuevo.set_value(Valor(valor).c_str()));
+        }
+    } catch (const std::bad_alloc&) {
+        while (const pugi::xml_attribute nuevo = primeroNuevo())
+            nodo.remove_attribute(nuevo);
+        throw;
     }
-    while (actual) {
-        const pugi::xml_attribute sobrante = actual;
-        actual = actual.next_attribute();
-        nodo.remove_attribute(sobrante);
-    }
+    const pugi::xml_attribute primero = primeroNuevo();
+    while (nodo.first_attribute() != primero)
+        nodo.remove_attribute(nodo.first_attribute());
 }
 
 Elemento DocumentoEditable::Anadir(Elemento padre, std::string_view nombre, const Atributos& atributos)
@@ -174,21 +240,25 @@ Elemento DocumentoEditable::Anadir(Elemento padre, std::string_view nombre, cons
     const std::string sangria = ultimo                    ? Sangria(ultimo)
                                 : nodoPadre.first_child() ? std::string()
                                                           : Sangria(nodoPadre);
-    pugi::xml_node nuevo = ultimo ? nodoPadre.insert_child_after(pugi::node_element, ultimo)
-                                  : nodoPadre.append_child(pugi::node_element);
-    nuevo.set_name(std::string(nombre).c_str());
-    InsertarSangriaAntes(nuevo, sangria);
-    const Elemento elemento(nuevo.internal_object());
-    PonerAtributos(elemento, atributos);
-    return elemento;
+    NodoNuevo nuevo(ultimo ? nodoPadre.insert_child_after(pugi::node_element, ultimo)
+                           : nodoPadre.append_child(pugi::node_element));
+    Exigir(nuevo->set_name(std::string(nombre).c_str()));
+    PonerAtributos(Elemento(nuevo->internal_object()), atributos);
+    InsertarSangriaAntes(*nuevo, sangria);
+    return Elemento(nuevo.Conservar().internal_object());
 }
 
 Elemento DocumentoEditable::Duplicar(Elemento elemento)
 {
     const pugi::xml_node original = Nodo(elemento.m_nodo);
-    pugi::xml_node copia = original.parent().insert_copy_after(original, original);
-    InsertarSangriaAntes(copia, Sangria(original));
-    return Elemento(copia.internal_object());
+    NodoNuevo copia(original.parent().insert_copy_after(original, original));
+    // Of a copy for which there was no memory some of the inner parts are missing, without a word.
+    EscritorTexto deOriginal, deCopia;
+    Imprimir(original, deOriginal);
+    Imprimir(*copia, deCopia);
+    Exigir(deOriginal.texto == deCopia.texto);
+    InsertarSangriaAntes(*copia, Sangria(original));
+    return Elemento(copia.Conservar().internal_object());
 }
 
 DocumentoEditable::Retirado DocumentoEditable::Retirar(Elemento elemento)
@@ -200,8 +270,8 @@ DocumentoEditable::Retirado DocumentoEditable::Retirar(Elemento elemento)
     const Retirado retirado{elemento, Elemento(padre.internal_object()),
                             Elemento(nodo.next_sibling().internal_object())};
     if (EsBlanco(sangria))
-        m->papelera.append_move(sangria);
-    m->papelera.append_move(nodo);
+        Exigir(m->papelera.append_move(sangria));
+    Exigir(m->papelera.append_move(nodo));
     return retirado;
 }
 
@@ -212,11 +282,11 @@ void DocumentoEditable::Reponer(const Retirado& retirado)
     const pugi::xml_node sangria = nodo.previous_sibling();
     const bool llevaSangria = EsBlanco(sangria);
     if (retirado.siguiente)
-        padre.insert_move_before(nodo, Nodo(retirado.siguiente.m_nodo));
+        Exigir(padre.insert_move_before(nodo, Nodo(retirado.siguiente.m_nodo)));
     else
-        padre.append_move(nodo);
+        Exigir(padre.append_move(nodo));
     if (llevaSangria)
-        padre.insert_move_before(sangria, nodo);
+        Exigir(padre.insert_move_before(sangria, nodo));
 }
 
 }  // namespace efv::xml

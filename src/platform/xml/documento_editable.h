@@ -29,6 +29,7 @@ private:
     void* m_nodo = nullptr;
 };
 
+/// What runs out of memory throws std::bad_alloc, with the document as it was before.
 class DocumentoEditable {
 public:
     using Atributos = std::vector<std::pair<CString, CString>>;
@@ -46,6 +47,8 @@ public:
     /// @return nothing when the file can't be read as a document (see xml::Documento).
     static std::optional<DocumentoEditable> Abrir(const CString& csRuta);
 
+    /// The same of a file's bytes.
+    static std::optional<DocumentoEditable> DeBytes(std::string bytes);
     /// The same of a text. @param utf8 well-formed UTF-8
     static std::optional<DocumentoEditable> Leer(std::string_view utf8);
 
@@ -60,7 +63,8 @@ public:
     CString Atributo(Elemento elemento, std::string_view nombre) const;
 
     Atributos LeerAtributos(Elemento elemento) const;
-    /// Puts exactly these attributes in place of the element's: values change where they stand.
+    /// Puts exactly these attributes in place of the element's. A character that no document may hold
+    /// becomes U+FFFD.
     void PonerAtributos(Elemento elemento, const Atributos& atributos);
 
     /// New element behind the last element child of `padre`, indented like its siblings; the first child

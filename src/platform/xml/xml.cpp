@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <new>
 #include <optional>
 #include <string>
 #include <utility>
@@ -59,6 +60,8 @@ Documento::Documento(const CString& csRuta)
     interior->bytes = std::move(*utf8);
     const pugi::xml_parse_result resultado = interior->arbol.load_buffer_inplace(
         interior->bytes.data(), interior->bytes.size(), pugi::parse_default, pugi::encoding_utf8);
+    if (resultado.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
     if (resultado && TieneUnaRaiz(interior->arbol))
         m_interior = std::move(interior);
 }

@@ -59,7 +59,7 @@ class Documento {
 public:
     /// Reads the file. The document is false when it is missing, unreadable, larger than the limit, not in
     /// its declared encoding or not well formed.
-    /// @throws CFileException with the sharing cause while another process holds it.
+    /// @throws CFileException with the sharing cause while another process holds it; std::bad_alloc.
     explicit Documento(const CString& csRuta);
     ~Documento();
     Documento(const Documento&) = delete;
