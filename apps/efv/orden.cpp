@@ -4,8 +4,8 @@
 #include <memory>
 #include <new>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include <QuorvelEFV.h>
 
@@ -14,6 +14,7 @@
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
 #include "comun/reloj.h"
+#include "comun/salida_limpia.h"
 #include "comun/suborden.h"
 #include "consumo/suborden_consumo.h"
 #include "curvas/suborden_curvas.h"
@@ -108,13 +109,15 @@ private:
 int Ejecutar(const std::vector<std::string>& argumentos, Consola consola)
 {
     LineaOrdenes linea;
+    SalidaLimpia limpia(*consola.salida.rdbuf());
+    std::ostream salida(&limpia);
     const auto fallar = [&](std::string_view texto, int iEstado) {
         consola.errores << linea.Nombre() << ": " << EnUnaLinea(texto) << std::endl;
         return iEstado;
     };
     try {
-        const int iEstado = linea.Ejecutar(argumentos, consola.salida);
-        if (!consola.salida.flush())
+        const int iEstado = linea.Ejecutar(argumentos, salida);
+        if (!salida.flush())
             return fallar("no se puede escribir la salida", kFallo);
         return iEstado;
     } catch (const ErrorUso& e) {

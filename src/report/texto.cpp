@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 
 #include <quorvel/framework/CString.h>
+#include <quorvel/terminal.h>
 
 namespace efv::report {
 
@@ -42,10 +43,12 @@ std::string Con(double d, int iDecimales, std::string_view unidad)
 
 std::string EnUnaLinea(std::string_view texto)
 {
-    std::string linea = CadenaUtf8(CadenaDesdeUtf8(texto));
-    const auto esControl = [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == '\x7f'; };
-    std::ranges::replace_if(linea, esControl, '?');
-    return linea;
+    CString csLinea = CadenaDesdeUtf8(texto);
+    const auto estorba = [](wchar_t c) {
+        return c == L'\t' || c == L'\n' || DirigeElTerminal(static_cast<char32_t>(c));
+    };
+    std::ranges::replace_if(csLinea, estorba, L'?');
+    return CadenaUtf8(csLinea);
 }
 
 std::size_t Anchura(std::string_view utf8)

@@ -7,7 +7,12 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <csignal>
+#include <new>
+#include <stdexcept>
+
+#include <quorvel/terminal.h>
 
 #include "rpc/flujos.h"
 #include "rpc/presupuesto.h"
@@ -71,6 +76,29 @@ void Recortar()
 #endif
 }
 
+// A request that runs out of memory even for its error's text is answered all the same; there is room, since
+// what waits to be written is less than half of what is reserved.
+void Responder(Servidor& servidor, std::string_view linea, std::string& respuestas)
+{
+    const std::size_t nAntes = respuestas.size();
+    try {
+        servidor.Responder(linea, respuestas);
+    } catch (const std::bad_alloc&) {
+        respuestas.resize(nAntes);
+        respuestas += R"({"jsonrpc":"2.0","id":null,"error":{"code":-32000,"message":"memoria insuficiente"}})"
+                      "\n";
+    }
+}
+
+std::string Depurado(std::string_view texto)
+{
+    std::string limpio;
+    Depurador depurador;
+    depurador.Pasar(texto, limpio);
+    depurador.Terminar(limpio);
+    return limpio;
+}
+
 }  // namespace
 
 int AtenderEntrada()
@@ -78,25 +106,33 @@ int AtenderEntrada()
     LimitarMemoria();
     DevolverMemoria();
     IgnorarTuberiaRota();
+    const bool bTerminal = ::isatty(STDOUT_FILENO) == 1;
     Servidor servidor;
     LectorLineas lector(STDIN_FILENO, kLineaMaxima);
     std::string respuestas;
+    respuestas.reserve(2 * kVolcado);
     std::string_view linea;
     for (;;) {
         const LectorLineas::Estado estado = lector.Siguiente(linea);
         if (estado == LectorLineas::Estado::fin)
             return 0;
         if (estado == LectorLineas::Estado::linea)
-            servidor.Responder(linea, respuestas);
+            Responder(servidor, linea, respuestas);
         else
             Servidor::RechazarLinea(respuestas);
         if (lector.HayLinea() && respuestas.size() < kVolcado)
             continue;
-        if (!EscribirTodo(STDOUT_FILENO, respuestas))
-            return 0;
+        if (!EscribirTodo(STDOUT_FILENO, bTerminal ? Depurado(respuestas) : respuestas)) {
+            // Nobody reads any more: there is nobody to tell either.
+            if (errno == EPIPE)
+                return 0;
+            throw std::runtime_error("no se puede escribir la salida");
+        }
         respuestas.clear();
-        if (respuestas.capacity() > 2 * kVolcado)
+        if (respuestas.capacity() > 2 * kVolcado) {
             respuestas.shrink_to_fit();
+            respuestas.reserve(2 * kVolcado);
+        }
         if (linea.size() > kVolcado)
             Recortar();
     }

@@ -7,7 +7,7 @@
 namespace efv::rpc {
 
 /// Answers every line of standard input until its end, or until nobody reads the answers any more.
-/// Sets the process's memory limit. @return exit status
+/// Sets the process's memory limit. @return exit status @throws std::runtime_error when they can't be written
 int AtenderEntrada();
 
 /// One declaration a line.

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <filesystem>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
+
+#include <quorvel/ficheros.h>
 
 #include "comun/consola.h"
 #include "comun/datos.h"
@@ -79,7 +81,8 @@ Catalogo::Catalogo(const TipoCatalogo& tipo, const CString& csRuta) : m_tipo(tip
     if (!std::filesystem::exists(ruta, fallo))
         throw ErrorEjecucion(fmt::format("no existe el catálogo «{}»", ruta));
     if (m_base->Cargar(csRuta) == 0)
-        throw ErrorEjecucion(fmt::format("el catálogo «{}» no se puede leer o no es XML bien formado", ruta));
+        throw ErrorEjecucion(
+            fmt::format("el catálogo «{}» no se puede leer: {}", ruta, MotivoDocumentoIlegible(csRuta)));
     m_modelos = tipo.Modelos(*m_base);
     if (m_modelos.empty())
         throw ErrorEjecucion(fmt::format("el catálogo «{}» no tiene ningún modelo", ruta));

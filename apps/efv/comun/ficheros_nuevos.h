@@ -17,7 +17,7 @@ struct FicheroNuevo {
 /// file's; any other character becomes "_".
 std::string NombreDeFichero(std::wstring_view texto);
 
-/// Writes the files, each as a whole: one that exists stays as it was until its successor is complete.
+/// Writes the files, each as a whole: one that exists stays as it was until all successors are complete.
 /// The folder is made when it is missing. @return their paths @throws ErrorEjecucion
 std::vector<std::filesystem::path> EscribirFicheros(const std::filesystem::path& carpeta,
                                                     const std::vector<FicheroNuevo>& ficheros);

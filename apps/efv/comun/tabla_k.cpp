@@ -2,6 +2,7 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/ficheros.h>
 #include <quorvel/solar.h>
 #include <quorvel/ui.h>
 
@@ -51,7 +52,8 @@ void CargarTablaK(const std::string& csDatos)
     if (const std::string incoherencia = presentador.PrimerTexto(); !incoherencia.empty())
         throw ErrorEjecucion(fmt::format("tabla de factores K incompleta, «{}»: {}", CadenaUtf8(csArchivo),
                                          EnBreve(incoherencia)));
-    throw ErrorEjecucion(fmt::format("no se puede leer la tabla de factores K «{}»", CadenaUtf8(csArchivo)));
+    throw ErrorEjecucion(fmt::format("no se puede leer la tabla de factores K «{}»: {}", CadenaUtf8(csArchivo),
+                                     MotivoDocumentoIlegible(csArchivo)));
 }
 
 }  // namespace efv::orden

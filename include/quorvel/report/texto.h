@@ -19,7 +19,7 @@ EFV_API std::string DecimalExacto(double d);
 /// "3,50 kW"; no unit, or "°", stands without a blank.
 EFV_API std::string Con(double d, int iDecimales, std::string_view unidad);
 
-/// `texto` fit for one line of a terminal: control characters become "?", malformed bytes U+FFFD.
+/// `texto` fit for one line of a terminal: what steers a terminal becomes "?", malformed bytes U+FFFD.
 EFV_API std::string EnUnaLinea(std::string_view texto);
 
 /// Number of characters, for alignment. @param utf8 without combining or double-width characters
