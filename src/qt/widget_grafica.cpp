@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFontMetricsF>
@@ -10,7 +11,10 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
-#include <QSaveFile>
+
+#include <quorvel/ficheros.h>
+#include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
 
 #include "qt/cajas.h"
 #include "qt/colores.h"
@@ -236,22 +240,26 @@ void WidgetGrafica::PreguntarYGuardar()
 
 bool WidgetGrafica::Guardar(const QString& ruta) const
 {
-    QSaveFile fichero(ruta);
-    if (!fichero.open(QIODevice::WriteOnly))
-        return false;
+    std::string bytes;
     if (ruta.endsWith(".svg", Qt::CaseInsensitive)) {
-        const std::string documento = ui::EscribirSvg(m_datos, width(), height());
-        fichero.write(documento.data(), static_cast<qint64>(documento.size()));
+        bytes = ui::EscribirSvg(m_datos, width(), height());
     } else {
         QImage imagen((QSizeF(size()) * kEscalaPng).toSize(), QImage::Format_ARGB32_Premultiplied);
         imagen.setDevicePixelRatio(kEscalaPng);
         QPainter pintor(&imagen);
         Pintar(pintor, false);
         pintor.end();
-        if (!imagen.save(&fichero, "PNG"))
-            fichero.cancelWriting();
+        QBuffer salida;
+        if (!salida.open(QIODevice::WriteOnly) || !imagen.save(&salida, "PNG"))
+            return false;
+        bytes = salida.data().toStdString();
     }
-    return fichero.commit();
+    try {
+        ReemplazarFichero(*ElMundo().ficheros, ruta.toStdString(), bytes);
+        return true;
+    } catch (const CFileException&) {
+        return false;
+    }
 }
 
 }  // namespace efv::qt
