@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 
 #include <QuorvelEFV.h>
+#include <quorvel/ficheros.h>
+#include <quorvel/mundo.h>
 
 namespace efv::estudio {
 
@@ -14,16 +16,30 @@ namespace fs = std::filesystem;
 
 namespace {
 
+constexpr std::size_t kMaximo = std::size_t{256} << 20U;  // far beyond any shipped file
+
 void CopiarLoQueFalte(const fs::path& desde, const fs::path& hasta)
 {
-    fs::create_directories(hasta);
+    SistemaFicheros& sistema = *ElMundo().ficheros;
+    CrearCarpetas(sistema, hasta.string());
     for (const auto& entrada : fs::directory_iterator(desde)) {
         const fs::path copia = hasta / entrada.path().filename();
         if (!entrada.is_regular_file() || fs::exists(copia))
             continue;
-        fs::copy_file(entrada.path(), copia);
-        // Installed files may be for reading only.
-        fs::permissions(copia, fs::perms::owner_read | fs::perms::owner_write, fs::perm_options::add);
+        const LecturaFichero lectura = LeerFichero(sistema, entrada.path().string(), kMaximo);
+        if (!lectura.bytes)
+            throw std::runtime_error("No se puede leer «" + entrada.path().string() + "»: " + lectura.motivo +
+                                     '.');
+        // Whole or not at all: what a full disk kept out comes with the next start.
+        try {
+            FicheroRetenido nuevo(sistema, copia.string());
+            if (!nuevo.Existe())
+                nuevo.Reemplazar(*lectura.bytes);
+        } catch (const CFileException& error) {
+            // Another start of the program may make the same copy.
+            if (error.m_cause != CFileException::violacionComparticion)
+                throw;
+        }
     }
 }
 

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <exception>
 #include <initializer_list>
@@ -120,6 +121,8 @@ int Ejecutar(QApplication& programa)
 
 int main(int argc, char** argv)
 {
+    // A file beyond the process's limit of size is an error like any other, not the program's end.
+    std::signal(SIGXFSZ, SIG_IGN);
     PantallaDeCapturas pantalla;
     PrepararPantalla(argc, argv, pantalla);
     QApplication programa(argc, argv);

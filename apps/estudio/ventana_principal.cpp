@@ -1,5 +1,7 @@
 #include "ventana_principal.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
 
 #include <QCloseEvent>
@@ -26,11 +28,57 @@ Lugar LugarInicial(const std::vector<Localidad>& localidades)
 
 constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270;
 
-constexpr const wchar_t* kSinAislada =
-    L"Todavía no hay diseño.\n«Asistente de instalación aislada…» lo propone.";
-constexpr const wchar_t* kSinRed = L"Todavía no hay diseño.\n«Asistente de conexión a red…» lo propone.";
+// A widget with its layout's margin around it.
+QWidget* ConMargen(QWidget* dentro)
+{
+    auto* marco = new QWidget;
+    auto* pila = new QVBoxLayout(marco);
+    pila->addWidget(dentro);
+    return marco;
+}
+
+template <class Registro>
+Dibujo DibujoDe(const Registro& diseno)
+{
+    return Dibujar(EsquemaDe(diseno));
+}
 
 }  // namespace
+
+struct VentanaPrincipal::FilaPestana {
+    const char* nombre;
+    const char* rotulo;
+    ui::Dialogo& (*panel)(VentanaPrincipal& ventana);
+    Dibujo (*dibujo)(const CProyectoEstudio& proyecto);  // of the schematic above the panel; null: none
+    const wchar_t* sinDibujo;                            // said in place of an empty one
+    std::optional<Diseno> diseno;                        // of which the tab is
+};
+
+std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
+{
+    using Ventana = VentanaPrincipal;
+    static constexpr auto kFilas = std::to_array<FilaPestana>({
+        {"energia", "&Energía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, nullptr,
+         std::nullopt},
+        {"aislada", "&Instalación aislada", [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
+         [](const CProyectoEstudio& p) { return DibujoDe(p.aislada); },
+         L"Todavía no hay diseño.\n«Asistente de instalación aislada…» lo propone.", Diseno::aislada},
+        {"red", "Conexión a &red", [](Ventana& v) -> ui::Dialogo& { return v.m_red; },
+         [](const CProyectoEstudio& p) { return DibujoDe(p.red); },
+         L"Todavía no hay diseño.\n«Asistente de conexión a red…» lo propone.", Diseno::red},
+        {"consumo", "&Consumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, nullptr,
+         std::nullopt},
+    });
+    return kFilas;
+}
+
+std::vector<const char*> VentanaPrincipal::Pestanas()
+{
+    std::vector<const char*> nombres;
+    for (const FilaPestana& fila : FilasPestanas())
+        nombres.push_back(fila.nombre);
+    return nombres;
+}
 
 VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     : m_sesion(LugarInicial(localidades)),
@@ -55,35 +103,11 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
 {
     CrearMenus();
     auto* centro = new QSplitter(this);
-    const auto panel = [this](ui::Dialogo& dialogo, QWidget* padre) {
-        QWidget* widget = qt::CrearPanel(dialogo, padre);
-        m_paneles.push_back(widget);
-        return widget;
-    };
-    const auto conMargen = [](QWidget* dentro) {
-        auto* marco = new QWidget;
-        auto* pila = new QVBoxLayout(marco);
-        pila->addWidget(dentro);
-        return marco;
-    };
-    centro->addWidget(conMargen(panel(m_lugar, centro)));
+    centro->addWidget(ConMargen(CrearPanel(m_lugar, centro)));
     m_pestanas = new QTabWidget(centro);
     m_pestanas->setObjectName("pestanas");
-    m_esquemaAislada = new VistaEsquema;
-    m_esquemaRed = new VistaEsquema;
-    const auto conEsquema = [&](ui::Dialogo& dialogo, VistaEsquema* esquema) {
-        auto* partes = new QSplitter(Qt::Vertical);
-        partes->addWidget(esquema);
-        partes->addWidget(conMargen(panel(dialogo, partes)));
-        partes->setStretchFactor(0, 1);
-        partes->setSizes({kAlto - kAltoResumen, kAltoResumen});
-        partes->setChildrenCollapsible(false);
-        return partes;
-    };
-    m_pestanas->addTab(conMargen(panel(m_energia, m_pestanas)), "&Energía");
-    m_pestanas->addTab(conEsquema(m_aislada, m_esquemaAislada), "&Instalación aislada");
-    m_pestanas->addTab(conEsquema(m_red, m_esquemaRed), "Conexión a &red");
-    m_pestanas->addTab(conMargen(panel(m_consumo, m_pestanas)), "&Consumo");
+    for (const FilaPestana& fila : FilasPestanas())
+        m_pestanas->addTab(CrearPestana(fila), fila.rotulo);
     centro->addWidget(m_pestanas);
     centro->setStretchFactor(1, 1);
     centro->setSizes({kAnchoLugar, kAncho - kAnchoLugar});
@@ -99,6 +123,30 @@ VentanaPrincipal::~VentanaPrincipal()
     // The panels' windows go before the dialogs that they show.
     m_sesion.alCambiar = nullptr;
     delete takeCentralWidget();
+}
+
+QWidget* VentanaPrincipal::CrearPanel(ui::Dialogo& dialogo, QWidget* padre)
+{
+    QWidget* widget = qt::CrearPanel(dialogo, padre);
+    m_paneles.push_back(widget);
+    return widget;
+}
+
+QWidget* VentanaPrincipal::CrearPestana(const FilaPestana& fila)
+{
+    if (fila.dibujo == nullptr) {
+        m_esquemas.push_back(nullptr);
+        return ConMargen(CrearPanel(fila.panel(*this), m_pestanas));
+    }
+    auto* partes = new QSplitter(Qt::Vertical);
+    auto* esquema = new VistaEsquema;
+    m_esquemas.push_back(esquema);
+    partes->addWidget(esquema);
+    partes->addWidget(ConMargen(CrearPanel(fila.panel(*this), partes)));
+    partes->setStretchFactor(0, 1);
+    partes->setSizes({kAlto - kAltoResumen, kAltoResumen});
+    partes->setChildrenCollapsible(false);
+    return partes;
 }
 
 void VentanaPrincipal::CrearMenus()
@@ -143,35 +191,30 @@ void VentanaPrincipal::Actualizar()
     m_energia.Poner(proyecto.lugar);
     for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo})
         panel->Actualizar();
-    m_esquemaAislada->Poner(Dibujar(EsquemaDe(proyecto.aislada)), kSinAislada);
-    m_esquemaRed->Poner(Dibujar(EsquemaDe(proyecto.red)), kSinRed);
+    for (std::size_t i = 0; i < m_esquemas.size(); ++i)
+        if (const FilaPestana& fila = FilasPestanas()[i]; fila.dibujo != nullptr)
+            m_esquemas[i]->Poner(fila.dibujo(proyecto), fila.sinDibujo);
     for (QWidget* panel : m_paneles)
         qt::RefrescarVentana(panel);
 }
 
-void VentanaPrincipal::MostrarPestana(int iPestana)
+void VentanaPrincipal::MostrarPestana(std::string_view nombre)
 {
-    m_pestanas->setCurrentIndex(iPestana);
+    const auto filas = FilasPestanas();
+    const auto fila =
+        std::ranges::find(filas, nombre, [](const FilaPestana& f) { return std::string_view(f.nombre); });
+    if (fila != filas.end())
+        m_pestanas->setCurrentIndex(static_cast<int>(fila - filas.begin()));
 }
 
 std::optional<Diseno> VentanaPrincipal::DisenoALaVista() const
 {
-    switch (m_pestanas->currentIndex()) {
-        case aislada:
-            return Diseno::aislada;
-        case red:
-            return Diseno::red;
-        default:
-            return std::nullopt;
-    }
+    return FilasPestanas()[static_cast<std::size_t>(m_pestanas->currentIndex())].diseno;
 }
 
 VistaEsquema* VentanaPrincipal::EsquemaALaVista() const
 {
-    const auto diseno = DisenoALaVista();
-    if (!diseno)
-        return nullptr;
-    return *diseno == Diseno::aislada ? m_esquemaAislada : m_esquemaRed;
+    return m_esquemas.at(static_cast<std::size_t>(m_pestanas->currentIndex()));
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento)

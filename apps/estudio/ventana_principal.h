@@ -3,6 +3,8 @@
 
 #include <functional>
 #include <optional>
+#include <span>
+#include <string_view>
 #include <vector>
 
 #include <QMainWindow>
@@ -22,14 +24,13 @@ namespace efv::estudio {
 
 class VentanaPrincipal final : public QMainWindow {
 public:
-    enum Pestana : int { energia, aislada, red, consumo };
-    static constexpr int kPestanas = 4;
-
     explicit VentanaPrincipal(const std::vector<Localidad>& localidades);
     ~VentanaPrincipal() override;
 
     Sesion& LaSesion() { return m_sesion; }
-    void MostrarPestana(int iPestana);
+    /// Names of the tabs, in their order.
+    static std::vector<const char*> Pestanas();
+    void MostrarPestana(std::string_view nombre);
     /// The schematic of the tab on view; null when it has none.
     VistaEsquema* EsquemaALaVista() const;
     /// The design of the tab on view; nothing when it has none.
@@ -41,7 +42,12 @@ protected:
     void closeEvent(QCloseEvent* evento) override;
 
 private:
+    struct FilaPestana;
+    static std::span<const FilaPestana> FilasPestanas();
+
     void CrearMenus();
+    QWidget* CrearPanel(ui::Dialogo& dialogo, QWidget* padre);
+    QWidget* CrearPestana(const FilaPestana& fila);
     void Actualizar();
 
     Sesion m_sesion;
@@ -49,8 +55,7 @@ private:
     PanelEnergia m_energia;
     PanelResumen m_aislada, m_red, m_consumo;
     QTabWidget* m_pestanas = nullptr;
-    VistaEsquema* m_esquemaAislada = nullptr;
-    VistaEsquema* m_esquemaRed = nullptr;
+    std::vector<VistaEsquema*> m_esquemas;  // by tab; null for one without
     std::vector<QWidget*> m_paneles;
 };
 

@@ -139,11 +139,9 @@ ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::fi
 
 int CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta)
 {
-    constexpr std::array<const char*, VentanaPrincipal::kPestanas> kNombres = {"energia", "aislada", "red",
-                                                                               "consumo"};
     int nCapturas = 0;
-    for (const char* nombre : kNombres) {
-        ventana.MostrarPestana(nCapturas);
+    for (const char* nombre : VentanaPrincipal::Pestanas()) {
+        ventana.MostrarPestana(nombre);
         CapturarVentana(ventana, carpeta / (std::string("ventana-") + nombre + ".png"));
         ++nCapturas;
     }

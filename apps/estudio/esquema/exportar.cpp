@@ -9,7 +9,8 @@
 #include <QMimeData>
 #include <QPageSize>
 #include <QPdfWriter>
-#include <QSaveFile>
+
+#include "guardar.h"
 
 namespace efv::estudio {
 
@@ -75,10 +76,7 @@ void GuardarDibujo(const Dibujo& dibujo, const CString& csRuta)
 {
     const QString ruta = QString::fromStdWString(csRuta);
     const QByteArray bytes = Bytes(dibujo, QFileInfo(ruta).suffix().toLower());
-    QSaveFile fichero(ruta);
-    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(bytes) != bytes.size() || !fichero.commit())
-        throw std::runtime_error("No se puede guardar «" + CadenaUtf8(csRuta) + "».\n" +
-                                 fichero.errorString().toStdString());
+    GuardarFichero(csRuta, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
 void CopiarDibujo(const Dibujo& dibujo)

@@ -3,9 +3,8 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include <QSaveFile>
-
 #include "diseno/equipos.h"
+#include "guardar.h"
 
 namespace efv::estudio {
 
@@ -74,15 +73,12 @@ std::string InformeHtml(const CProyectoEstudio& proyecto, Diseno diseno)
 
 void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    const QByteArray html = QByteArray::fromStdString(InformeHtml(proyecto, diseno));
+    const std::string html = InformeHtml(proyecto, diseno);
     const auto csRuta = ui::PresentadorActual().ElegirFichero(
         {L"Guardar informe", {{L"Página HTML (*.html)", L"*.html"}}, true, L"informe.html"});
     if (!csRuta)
         return;
-    QSaveFile fichero(QString::fromStdWString(*csRuta));
-    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(html) != html.size() || !fichero.commit())
-        throw std::runtime_error("No se puede guardar «" + CadenaUtf8(*csRuta) + "».\n" +
-                                 fichero.errorString().toStdString());
+    GuardarFichero(*csRuta, html);
 }
 
 }  // namespace efv::estudio

@@ -1,39 +1,40 @@
 #include "proyecto/fichero.h"
 
 #include <stdexcept>
+#include <string_view>
 
-#include <QFile>
-#include <QSaveFile>
+#include <quorvel/mundo.h>
+
+#include "guardar.h"
 
 namespace efv::estudio {
 
 namespace {
 
 // A project with thousands of loads stays far below.
-constexpr qint64 kTamanoMaximo = 64LL << 20;
-
-[[noreturn]] void Fallar(const char* que, const CString& csRuta, const std::string& motivo)
-{
-    throw std::runtime_error(std::string(que) + " «" + CadenaUtf8(csRuta) + "».\n" + motivo);
-}
+constexpr std::size_t kTamanoMaximo = std::size_t{64} << 20U;
 
 [[noreturn]] void FallarAlAbrir(const CString& csRuta, const std::string& motivo)
 {
-    Fallar("No se puede abrir", csRuta, motivo);
+    FallarConFichero("No se puede abrir", csRuta, motivo);
 }
 
-QByteArray Contenido(const CString& csRuta)
+std::string Contenido(const CString& csRuta)
 {
-    QFile fichero(QString::fromStdWString(csRuta));
-    if (!fichero.open(QIODevice::ReadOnly))
-        FallarAlAbrir(csRuta, fichero.errorString().toStdString());
-    // One byte more tells a file that is too large, also one that has no size, such as a device.
-    QByteArray bytes = fichero.read(kTamanoMaximo + 1);
-    if (fichero.error() != QFileDevice::NoError)
-        FallarAlAbrir(csRuta, fichero.errorString().toStdString());
-    if (bytes.size() > kTamanoMaximo)
-        FallarAlAbrir(csRuta, "Es demasiado grande para ser un proyecto.");
-    return bytes;
+    try {
+        LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, CadenaUtf8(csRuta), kTamanoMaximo);
+        if (lectura.bytes)
+            return std::move(*lectura.bytes);
+        FallarAlAbrir(csRuta, lectura.motivo);
+    } catch (const CFileException& error) {
+        FallarAlAbrir(csRuta, MotivoSinRuta(error, CadenaUtf8(csRuta)));
+    }
+}
+
+std::string_view Vista(std::span<const std::byte> bytes)
+{
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): files take bytes as char
+    return {reinterpret_cast<const char*>(bytes.data()), bytes.size()};
 }
 
 }  // namespace
@@ -58,25 +59,36 @@ std::unique_ptr<CProyectoEstudio> ProyectoDe(std::span<const std::byte> bytes)
     return proyecto;
 }
 
-std::unique_ptr<CProyectoEstudio> LeerProyecto(const CString& csRuta)
+ProyectoLeido LeerProyecto(const CString& csRuta)
 {
-    const QByteArray bytes = Contenido(csRuta);
+    const std::string bytes = Contenido(csRuta);
     try {
-        return ProyectoDe(std::as_bytes(std::span(bytes.data(), static_cast<std::size_t>(bytes.size()))));
+        const auto vista = std::as_bytes(std::span(bytes));
+        return {ProyectoDe(vista), HuellaDe(vista)};
     } catch (const std::runtime_error& fallo) {
         FallarAlAbrir(csRuta, fallo.what());
     }
 }
 
+Huella HuellaDe(std::span<const std::byte> bytes)
+{
+    return efv::HuellaDe(Vista(bytes));
+}
+
 void EscribirProyecto(std::span<const std::byte> bytes, const CString& csRuta)
 {
-    // Writes beside it, flushes to the disk and renames at the end.
-    QSaveFile fichero(QString::fromStdWString(csRuta));
-    const auto nBytes = static_cast<qint64>(bytes.size());
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-reinterpret-cast): Qt takes bytes as char
-    const auto* datos = reinterpret_cast<const char*>(bytes.data());
-    if (!fichero.open(QIODevice::WriteOnly) || fichero.write(datos, nBytes) != nBytes || !fichero.commit())
-        Fallar("No se puede guardar", csRuta, fichero.errorString().toStdString());
+    GuardarFichero(csRuta, Vista(bytes));
+}
+
+bool ActualizarProyecto(std::span<const std::byte> bytes, const CString& csRuta,
+                        std::optional<Huella>& conocida)
+{
+    const std::string ruta = CadenaUtf8(csRuta);
+    try {
+        return ReemplazarSiSigue(*ElMundo().ficheros, ruta, Vista(bytes), conocida, kTamanoMaximo);
+    } catch (const CFileException& error) {
+        FallarConFichero("No se puede guardar", csRuta, MotivoSinRuta(error, ruta));
+    }
 }
 
 }  // namespace efv::estudio

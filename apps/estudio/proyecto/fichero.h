@@ -3,8 +3,11 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <span>
 #include <vector>
+
+#include <quorvel/ficheros.h>
 
 #include "proyecto/proyecto.h"
 
@@ -17,12 +20,23 @@ std::vector<std::byte> BytesDe(CProyectoEstudio& proyecto);
 /// @throws std::runtime_error with a Spanish text that says what is wrong with them.
 std::unique_ptr<CProyectoEstudio> ProyectoDe(std::span<const std::byte> bytes);
 
+struct ProyectoLeido {
+    std::unique_ptr<CProyectoEstudio> proyecto;
+    Huella huella;  ///< of its file
+};
+
 /// @throws std::runtime_error with a Spanish text that names the file and what is wrong with it: missing,
 /// unreadable, of another program, of a later version, cut off, damaged.
-std::unique_ptr<CProyectoEstudio> LeerProyecto(const CString& csRuta);
+ProyectoLeido LeerProyecto(const CString& csRuta);
 
 /// Replaces the file, or makes it. At any moment either the old or the new content stands there whole.
 /// @throws std::runtime_error with a Spanish text when it can't be done; the old file is then untouched.
 void EscribirProyecto(std::span<const std::byte> bytes, const CString& csRuta);
+
+/// The same if the file is still as it was known; else nothing is written and `conocida` says what it holds.
+bool ActualizarProyecto(std::span<const std::byte> bytes, const CString& csRuta,
+                        std::optional<Huella>& conocida);
+
+Huella HuellaDe(std::span<const std::byte> bytes);
 
 }  // namespace efv::estudio

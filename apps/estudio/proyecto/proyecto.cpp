@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <set>
 #include <span>
 #include <stdexcept>
 #include <type_traits>
@@ -12,7 +13,9 @@ namespace efv::estudio {
 namespace {
 
 constexpr std::array<std::uint8_t, 8> kMarca = {'E', 'F', 'V', '-', 'P', 'R', 'Y', '\x1A'};
-constexpr int kEsquema = 1;
+// Until schema 1 the sections' contents followed one another, without names.
+constexpr int kSchema = 2, kSchemaSinSecciones = 1;
+constexpr std::size_t kNombreMaximo = 64;  // of a section
 constexpr int kPatrones = 9;
 constexpr int kEquiposMaximo = 1'000'000;  // more than any field takes; three of them multiply without overflow
 
@@ -22,10 +25,15 @@ void EscribirCabecera(CArchive& ar)
 {
     for (const std::uint8_t n : kMarca)
         ar << n;
-    ar << kEsquema;
+    ar << kSchema;
 }
 
-void LeerCabecera(CArchive& ar)
+[[noreturn]] void FallarPorNuevo()
+{
+    throw std::runtime_error("Lo guardó una versión más nueva de este programa.");
+}
+
+int LeerCabecera(CArchive& ar)
 {
     for (const std::uint8_t nEsperado : kMarca) {
         std::uint8_t n = 0;
@@ -34,12 +42,13 @@ void LeerCabecera(CArchive& ar)
         if (n != nEsperado)
             throw std::runtime_error("No es un proyecto de este programa.");
     }
-    int iEsquema = 0;
-    ar >> iEsquema;
-    if (iEsquema > kEsquema)
-        throw std::runtime_error("Lo guardó una versión más nueva de este programa.");
-    if (iEsquema < 1)
+    int iSchema = 0;
+    ar >> iSchema;
+    if (iSchema > kSchema)
+        FallarPorNuevo();
+    if (iSchema < 1)
         throw std::runtime_error("El proyecto está dañado: su número de esquema no existe.");
+    return iSchema;
 }
 
 /// One order of the items for both directions.
@@ -110,6 +119,131 @@ void Comprobar(const CProyectoEstudio& proyecto)
            "un período de tarifa no existe");
 }
 
+void IntercambiarNombre(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    dato(proyecto.csNombre);
+}
+
+void IntercambiarLugar(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    Lugar& lugar = proyecto.lugar;
+    dato(lugar.csNombre);
+    dato(lugar.csDetalle);
+    dato(lugar.bPropio);
+    dato(lugar.dLatitud);
+    dato(lugar.iHemisferio);
+    dato.Dobles(lugar.adRadHorizontal);
+}
+
+void IntercambiarAislada(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    proyecto.aislada.Serialize(ar);
+}
+
+void IntercambiarRed(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    proyecto.red.Serialize(ar);
+}
+
+void IntercambiarConsumo(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    Consumo& consumo = proyecto.consumo;
+    dato(consumo.csReferencia);
+    dato.Receptores(consumo.lReceptores);
+    dato(consumo.iTipoEntrada);
+    dato(consumo.iPatron);
+    dato(consumo.dPotMaxima);
+    dato.Dobles(consumo.adHoras);
+    for (auto& mes : consumo.adMes)
+        dato.Dobles(mes);
+    for (int& iPeriodo : consumo.aiPeriodoHora)
+        dato(iPeriodo);
+    dato(consumo.bExcluir);
+    dato(consumo.iRotulacion);
+    dato(consumo.dHusoHorario);
+}
+
+struct ClaseSeccion {
+    std::wstring_view nombre;
+    int iSchema;
+    void (*intercambiar)(CProyectoEstudio& proyecto, CArchive& ar);
+};
+
+// In the order of the file. A new section goes to the end; one whose items change gets the next schema.
+constexpr auto kSecciones = std::to_array<ClaseSeccion>({
+    {L"proyecto", 1, &IntercambiarNombre},
+    {L"lugar", 1, &IntercambiarLugar},
+    {L"aislada", 1, &IntercambiarAislada},
+    {L"red", 1, &IntercambiarRed},
+    {L"consumo", 1, &IntercambiarConsumo},
+});
+
+void EscribirSeccion(CArchive& ar, std::wstring_view nombre, int iSchema, std::span<const std::byte> bytes)
+{
+    ar << nombre;
+    ar << iSchema;
+    ar << static_cast<std::uint32_t>(bytes.size());
+    for (const std::byte b : bytes)
+        ar << std::to_integer<std::uint8_t>(b);
+}
+
+void EscribirSecciones(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    ar.WriteCount(kSecciones.size() + proyecto.ajenas.size());
+    for (const ClaseSeccion& clase : kSecciones) {
+        std::vector<std::byte> bytes;
+        CArchive dentro(bytes);
+        clase.intercambiar(proyecto, dentro);
+        EscribirSeccion(ar, clase.nombre, clase.iSchema, bytes);
+    }
+    for (const SeccionAjena& ajena : proyecto.ajenas)
+        EscribirSeccion(ar, ajena.csNombre, ajena.iSchema, ajena.bytes);
+}
+
+SeccionAjena LeerSeccion(CArchive& ar)
+{
+    SeccionAjena seccion;
+    std::uint32_t uBytes = 0;
+    ar >> seccion.csNombre;
+    ar >> seccion.iSchema;
+    ar >> uBytes;
+    Exigir(!seccion.csNombre.empty() && seccion.csNombre.size() <= kNombreMaximo,
+           "el nombre de una sección no es posible");
+    if (uBytes > ar.Restantes())
+        throw CArchiveException(CArchiveException::Causa::finDeFichero);
+    seccion.bytes.resize(uBytes);
+    for (std::byte& b : seccion.bytes) {
+        std::uint8_t n = 0;
+        ar >> n;
+        b = std::byte{n};
+    }
+    return seccion;
+}
+
+void LeerSecciones(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    std::set<CString> leidas;
+    for (std::size_t n = ar.ReadCount(); n > 0; --n) {
+        SeccionAjena seccion = LeerSeccion(ar);
+        Exigir(leidas.insert(seccion.csNombre).second, "repite una sección");
+        const auto clase =
+            std::ranges::find(kSecciones, std::wstring_view(seccion.csNombre), &ClaseSeccion::nombre);
+        if (clase == kSecciones.end()) {
+            proyecto.ajenas.push_back(std::move(seccion));
+            continue;
+        }
+        if (seccion.iSchema > clase->iSchema)
+            FallarPorNuevo();
+        Exigir(seccion.iSchema >= 1, "el número de esquema de una sección no existe");
+        CArchive dentro{std::span<const std::byte>(seccion.bytes)};
+        clase->intercambiar(proyecto, dentro);
+        Exigir(dentro.Restantes() == 0, "una sección es más larga que lo que contiene");
+    }
+}
+
 }  // namespace
 
 CString Lugar::Texto() const
@@ -145,37 +279,18 @@ const CRuntimeClass& CProyectoEstudio::GetRuntimeClass() const
 
 void CProyectoEstudio::Serialize(CArchive& ar)
 {
-    if (ar.IsStoring())
+    if (ar.IsStoring()) {
         EscribirCabecera(ar);
-    else
-        LeerCabecera(ar);
-    Intercambio dato(ar);
-    dato(csNombre);
-    dato(lugar.csNombre);
-    dato(lugar.csDetalle);
-    dato(lugar.bPropio);
-    dato(lugar.dLatitud);
-    dato(lugar.iHemisferio);
-    dato.Dobles(lugar.adRadHorizontal);
-    aislada.Serialize(ar);
-    red.Serialize(ar);
-    dato(consumo.csReferencia);
-    dato.Receptores(consumo.lReceptores);
-    dato(consumo.iTipoEntrada);
-    dato(consumo.iPatron);
-    dato(consumo.dPotMaxima);
-    dato.Dobles(consumo.adHoras);
-    for (auto& mes : consumo.adMes)
-        dato.Dobles(mes);
-    for (int& iPeriodo : consumo.aiPeriodoHora)
-        dato(iPeriodo);
-    dato(consumo.bExcluir);
-    dato(consumo.iRotulacion);
-    dato(consumo.dHusoHorario);
-    if (ar.IsLoading()) {
-        Exigir(ar.Restantes() == 0, "sigue algo detrás de su final");
-        Comprobar(*this);
+        EscribirSecciones(*this, ar);
+        return;
     }
+    if (LeerCabecera(ar) == kSchemaSinSecciones)
+        for (const ClaseSeccion& clase : kSecciones)
+            clase.intercambiar(*this, ar);
+    else
+        LeerSecciones(*this, ar);
+    Exigir(ar.Restantes() == 0, "sigue algo detrás de su final");
+    Comprobar(*this);
 }
 
 }  // namespace efv::estudio

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 #include <QuorvelEFV.h>
 
@@ -39,6 +40,13 @@ struct Consumo {
     double dHusoHorario = 15.0;  ///< offset of the official time, degrees
 };
 
+/// A section of the file that this program doesn't know, kept for the one that does.
+struct SeccionAjena {
+    CString csNombre;
+    int iSchema = 0;
+    std::vector<std::byte> bytes;
+};
+
 class CProyectoEstudio final : public CObject {
 public:
     CString csNombre = L"Proyecto";
@@ -46,12 +54,14 @@ public:
     CSFVAsistenteAislada aislada;
     CSFVAsistenteRed red;
     Consumo consumo;
+    std::vector<SeccionAjena> ajenas;
 
     const CRuntimeClass& GetRuntimeClass() const override;
 
-    /// A mark, the schema number (now 1), then all of it. Reading throws CArchiveException at a stream that
-    /// ends too soon, and std::runtime_error with a Spanish text at one that is no project, is of a later
-    /// schema or holds what no project can; the project is then half filled.
+    /// A mark, the schema number (now 2), then named sections, each with a schema number of its own and its
+    /// length; schema 1 had their contents alone. Unknown sections are kept. Reading throws CArchiveException
+    /// at a stream that ends too soon, and std::runtime_error with a Spanish text at one that is no project, is
+    /// of a later schema or holds what no project can; the project is then half filled.
     void Serialize(CArchive& ar) override;
 
     static const CRuntimeClass& GetThisClass();

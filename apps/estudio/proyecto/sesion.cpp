@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <new>
 
 #include "proyecto/fichero.h"
 
@@ -105,8 +106,9 @@ bool Sesion::Abrir(const CString& csRuta)
 bool Sesion::Cargar(const CString& csRuta)
 {
     try {
-        auto proyecto = LeerProyecto(csRuta);
+        auto [proyecto, huella] = LeerProyecto(csRuta);
         Recordar(csRuta);
+        m_huella = huella;
         Poner(std::move(proyecto), csRuta);
         return true;
     } catch (const std::exception& fallo) {
@@ -128,12 +130,31 @@ bool Sesion::GuardarComo()
     return csRuta && GuardarEn(*csRuta);
 }
 
+bool Sesion::Escribir(std::span<const std::byte> bytes, const CString& csRuta) const
+{
+    if (csRuta != m_csRuta) {
+        EscribirProyecto(bytes, csRuta);
+        return true;
+    }
+    std::optional<Huella> conocida = m_huella;
+    while (!ActualizarProyecto(bytes, csRuta, conocida))
+        if (!ui::Preguntar(L"Otro programa ha cambiado el archivo <" + csRuta +
+                           L"> desde que se abrió. ¿Desea sustituirlo por el proyecto abierto?"))
+            return false;
+    return true;
+}
+
 bool Sesion::GuardarEn(const CString& csRuta)
 {
     try {
         auto bytes = BytesDe(*m_proyecto);
-        EscribirProyecto(bytes, csRuta);
+        if (!Escribir(bytes, csRuta))
+            return false;
+        m_huella = HuellaDe(bytes);
         m_guardado = std::move(bytes);
+    } catch (const std::bad_alloc&) {
+        ui::MostrarAviso(L"No se puede guardar «" + csRuta + L"».\nMemoria insuficiente.", ui::Icono::error);
+        return false;
     } catch (const std::exception& fallo) {
         MostrarFallo(fallo);
         return false;

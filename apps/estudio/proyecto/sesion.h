@@ -3,7 +3,10 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <vector>
+
+#include <quorvel/ficheros.h>
 
 #include "proyecto/proyecto.h"
 
@@ -52,6 +55,8 @@ private:
     bool Cargar(const CString& csRuta);
     void Poner(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta);
     bool GuardarEn(const CString& csRuta);
+    /// False when the person doesn't want what another program wrote meanwhile to be replaced.
+    bool Escribir(std::span<const std::byte> bytes, const CString& csRuta) const;
     void Recordar(const CString& csRuta);
     void Avisar() const;
 
@@ -60,6 +65,7 @@ private:
     Lugar m_lugar;
     std::unique_ptr<CProyectoEstudio> m_proyecto;
     std::vector<std::byte> m_guardado;  // as it was when new, opened or saved
+    Huella m_huella;                    // of the file as it was opened or saved
     CString m_csRuta;
     bool m_bModificado = false;
     std::vector<CString> m_recientes;

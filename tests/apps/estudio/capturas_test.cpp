@@ -49,7 +49,8 @@ protected:
 TEST_F(Capturas, CadaDialogoDeLaBibliotecaTieneLaSuyaYCabeEnUnaPantallaPequena)
 {
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
-    EXPECT_EQ(CapturarPrograma(ventana, carpeta.Ruta()), VentanaPrincipal::kPestanas + 4);
+    EXPECT_EQ(CapturarPrograma(ventana, carpeta.Ruta()),
+              static_cast<int>(VentanaPrincipal::Pestanas().size()) + 4);
     const ResultadoCapturas resultado = Capturar(Pantallas(sesion), carpeta.Ruta());
     for (const std::string& falta : resultado.faltas)
         ADD_FAILURE() << falta;

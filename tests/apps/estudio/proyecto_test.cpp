@@ -6,6 +6,8 @@
 
 #include "apoyo.h"
 #include "comun/ficheros.h"
+#include "comun/ficheros_memoria.h"
+#include "comun/mundo_de_prueba.h"
 
 namespace {
 
@@ -57,7 +59,7 @@ CString Guardado(const CarpetaTemporal& carpeta, std::span<const std::byte> byte
 std::string Fallo(const CString& csRuta)
 {
     try {
-        LeerProyecto(csRuta);
+        LeerProyecto(csRuta).proyecto;
     } catch (const std::runtime_error& fallo) {
         return fallo.what();
     }
@@ -75,7 +77,7 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
     const auto antes = Lleno();
     const CString csRuta = CadenaDesdeUtf8((carpeta.Ruta() / "p.efvp").string());
     EscribirProyecto(BytesDe(*antes), csRuta);
-    const auto despues = LeerProyecto(csRuta);
+    const auto despues = LeerProyecto(csRuta).proyecto;
     EXPECT_EQ(BytesDe(*despues), BytesDe(*antes));
     EXPECT_EQ(despues->csNombre, antes->csNombre);
     EXPECT_EQ(despues->lugar, antes->lugar);
@@ -114,6 +116,86 @@ TEST(Proyecto, ElFormatoEsElDeSiempre)
     EXPECT_EQ(proyecto->consumo.lReceptores[0].dHorario[11][6][1], 90.0);
 }
 
+// A file that the program's first version wrote.
+TEST(Proyecto, ElDeLaPrimeraVersionSeAbre)
+{
+    const auto proyecto =
+        LeerProyecto(CadenaDesdeUtf8(EFV_CARPETA_PRUEBAS "/apps/estudio/proyecto-1.efvp")).proyecto;
+    EXPECT_EQ(proyecto->csNombre, L"Cortijo «Ñ» 🌞");
+    EXPECT_EQ(proyecto->lugar.csDetalle, L"Almería");
+    EXPECT_EQ(proyecto->lugar.adRadHorizontal[11], 12000.0);
+    EXPECT_EQ(proyecto->aislada.iAcumuladoresSerie, 24);
+    EXPECT_EQ(proyecto->red.iInversores, 9);
+    const Consumo& consumo = proyecto->consumo;
+    ASSERT_EQ(consumo.lReceptores.GetSize(), 2);
+    EXPECT_EQ(consumo.lReceptores[1].dHorario[11][6][5], 120.0);
+    EXPECT_EQ(consumo.adHoras[8759], 0.3);
+    EXPECT_EQ(consumo.adMes[11][5], 7.5);
+    EXPECT_EQ(consumo.aiPeriodoHora[23], 2);
+    EXPECT_EQ(consumo.dHusoHorario, -15.0);
+    EXPECT_EQ(BytesDe(*ProyectoDe(BytesDe(*proyecto))), BytesDe(*proyecto));
+}
+
+// Put behind the sections of this program by hand: name, schema, length, bytes; the number of sections stands
+// behind mark and schema.
+std::vector<std::byte> ConSeccion(const wchar_t* csNombre, int iSchema, const std::vector<std::byte>& dentro)
+{
+    auto bytes = BytesDe(*Lleno());
+    EXPECT_EQ(bytes.at(12), std::byte{5});
+    bytes[12] = std::byte{6};
+    CArchive ar(bytes);
+    ar << std::wstring_view(csNombre);
+    ar << iSchema;
+    ar << static_cast<std::uint32_t>(dentro.size());
+    bytes.insert(bytes.end(), dentro.begin(), dentro.end());
+    return bytes;
+}
+
+TEST(Proyecto, UnaSeccionDesconocidaSeConserva)
+{
+    const std::vector<std::byte> dentro = {std::byte{1}, std::byte{0}, std::byte{255}};
+    const auto bytes = ConSeccion(L"cables", 7, dentro);
+    const auto proyecto = ProyectoDe(bytes);
+    EXPECT_EQ(proyecto->red.iInversores, 9);
+    ASSERT_EQ(proyecto->ajenas.size(), 1U);
+    EXPECT_EQ(proyecto->ajenas[0].iSchema, 7);
+    EXPECT_EQ(BytesDe(*proyecto), bytes);
+}
+
+TEST(Proyecto, UnaSeccionRepetidaOVaciaDeNombreSeRechaza)
+{
+    const CarpetaTemporal carpeta;
+    for (const wchar_t* csNombre : {L"red", L""})
+        EXPECT_TRUE(Contiene(Fallo(Guardado(carpeta, ConSeccion(csNombre, 1, {}))), "dañado"));
+}
+
+// The place's section, whose name, schema and length follow the first section.
+TEST(Proyecto, UnaSeccionDeUnaVersionPosteriorODeOtroLargoSeRechaza)
+{
+    const CarpetaTemporal carpeta;
+    const std::array<unsigned char, 10> nombre = {'l', 0, 'u', 0, 'g', 0, 'a', 0, 'r', 0};
+    const auto bueno = BytesDe(*Lleno());
+    const auto donde = std::search(bueno.begin(), bueno.end(), nombre.begin(), nombre.end(),
+                                   [](std::byte b, unsigned char c) { return b == std::byte{c}; });
+    ASSERT_NE(donde, bueno.end());
+    const auto iSchema = static_cast<std::size_t>(donde - bueno.begin()) + nombre.size();
+    auto bytes = bueno;
+    bytes[iSchema] = std::byte{2};
+    EXPECT_TRUE(Contiene(Fallo(Guardado(carpeta, bytes)), "más nueva"));
+    bytes[iSchema] = std::byte{0};
+    EXPECT_TRUE(Contiene(Fallo(Guardado(carpeta, bytes)), "dañado"));
+    bytes = bueno;
+    bytes[iSchema + 7] = std::byte{0x7F};  // its length beyond the file
+    EXPECT_TRUE(Contiene(Fallo(Guardado(carpeta, bytes)), "cortado"));
+    // A byte more than it holds
+    bytes = bueno;
+    const std::size_t nLargo = std::to_integer<std::size_t>(bytes[iSchema + 4]);
+    ASSERT_LT(nLargo, 255U);
+    bytes[iSchema + 4] = static_cast<std::byte>(nLargo + 1);
+    bytes.insert(bytes.begin() + static_cast<std::ptrdiff_t>(iSchema + 8 + nLargo), std::byte{0});
+    EXPECT_TRUE(Contiene(Fallo(Guardado(carpeta, bytes)), "dañado"));
+}
+
 // Wherever it is cut.
 TEST(Proyecto, UnFicheroCortadoSeRechaza)
 {
@@ -135,7 +217,7 @@ TEST(Proyecto, LoAjenoLoNuevoYLoDanadoDicenLoSuyo)
 
     const auto bueno = BytesDe(*Lleno());
     auto bytes = bueno;
-    bytes[8] = std::byte{2};  // the schema follows the mark of eight bytes
+    bytes[8] = std::byte{3};  // the schema follows the mark of eight bytes
     EXPECT_TRUE(Contiene(Fallo(Guardado(carpeta, bytes)), "más nueva"));
     bytes[8] = std::byte{0};
     EXPECT_TRUE(Contiene(Fallo(Guardado(carpeta, bytes)), "dañado"));
@@ -176,6 +258,30 @@ TEST(Proyecto, LoQueNingunProyectoContieneSeRechaza)
     EXPECT_TRUE(rechazado([](P& p) { p.consumo.iTipoEntrada = -1; }));
     EXPECT_TRUE(rechazado([](P& p) { p.red.iInversores = 2'000'000'000; }));
     EXPECT_FALSE(rechazado([](P& p) { p.aislada.dDistanciaFilas = std::nan(""); }));
+}
+
+TEST(Proyecto, CadaLlamadaAlDiscoQueFallaDejaElViejoOElNuevo)
+{
+    const auto bytes = BytesDe(*Lleno());
+    const std::string nuevo(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    bool bFallado = true;
+    for (std::size_t n = 0; bFallado; ++n) {
+        FicherosEnMemoria disco;
+        disco.Poner("/d/p.efvp", "viejo");
+        FicherosConAverias averiados(disco, n, ENOSPC);
+        const ConFicheros con(averiados);
+        std::optional<Huella> conocida = efv::HuellaDe("viejo");
+        bool bHecho = false;
+        try {
+            bHecho = ActualizarProyecto(bytes, L"/d/p.efvp", conocida);
+        } catch (const std::runtime_error& fallo) {
+            EXPECT_TRUE(Contiene(fallo.what(), "No se puede guardar «/d/p.efvp».\nE")) << fallo.what();
+        }
+        bFallado = averiados.HaFallado();
+        const std::string contenido = disco.Contenido("/d/p.efvp");
+        EXPECT_TRUE(contenido == nuevo || (!bHecho && contenido == "viejo")) << n;
+        EXPECT_TRUE(bHecho || bFallado);
+    }
 }
 
 TEST(Proyecto, GuardarDondeNoSePuedeNoTocaNada)

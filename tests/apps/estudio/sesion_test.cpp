@@ -47,13 +47,13 @@ TEST_F(SesionGuionizada, LosCambiosSinGuardarSePreguntan)
     respuestas = {Respuesta::si};
     guion.presentador.ficheros = {EnCarpeta("uno.efvp")};
     EXPECT_TRUE(sesion.PuedeCerrarse());
-    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp"))->csNombre, L"Uno");
+    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"Uno");
 
     Renombrar(L"Dos");
     respuestas = {Respuesta::no};
     sesion.Nuevo();
     EXPECT_NE(sesion.Proyecto().csNombre, L"Dos");
-    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp"))->csNombre, L"Uno");
+    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"Uno");
     EXPECT_EQ(guion.Mensajes().size(), 4U);
 }
 
@@ -104,6 +104,29 @@ TEST_F(SesionGuionizada, LosRecientesSonOchoYElUltimoVaDelante)
     EXPECT_EQ(sesion.Recientes()[0], EnCarpeta("5.efvp"));
     EXPECT_EQ(sesion.Recientes()[1], EnCarpeta("9.efvp"));
     EXPECT_EQ(std::ranges::count(sesion.Recientes(), EnCarpeta("5.efvp")), 1);
+}
+
+TEST_F(SesionGuionizada, LoQueOtroProgramaEscribioSePregunta)
+{
+    guion.presentador.ficheros = {EnCarpeta("uno.efvp")};
+    Renombrar(L"Uno");
+    ASSERT_TRUE(sesion.Guardar());
+    Renombrar(L"Dos");
+    ASSERT_TRUE(sesion.Guardar());
+    EXPECT_TRUE(guion.Mensajes().empty());
+
+    CProyectoEstudio otro;
+    otro.csNombre = L"De otro";
+    EscribirProyecto(BytesDe(otro), EnCarpeta("uno.efvp"));
+    Renombrar(L"Tres");
+    guion.presentador.respuestas = {Respuesta::no};
+    EXPECT_FALSE(sesion.Guardar());
+    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"De otro");
+    EXPECT_TRUE(sesion.Modificado());
+    guion.presentador.respuestas = {Respuesta::si};
+    EXPECT_TRUE(sesion.Guardar());
+    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"Tres");
+    EXPECT_EQ(guion.Mensajes().size(), 2U);
 }
 
 }  // namespace

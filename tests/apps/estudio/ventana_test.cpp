@@ -110,7 +110,7 @@ TEST_F(Ventanas, ElAsistenteDejaSuDisenoEnElEsquema)
 {
     sesion.Proyecto().red.csInversor = kInversor;
     sesion.Proyecto().red.csPanel = kPanel;
-    ventana.MostrarPestana(VentanaPrincipal::red);
+    ventana.MostrarPestana("red");
     guion.Dialogo("CDlgAsistenteSFVRed", {paso::Pulsar{"Cancel"}});
     DisenarRed(sesion);
     guion.Dialogo("CDlgAsistenteSFVRed", {paso::Pulsar{"OK"}});
@@ -121,9 +121,9 @@ TEST_F(Ventanas, ElAsistenteDejaSuDisenoEnElEsquema)
     EXPECT_GT(sesion.Proyecto().red.iPanelesSerie, 1);
     EXPECT_TRUE(sesion.Modificado());
     EXPECT_FALSE(ventana.EsquemaALaVista()->Mostrado().trazos.empty());
-    ventana.MostrarPestana(VentanaPrincipal::aislada);
+    ventana.MostrarPestana("aislada");
     EXPECT_TRUE(ventana.EsquemaALaVista()->Mostrado().trazos.empty());
-    ventana.MostrarPestana(VentanaPrincipal::consumo);
+    ventana.MostrarPestana("consumo");
     EXPECT_EQ(ventana.EsquemaALaVista(), nullptr);
 }
 
@@ -169,7 +169,7 @@ TEST_F(Ventanas, ElEjemploTieneLosDosDisenosYConsumo)
 
 TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
 {
-    ventana.MostrarPestana(VentanaPrincipal::energia);
+    ventana.MostrarPestana("energia");
     for (const Orden& orden : Ordenes())
         if (std::string_view(orden.menu) == "&Esquema" && orden.funcion != nullptr)
             orden.funcion(ventana);
@@ -184,16 +184,16 @@ TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
         return std::string_view(o.texto == nullptr ? "" : o.texto);
     });
     ASSERT_NE(orden, Ordenes().end());
-    ventana.MostrarPestana(VentanaPrincipal::consumo);
+    ventana.MostrarPestana("consumo");
     orden->funcion(ventana);
-    ventana.MostrarPestana(VentanaPrincipal::red);
+    ventana.MostrarPestana("red");
     ventana.Atender([&] { orden->funcion(ventana); });
     ASSERT_EQ(guion.Mensajes().size(), 2U);  // no design on view, none accepted
 
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
     for (const auto& [pestana, textos] :
-         {std::pair(VentanaPrincipal::red, std::array{"conectada a red", "4 · 20,00 kW", "SB5.0-1AV-40"}),
-          std::pair(VentanaPrincipal::aislada, std::array{"aislada", "(24 × ", "6 OPzS 420"})}) {
+         {std::pair("red", std::array{"conectada a red", "4 · 20,00 kW", "SB5.0-1AV-40"}),
+          std::pair("aislada", std::array{"aislada", "(24 × ", "6 OPzS 420"})}) {
         const std::filesystem::path ruta = carpeta.Ruta() / "informe.html";
         guion.presentador.ficheros.emplace_back(ruta.wstring());
         ventana.MostrarPestana(pestana);
