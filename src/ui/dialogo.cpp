@@ -243,13 +243,6 @@ void Dialogo::Incorporar(std::unique_ptr<Pagina> pagina)
     m_paginas.push_back(std::move(pagina));
 }
 
-Seleccion& Dialogo::AnadirPaginas(std::vector<CString> acsTitulos)
-{
-    CrearPestanas();
-    m_pestanas->acsEntradas = std::move(acsTitulos);
-    return *m_pestanas;
-}
-
 Pagina* Dialogo::EnFrente() const
 {
     const int iPagina = PaginaAlFrente();

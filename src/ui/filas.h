@@ -19,36 +19,19 @@
 
 namespace efv::ui {
 
-/// A row that gives its field's name itself.
-template <class P>
-struct Fila {
-    const char* nombre;
-    Miembro<P> campo;
-    std::wstring_view rotulo;
-    LimitesFicha<P> limites = {};
-    int decimales = 2;
-    std::span<const std::wstring_view> entradas = {};
-    std::wstring_view magnitud = {};
-    bool casilla = false;
-    std::optional<Miembro<P>> junto = {};
-};
-
 /// Where the focus goes: a field of the dialog, or nowhere else than it is.
 template <class P>
 class Foco {
 public:
-    constexpr Foco(std::nullptr_t) {}                         // NOLINT(*-explicit-*)
-    constexpr Foco(const char* nombre) : m_nombre(nombre) {}  // NOLINT(*-explicit-*)
+    constexpr Foco(std::nullptr_t) {}  // NOLINT(*-explicit-*)
     template <class T>
     constexpr Foco(T P::*miembro) : m_miembro(Miembro<P>(miembro))
     {
     }  // NOLINT(*-explicit-*)
 
-    const char* Nombre() const { return m_nombre; }
     const std::optional<Miembro<P>>& Campo() const { return m_miembro; }
 
 private:
-    const char* m_nombre = nullptr;
     std::optional<Miembro<P>> m_miembro;
 };
 
@@ -117,15 +100,6 @@ protected:
     {
         m_campos.Anadir(pagina, campos, lugar);
     }
-    template <std::size_t N>
-    void Anadir(const std::array<Fila<P>, N>& filas, const Lugar& lugar = {})
-    {
-        for (const Fila<P>& fila : filas)
-            m_campos.Anadir(*this, fila.nombre,
-                            {fila.campo, fila.rotulo, fila.limites, fila.decimales, fila.entradas,
-                             fila.magnitud, fila.casilla, fila.junto},
-                            lugar);
-    }
     using Dialogo::Anadir;
 
     /// The control of a member of `datos`: `De(&P::dVsmax)`, `De<Seleccion>(&P::iTipo)`.
@@ -145,8 +119,6 @@ protected:
                 continue;
             if (c.foco.Campo())
                 foco = &De(*c.foco.Campo());
-            else if (c.foco.Nombre() != nullptr)
-                foco = &ControlDe<Control>(c.foco.Nombre());
             MostrarAviso(c.texto, c.icono);
             return false;
         }

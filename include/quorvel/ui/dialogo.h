@@ -7,7 +7,6 @@
 #include <memory>
 #include <optional>
 #include <span>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -107,16 +106,6 @@ protected:
     /// From now on the group's caption reads like this.
     void TitularGrupo(std::wstring_view grupo, CString csRotulo);
 
-    /// The control of that name; it must exist and be a C.
-    template <std::derived_from<Control> C>
-    C& ControlDe(std::string_view nombre) const
-    {
-        for (Control* control : m_orden)
-            if (control->nombre == nombre)
-                return dynamic_cast<C&>(*control);
-        throw std::out_of_range(std::string(nombre));
-    }
-
     /// Adds a page behind the others (their choice is the control "tab"); OK takes them over one after the
     /// other. A page class is built from the dialog and `args`.
     template <std::derived_from<Pagina> P = Pagina, class... Args>
@@ -127,9 +116,6 @@ protected:
         Incorporar(std::move(pagina));
         return referencia;
     }
-
-    /// The pages of a dialog whose controls say theirs in `Lugar::iPagina`.
-    Seleccion& AnadirPaginas(std::vector<CString> acsTitulos);
 
     /// First of all at OK, before any field is taken over; false keeps the dialog open.
     virtual bool AntesDeAceptar() { return true; }
