@@ -15,7 +15,8 @@ namespace {
 
 bool SeLee(const CString& csTexto)
 {
-    return std::ranges::any_of(csTexto, [](wchar_t c) { return QChar::isLetterOrNumber(static_cast<uint>(c)); });
+    return std::ranges::any_of(csTexto,
+                               [](wchar_t c) { return QChar::isLetterOrNumber(static_cast<uint>(c)); });
 }
 
 // A control without a caption of its own goes by that of the one on whose line it stands.

@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <filesystem>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include "catalogo/exportacion.h"
 #include "catalogo/ficha.h"

@@ -1,8 +1,8 @@
 // Orders that add models to a catalogue.
 #include <array>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include "catalogo/grupo_ordenes.h"
 #include "catalogo/importacion.h"

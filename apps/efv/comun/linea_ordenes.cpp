@@ -3,8 +3,8 @@
 #include <string_view>
 #include <type_traits>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include "comun/numeros.h"
 

@@ -8,7 +8,7 @@ namespace CLI {
 class App;
 class Formatter;
 class ParseError;
-}
+}  // namespace CLI
 
 namespace efv::orden {
 

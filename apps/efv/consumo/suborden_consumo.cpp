@@ -4,8 +4,8 @@
 #include <optional>
 #include <utility>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include <quorvel/solar.h>
 

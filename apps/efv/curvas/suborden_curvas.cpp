@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include <quorvel/catalogues.h>
 #include <quorvel/electrical.h>

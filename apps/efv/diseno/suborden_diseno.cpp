@@ -3,8 +3,8 @@
 #include <filesystem>
 #include <optional>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include <quorvel/assistants.h>
 #include <quorvel/reloj.h>

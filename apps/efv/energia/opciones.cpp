@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include <CLI/CLI.hpp>
 #include <fmt/format.h>
+#include <CLI/CLI.hpp>
 
 #include "comun/consola.h"
 #include "comun/datos.h"
