@@ -111,7 +111,7 @@ std::vector<Dato> Resumen(const EstudioRed& estudio)
          fmt::format("{} ({} × {} por inversor)", v.iTotalPaneles, v.iPanelesSerie, v.iPanelesParalelo)},
         {"Inclinación", Con(v.dInclinacion, 1, "°")}};
     if (estudio.ano)
-        resumen.emplace_back("Energía del año", Con(estudio.ano->Energia(), 0, "kWh"));
+        resumen.push_back({"Energía del año", Con(estudio.ano->Energia(), 0, "kWh")});
     return resumen;
 }
 

@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+#include <fmt/format.h>
+
 #include "platform/clima/horizonte.h"
 #include "platform/clima/numeros_linea.h"
 #include "platform/numero/tolerancia.h"
@@ -43,20 +45,20 @@ public:
     }
     [[noreturn]] void Rechazar(const std::string& motivo) const
     {
-        throw FicheroInvalido("línea " + std::to_string(m_iLinea) + ": " + motivo);
+        throw FicheroInvalido(fmt::format("línea {}: {}", m_iLinea, motivo));
     }
     double Numero(std::string_view campo, const char* nombre) const
     {
         const auto d = NumeroFinito(campo);
         if (!d)
-            Rechazar(std::string(nombre) + " no es un número");
+            Rechazar(fmt::format("{} no es un número", nombre));
         return *d;
     }
     int Entero(std::string_view campo, const char* nombre) const
     {
         const double d = Numero(campo, nombre);
         if (d != std::floor(d) || std::abs(d) > 10000.0)
-            Rechazar(std::string(nombre) + " no existe");
+            Rechazar(fmt::format("{} no existe", nombre));
         return static_cast<int>(d);
     }
 
@@ -126,8 +128,7 @@ RegistroClimatico RegistroClimatico::Leer(std::string_view texto)
             lector.Rechazar("hay más de 8760 horas");
         const auto campos = Campos(*linea, f.separador);
         if (f.bExactas ? campos.size() != f.nColumnas : campos.size() < f.nColumnas)
-            lector.Rechazar("hay " + std::to_string(campos.size()) + " columnas y se esperaban " +
-                            std::to_string(f.nColumnas));
+            lector.Rechazar(fmt::format("hay {} columnas y se esperaban {}", campos.size(), f.nColumnas));
         const int iMes = lector.Entero(campos[f.iMes], "el mes");
         const int iDia = lector.Entero(campos[f.iDia], "el día");
         const int iHora = lector.Entero(campos[f.iHora], "la hora");
@@ -139,7 +140,7 @@ RegistroClimatico RegistroClimatico::Leer(std::string_view texto)
                         dDifusa);
     }
     if (registro.m_horas.size() != kHorasAno)
-        throw FicheroInvalido("hay " + std::to_string(registro.m_horas.size()) + " horas y se esperaban 8760");
+        throw FicheroInvalido(fmt::format("hay {} horas y se esperaban 8760", registro.m_horas.size()));
     return registro;
 }
 
