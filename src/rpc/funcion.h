@@ -52,7 +52,7 @@ std::string NombreTipo()
 {
     if constexpr (std::is_reference_v<T>) {
         using Referido = std::remove_reference_t<T>;
-        return NombreTipo<Referido>() + (std::is_array_v<Referido> ? "" : "&");
+        return fmt::format("{}{}", NombreTipo<Referido>(), std::is_array_v<Referido> ? "" : "&");
     } else if constexpr (std::is_array_v<T>) {
         const std::string interior = NombreTipo<std::remove_extent_t<T>>();
         // The first dimension stands before those of the element type.
@@ -60,9 +60,9 @@ std::string NombreTipo()
         return fmt::format("{}[{}]{}", interior.substr(0, corchete), std::extent_v<T>,
                            interior.substr(corchete));
     } else if constexpr (std::is_pointer_v<T>) {
-        return NombreTipo<std::remove_pointer_t<T>>() + "*";
+        return fmt::format("{}*", NombreTipo<std::remove_pointer_t<T>>());
     } else if constexpr (std::is_const_v<T>) {
-        return "const " + NombreTipo<std::remove_const_t<T>>();
+        return fmt::format("const {}", NombreTipo<std::remove_const_t<T>>());
     } else if constexpr (std::is_void_v<T>) {
         return "void";
     } else if constexpr (std::is_same_v<T, int>) {

@@ -34,11 +34,12 @@ std::string ListaTexto(const std::vector<Localidad>& lugares)
     TablaTexto tabla({izquierda, izquierda, izquierda, derecha, derecha, derecha, izquierda, derecha});
     tabla.Fila({"Lugar", "Provincia", "País", "Latitud", "Longitud", "Altitud (m)", "Zona", "kWh/m²·día"});
     tabla.Raya();
-    for (const Localidad& lugar : lugares)
+    for (const Localidad& lugar : lugares) {
         tabla.Fila({CadenaUtf8(lugar.csNombre), CadenaUtf8(lugar.csProvincia), CadenaUtf8(lugar.csPais),
                     Decimal(lugar.dLatitud, 2), Decimal(lugar.dLongitud, 2), Decimal(lugar.dAltitud, 0),
                     CadenaUtf8(lugar.csZonaHE5),
                     Decimal(solar::MediaAnual(lugar.adRadHorizontal) / solar::kKJporKWh, 2)});
+    }
     return tabla.Texto() +
            "\nNorte y este positivos. kWh/m²·día: radiación global sobre la horizontal, media del año.\n";
 }
