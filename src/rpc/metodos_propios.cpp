@@ -160,7 +160,8 @@ void Climate(const Json& params, std::string& salida)
 {
     if (!params.is_object() || params.size() != 1)
         throw ErrorRpc(Codigo::argumentos, "se esperaba uno de record, horizon, hour, id");
-    const auto& [nombre, valor] = *params.items().begin();
+    const std::string& nombre = params.begin().key();
+    const Json& valor = params.begin().value();
     clima::BibliotecaClima& biblioteca = clima::BibliotecaActual();
     if (nombre == "record")
         return CargarClima(valor, &clima::CargarRegistroClimatico, salida);
