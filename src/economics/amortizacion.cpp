@@ -23,7 +23,7 @@ double SumaDeCuotas(double dCuota, double dMeses)
     if (dMeses > kMaximoMesesSumados)
         return dCuota * dMeses;
     double dSuma = 0.0;
-    for (double m = 0.0; m < dMeses; m += 1.0)
+    for (int m = 0; m < dMeses; ++m)
         dSuma += dCuota;
     return dSuma;
 }

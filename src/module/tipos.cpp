@@ -41,11 +41,12 @@ const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre)
 BibliotecaCec LeerCec(const CString& csFichero, const OpcionesCec& opciones)
 {
     auto biblioteca = catalogues::LeerCecDe(catalogues::TextoCec(csFichero), opciones, TiposDeCatalogo());
-    if (!biblioteca)
+    if (!biblioteca) {
         throw CFileException(
             CFileException::generica,
             CadenaUtf8(csFichero) +
                 ": no es una biblioteca CEC: su cabecera no es la de los módulos ni la de los inversores");
+    }
     return std::move(*biblioteca);
 }
 

@@ -61,7 +61,7 @@ EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla)
     estudio.bPlano =
         solar::FactoresK(tabla, proyecto.lugar.dLatitud, proyecto.lugar.Hemisferio(), v.dInclinacion)
             .has_value();
-    if (proyecto.lugar.adRadiacion)
+    if (proyecto.lugar.adRadiacion) {
         estudio.ano = solar::CalcularEnergia({.dLatitud = proyecto.lugar.dLatitud,
                                               .bNorte = proyecto.lugar.bNorte,
                                               .adRadHorizontal = *proyecto.lugar.adRadiacion,
@@ -69,6 +69,7 @@ EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla)
                                               .dPotencia = v.dPotenciaTotal,
                                               .dPR = proyecto.Rendimiento()},
                                              solar::kMetodoDeUso, tabla);
+    }
     return estudio;
 }
 

@@ -1,4 +1,6 @@
 // A grid-connected design as an engineer lays it out.
+#include <utility>
+
 #include <fmt/format.h>
 
 #include <quorvel/report/disenos.h>
@@ -110,8 +112,10 @@ std::vector<Dato> Resumen(const EstudioRed& estudio)
         {"Paneles",
          fmt::format("{} ({} × {} por inversor)", v.iTotalPaneles, v.iPanelesSerie, v.iPanelesParalelo)},
         {"Inclinación", Con(v.dInclinacion, 1, "°")}};
-    if (estudio.ano)
-        resumen.push_back({"Energía del año", Con(estudio.ano->Energia(), 0, "kWh")});
+    if (estudio.ano) {
+        Dato energia{"Energía del año", Con(estudio.ano->Energia(), 0, "kWh")};
+        resumen.push_back(std::move(energia));
+    }
     return resumen;
 }
 

@@ -167,7 +167,7 @@ void Climate(const Json& params, std::string& salida)
         return CargarClima(valor, &clima::CargarRegistroClimatico, salida);
     if (nombre == "horizon")
         return CargarClima(valor, &clima::CargarHorizonte, salida);
-    if (nombre == "hour")
+    if (nombre == "hour") {
         return Radiacion(
             valor, nombre, std::make_index_sequence<10>(),
             [&](double dSitio, double dLatitud, double dMes, double dDia, double dHora, auto... resto) {
@@ -179,7 +179,8 @@ void Climate(const Json& params, std::string& salida)
                                                            entero(dHora), resto...);
             },
             salida);
-    if (nombre == "id")
+    }
+    if (nombre == "id") {
         return Radiacion(
             valor, nombre, std::make_index_sequence<3>(),
             [&](double dHora, double dInclinacion, double dOrientacion) {
@@ -187,6 +188,7 @@ void Climate(const Json& params, std::string& salida)
                 return bEntera ? biblioteca.clGetID(static_cast<int>(dHora), dInclinacion, dOrientacion) : 0.0;
             },
             salida);
+    }
     throw ErrorRpc(Codigo::argumentos, "se esperaba uno de record, horizon, hour, id");
 }
 

@@ -85,9 +85,9 @@ struct HoraTipica {
 HoraTipica LeerHora(std::string_view linea)
 {
     std::array<std::string_view, 9> campos{};
-    for (std::size_t i = 0; i < campos.size(); ++i) {
+    for (std::string_view& campo : campos) {
         const std::size_t iComa = linea.find(',');
-        campos[i] = linea.substr(0, iComa);
+        campo = linea.substr(0, iComa);
         linea.remove_prefix(iComa == linea.npos ? linea.size() : iComa + 1);
     }
     const auto cifras = [&](std::size_t i) {

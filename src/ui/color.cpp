@@ -37,7 +37,8 @@ Color DeComponentes(double dRojo, double dVerde, double dAzul)
 Color DeTono(int iColor)
 {
     constexpr auto kBrillos = std::to_array<double>({1.0, 0.65, 0.5, 0.3, 0.15});
-    const double dTono = (iColor - 10) / 10 * 15.0 / 60.0;
+    const int iTono = (iColor - 10) / 10;
+    const double dTono = iTono * 15.0 / 60.0;
     const double dBrillo = kBrillos[static_cast<std::size_t>(iColor % 10 / 2)];
     const double dBlanco = iColor % 2 == 1 ? 0.5 : 0.0;
     const auto componente = [&](double dCentro) {

@@ -57,7 +57,7 @@ std::size_t EnCiclo(double d, std::size_t n)
 
 Eje EjeDeBandas(ClaseEje clase, double dMin, double dMax)
 {
-    const double dCiclo = static_cast<double>(clase == ClaseEje::mes ? kNombresMes.size() : kNombresDia.size());
+    const auto dCiclo = static_cast<double>(clase == ClaseEje::mes ? kNombresMes.size() : kNombresDia.size());
     Eje eje;
     eje.clase = clase;
     eje.dPaso = 1.0;
@@ -170,7 +170,7 @@ CString RotuloDeCalendario(const Eje& eje, double d, bool bLargo)
 CString LecturaDeCalendario(const Eje& eje, double d, bool bConHora)
 {
     if (eje.DeBandas()) {
-        const CString csBanda(NombreDeBanda(eje, d));
+        CString csBanda(NombreDeBanda(eje, d));
         if (eje.clase == ClaseEje::mes || !bConHora)
             return csBanda;
         return csBanda + L", " + RotuloHora(24.0 * (d + 0.5 - std::floor(d + 0.5)));

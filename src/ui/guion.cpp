@@ -247,13 +247,13 @@ public:
 
     void operator()(const paso::Elegir& p)
     {
-        if (Lista* const lista = Como<Lista>(Usable(m_dialogo, p.control))) {
+        if (auto* const lista = Como<Lista>(Usable(m_dialogo, p.control))) {
             const int* i = std::get_if<int>(&p.entrada);
             m_dialogo.Elegir(*lista, i != nullptr ? IndiceValido(*i, lista->Filas(), p.control)
                                                   : FilaDe(*lista, std::get<CString>(p.entrada), p.control));
             return;
         }
-        if (BotonColor* const color = Como<BotonColor>(Usable(m_dialogo, p.control))) {
+        if (auto* const color = Como<BotonColor>(Usable(m_dialogo, p.control))) {
             m_dialogo.Elegir(*color, Entrada(p, color->Entradas()));
             return;
         }

@@ -43,8 +43,8 @@ Horizonte Horizonte::Leer(std::string_view texto)
     if (puntos.empty())
         throw FicheroInvalido("no hay ninguna línea de acimut y elevación");
     std::ranges::stable_sort(puntos, {}, &std::pair<double, double>::first);
-    const auto sobra = std::ranges::unique(puntos, {}, &std::pair<double, double>::first);
-    puntos.erase(sobra.begin(), sobra.end());
+    const auto mismo = [](const auto& a, const auto& b) { return a.first == b.first; };
+    puntos.erase(std::unique(puntos.begin(), puntos.end(), mismo), puntos.end());
     return horizonte;
 }
 
