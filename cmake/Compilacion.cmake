@@ -31,8 +31,9 @@ endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(efv_compilacion INTERFACE
         -Wduplicated-cond -Wduplicated-branches -Wlogical-op -Wuseless-cast
-        # GCC 12 takes the empty state of a std::optional for an uninitialised value.
-        -Wno-maybe-uninitialized)
+        # GCC 12 takes the empty state of a std::optional for an uninitialised value, and in texts put together it
+        # sees copies beyond their end.
+        -Wno-maybe-uninitialized -Wno-array-bounds -Wno-restrict)
 endif()
 
 if(EFV_CCACHE)
