@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "diseno/resumen.h"
-#include "esquema/dibujo.h"
+#include "esquema/lamina.h"
 #include "proyecto/fichero.h"
 
 using namespace efv::estudio;
@@ -22,7 +22,7 @@ template <class DISENO>
 void Dibujarlo(const DISENO& diseno)
 {
     ResumenDe(diseno);
-    const Dibujo dibujo = Dibujar(EsquemaDe(diseno));
+    const Lamina dibujo = Dibujar(EsquemaDe(diseno));
     if (dibujo.trazos.size() > 1000 || !(dibujo.dAncho < 5000.0) || !(dibujo.dAlto < 5000.0))
         std::abort();
 }

@@ -37,7 +37,7 @@ void LlenarRecientes(Ventana& ventana, QMenu& menu)
 }
 
 // The drawing on view, or a word about there being none.
-const Dibujo* DibujoALaVista(Ventana& ventana)
+const Lamina* LaminaALaVista(Ventana& ventana)
 {
     const VistaEsquema* vista = ventana.EsquemaALaVista();
     if (vista != nullptr && !vista->Mostrado().trazos.empty())
@@ -48,14 +48,14 @@ const Dibujo* DibujoALaVista(Ventana& ventana)
 
 void CopiarEsquema(Ventana& ventana)
 {
-    if (const Dibujo* dibujo = DibujoALaVista(ventana))
-        CopiarDibujo(*dibujo);
+    if (const Lamina* lamina = LaminaALaVista(ventana))
+        CopiarLamina(*lamina);
 }
 
 void GuardarEsquema(Ventana& ventana)
 {
-    const Dibujo* dibujo = DibujoALaVista(ventana);
-    if (dibujo == nullptr)
+    const Lamina* lamina = LaminaALaVista(ventana);
+    if (lamina == nullptr)
         return;
     if (const auto csRuta = ui::PresentadorActual().ElegirFichero({L"Guardar esquema",
                                                                    {{L"Imagen PNG (*.png)", L"*.png"},
@@ -63,7 +63,7 @@ void GuardarEsquema(Ventana& ventana)
                                                                     {L"Documento PDF (*.pdf)", L"*.pdf"}},
                                                                    true,
                                                                    L"esquema.png"}))
-        GuardarDibujo(*dibujo, *csRuta);
+        GuardarLamina(*lamina, *csRuta);
 }
 
 void GuardarInformeALaVista(Ventana& ventana)

@@ -38,7 +38,7 @@ QWidget* ConMargen(QWidget* dentro)
 }
 
 template <class Registro>
-Dibujo DibujoDe(const Registro& diseno)
+Lamina LaminaDe(const Registro& diseno)
 {
     return Dibujar(EsquemaDe(diseno));
 }
@@ -49,8 +49,8 @@ struct VentanaPrincipal::FilaPestana {
     const char* nombre;
     const char* rotulo;
     ui::Dialogo& (*panel)(VentanaPrincipal& ventana);
-    Dibujo (*dibujo)(const CProyectoEstudio& proyecto);  // of the schematic above the panel; null: none
-    const wchar_t* sinDibujo;                            // said in place of an empty one
+    Lamina (*lamina)(const CProyectoEstudio& proyecto);  // of the schematic above the panel; null: none
+    const wchar_t* sinLamina;                            // said in place of an empty one
     std::optional<Diseno> diseno;                        // of which the tab is
 };
 
@@ -61,10 +61,10 @@ std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
         {"energia", "&Energía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, nullptr,
          std::nullopt},
         {"aislada", "&Instalación aislada", [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
-         [](const CProyectoEstudio& p) { return DibujoDe(p.aislada); },
+         [](const CProyectoEstudio& p) { return LaminaDe(p.aislada); },
          L"Todavía no hay diseño.\n«Asistente de instalación aislada…» lo propone.", Diseno::aislada},
         {"red", "Conexión a &red", [](Ventana& v) -> ui::Dialogo& { return v.m_red; },
-         [](const CProyectoEstudio& p) { return DibujoDe(p.red); },
+         [](const CProyectoEstudio& p) { return LaminaDe(p.red); },
          L"Todavía no hay diseño.\n«Asistente de conexión a red…» lo propone.", Diseno::red},
         {"consumo", "&Consumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, nullptr,
          std::nullopt},
@@ -134,7 +134,7 @@ QWidget* VentanaPrincipal::CrearPanel(ui::Dialogo& dialogo, QWidget* padre)
 
 QWidget* VentanaPrincipal::CrearPestana(const FilaPestana& fila)
 {
-    if (fila.dibujo == nullptr) {
+    if (fila.lamina == nullptr) {
         m_esquemas.push_back(nullptr);
         return ConMargen(CrearPanel(fila.panel(*this), m_pestanas));
     }
@@ -192,8 +192,8 @@ void VentanaPrincipal::Actualizar()
     for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo})
         panel->Actualizar();
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)
-        if (const FilaPestana& fila = FilasPestanas()[i]; fila.dibujo != nullptr)
-            m_esquemas[i]->Poner(fila.dibujo(proyecto), fila.sinDibujo);
+        if (const FilaPestana& fila = FilasPestanas()[i]; fila.lamina != nullptr)
+            m_esquemas[i]->Poner(fila.lamina(proyecto), fila.sinLamina);
     for (QWidget* panel : m_paneles)
         qt::RefrescarVentana(panel);
 }

@@ -7,7 +7,7 @@
 #include <quorvel/ui/como.h>
 #include <quorvel/ui/controles.h>
 #include <quorvel/ui/dialogo.h>
-#include <quorvel/ui/dibujo.h>
+#include <quorvel/ui/figuras.h>
 #include <quorvel/ui/grafica.h>
 #include <quorvel/ui/guion.h>
 #include <quorvel/ui/lista.h>

@@ -87,7 +87,7 @@ void CDlgAsistenteSFVAislada::AnadirReceptores()
     m_lista->alineaciones.assign(3, ui::Alineacion::izquierda);
     m_lista->otras = ui::Alineacion::derecha;
     m_lista->modelo = std::make_shared<ui::FilasDeLista>(m_filasReceptores, ui::FilasDeLista::conCasillas);
-    m_lista->lugar.bEstirar = true;
+    m_lista->colocacion.bEstirar = true;
     m_lista->alElegir = [this] { m_filasReceptores.SetSelectionMark(m_lista->iSeleccion); };
     m_lista->alAbrir = [this](int iFila, int /*iColumna*/) {
         m_filasReceptores.SetSelectionMark(iFila);

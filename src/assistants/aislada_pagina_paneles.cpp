@@ -19,7 +19,7 @@ namespace {
 using V = ValoresAislada;
 
 constexpr std::wstring_view kRadiacion = L"Radiación solar";
-constexpr ui::Lugar kDerecha{.iColumna = 1};
+constexpr ui::Colocacion kDerecha{.iColumna = 1};
 
 constexpr auto kRamales = ui::Campos<V>({
     {&V::iPanelesSerie, L"Nº de paneles por ramal:"},
@@ -112,7 +112,7 @@ void PaginaPaneles::AnadirPanelesPorFila()
     paneles.destino = &m_asistente.datos.dPanelesPorFila;
     paneles.limites = ui::CamposDe<V>::Limites(&V::iPanelesPorFila).value();
     paneles.iDecimales = 0;
-    paneles.lugar = kDerecha;
+    paneles.colocacion = kDerecha;
 }
 
 void PaginaPaneles::AnadirRadiacion()

@@ -13,7 +13,7 @@
 #include "frame/estado.h"
 #include "frame/recursos.h"
 #include "ui/campos_registro.h"
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 namespace efv::assistants {
 
@@ -80,24 +80,24 @@ protected:
     /// Adds fields that only show to the dialog or one of its pages.
     template <class DONDE, std::size_t N>
     void AnadirResultados(DONDE& donde, const std::array<ui::Campo<V>, N>& campos, ui::Color color,
-                          const ui::Lugar& lugar = {})
+                          const ui::Colocacion& colocacion = {})
     {
-        AnadirCampos(donde, campos, lugar);
+        AnadirCampos(donde, campos, colocacion);
         for (const auto& campo : campos)
             SoloMostrar(this->template De<ui::Edicion>(campo.miembro), color);
     }
 
     template <std::size_t N>
     void AnadirCampos(ui::Pagina& pagina, const std::array<ui::Campo<V>, N>& campos,
-                      const ui::Lugar& lugar = {})
+                      const ui::Colocacion& colocacion = {})
     {
-        this->Anadir(pagina, campos, lugar);
+        this->Anadir(pagina, campos, colocacion);
     }
     template <std::size_t N>
     void AnadirCampos(DialogoAsistente& /*yo*/, const std::array<ui::Campo<V>, N>& campos,
-                      const ui::Lugar& lugar = {})
+                      const ui::Colocacion& colocacion = {})
     {
-        this->Anadir(campos, lugar);
+        this->Anadir(campos, colocacion);
     }
 
     static void SoloMostrar(ui::Edicion& edicion, ui::Color color)
@@ -117,10 +117,10 @@ protected:
 
     template <class DONDE>
     ui::Boton& AnadirBoton(DONDE& donde, std::string_view nombre, std::wstring_view rotulo,
-                           const ui::Lugar& lugar, std::function<void()> alPulsar)
+                           const ui::Colocacion& colocacion, std::function<void()> alPulsar)
     {
         auto& boton = donde.template Anadir<ui::Boton>(nombre, rotulo);
-        boton.lugar = lugar;
+        boton.colocacion = colocacion;
         boton.alPulsar = std::move(alPulsar);
         return boton;
     }
@@ -148,24 +148,26 @@ protected:
 
     /// How the panels stand.
     template <class DONDE>
-    ui::Seleccion& AnadirDisposicion(DONDE& donde, const ui::Lugar& lugar, std::function<void()> alElegir)
+    ui::Seleccion& AnadirDisposicion(DONDE& donde, const ui::Colocacion& colocacion,
+                                     std::function<void()> alElegir)
     {
         auto& radio = donde.template Anadir<ui::Seleccion>(
             ui::NombreDeMiembro<V>(&V::iDisposicion), L"Disposición de paneles:", ui::Seleccion::Forma::radio);
         radio.acsEntradas = {L"Vertical", L"Horizontal"};
         radio.destino = &this->datos.iDisposicion;
-        radio.lugar = lugar;
+        radio.colocacion = colocacion;
         radio.alElegir = std::move(alElegir);
         return radio;
     }
 
     /// The button that chooses the host's symbol of a category; without a host's control it can't be used.
     template <class DONDE>
-    void AnadirSimbolo(DONDE& donde, int V::*simbolo, int iCadenaCategoria, const ui::Lugar& lugar = {})
+    void AnadirSimbolo(DONDE& donde, int V::*simbolo, int iCadenaCategoria,
+                       const ui::Colocacion& colocacion = {})
     {
         int& iSimbolo = this->datos.*simbolo;
         auto& boton =
-            AnadirBoton(donde, ui::NombreDeCampo(simbolo), L"...", lugar, [&iSimbolo, iCadenaCategoria] {
+            AnadirBoton(donde, ui::NombreDeCampo(simbolo), L"...", colocacion, [&iSimbolo, iCadenaCategoria] {
                 const auto elegido = frame::ElegirSimbolo(
                     *frame::Estado().pBIMCtrl, frame::FormatearCadena(iCadenaCategoria, L""), iSimbolo);
                 if (elegido.bValido)

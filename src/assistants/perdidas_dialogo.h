@@ -3,7 +3,7 @@
 
 #include "assistants/asistente_aislada_registro.h"
 #include "ui/campos_registro.h"
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 namespace efv::assistants {
 

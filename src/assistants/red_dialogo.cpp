@@ -14,11 +14,11 @@ namespace ui = efv::ui;
 namespace as = efv::assistants;
 using V = as::ValoresRed;
 
-constexpr ui::Lugar kGrupoObjetivo{.grupo = L"Instalación"};
-constexpr ui::Lugar kGrupoInversor{.grupo = L"Inversor"};
-constexpr ui::Lugar kGrupoPanel{.grupo = L"Paneles fotovoltaicos"};
-constexpr ui::Lugar kGrupoGeometria{.grupo = L"Disposición", .iColumna = 1};
-constexpr ui::Lugar kGrupoResultado{.grupo = L"Solución del sistema", .iColumna = 1};
+constexpr ui::Colocacion kGrupoObjetivo{.grupo = L"Instalación"};
+constexpr ui::Colocacion kGrupoInversor{.grupo = L"Inversor"};
+constexpr ui::Colocacion kGrupoPanel{.grupo = L"Paneles fotovoltaicos"};
+constexpr ui::Colocacion kGrupoGeometria{.grupo = L"Disposición", .iColumna = 1};
+constexpr ui::Colocacion kGrupoResultado{.grupo = L"Solución del sistema", .iColumna = 1};
 
 constexpr auto kObjetivo = ui::Campos<V>({
     {&V::dPotenciaObjetivo, L"Potencia mínima instalada (kW):"},
@@ -103,18 +103,18 @@ CDlgAsistenteSFVRed::CDlgAsistenteSFVRed(const V& inicial, const as::TextoLugar&
 
 void CDlgAsistenteSFVRed::AnadirEquipos()
 {
-    const auto elegible = [this](CString V::*modelo, const ui::Lugar& lugar,
+    const auto elegible = [this](CString V::*modelo, const ui::Colocacion& colocacion,
                                  void (CDlgAsistenteSFVRed::*elegir)()) {
-        return &AnadirBoton(*this, ui::NombreDeCampo(modelo), L"", lugar,
+        return &AnadirBoton(*this, ui::NombreDeCampo(modelo), L"", colocacion,
                             [this, elegir] { (this->*elegir)(); });
     };
     m_inversor = elegible(&V::csInversor, kGrupoInversor, &CDlgAsistenteSFVRed::ElegirInversor);
     AnadirSimbolo(*this, &V::iSimboloInversor, as::kCategoriaInversor, ui::JuntoA(*m_inversor));
     m_nominal = &AnadirNominal("dPCANom", L"Potencia Nominal (W):", ui::kNegro);
     m_nominalP = &AnadirNominal("dPCANomP", L"", as::kColorPropuesta);
-    m_nominalP->lugar = ui::JuntoA(*m_nominal);
+    m_nominalP->colocacion = ui::JuntoA(*m_nominal);
     m_rango = &Anadir<ui::TextoFijo>("csRangoMPPT", L"Rango tensiones MPPT (máx./min.):");
-    m_rango->lugar = kGrupoInversor;
+    m_rango->colocacion = kGrupoInversor;
     Anadir(kInversores, kGrupoInversor);
     AnadirResultados(*this, kInversoresP, as::kColorPropuesta, kGrupoInversor);
 
@@ -130,7 +130,7 @@ ui::Edicion& CDlgAsistenteSFVRed::AnadirNominal(std::string_view nombre, std::ws
 {
     auto& nominal = Anadir<ui::Edicion>(nombre, rotulo);
     nominal.destino = &datos.inversor.dPCANom;
-    nominal.lugar = kGrupoInversor;
+    nominal.colocacion = kGrupoInversor;
     SoloMostrar(nominal, color);
     return nominal;
 }

@@ -4,7 +4,7 @@
 
 #include <quorvel/assistants.h>
 
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 class CDlgDatosRegulacion : public efv::ui::DialogoFicha<CSFVAsistenteAislada> {
 public:

@@ -12,7 +12,7 @@ CDlgAsistenteTipoInstalacion::CDlgAsistenteTipoInstalacion()
         dibujo.csIndicacion = rotulo;
         auto& boton = Anadir<efv::ui::Boton>("", rotulo);
         for (auto* pulsable : {&dibujo, &boton}) {
-            pulsable->lugar.iColumna = iColumna;
+            pulsable->colocacion.iColumna = iColumna;
             pulsable->alPulsar = [this, iResultado] {
                 iTipo = iResultado;
                 Terminar(ok);

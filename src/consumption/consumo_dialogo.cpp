@@ -83,7 +83,7 @@ CDlgDatosConsumo::CDlgDatosConsumo(const P& inicial, const CObArrayPropio<CSFVDa
     m_resumen->bSoloLectura = true;
     m_resumen->bVariasLineas = true;
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
-    m_grafica->lugar.bEstirar = true;
+    m_grafica->colocacion.bEstirar = true;
     PonerDiasDelMes();
     Volcar();
     MostrarTodo();
@@ -139,7 +139,7 @@ void CDlgDatosConsumo::AnadirTablaDeDias()
     m_dias->otras = ui::Alineacion::derecha;
     m_dias->modelo = std::make_shared<efv::consumption::TablaDeDias>(adHoras);
     m_dias->alAbrir = [this](int iFila, int iColumna) { AlAbrirDia(iFila, iColumna); };
-    m_dias->lugar.bEstirar = true;
+    m_dias->colocacion.bEstirar = true;
 }
 
 void CDlgDatosConsumo::AnadirReceptores()
@@ -154,7 +154,7 @@ void CDlgDatosConsumo::AnadirReceptores()
         m_filas.SetSelectionMark(iFila);
         AlEditarReceptor();
     };
-    m_receptores->lugar.bEstirar = true;
+    m_receptores->colocacion.bEstirar = true;
 }
 
 // ---------------------------------------------------------------------------------------------------

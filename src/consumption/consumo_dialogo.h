@@ -9,7 +9,7 @@
 #include <quorvel/consumption.h>
 
 #include "catalogues/bases.h"
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 namespace efv::consumption {
 

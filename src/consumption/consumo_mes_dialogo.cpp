@@ -37,12 +37,12 @@ void CDlgDatosConsumoMes::AnadirMeses()
     for (int iMes = 0; iMes < 12; ++iMes) {
         auto& mes = Anadir<ui::TextoFijo>(fmt::format("csMes[{}]", iMes), L"");
         mes.csTexto = efv::solar::NombreMes(iMes);
-        mes.lugar.grupo = kGrupoMeses;
+        mes.colocacion.grupo = kGrupoMeses;
         for (std::size_t p = 0; p < kRotulosPeriodos.size(); ++p) {
             auto& campo = Anadir<ui::Edicion>(fmt::format("adMes[{}][{}]", iMes, p), kRotulosPeriodos[p]);
             campo.destino = &datos.adMes[iMes][p];
             campo.limites = ui::Intervalo{0, kEnergiaMaxima};
-            campo.lugar = ui::JuntoA(mes);
+            campo.colocacion = ui::JuntoA(mes);
         }
     }
 }
@@ -54,7 +54,7 @@ void CDlgDatosConsumoMes::AnadirHoras()
             Anadir<ui::Seleccion>("", efv::consumption::NombreDeHora(h), ui::Seleccion::Forma::combo);
         periodo.acsEntradas = {L"P1", L"P2", L"P3"};
         periodo.destino = &datos.aiPeriodoHora[h];
-        periodo.lugar.grupo = kGrupoHoras;
-        periodo.lugar.iColumna = 1;
+        periodo.colocacion.grupo = kGrupoHoras;
+        periodo.colocacion.iColumna = 1;
     }
 }

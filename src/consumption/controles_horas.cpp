@@ -17,7 +17,7 @@ ControlesHoras::ControlesHoras(const AspectoHoras& aspecto, const Anadir& anadir
         campo.destino = &(*m_valores)[h];
         campo.iDecimales = aspecto.iDecimales;
         campo.limites = aspecto.limites;
-        campo.lugar.iColumna = h < m_campos.size() / 2 ? 0 : 1;
+        campo.colocacion.iColumna = h < m_campos.size() / 2 ? 0 : 1;
         campo.alSalir = [this, recoger] {
             if (recoger())
                 Dibujar();
@@ -26,7 +26,7 @@ ControlesHoras::ControlesHoras(const AspectoHoras& aspecto, const Anadir& anadir
     }
     m_grafica = &anadirGrafica();
     m_grafica->datos = aspecto.grafica;
-    m_grafica->lugar.iColumna = 2;
+    m_grafica->colocacion.iColumna = 2;
 }
 
 void ControlesHoras::Mostrar()

@@ -86,7 +86,7 @@ void CDlgDatosConsumoHoraHora::AnadirControles()
     m_origen = &AnadirEleccion(&P::iOrigen, L"", Forma::radio, {kOrigenes.begin(), kOrigenes.end()});
     m_patron = &AnadirEleccion(&P::iPatron, L"", Forma::combo, Titulos());
     m_editar = &Anadir<ui::Boton>("", L"...");
-    m_editar->lugar = ui::JuntoA(*m_patron);
+    m_editar->colocacion = ui::JuntoA(*m_patron);
     Anadir(kPotencia);
     m_consejo = &Anadir<ui::Edicion>("csDescripcion", L"");
     m_consejo->bSoloLectura = true;
@@ -98,7 +98,7 @@ void CDlgDatosConsumoHoraHora::AnadirControles()
     m_meses = &Anadir<ui::Boton>("", L"Datos mensuales ...");
     m_texto = &Anadir<ui::Edicion>("csTexto", L"");
     m_texto->bVariasLineas = true;
-    m_texto->lugar.bEstirar = true;
+    m_texto->colocacion.bEstirar = true;
     PonerUnidad();
 }
 

@@ -40,7 +40,7 @@ CDlgConfigImportConsumo::CDlgConfigImportConsumo(const P& inicial, Modo modo)
         Anadir(kCampos);
     }
     auto& buscar = Anadir<ui::Boton>("", L"...");
-    buscar.lugar = ui::JuntoA(De(&efv::consumption::DatosImportConsumo::csArchivo));
+    buscar.colocacion = ui::JuntoA(De(&efv::consumption::DatosImportConsumo::csArchivo));
     buscar.alPulsar = [this, modo] { AlBuscarArchivo(modo); };
     Volcar();
 }

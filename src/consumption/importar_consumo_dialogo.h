@@ -3,7 +3,7 @@
 
 #include <array>
 
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 namespace efv::consumption {
 

@@ -24,7 +24,7 @@ using R = CSFVDataReceptor;
 using D = efv::consumption::DatosReceptor;
 
 constexpr int kMinutosDia = 1440;
-constexpr ui::Lugar kPlanificacion{.grupo = L"Planificación"};
+constexpr ui::Colocacion kPlanificacion{.grupo = L"Planificación"};
 
 // Data of the catalogue, shown and never changed here.
 constexpr auto kDatos = ui::Campos<R>({
@@ -81,11 +81,11 @@ void CDlgDatosReceptor::AnadirModelo()
     modelo.bSoloLectura = true;
     Anadir(ui::Campos<D>({{.miembro = &D::bModelo, .rotulo = L"", .casilla = true}}));
     auto& conModelo = De<ui::Casilla>(&D::bModelo);
-    conModelo.lugar = ui::JuntoA(modelo);
+    conModelo.colocacion = ui::JuntoA(modelo);
     conModelo.bHabilitado = datos.bPedirCantidad == 0;
     conModelo.alCambiar = [this, &conModelo] { m_elegir->bHabilitado = conModelo.bMarcada; };
     m_elegir = &Anadir<ui::Boton>("", L"...");
-    m_elegir->lugar = ui::JuntoA(modelo);
+    m_elegir->colocacion = ui::JuntoA(modelo);
     m_elegir->bHabilitado = datos.bModelo != 0;
     m_elegir->alPulsar = [this] { AlElegirModelo(); };
     m_receptor.Anadir(*this, {&R::iCantidad, L"Cantidad:", {0, 10000}}).bVisible = datos.bPedirCantidad != 0;
@@ -118,7 +118,7 @@ ui::Seleccion& CDlgDatosReceptor::AnadirCombo(int D::*miembro, std::wstring_view
     combo.acsEntradas = std::move(acsEntradas);
     combo.destino = &(datos.*miembro);
     combo.alElegir = [this, alElegir] { (this->*alElegir)(); };
-    combo.lugar = kPlanificacion;
+    combo.colocacion = kPlanificacion;
     return combo;
 }
 
@@ -131,7 +131,7 @@ void CDlgDatosReceptor::AnadirPlanificacion()
     m_unificar = &Anadir<ui::Seleccion>("", L"Unificar planificación", ui::Seleccion::Forma::menu);
     m_unificar->acsEntradas.assign(kUnificar.begin(), kUnificar.end());
     m_unificar->alElegir = [this] { AlUnificar(); };
-    m_unificar->lugar = kPlanificacion;
+    m_unificar->colocacion = kPlanificacion;
     m_receptor.Anadir(*this, {&R::dHorasDia, L"Nº horas uso diario:", {0, 24}}, kPlanificacion);
 }
 
@@ -143,14 +143,14 @@ void CDlgDatosReceptor::AnadirLimites()
         deslizador.iPasoGrande = 60;
         deslizador.leer = LeerMinutos;
         deslizador.alMover = [this, i] { AlMover(i); };
-        deslizador.lugar = kPlanificacion;
+        deslizador.colocacion = kPlanificacion;
         auto& lectura = Anadir<ui::TextoFijo>(fmt::format("csLectura[{}]", i), L"");
-        lectura.lugar = ui::JuntoA(deslizador);
+        lectura.colocacion = ui::JuntoA(deslizador);
         m_limites[i] = {&deslizador, &lectura};
     }
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
-    m_grafica->lugar.iColumna = 1;
-    m_grafica->lugar.bEstirar = true;
+    m_grafica->colocacion.iColumna = 1;
+    m_grafica->colocacion.bEstirar = true;
 }
 
 // ---------------------------------------------------------------------------------------------------

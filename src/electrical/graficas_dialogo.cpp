@@ -11,8 +11,8 @@ CDlgItemDatosGraficaPanelFoto::CDlgItemDatosGraficaPanelFoto(efv::GraficasPanel 
     const auto anadir = [this](const char* nombre, CCtrlCurva2D datos, int iColumna) {
         auto& grafica = Anadir<efv::ui::Grafica>(nombre, L"");
         grafica.datos = std::move(datos);
-        grafica.lugar.iColumna = iColumna;
-        grafica.lugar.bEstirar = true;
+        grafica.colocacion.iColumna = iColumna;
+        grafica.colocacion.bEstirar = true;
     };
     anadir("grafica", std::move(graficas.corriente), 0);
     anadir("grafica2", std::move(graficas.potencia), 1);

@@ -14,7 +14,7 @@ namespace efv::module {
 template <class M>
 CString Ruta()
 {
-    return frame::FormatearCadena(catalogues::Catalogo<M>::Nombres().iCadenaFichero,
+    return frame::FormatearCadena(catalogues::FormatoCatalogo<M>::Nombres().iCadenaFichero,
                                   frame::Estado().csPathHE5BD);
 }
 

@@ -14,7 +14,7 @@ namespace efv::module {
 
 /// The catalogue of the models M.
 template <class M>
-typename catalogues::Catalogo<M>::Base& Base();
+typename catalogues::FormatoCatalogo<M>::Base& Base();
 
 CBaseFactorK& BaseFactorK();
 

@@ -5,6 +5,7 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/importacion_catalogo.h>
 
+#include "catalogues/dialogs/tipo_de.h"
 #include "catalogues/import/biblioteca_cec.h"
 #include "catalogues/kinds/acumulador.h"
 #include "catalogues/kinds/convertidor.h"
@@ -12,7 +13,6 @@
 #include "catalogues/kinds/micro_inversor.h"
 #include "catalogues/kinds/panel_foto.h"
 #include "catalogues/kinds/receptor.h"
-#include "catalogues/kinds/tipo_de.h"
 #include "module/ordenes.h"
 
 namespace efv {

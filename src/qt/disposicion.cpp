@@ -65,7 +65,7 @@ public:
 private:
     bool Estira(const Vista& vista) const
     {
-        return vista.control.lugar.bEstirar || dynamic_cast<const VistaPaginas*>(&vista) != nullptr ||
+        return vista.control.colocacion.bEstirar || dynamic_cast<const VistaPaginas*>(&vista) != nullptr ||
                (!m_bHayEstirados && vista.QuiereSitio());
     }
     bool Estira(const Puesto& puesto) const
@@ -285,7 +285,7 @@ private:
 void DisponerArea(QWidget* contenedor, const std::vector<Vista*>& vistas, std::vector<GrupoDispuesto>& grupos)
 {
     const bool bHayEstirados =
-        std::ranges::any_of(vistas, [](const Vista* v) { return v->control.lugar.bEstirar; });
+        std::ranges::any_of(vistas, [](const Vista* v) { return v->control.colocacion.bEstirar; });
     for (Vista* vista : vistas)
         vista->widget->setParent(contenedor);
     Area(grupos, bHayEstirados).Disponer(contenedor, Reunir(vistas, false));

@@ -7,7 +7,7 @@
 #include <QPainterPath>
 #include <QPalette>
 
-#include <quorvel/ui/dibujo.h>
+#include <quorvel/ui/figuras.h>
 
 #include "qt/colores.h"
 #include "qt/texto.h"
@@ -124,7 +124,7 @@ QIcon IconoDe(std::wstring_view nombre, const QPalette& paleta)
     if (Fuente())
         if (QIcon propio = Fuente()(AQt(nombre), paleta); !propio.isNull())
             return propio;
-    const std::string_view figuras = ui::DibujoDe(nombre);
+    const std::string_view figuras = ui::FigurasDe(nombre);
     return figuras.empty() ? QIcon() : QIcon(new MotorDibujo(figuras, paleta));
 }
 

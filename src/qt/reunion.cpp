@@ -26,8 +26,8 @@ std::size_t LetrasDe(const ui::Control& control)
 bool CabeEnLaFila(const Puesto& fila, const Vista& vista)
 {
     const Vista& primera = *fila.vistas.front();
-    if (!fila.grupo.empty() || fila.iColumna > 0 || vista.control.lugar.iColumna > 0 || !EsBoton(primera) ||
-        !EsBoton(vista) || EsImagenGrande(primera))
+    if (!fila.grupo.empty() || fila.iColumna > 0 || vista.control.colocacion.iColumna > 0 ||
+        !EsBoton(primera) || !EsBoton(vista) || EsImagenGrande(primera))
         return false;
     std::size_t nLetras = LetrasDe(vista.control);
     for (const Vista* otra : fila.vistas)
@@ -59,20 +59,20 @@ std::vector<Puesto> Reunir(const std::vector<Vista*>& vistas, bool bDentroDeGrup
     std::vector<Puesto> puestos;
     std::map<std::wstring_view, std::size_t> grupos;
     for (Vista* vista : vistas) {
-        const ui::Lugar& lugar = vista->control.lugar;
-        if (!bDentroDeGrupo && !lugar.grupo.empty()) {
-            const auto [grupo, bNuevo] = grupos.try_emplace(lugar.grupo, puestos.size());
+        const ui::Colocacion& colocacion = vista->control.colocacion;
+        if (!bDentroDeGrupo && !colocacion.grupo.empty()) {
+            const auto [grupo, bNuevo] = grupos.try_emplace(colocacion.grupo, puestos.size());
             if (bNuevo)
-                puestos.push_back({{}, lugar.grupo, lugar.iColumna});
+                puestos.push_back({{}, colocacion.grupo, colocacion.iColumna});
             Puesto& puesto = puestos[grupo->second];
             puesto.vistas.push_back(vista);
-            puesto.iColumna = std::min(puesto.iColumna, lugar.iColumna);
-        } else if (Puesto* suyo = PuestoDe(puestos, lugar.junto); suyo != nullptr) {
+            puesto.iColumna = std::min(puesto.iColumna, colocacion.iColumna);
+        } else if (Puesto* suyo = PuestoDe(puestos, colocacion.junto); suyo != nullptr) {
             suyo->vistas.push_back(vista);
         } else if (!puestos.empty() && CabeEnLaFila(puestos.back(), *vista)) {
             puestos.back().vistas.push_back(vista);
         } else {
-            puestos.push_back({{vista}, {}, lugar.iColumna});
+            puestos.push_back({{vista}, {}, colocacion.iColumna});
         }
     }
     return puestos;

@@ -22,9 +22,9 @@ bool SeLee(const CString& csTexto)
 // A control without a caption of its own goes by that of the one on whose line it stands.
 QString RotuloHablado(const ui::Control& control)
 {
-    if (SeLee(control.csRotulo) || control.lugar.junto == nullptr)
+    if (SeLee(control.csRotulo) || control.colocacion.junto == nullptr)
         return SinMnemonico(control.csRotulo);
-    return RotuloHablado(*control.lugar.junto);
+    return RotuloHablado(*control.colocacion.junto);
 }
 
 }  // namespace

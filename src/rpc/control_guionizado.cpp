@@ -38,9 +38,9 @@ int Numero(const std::string& nombre)
     return n;
 }
 
-Dibujo::Posicion LeerPosicion(const Json& j)
+DibujoAnfitrion::Posicion LeerPosicion(const Json& j)
 {
-    Dibujo::Posicion posicion;
+    DibujoAnfitrion::Posicion posicion;
     LeerMiembros(j, [&](const std::string& nombre, const Json& valor) {
         if (nombre == "ok")
             LeerValor(valor, posicion.bResultado);
@@ -52,20 +52,20 @@ Dibujo::Posicion LeerPosicion(const Json& j)
     return posicion;
 }
 
-std::vector<Dibujo::Posicion> LeerPosiciones(const Json& j)
+std::vector<DibujoAnfitrion::Posicion> LeerPosiciones(const Json& j)
 {
     if (!j.is_array())
         Esperaba("una lista de posiciones", j);
-    std::vector<Dibujo::Posicion> posiciones;
+    std::vector<DibujoAnfitrion::Posicion> posiciones;
     for (const Json& elemento : j)
         NombrarLugar([&] { return fmt::format("elemento {}", posiciones.size()); },
                      [&] { posiciones.push_back(LeerPosicion(elemento)); });
     return posiciones;
 }
 
-Dibujo::Bloque LeerBloque(const Json& j)
+DibujoAnfitrion::Bloque LeerBloque(const Json& j)
 {
-    Dibujo::Bloque bloque;
+    DibujoAnfitrion::Bloque bloque;
     LeerMiembros(j, [&](const std::string& nombre, const Json& valor) {
         if (nombre == "qualifies")
             LeerValor(valor, bloque.bCalifica);
@@ -77,9 +77,9 @@ Dibujo::Bloque LeerBloque(const Json& j)
     return bloque;
 }
 
-Dibujo::Simbolo LeerSimbolo(const Json& j)
+DibujoAnfitrion::Simbolo LeerSimbolo(const Json& j)
 {
-    Dibujo::Simbolo simbolo;
+    DibujoAnfitrion::Simbolo simbolo;
     LeerMiembros(j, [&](const std::string& nombre, const Json& valor) {
         if (nombre == "category")
             LeerValor(valor, simbolo.iCategoria);
@@ -109,9 +109,9 @@ Valor Entrada(const std::map<Clave, Valor>& mapa, std::span<const IBIMCtrl::Argu
 
 }  // namespace
 
-Dibujo LeerDibujo(const Json& j)
+DibujoAnfitrion LeerDibujo(const Json& j)
 {
-    Dibujo dibujo;
+    DibujoAnfitrion dibujo;
     LeerMiembros(j, [&](const std::string& nombre, const Json& valor) {
         if (nombre == "blocks") {
             LeerMiembros(valor, [&](const std::string& numero, const Json& bloque) {
@@ -156,12 +156,12 @@ IBIMCtrl::Resultado ControlGuionizado::Invocar(int iMetodo, std::span<const Argu
 
 IBIMCtrl::Resultado ControlGuionizado::PosicionDeBloque(std::span<const Argumento> argumentos) const
 {
-    const Dibujo::Bloque bloque = Entrada(m_dibujo.bloques, argumentos);
+    const DibujoAnfitrion::Bloque bloque = Entrada(m_dibujo.bloques, argumentos);
     const int* indice = Tomar<int>(argumentos, 1);
     int* const* tipo = Tomar<int*>(argumentos, 3);
     if (indice == nullptr || tipo == nullptr || *indice < 0 || *indice >= std::ssize(bloque.posiciones))
         return false;
-    const Dibujo::Posicion& posicion = bloque.posiciones[static_cast<std::size_t>(*indice)];
+    const DibujoAnfitrion::Posicion& posicion = bloque.posiciones[static_cast<std::size_t>(*indice)];
     **tipo = posicion.iTipo;
     return posicion.bResultado;
 }

@@ -12,7 +12,7 @@
 namespace efv::rpc {
 
 /// What the control knows. Whatever it doesn't know is 0, empty or false.
-struct Dibujo {
+struct DibujoAnfitrion {
     struct Posicion {
         bool bResultado = false;
         int iTipo = 0;  ///< type word
@@ -33,11 +33,11 @@ struct Dibujo {
 
 /// Reads the member `control` of a request; an unknown member is an error, since a misspelt one would
 /// silently answer 0. @throws ErrorValor
-Dibujo LeerDibujo(const Json& j);
+DibujoAnfitrion LeerDibujo(const Json& j);
 
 class ControlGuionizado final : public IBIMCtrl {
 public:
-    void Fijar(Dibujo dibujo) { m_dibujo = std::move(dibujo); }
+    void Fijar(DibujoAnfitrion dibujo) { m_dibujo = std::move(dibujo); }
 
     /// Symbols that the next choices of a symbol answer, in order, taken out as they are used. Without one
     /// the choice is cancelled. Not owned.
@@ -49,7 +49,7 @@ private:
     Resultado PosicionDeBloque(std::span<const Argumento> argumentos) const;
     Resultado ElegirSimbolo(std::span<const Argumento> argumentos);
 
-    Dibujo m_dibujo;
+    DibujoAnfitrion m_dibujo;
 };
 
 }  // namespace efv::rpc

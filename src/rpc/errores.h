@@ -38,8 +38,8 @@ public:
 
 /// Runs `leer`; an ErrorValor of it goes on with `lugar()` before its text. The place is a function
 /// because its text is wanted only then.
-template <class Lugar, class Leer>
-void NombrarLugar(Lugar&& lugar, Leer&& leer)
+template <class Sitio, class Leer>
+void NombrarLugar(Sitio&& lugar, Leer&& leer)
 {
     try {
         leer();

@@ -308,11 +308,11 @@ private:
     };
 
     template <class REGLAS, std::size_t I, class A>
-    struct Lugar {
+    struct EnSuPuesto {
         using Tipo = Argumento<A>;
     };
     template <class REGLAS, std::size_t I, class A>
-    requires(REGLAS::De(I) != nullptr) struct Lugar<REGLAS, I, A> {
+    requires(REGLAS::De(I) != nullptr) struct EnSuPuesto<REGLAS, I, A> {
         using Tipo = ArgumentoBloques<A>;
     };
 
@@ -366,7 +366,7 @@ private:
         funcion.ComprobarNumero(j, sizeof...(A));
         [&]<std::size_t... I>(std::index_sequence<I...>)
         {
-            std::tuple<typename Lugar<REGLAS, I, A>::Tipo...> argumentos;
+            std::tuple<typename EnSuPuesto<REGLAS, I, A>::Tipo...> argumentos;
             for ([[maybe_unused]] const bool bBloques : {false, true})
                 (funcion.Leer<REGLAS, I, A>(argumentos, j[I], contexto, bBloques), ...);
             salida += "\"return\":";

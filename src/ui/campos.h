@@ -170,23 +170,24 @@ public:
 
     /// Adds the controls of rows to a dialog or page, all of them at the same place.
     template <std::size_t N>
-    void Anadir(Contenedor& donde, const std::array<Campo<P>, N>& campos, const Lugar& lugar = {})
+    void Anadir(Contenedor& donde, const std::array<Campo<P>, N>& campos, const Colocacion& colocacion = {})
     {
         for (const Campo<P>& campo : campos)
-            Anadir(donde, campo, lugar);
+            Anadir(donde, campo, colocacion);
     }
 
-    Control& Anadir(Contenedor& donde, const Campo<P>& campo, const Lugar& lugar = {})
+    Control& Anadir(Contenedor& donde, const Campo<P>& campo, const Colocacion& colocacion = {})
     {
-        return Anadir(donde, NombreDeMiembro<P>(campo.miembro), campo, lugar);
+        return Anadir(donde, NombreDeMiembro<P>(campo.miembro), campo, colocacion);
     }
 
-    Control& Anadir(Contenedor& donde, std::string_view nombre, const Campo<P>& campo, const Lugar& lugar)
+    Control& Anadir(Contenedor& donde, std::string_view nombre, const Campo<P>& campo,
+                    const Colocacion& colocacion)
     {
         Control& control = Crear(donde, nombre, campo);
-        control.lugar = lugar;
+        control.colocacion = colocacion;
         if (campo.junto)
-            control.lugar.junto = &De(*campo.junto);
+            control.colocacion.junto = &De(*campo.junto);
         return control;
     }
 

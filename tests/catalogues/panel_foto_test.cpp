@@ -3,7 +3,7 @@
 #include <quorvel/catalogues.h>
 #include <quorvel/framework.h>
 
-#include "catalogues/kinds/panel_foto_dialogo.h"
+#include "catalogues/dialogs/panel_foto_dialogo.h"
 #include "comun/ficheros.h"
 #include "comun/guion.h"
 

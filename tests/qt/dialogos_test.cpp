@@ -186,13 +186,13 @@ TEST(Ventana, LoQueVaJuntoAOtroEstaEnSuLinea)
             Anadir<ui::Edicion>("otro", L"Otro:");
             Anadir<ui::Edicion>("solo", L"");
             for (const char* nombre : {"dMinimo", "dMinimoP"})
-                Anadir<ui::Edicion>(nombre, L"").lugar = ui::JuntoA(maximo);
+                Anadir<ui::Edicion>(nombre, L"").colocacion = ui::JuntoA(maximo);
             auto& unidad = Anadir<ui::TextoFijo>("unidad", L"");
             unidad.csTexto = L"V";
-            unidad.lugar = ui::JuntoA(maximo);
-            Anadir<ui::Boton>("elegir", L"Elegir un modelo ...").lugar = ui::JuntoA(maximo);
+            unidad.colocacion = ui::JuntoA(maximo);
+            Anadir<ui::Boton>("elegir", L"Elegir un modelo ...").colocacion = ui::JuntoA(maximo);
             auto& casilla = Anadir<ui::Casilla>("bSalida", L"Salida (V):");
-            Anadir<ui::Edicion>("dSalida", L"").lugar = ui::JuntoA(casilla);
+            Anadir<ui::Edicion>("dSalida", L"").colocacion = ui::JuntoA(casilla);
         }
     } d;
     Mostrar(d, [](QDialog& v) {
@@ -222,7 +222,7 @@ TEST(Ventana, UnaListaOcultaDejaSuSitioALaQueSeVe)
         {
             bMaximizable = true;  // with more room than the lists ask for
             for (const char* nombre : {"una", "otra"})
-                Anadir<ui::Lista>(nombre, L"", ui::Lista::Forma::tabla).lugar.bEstirar = true;
+                Anadir<ui::Lista>(nombre, L"", ui::Lista::Forma::tabla).colocacion.bEstirar = true;
             Controles()[0]->bVisible = false;
             auto& nota = Anadir<ui::Edicion>("nota", L"");
             nota.bVariasLineas = true;

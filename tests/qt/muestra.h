@@ -44,27 +44,27 @@ public:
         // Declared across the columns: the tab order isn't that of a reading by columns.
         nombre.destino = &csNombre;
         nombre.alSalir = [this] { ++nSalidas; };
-        potencia.lugar.iColumna = 1;
+        potencia.colocacion.iColumna = 1;
         potencia.destino = &dPotencia;
         potencia.limites = ui::Intervalo{0, 15000};
         tipo.acsEntradas = {L"monocristalina", L"policristalina", L"amorfa"};
         tipo.destino = &iTipo;
         tipo.alElegir = [this] { ++nElecciones; };
-        activo.lugar.iColumna = 1;
+        activo.colocacion.iColumna = 1;
         activo.destino = &iActivo;
         activo.alCambiar = [this] { potencia.bHabilitado = activo.bMarcada; };
         conexion.acsEntradas = {L"En &serie", L"En &paralelo"};
         conexion.destino = &iConexion;
-        conexion.lugar.grupo = L"Montaje";
+        conexion.colocacion.grupo = L"Montaje";
         nota.csTexto = L"*En color azul, solución propuesta";
         nota.color = ui::kAzul;
-        nota.lugar.grupo = L"Montaje";
+        nota.colocacion.grupo = L"Montaje";
         paginas.acsEntradas = {L"Datos", L"Gráfica"};
         paginas.destino = &iPagina;
         for (ui::Control* control : {static_cast<ui::Control*>(&texto), static_cast<ui::Control*>(&tabla)})
-            control->lugar.iPagina = 0;
+            control->colocacion.iPagina = 0;
         for (ui::Control* control : {static_cast<ui::Control*>(&seccion), static_cast<ui::Control*>(&grafica)})
-            control->lugar.iPagina = 1;
+            control->colocacion.iPagina = 1;
         texto.bVariasLineas = true;
         texto.csTexto = L"uno\r\ndos";
         seccion.destino = &dSeccion;

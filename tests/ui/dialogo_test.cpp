@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "comun/guion.h"
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 namespace {
 

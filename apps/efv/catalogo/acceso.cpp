@@ -74,7 +74,8 @@ CString OpcionesCatalogo::Ruta(const TipoCatalogo& tipo) const
                              : CadenaDesdeUtf8(m_fichero);
 }
 
-Catalogo::Catalogo(const TipoCatalogo& tipo, const CString& csRuta) : m_tipo(tipo), m_base(tipo.CrearBase())
+CatalogoAbierto::CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta)
+    : m_tipo(tipo), m_base(tipo.CrearBase())
 {
     const std::string ruta = CadenaUtf8(csRuta);
     std::error_code fallo;
@@ -88,7 +89,7 @@ Catalogo::Catalogo(const TipoCatalogo& tipo, const CString& csRuta) : m_tipo(tip
         throw ErrorEjecucion(fmt::format("el catálogo «{}» no tiene ningún modelo", ruta));
 }
 
-std::string Catalogo::Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const
+std::string CatalogoAbierto::Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const
 {
     std::string texto;
     for (const CString& csParecido : NombresParecidos(nombres, csBuscado, kParecidos))
@@ -98,7 +99,7 @@ std::string Catalogo::Ayuda(std::span<const NombreBuscable> nombres, const CStri
                        bPrimero ? "" : m_tipo.Nombre());
 }
 
-const CModelo& Catalogo::Buscar(const std::string& id) const
+const CModelo& CatalogoAbierto::Buscar(const std::string& id) const
 {
     const CString csId = CadenaDesdeUtf8(id);
     const Modelos hallados = ModelosDeNombre(m_modelos, csId);
@@ -113,7 +114,7 @@ const CModelo& Catalogo::Buscar(const std::string& id) const
     return *hallados.front();
 }
 
-Modelos Catalogo::DeFamilia(const std::string& nombre) const
+Modelos CatalogoAbierto::DeFamilia(const std::string& nombre) const
 {
     const CString csPlegado = Plegar(CadenaDesdeUtf8(nombre));
     Modelos hallados = Filtrar(m_modelos, [&](const CModelo& m) { return Plegar(m.csFamilia) == csPlegado; });

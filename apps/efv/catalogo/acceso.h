@@ -53,10 +53,10 @@ Modelos ModelosDeNombre(const Modelos& modelos, const CString& csId);
 std::string Enumerar(const Modelos& modelos);
 
 /// A catalogue file in memory.
-class Catalogo {
+class CatalogoAbierto {
 public:
     /// @throws ErrorEjecucion when the file is missing, unreadable or without any model
-    Catalogo(const TipoCatalogo& tipo, const CString& csRuta);
+    CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta);
 
     const TipoCatalogo& Tipo() const { return m_tipo; }
     /// All models in file order.

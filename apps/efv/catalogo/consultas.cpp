@@ -60,9 +60,9 @@ private:
     }
 
     const TipoCatalogo& Tipo() const { return m_catalogo.Tipo(TodosLosTipos()); }
-    Catalogo Abrir() const { return {Tipo(), m_catalogo.Ruta(Tipo())}; }
+    CatalogoAbierto Abrir() const { return {Tipo(), m_catalogo.Ruta(Tipo())}; }
     // Those of the family that was given, else all.
-    Modelos Elegidos(const Catalogo& catalogo) const
+    Modelos Elegidos(const CatalogoAbierto& catalogo) const
     {
         return Familia() ? catalogo.DeFamilia(*Familia()) : catalogo.Todos();
     }
@@ -84,7 +84,7 @@ private:
             throw ErrorUso("falta el texto que se busca (ayuda: efv catalogo buscar --help)");
         const CString csPlegado = Plegar(CadenaDesdeUtf8(texto));
         const auto contiene = [&](const CString& cs) { return Plegar(cs).find(csPlegado) != CString::npos; };
-        const Catalogo catalogo = Abrir();
+        const CatalogoAbierto catalogo = Abrir();
         Modelos hallados;
         std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados), [&](const auto* modelo) {
             return contiene(modelo->csFamilia) || contiene(modelo->csModelo);
@@ -99,7 +99,7 @@ private:
     {
         if (m_id.empty())
             throw ErrorUso("falta el modelo, FAMILIA#MODELO (ayuda: efv catalogo ver --help)");
-        const Catalogo catalogo = Abrir();
+        const CatalogoAbierto catalogo = Abrir();
         const CModelo& modelo = catalogo.Buscar(m_id);
         salida << (m_bJson ? TextoJson(FichaJson(Tipo(), modelo)) : FichaTexto(Tipo(), modelo));
         return 0;
@@ -107,7 +107,7 @@ private:
 
     int Validar(std::ostream& salida) const
     {
-        const Catalogo catalogo = Abrir();
+        const CatalogoAbierto catalogo = Abrir();
         const std::vector<HallazgoModelo> hallazgos = ValidarModelos(Tipo(), catalogo.Todos());
         const std::size_t n = catalogo.Todos().size();
         if (m_bJson)
@@ -125,7 +125,7 @@ private:
             throw ErrorUso(fmt::format("--separador: se esperaba «;» o «,», llegó «{}»", m_separador));
         if (m_salida && m_salida->empty())
             throw ErrorUso("--salida: el nombre está vacío");
-        const Catalogo catalogo = Abrir();
+        const CatalogoAbierto catalogo = Abrir();
         const std::string csv = ModelosCsv(Tipo(), Elegidos(catalogo), m_separador.front());
         if (!m_salida) {
             salida << csv;

@@ -158,7 +158,7 @@ public:
         if (m_carpeta && m_carpeta->empty())
             throw ErrorUso("--salida: el nombre está vacío");
         const TipoCatalogo& modulos = *BuscarTipoCatalogo("modulos");
-        const Catalogo catalogo(modulos, m_catalogo.Ruta(modulos));
+        const CatalogoAbierto catalogo(modulos, m_catalogo.Ruta(modulos));
         const auto& modelo = static_cast<const CBasePanelFotoModelo&>(catalogo.Buscar(m_id));
         const Familias familias{GraficasATemperaturaConstante(modelo), GraficasAIrradiacionConstante(modelo)};
         std::vector<std::filesystem::path> escritos;

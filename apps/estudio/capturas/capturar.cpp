@@ -29,13 +29,13 @@ void CapturarVentana(QWidget& ventana, const std::filesystem::path& archivo)
     Escribir(archivo, ventana.grab().save(QString::fromStdString(archivo.string())));
 }
 
-int CapturarEsquema(const Dibujo& dibujo, const std::filesystem::path& carpeta, const std::string& nombre)
+int CapturarEsquema(const Lamina& lamina, const std::filesystem::path& carpeta, const std::string& nombre)
 {
     int nCapturas = 0;
     for (const auto& [tema, sufijo] :
          {std::pair(Tema::claro, ".png"), std::pair(Tema::oscuro, "-oscuro.png")}) {
         const std::filesystem::path archivo = carpeta / (nombre + sufijo);
-        Escribir(archivo, ImagenDe(dibujo, tema).save(QString::fromStdString(archivo.string())));
+        Escribir(archivo, ImagenDe(lamina, tema).save(QString::fromStdString(archivo.string())));
         ++nCapturas;
     }
     return nCapturas;

@@ -82,7 +82,7 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
     m_tabla->otras = ui::Alineacion::derecha;
     m_tabla->modelo = std::make_shared<FilasEnergia>(m_filas);
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
-    m_grafica->lugar.iColumna = 1;
+    m_grafica->colocacion.iColumna = 1;
     Volcar();
     AlCambiar();
 }

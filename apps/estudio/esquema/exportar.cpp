@@ -20,17 +20,17 @@ constexpr double kEscalaImagen = 2.0;
 constexpr double kPixelesPorPulgada = 96.0, kPuntosPorPulgada = 72.0;
 constexpr int kResolucionPdf = 600;
 
-QByteArray Png(const Dibujo& dibujo)
+QByteArray Png(const Lamina& lamina)
 {
     QByteArray bytes;
     QBuffer salida(&bytes);
     salida.open(QIODevice::WriteOnly);
-    ImagenDe(dibujo).save(&salida, "PNG");
+    ImagenDe(lamina).save(&salida, "PNG");
     return bytes;
 }
 
 // One page of the drawing's size.
-QByteArray Pdf(const Dibujo& dibujo)
+QByteArray Pdf(const Lamina& lamina)
 {
     QByteArray bytes;
     QBuffer salida(&bytes);
@@ -38,52 +38,52 @@ QByteArray Pdf(const Dibujo& dibujo)
     QPdfWriter pagina(&salida);
     constexpr double kPuntos = kPuntosPorPulgada / kPixelesPorPulgada;
     pagina.setPageMargins(QMarginsF());
-    pagina.setPageSize(QPageSize(QSizeF(dibujo.dAncho, dibujo.dAlto) * kPuntos, QPageSize::Point,
+    pagina.setPageSize(QPageSize(QSizeF(lamina.dAncho, lamina.dAlto) * kPuntos, QPageSize::Point,
                                  QStringLiteral("Esquema"), QPageSize::ExactMatch));
     pagina.setResolution(kResolucionPdf);
     QPainter pintor(&pagina);
     pintor.scale(kResolucionPdf / kPixelesPorPulgada, kResolucionPdf / kPixelesPorPulgada);
-    Pintar(pintor, dibujo, Tema::claro);
+    Pintar(pintor, lamina, Tema::claro);
     pintor.end();
     return bytes;
 }
 
-QByteArray Bytes(const Dibujo& dibujo, const QString& sufijo)
+QByteArray Bytes(const Lamina& lamina, const QString& sufijo)
 {
     if (sufijo == QLatin1String("png"))
-        return Png(dibujo);
+        return Png(lamina);
     if (sufijo == QLatin1String("svg"))
-        return QByteArray::fromStdString(EscribirSvg(dibujo));
+        return QByteArray::fromStdString(EscribirSvg(lamina));
     if (sufijo == QLatin1String("pdf"))
-        return Pdf(dibujo);
+        return Pdf(lamina);
     throw std::runtime_error("El esquema se guarda como .png, .svg o .pdf.");
 }
 
 }  // namespace
 
-QImage ImagenDe(const Dibujo& dibujo, Tema tema)
+QImage ImagenDe(const Lamina& lamina, Tema tema)
 {
-    QImage imagen((QSizeF(dibujo.dAncho, dibujo.dAlto) * kEscalaImagen).toSize().expandedTo(QSize(1, 1)),
+    QImage imagen((QSizeF(lamina.dAncho, lamina.dAlto) * kEscalaImagen).toSize().expandedTo(QSize(1, 1)),
                   QImage::Format_RGB32);
     imagen.fill(ColorDe(Tinta::fondo, tema));
     QPainter pintor(&imagen);
     pintor.scale(kEscalaImagen, kEscalaImagen);
-    Pintar(pintor, dibujo, tema);
+    Pintar(pintor, lamina, tema);
     return imagen;
 }
 
-void GuardarDibujo(const Dibujo& dibujo, const CString& csRuta)
+void GuardarLamina(const Lamina& lamina, const CString& csRuta)
 {
     const QString ruta = QString::fromStdWString(csRuta);
-    const QByteArray bytes = Bytes(dibujo, QFileInfo(ruta).suffix().toLower());
+    const QByteArray bytes = Bytes(lamina, QFileInfo(ruta).suffix().toLower());
     GuardarFichero(csRuta, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 
-void CopiarDibujo(const Dibujo& dibujo)
+void CopiarLamina(const Lamina& lamina)
 {
     auto datos = std::make_unique<QMimeData>();
-    datos->setImageData(ImagenDe(dibujo));
-    datos->setData(QStringLiteral("image/svg+xml"), QByteArray::fromStdString(EscribirSvg(dibujo)));
+    datos->setImageData(ImagenDe(lamina));
+    datos->setData(QStringLiteral("image/svg+xml"), QByteArray::fromStdString(EscribirSvg(lamina)));
     QGuiApplication::clipboard()->setMimeData(datos.release());
 }
 

@@ -7,13 +7,13 @@
 
 namespace efv::estudio {
 
-QImage ImagenDe(const Dibujo& dibujo, Tema tema = Tema::claro);
+QImage ImagenDe(const Lamina& lamina, Tema tema = Tema::claro);
 
 /// Writes it as the suffix says: ".png", ".svg" or ".pdf". The file is replaced as a whole or not at all.
 /// @throws std::runtime_error with a Spanish text.
-void GuardarDibujo(const Dibujo& dibujo, const CString& csRuta);
+void GuardarLamina(const Lamina& lamina, const CString& csRuta);
 
 /// As a picture and as SVG.
-void CopiarDibujo(const Dibujo& dibujo);
+void CopiarLamina(const Lamina& lamina);
 
 }  // namespace efv::estudio

@@ -153,25 +153,25 @@ QColor ColorDe(Tinta tinta, Tema tema)
     return QColor::fromRgb(tema == Tema::claro ? colores.claro : colores.oscuro);
 }
 
-void Pintar(QPainter& pintor, const Dibujo& dibujo, Tema tema)
+void Pintar(QPainter& pintor, const Lamina& lamina, Tema tema)
 {
     pintor.setRenderHint(QPainter::Antialiasing);
     const Pincel pincel(pintor, tema);
-    for (const Trazo& t : dibujo.trazos)
+    for (const Trazo& t : lamina.trazos)
         std::visit(pincel, t);
 }
 
-std::string EscribirSvg(const Dibujo& dibujo)
+std::string EscribirSvg(const Lamina& lamina)
 {
     QString documento;
     QTextStream salida(&documento);
     salida << R"(<?xml version="1.0" encoding="UTF-8"?>)" << '\n'
-           << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << dibujo.dAncho << "\" height=\""
-           << dibujo.dAlto << "\" viewBox=\"0 0 " << dibujo.dAncho << ' ' << dibujo.dAlto
+           << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << lamina.dAncho << "\" height=\""
+           << lamina.dAlto << "\" viewBox=\"0 0 " << lamina.dAncho << ' ' << lamina.dAlto
            << "\" font-family=\"sans-serif\">\n"
            << "<rect width=\"100%\" height=\"100%\" fill=\"" << EscritorSvg::Nombre(Tinta::fondo) << "\"/>\n";
     const EscritorSvg escritor(salida);
-    for (const Trazo& t : dibujo.trazos)
+    for (const Trazo& t : lamina.trazos)
         std::visit(escritor, t);
     salida << "</svg>\n";
     salida.flush();

@@ -5,7 +5,7 @@
 
 #include <QPainter>
 
-#include "esquema/dibujo.h"
+#include "esquema/lamina.h"
 
 namespace efv::estudio {
 
@@ -14,9 +14,9 @@ enum class Tema { claro, oscuro };
 QColor ColorDe(Tinta tinta, Tema tema);
 
 /// In the painter's coordinates, without the ground.
-void Pintar(QPainter& pintor, const Dibujo& dibujo, Tema tema);
+void Pintar(QPainter& pintor, const Lamina& lamina, Tema tema);
 
 /// A self-contained document, UTF-8.
-std::string EscribirSvg(const Dibujo& dibujo);
+std::string EscribirSvg(const Lamina& lamina);
 
 }  // namespace efv::estudio

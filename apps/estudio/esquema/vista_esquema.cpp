@@ -33,14 +33,14 @@ VistaEsquema::VistaEsquema(QWidget* padre) : QGraphicsView(padre)
     setAccessibleName(QStringLiteral("Esquema"));
 }
 
-void VistaEsquema::Poner(Dibujo dibujo, const CString& csSinDiseno)
+void VistaEsquema::Poner(Lamina lamina, const CString& csSinDiseno)
 {
     // The person keeps the scale that they chose while the drawing is the same.
-    if (dibujo == m_dibujo && !m_aviso.isEmpty())
+    if (lamina == m_lamina && !m_aviso.isEmpty())
         return;
-    m_dibujo = std::move(dibujo);
+    m_lamina = std::move(lamina);
     m_aviso = QString::fromStdWString(csSinDiseno);
-    scene()->setSceneRect(0, 0, m_dibujo.dAncho, m_dibujo.dAlto);
+    scene()->setSceneRect(0, 0, m_lamina.dAncho, m_lamina.dAlto);
     Encajar();
 }
 
@@ -49,8 +49,8 @@ void VistaEsquema::Encajar()
     m_bEncajado = true;
     const QSizeF sitio = maximumViewportSize();
     double dEscala = 1.0;
-    if (m_dibujo.dAncho > 0.0 && !sitio.isEmpty())
-        dEscala = std::clamp(std::min(sitio.width() / m_dibujo.dAncho, sitio.height() / m_dibujo.dAlto),
+    if (m_lamina.dAncho > 0.0 && !sitio.isEmpty())
+        dEscala = std::clamp(std::min(sitio.width() / m_lamina.dAncho, sitio.height() / m_lamina.dAlto),
                              kEscalaMinima, kEscalaEncajada);
     setTransform(QTransform::fromScale(dEscala, dEscala));
     viewport()->update();
@@ -73,7 +73,7 @@ void VistaEsquema::resizeEvent(QResizeEvent* evento)
 
 void VistaEsquema::wheelEvent(QWheelEvent* evento)
 {
-    if (m_dibujo.trazos.empty())
+    if (m_lamina.trazos.empty())
         return;
     Ampliar(std::exp2(evento->angleDelta().y() / kPasosPorDoble));
     evento->accept();
@@ -93,8 +93,8 @@ void VistaEsquema::drawBackground(QPainter* pintor, const QRectF& zona)
 
 void VistaEsquema::drawForeground(QPainter* pintor, const QRectF& /*zona*/)
 {
-    if (!m_dibujo.trazos.empty())
-        return Pintar(*pintor, m_dibujo, TemaDe(*this));
+    if (!m_lamina.trazos.empty())
+        return Pintar(*pintor, m_lamina, TemaDe(*this));
     pintor->resetTransform();
     pintor->setPen(ColorDe(Tinta::tenue, TemaDe(*this)));
     pintor->drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_aviso);

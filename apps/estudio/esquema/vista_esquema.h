@@ -3,7 +3,7 @@
 
 #include <QGraphicsView>
 
-#include "esquema/dibujo.h"
+#include "esquema/lamina.h"
 
 namespace efv::estudio {
 
@@ -12,8 +12,8 @@ public:
     explicit VistaEsquema(QWidget* padre = nullptr);
 
     /// @param csSinDiseno what to say when there is nothing to draw
-    void Poner(Dibujo dibujo, const CString& csSinDiseno);
-    const Dibujo& Mostrado() const { return m_dibujo; }
+    void Poner(Lamina lamina, const CString& csSinDiseno);
+    const Lamina& Mostrado() const { return m_lamina; }
 
     void Encajar();
     void Ampliar(double dFactor);
@@ -26,7 +26,7 @@ protected:
     void drawForeground(QPainter* pintor, const QRectF& zona) override;
 
 private:
-    Dibujo m_dibujo;
+    Lamina m_lamina;
     QString m_aviso;
     bool m_bEncajado = true;  // follows the room until the person chooses a scale
 };

@@ -41,7 +41,7 @@ PanelLugar::PanelLugar(Sesion& sesion, std::vector<Localidad> localidades)
 void PanelLugar::AnadirLugar()
 {
     m_seleccion = &Anadir<ui::Seleccion>("iLugar", L"&Lugar:", ui::Seleccion::Forma::combo);
-    m_seleccion->lugar.grupo = kGrupoLugar;
+    m_seleccion->colocacion.grupo = kGrupoLugar;
     m_seleccion->destino = &m_iLugar;
     m_seleccion->acsEntradas.emplace_back(L"Datos propios");
     for (const Localidad& localidad : m_localidades)
@@ -50,7 +50,7 @@ void PanelLugar::AnadirLugar()
     const auto campo = [this](const char* nombre, const wchar_t* csRotulo,
                               ui::Destino destino) -> ui::Edicion& {
         auto& edicion = Anadir<ui::Edicion>(nombre, csRotulo);
-        edicion.lugar.grupo = kGrupoLugar;
+        edicion.colocacion.grupo = kGrupoLugar;
         edicion.destino = destino;
         edicion.alCambiar = [this] { AlCambiar(); };
         m_figuras.push_back(&edicion);
@@ -63,7 +63,7 @@ void PanelLugar::AnadirLugar()
     latitud.iDecimales = 4;
     // Its entries are the assistants' numbers.
     m_hemisferio = &Anadir<ui::Seleccion>("iHemisferio", L"&Hemisferio:", ui::Seleccion::Forma::combo);
-    m_hemisferio->lugar.grupo = kGrupoLugar;
+    m_hemisferio->colocacion.grupo = kGrupoLugar;
     m_hemisferio->acsEntradas = {L"Sur", L"Norte"};
     m_hemisferio->destino = &m_lugar.iHemisferio;
     m_hemisferio->alElegir = [this] { AlCambiar(); };
@@ -76,8 +76,8 @@ void PanelLugar::AnadirRadiaciones()
         CString csMes;
         phGetNombreMes(static_cast<int>(m), csMes);
         auto& edicion = Anadir<ui::Edicion>("adRadHorizontal" + std::to_string(m), csMes + L":");
-        edicion.lugar.grupo = kGrupoRadiacion;
-        edicion.lugar.iColumna = m < std::size(m_lugar.adRadHorizontal) / 2 ? 0 : 1;
+        edicion.colocacion.grupo = kGrupoRadiacion;
+        edicion.colocacion.iColumna = m < std::size(m_lugar.adRadHorizontal) / 2 ? 0 : 1;
         edicion.destino = &m_lugar.adRadHorizontal[m];
         edicion.limites = ui::Intervalo{0.0, solar::kRadiacionMaxima};
         edicion.iDecimales = 1;

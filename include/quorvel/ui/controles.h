@@ -20,7 +20,7 @@ namespace efv::ui {
 class Control;
 
 /// Where a control stands, as a hint for whoever lays the dialog out.
-struct Lugar {
+struct Colocacion {
     int iPagina = -1;              ///< page of the dialog's tabs; -1 outside them, or said by who owns it
     std::wstring_view grupo = {};  ///< framed group of that caption; empty for none
     int iColumna = 0;
@@ -77,7 +77,7 @@ public:
     bool bVisible = true;
     bool bSoloLectura = false;
     Color color = kNegro;
-    Lugar lugar;
+    Colocacion colocacion;
     const Pagina* pagina = nullptr;  ///< page that owns it; null: the dialog itself
 
     /// Page that it stands on, from 0; -1 outside the pages.
@@ -93,11 +93,11 @@ public:
 };
 
 /// The place on the line of `control`.
-inline Lugar JuntoA(const Control& control)
+inline Colocacion JuntoA(const Control& control)
 {
-    Lugar lugar = control.lugar;
-    lugar.junto = &control;
-    return lugar;
+    Colocacion colocacion = control.colocacion;
+    colocacion.junto = &control;
+    return colocacion;
 }
 
 /// Text that the person can't change.

@@ -38,15 +38,15 @@ struct NombresCatalogo {
 ///   static constexpr NombresCatalogo kNombres;
 ///   static constexpr auto kCampos;   an array of CampoModelo<M>, in the order of reading
 template <class M>
-struct Catalogo;
+struct FormatoCatalogo;
 
 /// What a catalogue may have of its own in reading and editing; most have nothing.
 template <class M>
 struct ReglasCatalogo {
     using Base = CBaseCatalogo<M>;
 
-    static std::span<const CampoModelo<M>> Campos() { return Catalogo<M>::kCampos; }
-    static const NombresCatalogo& Nombres() { return Catalogo<M>::kNombres; }
+    static std::span<const CampoModelo<M>> Campos() { return FormatoCatalogo<M>::kCampos; }
+    static const NombresCatalogo& Nombres() { return FormatoCatalogo<M>::kNombres; }
 
     /// What the held record of a file starts with besides zeros.
     static void Preparar(M& /*retenido*/) {}
@@ -82,7 +82,7 @@ void AlMiembro(MODELO& modelo, const CampoModelo<M>& campo, ACCION accion)
 template <class M>
 void Anular(M& modelo)
 {
-    for (const auto& campo : Catalogo<M>::Campos())
+    for (const auto& campo : FormatoCatalogo<M>::Campos())
         AlMiembro(modelo, campo, [](auto& valor) { valor = {}; });
 }
 

@@ -21,7 +21,7 @@
 template <class M>
 const CRuntimeClass& CModeloCatalogo<M>::GetThisClass()
 {
-    static const CRuntimeClass clase{efv::catalogues::Catalogo<M>::Nombres().claseModelo,
+    static const CRuntimeClass clase{efv::catalogues::FormatoCatalogo<M>::Nombres().claseModelo,
                                      &CObject::GetThisClass(), &efv::framework::Crear<M>};
     return clase;
 }
@@ -39,7 +39,7 @@ const CRuntimeClass& CModeloCatalogo<M>::GetRuntimeClass() const
 template <class M>
 const CRuntimeClass& CFamiliaCatalogo<M>::GetThisClass()
 {
-    static const CRuntimeClass clase{efv::catalogues::Catalogo<M>::Nombres().claseFamilia,
+    static const CRuntimeClass clase{efv::catalogues::FormatoCatalogo<M>::Nombres().claseFamilia,
                                      &CObject::GetThisClass(), &efv::framework::Crear<CFamiliaCatalogo<M>>};
     return clase;
 }
@@ -84,9 +84,9 @@ M* CFamiliaCatalogo<M>::BuscarModelo(const CString& csId) const
 template <class M>
 const CRuntimeClass& CBaseCatalogo<M>::GetThisClass()
 {
-    using efv::catalogues::Catalogo;
-    static const CRuntimeClass clase{Catalogo<M>::Nombres().claseBase, &CBaseXML::GetThisClass(),
-                                     &efv::framework::Crear<typename Catalogo<M>::Base>};
+    using efv::catalogues::FormatoCatalogo;
+    static const CRuntimeClass clase{FormatoCatalogo<M>::Nombres().claseBase, &CBaseXML::GetThisClass(),
+                                     &efv::framework::Crear<typename FormatoCatalogo<M>::Base>};
     return clase;
 }
 

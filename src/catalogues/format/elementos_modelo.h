@@ -46,13 +46,13 @@ template <class M>
 M ModeloDe(const CXMLElemento& elemento, bool bNuevo)
 {
     M modelo;
-    for (const auto& campo : Catalogo<M>::Campos()) {
+    for (const auto& campo : FormatoCatalogo<M>::Campos()) {
         AlMiembro(modelo, campo,
                   [&](auto& valor) { DeTexto(elemento.GetAtributo(NombreAncho(campo.atributo)), valor); });
     }
     if (bNuevo)
         modelo.csModelo.clear();
-    Catalogo<M>::PrepararEdicion(modelo, bNuevo);
+    FormatoCatalogo<M>::PrepararEdicion(modelo, bNuevo);
     return modelo;
 }
 
@@ -60,9 +60,9 @@ M ModeloDe(const CXMLElemento& elemento, bool bNuevo)
 template <class M>
 void EscribirEn(CXMLElemento& elemento, const M& modelo)
 {
-    for (const char* atributo : Catalogo<M>::AnadirSiFaltan())
+    for (const char* atributo : FormatoCatalogo<M>::AnadirSiFaltan())
         elemento.AddAtributo(NombreAncho(atributo), L"");
-    for (const auto& campo : Catalogo<M>::Campos()) {
+    for (const auto& campo : FormatoCatalogo<M>::Campos()) {
         AlMiembro(modelo, campo,
                   [&](const auto& valor) { Escribir(elemento, NombreAncho(campo.atributo), valor); });
     }
@@ -73,7 +73,7 @@ template <class M>
 xml::DocumentoEditable::Atributos AtributosDe(const M& modelo)
 {
     CXMLElemento elemento(L"Modelo");
-    for (const auto& campo : Catalogo<M>::Campos())
+    for (const auto& campo : FormatoCatalogo<M>::Campos())
         elemento.AddAtributo(NombreAncho(campo.atributo), EsNumerico(campo) ? L"0" : L"");
     EscribirEn(elemento, modelo);
     xml::DocumentoEditable::Atributos atributos;

@@ -22,8 +22,8 @@ public:
     explicit LectorCatalogo(CObArrayPropio<CObject>& destino) : m_destino(destino)
     {
         Anular(m_retenido);
-        Catalogo<M>::Preparar(m_retenido);
-        for (const auto& campo : Catalogo<M>::Campos())
+        FormatoCatalogo<M>::Preparar(m_retenido);
+        for (const auto& campo : FormatoCatalogo<M>::Campos())
             if (const auto* texto = std::get_if<CString M::*>(&campo.miembro))
                 m_textos.push_back(*texto);
     }
@@ -59,11 +59,11 @@ private:
 
     void LeerModelo(xml::Nodo nodo)
     {
-        Catalogo<M>::AntesDeModelo(m_retenido);
+        FormatoCatalogo<M>::AntesDeModelo(m_retenido);
         xml::Atributos atributos(nodo);
-        for (const auto& campo : Catalogo<M>::Campos())
+        for (const auto& campo : FormatoCatalogo<M>::Campos())
             AlMiembro(m_retenido, campo, [&](auto& valor) { Leer(atributos, campo.atributo, valor); });
-        Catalogo<M>::Sanear(m_retenido);
+        FormatoCatalogo<M>::Sanear(m_retenido);
     }
 
     template <class T>

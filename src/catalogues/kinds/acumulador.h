@@ -10,7 +10,7 @@
 namespace efv::catalogues {
 
 template <>
-struct Catalogo<CBaseAcumuladorModelo> : ReglasCatalogo<CBaseAcumuladorModelo> {
+struct FormatoCatalogo<CBaseAcumuladorModelo> : ReglasCatalogo<CBaseAcumuladorModelo> {
     using M = CBaseAcumuladorModelo;
 
     static constexpr NombresCatalogo kNombres{

@@ -10,7 +10,7 @@
 namespace efv::catalogues {
 
 template <>
-struct Catalogo<CBaseConvertidorModelo> : ReglasCatalogo<CBaseConvertidorModelo> {
+struct FormatoCatalogo<CBaseConvertidorModelo> : ReglasCatalogo<CBaseConvertidorModelo> {
     using M = CBaseConvertidorModelo;
 
     static constexpr NombresCatalogo kNombres{

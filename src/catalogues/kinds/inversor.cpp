@@ -18,27 +18,27 @@ void NormalizarListas(M& modelo)
 
 }  // namespace
 
-void Catalogo<M>::AntesDeModelo(M& retenido)
+void FormatoCatalogo<M>::AntesDeModelo(M& retenido)
 {
     retenido.csICCMaxMPPT.clear();
     retenido.csICCMinMPPT.clear();
 }
 
-void Catalogo<M>::Sanear(M& leido)
+void FormatoCatalogo<M>::Sanear(M& leido)
 {
     ReglasInversor::Sanear(leido);
     leido.iUsoPrincipal = std::max(leido.iUsoPrincipal, 0);
     NormalizarListas(leido);
 }
 
-void Catalogo<M>::PrepararEdicion(M& modelo, bool bNuevo)
+void FormatoCatalogo<M>::PrepararEdicion(M& modelo, bool bNuevo)
 {
     ReglasInversor::PrepararEdicion(modelo, bNuevo);
     NormalizarListas(modelo);
 }
 
 // Files from before the lists lack them.
-std::span<const char* const> Catalogo<M>::AnadirSiFaltan()
+std::span<const char* const> FormatoCatalogo<M>::AnadirSiFaltan()
 {
     static constexpr auto kAtributos =
         std::to_array<const char*>({"csICCMaxMPPT", "csICCMinMPPT", "dIScMax", "iNumMPPT", "iNumEntradas"});

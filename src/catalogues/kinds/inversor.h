@@ -11,7 +11,7 @@
 namespace efv::catalogues {
 
 template <>
-struct Catalogo<CBaseInversorModelo> : ReglasInversor<CBaseInversorModelo> {
+struct FormatoCatalogo<CBaseInversorModelo> : ReglasInversor<CBaseInversorModelo> {
     using M = CBaseInversorModelo;
 
     static void AntesDeModelo(M& retenido);

@@ -74,7 +74,7 @@ struct ReglasInversor : ReglasCatalogo<M> {
     /// Old files hold negative values for what isn't known.
     static void Sanear(M& leido)
     {
-        for (const auto& campo : Catalogo<M>::kCampos) {
+        for (const auto& campo : FormatoCatalogo<M>::kCampos) {
             AlMiembro(leido, campo, [](auto& valor) {
                 if constexpr (std::is_same_v<std::remove_reference_t<decltype(valor)>, double>)
                     valor = numero::MenorIgual(valor, 0.0) ? 0.0 : valor;

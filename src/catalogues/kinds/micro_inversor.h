@@ -10,7 +10,7 @@
 namespace efv::catalogues {
 
 template <>
-struct Catalogo<CBaseMicroInversorModelo> : ReglasInversor<CBaseMicroInversorModelo> {
+struct FormatoCatalogo<CBaseMicroInversorModelo> : ReglasInversor<CBaseMicroInversorModelo> {
     using M = CBaseMicroInversorModelo;
 
     static constexpr NombresCatalogo kNombres{

@@ -1,20 +1,11 @@
 #include "catalogues/kinds/panel_foto.h"
 
 #include "catalogues/format/catalogo.h"
-#include "catalogues/kinds/dialogo_modelo.h"
-#include "catalogues/kinds/panel_foto_dialogo.h"
 #include "platform/numero/tolerancia.h"
 
 namespace efv::catalogues {
 
 using M = CBasePanelFotoModelo;
-
-template <>
-std::unique_ptr<ui::DialogoFicha<M>> CrearDialogo(const M& modelo, bool bSoloLectura,
-                                                  const OrdenesModelo<M>& ordenes)
-{
-    return std::make_unique<CDlgItemDatosPanelFoto>(modelo, bSoloLectura, ordenes);
-}
 
 int CelulasPorRamal(int iTipoCelula, int iNs)
 {

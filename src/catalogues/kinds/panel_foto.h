@@ -11,7 +11,7 @@
 namespace efv::catalogues {
 
 template <>
-struct Catalogo<CBasePanelFotoModelo> : ReglasCatalogo<CBasePanelFotoModelo> {
+struct FormatoCatalogo<CBasePanelFotoModelo> : ReglasCatalogo<CBasePanelFotoModelo> {
     using M = CBasePanelFotoModelo;
 
     static constexpr NombresCatalogo kNombres{"CBasePanelFoto",

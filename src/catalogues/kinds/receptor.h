@@ -10,7 +10,7 @@
 namespace efv::catalogues {
 
 template <>
-struct Catalogo<CBaseReceptorModelo> : ReglasCatalogo<CBaseReceptorModelo> {
+struct FormatoCatalogo<CBaseReceptorModelo> : ReglasCatalogo<CBaseReceptorModelo> {
     using M = CBaseReceptorModelo;
     using Base = CBaseReceptores;
 

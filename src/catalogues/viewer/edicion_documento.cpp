@@ -7,7 +7,7 @@ namespace efv::catalogues {
 
 using xml::DocumentoEditable;
 
-CXMLElemento EdicionDocumento::Leer(xml::Elemento elemento) const
+CXMLElemento EdicionDocumento::Leer(xml::NodoXml elemento) const
 {
     CXMLElemento leido(m_documento.Nombre(elemento));
     for (const auto& [nombre, valor] : m_documento.LeerAtributos(elemento))
@@ -15,7 +15,7 @@ CXMLElemento EdicionDocumento::Leer(xml::Elemento elemento) const
     return leido;
 }
 
-void EdicionDocumento::PonerAtributos(xml::Elemento elemento, const DocumentoEditable::Atributos& atributos)
+void EdicionDocumento::PonerAtributos(xml::NodoXml elemento, const DocumentoEditable::Atributos& atributos)
 {
     const auto anteriores = m_documento.LeerAtributos(elemento);
     if (anteriores == atributos)
@@ -26,7 +26,7 @@ void EdicionDocumento::PonerAtributos(xml::Elemento elemento, const DocumentoEdi
     m_deshacer.push_back(std::move(volver));
 }
 
-void EdicionDocumento::Escribir(xml::Elemento elemento, const CXMLElemento& cambiado)
+void EdicionDocumento::Escribir(xml::NodoXml elemento, const CXMLElemento& cambiado)
 {
     DocumentoEditable::Atributos atributos;
     for (const auto& atributo : cambiado.aAtributos)
@@ -34,7 +34,7 @@ void EdicionDocumento::Escribir(xml::Elemento elemento, const CXMLElemento& camb
     PonerAtributos(elemento, atributos);
 }
 
-void EdicionDocumento::PonerAtributo(xml::Elemento elemento, std::wstring_view nombre, const CString& csValor)
+void EdicionDocumento::PonerAtributo(xml::NodoXml elemento, std::wstring_view nombre, const CString& csValor)
 {
     CXMLElemento leido = Leer(elemento);
     leido.AddAtributo(nombre, L"");
@@ -42,24 +42,24 @@ void EdicionDocumento::PonerAtributo(xml::Elemento elemento, std::wstring_view n
     Escribir(elemento, leido);
 }
 
-xml::Elemento EdicionDocumento::Anadir(xml::Elemento padre, std::string_view nombre,
-                                       const DocumentoEditable::Atributos& atributos)
+xml::NodoXml EdicionDocumento::Anadir(xml::NodoXml padre, std::string_view nombre,
+                                      const DocumentoEditable::Atributos& atributos)
 {
     HacerSitio();
-    const xml::Elemento nuevo = m_documento.Anadir(padre, nombre, atributos);
+    const xml::NodoXml nuevo = m_documento.Anadir(padre, nombre, atributos);
     m_deshacer.emplace_back([nuevo](DocumentoEditable& d) { d.Retirar(nuevo); });
     return nuevo;
 }
 
-xml::Elemento EdicionDocumento::Duplicar(xml::Elemento elemento)
+xml::NodoXml EdicionDocumento::Duplicar(xml::NodoXml elemento)
 {
     HacerSitio();
-    const xml::Elemento copia = m_documento.Duplicar(elemento);
+    const xml::NodoXml copia = m_documento.Duplicar(elemento);
     m_deshacer.emplace_back([copia](DocumentoEditable& d) { d.Retirar(copia); });
     return copia;
 }
 
-void EdicionDocumento::Retirar(xml::Elemento elemento)
+void EdicionDocumento::Retirar(xml::NodoXml elemento)
 {
     HacerSitio();
     const auto retirado = std::make_shared<DocumentoEditable::Retirado>();

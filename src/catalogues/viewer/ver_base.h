@@ -7,8 +7,8 @@
 #include <quorvel/catalogues.h>
 #include <quorvel/ui/presentador.h>
 
+#include "catalogues/dialogs/dialogo_modelo.h"
 #include "catalogues/format/elementos_modelo.h"
-#include "catalogues/kinds/dialogo_modelo.h"
 #include "catalogues/viewer/visor.h"
 #include "frame/recursos.h"
 
@@ -47,11 +47,11 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, const AperturaElementos
 {
     PeticionVisor peticion;
     peticion.csRuta = base.csArchivo;
-    peticion.rotulo = Catalogo<M>::Nombres().rotulo;
-    peticion.titulo = Catalogo<M>::Nombres().titulo;
-    peticion.imagen = Catalogo<M>::Nombres().imagen;
+    peticion.rotulo = FormatoCatalogo<M>::Nombres().rotulo;
+    peticion.titulo = FormatoCatalogo<M>::Nombres().titulo;
+    peticion.imagen = FormatoCatalogo<M>::Nombres().imagen;
     peticion.bModificable = !apertura.bSoloLectura;
-    for (const auto& campo : Catalogo<M>::Campos()) {
+    for (const auto& campo : FormatoCatalogo<M>::Campos()) {
         peticion.atributos.push_back(campo.atributo);
         peticion.abNumerico.push_back(EsNumerico(campo));
     }

@@ -17,15 +17,15 @@ namespace efv::xml {
 class DocumentoEditable;
 
 /// Handle of an element of a document; lives as long as the document. Null is none.
-class Elemento {
+class NodoXml {
 public:
-    Elemento() = default;
+    NodoXml() = default;
     explicit operator bool() const { return m_nodo != nullptr; }
-    bool operator==(const Elemento&) const = default;
+    bool operator==(const NodoXml&) const = default;
 
 private:
     friend class DocumentoEditable;
-    explicit Elemento(void* nodo) : m_nodo(nodo) {}
+    explicit NodoXml(void* nodo) : m_nodo(nodo) {}
     void* m_nodo = nullptr;
 };
 
@@ -36,7 +36,7 @@ public:
 
     /// What brings a removed element back to its place.
     struct Retirado {
-        Elemento elemento, padre, siguiente;
+        NodoXml elemento, padre, siguiente;
     };
 
     DocumentoEditable();
@@ -56,24 +56,24 @@ public:
     std::string Texto() const;
 
     /// Top-level elements, as the reading functions give them.
-    std::vector<Elemento> Superiores() const;
-    std::vector<Elemento> Hijos(Elemento padre, std::string_view nombre) const;
-    Elemento Padre(Elemento elemento) const;
-    CString Nombre(Elemento elemento) const;
-    CString Atributo(Elemento elemento, std::string_view nombre) const;
+    std::vector<NodoXml> Superiores() const;
+    std::vector<NodoXml> Hijos(NodoXml padre, std::string_view nombre) const;
+    NodoXml Padre(NodoXml elemento) const;
+    CString Nombre(NodoXml elemento) const;
+    CString Atributo(NodoXml elemento, std::string_view nombre) const;
 
-    Atributos LeerAtributos(Elemento elemento) const;
+    Atributos LeerAtributos(NodoXml elemento) const;
     /// Puts exactly these attributes in place of the element's. A character that no document may hold
     /// becomes U+FFFD.
-    void PonerAtributos(Elemento elemento, const Atributos& atributos);
+    void PonerAtributos(NodoXml elemento, const Atributos& atributos);
 
     /// New element behind the last element child of `padre`, indented like its siblings; the first child
     /// of an empty element is indented like that.
-    Elemento Anadir(Elemento padre, std::string_view nombre, const Atributos& atributos);
+    NodoXml Anadir(NodoXml padre, std::string_view nombre, const Atributos& atributos);
     /// Copy of the element, all it holds included, directly behind it.
-    Elemento Duplicar(Elemento elemento);
+    NodoXml Duplicar(NodoXml elemento);
 
-    Retirado Retirar(Elemento elemento);
+    Retirado Retirar(NodoXml elemento);
     void Reponer(const Retirado& retirado);
 
 private:

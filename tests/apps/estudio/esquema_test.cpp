@@ -119,7 +119,7 @@ TEST_F(Esquemas, SinDisenoNoHayDibujoYSinModeloHayAviso)
     EXPECT_EQ(esquema.acsNotas.size(), 1U);
 }
 
-TEST(Dibujo, LasPiezasDeMasSonPuntos)
+TEST(Lamina, LasPiezasDeMasSonPuntos)
 {
     using V = std::vector<int>;
     EXPECT_EQ(PiezasDibujadas(0, 4), V());
@@ -136,10 +136,10 @@ TEST_F(Esquemas, ElTamanoDelDibujoNoDependeDeLasCantidades)
     enorme.dPotenciaMaxFV = 1e300;
     for (int i = 0; i < 1000; ++i)
         AnadirCarga(enorme, CString(5000, L'x').c_str(), 1e300, 1e300);
-    const Dibujo dibujo = Dibujar(EsquemaDe(enorme));
-    EXPECT_LT(dibujo.trazos.size(), 400U);
-    EXPECT_LT(dibujo.dAncho, 3000.0);
-    EXPECT_LT(dibujo.dAlto, 2000.0);
+    const Lamina lamina = Dibujar(EsquemaDe(enorme));
+    EXPECT_LT(lamina.trazos.size(), 400U);
+    EXPECT_LT(lamina.dAncho, 3000.0);
+    EXPECT_LT(lamina.dAlto, 2000.0);
 }
 
 // Cards don't overlap, and all of them are inside.
@@ -149,15 +149,15 @@ TEST_F(Esquemas, LasTarjetasNoSePisan)
     aislada.bSalidaCA = 1;
     AnadirCarga(aislada, L"Vivienda#Televisor 60 W", 2.0, 3.0);
     AnadirCarga(aislada, L"Vivienda#Frigorífico ICECO VL45 12 V", 1.0, 8.0);
-    for (const Dibujo& dibujo : {Dibujar(EsquemaDe(aislada)), Dibujar(EsquemaDe(DisenoRed(12)))}) {
+    for (const Lamina& lamina : {Dibujar(EsquemaDe(aislada)), Dibujar(EsquemaDe(DisenoRed(12)))}) {
         std::vector<QRectF> tarjetas;
-        for (const Trazo& t : dibujo.trazos)
+        for (const Trazo& t : lamina.trazos)
             if (const auto* caja = std::get_if<trazo::Caja>(&t);
                 caja != nullptr && caja->relleno == Tinta::tarjeta)
                 tarjetas.emplace_back(caja->esquina.x, caja->esquina.y, caja->dAncho, caja->dAlto);
         EXPECT_GE(tarjetas.size(), 5U);
         for (std::size_t i = 0; i < tarjetas.size(); ++i) {
-            EXPECT_TRUE(QRectF(0, 0, dibujo.dAncho, dibujo.dAlto).contains(tarjetas[i]));
+            EXPECT_TRUE(QRectF(0, 0, lamina.dAncho, lamina.dAlto).contains(tarjetas[i]));
             for (std::size_t j = 0; j < i; ++j)
                 EXPECT_FALSE(tarjetas[i].intersects(tarjetas[j]));
         }
@@ -169,9 +169,9 @@ TEST_F(Esquemas, SeGuardaComoImagenDibujoODocumento)
     const CarpetaTemporal carpeta;
     CSFVAsistenteRed diseno = DisenoRed(2);
     diseno.csPanel = L"Nadie#<Panel> & \"Co\"";
-    const Dibujo dibujo = Dibujar(EsquemaDe(diseno));
+    const Lamina lamina = Dibujar(EsquemaDe(diseno));
     const auto guardado = [&](const char* nombre) {
-        GuardarDibujo(dibujo, CadenaDesdeUtf8((carpeta.Ruta() / nombre).string()));
+        GuardarLamina(lamina, CadenaDesdeUtf8((carpeta.Ruta() / nombre).string()));
         std::ifstream fichero(carpeta.Ruta() / nombre, std::ios::binary);
         return std::string(std::istreambuf_iterator<char>(fichero), {});
     };

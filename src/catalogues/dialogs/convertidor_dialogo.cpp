@@ -1,6 +1,6 @@
 // Dialog of a DC/DC converter's data sheet.
+#include "catalogues/dialogs/dialogo_modelo.h"
 #include "catalogues/kinds/convertidor.h"
-#include "catalogues/kinds/dialogo_modelo.h"
 
 namespace {
 

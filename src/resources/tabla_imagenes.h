@@ -1,5 +1,5 @@
 // The pictures of buttons and rows by name, as figures that whoever shows a dialog draws (see
-// quorvel/ui/dibujo.h).
+// quorvel/ui/figuras.h).
 #pragma once
 
 #include <array>
@@ -7,12 +7,12 @@
 
 namespace efv::recursos {
 
-struct Dibujo {
+struct Imagen {
     std::wstring_view nombre;
     std::string_view figuras;
 };
 
-inline constexpr auto kDibujos = std::to_array<Dibujo>({
+inline constexpr auto kImagenes = std::to_array<Imagen>({
     // Curves of a module: at each temperature, at each irradiance
     {L"curvas-t",
      "M 2 1 L 2 14 L 15 14;"

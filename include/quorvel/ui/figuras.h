@@ -11,6 +11,6 @@ namespace efv::ui {
 /// are separated by ';'. A figure may begin with its colour, "#RRGGBB", else it has that of the text, and
 /// then with "relleno" when it is filled. "M x y" moves, "L x y" draws a line, "O radius x y" a circle, "Z"
 /// closes; all words are separated by one blank.
-EFV_API std::string_view DibujoDe(std::wstring_view nombre);
+EFV_API std::string_view FigurasDe(std::wstring_view nombre);
 
 }  // namespace efv::ui

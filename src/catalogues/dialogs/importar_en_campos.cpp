@@ -1,4 +1,4 @@
-#include "catalogues/kinds/importar_en_campos.h"
+#include "catalogues/dialogs/importar_en_campos.h"
 
 #include <limits>
 #include <utility>

@@ -50,16 +50,16 @@ struct Texto {
 
 using Trazo = std::variant<trazo::Linea, trazo::Caja, trazo::Circulo, trazo::Texto>;
 
-struct Dibujo {
+struct Lamina {
     double dAncho = 0.0, dAlto = 0.0;
     std::vector<Trazo> trazos;
-    bool operator==(const Dibujo&) const = default;
+    bool operator==(const Lamina&) const = default;
 };
 
 /// Pieces of a row of `n` that are drawn, by number from 1; 0 stands for those left out.
 std::vector<int> PiezasDibujadas(int n, int nMaximo);
 
 /// Lays the elements out. Its size and the number of strokes are bounded whatever the counts of the design.
-Dibujo Dibujar(const Esquema& esquema);
+Lamina Dibujar(const Esquema& esquema);
 
 }  // namespace efv::estudio

@@ -1,5 +1,5 @@
 // Dialog of a load's data sheet.
-#include "catalogues/kinds/dialogo_modelo.h"
+#include "catalogues/dialogs/dialogo_modelo.h"
 #include "catalogues/kinds/receptor.h"
 
 namespace {

@@ -3,8 +3,8 @@
 #include <fmt/format.h>
 #include <fmt/xchar.h>
 
+#include "catalogues/dialogs/inversores_dialogo.h"
 #include "catalogues/kinds/inversor.h"
-#include "catalogues/kinds/inversores_dialogo.h"
 #include "platform/numero/conversion.h"
 
 namespace {

@@ -10,14 +10,14 @@
 
 #include "catalogues/format/campos.h"
 #include "catalogues/kinds/ordenes.h"
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 /// A model's fields in dialogs are named by its catalogue's table.
 template <std::derived_from<CModelo> M>
 struct efv::ui::CamposDe<M> {
     static constexpr std::string_view Nombre(const Miembro<M>& miembro)
     {
-        const auto* fila = FilaDeMiembro(efv::catalogues::Catalogo<M>::kCampos, miembro);
+        const auto* fila = FilaDeMiembro(efv::catalogues::FormatoCatalogo<M>::kCampos, miembro);
         return fila != nullptr ? std::string_view(fila->atributo) : std::string_view();
     }
 };

@@ -91,14 +91,14 @@ protected:
 
     /// Adds the controls of rows, all of them at the same place.
     template <std::size_t N>
-    void Anadir(const std::array<Campo<P>, N>& campos, const Lugar& lugar = {})
+    void Anadir(const std::array<Campo<P>, N>& campos, const Colocacion& colocacion = {})
     {
-        m_campos.Anadir(*this, campos, lugar);
+        m_campos.Anadir(*this, campos, colocacion);
     }
     template <std::size_t N>
-    void Anadir(Pagina& pagina, const std::array<Campo<P>, N>& campos, const Lugar& lugar = {})
+    void Anadir(Pagina& pagina, const std::array<Campo<P>, N>& campos, const Colocacion& colocacion = {})
     {
-        m_campos.Anadir(pagina, campos, lugar);
+        m_campos.Anadir(pagina, campos, colocacion);
     }
     using Dialogo::Anadir;
 

@@ -4,8 +4,8 @@
 #include <fmt/format.h>
 #include <fmt/xchar.h>
 
+#include "catalogues/dialogs/dialogo_modelo.h"
 #include "catalogues/kinds/acumulador.h"
-#include "catalogues/kinds/dialogo_modelo.h"
 #include "platform/numero/conversion.h"
 
 namespace {

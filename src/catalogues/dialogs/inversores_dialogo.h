@@ -1,9 +1,9 @@
 // What the dialogs of inverters and of micro-inverters share: rows of their pages, the OND import.
 #pragma once
 
+#include "catalogues/dialogs/dialogo_modelo.h"
+#include "catalogues/dialogs/importar_en_campos.h"
 #include "catalogues/import/importar_ond.h"
-#include "catalogues/kinds/dialogo_modelo.h"
-#include "catalogues/kinds/importar_en_campos.h"
 #include "catalogues/kinds/inversores_comun.h"
 
 namespace efv::catalogues {

@@ -1,4 +1,4 @@
-#include "esquema/dibujo.h"
+#include "esquema/lamina.h"
 
 #include <algorithm>
 #include <map>
@@ -204,7 +204,7 @@ class Delineante {
 public:
     explicit Delineante(const Esquema& esquema) : m_esquema(esquema) { Repartir(); }
 
-    Dibujo Dibujar()
+    Lamina Dibujar()
     {
         using trazo::Texto;
         Escribir({{kMargen, kMargen + kCabecera},
@@ -217,19 +217,19 @@ public:
             Conectar(conexion);
         for (std::size_t i = 0; i < m_tarjetas.size(); ++i)
             PintarTarjeta(m_esquema.elementos[i], m_tarjetas[i]);
-        double y = m_dibujo.dAlto;
+        double y = m_lamina.dAlto;
         for (const CString& csNota : m_esquema.acsNotas) {
             Escribir({{kMargen, y}, csNota, kLetra, Tinta::aviso});
             y += kRenglon;
-            m_dibujo.dAncho = std::max(m_dibujo.dAncho,
+            m_lamina.dAncho = std::max(m_lamina.dAncho,
                                        2 * kMargen + static_cast<double>(csNota.size()) * kLetra * kAnchoLetra);
         }
-        m_dibujo.dAlto = y + (m_esquema.acsNotas.empty() ? 0.0 : kMargen / 2);
-        return std::move(m_dibujo);
+        m_lamina.dAlto = y + (m_esquema.acsNotas.empty() ? 0.0 : kMargen / 2);
+        return std::move(m_lamina);
     }
 
 private:
-    void Escribir(trazo::Texto texto) { m_dibujo.trazos.emplace_back(std::move(texto)); }
+    void Escribir(trazo::Texto texto) { m_lamina.trazos.emplace_back(std::move(texto)); }
 
     // Columns as wide, rows as high as their largest card.
     void Repartir()
@@ -247,8 +247,8 @@ private:
             y = (ys[iFila] = y) + dAlto + kHuecoFilas;
         for (const Elemento& e : m_esquema.elementos)
             m_tarjetas.push_back({xs[e.iColumna], ys[e.iFila], anchos[e.iColumna], AltoDe(e)});
-        m_dibujo.dAncho = x - kHueco + kMargen;
-        m_dibujo.dAlto = y - kHuecoFilas + kMargen;
+        m_lamina.dAncho = x - kHueco + kMargen;
+        m_lamina.dAlto = y - kHuecoFilas + kMargen;
     }
 
     void PintarTarjeta(const Elemento& elemento, const Tarjeta& t)
@@ -257,7 +257,7 @@ private:
         const double dCentro = t.x + t.dAncho / 2;
         if (elemento.clase == Clase::puntos) {
             for (const double d : {-10.0, 0.0, 10.0})
-                m_dibujo.trazos.emplace_back(
+                m_lamina.trazos.emplace_back(
                     trazo::Circulo{{dCentro + d, t.y + 6}, 2.0, Tinta::linea, Tinta::linea});
             return Escribir({{dCentro, t.y + 6 + kRenglon + 4},
                              elemento.csTitulo,
@@ -266,9 +266,9 @@ private:
                              Texto::Lado::centro});
         }
         const double dSimbolo = AltoRejilla(elemento);
-        m_dibujo.trazos.emplace_back(trazo::Caja{
+        m_lamina.trazos.emplace_back(trazo::Caja{
             {t.x, t.y}, t.dAncho, t.dAlto, elemento.bFalta ? Tinta::aviso : Tinta::tenue, Tinta::tarjeta, 6.0});
-        Simbolos(m_dibujo.trazos, t, dSimbolo).Pintar(elemento);
+        Simbolos(m_lamina.trazos, t, dSimbolo).Pintar(elemento);
         double y = t.y + kAlmohada + dSimbolo + 8.0 + kTitulo;
         Escribir({{dCentro, y}, Acortar(elemento.csTitulo), kTitulo, Tinta::texto, Texto::Lado::centro, true});
         for (const CString& cs : elemento.acsDatos)
@@ -288,7 +288,7 @@ private:
         const Tinta tinta = conexion.bAlterna ? Tinta::alterna : Tinta::linea;
         if (desde.x == hasta.x) {
             const double x = desde.x + desde.dAncho / 2;
-            m_dibujo.trazos.emplace_back(trazo::Linea{{{x, desde.y + desde.dAlto}, {x, hasta.y}}, tinta, 2.0});
+            m_lamina.trazos.emplace_back(trazo::Linea{{{x, desde.y + desde.dAlto}, {x, hasta.y}}, tinta, 2.0});
             return Escribir({{x + 8, (desde.y + desde.dAlto + hasta.y) / 2 + 4},
                              conexion.csRotulo,
                              kLetraPequena,
@@ -297,7 +297,7 @@ private:
         const Punto a = desde.Derecha(), b = hasta.Izquierda();
         const bool bJuntan = SeJuntan(conexion.nHasta);
         const double xCodo = bJuntan ? b.x - kCodo : a.x + kCodo;
-        m_dibujo.trazos.emplace_back(trazo::Linea{{a, {xCodo, a.y}, {xCodo, b.y}, b}, tinta, 2.0});
+        m_lamina.trazos.emplace_back(trazo::Linea{{a, {xCodo, a.y}, {xCodo, b.y}, b}, tinta, 2.0});
         // On the long side of the elbow.
         const Punto centro = bJuntan ? Punto{(a.x + xCodo) / 2, a.y} : Punto{(xCodo + b.x) / 2, b.y};
         using Lado = trazo::Texto::Lado;
@@ -312,7 +312,7 @@ private:
 
     const Esquema& m_esquema;
     std::vector<Tarjeta> m_tarjetas;
-    Dibujo m_dibujo;
+    Lamina m_lamina;
 };
 
 }  // namespace
@@ -329,9 +329,9 @@ std::vector<int> PiezasDibujadas(int n, int nMaximo)
     return piezas;
 }
 
-Dibujo Dibujar(const Esquema& esquema)
+Lamina Dibujar(const Esquema& esquema)
 {
-    return esquema.elementos.empty() ? Dibujo{} : Delineante(esquema).Dibujar();
+    return esquema.elementos.empty() ? Lamina{} : Delineante(esquema).Dibujar();
 }
 
 }  // namespace efv::estudio

@@ -8,10 +8,10 @@
 
 #include <quorvel/tipos_catalogo.h>
 
+#include "catalogues/dialogs/dialogo_modelo.h"
 #include "catalogues/format/anadir_modelos.h"
 #include "catalogues/format/campos.h"
 #include "catalogues/format/elementos_modelo.h"
-#include "catalogues/kinds/dialogo_modelo.h"
 #include "frame/recursos.h"
 
 namespace efv::catalogues {
@@ -22,7 +22,7 @@ public:
     explicit TipoDe(std::string_view nombre, OrdenesModelo<M> ordenes = {})
         : m_nombre(nombre), m_ordenes(std::move(ordenes))
     {
-        for (const auto& campo : Catalogo<M>::Campos()) {
+        for (const auto& campo : FormatoCatalogo<M>::Campos()) {
             M modelo;
             AlMiembro(modelo, campo, [&](const auto& valor) {
                 m_campos.push_back({campo.atributo, campo.columna, ClaseDe(valor)});
@@ -32,17 +32,17 @@ public:
     }
 
     std::string_view Nombre() const override { return m_nombre; }
-    std::wstring_view Titulo() const override { return Catalogo<M>::Nombres().titulo; }
+    std::wstring_view Titulo() const override { return FormatoCatalogo<M>::Nombres().titulo; }
     CString Fichero() const override
     {
         const frame::AmbitoRecursos ambito;
-        return frame::FormatearCadena(Catalogo<M>::Nombres().iCadenaFichero, L"");
+        return frame::FormatearCadena(FormatoCatalogo<M>::Nombres().iCadenaFichero, L"");
     }
     std::span<const CampoCatalogo> Campos() const override { return m_campos; }
 
     std::unique_ptr<CBaseXML> CrearBase() const override
     {
-        return std::make_unique<typename Catalogo<M>::Base>();
+        return std::make_unique<typename FormatoCatalogo<M>::Base>();
     }
 
     std::vector<const CModelo*> Modelos(const CBaseXML& base) const override
@@ -58,7 +58,7 @@ public:
     {
         auto modelo = std::make_unique<M>();
         Anular(*modelo);
-        Catalogo<M>::Preparar(*modelo);
+        FormatoCatalogo<M>::Preparar(*modelo);
         return modelo;
     }
 

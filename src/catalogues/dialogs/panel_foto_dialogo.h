@@ -6,7 +6,7 @@
 #include <quorvel/catalogues.h>
 
 #include "catalogues/kinds/ordenes.h"
-#include "ui/filas.h"
+#include "ui/ficha.h"
 
 class CDlgItemDatosPanelFoto : public efv::ui::DialogoFicha<CBasePanelFotoModelo> {
 public:

@@ -1,9 +1,9 @@
-#include "catalogues/kinds/panel_foto_dialogo.h"
+#include "catalogues/dialogs/panel_foto_dialogo.h"
 
+#include "catalogues/dialogs/dialogo_modelo.h"
+#include "catalogues/dialogs/importar_en_campos.h"
 #include "catalogues/import/importacion.h"
 #include "catalogues/import/panel_foto_pan.h"
-#include "catalogues/kinds/dialogo_modelo.h"
-#include "catalogues/kinds/importar_en_campos.h"
 #include "catalogues/kinds/panel_foto.h"
 #include "platform/numero/conversion.h"
 #include "ui/intercambio.h"
@@ -46,9 +46,9 @@ constexpr auto kFisicos = ui::Campos<P>({
     {&P::iNs, L"Número de células por ramal:", {1, 1000}},
 });
 
-const ui::Lugar kLugarElectricos{.grupo = L"Características eléctricas"};
-const ui::Lugar kLugarTermicos{.grupo = L"Coeficientes de temperatura"};
-const ui::Lugar kLugarFisicos{.grupo = L"Características físicas", .iColumna = 1};
+const ui::Colocacion kZonaElectricos{.grupo = L"Características eléctricas"};
+const ui::Colocacion kZonaTermicos{.grupo = L"Coeficientes de temperatura"};
+const ui::Colocacion kZonaFisicos{.grupo = L"Características físicas", .iColumna = 1};
 
 constexpr auto kComprobaciones = std::to_array<ui::Comprobacion<P>>({
     {efv::catalogues::kCampoModelo<P>, ui::Vacio<&P::csModelo>,
@@ -74,12 +74,12 @@ CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectu
       m_coeficientes{{{&P::dCTVoc, &P::dVoc}, {&P::dCTIsc, &P::dIsc}, {&P::dCTPmpm, &P::dPmpm}}}
 {
     Anadir(kGenerales);
-    Anadir(kElectricos, kLugarElectricos);
+    Anadir(kElectricos, kZonaElectricos);
     AnadirCoeficiente(m_coeficientes[0], L"Coeficiente de Tª de Voc:    (mV/ºC):", "iUnidadVoc", L"mV/ºC");
     AnadirCoeficiente(m_coeficientes[1], L"Coeficiente de Tª de Isc:     (mA/ºC)", "iUnidadIsc", L"mA/ºC");
     AnadirCoeficiente(m_coeficientes[2], L"Coeficiente de Tª a Pmpm:    (mW/ºC):", "iUnidadPmpm", L"mW/ºC");
-    Anadir(kTermicos, kLugarTermicos);
-    Anadir(kFisicos, kLugarFisicos);
+    Anadir(kTermicos, kZonaTermicos);
+    Anadir(kFisicos, kZonaFisicos);
     AnadirBotones();
     Volcar();
     for (const Coeficiente& coeficiente : m_coeficientes)
@@ -97,7 +97,7 @@ void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, std::ws
     campo.destino = &(datos.*coeficiente.valor);
     campo.iDecimales = 3;
     campo.intercambio = ui::Intercambio::aMano;
-    campo.lugar = kLugarTermicos;
+    campo.colocacion = kZonaTermicos;
     campo.alCambiar = [&coeficiente] { coeficiente.bTecleado = true; };
     campo.alSalir = [this, &coeficiente] {
         if (coeficiente.bTecleado)
@@ -108,7 +108,7 @@ void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, std::ws
     auto& unidad = Anadir<ui::Seleccion>(nombreUnidad, L"", ui::Seleccion::Forma::combo);
     unidad.acsEntradas = {CString(unidadAbsoluta), L"%/ºC"};
     unidad.iSeleccion = coeficiente.iUnidad;
-    unidad.lugar = ui::JuntoA(campo);
+    unidad.colocacion = ui::JuntoA(campo);
     unidad.alElegir = [this, &coeficiente] { AlCambiarUnidad(coeficiente); };
     coeficiente.unidad = &unidad;
 }
@@ -200,4 +200,11 @@ void CDlgItemDatosPanelFoto::AlImportar()
         coeficiente.bTecleado = false;
         Escribir(coeficiente);
     }
+}
+
+template <>
+std::unique_ptr<ui::DialogoFicha<P>> efv::catalogues::CrearDialogo(const P& modelo, bool bSoloLectura,
+                                                                   const OrdenesModelo<P>& ordenes)
+{
+    return std::make_unique<CDlgItemDatosPanelFoto>(modelo, bSoloLectura, ordenes);
 }

@@ -1,5 +1,5 @@
 // Dialog of a micro-inverter's data sheet.
-#include "catalogues/kinds/inversores_dialogo.h"
+#include "catalogues/dialogs/inversores_dialogo.h"
 #include "catalogues/kinds/micro_inversor.h"
 
 namespace {
