@@ -158,3 +158,11 @@ EFV_API int phCalcularViabilidadEconomicaRed2(const double (&adHorizontal)[12], 
 /// @return 1
 EFV_API int phCalcularViabilidadEconomicaRed3(const double (&adHorizontal)[12], const double (&adInclinada)[12],
                                               const double (&adEnergia)[12], CObject* estudio);
+
+/// Opens the study's dialog. The years in its table follow one another through their texts, so that the tables
+/// of an accepted study hold rounded amounts, and each amount on screen comes back as it is written there.
+/// @param estudio on acceptance its fields and the nine yearly tables are taken back; the monthly ones stay
+/// @param adMesA,adMesB,dDato without effect
+/// @return 1 when accepted, else 0 with the study as it was
+EFV_API int phViabilidadEconomicaRed(CSFVCalculoEconomico& estudio, const double (&adMesA)[12],
+                                     const double (&adMesB)[12], double dDato);

@@ -6,10 +6,12 @@
 #include <array>
 #include <cstddef>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include <quorvel/economics.h>
 #include <quorvel/exportar.h>
+#include <quorvel/ui/grafica.h>
 
 namespace efv::economics {
 
@@ -53,6 +55,28 @@ EFV_API void ComprobarAnos(const CSFVCalculoEconomico& estudio);
 /// accumulated of year y > 0 follow from entry y - 1 counted from the start of the arrays.
 /// @throws CInvalidArgException above 100,000 years, before anything changes
 EFV_API void CalcularAnos(CSFVCalculoEconomico& estudio);
+
+/// One row of the table of years as it is shown: year, energy, price, income, accumulated income, repayment,
+/// maintenance, cash flow, accumulated. The price has five decimals, the other amounts two.
+inline constexpr std::size_t kColumnasVenta = 9;
+using FilaVenta = std::array<CString, kColumnasVenta>;
+EFV_API std::span<const std::wstring_view, kColumnasVenta> TitulosVenta();
+/// The years as a table of texts: energy, price and accumulated of a year follow from the text of the year
+/// before, and the yearly arrays, emptied first, are read from the texts. Total and mean repayment don't round.
+/// @throws CInvalidArgException above 100,000 years, before anything changes
+EFV_API std::vector<FilaVenta> CalcularAnosPorTexto(CSFVCalculoEconomico& estudio);
+/// The texts of a record's years as they stand.
+EFV_API std::vector<FilaVenta> FilasVenta(const CSFVCalculoEconomico& estudio);
+
+/// What a chart of the years can show.
+enum class SerieVenta : int { energia, prima, ingresos, mantenimiento, cashFlow };
+inline constexpr std::size_t kSeriesVenta = 5;
+EFV_API std::span<const std::wstring_view, kSeriesVenta> NombresSeriesVenta();
+/// A bar a year from a central line: the scale reaches as far below 0 as above it. The second series of the
+/// chart, which isn't drawn, fixes it.
+EFV_API CCtrlCurva2D GraficaVenta(const CSFVCalculoEconomico& estudio, SerieVenta serie);
+/// The accumulated cash flow, year by year.
+EFV_API CCtrlCurva2D GraficaAcumulado(const CSFVCalculoEconomico& estudio);
 
 /// Searches the rate of the eligible cost followed by the record's cash flows; a cost of 0 or below leaves the
 /// rate as it is.

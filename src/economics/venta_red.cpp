@@ -4,6 +4,7 @@
 #include <quorvel/economics_calculo.h>
 #include <quorvel/framework/CException.h>
 
+#include "economics/ano_venta.h"
 #include "platform/numero/tolerancia.h"
 
 namespace efv::economics {
@@ -52,31 +53,40 @@ void ComprobarAnos(const CSFVCalculoEconomico& e)
         throw CInvalidArgException("años de estudio");
 }
 
+AnoVenta CalcularAno(const CSFVCalculoEconomico& e, int iAno, const AnoAnterior* anterior)
+{
+    AnoVenta ano{};
+    ano.dEnergia =
+        anterior == nullptr ? e.dEnergiaResultante : anterior->dEnergia * (1.0 - e.dEnvejecimiento / 100.0);
+    ano.dPrima = anterior == nullptr ? PrimaInicial(e) : anterior->dPrima * (e.dVariacionCoste / 100.0 + 1.0);
+    ano.dIngresos = ano.dEnergia * ano.dPrima;
+    ano.dCuota =
+        CuotaAnual(e.iTipoAmortizacion, e.dTotalPrestamos, e.dTipoInteres / 100.0, e.dAniosPrestamo, iAno);
+    ano.dMantenimiento = ano.dIngresos * e.dCosteMantenimiento / 100.0;
+    ano.dCashFlow = ano.dIngresos - ano.dCuota - ano.dMantenimiento;
+    ano.dAcumulado = anterior == nullptr ? ano.dCashFlow : ano.dCashFlow + anterior->dAcumulado;
+    return ano;
+}
+
 void CalcularAnos(CSFVCalculoEconomico& e)
 {
     ComprobarAnos(e);
     double dIngresosAcumulados = 0.0;
     for (int y = 0; y < e.dAniosEstudio; ++y) {
-        const double dEnergia =
-            y == 0 ? e.dEnergiaResultante : e.aEnergia[y - 1] * (1.0 - e.dEnvejecimiento / 100.0);
-        const double dPrima = y == 0 ? PrimaInicial(e) : e.aPrima[y - 1] * (e.dVariacionCoste / 100.0 + 1.0);
-        const double dIngresos = dEnergia * dPrima;
-        dIngresosAcumulados += dIngresos;
-        const double dCuota =
-            CuotaAnual(e.iTipoAmortizacion, e.dTotalPrestamos, e.dTipoInteres / 100.0, e.dAniosPrestamo, y);
-        e.dTotalPagar += dCuota;
-        const double dMantenimiento = dIngresos * e.dCosteMantenimiento / 100.0;
-        const double dCashFlow = dIngresos - dCuota - dMantenimiento;
-        const double dAcumulado = y == 0 ? dCashFlow : dCashFlow + e.aAcumulado[y - 1];
+        const AnoAnterior anterior =
+            y == 0 ? AnoAnterior{} : AnoAnterior{e.aEnergia[y - 1], e.aPrima[y - 1], e.aAcumulado[y - 1]};
+        const AnoVenta ano = CalcularAno(e, y, y == 0 ? nullptr : &anterior);
+        dIngresosAcumulados += ano.dIngresos;
+        e.dTotalPagar += ano.dCuota;
         e.aAnio.Add(y + 1);
-        e.aEnergia.Add(dEnergia);
-        e.aPrima.Add(dPrima);
-        e.aIngresos.Add(dIngresos);
+        e.aEnergia.Add(ano.dEnergia);
+        e.aPrima.Add(ano.dPrima);
+        e.aIngresos.Add(ano.dIngresos);
         e.aIngresosAcumulados.Add(dIngresosAcumulados);
-        e.aCapitalInteres.Add(dCuota);
-        e.aMantenimiento.Add(dMantenimiento);
-        e.aCashFlow.Add(dCashFlow);
-        e.aAcumulado.Add(dAcumulado);
+        e.aCapitalInteres.Add(ano.dCuota);
+        e.aMantenimiento.Add(ano.dMantenimiento);
+        e.aCashFlow.Add(ano.dCashFlow);
+        e.aAcumulado.Add(ano.dAcumulado);
     }
     e.dCuotaAnual = e.dTotalPagar / e.dAniosPrestamo;
 }

@@ -1,9 +1,11 @@
 // Exported functions of the economic studies.
 #include <array>
+#include <utility>
 
 #include <quorvel/economics.h>
 #include <quorvel/economics_calculo.h>
 
+#include "economics/venta_dialogo.h"
 #include "frame/recursos.h"
 #include "module/singletons.h"
 #include "solar/energia.h"
@@ -74,4 +76,19 @@ int phCalcularViabilidadEconomicaRed3(const double (&adHorizontal)[12], const do
     return Estudiar(estudio, [&](const CSFVCalculoEconomico& e) {
         return ec::MesesPorEnergia(e, adHorizontal, adInclinada, adEnergia);
     });
+}
+
+int phViabilidadEconomicaRed(CSFVCalculoEconomico& estudio, const double (&/*adMesA*/)[12],
+                             const double (&/*adMesB*/)[12], double /*dDato*/)
+{
+    const AmbitoRecursos ambito;
+    CDlgCalculoEconomicoRed dialogo(estudio);
+    if (dialogo.Mostrar() != efv::ui::Dialogo::ok)
+        return 0;
+    CSFVCalculoEconomico& editado = dialogo.datos;
+    for (auto meses : {&CSFVCalculoEconomico::aRadHorizontal, &CSFVCalculoEconomico::aRadInclinada,
+                       &CSFVCalculoEconomico::aEnergiaDia, &CSFVCalculoEconomico::aEnergiaMes})
+        editado.*meses = std::move(estudio.*meses);
+    estudio = std::move(editado);
+    return 1;
 }

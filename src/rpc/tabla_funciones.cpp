@@ -131,6 +131,7 @@ constexpr auto kFunciones = std::to_array<Funcion>({
                                  "adHorizontal, adInclinada, adSinUso, estudio"),
     Funcion::De<&ViabilidadRed3>("phCalcularViabilidadEconomicaRed3",
                                  "adHorizontal, adInclinada, adEnergia, estudio"),
+    Funcion::De<&phViabilidadEconomicaRed>("phViabilidadEconomicaRed", "estudio, adMesA, adMesB, dDato"),
 
     // Module curves
     Funcion::De<&phCalcValoresTipicos>(

@@ -36,6 +36,39 @@ inline std::vector<Vector> LeerVectoresEconomia(const std::string& tipo)
     return vectores;
 }
 
+/// The study that a row of sale says.
+inline CSFVCalculoEconomico EstudioDe(const Vector& v)
+{
+    using R = CSFVCalculoEconomico;
+    static const std::map<std::string, double R::*> kDobles = {
+        {"dPerformanceRatio", &R::dPerformanceRatio},
+        {"dEnergiaBase", &R::dEnergiaBase},
+        {"dFactorMejora", &R::dFactorMejora},
+        {"dPrimaFija", &R::dPrimaFija},
+        {"dPrimaVariableA", &R::dPrimaVariableA},
+        {"dPrimaVariableB", &R::dPrimaVariableB},
+        {"dRepercusion", &R::dRepercusion},
+        {"dPotenciaGenerador", &R::dPotenciaGenerador},
+        {"dCosteInstalacion", &R::dCosteInstalacion},
+        {"dSubvencionCCAA", &R::dSubvencionCCAA},
+        {"dAmortizacionIDAE", &R::dAmortizacionIDAE},
+        {"dBonificacionICO", &R::dBonificacionICO},
+        {"dAportacionInicial", &R::dAportacionInicial},
+        {"dTipoInteres", &R::dTipoInteres},
+        {"dAniosPrestamo", &R::dAniosPrestamo},
+        {"dAniosEstudio", &R::dAniosEstudio},
+        {"dEnvejecimiento", &R::dEnvejecimiento},
+        {"dVariacionCoste", &R::dVariacionCoste},
+        {"dCosteMantenimiento", &R::dCosteMantenimiento}};
+    R e;
+    for (const auto& [nombre, campo] : kDobles)
+        e.*campo = v[nombre.c_str()];
+    e.iTipoPrima = static_cast<int>(v["iTipoPrima"]);
+    e.iTipoCoste = static_cast<int>(v["iTipoCoste"]);
+    e.iTipoAmortizacion = static_cast<int>(v["iTipoAmortizacion"]);
+    return e;
+}
+
 /// The pseudo-random hours of vectores.py.
 inline std::vector<double> Bloque(int a, int b, double dEscala)
 {

@@ -4,7 +4,7 @@
     python3 tests/economics/vectores.py > tests/economics/vectores.csv
 
 Rows: kind, name=value of the inputs, "->", name=value of the results. Kinds: venta (a study of sale to the
-grid), auto (a balance of self-consumption with its amortisation). The hourly blocks of `auto` are those of
+grid), tabla (the same by the texts of its table), auto (a balance of self-consumption with its amortisation). The hourly blocks of `auto` are those of
 `bloque` below, which the test makes by the same rule.
 """
 import math
@@ -53,8 +53,8 @@ def tasa(desembolso, flujos):
     return 100 * a
 
 
-def venta(rnd):
-    e = dict(dPerformanceRatio=rnd.choice([80.0, 72.5]), dEnergiaBase=round(rnd.uniform(1000, 90000), 1),
+def caso_venta(rnd):
+    return dict(dPerformanceRatio=rnd.choice([80.0, 72.5]), dEnergiaBase=round(rnd.uniform(1000, 90000), 1),
              dFactorMejora=rnd.choice([0.0, 3.5, -2.0]), dPrimaFija=0.455134, dPrimaVariableA=0.1,
              dPrimaVariableB=round(rnd.uniform(0, 0.3), 6), iTipoPrima=rnd.randrange(2), iTipoCoste=rnd.randrange(2),
              dRepercusion=round(rnd.uniform(2, 9), 2), dPotenciaGenerador=round(rnd.uniform(1000, 50000), 1),
@@ -64,6 +64,10 @@ def venta(rnd):
              dAniosPrestamo=rnd.choice([15.0, 10.0, 9.5]), dAniosEstudio=rnd.choice([25.0, 25.5, 8.0]),
              iTipoAmortizacion=rnd.randrange(3), dEnvejecimiento=0.5, dVariacionCoste=rnd.choice([0.25, 2.0]),
              dCosteMantenimiento=2.0)
+
+
+def venta(rnd):
+    e = caso_venta(rnd)
     prima = e["dPrimaFija"] if e["iTipoPrima"] == 0 else e["dPrimaVariableA"] + e["dPrimaVariableB"]
     energia = e["dEnergiaBase"] * e["dPerformanceRatio"] * (100 + e["dFactorMejora"]) / 1e4
     coste = e["dRepercusion"] * e["dPotenciaGenerador"] if e["iTipoCoste"] == 0 else e["dCosteInstalacion"]
@@ -149,12 +153,46 @@ def auto(rnd, bateria):
         descarga=math.fsum(descarga[i] for _, i in horas()) if bateria else 0.0, ahorroNeto=base - con))
 
 
+def tabla(rnd):
+    """The dialog's years: every field goes through its text, and each year starts from the texts of the one
+    before. Operations in the order in which the formulas are stated, since a cent decides."""
+    decimales = dict(dPrimaFija=5, dPrimaVariableA=6, dPrimaVariableB=6)
+    e = caso_venta(rnd)
+    e["dAniosEstudio"] = max(e["dAniosEstudio"], e["dAniosPrestamo"])
+    t = {k: v if k == "dEnergiaBase" or isinstance(v, int) else float(f"{v:.{decimales.get(k, 2)}f}")
+         for k, v in e.items()}
+    prima = t["dPrimaFija"] if t["iTipoPrima"] == 0 else t["dPrimaVariableA"] + t["dPrimaVariableB"]
+    energia = (t["dFactorMejora"] / 100 + 1) * (t["dPerformanceRatio"] / 100 * t["dEnergiaBase"])
+    coste = t["dRepercusion"] * t["dPotenciaGenerador"] if t["iTipoCoste"] == 0 else t["dCosteInstalacion"]
+    base = coste - t["dAportacionInicial"] - coste * t["dSubvencionCCAA"] / 100
+    prestado = base - coste * t["dAmortizacionIDAE"] / 100 - base * t["dBonificacionICO"] / 6000
+    filas, ingresos = [], 0.0
+    y = 0
+    while y < t["dAniosEstudio"]:
+        en = energia if y == 0 else filas[-1][0] * (1 - t["dEnvejecimiento"] / 100)
+        pr = prima if y == 0 else filas[-1][1] * (t["dVariacionCoste"] / 100 + 1)
+        ing = en * pr
+        ingresos += ing
+        cuota = prestamo(t["iTipoAmortizacion"], prestado, t["dTipoInteres"] / 100, t["dAniosPrestamo"], y)
+        mant = ing * t["dCosteMantenimiento"] / 100
+        cash = ing - cuota - mant
+        acum = cash + (filas[-1][7] if y else 0.0)
+        filas.append([float(f"{en:.2f}"), float(f"{pr:.5f}")] +
+                     [float(f"{v:.2f}") for v in (ing, ingresos, cuota, mant, cash, acum)])
+        y += 1
+    nombres = ["energia", "prima", "ingresos", "ingresosAcumulados", "cuota", "mantenimiento", "cashFlow", "acumulado"]
+    linea("tabla", e, dict(zip(nombres, filas[-1]), filas=len(filas), dTIR=tasa(coste, [f[6] for f in filas]),
+                           dPrimaFija=t["dPrimaFija"]))
+
+
 def main():
     rnd = random.Random(14)
     for _ in range(40):
         venta(rnd)
     for i in range(24):
         auto(rnd, i % 2 == 1)
+    for _ in range(20):
+        tabla(rnd)
 
 
 main()

@@ -13,40 +13,8 @@
 namespace {
 
 using namespace efv::economics;
+using efv::pruebas::EstudioDe;
 using efv::pruebas::LeerVectoresEconomia;
-using efv::pruebas::Vector;
-
-CSFVCalculoEconomico Estudio(const Vector& v)
-{
-    using R = CSFVCalculoEconomico;
-    static const std::map<std::string, double R::*> kDobles = {
-        {"dPerformanceRatio", &R::dPerformanceRatio},
-        {"dEnergiaBase", &R::dEnergiaBase},
-        {"dFactorMejora", &R::dFactorMejora},
-        {"dPrimaFija", &R::dPrimaFija},
-        {"dPrimaVariableA", &R::dPrimaVariableA},
-        {"dPrimaVariableB", &R::dPrimaVariableB},
-        {"dRepercusion", &R::dRepercusion},
-        {"dPotenciaGenerador", &R::dPotenciaGenerador},
-        {"dCosteInstalacion", &R::dCosteInstalacion},
-        {"dSubvencionCCAA", &R::dSubvencionCCAA},
-        {"dAmortizacionIDAE", &R::dAmortizacionIDAE},
-        {"dBonificacionICO", &R::dBonificacionICO},
-        {"dAportacionInicial", &R::dAportacionInicial},
-        {"dTipoInteres", &R::dTipoInteres},
-        {"dAniosPrestamo", &R::dAniosPrestamo},
-        {"dAniosEstudio", &R::dAniosEstudio},
-        {"dEnvejecimiento", &R::dEnvejecimiento},
-        {"dVariacionCoste", &R::dVariacionCoste},
-        {"dCosteMantenimiento", &R::dCosteMantenimiento}};
-    R e;
-    for (const auto& [nombre, campo] : kDobles)
-        e.*campo = v[nombre.c_str()];
-    e.iTipoPrima = static_cast<int>(v["iTipoPrima"]);
-    e.iTipoCoste = static_cast<int>(v["iTipoCoste"]);
-    e.iTipoAmortizacion = static_cast<int>(v["iTipoAmortizacion"]);
-    return e;
-}
 
 double Ultimo(const CArray<double, double&>& ad)
 {
@@ -65,7 +33,7 @@ TEST(VentaRed, EstudiosEnterosContraElProgramaIndependiente)
     const auto vectores = LeerVectoresEconomia("venta");
     ASSERT_EQ(vectores.size(), 40U);
     for (std::size_t i = 0; i < vectores.size(); ++i) {
-        CSFVCalculoEconomico e = Estudio(vectores[i]);
+        CSFVCalculoEconomico e = EstudioDe(vectores[i]);
         Calcular(e);
         const std::map<std::string, double> hallados = {
             {"dEnergiaResultante", e.dEnergiaResultante},

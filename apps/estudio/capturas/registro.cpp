@@ -169,6 +169,18 @@ void AbrirPerdidas()
     phDatosPerdidasAislada(diseno.dPerdidaCableado, diseno.dPerdidaAcumulador, diseno.dPerdidaAcoplamiento);
 }
 
+// A roof of 10 kWp that sells what it gives.
+void AbrirVenta()
+{
+    CSFVCalculoEconomico estudio;
+    estudio.dEnergiaBase = 16000.0;
+    estudio.dPotenciaGenerador = 10000.0;
+    estudio.dRepercusion = 2.5;
+    estudio.dAniosPrestamo = 10.0;
+    const double adMeses[12] = {};
+    phViabilidadEconomicaRed(estudio, adMeses, adMeses, 0.0);
+}
+
 }  // namespace
 
 std::vector<Pantalla> Pantallas(Sesion& sesion)
@@ -186,6 +198,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
                   {"CDlgDatosConsumoHoraHora", "CDlgConfigPatronConsumo", "CDlgConfigImportConsumo",
                    "CDlgDatosConsumoMes", "CDlgDatosConsumoDia"}),
         DeConsumo(sesion, "consumo-receptores", 1, {"CDlgDatosReceptor", "CDlgMesAno"}),
+        {"venta", {"CDlgCalculoEconomicoRed"}, &AbrirVenta, {}},
         {"paneles-elegir",
          {"CDlgVisorXML", "CDlgItemDatosPanelFoto"},
          [] {

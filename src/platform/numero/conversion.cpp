@@ -175,6 +175,8 @@ int Entero(double d)
 
 CString nuConvertFltToIntlStr(double d, int iDecimales)
 {
+    if (std::isnan(d))
+        return L"nan";  // whatever the sign bit that a division happened to leave
     std::string texto = fmt::format("{:.{}f}", d, std::clamp(iDecimales, 0, 15));
     std::ranges::replace(texto, '.', ',');
     return {texto.begin(), texto.end()};
