@@ -268,7 +268,7 @@ private:
     QWidget* Grupo(QWidget* contenedor, const Puesto& puesto)
     {
         auto* marco = new QGroupBox(SinMnemonico(puesto.grupo), contenedor);
-        m_grupos.push_back({marco, {puesto.vistas.begin(), puesto.vistas.end()}});
+        m_grupos.push_back({marco, puesto.grupo, {puesto.vistas.begin(), puesto.vistas.end()}});
         for (Vista* vista : puesto.vistas)
             vista->widget->setParent(marco);
         std::vector<Puesto> puestos = Reunir(puesto.vistas, true);

@@ -1,17 +1,23 @@
 // Where the views of a dialog stand: their hints turned into Qt's layouts.
 #pragma once
 
+#include <string_view>
 #include <vector>
 
 #include <QWidget>
 
 #include "qt/vistas.h"
 
+QT_BEGIN_NAMESPACE
+class QGroupBox;
+QT_END_NAMESPACE
+
 namespace efv::qt {
 
 /// A framed group with the views inside: it hides when all of them are hidden.
 struct GrupoDispuesto {
-    QWidget* marco;
+    QGroupBox* marco;
+    std::wstring_view grupo;  ///< as the rows call it
     std::vector<const Vista*> vistas;
 };
 

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QPointer>
@@ -15,6 +16,7 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <quorvel/ui/como.h>
 #include <quorvel/ui/presentador.h>
 
 #include "qt/cajas.h"
@@ -112,19 +114,21 @@ VentanaDialogo* VentanaDialogo::De(const ui::Dialogo& dialogo)
 
 void VentanaDialogo::CrearVistas()
 {
-    const bool bPaginado =
-        std::ranges::any_of(m_dialogo.Controles(), [](const auto& c) { return c->NumeroDePagina() >= 0; });
-    for (const auto& control : m_dialogo.Controles()) {
-        auto* pestanas = dynamic_cast<ui::Seleccion*>(control);
-        if (bPaginado && m_paginas == nullptr && pestanas != nullptr &&
-            pestanas->forma == ui::Seleccion::Forma::pestanas) {
-            auto paginas = CrearPaginas(*pestanas, this, *this);
+    std::vector<ui::Seleccion*> menusDeCelda;
+    for (ui::Control* control : m_dialogo.Controles()) {
+        auto* const seleccion = ui::Como<ui::Seleccion>(*control);
+        if (seleccion != nullptr && seleccion->lista != nullptr) {
+            menusDeCelda.push_back(seleccion);
+        } else if (seleccion != nullptr && seleccion == m_dialogo.Pestanas()) {
+            auto paginas = CrearPaginas(*seleccion, this, *this);
             m_paginas = paginas.get();
             m_vistas.push_back(std::move(paginas));
         } else {
             m_vistas.push_back(CrearVista(*control, this, *this));
         }
     }
+    for (ui::Seleccion* menu : menusDeCelda)
+        VistaDe(menu->lista)->OfrecerMenu(*menu);
 }
 
 void VentanaDialogo::CrearBotones(QVBoxLayout& pila)
@@ -178,9 +182,11 @@ void VentanaDialogo::Refrescar()
     setWindowTitle(AQt(m_dialogo.csTitulo));
     for (const auto& vista : m_vistas)
         vista->Refrescar();
-    for (const GrupoDispuesto& grupo : m_grupos)
+    for (const GrupoDispuesto& grupo : m_grupos) {
+        grupo.marco->setTitle(SinMnemonico(m_dialogo.TituloDeGrupo(grupo.grupo)));
         grupo.marco->setVisible(
             std::ranges::any_of(grupo.vistas, [](const Vista* vista) { return vista->control.bVisible; }));
+    }
     if (m_aceptar != nullptr) {
         m_aceptar->setText(ConMnemonico(m_dialogo.csAceptar));
         m_aceptar->setVisible(m_dialogo.bAceptarVisible);

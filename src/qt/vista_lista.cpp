@@ -7,6 +7,7 @@
 #include <QTableView>
 #include <QTreeView>
 
+#include "qt/celdas_menu.h"
 #include "qt/modelo_filas.h"
 #include "qt/vistas_familias.h"
 
@@ -99,6 +100,14 @@ public:
 
     bool EsAncha() const override { return true; }
     bool QuiereSitio() const override { return true; }
+
+    void OfrecerMenu(ui::Seleccion& menu) override
+    {
+        if (m_menus == nullptr)
+            m_menus = new MenusDeCelda(m_lista, Rejas(), m_accionador);
+        m_menus->Ofrecer(menu);
+        PedirSitio();
+    }
 
 private:
     QAbstractItemView& Rejas() const { return static_cast<QAbstractItemView&>(*widget); }
@@ -258,6 +267,7 @@ private:
     ui::Lista& m_lista;
     Accionador& m_accionador;
     ModeloLista* m_modelo;
+    MenusDeCelda* m_menus = nullptr;
     unsigned m_uVersion;
     std::shared_ptr<const ui::ModeloFilas> m_filas;
     std::size_t m_nColumnas = m_lista.acsColumnas.size();

@@ -46,6 +46,8 @@ public:
     virtual bool EsAncha() const { return false; }
     /// Makes use of all the room that there is.
     virtual bool QuiereSitio() const { return false; }
+    /// Opens the menu on the cells of its selected row; only lists do.
+    virtual void OfrecerMenu(ui::Seleccion& /*menu*/) {}
     /// Shows its caption itself.
     virtual bool RotulaPorSiMisma() const { return false; }
 

@@ -9,9 +9,9 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
-#include <QTabBar>
 #include <QVBoxLayout>
 
+#include "qt/menus.h"
 #include "qt/rueda.h"
 #include "qt/texto.h"
 #include "qt/vistas_familias.h"
@@ -168,23 +168,10 @@ private:
         if (m_acsEntradas == m_seleccion.acsEntradas)
             return;
         m_acsEntradas = m_seleccion.acsEntradas;
-        m_menu->clear();
-        int iEntrada = -1;
-        for (const CString& entrada : m_acsEntradas) {
-            ++iEntrada;
-            if (entrada.empty() || entrada == L"-") {
-                m_menu->addSeparator();
-                continue;
-            }
-            // From the loop, once the menu has closed: what follows may open another dialog.
-            QObject::connect(
-                m_menu->addAction(ConMnemonico(entrada)), &QAction::triggered, widget,
-                [this, iEntrada] {
-                    auto& seleccion = static_cast<ui::Seleccion&>(control);
-                    m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
-                },
-                Qt::QueuedConnection);
-        }
+        LlenarMenu(*m_menu, m_seleccion, [this](int iEntrada) {
+            auto& seleccion = static_cast<ui::Seleccion&>(control);
+            m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
+        });
     }
 
     const ui::Seleccion& m_seleccion;
@@ -193,53 +180,18 @@ private:
     std::vector<CString> m_acsEntradas;
 };
 
-// A row of tabs whose page the dialog changes itself.
-class VistaPestanas final : public Vista {
-public:
-    VistaPestanas(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
-        : Vista(seleccion, new QTabBar(padre)), m_seleccion(seleccion)
-    {
-        Barra().setExpanding(false);
-        QObject::connect(&Barra(), &QTabBar::currentChanged, &Barra(), [&](int iEntrada) {
-            accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
-        });
-    }
-
-    bool EsAncha() const override { return true; }
-    bool RotulaPorSiMisma() const override { return true; }
-
-private:
-    QTabBar& Barra() const { return static_cast<QTabBar&>(*widget); }
-
-    void RefrescarContenido() override
-    {
-        const QSignalBlocker silencio(Barra());
-        const auto nEntradas = static_cast<int>(m_seleccion.acsEntradas.size());
-        while (Barra().count() > nEntradas)
-            Barra().removeTab(Barra().count() - 1);
-        while (Barra().count() < nEntradas)
-            Barra().addTab(QString());
-        for (int i = 0; i < nEntradas; ++i)
-            Barra().setTabText(i, ConMnemonico(m_seleccion.acsEntradas[static_cast<std::size_t>(i)]));
-        Barra().setCurrentIndex(m_seleccion.iSeleccion);
-    }
-
-    const ui::Seleccion& m_seleccion;
-};
-
 }  // namespace
 
 std::unique_ptr<Vista> CrearVistaDe(ui::Seleccion& control, QWidget* padre, Accionador& accionador)
 {
     switch (control.forma) {
         case ui::Seleccion::Forma::combo:
+        case ui::Seleccion::Forma::pestanas:  // the dialog's pages are made by CrearPaginas
             break;
         case ui::Seleccion::Forma::radio:
             return std::make_unique<VistaRadio>(control, padre, accionador);
         case ui::Seleccion::Forma::menu:
             return std::make_unique<VistaMenu>(control, padre, accionador);
-        case ui::Seleccion::Forma::pestanas:
-            return std::make_unique<VistaPestanas>(control, padre, accionador);
     }
     return std::make_unique<VistaCombo>(control, padre, accionador);
 }

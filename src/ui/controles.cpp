@@ -62,7 +62,7 @@ void Imagen::Visitar(VisitanteControl& v)
 
 int Control::NumeroDePagina() const
 {
-    return pagina != nullptr ? pagina->Numero() : colocacion.iPagina;
+    return pagina != nullptr ? pagina->Numero() : -1;
 }
 
 Valor Edicion::ValorActual() const

@@ -59,12 +59,7 @@ public:
         nota.csTexto = L"*En color azul, solución propuesta";
         nota.color = ui::kAzul;
         nota.colocacion.grupo = L"Montaje";
-        paginas.acsEntradas = {L"Datos", L"Gráfica"};
         paginas.destino = &iPagina;
-        for (ui::Control* control : {static_cast<ui::Control*>(&texto), static_cast<ui::Control*>(&tabla)})
-            control->colocacion.iPagina = 0;
-        for (ui::Control* control : {static_cast<ui::Control*>(&seccion), static_cast<ui::Control*>(&grafica)})
-            control->colocacion.iPagina = 1;
         texto.bVariasLineas = true;
         texto.csTexto = L"uno\r\ndos";
         seccion.destino = &dSeccion;
@@ -99,11 +94,13 @@ public:
     ui::Casilla& activo = Anadir<ui::Casilla>("iActivo", L"&Activo");
     ui::Seleccion& conexion = Anadir<ui::Seleccion>("iConexion", L"", ui::Seleccion::Forma::radio);
     ui::TextoFijo& nota = Anadir<ui::TextoFijo>("nota", L"");
-    ui::Seleccion& paginas = Anadir<ui::Seleccion>("tab", L"", ui::Seleccion::Forma::pestanas);
-    ui::Edicion& texto = Anadir<ui::Edicion>("csTexto", L"Observaciones:");
-    ui::Lista& tabla = Anadir<ui::Lista>("tabla", L"", ui::Lista::Forma::tabla);
-    ui::Edicion& seccion = Anadir<ui::Edicion>("dSeccion", L"Sección (mm²):");
-    ui::Grafica& grafica = Anadir<ui::Grafica>("grafica", L"");
+    ui::Pagina& datos = AnadirPagina(L"Datos");
+    ui::Pagina& curva = AnadirPagina(L"Gráfica");
+    ui::Seleccion& paginas = *Pestanas();
+    ui::Edicion& texto = datos.Anadir<ui::Edicion>("csTexto", L"Observaciones:");
+    ui::Lista& tabla = datos.Anadir<ui::Lista>("tabla", L"", ui::Lista::Forma::tabla);
+    ui::Edicion& seccion = curva.Anadir<ui::Edicion>("dSeccion", L"Sección (mm²):");
+    ui::Grafica& grafica = curva.Anadir<ui::Grafica>("grafica", L"");
     ui::Boton& boton = Anadir<ui::Boton>("boton", L"&Calcular");
     ui::Boton& curvas = Anadir<ui::Boton>("curvas", L"Curvas");
     ui::Seleccion& menu = Anadir<ui::Seleccion>("menu", L"Más", ui::Seleccion::Forma::menu);

@@ -21,7 +21,6 @@ class Control;
 
 /// Where a control stands, as a hint for whoever lays the dialog out.
 struct Colocacion {
-    int iPagina = -1;              ///< page of the dialog's tabs; -1 outside them, or said by who owns it
     std::wstring_view grupo = {};  ///< framed group of that caption; empty for none
     int iColumna = 0;
     bool bEstirar = false;           ///< takes the room that is left
