@@ -1,5 +1,7 @@
 #include "qt/presentador_qt.h"
 
+#include <utility>
+
 #include <QApplication>
 #include <QClipboard>
 
@@ -7,7 +9,9 @@
 #include <quorvel/ui/dialogo.h>
 
 #include "qt/cajas.h"
+#include "qt/paleta.h"
 #include "qt/texto.h"
+#include "qt/trabajo.h"
 #include "qt/ventana.h"
 
 namespace efv::qt {
@@ -24,28 +28,39 @@ bool HayPantalla()
 // The person must see a normal pointer when asked something in the middle of long work.
 class PresentadorQt::PausaDeEspera {
 public:
-    explicit PausaDeEspera(int nEsperas) : m_nEsperas(nEsperas)
+    explicit PausaDeEspera(PresentadorQt& presentador) : m_presentador(presentador)
     {
-        for (int i = 0; i < m_nEsperas; ++i)
-            QApplication::restoreOverrideCursor();
+        ++m_presentador.m_nPausas;
+        m_presentador.PonerCursor();
     }
     ~PausaDeEspera()
     {
-        for (int i = 0; i < m_nEsperas; ++i)
-            QApplication::setOverrideCursor(Qt::WaitCursor);
+        --m_presentador.m_nPausas;
+        m_presentador.PonerCursor();
     }
     PausaDeEspera(const PausaDeEspera&) = delete;
     PausaDeEspera& operator=(const PausaDeEspera&) = delete;
 
 private:
-    int m_nEsperas;
+    PresentadorQt& m_presentador;
 };
+
+void PresentadorQt::PonerCursor()
+{
+    const bool bEspera = m_nEsperas > 0 && m_nPausas == 0;
+    if (std::exchange(m_bCursorDeEspera, bEspera) == bEspera)
+        return;
+    if (bEspera)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
 
 ui::Respuesta PresentadorQt::MostrarMensaje(const ui::Mensaje& mensaje)
 {
     if (!HayPantalla())
         return ui::PresentadorNulo().MostrarMensaje(mensaje);
-    const PausaDeEspera pausa(m_nEsperas);
+    const PausaDeEspera pausa(*this);
     return MostrarCaja(PadreActual(m_padre), mensaje);
 }
 
@@ -56,7 +71,7 @@ void PresentadorQt::MostrarModal(ui::Dialogo& dialogo)
         return;
     }
     ContarCaja();
-    const PausaDeEspera pausa(m_nEsperas);
+    const PausaDeEspera pausa(*this);
     VentanaDialogo ventana(dialogo, VentanaDialogo::Marco::ventana, PadreActual(m_padre));
     ventana.exec();
     if (!dialogo.Terminado())
@@ -74,8 +89,49 @@ std::optional<CString> PresentadorQt::ElegirFichero(const ui::PeticionFichero& p
 {
     if (!HayPantalla())
         return std::nullopt;
-    const PausaDeEspera pausa(m_nEsperas);
+    const PausaDeEspera pausa(*this);
     return qt::ElegirFichero(PadreActual(m_padre), peticion);
+}
+
+std::optional<int> PresentadorQt::ElegirColor(int iActual)
+{
+    if (!HayPantalla())
+        return std::nullopt;
+    const PausaDeEspera pausa(*this);
+    return ElegirDePaleta(PadreActual(m_padre), iActual);
+}
+
+// Waits like any other work until its window comes; who can cancel it there gets a pointer that points.
+class PresentadorQt::TrabajoConCursor final : public ui::ProgresoTrabajo {
+public:
+    TrabajoConCursor(PresentadorQt& presentador, const CString& csTexto, bool bCancelable)
+        : m_presentador(presentador),
+          m_trabajo(PadreActual(presentador.m_padre), csTexto, bCancelable, [this, bCancelable] {
+              if (bCancelable)
+                  m_pausa.emplace(m_presentador);
+          })
+    {
+        m_presentador.Esperar(true);
+    }
+    ~TrabajoConCursor() override
+    {
+        m_pausa.reset();
+        m_presentador.Esperar(false);
+    }
+
+    bool Avanzar(double dFraccion) override { return m_trabajo.Avanzar(dFraccion); }
+
+private:
+    PresentadorQt& m_presentador;
+    std::optional<PausaDeEspera> m_pausa;
+    TrabajoQt m_trabajo;
+};
+
+std::unique_ptr<ui::ProgresoTrabajo> PresentadorQt::EmpezarTrabajo(const CString& csTexto, bool bCancelable)
+{
+    if (!HayPantalla())
+        return Presentador::EmpezarTrabajo(csTexto, bCancelable);
+    return std::make_unique<TrabajoConCursor>(*this, csTexto, bCancelable);
 }
 
 CString PresentadorQt::LeerPortapapeles()
@@ -94,10 +150,7 @@ void PresentadorQt::Esperar(bool bEmpieza)
     if (!HayPantalla() || (!bEmpieza && m_nEsperas == 0))
         return;
     m_nEsperas += bEmpieza ? 1 : -1;
-    if (bEmpieza)
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-    else
-        QApplication::restoreOverrideCursor();
+    PonerCursor();
 }
 
 void PresentadorQt::Refrescar(ui::Dialogo& dialogo)

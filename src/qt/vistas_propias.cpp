@@ -3,6 +3,7 @@
 #include <QPushButton>
 #include <QTimeEdit>
 
+#include "qt/paleta.h"
 #include "qt/rueda.h"
 #include "qt/texto.h"
 #include "qt/vistas_familias.h"
@@ -14,33 +15,66 @@ namespace {
 class VistaColor final : public Vista {
 public:
     VistaColor(ui::BotonColor& color, QWidget* padre, Accionador& accionador)
-        : Vista(color, new QPushButton(padre)), m_color(color)
+        : Vista(color, new QPushButton(padre)), m_color(color), m_accionador(accionador)
     {
-        auto* menu = new QMenu(&Pulsador());
-        Pulsador().setMenu(menu);
-        const auto entradas = color.Entradas();
-        for (int i = 0; i < static_cast<int>(entradas.size()); ++i) {
-            if (i == ui::kEntradaOtroColor)
-                menu->addSeparator();
-            menu->addAction(AQt(entradas[static_cast<std::size_t>(i)]), &Pulsador(), [&color, &accionador, i] {
-                accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(color, i); });
-            });
-        }
+        Pulsador().setMenu(new QMenu(&Pulsador()));
+        // The keyboard begins at the colour that it has.
+        QObject::connect(
+            Pulsador().menu(), &QMenu::aboutToShow, &Pulsador(),
+            [this] {
+                for (QAction* entrada : Pulsador().menu()->actions())
+                    if (entrada->text() == Pulsador().text())
+                        Pulsador().menu()->setActiveAction(entrada);
+            },
+            Qt::QueuedConnection);
     }
 
 private:
     QPushButton& Pulsador() const { return static_cast<QPushButton&>(*widget); }
+    bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
+
+    // The colour is heard together with what it is of.
+    QString NombreHablado() const override
+    {
+        const QString hablado = Vista::NombreHablado();
+        return hablado.isEmpty() ? AQt(m_color.Texto()) : hablado + ' ' + AQt(m_color.Texto());
+    }
 
     void RefrescarContenido() override
     {
+        if (const auto entradas = m_color.Entradas(); entradas != m_acsEntradas) {
+            m_acsEntradas = entradas;
+            LlenarEntradas();
+        }
         Pulsador().setText(AQt(m_color.Texto()));
-        QPixmap muestra(Pulsador().iconSize());
-        const auto color = ui::ColorDePaleta(m_color.iColor);
-        muestra.fill(color ? QColor(*color & 0xFF, *color >> 8 & 0xFF, *color >> 16 & 0xFF) : Qt::transparent);
-        Pulsador().setIcon(muestra);
+        Pulsador().setIcon(Muestra(m_color.iColor, Pulsador().iconSize(), *widget));
+    }
+
+    void LlenarEntradas()
+    {
+        QMenu& menu = *Pulsador().menu();
+        menu.clear();
+        const QSize tamano = Pulsador().iconSize();
+        for (int i = 0; i < static_cast<int>(m_acsEntradas.size()); ++i) {
+            if (i == ui::kEntradaOtroColor)
+                menu.addSeparator();
+            QAction* entrada = menu.addAction(AQt(m_acsEntradas[static_cast<std::size_t>(i)]));
+            if (i < ui::kEntradaOtroColor)
+                entrada->setIcon(Muestra(i + 1, tamano, *widget));
+            // From the loop, once the menu has closed: the choice may open a window.
+            QObject::connect(
+                entrada, &QAction::triggered, widget,
+                [this, i] {
+                    auto& color = static_cast<ui::BotonColor&>(control);
+                    m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(color, i); });
+                },
+                Qt::QueuedConnection);
+        }
     }
 
     const ui::BotonColor& m_color;
+    Accionador& m_accionador;
+    std::vector<CString> m_acsEntradas;
 };
 
 class VistaHora final : public Vista {
@@ -63,7 +97,9 @@ private:
     {
         const QSignalBlocker silencio(Reloj());
         Reloj().setReadOnly(m_hora.bSoloLectura);
-        Reloj().setTime(QTime(m_hora.iMinutos / 60, m_hora.iMinutos % 60));
+        // Written again, what is being typed would lose its place.
+        if (const QTime tiempo(m_hora.iMinutos / 60, m_hora.iMinutos % 60); Reloj().time() != tiempo)
+            Reloj().setTime(tiempo);
     }
 
     const ui::Hora& m_hora;

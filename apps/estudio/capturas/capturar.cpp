@@ -7,6 +7,8 @@
 #include <QApplication>
 #include <QDialog>
 #include <QScrollBar>
+#include <QThread>
+#include <QTimer>
 
 #include <quorvel/qt.h>
 
@@ -39,6 +41,35 @@ int CapturarEsquema(const Lamina& lamina, const std::filesystem::path& carpeta, 
         ++nCapturas;
     }
     return nCapturas;
+}
+
+// Takes a picture of the next modal window, whoever opens it, and cancels it.
+void CapturarLaQueSeAbra(QObject& mientras, const std::filesystem::path& archivo)
+{
+    auto* reloj = new QTimer(&mientras);
+    QObject::connect(reloj, &QTimer::timeout, reloj, [reloj, archivo] {
+        auto* ventana = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (ventana == nullptr || !ventana->isVisible())
+            return;
+        reloj->stop();
+        CapturarVentana(*ventana, archivo);
+        ventana->reject();
+    });
+    reloj->start(5);
+}
+
+// What the presenter itself shows. Gives how many pictures it took.
+int CapturarPresentador(const std::filesystem::path& carpeta)
+{
+    qt::InstalarPresentadorQt();
+    QObject mientras;
+    CapturarLaQueSeAbra(mientras, carpeta / "presentador-color.png");
+    ui::PresentadorActual().ElegirColor(94);
+    CapturarLaQueSeAbra(mientras, carpeta / "presentador-trabajo.png");
+    const auto trabajo = ui::PresentadorActual().EmpezarTrabajo(L"Simulando el año hora a hora...", true);
+    while (trabajo->Avanzar(0.4))
+        QThread::msleep(5);
+    return 2;
 }
 
 // Takes a picture of each dialog that opens, then does in it what its screen says.
@@ -146,7 +177,8 @@ int CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& car
         ++nCapturas;
     }
     const CProyectoEstudio& proyecto = ventana.LaSesion().Proyecto();
-    return nCapturas + CapturarEsquema(Dibujar(EsquemaDe(proyecto.aislada)), carpeta, "esquema-aislada") +
+    return nCapturas + CapturarPresentador(carpeta) +
+           CapturarEsquema(Dibujar(EsquemaDe(proyecto.aislada)), carpeta, "esquema-aislada") +
            CapturarEsquema(Dibujar(EsquemaDe(proyecto.red)), carpeta, "esquema-red");
 }
 

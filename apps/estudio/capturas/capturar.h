@@ -22,7 +22,8 @@ struct ResultadoCapturas {
 /// @throws std::runtime_error when a file can't be written.
 ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta);
 
-/// Writes a picture of the program's window with each of its tabs, and of both schematics in both themes.
+/// Writes a picture of the program's window with each of its tabs, of the presenter's own windows, and of both
+/// schematics in both themes.
 /// @return how many.
 int CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta);
 

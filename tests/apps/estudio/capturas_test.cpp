@@ -50,7 +50,7 @@ TEST_F(Capturas, CadaDialogoDeLaBibliotecaTieneLaSuyaYCabeEnUnaPantallaPequena)
 {
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
     EXPECT_EQ(CapturarPrograma(ventana, carpeta.Ruta()),
-              static_cast<int>(VentanaPrincipal::Pestanas().size()) + 4);
+              static_cast<int>(VentanaPrincipal::Pestanas().size()) + 6);
     const ResultadoCapturas resultado = Capturar(Pantallas(sesion), carpeta.Ruta());
     for (const std::string& falta : resultado.faltas)
         ADD_FAILURE() << falta;
