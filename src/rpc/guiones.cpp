@@ -236,6 +236,8 @@ std::string_view NombreDe(ui::FormaSerie forma)
             return "step";
         case ui::FormaSerie::barra:
             return "bar";
+        case ui::FormaSerie::punto:
+            return "point";
     }
     return {};
 }

@@ -71,6 +71,11 @@ bool EsDeBarras(const SerieCurva& serie)
     return EsVisible(serie) && serie.forma == FormaSerie::barra;
 }
 
+bool EsDePuntos(const SerieCurva& serie)
+{
+    return EsVisible(serie) && serie.forma == FormaSerie::punto;
+}
+
 std::optional<double> FinDeEscalones(const SerieCurva& serie)
 {
     const std::size_t n = Puntos(serie);
@@ -83,7 +88,7 @@ std::optional<double> FinDeEscalones(const SerieCurva& serie)
 std::vector<AspectoSerie> AspectosDe(const CCtrlCurva2D& grafica)
 {
     const auto esLineaNombrada = [](const SerieCurva& serie) {
-        return EsVisible(serie) && !EsDeBarras(serie) && !serie.csNombre.empty();
+        return EsVisible(serie) && !EsDeBarras(serie) && !EsDePuntos(serie) && !serie.csNombre.empty();
     };
     std::map<const double*, int> lineasPorEstilo;  // by the dashes, as numbers without a style are solid
     std::size_t nNombradas = 0;

@@ -31,6 +31,7 @@ bool EsFinito(const SerieCurva& serie, std::size_t i);
 std::size_t Puntos(const SerieCurva& serie);
 bool EsVisible(const SerieCurva& serie);
 bool EsDeBarras(const SerieCurva& serie);
+bool EsDePuntos(const SerieCurva& serie);
 /// Where the last step ends: its value holds as long as the one before it did. Nothing for other series.
 std::optional<double> FinDeEscalones(const SerieCurva& serie);
 

@@ -70,8 +70,10 @@ Extension ExtensionDe(const CCtrlCurva2D& grafica)
             const double dY = serie.adY[i];
             if (!std::isfinite(dX) || !std::isfinite(dY))
                 continue;
-            if (!bHayPuntos && !TieneCero(grafica.claseX))
+            if (!bHayPuntos && (grafica.bMapa || !TieneCero(grafica.claseX)))
                 extension.dMinX = extension.dMaxX = dX;
+            if (!bHayPuntos && grafica.bMapa)
+                extension.dMinY = extension.dMaxY = dY;
             bHayPuntos = true;
             extension.dMinX = std::min(extension.dMinX, dX);
             extension.dMaxX = std::max(extension.dMaxX, dX);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "ui/trazado_medidas.h"
 
@@ -98,7 +99,9 @@ void Trazado::CalcularEjes()
     for (const SerieCurva& serie : m_grafica.aSeries)
         if (const auto dFin = FinDeEscalones(serie))
             extension.dMaxX = std::max(extension.dMaxX, *dFin);
-    m_ejeX = CalcularEje(m_grafica.claseX, extension.dMinX, extension.dMaxX, m_grafica.iCuadriculaX);
+    m_ejeX = m_grafica.bMapa
+                 ? CalcularEje(extension.dMinX, extension.dMaxX, m_grafica.iCuadriculaX, true)
+                 : CalcularEje(m_grafica.claseX, extension.dMinX, extension.dMaxX, m_grafica.iCuadriculaX);
     if (m_nBarras > 0 && m_ejeX.DeBandas()) {
         m_dHuecoBarras = 1.0;
     } else if (m_nBarras > 0) {
@@ -172,8 +175,25 @@ void Trazado::ColocarMarco(double dArriba, const Lienzo& medidor)
     const double dDerecha = dMargen + m_dCuerpo;
     m_marco = {dIzquierda, dArriba, std::max(kMarcoMinimo, m_dAncho - dIzquierda - dDerecha),
                std::max(kMarcoMinimo, m_dAlto - dArriba - dAbajo)};
+    if (m_grafica.bMapa)
+        ProporcionarMarco();
     m_csTituloX = Abreviado(m_grafica.csTituloX, m_marco.dAncho, m_dCuerpo, medidor);
     m_csTituloY = Abreviado(m_grafica.csTituloY, m_dAlto - 2.0 * dMargen, m_dCuerpo, medidor);
+}
+
+// Narrows the frame so that a degree of longitude is as long as it is at the middle latitude.
+void Trazado::ProporcionarMarco()
+{
+    const double dGradosX =
+        (m_ejeX.dMax - m_ejeX.dMin) * std::cos(0.5 * (m_ejeY.dMin + m_ejeY.dMax) * std::numbers::pi / 180.0);
+    const double dGradosY = m_ejeY.dMax - m_ejeY.dMin;
+    if (!(dGradosX > 0.0))
+        return;
+    const double dEscala = std::min(m_marco.dAncho / dGradosX, m_marco.dAlto / dGradosY);
+    const double dAncho = dEscala * dGradosX;
+    const double dAlto = dEscala * dGradosY;
+    m_marco = {m_marco.dX + 0.5 * (m_marco.dAncho - dAncho), m_marco.dY + 0.5 * (m_marco.dAlto - dAlto), dAncho,
+               dAlto};
 }
 
 Punto Trazado::APantalla(double dX, double dY) const

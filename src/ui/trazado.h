@@ -53,12 +53,14 @@ private:
     double ColocarTitulo(const Lienzo& medidor);
     double ColocarLeyenda(double dArriba, const Lienzo& medidor);
     void ColocarMarco(double dArriba, const Lienzo& medidor);
+    void ProporcionarMarco();
     void DibujarEjeX(Lienzo& lienzo) const;
     void DibujarEjeY(Lienzo& lienzo) const;
     void DibujarCeros(Lienzo& lienzo) const;
     void DibujarTextos(Lienzo& lienzo) const;
     void DibujarLeyenda(Lienzo& lienzo) const;
     void DibujarLinea(Lienzo& lienzo, const SerieCurva& serie) const;
+    void DibujarPuntos(Lienzo& lienzo, const SerieCurva& serie) const;
     void DibujarMarcas(Lienzo& lienzo, const SerieCurva& serie, const AspectoSerie& aspecto) const;
     void DibujarBarras(Lienzo& lienzo, const SerieCurva& serie, const AspectoSerie& aspecto) const;
     Recuadro BarraDe(const SerieCurva& serie, const AspectoSerie& aspecto, std::size_t i) const;

@@ -131,8 +131,10 @@ void Trazado::DibujarEjeY(Lienzo& lienzo) const
 
 void Trazado::DibujarCeros(Lienzo& lienzo) const
 {
-    const Punto cero =
-        APantalla(std::clamp(0.0, m_ejeX.dMin, m_ejeX.dMax), std::clamp(0.0, m_ejeY.dMin, m_ejeY.dMax));
+    // Greenwich and the equator are lines of a map's grid like any other.
+    const Punto cero = m_grafica.bMapa ? APantalla(m_ejeX.dMin, m_ejeY.dMin)
+                                       : APantalla(std::clamp(0.0, m_ejeX.dMin, m_ejeX.dMax),
+                                                   std::clamp(0.0, m_ejeY.dMin, m_ejeY.dMax));
     lienzo.Linea({cero.dX, m_marco.dY}, {cero.dX, m_marco.dY + m_marco.dAlto}, Tinta::eje);
     lienzo.Linea({m_marco.dX, cero.dY}, {m_marco.dX + m_marco.dAncho, cero.dY}, Tinta::eje);
 }
@@ -141,8 +143,9 @@ void Trazado::DibujarTextos(Lienzo& lienzo) const
 {
     const double dCentro = m_marco.dX + 0.5 * m_marco.dAncho;
     lienzo.Texto({dCentro, m_dAlto - kMargen * m_dCuerpo}, m_csTituloX, m_dCuerpo, Ancla::centro, false);
-    lienzo.Texto({(kMargen + 0.9) * m_dCuerpo, m_marco.dY + 0.5 * m_marco.dAlto}, m_csTituloY, m_dCuerpo,
-                 Ancla::centro, true);
+    // A narrowed frame has its caption beside it.
+    const double dTituloY = m_grafica.bMapa ? m_marco.dX - 2.8 * m_dCuerpo : (kMargen + 0.9) * m_dCuerpo;
+    lienzo.Texto({dTituloY, m_marco.dY + 0.5 * m_marco.dAlto}, m_csTituloY, m_dCuerpo, Ancla::centro, true);
     for (const Linea& linea : m_titulo)
         lienzo.Texto({0.5 * m_dAncho, linea.dBase}, linea.csTexto, kCuerpoTitulo * m_dCuerpo, Ancla::centro,
                      false);
@@ -159,6 +162,9 @@ void Trazado::DibujarLeyenda(Lienzo& lienzo) const
         if (EsDeBarras(serie)) {
             DibujarBarra(lienzo, {dX, dCentro - 0.45 * m_dCuerpo, dMuestra, 0.9 * m_dCuerpo}, serie.color,
                          aspecto.trama, kEntreRayas * m_dCuerpo);
+        } else if (EsDePuntos(serie)) {
+            DibujarMarca(lienzo, {dX + 0.5 * dMuestra, dCentro}, kRadioMarca * m_dCuerpo, Marca::circulo,
+                         serie.color);
         } else {
             const std::array<Punto, 2> trazo{Punto{dX, dCentro}, Punto{dX + dMuestra, dCentro}};
             lienzo.Polilinea(trazo, serie);
@@ -190,6 +196,13 @@ void Trazado::DibujarLinea(Lienzo& lienzo, const SerieCurva& serie) const
     if (const auto dFin = FinDeEscalones(serie); dFin && anterior)
         pluma.Poner({APantalla(*dFin, 0.0).dX, anterior->dY});
     pluma.Cortar();
+}
+
+void Trazado::DibujarPuntos(Lienzo& lienzo, const SerieCurva& serie) const
+{
+    for (std::size_t i = 0; i < Puntos(serie); ++i)
+        if (EsFinito(serie, i))
+            lienzo.Polilinea(std::array{APantalla(serie.adX[i], serie.adY[i])}, serie);
 }
 
 // All of few points; of many only some, at other places for each series, so that lines that coincide show
@@ -246,6 +259,8 @@ void Trazado::Dibujar(Lienzo& lienzo) const
         const SerieCurva& serie = m_grafica.aSeries[s];
         if (EsDeBarras(serie))
             DibujarBarras(lienzo, serie, m_aspectos[s]);
+        else if (EsDePuntos(serie))
+            DibujarPuntos(lienzo, serie);
         else if (EsVisible(serie))
             DibujarLinea(lienzo, serie);
     }

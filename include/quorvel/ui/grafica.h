@@ -25,7 +25,8 @@ EFV_API std::string ColorHex(Color color);
 enum class FormaSerie {
     linea,
     escalon,  ///< each value holds until the next point; the last one as long as the one before it
-    barra     ///< one bar a point, from 0; the series of bars of a chart share the place of a point
+    barra,    ///< one bar a point, from 0; the series of bars of a chart share the place of a point
+    punto     ///< a dot a point
 };
 
 /// What isn't a finite number interrupts a line; in the place of a bar it stands as "—".
@@ -60,6 +61,9 @@ struct EFV_API CCtrlCurva2D {
     std::vector<efv::ui::SerieCurva> aSeries;
     efv::ui::ClaseEje claseX = efv::ui::ClaseEje::numero;
     bool bLeyenda = false;  ///< also for a single named series; several have theirs in any case
+    /// A map: degrees of longitude and latitude. The axes hold the points alone, without 0, and a mile has the
+    /// same length along both in the middle of the map.
+    bool bMapa = false;
 };
 
 namespace efv::ui {
@@ -72,7 +76,7 @@ EFV_API CCtrlCurva2D GraficaDeHoras(std::wstring_view csTitulo, std::wstring_vie
 EFV_API SerieCurva BarrasDeMeses(std::wstring_view csNombre, Color color, std::span<const double> adMeses);
 
 /// The extent of a chart: from the least to the greatest value of its finite points, 0 included but along
-/// an axis that counts months, days or dates.
+/// an axis that counts months, days or dates, and on a map.
 struct Extension {
     double dMinX = 0, dMaxX = 1, dMinY = 0, dMaxY = 1;
 };
