@@ -19,5 +19,6 @@
 #include <quorvel/report.h>
 #include <quorvel/solar.h>
 #include <quorvel/solar/energia.h>
+#include <quorvel/solar/inclinacion.h>
 #include <quorvel/tipos_catalogo.h>
 #include <quorvel/ui.h>

@@ -297,6 +297,9 @@ EFV_API double phCalcFactorK(int iMes, int iDia, double dInclinacion, double dLa
 /// @param iZona 1 to 5  @param iTipoUso1,iTipoUso2 0 to 6  @param dSuperficie1,dSuperficie2 built, m²
 EFV_API double phGetPotMinInstalarCTE(int iZona, int iTipoUso1, double dSuperficie1, int iTipoUso2,
                                       double dSuperficie2, int bFormulaCoeficientes);
+/// Shows the map of the climate zones, drawn out of the municipalities in the folder of phSetPathHE5BD. @return
+/// 1
+EFV_API int phShowMapaZonaHE5();
 /// Coefficients of a use (0 to 6) and of a zone (1 to 5); 0 for any other.
 EFV_API double phGetCoefA(int iTipoUso);
 EFV_API double phGetCoefB(int iTipoUso);

@@ -1,9 +1,15 @@
 // Exported functions of tilt and orientation, and of the building code's minimum power.
+#include <vector>
+
 #include <quorvel/clima.h>
+#include <quorvel/framework/CException.h>
+#include <quorvel/localidades.h>
 #include <quorvel/solar.h>
 
+#include "frame/estado.h"
 #include "frame/recursos.h"
 #include "solar/inclinacion_optima.h"
+#include "solar/mapa_zonas_dialogo.h"
 #include "solar/potencia_minima.h"
 
 using efv::frame::AmbitoRecursos;
@@ -14,6 +20,21 @@ efv::clima::SitioCielo Sitio(double dDatoSitio, double dLatitud, double dHumedad
                              const double (&aTemperaturas)[12][31])
 {
     return {dDatoSitio, dLatitud, dHumedad, std::span<const double, 372>(&aTemperaturas[0][0], 372)};
+}
+
+// The places that ship with the catalogues.
+std::vector<efv::Localidad> LugaresDelMapa(CString& csFalta)
+{
+    const CString& csCarpeta = efv::frame::Estado().csPathHE5BD;
+    std::vector<efv::Localidad> lugares;
+    try {
+        lugares = efv::LeerMunicipios(csCarpeta + L"municipios.txt");
+        const auto capitales = efv::LeerLocalidades(csCarpeta + L"localidades.xml");
+        lugares.insert(lugares.end(), capitales.begin(), capitales.end());
+    } catch (const CFileException& error) {
+        csFalta = L"No se pueden leer los municipios. " + efv::CadenaDesdeUtf8(error.what());
+    }
+    return lugares;
 }
 
 }  // namespace
@@ -56,6 +77,15 @@ double phGetPotMinInstalarCTE(int iZona, int iTipoUso1, double dSuperficie1, int
     const bool bCoeficientes = bFormulaCoeficientes != 0;
     const double dPrimera = efv::solar::PotenciaMinima(iZona, iTipoUso1, dSuperficie1, bCoeficientes);
     return efv::solar::PotenciaMinima(iZona, iTipoUso2, dSuperficie2, bCoeficientes) + dPrimera;
+}
+
+int phShowMapaZonaHE5()
+{
+    const AmbitoRecursos ambito;
+    CString csFalta;
+    const auto lugares = LugaresDelMapa(csFalta);
+    CDlgMapaZonas(lugares, csFalta).Mostrar();
+    return 1;
 }
 
 double phGetCoefA(int iTipoUso)

@@ -117,6 +117,7 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phGetPotMinInstalarCTE>(
         "phGetPotMinInstalarCTE",
         "iZona, iTipoUso1, dSuperficie1, iTipoUso2, dSuperficie2, bFormulaCoeficientes"),
+    Funcion::De<&phShowMapaZonaHE5>("phShowMapaZonaHE5", ""),
     Funcion::De<&phGetCoefA>("phGetCoefA", "iTipoUso"),
     Funcion::De<&phGetCoefB>("phGetCoefB", "iTipoUso"),
     Funcion::De<&phGetCoefC>("phGetCoefC", "iZona"),

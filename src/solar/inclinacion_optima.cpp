@@ -1,5 +1,7 @@
 #include "solar/inclinacion_optima.h"
 
+#include <quorvel/solar/inclinacion.h>
+
 #include <algorithm>
 #include <cmath>
 
@@ -10,8 +12,8 @@ namespace efv::solar {
 
 namespace {
 
-/// Tilts asked of the library at once: enough for its batches, few enough for the progress to move.
-constexpr std::size_t kGrupo = 24;
+/// Tilts between two steps of the progress.
+constexpr std::size_t kGrupo = 8;
 
 double SumaDelMes(const clima::SumasMeses& sumas, int iMes)
 {
@@ -39,10 +41,10 @@ double OrientacionAlEcuador(double dLatitud)
 }
 
 std::array<Optimo, 13> BuscarOptimos(clima::BibliotecaClima& biblioteca, const clima::SitioCielo& sitio,
-                                     double dPaso, const std::function<void(double)>& avance)
+                                     double dOrientacion, double dPaso,
+                                     const std::function<void(std::size_t)>& avance)
 {
     const std::vector<double> adInclinaciones = InclinacionesDeBusqueda(sitio.dLatitud, dPaso);
-    const double dOrientacion = OrientacionAlEcuador(sitio.dLatitud);
     std::vector<clima::SumasMeses> sumas(adInclinaciones.size());
     std::array<Optimo, 13> optimos{};
     biblioteca.SumasDeInclinaciones(sitio, adInclinaciones, dOrientacion, sumas);
@@ -51,7 +53,7 @@ std::array<Optimo, 13> BuscarOptimos(clima::BibliotecaClima& biblioteca, const c
             if (numero::Mayor(sumas[t][m], optimos[m].dRadiacion))
                 optimos[m] = {adInclinaciones[t], sumas[t][m]};
         if (avance && (t + 1 == adInclinaciones.size() || (t + 1) % kGrupo == 0))
-            avance(static_cast<double>(t + 1) / static_cast<double>(adInclinaciones.size()));
+            avance(t + 1);
     }
     return optimos;
 }
@@ -60,7 +62,20 @@ Optimo BuscarOptimo(clima::BibliotecaClima& biblioteca, const clima::SitioCielo&
 {
     if (iMes < 0 || iMes > kAnoBusqueda)
         return {};
-    return BuscarOptimos(biblioteca, sitio, dPaso)[static_cast<std::size_t>(iMes)];
+    const double dOrientacion = OrientacionAlEcuador(sitio.dLatitud);
+    return BuscarOptimos(biblioteca, sitio, dOrientacion, dPaso)[static_cast<std::size_t>(iMes)];
+}
+
+std::array<InclinacionOptima, 13> InclinacionesOptimas(clima::BibliotecaClima& biblioteca,
+                                                       const clima::SitioCielo& sitio, double dOrientacion)
+{
+    const auto adProbadas = InclinacionesDeBusqueda(sitio.dLatitud, kPasoConsulta);
+    const auto optimos = BuscarOptimos(biblioteca, sitio, dOrientacion, kPasoConsulta);
+    std::array<InclinacionOptima, 13> resultado;
+    for (std::size_t m = 0; m < resultado.size(); ++m)
+        resultado[m] = {optimos[m].dInclinacion, optimos[m].dRadiacion,
+                        !adProbadas.empty() && optimos[m].dInclinacion == adProbadas.back()};
+    return resultado;
 }
 
 double Perdidas(clima::BibliotecaClima& biblioteca, const clima::SitioCielo& sitio, int iMes,

@@ -32,12 +32,14 @@ struct Optimo {
     double dRadiacion = 0.0;  ///< sum of the net radiation, Wh/m²
 };
 
-/// The best tilt of each month and of the year (last), in one pass. Of tilts equal within 1e-6 the lowest wins.
-/// @param avance called after each group of tilts with the share done, 0 to 1; may be empty
+/// The best tilt of each month and of the year (last) at an orientation, in one pass. Of tilts equal within
+/// 1e-6 the lowest wins.
+/// @param avance called after each group of tilts with how many are done; may be empty
 std::array<Optimo, 13> BuscarOptimos(clima::BibliotecaClima& biblioteca, const clima::SitioCielo& sitio,
-                                     double dPaso, const std::function<void(double)>& avance = {});
+                                     double dOrientacion, double dPaso,
+                                     const std::function<void(std::size_t)>& avance = {});
 
-/// The same of one month (0 to 11) or the year (12); any other index finds nothing.
+/// The same of one month (0 to 11) or the year (12), facing the equator; any other index finds nothing.
 Optimo BuscarOptimo(clima::BibliotecaClima& biblioteca, const clima::SitioCielo& sitio, double dPaso, int iMes);
 
 /// Percentage that a plane loses in a month (0 to 11) or the year (-1) against `dRadOptima`; one of 0 or below

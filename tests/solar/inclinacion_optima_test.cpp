@@ -67,7 +67,7 @@ TEST(InclinacionOptima, ElMaximoNoPasaDeLaLatitudYLosEmpatesQuedanAbajo)
     CieloDePrueba cielo;
     auto adTemperaturas = A25Grados();
     const SitioCielo sitio{0, 30.0, 0.5, adTemperaturas};
-    const auto optimos = BuscarOptimos(cielo, sitio, kPasoConsulta);
+    const auto optimos = BuscarOptimos(cielo, sitio, 0.0, kPasoConsulta);
     EXPECT_DOUBLE_EQ(optimos[1].dInclinacion, 29.5);
     EXPECT_DOUBLE_EQ(optimos[1].dRadiacion, 28 * 24 * 29.5);
     EXPECT_DOUBLE_EQ(optimos[12].dRadiacion, 8760 * 29.5);

@@ -98,6 +98,11 @@ public:
         for (int i = 2; !m_escritos.insert(nombre).second; ++i)
             nombre = m_pantalla.nombre + '-' + dialogo.clase + '-' + std::to_string(i);
         ventana->show();
+        // Work that begins a moment after the opening is shown done.
+        if (dialogo.iTemporizador > 0) {
+            dialogo.VencerTemporizador();
+            qt::RefrescarVentana(ventana.get());
+        }
         CapturarPaginas(dialogo, *ventana, nombre);
         if (m_pantalla.recorrer)
             m_pantalla.recorrer(dialogo);

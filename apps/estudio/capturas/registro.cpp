@@ -163,6 +163,17 @@ Pantalla DeConsumo(Sesion& sesion, std::string nombre, int iTipoEntrada, std::ve
             &Recorrer};
 }
 
+// A plane that looks south-west at the project's latitude.
+void AbrirInclinacion(const Sesion& sesion)
+{
+    solar::EstudioInclinacion estudio{.dInclinacionActual = 15.0,
+                                      .fuente = solar::FuenteRadiacion::cielo,
+                                      .dLatitud = sesion.Proyecto().lugar.dLatitud,
+                                      .dOrientacion = 30.0,
+                                      .radHorizontal = {}};
+    solar::EstudiarInclinacion(estudio);
+}
+
 void AbrirPerdidas()
 {
     CSFVAsistenteAislada diseno;
@@ -193,6 +204,11 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          [&sesion] { DisenarAislada(sesion); },
          &Recorrer},
         {"perdidas", {"CDlgDatosPerdidasSolarAislada"}, &AbrirPerdidas, {}},
+        {"inclinacion",
+         {"CDlgCalculoInclinacionPanel"},
+         [&sesion] { AbrirInclinacion(sesion); },
+         [](ui::Dialogo& dialogo) { ElegirEntrada(dialogo, "iOpcion", 1); }},
+        {"mapa-zonas", {"CDlgMapaZonas"}, [] { phShowMapaZonaHE5(); }, {}},
         {"red", {"CDlgAsistenteSFVRed"}, [&sesion] { DisenarRed(sesion); }, &Recorrer},
         DeConsumo(sesion, "consumo-horas", 0,
                   {"CDlgDatosConsumoHoraHora", "CDlgConfigPatronConsumo", "CDlgConfigImportConsumo",
