@@ -52,6 +52,7 @@ public:
         Anadir(CrearSubordenConsumo());
         Anadir(CrearSubordenAislada());
         Anadir(CrearSubordenRed());
+        Anadir(CrearSubordenVenta());
         Anadir(CrearSubordenRpc());
         m_raiz.require_subcommand(0, 1);
     }

@@ -7,3 +7,4 @@
 #include <quorvel/report/equipos.h>
 #include <quorvel/report/ficha.h>
 #include <quorvel/report/texto.h>
+#include <quorvel/report/venta.h>

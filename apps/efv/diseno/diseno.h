@@ -1,4 +1,5 @@
-// The two designs: a project file in, a document, the values and the record's archive out.
+// The two designs and the sale to the grid: a project file in, a document, the values and the record's archive
+// out.
 #pragma once
 
 #include <cstddef>
@@ -17,6 +18,7 @@ struct Diseno {
     report::Documento documento;
     nlohmann::ordered_json valores;  ///< what --json writes
     std::vector<std::byte> archivo;  ///< the record's items alone
+    std::string csv;                 ///< what --csv writes, of those that have it
 };
 
 /// A stand-alone installation. As in the assistant, a forced recalculation first; then the values that the
@@ -26,5 +28,9 @@ Diseno DisenarAislada(const JsonLeido& proyecto, const std::string& csDatos);
 
 /// A grid-connected installation, in the same way.
 Diseno DisenarRed(const JsonLeido& proyecto, const std::string& csDatos);
+
+/// A sale to the grid, in full precision: the energy of the year as the file gives it, or from place, plane and
+/// power.
+Diseno EstudiarVenta(const JsonLeido& proyecto, const std::string& csDatos);
 
 }  // namespace efv::orden

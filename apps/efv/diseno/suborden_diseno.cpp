@@ -7,6 +7,7 @@
 #include <CLI/CLI.hpp>
 
 #include <quorvel/assistants.h>
+#include <quorvel/economics.h>
 #include <quorvel/reloj.h>
 
 #include "comun/datos.h"
@@ -27,12 +28,15 @@ struct Clase {
     const char* nombre;
     const char* descripcion;
     const char* pie;
+    const char* que;  ///< what --guardar keeps
     Diseno (*disenar)(const JsonLeido& proyecto, const std::string& csDatos);
     const CRuntimeClass& (*registro)();
+    bool bCsv = false;
 };
 
 constexpr Clase kAislada = {
-    "aislada", "Diseña una instalación aislada, con acumuladores, a partir de un fichero de proyecto",
+    "aislada",
+    "Diseña una instalación aislada, con acumuladores, a partir de un fichero de proyecto",
     "El proyecto es un objeto JSON:\n"
     "  lugar               nombre de «efv lugares»; o latitud, hemisferio (N, S) y radiacion,\n"
     "                      doce valores en kJ/m²·día\n"
@@ -47,10 +51,13 @@ constexpr Clase kAislada = {
     "\"Diciembre\", \"Desfavorable\"...), dProfundidadDescarga, dTensionMaxFV, iPanelesSerie... Lo que fija\n"
     "el fichero queda en vigor; lo demás toma la propuesta del programa. Los avisos no son errores.\n"
     "Ejemplo:\n  efv aislada casa-aislada.json --informe casa.html",
-    &DisenarAislada, &CSFVAsistenteAislada::GetThisClass};
+    "el diseño",
+    &DisenarAislada,
+    &CSFVAsistenteAislada::GetThisClass};
 
 constexpr Clase kRed = {
-    "red", "Diseña una instalación conectada a red a partir de un fichero de proyecto",
+    "red",
+    "Diseña una instalación conectada a red a partir de un fichero de proyecto",
     "El proyecto es un objeto JSON:\n"
     "  lugar               nombre de «efv lugares»; o latitud, hemisferio (N, S) y, para la energía\n"
     "                      mensual, radiacion: doce valores en kJ/m²·día\n"
@@ -62,7 +69,28 @@ constexpr Clase kRed = {
     "iPanelesParalelo, dInclinacion, iDisposicion... Lo que fija el fichero queda en vigor; lo demás toma\n"
     "la propuesta del programa. Los avisos no son errores.\n"
     "Ejemplo:\n  efv red cubierta-red.json --informe cubierta.html",
-    &DisenarRed, &CSFVAsistenteRed::GetThisClass};
+    "el diseño",
+    &DisenarRed,
+    &CSFVAsistenteRed::GetThisClass};
+
+constexpr Clase kVenta = {
+    "venta",
+    "Estudia año a año la venta a la red de una instalación a partir de un fichero de estudio",
+    "El estudio es un objeto JSON:\n"
+    "  lugar               nombre de «efv lugares»; o latitud, hemisferio (N, S) y radiacion,\n"
+    "                      doce valores en kJ/m²·día\n"
+    "  dInclinacion        de los paneles, hacia el ecuador, 0 a 90; si falta, 30\n"
+    "  dPotenciaGenerador  W\n"
+    "  dEnergiaBase        kWh de un año antes del performance ratio; sobran entonces lugar y plano\n"
+    "  titulo              nombre del estudio en el informe\n"
+    "y los demás campos del registro por su nombre: dPrimaFija (€/kWh), dCosteInstalacion (€) o dRepercusion\n"
+    "(€/Wp), dTipoInteres, dAniosPrestamo, dAniosEstudio, iTipoAmortizacion (0 francés, 1 alemán)... Lo que\n"
+    "falta toma el valor de un registro nuevo y se dice. Los avisos no son errores.\n"
+    "Ejemplo:\n  efv venta venta-cubierta.json --informe venta.html",
+    "el estudio",
+    &EstudiarVenta,
+    &CSFVCalculoEconomico::GetThisClass,
+    true};
 
 std::string Fecha()
 {
@@ -86,12 +114,21 @@ public:
         CLI::App& linea = *raiz.add_subcommand(m_clase.nombre, m_clase.descripcion);
         Castellanizar(linea);
         linea.add_option("PROYECTO", m_proyecto, "Fichero de proyecto, JSON")->option_text(" ");
-        linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores por su nombre en el código")
-            ->option_text(" ")
-            ->disable_flag_override();
+        CLI::Option* json =
+            linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores por su nombre en el código");
+        json->option_text(" ")->disable_flag_override();
+        if (m_clase.bCsv)
+            linea
+                .add_flag("--csv", m_bCsv,
+                          "Escribe la tabla de años como CSV con punto y coma y coma decimal, como lo leen las "
+                          "hojas de cálculo")
+                ->option_text(" ")
+                ->excludes(json)
+                ->disable_flag_override();
         linea
-            .add_option("--guardar", m_guardar,
-                        "Guarda el diseño como archivo del registro, que otro programa puede abrir")
+            .add_option(
+                "--guardar", m_guardar,
+                fmt::format("Guarda {} como archivo del registro, que otro programa puede abrir", m_clase.que))
             ->type_name("FICHERO");
         linea.add_option("--informe", m_informe, "Escribe un informe para imprimir, una página HTML")
             ->type_name("FICHERO");
@@ -122,6 +159,10 @@ public:
             salida << diseno.valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
             return 0;
         }
+        if (m_bCsv) {
+            salida << diseno.csv;
+            return 0;
+        }
         salida << report::DocumentoTexto(diseno.documento);
         for (std::size_t i = 0; i < escritos.size(); ++i)
             salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
@@ -142,7 +183,7 @@ private:
     const Clase& m_clase;
     std::string m_proyecto, m_datos;
     std::optional<std::string> m_guardar, m_informe;
-    bool m_bJson = false;
+    bool m_bJson = false, m_bCsv = false;
 };
 
 }  // namespace
@@ -155,6 +196,11 @@ std::unique_ptr<Suborden> CrearSubordenAislada()
 std::unique_ptr<Suborden> CrearSubordenRed()
 {
     return std::make_unique<SubordenDiseno>(kRed);
+}
+
+std::unique_ptr<Suborden> CrearSubordenVenta()
+{
+    return std::make_unique<SubordenDiseno>(kVenta);
 }
 
 }  // namespace efv::orden

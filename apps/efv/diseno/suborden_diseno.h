@@ -10,5 +10,6 @@ namespace efv::orden {
 std::unique_ptr<Suborden> CrearSubordenAislada();
 /// `efv red`: a grid-connected one.
 std::unique_ptr<Suborden> CrearSubordenRed();
+std::unique_ptr<Suborden> CrearSubordenVenta();
 
 }  // namespace efv::orden
