@@ -55,12 +55,13 @@ int Capturar(const std::filesystem::path& datos, const std::filesystem::path& ca
     VentanaPrincipal ventana(Lugares(datos));
     ventana.LaSesion().Nuevo(ProyectoDeEjemplo(ventana.LaSesion().LugarInicial()));
     ventana.show();
-    const int nPrograma = CapturarPrograma(ventana, carpeta);
+    const ResultadoCapturas programa = CapturarPrograma(ventana, carpeta);
     const ResultadoCapturas dialogos = efv::estudio::Capturar(Pantallas(ventana.LaSesion()), carpeta);
-    std::cout << nPrograma + dialogos.nCapturas << " capturas en " << carpeta.string() << '\n';
-    for (const std::string& falta : dialogos.faltas)
-        std::cerr << "efv-estudio: " << falta << '\n';
-    return dialogos.faltas.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
+    std::cout << programa.nCapturas + dialogos.nCapturas << " capturas en " << carpeta.string() << '\n';
+    for (const auto& faltas : {programa.faltas, dialogos.faltas})
+        for (const std::string& falta : faltas)
+            std::cerr << "efv-estudio: " << falta << '\n';
+    return programa.faltas.empty() && dialogos.faltas.empty() ? EXIT_SUCCESS : EXIT_FAILURE;
 }
 
 // Work goes on without them.

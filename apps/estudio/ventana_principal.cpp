@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QMenuBar>
+#include <QScreen>
 #include <QSplitter>
 #include <QTabWidget>
 #include <QVBoxLayout>
@@ -26,6 +27,7 @@ Lugar LugarInicial(const std::vector<Localidad>& localidades)
     return madrid != nullptr ? LugarDe(*madrid) : Lugar{};
 }
 
+constexpr double kParteDePantalla = 0.95;  // the title bar takes some
 constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270;
 
 // A widget with its layout's margin around it.
@@ -113,7 +115,7 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     centro->setSizes({kAnchoLugar, kAncho - kAnchoLugar});
     centro->setChildrenCollapsible(false);
     setCentralWidget(centro);
-    resize(kAncho, kAlto);
+    resize(QSize(kAncho, kAlto).boundedTo(screen()->availableSize() * kParteDePantalla));
     m_sesion.alCambiar = [this] { Actualizar(); };
     Actualizar();
 }

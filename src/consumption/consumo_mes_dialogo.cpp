@@ -42,7 +42,8 @@ void CDlgDatosConsumoMes::AnadirMeses()
             auto& campo = Anadir<ui::Edicion>(fmt::format("adMes[{}][{}]", iMes, p), kRotulosPeriodos[p]);
             campo.destino = &datos.adMes[iMes][p];
             campo.limites = ui::Intervalo{0, kEnergiaMaxima};
-            campo.colocacion = ui::JuntoA(mes);
+            campo.colocacion.grupo = kGrupoMeses;
+            campo.colocacion.iColumna = static_cast<int>(p) + 1;
         }
     }
 }
@@ -55,6 +56,6 @@ void CDlgDatosConsumoMes::AnadirHoras()
         periodo.acsEntradas = {L"P1", L"P2", L"P3"};
         periodo.destino = &datos.aiPeriodoHora[h];
         periodo.colocacion.grupo = kGrupoHoras;
-        periodo.colocacion.iColumna = 1;
+        periodo.colocacion.iColumna = h < 12 ? 1 : 2;
     }
 }

@@ -40,6 +40,7 @@ CDlgConfigPatronConsumo::CDlgConfigPatronConsumo(const efv::SemanaFactores& inic
 {
     m_dia.acsEntradas = efv::consumption::NombresDeDias();
     m_dia.alElegir = [this] { AlElegirDia(); };
+    m_copiar.colocacion.iColumna = 1;  // in front of the second column of hours
     m_copiar.acsEntradas = efv::consumption::NombresDeDias();
     for (const GrupoDias& grupo : kGrupos)
         m_copiar.acsEntradas.emplace_back(grupo.nombre);

@@ -212,7 +212,8 @@ private:
             rejilla.addLayout(EnLinea(contenedor, {desde, puesto.vistas.end()}, false), celda.iFila,
                               celda.iColumna + 1, alineacion);
         } else if (EsBoton(primera) || bVarias) {
-            aTodoLoAncho(EnLinea(contenedor, puesto.vistas, EsBoton(primera) && puesto.iColumna == 0));
+            const bool bASuAncho = EsBoton(primera) && !EsImagenGrande(primera) && puesto.iColumna == 0;
+            aTodoLoAncho(EnLinea(contenedor, puesto.vistas, bASuAncho));
         } else {
             ColocarSola(contenedor, primera, bEstira, aTodoLoAncho);
         }

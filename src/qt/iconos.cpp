@@ -77,8 +77,9 @@ public:
 
     void paint(QPainter* pintor, const QRect& rect, QIcon::Mode modo, QIcon::State /*estado*/) override
     {
-        const QColor fondo = m_paleta.color(QPalette::Button);
-        const QColor texto = m_paleta.color(QPalette::ButtonText);
+        const bool bElegido = modo == QIcon::Selected;
+        const QColor fondo = m_paleta.color(bElegido ? QPalette::Highlight : QPalette::Button);
+        const QColor texto = m_paleta.color(bElegido ? QPalette::HighlightedText : QPalette::ButtonText);
         pintor->save();
         pintor->setRenderHint(QPainter::Antialiasing);
         if (modo == QIcon::Disabled)

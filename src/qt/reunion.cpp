@@ -10,12 +10,6 @@ namespace {
 constexpr std::size_t kLetrasDeBotones = 70;  // captions in one row of buttons
 constexpr std::size_t kLetrasDeIcono = 4;     // what a button with a picture takes of them
 
-bool EsImagenGrande(const Vista& vista)
-{
-    const auto* boton = dynamic_cast<const ui::Boton*>(&vista.control);
-    return boton != nullptr && boton->bImagenGrande;
-}
-
 std::size_t LetrasDe(const ui::Control& control)
 {
     const auto* boton = dynamic_cast<const ui::Boton*>(&control);
@@ -52,6 +46,12 @@ bool EsBoton(const Vista& vista)
         return true;
     const auto* seleccion = dynamic_cast<const ui::Seleccion*>(&vista.control);
     return seleccion != nullptr && seleccion->forma == ui::Seleccion::Forma::menu;
+}
+
+bool EsImagenGrande(const Vista& vista)
+{
+    const auto* boton = dynamic_cast<const ui::Boton*>(&vista.control);
+    return boton != nullptr && boton->bImagenGrande;
 }
 
 std::vector<Puesto> Reunir(const std::vector<Vista*>& vistas, bool bDentroDeGrupo)

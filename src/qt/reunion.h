@@ -20,4 +20,7 @@ std::vector<Puesto> Reunir(const std::vector<Vista*>& vistas, bool bDentroDeGrup
 /// A button, of whatever kind.
 bool EsBoton(const Vista& vista);
 
+/// A button that is a picture to be looked at.
+bool EsImagenGrande(const Vista& vista);
+
 }  // namespace efv::qt

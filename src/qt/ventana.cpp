@@ -372,8 +372,9 @@ void VentanaDialogo::showEvent(QShowEvent* evento)
 void VentanaDialogo::changeEvent(QEvent* evento)
 {
     QDialog::changeEvent(evento);
-    if (evento->type() == QEvent::PaletteChange && m_nAcciones == 0)
-        Refrescar();
+    // From the loop: a theme reaches the widgets in no order, and colours are worked out from their parents'.
+    if (evento->type() == QEvent::PaletteChange)
+        QMetaObject::invokeMethod(this, &VentanaDialogo::Refrescar, Qt::QueuedConnection);
 }
 
 }  // namespace efv::qt

@@ -142,7 +142,10 @@ private:
         QObject::connect(&Rejas(), &QAbstractItemView::doubleClicked, widget, abrir);
         const auto conectarPropias = [&](auto& rejilla) {
             rejilla.alPedirAbrir = abrir;
-            rejilla.alCambiarTamano = [this] { RepartirColumnas(); };
+            rejilla.alCambiarTamano = [this] {
+                RepartirColumnas();
+                MostrarElegida();
+            };
         };
         if (Arbol() != nullptr)
             conectarPropias(static_cast<Rejilla<QTreeView>&>(*widget));
@@ -197,6 +200,15 @@ private:
             Cabecera().resizeSection(i, m_aiAnchos[static_cast<std::size_t>(i)] + iParte);
             m_aiPuestos.push_back(Cabecera().sectionSize(i));
         }
+    }
+
+    // Before it is seen for the first time: made without a size, it scrolled to its row for nothing.
+    void MostrarElegida()
+    {
+        if (Rejas().viewport()->isVisible() || !Rejas().currentIndex().isValid())
+            return;
+        Rejas().verticalScrollBar()->setValue(0);
+        Rejas().scrollTo(Rejas().currentIndex());
     }
 
     void RefrescarContenido() override

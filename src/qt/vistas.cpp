@@ -1,6 +1,7 @@
 #include "qt/vistas.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QLabel>
 #include <QPalette>
@@ -67,12 +68,9 @@ void Vista::Refrescar()
 void Vista::RefrescarColores()
 {
     const QPalette base = widget->parentWidget()->palette();
-    // The colour in the low bits, "made by us" above them, the theme above that.
-    const quint64 aspecto = (static_cast<quint64>(base.cacheKey()) << 26U) | (quint64{1} << 25U) |
-                            (static_cast<quint64>(control.bSoloLectura) << 24U) | (control.color & 0xFFFFFFU);
-    if (aspecto == m_aspecto)
+    const Aspecto aspecto{base.cacheKey(), control.color, control.bSoloLectura};
+    if (std::exchange(m_aspecto, aspecto) == aspecto)
         return;
-    m_aspecto = aspecto;
     QPalette paleta;
     const QColor fondo = base.color(QPalette::Window);
     for (const auto grupo : {QPalette::Active, QPalette::Inactive}) {

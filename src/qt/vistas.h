@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include <QWidget>
 
@@ -63,9 +64,17 @@ protected:
     virtual bool Utilizable() const { return control.bHabilitado; }
 
 private:
+    /// What the colours are worked out from.
+    struct Aspecto {
+        qint64 tema;
+        ui::Color color;
+        bool bSoloLectura;
+        bool operator==(const Aspecto&) const = default;
+    };
+
     void RefrescarColores();
 
-    quint64 m_aspecto = 0;  // what the colours were worked out from
+    std::optional<Aspecto> m_aspecto;
 };
 
 std::unique_ptr<Vista> CrearVista(ui::Control& control, QWidget* padre, Accionador& accionador);

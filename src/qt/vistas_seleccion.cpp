@@ -158,6 +158,7 @@ public:
     bool RotulaPorSiMisma() const override { return true; }
 
 private:
+    static constexpr int kAireDeFlecha = 12;
     QPushButton& Pulsador() const { return static_cast<QPushButton&>(*widget); }
     bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
 
@@ -165,6 +166,8 @@ private:
     {
         Pulsador().setText(
             ConMnemonico(m_seleccion.csRotulo.empty() ? m_seleccion.Texto() : m_seleccion.csRotulo));
+        // The style keeps no distance between caption and arrow.
+        Pulsador().setMinimumWidth(Pulsador().sizeHint().width() + kAireDeFlecha);
         if (m_acsEntradas == m_seleccion.acsEntradas)
             return;
         m_acsEntradas = m_seleccion.acsEntradas;

@@ -85,7 +85,7 @@ public:
         Campo().setMaxLength(1 << 24);
         if (EsNumerica(edicion))
             Campo().setAlignment(Qt::AlignRight);
-        Campo().setMinimumWidth(Campo().fontMetrics().averageCharWidth() * (EsNumerica(edicion) ? 11 : 18));
+        Campo().setMinimumWidth(AnchoMinimo());
         QObject::connect(&Campo(), &QLineEdit::textEdited, &Campo(), [&](const QString& texto) {
             accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Teclear(edicion, DeQt(texto)); });
         });
@@ -100,6 +100,18 @@ public:
 
 private:
     QLineEdit& Campo() const { return static_cast<QLineEdit&>(*widget); }
+
+    // A text that it opens with is read whole, unless it is long.
+    int AnchoMinimo() const
+    {
+        const QFontMetrics letra = Campo().fontMetrics();
+        if (EsNumerica(m_edicion))
+            return letra.averageCharWidth() * 11;
+        const int iTexto = letra.horizontalAdvance(AQt(m_edicion.csTexto)) + kMarcoDeLinea;
+        return std::clamp(iTexto, letra.averageCharWidth() * 18, letra.averageCharWidth() * 34);
+    }
+
+    static constexpr int kMarcoDeLinea = 16;  // and the cursor
 
     void RefrescarContenido() override
     {

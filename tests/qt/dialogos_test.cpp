@@ -428,6 +428,21 @@ TEST(Ventana, LosColoresSeLeenSobreFondoOscuro)
     QApplication::setPalette(antes);
 }
 
+TEST(Ventana, UnTemaQueCambiaLlegaATodosSusColores)
+{
+    const QPalette antes = QApplication::palette();
+    Muestra d;
+    d.seccion.bSoloLectura = true;
+    Mostrar(d, [&](QDialog& v) {
+        QApplication::setPalette(QPalette(QColor(0x30, 0x30, 0x30), QColor(0x20, 0x20, 0x20)));
+        const auto& seccion = Hijo<QLineEdit>(v, "dSeccion");
+        EXPECT_TRUE(
+            QTest::qWaitFor([&] { return seccion.palette().color(QPalette::Base).lightness() < 80; }, 1000));
+        EXPECT_GT(Hijo<QLabel>(v, "nota").palette().color(QPalette::WindowText).lightness(), 150);
+    });
+    QApplication::setPalette(antes);
+}
+
 TEST(Presentador, LasCajasHablanEspanolYElCursorDeEsperaSeApila)
 {
     qt::InstalarPresentadorQt();

@@ -6,6 +6,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QPalette>
+#include <QScreen>
 #include <QScrollBar>
 #include <QThread>
 #include <QTimer>
@@ -25,51 +27,81 @@ void Escribir(const std::filesystem::path& archivo, bool bEscrito)
         throw std::runtime_error("No se puede escribir «" + archivo.string() + "».");
 }
 
-void CapturarVentana(QWidget& ventana, const std::filesystem::path& archivo)
+// The theme of a dark screen for as long as it lives.
+class TemaOscuro {
+public:
+    TemaOscuro() { QApplication::setPalette(QPalette(QColor(0x3A, 0x3D, 0x41), QColor(0x2B, 0x2D, 0x30))); }
+    ~TemaOscuro() { QApplication::setPalette(m_antes); }
+    TemaOscuro(const TemaOscuro&) = delete;
+    TemaOscuro& operator=(const TemaOscuro&) = delete;
+
+private:
+    QPalette m_antes = QApplication::palette();
+};
+
+// A picture in each theme. What doesn't fit is a fault.
+void CapturarVentana(QWidget& ventana, const std::filesystem::path& carpeta, const std::string& nombre,
+                     ResultadoCapturas& resultado)
 {
-    QApplication::processEvents();
-    Escribir(archivo, ventana.grab().save(QString::fromStdString(archivo.string())));
+    const auto capturar = [&](const char* sufijo) {
+        // A theme comes with one turn of the loop, what follows from it with the next.
+        QApplication::processEvents();
+        QApplication::processEvents();
+        const std::filesystem::path archivo = carpeta / (nombre + sufijo);
+        Escribir(archivo, ventana.grab().save(QString::fromStdString(archivo.string())));
+        ++resultado.nCapturas;
+    };
+    capturar(".png");
+    {
+        const TemaOscuro oscuro;
+        capturar("-oscuro.png");
+    }
+    for (const QScrollBar* barra : ventana.findChildren<QScrollBar*>())
+        if (barra->orientation() == Qt::Horizontal && barra->isVisible() && barra->maximum() > 0)
+            resultado.faltas.push_back("En «" + nombre + "» no cabe todo a lo ancho.");
+    if (const QSize sitio = ventana.screen()->availableSize();
+        ventana.width() > sitio.width() || ventana.height() > sitio.height())
+        resultado.faltas.push_back("«" + nombre + "» no cabe en la pantalla.");
 }
 
-int CapturarEsquema(const Lamina& lamina, const std::filesystem::path& carpeta, const std::string& nombre)
+void CapturarEsquema(const Lamina& lamina, const std::filesystem::path& carpeta, const std::string& nombre,
+                     ResultadoCapturas& resultado)
 {
-    int nCapturas = 0;
     for (const auto& [tema, sufijo] :
          {std::pair(Tema::claro, ".png"), std::pair(Tema::oscuro, "-oscuro.png")}) {
         const std::filesystem::path archivo = carpeta / (nombre + sufijo);
         Escribir(archivo, ImagenDe(lamina, tema).save(QString::fromStdString(archivo.string())));
-        ++nCapturas;
+        ++resultado.nCapturas;
     }
-    return nCapturas;
 }
 
-// Takes a picture of the next modal window, whoever opens it, and cancels it.
-void CapturarLaQueSeAbra(QObject& mientras, const std::filesystem::path& archivo)
+// Takes pictures of the next modal window, whoever opens it, and cancels it.
+void CapturarLaQueSeAbra(QObject& mientras, const std::filesystem::path& carpeta, const std::string& nombre,
+                         ResultadoCapturas& resultado)
 {
     auto* reloj = new QTimer(&mientras);
-    QObject::connect(reloj, &QTimer::timeout, reloj, [reloj, archivo] {
+    QObject::connect(reloj, &QTimer::timeout, reloj, [&resultado, reloj, carpeta, nombre] {
         auto* ventana = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (ventana == nullptr || !ventana->isVisible())
             return;
         reloj->stop();
-        CapturarVentana(*ventana, archivo);
+        CapturarVentana(*ventana, carpeta, nombre, resultado);
         ventana->reject();
     });
     reloj->start(5);
 }
 
-// What the presenter itself shows. Gives how many pictures it took.
-int CapturarPresentador(const std::filesystem::path& carpeta)
+// What the presenter itself shows.
+void CapturarPresentador(const std::filesystem::path& carpeta, ResultadoCapturas& resultado)
 {
     qt::InstalarPresentadorQt();
     QObject mientras;
-    CapturarLaQueSeAbra(mientras, carpeta / "presentador-color.png");
+    CapturarLaQueSeAbra(mientras, carpeta, "presentador-color", resultado);
     ui::PresentadorActual().ElegirColor(94);
-    CapturarLaQueSeAbra(mientras, carpeta / "presentador-trabajo.png");
+    CapturarLaQueSeAbra(mientras, carpeta, "presentador-trabajo", resultado);
     const auto trabajo = ui::PresentadorActual().EmpezarTrabajo(L"Simulando el año hora a hora...", true);
     while (trabajo->Avanzar(0.4))
         QThread::msleep(5);
-    return 2;
 }
 
 // Takes a picture of each dialog that opens, then does in it what its screen says.
@@ -125,26 +157,17 @@ public:
     void Refrescar(ui::Dialogo& /*dialogo*/) override {}
 
 private:
-    void Capturar(QDialog& ventana, const std::string& nombre)
-    {
-        CapturarVentana(ventana, m_carpeta / (nombre + ".png"));
-        ++m_resultado.nCapturas;
-        for (const QScrollBar* barra : ventana.findChildren<QScrollBar*>())
-            if (barra->orientation() == Qt::Horizontal && barra->isVisible() && barra->maximum() > 0)
-                m_resultado.faltas.push_back("En «" + nombre + "» no cabe todo a lo ancho.");
-    }
-
     // One picture, or one of each page.
     void CapturarPaginas(ui::Dialogo& dialogo, QDialog& ventana, const std::string& nombre)
     {
         ui::Seleccion* const paginas = dialogo.Pestanas();
         if (paginas == nullptr)
-            return Capturar(ventana, nombre);
+            return CapturarVentana(ventana, m_carpeta, nombre, m_resultado);
         const int iAntes = paginas->iSeleccion;
         for (int i = 0; i < static_cast<int>(paginas->acsEntradas.size()); ++i) {
             dialogo.Elegir(*paginas, i);
             qt::RefrescarVentana(&ventana);
-            Capturar(ventana, nombre + "-p" + std::to_string(i + 1));
+            CapturarVentana(ventana, m_carpeta, nombre + "-p" + std::to_string(i + 1), m_resultado);
         }
         dialogo.Elegir(*paginas, iAntes);
     }
@@ -173,18 +196,18 @@ ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::fi
     return resultado;
 }
 
-int CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta)
+ResultadoCapturas CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta)
 {
-    int nCapturas = 0;
+    ResultadoCapturas resultado;
     for (const char* nombre : VentanaPrincipal::Pestanas()) {
         ventana.MostrarPestana(nombre);
-        CapturarVentana(ventana, carpeta / (std::string("ventana-") + nombre + ".png"));
-        ++nCapturas;
+        CapturarVentana(ventana, carpeta, std::string("ventana-") + nombre, resultado);
     }
+    CapturarPresentador(carpeta, resultado);
     const CProyectoEstudio& proyecto = ventana.LaSesion().Proyecto();
-    return nCapturas + CapturarPresentador(carpeta) +
-           CapturarEsquema(Dibujar(EsquemaDe(proyecto.aislada)), carpeta, "esquema-aislada") +
-           CapturarEsquema(Dibujar(EsquemaDe(proyecto.red)), carpeta, "esquema-red");
+    CapturarEsquema(Dibujar(EsquemaDe(proyecto.aislada)), carpeta, "esquema-aislada", resultado);
+    CapturarEsquema(Dibujar(EsquemaDe(proyecto.red)), carpeta, "esquema-red", resultado);
+    return resultado;
 }
 
 }  // namespace efv::estudio

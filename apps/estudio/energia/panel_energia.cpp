@@ -59,17 +59,18 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
     bAceptarVisible = false;
     csCancelar = L"&Cerrar";
     const auto campo = [this](const char* nombre, const wchar_t* rotulo, double& d, ui::Intervalo limites,
-                              int iDecimales) -> ui::Edicion& {
+                              int iDecimales, int iColumna) -> ui::Edicion& {
         auto& edicion = Anadir<ui::Edicion>(nombre, rotulo);
         edicion.destino = &d;
         edicion.limites = limites;
         edicion.iDecimales = iDecimales;
+        edicion.colocacion.iColumna = iColumna;
         edicion.alCambiar = [this] { AlCambiar(); };
         return edicion;
     };
-    m_inclinacion = &campo("dInclinacion", L"&Inclinación (º):", m_dInclinacion, {0.0, 90.0}, 1);
-    campo("dPotencia", L"&Potencia pico (kWp):", m_dPotencia, {0.0, 1e6}, 2);
-    campo("dPR", L"P&R [0-1]:", m_dPR, {0.0, 1.0}, 2);
+    m_inclinacion = &campo("dInclinacion", L"&Inclinación (º):", m_dInclinacion, {0.0, 90.0}, 1, 0);
+    campo("dPotencia", L"&Potencia pico (kWp):", m_dPotencia, {0.0, 1e6}, 2, 1);
+    campo("dPR", L"P&R [0-1]:", m_dPR, {0.0, 1.0}, 2, 2);
     m_nota = &Anadir<ui::TextoFijo>("csNota", L"");
     m_tabla = &Anadir<ui::Lista>("tabla", L"", ui::Lista::Forma::tabla);
     m_tabla->acsColumnas = {L"Mes",
@@ -82,7 +83,7 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
     m_tabla->otras = ui::Alineacion::derecha;
     m_tabla->modelo = std::make_shared<FilasEnergia>(m_filas);
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
-    m_grafica->colocacion.iColumna = 1;
+    m_grafica->colocacion.bEstirar = true;
     Volcar();
     AlCambiar();
 }

@@ -37,7 +37,7 @@ PanelResumen::PanelResumen(std::string_view nombreClase, std::wstring_view csBot
     m_tabla->modelo = std::make_shared<FilasResumen>(m_lineas);
     if (m_leer().grafica) {
         m_grafica = &Anadir<ui::Grafica>("grafica", L"");
-        m_grafica->colocacion.iColumna = 1;
+        m_grafica->colocacion.bEstirar = true;
     }
     Actualizar();
 }
