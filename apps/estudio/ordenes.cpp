@@ -23,7 +23,7 @@ constexpr const char* kArchivo = "&Archivo";
 constexpr const char* kDiseno = "&Diseño";
 constexpr const char* kEsquema = "&Esquema";
 constexpr const char* kCatalogos = "&Catálogos";
-constexpr const char* kAyuda = "Ay&uda";
+constexpr const char* kAyuda = "A&yuda";
 
 using Ventana = VentanaPrincipal;
 

@@ -60,15 +60,15 @@ std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
 {
     using Ventana = VentanaPrincipal;
     static constexpr auto kFilas = std::to_array<FilaPestana>({
-        {"energia", "&Energía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, nullptr,
+        {"energia", "Ener&gía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, nullptr,
          std::nullopt},
-        {"aislada", "&Instalación aislada", [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
+        {"aislada", "Ins&talación aislada", [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
          [](const CProyectoEstudio& p) { return LaminaDe(p.aislada); },
          L"Todavía no hay diseño.\n«Asistente de instalación aislada…» lo propone.", Diseno::aislada},
-        {"red", "Conexión a &red", [](Ventana& v) -> ui::Dialogo& { return v.m_red; },
+        {"red", "Cone&xión a red", [](Ventana& v) -> ui::Dialogo& { return v.m_red; },
          [](const CProyectoEstudio& p) { return LaminaDe(p.red); },
          L"Todavía no hay diseño.\n«Asistente de conexión a red…» lo propone.", Diseno::red},
-        {"consumo", "&Consumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, nullptr,
+        {"consumo", "Con&sumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, nullptr,
          std::nullopt},
     });
     return kFilas;
@@ -87,15 +87,15 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
       m_lugar(m_sesion, localidades),
       m_energia(m_sesion.Proyecto().lugar),
       m_aislada(
-          "PanelAislada", L"&Asistente de instalación aislada…",
+          "PanelAislada", L"Asistente de &instalación aislada…",
           [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto().aislada)}; },
           [this] { DisenarAislada(m_sesion); }),
       m_red(
-          "PanelRed", L"&Asistente de conexión a red…",
+          "PanelRed", L"Asistente de c&onexión a red…",
           [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto().red)}; },
           [this] { DisenarRed(m_sesion); }),
       m_consumo(
-          "PanelConsumo", L"&Datos del consumo…",
+          "PanelConsumo", L"Dat&os del consumo…",
           [this]() -> PanelResumen::Contenido {
               const Consumo& datos = m_sesion.Proyecto().consumo;
               const AnoDeConsumo ano = AnoDe(datos);

@@ -342,6 +342,68 @@ TEST(Ventana, UnCampoQueProtestaAlSalirLoHaceUnaVez)
     EXPECT_EQ(d.ResultadoFinal(), ui::Dialogo::cancelado);
 }
 
+// Whatever the person does elsewhere leaves the field that they typed into: before it, and once. Only Cancel
+// doesn't.
+TEST(Ventana, LoQueSeHaceEnOtroSitioDejaElCampoUnaVez)
+{
+    struct Accion {
+        const char* nombre;
+        std::function<void(QDialog&)> hacer;
+        int nSalidas;
+    };
+    const auto clic = [](QDialog& v, const char* nombre, QPoint lugar = {6, 8}) {
+        QTest::mouseClick(&Hijo<QWidget>(v, nombre), Qt::LeftButton, {}, lugar);
+    };
+    const std::vector<Accion> acciones{
+        {"button", [&](QDialog& v) { clic(v, "boton"); }, 1},
+        {"button by its key",
+         [&](QDialog& v) {
+             QTest::keyClick(v.windowHandle(), Qt::Key_C, Qt::AltModifier);
+             QTest::qWait(200);  // the button is seen going down
+         },
+         1},
+        {"tick", [&](QDialog& v) { clic(v, "iActivo"); }, 1},
+        {"radio", [&](QDialog& v) { Hijo<QWidget>(v, "iConexion").findChildren<QRadioButton*>()[1]->click(); },
+         1},
+        {"choice",
+         [&](QDialog& v) {
+             Hijo<QComboBox>(v, "iTipo").setFocus();
+             QTest::keyClick(&Hijo<QComboBox>(v, "iTipo"), Qt::Key_Down);
+         },
+         1},
+        {"menu", [&](QDialog& v) { Hijo<QPushButton>(v, "menu").menu()->actions()[0]->trigger(); }, 1},
+        {"slider", [&](QDialog& v) { Hijo<QSlider>(v, "deslizador").setValue(500); }, 1},
+        {"list", [&](QDialog& v) { clic(v, "tabla"); }, 1},
+        {"tab", [&](QDialog& v) { Hijo<QTabWidget>(v, "tab").setCurrentIndex(1); }, 1},
+        {"another field", [&](QDialog& v) { clic(v, "dPotencia"); }, 1},
+        {"Enter", [&](QDialog& v) { QTest::keyClick(&Hijo<QLineEdit>(v, "csNombre"), Qt::Key_Return); }, 1},
+        {"OK", [&](QDialog& v) { clic(v, "aceptar"); }, 1},
+        {"Escape", [&](QDialog& v) { QTest::keyClick(&Hijo<QLineEdit>(v, "csNombre"), Qt::Key_Escape); }, 0},
+        {"Cancel", [&](QDialog& v) { clic(v, "cancelar"); }, 0},
+    };
+    for (const Accion& accion : acciones) {
+        Muestra d;
+        int nAntes = -1;  // left, when the action came
+        const auto anotar = [&] { nAntes = nAntes < 0 ? d.nSalidas : nAntes; };
+        d.boton.alPulsar = d.activo.alCambiar = d.conexion.alElegir = d.tipo.alElegir = d.menu.alElegir =
+            anotar;
+        d.deslizador.alMover = d.paginas.alElegir = anotar;
+        Mostrar(d, [&](QDialog& v) {
+            QTest::keyClicks(&Hijo<QLineEdit>(v, "csNombre"), "X");
+            EXPECT_EQ(d.nSalidas, 0) << accion.nombre;
+            const QPointer<QDialog> ventana(&v);
+            accion.hacer(v);
+            QTest::qWait(20);
+            EXPECT_EQ(d.nSalidas, accion.nSalidas) << accion.nombre;
+            if (!d.Terminado())
+                Hijo<QPushButton>(*ventana, "aceptar").click();
+            EXPECT_EQ(d.nSalidas, accion.nSalidas) << accion.nombre;
+        });
+        EXPECT_NE(nAntes, 0) << accion.nombre;
+        EXPECT_EQ(d.csNombre, accion.nSalidas > 0 ? L"X" : L"Panel") << accion.nombre;
+    }
+}
+
 TEST(Ventana, DentroDeUnaAccionSeAbrenOtrasYSeVuelve)
 {
     Muestra d, anidado;
@@ -380,15 +442,17 @@ TEST(Ventana, ElTemporizadorEsperaALaCaja)
             }
         }
     } d;
-    d.iTemporizador = 10;
     int nEnLaCaja = 0;
     EXPECT_EQ(Mostrar(d,
-                      [&](QDialog& /*v*/) {
+                      [&](QDialog& v) {
                           CuandoSeAbra([&](QDialog& caja) {
                               QTest::qWait(60);
                               nEnLaCaja = d.nVencimientos;
                               caja.accept();
                           });
+                          // Not before: its box would be up before anybody waits for it.
+                          d.iTemporizador = 10;
+                          qt::RefrescarVentana(&v);
                           QTest::qWait(200);
                       }),
               ui::Dialogo::ok);

@@ -69,8 +69,8 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
         return edicion;
     };
     m_inclinacion = &campo("dInclinacion", L"&Inclinación (º):", m_dInclinacion, {0.0, 90.0}, 1, 0);
-    campo("dPotencia", L"&Potencia pico (kWp):", m_dPotencia, {0.0, 1e6}, 2, 1);
-    campo("dPR", L"P&R [0-1]:", m_dPR, {0.0, 1.0}, 2, 2);
+    campo("dPotencia", L"P&otencia pico (kWp):", m_dPotencia, {0.0, 1e6}, 2, 1);
+    campo("dPR", L"PR [0-1]:", m_dPR, {0.0, 1.0}, 2, 2);
     m_nota = &Anadir<ui::TextoFijo>("csNota", L"");
     m_tabla = &Anadir<ui::Lista>("tabla", L"", ui::Lista::Forma::tabla);
     m_tabla->acsColumnas = {L"Mes",

@@ -58,7 +58,7 @@ void PanelLugar::AnadirLugar()
     };
     campo("csNombre", L"&Nombre:", &m_lugar.csNombre);
     campo("csDetalle", L"P&rovincia o país:", &m_lugar.csDetalle);
-    auto& latitud = campo("dLatitud", L"La&titud (º):", &m_lugar.dLatitud);
+    auto& latitud = campo("dLatitud", L"Latit&ud (º):", &m_lugar.dLatitud);
     latitud.limites = ui::Intervalo{-90.0, 90.0};
     latitud.iDecimales = 4;
     // Its entries are the assistants' numbers.

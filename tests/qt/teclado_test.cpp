@@ -1,0 +1,167 @@
+// The keyboard in every dialog and panel of which there are pictures: one key, one control; a way through them
+// all.
+#include <map>
+#include <set>
+#include <string>
+
+#include <QAbstractButton>
+#include <QGroupBox>
+#include <QLabel>
+#include <QMenuBar>
+#include <QTabBar>
+
+#include "anfitrion/simbolos.h"
+#include "apps/estudio/apoyo.h"
+#include "capturas/registro.h"
+#include "muestra.h"
+#include "proyecto/ejemplo.h"
+#include "ventana_principal.h"
+
+namespace {
+
+using namespace efv;
+using namespace efv::estudio;
+using namespace efv::pruebas;
+
+// The letters that widgets in sight answer to, with how many do.
+std::map<QString, QStringList> TeclasDe(const QWidget& ventana)
+{
+    std::map<QString, QStringList> teclas;
+    const auto contar = [&](const QString& rotulo) {
+        if (const QKeySequence tecla = QKeySequence::mnemonic(rotulo); !tecla.isEmpty())
+            teclas[tecla.toString()] << rotulo;
+    };
+    for (const auto* boton : ventana.findChildren<QAbstractButton*>())
+        if (boton->isVisibleTo(&ventana))
+            contar(boton->text());
+    for (const auto* rotulo : ventana.findChildren<QLabel*>())
+        if (rotulo->buddy() != nullptr && rotulo->isVisibleTo(&ventana))
+            contar(rotulo->text());
+    for (const auto* barra : ventana.findChildren<QTabBar*>())
+        for (int i = 0; i < barra->count(); ++i)
+            contar(barra->tabText(i));
+    for (const auto* barra : ventana.findChildren<QMenuBar*>())
+        for (const QAction* menu : barra->actions())
+            contar(menu->text());
+    return teclas;
+}
+
+void UnaTeclaUnControl(const QWidget& ventana, const std::string& nombre)
+{
+    for (const auto& [tecla, rotulos] : TeclasDe(ventana))
+        EXPECT_EQ(rotulos.size(), 1) << nombre << ": " << tecla.toStdString() << " for "
+                                     << rotulos.join(", ").toStdString();
+}
+
+// What Tab may stop at stands on the way that Tab goes.
+void ElTabuladorPasaPorTodos(QWidget& ventana, const std::string& nombre)
+{
+    std::set<const QWidget*> vistos;
+    for (const QWidget* w = &ventana; vistos.insert(w).second;)
+        w = w->nextInFocusChain();
+    for (const QWidget* hijo : ventana.findChildren<QWidget*>())
+        if ((hijo->focusPolicy() & Qt::TabFocus) != 0 && hijo->window() == &ventana) {
+            EXPECT_TRUE(vistos.contains(hijo)) << nombre << ": " << hijo->objectName().toStdString();
+        }
+}
+
+// What can be written in a form comes in the order in which they are read: a later one isn't above an earlier
+// one of the same column.
+void ElOrdenEsElDeLaLectura(const ui::Dialogo& dialogo, const QWidget& ventana)
+{
+    const QWidget* anterior = nullptr;
+    for (const ui::Control* control : dialogo.Controles()) {
+        const auto* w = ventana.findChild<QWidget*>(QString::fromStdString(control->nombre));
+        if (control->nombre.empty() || control->bSoloLectura || w == nullptr || !w->isVisibleTo(&ventana) ||
+            w->focusPolicy() == Qt::NoFocus)
+            continue;
+        if (anterior != nullptr && anterior->parentWidget() == w->parentWidget()) {
+            const QRect antes = anterior->geometry();
+            const QRect ahora = w->geometry();
+            const bool bMismaColumna = ahora.left() < antes.right() && antes.left() < ahora.right();
+            EXPECT_FALSE(bMismaColumna && ahora.bottom() < antes.top())
+                << dialogo.clase << ": " << control->nombre << " after "
+                << anterior->objectName().toStdString();
+        }
+        anterior = w;
+    }
+}
+
+// Looks at each dialog that opens in place of a person.
+class PresentadorQueMira final : public ui::Presentador {
+public:
+    explicit PresentadorQueMira(const Pantalla& pantalla) : m_pantalla(pantalla)
+    {
+        ui::InstalarPresentador(this);
+    }
+    ~PresentadorQueMira() override { ui::InstalarPresentador(nullptr); }
+    int nVistos = 0;
+
+    void MostrarModal(ui::Dialogo& dialogo) override
+    {
+        ++nVistos;
+        const std::unique_ptr<QDialog> ventana(qt::CrearVentana(dialogo));
+        ventana->show();
+        ui::Seleccion* const paginas = dialogo.Pestanas();
+        const int nPaginas = paginas != nullptr ? static_cast<int>(paginas->acsEntradas.size()) : 1;
+        for (int i = 0; i < nPaginas; ++i) {
+            if (paginas != nullptr)
+                dialogo.Elegir(*paginas, i);
+            qt::RefrescarVentana(ventana.get());
+            UnaTeclaUnControl(*ventana, dialogo.clase);
+            ElOrdenEsElDeLaLectura(dialogo, *ventana);
+        }
+        ElTabuladorPasaPorTodos(*ventana, dialogo.clase);
+        if (m_pantalla.recorrer)
+            m_pantalla.recorrer(dialogo);
+        if (!dialogo.Terminado())
+            dialogo.Cancelar();
+    }
+    ui::Respuesta MostrarMensaje(const ui::Mensaje& mensaje) override
+    {
+        return m_nadie.MostrarMensaje(mensaje);
+    }
+    void MostrarRechazo(ui::Dialogo& /*dialogo*/, const ui::Rechazo& /*rechazo*/) override {}
+    std::optional<CString> ElegirFichero(const ui::PeticionFichero& /*peticion*/) override { return {}; }
+    CString LeerPortapapeles() override { return {}; }
+    void EscribirPortapapeles(const CString& /*csTexto*/) override {}
+    void Esperar(bool /*bEmpieza*/) override {}
+    void Refrescar(ui::Dialogo& /*dialogo*/) override {}
+
+private:
+    const Pantalla& m_pantalla;
+    ui::PresentadorNulo m_nadie;
+};
+
+class Teclado : public ConCatalogos {
+protected:
+    Teclado() { phSetQuorvelBIMCtrl(control); }
+
+    static inline ControlAnfitrion control;  // the module keeps it for good
+    VentanaPrincipal ventana{LeerLocalidades(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/localidades.xml"))};
+    Sesion& sesion = ventana.LaSesion();
+};
+
+TEST_F(Teclado, CadaTeclaEsDeUnSoloControlYElTabuladorPasaPorTodos)
+{
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    int nVistos = 0;
+    for (const Pantalla& pantalla : Pantallas(sesion)) {
+        PresentadorQueMira presentador(pantalla);
+        pantalla.abrir();
+        nVistos += presentador.nVistos;
+    }
+    EXPECT_GT(nVistos, 25);
+}
+
+TEST_F(Teclado, TambienEnLaVentanaDelPrograma)
+{
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    ventana.show();
+    for (const char* nombre : VentanaPrincipal::Pestanas()) {
+        ventana.MostrarPestana(nombre);
+        UnaTeclaUnControl(ventana, nombre);
+    }
+}
+
+}  // namespace
