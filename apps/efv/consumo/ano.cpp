@@ -1,13 +1,13 @@
 #include "consumo/ano.h"
 
 #include <algorithm>
-#include <fstream>
 
 #include <fmt/format.h>
 
 #include <quorvel/framework/CException.h>
 
 #include "comun/consola.h"
+#include "comun/entrada.h"
 #include "comun/numeros.h"
 #include "rpc/errores.h"
 #include "rpc/valores.h"
@@ -125,13 +125,7 @@ AnoConsumo AnoDeMeses(const EnergiasMensuales& datos)
 
 AnoConsumo AnoDeListaDeReceptores(const std::string& ruta)
 {
-    std::ifstream fichero(ruta, std::ios::binary);
-    std::string bytes(kMaximoJson + 1, '\0');
-    fichero.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(fichero.gcount(), 0)));
-    if (bytes.empty() || bytes.size() > kMaximoJson)
-        throw ErrorEjecucion(
-            fmt::format("no se puede leer «{}»: no existe, está vacío o pasa de 64 MiB", ruta));
+    const std::string bytes = LeerEntrada(ruta, kMaximoJson);
     const rpc::Json lista = rpc::Json::parse(bytes, nullptr, false);
     if (!lista.is_array())
         throw ErrorEjecucion(fmt::format("«{}» no es una lista JSON de receptores", ruta));

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <fstream>
 #include <limits>
 
 #include <fmt/format.h>
@@ -10,6 +9,7 @@
 #include <quorvel/localidades.h>
 
 #include "comun/consola.h"
+#include "comun/entrada.h"
 #include "comun/numeros.h"
 #include "rpc/valores.h"
 
@@ -80,12 +80,7 @@ JsonLeido AnalizarJson(std::string_view bytes)
 
 JsonLeido LeerFicheroJson(const std::string& ruta)
 {
-    std::ifstream fichero(ruta, std::ios::binary);
-    std::string bytes(kFicheroMaximo + 1, '\0');
-    fichero.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-    bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(fichero.gcount(), 0)));
-    if (bytes.empty() || bytes.size() > kFicheroMaximo)
-        throw ErrorEjecucion(fmt::format("no se puede leer «{}»: no existe, está vacío o pasa de 1 MiB", ruta));
+    const std::string bytes = LeerEntrada(ruta, kFicheroMaximo);
     try {
         return AnalizarJson(bytes);
     } catch (const rpc::ErrorValor& error) {

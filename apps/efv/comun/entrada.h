@@ -1,0 +1,13 @@
+// What a command reads whole: a file, or a pipe that the shell gives in its place.
+#pragma once
+
+#include <cstddef>
+#include <string>
+
+namespace efv::orden {
+
+/// The bytes of a file, pipe or device. @throws ErrorEjecucion with the cause: it can't be read, is empty or
+/// holds more than `maximo` bytes
+std::string LeerEntrada(const std::string& ruta, std::size_t maximo);
+
+}  // namespace efv::orden
