@@ -20,7 +20,7 @@ using Referencia = std::variant<int*, double*, CString*>;
 using Valores = std::map<std::string, Referencia>;
 
 struct VectorDiseno {
-    bool bForzar;
+    bool bForzar = false;
     std::vector<std::pair<std::string, std::string>> entradas, resultados;
 
     std::string Entrada(const std::string& nombre) const
@@ -38,7 +38,8 @@ inline std::vector<VectorDiseno> LeerVectores(const std::string& clase)
     for (const auto& fila : LeerCsv("assistants/vectores.csv")) {
         if (fila[0] != clase)
             continue;
-        VectorDiseno& vector = vectores.emplace_back(fila[1] == "1");
+        VectorDiseno& vector = vectores.emplace_back();
+        vector.bForzar = fila[1] == "1";
         auto* destino = &vector.entradas;
         for (std::size_t i = 2; i < fila.size(); ++i) {
             const std::size_t igual = fila[i].find('=');

@@ -1,9 +1,11 @@
 // Tilt, minimum power, grid sale and the climate library, as a scripted host asks for them.
 #include <vector>
 
-#include "apoyo.h"
+#include "comun/anfitrion.h"
 
-namespace efv::orden::pruebas {
+namespace efv::rpc::pruebas {
+
+using namespace efv::pruebas;
 namespace {
 
 TEST(FuncionesEstudio, ElCieloYLaInclinacionOptimaDeUnLugar)
@@ -63,4 +65,4 @@ TEST(FuncionesEstudio, UnaVentaALaRedLlenaSuRegistro)
 }
 
 }  // namespace
-}  // namespace efv::orden::pruebas
+}  // namespace efv::rpc::pruebas

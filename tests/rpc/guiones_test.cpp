@@ -1,9 +1,9 @@
 // Scripts and transcripts of dialogs between JSON and a dialog's controls.
 #include "rpc/guiones.h"
-#include "apoyo.h"
+#include "comun/anfitrion.h"
 #include "rpc/json.h"
 
-namespace efv::orden::pruebas {
+namespace efv::rpc::pruebas {
 namespace {
 
 // Plays the script, one line of JSON, and gives the dialog's transcript.
@@ -90,4 +90,4 @@ TEST(Guiones, LoQueUnaPersonaNoPuedeMoverEsUnError)
 }
 
 }  // namespace
-}  // namespace efv::orden::pruebas
+}  // namespace efv::rpc::pruebas

@@ -3,11 +3,15 @@
 #include <limits>
 #include <set>
 
-#include "apoyo.h"
+#include "comun/anfitrion.h"
+#include "comun/ficheros.h"
+#include "comun/tabla_de_prueba.h"
 #include "rpc/presupuesto.h"
 #include "rpc/tabla_funciones.h"
 
-namespace efv::orden::pruebas {
+namespace efv::rpc::pruebas {
+
+using namespace efv::pruebas;
 namespace {
 
 using ::testing::Test;
@@ -164,7 +168,7 @@ TEST(Argumentos, UnTextoAusenteSigueAusenteYUnNuloDentroSeRechaza)
     Anfitrion anfitrion;
     EXPECT_EQ(anfitrion.Resultado("phSetPathApp", {"é€😀\t"})["return"], nullptr);
     EXPECT_EQ(anfitrion.Resultado("phGetPathApp", Json::array())["return"], "é€😀\t");
-    EXPECT_EQ(anfitrion.Resultado("phSetPathApp", {nullptr})["params"], Json({nullptr}));
+    EXPECT_EQ(anfitrion.Resultado("phSetPathApp", {nullptr})["params"], Json::array({nullptr}));
     EXPECT_EQ(anfitrion.Resultado("phGetPathApp", Json::array())["return"], "");
     EXPECT_EQ(anfitrion.Error("phSetPathApp", {std::string("a\0b", 3)}).first, -32602);
 }
@@ -305,7 +309,7 @@ TEST(Control, RespondeLoQueSeLeDioHastaQueSeSustituye)
     EXPECT_EQ(anfitrion.Resultado(funcion, {8})["return"], 0);
     EXPECT_EQ(anfitrion.Resultado(funcion, {9})["return"], 0);
     EXPECT_EQ(anfitrion.Resultado("phGetFirstPositionTypeAlimentacionInSmartBlockRef", {7})["return"], 0);
-    EXPECT_EQ(anfitrion.Resultado("phSetQuorvelBIMCtrl", {nullptr})["params"], Json({nullptr}));
+    EXPECT_EQ(anfitrion.Resultado("phSetQuorvelBIMCtrl", {nullptr})["params"], Json::array({nullptr}));
     EXPECT_EQ(anfitrion.Resultado(funcion, {7})["return"], 2);
     EXPECT_EQ(anfitrion.Resultado(funcion, {7}, {{"control", Json::object()}})["return"], 0);
     EXPECT_EQ(anfitrion.Error("phSetQuorvelBIMCtrl", {1}).first, -32602);
@@ -434,4 +438,4 @@ TEST(Cadenas, SePidenPorNumero)
 }
 
 }  // namespace
-}  // namespace efv::orden::pruebas
+}  // namespace efv::rpc::pruebas

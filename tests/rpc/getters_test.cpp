@@ -1,9 +1,12 @@
 // The order of arguments of the catalogues' data functions is what other programs rely on.
 #include <map>
 
-#include "apoyo.h"
+#include "comun/anfitrion.h"
+#include "comun/ficheros.h"
 
-namespace efv::orden::pruebas {
+namespace efv::rpc::pruebas {
+
+using namespace efv::pruebas;
 namespace {
 
 struct CasoGetter {
@@ -114,4 +117,4 @@ TEST(Getters, DanCadaCampoEnSuSitioYNadaDeUnModeloQueNoExiste)
 }
 
 }  // namespace
-}  // namespace efv::orden::pruebas
+}  // namespace efv::rpc::pruebas
