@@ -6,5 +6,6 @@
 #include <quorvel/report/documento.h>
 #include <quorvel/report/equipos.h>
 #include <quorvel/report/ficha.h>
+#include <quorvel/report/informe.h>
 #include <quorvel/report/texto.h>
 #include <quorvel/report/venta.h>

@@ -10,6 +10,8 @@
 #include <quorvel/clima.h>
 
 #include "rpc/errores.h"
+#include "rpc/metodo_informe.h"
+#include "rpc/registro_json.h"
 #include "rpc/tabla_funciones.h"
 #include "rpc/valores.h"
 
@@ -50,24 +52,6 @@ std::vector<std::byte> DesdeHexadecimal(const Json& j)
     for (std::size_t i = 0; i < bytes.size(); ++i)
         bytes[i] = (Cifra(texto[2 * i]) << 4) | Cifra(texto[2 * i + 1]);
     return bytes;
-}
-
-const Json& Miembro(const Json& params, std::string_view nombre, std::string_view esperado)
-{
-    const auto miembro = params.is_object() ? params.find(nombre) : params.end();
-    if (miembro == params.end())
-        throw ErrorValor(fmt::format("{}: se esperaba {}", nombre, esperado));
-    return *miembro;
-}
-
-std::unique_ptr<CObject> CrearRegistro(const Json& nombre)
-{
-    if (!nombre.is_string())
-        Esperaba("el nombre de un registro", nombre);
-    const CRuntimeClass* clase = CRuntimeClass::FromName(nombre.get_ref<const std::string&>());
-    if (clase == nullptr || clase->m_pTabla == nullptr)
-        Esperaba("el nombre de un registro", nombre);
-    return clase->CreateObject();
 }
 
 void Discover(const Json& params, std::string& salida)
@@ -204,6 +188,8 @@ MetodoPropio BuscarMetodoPropio(std::string_view nombre)
         return String;
     if (nombre == "rpc.climate")
         return Climate;
+    if (nombre == "rpc.report")
+        return EscribirInforme;
     return nullptr;
 }
 

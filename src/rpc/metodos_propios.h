@@ -11,7 +11,7 @@ namespace efv::rpc {
 /// Appends the method's whole `result` to `salida`. @throws ErrorRpc
 using MetodoPropio = void (*)(const Json& params, std::string& salida);
 
-/// `rpc.discover`, `rpc.archive`, `rpc.string`; null for another name.
+/// `rpc.discover`, `rpc.archive`, `rpc.string`, `rpc.climate`, `rpc.report`; null for another name.
 MetodoPropio BuscarMetodoPropio(std::string_view nombre);
 
 }  // namespace efv::rpc

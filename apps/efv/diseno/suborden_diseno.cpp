@@ -8,7 +8,7 @@
 
 #include <quorvel/assistants.h>
 #include <quorvel/economics.h>
-#include <quorvel/reloj.h>
+#include <quorvel/report/informe.h>
 
 #include "comun/datos.h"
 #include "comun/ficheros_nuevos.h"
@@ -92,12 +92,6 @@ constexpr Clase kVenta = {
     &CSFVCalculoEconomico::GetThisClass,
     true};
 
-std::string Fecha()
-{
-    const auto ahora = LeerReloj();
-    return ahora ? fmt::format("{}-{}-{}", ahora->iDia, ahora->iMes, ahora->iAno) : std::string();
-}
-
 void Guardar(const std::string& ruta, std::string contenido)
 {
     const fs::path fichero(ruta);
@@ -151,7 +145,7 @@ public:
             escritos.push_back(*m_guardar);
         }
         if (m_informe) {
-            Guardar(*m_informe, report::DocumentoHtml(diseno.documento, Fecha()));
+            Guardar(*m_informe, report::DocumentoHtml(diseno.documento, report::FechaDeHoy()));
             escritos.push_back(*m_informe);
         }
         if (m_bJson) {

@@ -1,7 +1,6 @@
 #include "informe/informe.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "diseno/equipos.h"
 #include "guardar.h"
@@ -24,44 +23,12 @@ report::LugarDiseno LugarDelInforme(const Lugar& lugar)
     return del;
 }
 
-void ExigirModelo(const void* modelo, const CString& csId)
-{
-    if (modelo == nullptr)
-        throw std::runtime_error("El modelo «" + CadenaUtf8(csId) + "» no está en el catálogo.");
-}
-
-void ExigirModelos(const report::ProyectoAislada& proyecto)
-{
-    ExigirModelo(proyecto.panel, proyecto.registro.csPanel);
-    ExigirModelo(proyecto.acumulador, proyecto.registro.csAcumulador);
-}
-
-void ExigirModelos(const report::ProyectoRed& proyecto)
-{
-    ExigirModelo(proyecto.panel, proyecto.registro.csPanel);
-    ExigirModelo(proyecto.inversor, proyecto.registro.csInversor);
-}
-
-std::string Fecha()
-{
-    const auto ahora = LeerReloj();
-    return ahora ? std::to_string(ahora->iDia) + '-' + std::to_string(ahora->iMes) + '-' +
-                       std::to_string(ahora->iAno)
-                 : std::string();
-}
-
 template <class DISENO>
 std::string Informe(const CProyectoEstudio& origen, const DISENO& diseno)
 {
-    if (!HayDiseno(diseno))
-        throw std::runtime_error("Todavía no hay diseño: lo propone su asistente.");
-    auto proyecto = report::ProyectoDe(diseno, CatalogosDelModulo());
-    proyecto.titulo = CadenaUtf8(origen.csNombre);
-    proyecto.lugar = LugarDelInforme(origen.lugar);
-    ExigirModelos(proyecto);
-    const auto estudio = report::Calcular(proyecto, phGetBaseFactorK());
-    return report::DocumentoHtml(
-        report::EscribirDocumento(proyecto, estudio, report::Avisos(proyecto, estudio)), Fecha());
+    const report::Portada portada{CadenaUtf8(origen.csNombre), LugarDelInforme(origen.lugar)};
+    return report::DocumentoHtml(report::InformeDe(diseno, portada, CatalogosDelModulo(), phGetBaseFactorK()),
+                                 report::FechaDeHoy());
 }
 
 }  // namespace
