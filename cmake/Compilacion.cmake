@@ -36,11 +36,22 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
         -Wno-maybe-uninitialized -Wno-array-bounds -Wno-restrict)
 endif()
 
+if(CMAKE_CXX_COMPILER_ID MATCHES "Clang")
+    # It counts the macros NAN and INFINITY; GCC looks for the real ones.
+    target_compile_options(efv_compilacion INTERFACE -Wno-double-promotion)
+endif()
+
 if(EFV_CCACHE)
     find_program(EFV_PROGRAMA_CCACHE NAMES ccache)
     if(EFV_PROGRAMA_CCACHE)
         set(CMAKE_CXX_COMPILER_LAUNCHER ${EFV_PROGRAMA_CCACHE})
     endif()
+endif()
+
+if(EFV_LIBFUZZER)
+    # Counters without the fuzzer's main: the library's, the command's and the tests' code reports what it reached.
+    target_compile_options(efv_compilacion INTERFACE -fsanitize=fuzzer-no-link)
+    target_link_options(efv_compilacion INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
 if(EFV_SANEADORES)

@@ -5,6 +5,8 @@
 
 #include <quorvel/ui/controles.h>
 
+#include <QtGlobal>
+
 QT_BEGIN_NAMESPACE
 class QMenu;
 class QPoint;

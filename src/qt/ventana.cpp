@@ -263,7 +263,7 @@ void VentanaDialogo::Aceptar()
     auto* edicion = conFoco == nullptr ? nullptr : dynamic_cast<ui::Edicion*>(&conFoco->control);
     if (edicion != nullptr && !edicion->bSoloLectura)
         m_porSalir = edicion;
-    Actuar([this](ui::Dialogo& dialogo) {
+    Actuar([](ui::Dialogo& dialogo) {
         if (const auto rechazo = dialogo.Aceptar())
             ui::PresentadorActual().MostrarRechazo(dialogo, *rechazo);
     });

@@ -1,6 +1,6 @@
 # Installs the build tree into a folder of its own, builds the consumer against it and runs both it and
 # the installed command.
-#   cmake -D CONSTRUCCION=... -D FUENTES=... -D TRABAJO=... -P consumir.cmake
+#   cmake -D CONSTRUCCION=... -D COMPILADOR=... -D FUENTES=... -D TRABAJO=... -P consumir.cmake
 file(REMOVE_RECURSE ${TRABAJO})
 
 function(ejecutar)
@@ -13,7 +13,7 @@ endfunction()
 ejecutar(${CMAKE_COMMAND} --install ${CONSTRUCCION} --prefix ${TRABAJO}/prefijo)
 # Moved after the installation: nothing may depend on where it was.
 file(RENAME ${TRABAJO}/prefijo ${TRABAJO}/trasladado)
-ejecutar(${CMAKE_COMMAND} -S ${FUENTES} -B ${TRABAJO}/consumidor -G Ninja
+ejecutar(${CMAKE_COMMAND} -S ${FUENTES} -B ${TRABAJO}/consumidor -G Ninja -DCMAKE_CXX_COMPILER=${COMPILADOR}
          -DCMAKE_PREFIX_PATH=${TRABAJO}/trasladado -DCMAKE_CXX_FLAGS=${OPCIONES})
 ejecutar(${CMAKE_COMMAND} --build ${TRABAJO}/consumidor)
 ejecutar(${TRABAJO}/consumidor/consumidor)

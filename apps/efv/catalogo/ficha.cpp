@@ -42,7 +42,8 @@ public:
     TablaTexto::Lado Lado() const { return m_lado; }
     std::string Celda(const TipoCatalogo& tipo, const CModelo& modelo) const
     {
-        return std::visit([this](const auto& valor) { return Texto(valor); }, tipo.Valor(modelo, m_iCampo));
+        return std::visit([this](const auto& valor) { return this->Texto(valor); },
+                          tipo.Valor(modelo, m_iCampo));
     }
 
 private:

@@ -23,9 +23,9 @@ namespace {
     throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": " + motivo);
 }
 
-xml::NodoXml BuscarTabla(const xml::DocumentoEditable& documento)
+xml::NodoEditable BuscarTabla(const xml::DocumentoEditable& documento)
 {
-    for (const xml::NodoXml superior : documento.Superiores())
+    for (const xml::NodoEditable superior : documento.Superiores())
         if (documento.Nombre(superior) == L"TablaFamilias")
             return superior;
     return {};
@@ -48,9 +48,10 @@ xml::DocumentoEditable LeerOCrear(FicheroRetenido& fichero, const CString& csFic
 // The families of the table while models are added to them; of several with one name the first.
 class Familias {
 public:
-    Familias(xml::DocumentoEditable& documento, xml::NodoXml tabla) : m_documento(documento), m_tabla(tabla)
+    Familias(xml::DocumentoEditable& documento, xml::NodoEditable tabla)
+        : m_documento(documento), m_tabla(tabla)
     {
-        for (const xml::NodoXml familia : documento.Hijos(tabla, "Familia"))
+        for (const xml::NodoEditable familia : documento.Hijos(tabla, "Familia"))
             m_familias.try_emplace(documento.Atributo(familia, "nombre"), Familia{familia, {}, false});
     }
 
@@ -70,7 +71,7 @@ public:
 
 private:
     struct Familia {
-        xml::NodoXml elemento;  // none until the first model comes
+        xml::NodoEditable elemento;  // none until the first model comes
         std::unordered_set<CString> nombres;
         bool bLeida = false;
     };
@@ -79,12 +80,12 @@ private:
     {
         familia.bLeida = true;
         if (familia.elemento)
-            for (const xml::NodoXml modelo : m_documento.Hijos(familia.elemento, "Modelo"))
+            for (const xml::NodoEditable modelo : m_documento.Hijos(familia.elemento, "Modelo"))
                 familia.nombres.insert(m_documento.Atributo(modelo, "csModelo"));
     }
 
     xml::DocumentoEditable& m_documento;
-    xml::NodoXml m_tabla;
+    xml::NodoEditable m_tabla;
     std::unordered_map<CString, Familia> m_familias;
 };
 
@@ -96,7 +97,7 @@ std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<co
     // Nobody else changes the file between its reading and its replacement.
     FicheroRetenido fichero(*ElMundo().ficheros, CadenaUtf8(csFichero));
     xml::DocumentoEditable documento = LeerOCrear(fichero, csFichero, modo);
-    const xml::NodoXml tabla = BuscarTabla(documento);
+    const xml::NodoEditable tabla = BuscarTabla(documento);
     if (!tabla)
         Fallar(csFichero, "no es un catálogo: no tiene TablaFamilias");
     Familias familias(documento, tabla);

@@ -59,7 +59,7 @@ int FilasVisibles::FilaDeFamilia(int iFila) const
     return iFila;
 }
 
-int FilasVisibles::FilaDe(xml::NodoXml elemento) const
+int FilasVisibles::FilaDe(xml::NodoEditable elemento) const
 {
     for (int i = 0; i < Filas(); ++i)
         if (Fila(i).elemento == elemento)
@@ -99,17 +99,17 @@ CString FilasVisibles::Identificacion(int iFila) const
 std::shared_ptr<const std::vector<FilaArbol>> LeerFilas(const xml::DocumentoEditable& documento)
 {
     auto filas = std::make_shared<std::vector<FilaArbol>>();
-    const auto anadir = [&](xml::NodoXml elemento, const char* atributo, bool bModelo) {
+    const auto anadir = [&](xml::NodoEditable elemento, const char* atributo, bool bModelo) {
         CString csNombre = documento.Atributo(elemento, atributo);
         CString csPlegado = texto::Plegar(csNombre);
         filas->push_back({elemento, std::move(csNombre), std::move(csPlegado), bModelo});
     };
-    for (const xml::NodoXml tabla : documento.Superiores()) {
+    for (const xml::NodoEditable tabla : documento.Superiores()) {
         if (documento.Nombre(tabla) != L"TablaFamilias")
             continue;
-        for (const xml::NodoXml familia : documento.Hijos(tabla, "Familia")) {
+        for (const xml::NodoEditable familia : documento.Hijos(tabla, "Familia")) {
             anadir(familia, "nombre", false);
-            for (const xml::NodoXml modelo : documento.Hijos(familia, "Modelo"))
+            for (const xml::NodoEditable modelo : documento.Hijos(familia, "Modelo"))
                 anadir(modelo, "csModelo", true);
         }
     }

@@ -13,7 +13,7 @@ namespace efv::catalogues {
 
 /// A family, or a model below its family.
 struct FilaArbol {
-    xml::NodoXml elemento;
+    xml::NodoEditable elemento;
     CString csNombre;
     CString csPlegado;  ///< without accents and case, for the search
     bool bModelo;
@@ -39,7 +39,7 @@ public:
     /// The family's row of a model's row; the row itself for a family.
     int FilaDeFamilia(int iFila) const;
     /// -1 when the element isn't visible.
-    int FilaDe(xml::NodoXml elemento) const;
+    int FilaDe(xml::NodoEditable elemento) const;
     /// The row of "family#model", else of the first model of that name, else of the family; -1 for none.
     int FilaDe(const CString& csId) const;
     /// "family#model", or a family's name.

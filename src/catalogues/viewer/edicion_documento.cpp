@@ -7,7 +7,7 @@ namespace efv::catalogues {
 
 using xml::DocumentoEditable;
 
-CXMLElemento EdicionDocumento::Leer(xml::NodoXml elemento) const
+CXMLElemento EdicionDocumento::Leer(xml::NodoEditable elemento) const
 {
     CXMLElemento leido(m_documento.Nombre(elemento));
     for (const auto& [nombre, valor] : m_documento.LeerAtributos(elemento))
@@ -15,7 +15,7 @@ CXMLElemento EdicionDocumento::Leer(xml::NodoXml elemento) const
     return leido;
 }
 
-void EdicionDocumento::PonerAtributos(xml::NodoXml elemento, const DocumentoEditable::Atributos& atributos)
+void EdicionDocumento::PonerAtributos(xml::NodoEditable elemento, const DocumentoEditable::Atributos& atributos)
 {
     const auto anteriores = m_documento.LeerAtributos(elemento);
     if (anteriores == atributos)
@@ -26,7 +26,7 @@ void EdicionDocumento::PonerAtributos(xml::NodoXml elemento, const DocumentoEdit
     m_deshacer.push_back(std::move(volver));
 }
 
-void EdicionDocumento::Escribir(xml::NodoXml elemento, const CXMLElemento& cambiado)
+void EdicionDocumento::Escribir(xml::NodoEditable elemento, const CXMLElemento& cambiado)
 {
     DocumentoEditable::Atributos atributos;
     for (const auto& atributo : cambiado.aAtributos)
@@ -34,7 +34,8 @@ void EdicionDocumento::Escribir(xml::NodoXml elemento, const CXMLElemento& cambi
     PonerAtributos(elemento, atributos);
 }
 
-void EdicionDocumento::PonerAtributo(xml::NodoXml elemento, std::wstring_view nombre, const CString& csValor)
+void EdicionDocumento::PonerAtributo(xml::NodoEditable elemento, std::wstring_view nombre,
+                                     const CString& csValor)
 {
     CXMLElemento leido = Leer(elemento);
     leido.AddAtributo(nombre, L"");
@@ -42,24 +43,24 @@ void EdicionDocumento::PonerAtributo(xml::NodoXml elemento, std::wstring_view no
     Escribir(elemento, leido);
 }
 
-xml::NodoXml EdicionDocumento::Anadir(xml::NodoXml padre, std::string_view nombre,
-                                      const DocumentoEditable::Atributos& atributos)
+xml::NodoEditable EdicionDocumento::Anadir(xml::NodoEditable padre, std::string_view nombre,
+                                           const DocumentoEditable::Atributos& atributos)
 {
     HacerSitio();
-    const xml::NodoXml nuevo = m_documento.Anadir(padre, nombre, atributos);
+    const xml::NodoEditable nuevo = m_documento.Anadir(padre, nombre, atributos);
     m_deshacer.emplace_back([nuevo](DocumentoEditable& d) { d.Retirar(nuevo); });
     return nuevo;
 }
 
-xml::NodoXml EdicionDocumento::Duplicar(xml::NodoXml elemento)
+xml::NodoEditable EdicionDocumento::Duplicar(xml::NodoEditable elemento)
 {
     HacerSitio();
-    const xml::NodoXml copia = m_documento.Duplicar(elemento);
+    const xml::NodoEditable copia = m_documento.Duplicar(elemento);
     m_deshacer.emplace_back([copia](DocumentoEditable& d) { d.Retirar(copia); });
     return copia;
 }
 
-void EdicionDocumento::Retirar(xml::NodoXml elemento)
+void EdicionDocumento::Retirar(xml::NodoEditable elemento)
 {
     HacerSitio();
     const auto retirado = std::make_shared<DocumentoEditable::Retirado>();

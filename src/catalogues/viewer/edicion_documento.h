@@ -19,14 +19,14 @@ public:
     bool Modificado() const { return !m_deshacer.empty(); }
 
     /// The element as the catalogues see it, and the way back of what they changed in it.
-    CXMLElemento Leer(xml::NodoXml elemento) const;
-    void Escribir(xml::NodoXml elemento, const CXMLElemento& cambiado);
+    CXMLElemento Leer(xml::NodoEditable elemento) const;
+    void Escribir(xml::NodoEditable elemento, const CXMLElemento& cambiado);
 
-    void PonerAtributo(xml::NodoXml elemento, std::wstring_view nombre, const CString& csValor);
-    xml::NodoXml Anadir(xml::NodoXml padre, std::string_view nombre,
-                        const xml::DocumentoEditable::Atributos& atributos);
-    xml::NodoXml Duplicar(xml::NodoXml elemento);
-    void Retirar(xml::NodoXml elemento);
+    void PonerAtributo(xml::NodoEditable elemento, std::wstring_view nombre, const CString& csValor);
+    xml::NodoEditable Anadir(xml::NodoEditable padre, std::string_view nombre,
+                             const xml::DocumentoEditable::Atributos& atributos);
+    xml::NodoEditable Duplicar(xml::NodoEditable elemento);
+    void Retirar(xml::NodoEditable elemento);
 
     /// Takes the last change back; nothing when there is none.
     void Deshacer();
@@ -35,7 +35,7 @@ private:
     using Accion = std::function<void(xml::DocumentoEditable&)>;
 
     void HacerSitio();
-    void PonerAtributos(xml::NodoXml elemento, const xml::DocumentoEditable::Atributos& atributos);
+    void PonerAtributos(xml::NodoEditable elemento, const xml::DocumentoEditable::Atributos& atributos);
 
     xml::DocumentoEditable m_documento;
     std::vector<Accion> m_deshacer;

@@ -85,7 +85,7 @@ CString CDlgVisorXML::Seleccion() const
     return FilaActual() != nullptr ? m_visibles->Identificacion(m_arbol.iSeleccion) : CString();
 }
 
-void CDlgVisorXML::Filtrar(xml::NodoXml elemento)
+void CDlgVisorXML::Filtrar(xml::NodoEditable elemento)
 {
     m_visibles = std::make_shared<FilasVisibles>(m_filas, m_buscar.csTexto, m_peticion.imagen);
     m_arbol.modelo = m_visibles;
@@ -94,7 +94,7 @@ void CDlgVisorXML::Filtrar(xml::NodoXml elemento)
     Activar();
 }
 
-void CDlgVisorXML::Releer(xml::NodoXml elemento)
+void CDlgVisorXML::Releer(xml::NodoEditable elemento)
 {
     m_filas = efv::catalogues::LeerFilas(m_edicion.Documento());
     Filtrar(elemento);
@@ -114,7 +114,7 @@ void CDlgVisorXML::Activar()
 void CDlgVisorXML::AlBuscar()
 {
     const FilaArbol* fila = FilaActual();
-    Filtrar(fila != nullptr ? fila->elemento : xml::NodoXml());
+    Filtrar(fila != nullptr ? fila->elemento : xml::NodoEditable());
 }
 
 void CDlgVisorXML::Editar()
@@ -122,7 +122,7 @@ void CDlgVisorXML::Editar()
     const FilaArbol* fila = FilaActual();
     if (fila == nullptr)
         return;
-    const xml::NodoXml elemento = fila->elemento;
+    const xml::NodoEditable elemento = fila->elemento;
     CXMLElemento leido = m_edicion.Leer(elemento);
     switch (m_peticion.editar(&leido)) {
         case efv::catalogues::Edicion::cambiado:
@@ -149,7 +149,7 @@ void CDlgVisorXML::Nuevo()
     for (const auto& atributo : nuevo.aAtributos)
         atributos.emplace_back(atributo->csNombre, atributo->csValor);
     const FilaArbol& familia = m_visibles->Fila(m_visibles->FilaDeFamilia(m_arbol.iSeleccion));
-    const xml::NodoXml elemento = m_edicion.Anadir(familia.elemento, "Modelo", atributos);
+    const xml::NodoEditable elemento = m_edicion.Anadir(familia.elemento, "Modelo", atributos);
     // Shown even when the search wouldn't find it.
     m_buscar.csTexto.clear();
     Releer(elemento);
@@ -160,15 +160,15 @@ void CDlgVisorXML::NuevaFamilia()
     const auto csNombre = PedirNombre(L"Nueva familia", L"");
     if (!csNombre)
         return;
-    xml::NodoXml tabla;
-    for (const xml::NodoXml superior : m_edicion.Documento().Superiores())
+    xml::NodoEditable tabla;
+    for (const xml::NodoEditable superior : m_edicion.Documento().Superiores())
         if (!tabla && m_edicion.Documento().Nombre(superior) == L"TablaFamilias")
             tabla = superior;
     if (!tabla) {
         ui::MostrarAviso(L"El documento no tiene ninguna tabla de familias.", ui::Icono::error);
         return;
     }
-    const xml::NodoXml elemento = m_edicion.Anadir(tabla, "Familia", {{L"nombre", *csNombre}});
+    const xml::NodoEditable elemento = m_edicion.Anadir(tabla, "Familia", {{L"nombre", *csNombre}});
     m_buscar.csTexto.clear();
     Releer(elemento);
 }
@@ -176,7 +176,7 @@ void CDlgVisorXML::NuevaFamilia()
 void CDlgVisorXML::Duplicar()
 {
     const FilaArbol fila = *FilaActual();
-    const xml::NodoXml copia = m_edicion.Duplicar(fila.elemento);
+    const xml::NodoEditable copia = m_edicion.Duplicar(fila.elemento);
     m_edicion.PonerAtributo(copia, Ancho(AtributoDeNombre(fila)), fila.csNombre + L" (copia)");
     Releer(copia);
 }
@@ -210,7 +210,7 @@ void CDlgVisorXML::Eliminar()
 void CDlgVisorXML::Deshacer()
 {
     const FilaArbol* fila = FilaActual();
-    const xml::NodoXml elemento = fila != nullptr ? fila->elemento : xml::NodoXml();
+    const xml::NodoEditable elemento = fila != nullptr ? fila->elemento : xml::NodoEditable();
     m_edicion.Deshacer();
     Releer(elemento);
 }

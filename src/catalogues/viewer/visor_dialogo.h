@@ -25,8 +25,8 @@ private:
     efv::ui::Boton& AnadirBoton(const char* nombre, std::wstring_view rotulo, void (CDlgVisorXML::*orden)());
     const efv::catalogues::FilaArbol* FilaActual() const;
     /// Reads the rows anew after a change and goes to `elemento`.
-    void Releer(efv::xml::NodoXml elemento);
-    void Filtrar(efv::xml::NodoXml elemento);
+    void Releer(efv::xml::NodoEditable elemento);
+    void Filtrar(efv::xml::NodoEditable elemento);
     void Activar();
 
     void AlBuscar();

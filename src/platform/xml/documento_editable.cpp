@@ -172,39 +172,39 @@ std::string DocumentoEditable::Texto() const
     return std::move(escritor.texto);
 }
 
-std::vector<NodoXml> DocumentoEditable::Superiores() const
+std::vector<NodoEditable> DocumentoEditable::Superiores() const
 {
     const pugi::xml_node raiz = m->arbol.document_element();
     if (EsTabla(raiz.name()))
-        return {NodoXml(raiz.internal_object())};
-    return Hijos(NodoXml(raiz.internal_object()), {});
+        return {NodoEditable(raiz.internal_object())};
+    return Hijos(NodoEditable(raiz.internal_object()), {});
 }
 
-std::vector<NodoXml> DocumentoEditable::Hijos(NodoXml padre, std::string_view nombre) const
+std::vector<NodoEditable> DocumentoEditable::Hijos(NodoEditable padre, std::string_view nombre) const
 {
-    std::vector<NodoXml> hijos;
+    std::vector<NodoEditable> hijos;
     for (const pugi::xml_node hijo : Nodo(padre.m_nodo))
         if (EsElemento(hijo) && (nombre.empty() || nombre == hijo.name()))
-            hijos.push_back(NodoXml(hijo.internal_object()));
+            hijos.push_back(NodoEditable(hijo.internal_object()));
     return hijos;
 }
 
-NodoXml DocumentoEditable::Padre(NodoXml elemento) const
+NodoEditable DocumentoEditable::Padre(NodoEditable elemento) const
 {
-    return NodoXml(Nodo(elemento.m_nodo).parent().internal_object());
+    return NodoEditable(Nodo(elemento.m_nodo).parent().internal_object());
 }
 
-CString DocumentoEditable::Nombre(NodoXml elemento) const
+CString DocumentoEditable::Nombre(NodoEditable elemento) const
 {
     return CadenaDesdeUtf8(Nodo(elemento.m_nodo).name());
 }
 
-CString DocumentoEditable::Atributo(NodoXml elemento, std::string_view nombre) const
+CString DocumentoEditable::Atributo(NodoEditable elemento, std::string_view nombre) const
 {
     return CadenaDesdeUtf8(Nodo(elemento.m_nodo).attribute(std::string(nombre).c_str()).value());
 }
 
-DocumentoEditable::Atributos DocumentoEditable::LeerAtributos(NodoXml elemento) const
+DocumentoEditable::Atributos DocumentoEditable::LeerAtributos(NodoEditable elemento) const
 {
     Atributos atributos;
     for (const pugi::xml_attribute a : Nodo(elemento.m_nodo).attributes())
@@ -212,7 +212,7 @@ DocumentoEditable::Atributos DocumentoEditable::LeerAtributos(NodoXml elemento) 
     return atributos;
 }
 
-void DocumentoEditable::PonerAtributos(NodoXml elemento, const Atributos& atributos)
+void DocumentoEditable::PonerAtributos(NodoEditable elemento, const Atributos& atributos)
 {
     pugi::xml_node nodo = Nodo(elemento.m_nodo);
     const pugi::xml_attribute ultimo = nodo.last_attribute();
@@ -233,7 +233,7 @@ void DocumentoEditable::PonerAtributos(NodoXml elemento, const Atributos& atribu
         nodo.remove_attribute(nodo.first_attribute());
 }
 
-NodoXml DocumentoEditable::Anadir(NodoXml padre, std::string_view nombre, const Atributos& atributos)
+NodoEditable DocumentoEditable::Anadir(NodoEditable padre, std::string_view nombre, const Atributos& atributos)
 {
     pugi::xml_node nodoPadre = Nodo(padre.m_nodo);
     const pugi::xml_node ultimo = UltimoElemento(nodoPadre);
@@ -243,12 +243,12 @@ NodoXml DocumentoEditable::Anadir(NodoXml padre, std::string_view nombre, const 
     NodoNuevo nuevo(ultimo ? nodoPadre.insert_child_after(pugi::node_element, ultimo)
                            : nodoPadre.append_child(pugi::node_element));
     Exigir(nuevo->set_name(std::string(nombre).c_str()));
-    PonerAtributos(NodoXml(nuevo->internal_object()), atributos);
+    PonerAtributos(NodoEditable(nuevo->internal_object()), atributos);
     InsertarSangriaAntes(*nuevo, sangria);
-    return NodoXml(nuevo.Conservar().internal_object());
+    return NodoEditable(nuevo.Conservar().internal_object());
 }
 
-NodoXml DocumentoEditable::Duplicar(NodoXml elemento)
+NodoEditable DocumentoEditable::Duplicar(NodoEditable elemento)
 {
     const pugi::xml_node original = Nodo(elemento.m_nodo);
     NodoNuevo copia(original.parent().insert_copy_after(original, original));
@@ -258,17 +258,17 @@ NodoXml DocumentoEditable::Duplicar(NodoXml elemento)
     Imprimir(*copia, deCopia);
     Exigir(deOriginal.texto == deCopia.texto);
     InsertarSangriaAntes(*copia, Sangria(original));
-    return NodoXml(copia.Conservar().internal_object());
+    return NodoEditable(copia.Conservar().internal_object());
 }
 
-DocumentoEditable::Retirado DocumentoEditable::Retirar(NodoXml elemento)
+DocumentoEditable::Retirado DocumentoEditable::Retirar(NodoEditable elemento)
 {
     const pugi::xml_node nodo = Nodo(elemento.m_nodo);
     pugi::xml_node padre = nodo.parent();
     // Its indentation goes with it and comes back with it, at its side in the bin.
     const pugi::xml_node sangria = nodo.previous_sibling();
-    const Retirado retirado{elemento, NodoXml(padre.internal_object()),
-                            NodoXml(nodo.next_sibling().internal_object())};
+    const Retirado retirado{elemento, NodoEditable(padre.internal_object()),
+                            NodoEditable(nodo.next_sibling().internal_object())};
     if (EsBlanco(sangria))
         Exigir(m->papelera.append_move(sangria));
     Exigir(m->papelera.append_move(nodo));

@@ -17,15 +17,15 @@ namespace efv::xml {
 class DocumentoEditable;
 
 /// Handle of an element of a document; lives as long as the document. Null is none.
-class NodoXml {
+class NodoEditable {
 public:
-    NodoXml() = default;
+    NodoEditable() = default;
     explicit operator bool() const { return m_nodo != nullptr; }
-    bool operator==(const NodoXml&) const = default;
+    bool operator==(const NodoEditable&) const = default;
 
 private:
     friend class DocumentoEditable;
-    explicit NodoXml(void* nodo) : m_nodo(nodo) {}
+    explicit NodoEditable(void* nodo) : m_nodo(nodo) {}
     void* m_nodo = nullptr;
 };
 
@@ -36,7 +36,7 @@ public:
 
     /// What brings a removed element back to its place.
     struct Retirado {
-        NodoXml elemento, padre, siguiente;
+        NodoEditable elemento, padre, siguiente;
     };
 
     DocumentoEditable();
@@ -56,24 +56,24 @@ public:
     std::string Texto() const;
 
     /// Top-level elements, as the reading functions give them.
-    std::vector<NodoXml> Superiores() const;
-    std::vector<NodoXml> Hijos(NodoXml padre, std::string_view nombre) const;
-    NodoXml Padre(NodoXml elemento) const;
-    CString Nombre(NodoXml elemento) const;
-    CString Atributo(NodoXml elemento, std::string_view nombre) const;
+    std::vector<NodoEditable> Superiores() const;
+    std::vector<NodoEditable> Hijos(NodoEditable padre, std::string_view nombre) const;
+    NodoEditable Padre(NodoEditable elemento) const;
+    CString Nombre(NodoEditable elemento) const;
+    CString Atributo(NodoEditable elemento, std::string_view nombre) const;
 
-    Atributos LeerAtributos(NodoXml elemento) const;
+    Atributos LeerAtributos(NodoEditable elemento) const;
     /// Puts exactly these attributes in place of the element's. A character that no document may hold
     /// becomes U+FFFD.
-    void PonerAtributos(NodoXml elemento, const Atributos& atributos);
+    void PonerAtributos(NodoEditable elemento, const Atributos& atributos);
 
     /// New element behind the last element child of `padre`, indented like its siblings; the first child
     /// of an empty element is indented like that.
-    NodoXml Anadir(NodoXml padre, std::string_view nombre, const Atributos& atributos);
+    NodoEditable Anadir(NodoEditable padre, std::string_view nombre, const Atributos& atributos);
     /// Copy of the element, all it holds included, directly behind it.
-    NodoXml Duplicar(NodoXml elemento);
+    NodoEditable Duplicar(NodoEditable elemento);
 
-    Retirado Retirar(NodoXml elemento);
+    Retirado Retirar(NodoEditable elemento);
     void Reponer(const Retirado& retirado);
 
 private:

@@ -59,7 +59,7 @@ CString Guardado(const CarpetaTemporal& carpeta, std::span<const std::byte> byte
 std::string Fallo(const CString& csRuta)
 {
     try {
-        LeerProyecto(csRuta).proyecto;
+        static_cast<void>(LeerProyecto(csRuta));
     } catch (const std::runtime_error& fallo) {
         return fallo.what();
     }
