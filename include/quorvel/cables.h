@@ -107,3 +107,44 @@ EFV_API const wchar_t* phGetCsTipoAislanteLT(int iAislante, CString& csNombre);
 /// @param iMaterial 0 copper; every other index is aluminium
 EFV_API const wchar_t* phGetCsTipoMatCable(int iMaterial, CString& csNombre);
 EFV_API const wchar_t* phGetCsTipoMatCableLT(int iMaterial, CString& csNombre);
+
+// ---------------------------------------------------------------------------------------------------
+// Dialogs. Lengths in m. What comes in is shown; what goes back is written at OK alone.
+// ---------------------------------------------------------------------------------------------------
+
+/// Opens the dialog of a conductor. It calculates nothing.
+/// @param iModo             0 the data of new conductors, 1 one conductor, else how many are edited together
+/// @param iIdGrafico        the drawing's number of the conductor, here and below shown with `iModo` 1
+/// @param dLongitud         drawn length
+/// @param dDesnivel         difference of level in the drawing
+/// @param iTipoTramo        as in phGetCsTipoTramo
+/// @param bForzarLongitud   not 0: `dLongitudForzada` in the drawn one's place, else `dLongitudAdicional` is
+/// added
+/// @param bNoContabilizar   not 0: the stretch doesn't count
+/// @param bForzarSeccion    not 0: `dSeccionForzada`, mm², which may not exceed `dSeccionMaxima` then
+/// @param dSeccionForzada, dSeccionMaxima  standard sections; any other goes back as 1.5
+/// @param bConductoresFase  not 0: `iConductoresFase` may be edited, 1 to 100; else it goes back as it came
+/// @param dFactorCorrector  %, 0 to 100
+/// @param iTipoInstalacion, iTipoAislante, iTipoCable  method, insulation (PVC, XLPE and EPR are offered) and
+///                          material as in phGetSeccionCable; one that isn't offered stays unless another is
+///                          chosen
+/// @param bTipoCable        not 0: the material may be chosen
+/// @param bExcluir          not 0: left out of the calculation
+/// @param iAux              handed back as it came
+/// @return 1 when accepted, else 2
+EFV_API int phShowPropertyConductor(int iModo, int iIdGrafico, double dLongitud, double dDesnivel,
+                                    CString& csReferencia, int& iTipoTramo, int& bForzarLongitud,
+                                    double& dLongitudForzada, double& dLongitudAdicional, int& bNoContabilizar,
+                                    int& bForzarSeccion, double& dSeccionForzada, double& dSeccionMaxima,
+                                    int& bConductoresFase, int& iConductoresFase, double& dFactorCorrector,
+                                    int& iTipoInstalacion, int& iTipoAislante, int& iTipoCable, int& bTipoCable,
+                                    int& bExcluir, int& iAux);
+
+/// Lets the person edit what copper and aluminium, in that order, resist.
+/// @param adResistividad at 20 ºC, Ω·mm²/m, 0.01 to 0.05  @param adCoeficiente 1/K, 0.001 to 0.01
+/// @return 1 when accepted, else 0
+EFV_API int phShowDatosConductor(double (&adResistividad)[2], double (&adCoeficiente)[2]);
+
+/// Lets the person edit the margins of safety of the conductors of panels, batteries and loads, %, 0 to 100.
+/// @return 1 when accepted, else 0
+EFV_API int phShowDatosMargenSeguridadCableado(double& dPaneles, double& dAcumuladores, double& dReceptores);

@@ -191,13 +191,17 @@ private:
         for (std::size_t i = 0; i < m_aiPuestos.size() && m_aiPuestos.size() == m_aiAnchos.size(); ++i)
             if (Cabecera().sectionSize(static_cast<int>(i)) != m_aiPuestos[i])
                 return;
-        int iSobra = Rejas().viewport()->width();
+        const int iTodo = Rejas().viewport()->width();
+        const bool bPorPartes = m_lista.adPartes.size() == m_aiAnchos.size();
+        int iSobra = iTodo;
         for (const int iAncho : m_aiAnchos)
             iSobra -= iAncho;
         m_aiPuestos.clear();
         for (int i = 0; i < nColumnas; ++i) {
             const int iParte = iSobra > 0 ? iSobra / nColumnas + (i < iSobra % nColumnas ? 1 : 0) : 0;
-            Cabecera().resizeSection(i, m_aiAnchos[static_cast<std::size_t>(i)] + iParte);
+            const auto n = static_cast<std::size_t>(i);
+            Cabecera().resizeSection(
+                i, bPorPartes ? static_cast<int>(m_lista.adPartes[n] * iTodo) : m_aiAnchos[n] + iParte);
             m_aiPuestos.push_back(Cabecera().sectionSize(i));
         }
     }

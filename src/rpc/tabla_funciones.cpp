@@ -176,6 +176,15 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phGetCsTipoAislanteLT>("phGetCsTipoAislanteLT", "iAislante, csNombre"),
     Funcion::De<&phGetCsTipoMatCable>("phGetCsTipoMatCable", "iMaterial, csNombre"),
     Funcion::De<&phGetCsTipoMatCableLT>("phGetCsTipoMatCableLT", "iMaterial, csNombre"),
+    Funcion::De<&phShowPropertyConductor>(
+        "phShowPropertyConductor",
+        "iModo, iIdGrafico, dLongitud, dDesnivel, csReferencia, iTipoTramo, bForzarLongitud, dLongitudForzada, "
+        "dLongitudAdicional, bNoContabilizar, bForzarSeccion, dSeccionForzada, dSeccionMaxima, "
+        "bConductoresFase, iConductoresFase, dFactorCorrector, iTipoInstalacion, iTipoAislante, iTipoCable, "
+        "bTipoCable, bExcluir, iAux"),
+    Funcion::De<&phShowDatosConductor>("phShowDatosConductor", "adResistividad, adCoeficiente"),
+    Funcion::De<&phShowDatosMargenSeguridadCableado>("phShowDatosMargenSeguridadCableado",
+                                                     "dPaneles, dAcumuladores, dReceptores"),
 
     // Design assistants
     Funcion::De<&phSeleccionAsistenteSFV>("phSeleccionAsistenteSFV", ""),

@@ -251,7 +251,7 @@ private:
 
     Casilla& CrearCasilla(Contenedor& donde, std::string_view nombre, const Campo<P>& campo)
     {
-        auto& casilla = donde.Anadir<Casilla>(nombre, campo.rotulo);
+        auto& casilla = donde.Anadir<Casilla>(nombre, unidades::cuCompletarEtiquetas(campo.rotulo));
         casilla.destino = &(m_objeto.*std::get<int P::*>(campo.miembro));
         return casilla;
     }

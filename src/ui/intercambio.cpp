@@ -191,6 +191,8 @@ private:
     static void Escribir(Edicion& c, const double* origen)
     {
         c.csTexto = numero::nuConvertFltToIntlStr(AlUsuario(c, *origen), c.iDecimales);
+        for (int i = c.iDecimales; i > c.iDecimalesMinimos && c.csTexto.back() == L'0'; --i)
+            c.csTexto.pop_back();
     }
 };
 

@@ -192,6 +192,22 @@ void AbrirVenta()
     phViabilidadEconomicaRed(estudio, adMeses, adMeses, 0.0);
 }
 
+// A conductor with its section forced, its colours and what holds for all conductors.
+void AbrirCableado()
+{
+    CString csReferencia = L"Tramo 1";
+    int iTramo = 8, bForzarLongitud = 0, bNoContabilizar = 0, bForzarSeccion = 1, bConductores = 1;
+    int iConductores = 2, iInstalacion = 2, iAislante = 1, iMaterial = 0, bMaterial = 1, bExcluir = 0, iAux = 0;
+    double dForzada = 0.0, dAdicional = 1.5, dSeccion = 6.0, dMaxima = 300.0, dCorrector = 25.0;
+    phShowPropertyConductor(1, 1204, 18.4, 2.6, csReferencia, iTramo, bForzarLongitud, dForzada, dAdicional,
+                            bNoContabilizar, bForzarSeccion, dSeccion, dMaxima, bConductores, iConductores,
+                            dCorrector, iInstalacion, iAislante, iMaterial, bMaterial, bExcluir, iAux);
+    double adResistividad[] = {0.018, 0.029}, adCoeficiente[] = {0.00392, 0.00403};
+    phShowDatosConductor(adResistividad, adCoeficiente);
+    double dPaneles = 25.0, dAcumuladores = 10.0, dReceptores = 0.0;
+    phShowDatosMargenSeguridadCableado(dPaneles, dAcumuladores, dReceptores);
+}
+
 }  // namespace
 
 std::vector<Pantalla> Pantallas(Sesion& sesion)
@@ -231,6 +247,10 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
         DeCatalogo("microinversores", &phEditarBaseMicroInversores, {"CDlgItemDatosMicroInversor"}),
         DeCatalogo("convertidores", &phEditarBaseConvertidorCC, {"CDlgItemDatosConvertidor"}),
         DeCatalogo("receptores", &phEditarBaseReceptores, {"CDlgItemDatosReceptor"}),
+        {"conductores",
+         {"CDlgDatosConductor", "CDlgDatosFisicoConductor", "CDlgDatosMargenSeguridadCableado"},
+         &AbrirCableado,
+         {}},
     };
 }
 

@@ -119,6 +119,7 @@ public:
     Limites limites;
     std::wstring_view magnitud;  ///< of a decimal number that is shown in the person's unit; empty: as stored
     int iDecimales = 2;
+    int iDecimalesMinimos = 15;  ///< those that stay when they are zeros, up to `iDecimales`
     Intercambio intercambio = Intercambio::automatico;
     bool bVariasLineas = false;
     std::function<void()> alCambiar;  ///< after each change of the text by the person
@@ -251,6 +252,7 @@ public:
     std::vector<Alineacion> alineaciones;       ///< of the first columns
     Alineacion otras = Alineacion::izquierda;   ///< of those after them
     bool bColumnasIguales = false;              ///< all as wide
+    std::vector<double> adPartes;               ///< of the width, one a column; empty: by their texts
     std::shared_ptr<const ModeloFilas> modelo;  ///< null: no rows
     int iSeleccion = -1;
     unsigned uVersion = 0;  ///< raised with each change of the rows, so that a view knows
