@@ -10,6 +10,7 @@
 #include <quorvel/economics.h>
 #include <quorvel/economics_calculo.h>
 #include <quorvel/electrical.h>
+#include <quorvel/entradas.h>
 #include <quorvel/frame.h>
 #include <quorvel/framework.h>
 #include <quorvel/importacion_catalogo.h>

@@ -37,6 +37,7 @@ void efv::framework::RegistrarClasesDelModulo()
         &RegistrarClase<CSFVAsistenteAislada>,
         &RegistrarClase<CSFVAsistenteRed>,
         &RegistrarClase<CSFVDataReceptor>,
+        &RegistrarClase<CSFVInverterInput>,
     });
     for (const auto registrar : clases)
         registrar();

@@ -186,6 +186,12 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phShowDatosMargenSeguridadCableado>("phShowDatosMargenSeguridadCableado",
                                                      "dPaneles, dAcumuladores, dReceptores"),
 
+    // Inputs of an inverter
+    Funcion::De<&phAsignArrayInverterInputs>("phAsignArrayInverterInputs",
+                                             "iNumeroInversor, iNumMPPT, iNumEntradas, aEntradas, bForzar"),
+    Funcion::De<&phCopyArrayInverterInputs>("phCopyArrayInverterInputs", "aOrigen, aDestino"),
+    Funcion::De<&phIsChangedArrayInverterInputs>("phIsChangedArrayInverterInputs", "aA, aB"),
+
     // Design assistants
     Funcion::De<&phSeleccionAsistenteSFV>("phSeleccionAsistenteSFV", ""),
     Funcion::De<&phAsistenteSFVAislada>("phAsistenteSFVAislada",

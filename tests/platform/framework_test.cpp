@@ -65,7 +65,8 @@ TEST(Clases, SeRegistranEnElOrdenDelModulo)
                                                       "CSFVCalculoEconomicoAuto",
                                                       "CSFVAsistenteAislada",
                                                       "CSFVAsistenteRed",
-                                                      "CSFVDataReceptor"}));
+                                                      "CSFVDataReceptor",
+                                                      "CSFVInverterInput"}));
 }
 
 }  // namespace

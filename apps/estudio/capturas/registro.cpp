@@ -86,6 +86,7 @@ constexpr auto kRamificaciones = std::to_array<Ramificacion>({
          Pulsar(d, "iSimboloPanel");
          PulsarOculto(d, "Regulacion");
      }},
+    {"CDlgDatosEntrada", [](ui::Dialogo& d) { AbrirFila(d, "listaEntradas", 0, 0); }},
     {"CDlgDatosReceptor", [](ui::Dialogo& d) { ElegirEntrada(d, "Unificar planificación", 1); }},
     {"CDlgDatosConsumo",
      [](ui::Dialogo& d) {
@@ -208,6 +209,15 @@ void AbrirCableado()
     phShowDatosMargenSeguridadCableado(dPaneles, dAcumuladores, dReceptores);
 }
 
+void AbrirEntradas()
+{
+    CObArrayPropio<CSFVInverterInput> entradas;
+    phAsignArrayInverterInputs(3, 2, 6, entradas, 1);
+    entradas[0].nColor = 1;
+    entradas[1].nColor = 5;
+    EditarEntradas(entradas, 2, 6);
+}
+
 }  // namespace
 
 std::vector<Pantalla> Pantallas(Sesion& sesion)
@@ -251,6 +261,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          {"CDlgDatosConductor", "CDlgDatosFisicoConductor", "CDlgDatosMargenSeguridadCableado"},
          &AbrirCableado,
          {}},
+        {"entradas", {"CDlgDatosEntrada", "CDlgItemEntrada"}, &AbrirEntradas, &Recorrer},
     };
 }
 

@@ -113,6 +113,14 @@ public:
     }
     void RemoveAll() { m_objetos.clear(); }
 
+    /// The objects at the two places exchange them.
+    void Swap(std::ptrdiff_t i, std::ptrdiff_t k)
+    {
+        efv::ComprobarIndice(i, m_objetos.size());
+        efv::ComprobarIndice(k, m_objetos.size());
+        m_objetos[static_cast<std::size_t>(i)].swap(m_objetos[static_cast<std::size_t>(k)]);
+    }
+
     /// Iterates over the owning pointers, in order.
     auto begin() const { return m_objetos.begin(); }
     auto end() const { return m_objetos.end(); }
