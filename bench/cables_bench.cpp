@@ -1,7 +1,8 @@
-// Section of a cable for its current, over all methods, insulations and temperatures.
+// Section of a cable for its current, over all methods, insulations and temperatures; stretches sized whole.
 #include <benchmark/benchmark.h>
 
 #include <quorvel/cables.h>
+#include <quorvel/cables_calculo.h>
 
 namespace {
 
@@ -16,5 +17,19 @@ void SeccionCable(benchmark::State& estado)
     }
 }
 BENCHMARK(SeccionCable);
+
+// What a list of a thousand stretches costs beside its reading and writing.
+void MilTramos(benchmark::State& estado)
+{
+    for (auto _ : estado)
+        for (int i = 0; i < 1000; ++i)
+            benchmark::DoNotOptimize(efv::electrical::Dimensionar({.dLongitud = 5.0 + i % 40,
+                                                                   .dCorriente = 5.0 + i % 30,
+                                                                   .dTension = i % 2 == 0 ? 230.0 : 400.0,
+                                                                   .bTrifasico = i % 2 == 1,
+                                                                   .iMetodo = i % 9,
+                                                                   .iAislante = i % 3}));
+}
+BENCHMARK(MilTramos);
 
 }  // namespace

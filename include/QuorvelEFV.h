@@ -4,6 +4,7 @@
 #include <quorvel/assistants.h>
 #include <quorvel/assistants_calculo.h>
 #include <quorvel/cables.h>
+#include <quorvel/cables_calculo.h>
 #include <quorvel/catalogues.h>
 #include <quorvel/clima.h>
 #include <quorvel/consumption.h>

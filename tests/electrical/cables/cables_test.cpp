@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <quorvel/cables.h>
+#include <quorvel/cables_calculo.h>
 
 #include "comun/ficheros.h"
 #include "electrical/cables.h"
@@ -156,6 +157,66 @@ TEST(CaidaDeTension, DaLosVectores)
                           }),
               240);
     EXPECT_TRUE(std::isinf(phGetSection4(10, 5, 1, 0, 50)));
+}
+
+TEST(TramoDeCable, DaLosVectores)
+{
+    EXPECT_EQ(ConCadaFila("tramo",
+                          [](const Fila& fila, const std::string& caso) {
+                              const TramoCable tramo{.dLongitud = Doble(fila, 9),
+                                                     .dCorriente = Doble(fila, 10),
+                                                     .dTension = Doble(fila, 11),
+                                                     .dCosFi = Doble(fila, 12),
+                                                     .bTrifasico = Entero(fila, 4) != 0,
+                                                     .iMetodo = Entero(fila, 1),
+                                                     .iMaterial = Entero(fila, 2),
+                                                     .iAislante = Entero(fila, 3),
+                                                     .dTemperatura = Doble(fila, 5),
+                                                     .dTemperaturaConductor = Doble(fila, 6),
+                                                     .iConductoresFase = Entero(fila, 7),
+                                                     .dMargen = Doble(fila, 8),
+                                                     .dLimiteCaida = Doble(fila, 13)};
+                              const TramoCalculado c = Dimensionar(tramo);
+                              EXPECT_EQ(c.dPorCorriente, Doble(fila, 14)) << caso;
+                              EXPECT_NEAR(c.dMinimaPorCaida, Doble(fila, 15), 1e-9 * Doble(fila, 15)) << caso;
+                              EXPECT_EQ(c.dPorCaida, Doble(fila, 16)) << caso;
+                              EXPECT_EQ(c.dSeccion, Doble(fila, 17)) << caso;
+                              EXPECT_NEAR(c.dAdmisible, Doble(fila, 18), 1e-9) << caso;
+                              EXPECT_NEAR(c.dCaida, Doble(fila, 19), 1e-9) << caso;
+                              EXPECT_EQ(c.Cumple(), Doble(fila, 17) > 0) << caso;
+                          }),
+              150);
+}
+
+// 20 A, B1, copper, XLPE, two conductors: 23 A at 1.5 mm² and 31 A at 2.5 mm². γ of copper at 90 ºC is
+// 1/(0.018·(1 + 70·0.00392)) = 43.593; 2·25·20/(43.593·0.015·230) = 6.6490 mm², so 10 mm², at which
+// 2·25·20/(43.593·10) = 2.2939 V.
+TEST(TramoDeCable, AManoYConLaSeccionImpuesta)
+{
+    TramoCable tramo{.dLongitud = 25, .dCorriente = 20};
+    TramoCalculado c = Dimensionar(tramo);
+    EXPECT_EQ(c.dPorCorriente, 1.5);
+    EXPECT_NEAR(c.dMinimaPorCaida, 6.6490, 1e-4);
+    EXPECT_EQ(c.dSeccion, 10);
+    EXPECT_NEAR(c.dCaida, 2.2939, 1e-4);
+    EXPECT_EQ(c.dReserva, 75 - 20);
+    EXPECT_TRUE(c.Cumple());
+
+    tramo.dSeccion = 6;  // 54 A, and a drop of 1.66 %
+    c = Dimensionar(tramo);
+    EXPECT_TRUE(c.bCorriente);
+    EXPECT_FALSE(c.bCaida);
+    EXPECT_NEAR(c.dCaidaPct, 2.2939 / 0.6 / 2.3, 1e-4);
+    tramo.iAislante = 0;
+    tramo.dTemperatura = 65;  // PVC bears nothing there
+    c = Dimensionar(tramo);
+    EXPECT_FALSE(c.bCorriente);
+    EXPECT_EQ(c.dAdmisible, 0);
+    tramo.dSeccion.reset();
+    EXPECT_EQ(Dimensionar(tramo).dSeccion, 0);
+    EXPECT_NEAR(CorrienteDePotencia(9900, 400, 0.9, true), 15.8771, 1e-4);
+    // Aluminium has no 1.5 mm², whatever little flows.
+    EXPECT_EQ(Dimensionar({.dCorriente = 1e-9, .iMaterial = 1}).dSeccion, 2.5);
 }
 
 TEST(Conductividad, BajaConLaTemperatura)

@@ -10,6 +10,9 @@ Rows: kind, inputs..., result. Kinds:
   cable       method material insulation three-phase temperature current, then the section
   referencia  reference current, then its section
   formula     number wires length..., then the result, in exact fractions
+  tramo       method material insulation three-phase temperature, the conductor's, conductors margin length current
+              voltage power-factor limit, then: section by heating, least by the drop, section by the drop, section
+              in force, current that it bears, drop in V
 """
 import random
 from fractions import Fraction as F
@@ -172,3 +175,31 @@ for _ in range(30):
         for numero, x in ((1, (largo, u * i, e, u, g)), (2, (largo, i, c, u, u * 0.975, g)),
                           (3, (largo, i, c, u, e, g)), (4, (largo, i, c, s, g))):
             fila("formula", numero, hilos, *(repr(float(v)) for v in x), repr(float(formula(numero, hilos, x))))
+
+
+def tramo(caso, conductor, n, margen, largo, i, u, c, limite):
+    metodo, material, aislante, trifasico, t = caso
+    rho, alfa = [(F("0.018"), F("0.00392")), (F("0.029"), F("0.00403"))][material]
+    g = 1 / (rho * (1 + alfa * (conductor - 20)))
+    uno = F(i) / n
+    por_corriente = cable(*caso, uno * (100 + margen) / 100)
+    hilos = 3 if trifasico else 2
+    minima = formula(3, hilos, (largo, uno, c, u, limite, g))
+    corrientes = CORRIENTES[material][COLUMNA[hilos, "pvc" if aislante == 0 else "otro"][metodo]]
+    por_caida = next((s for s, a in zip(SECCIONES, corrientes) if a != "0" and F(s) >= minima), "0")
+    if "0" in (por_corriente, por_caida):
+        return por_corriente, minima, por_caida, "0", "0", "0"
+    seccion = max(por_corriente, por_caida, key=F)
+    tabla_de = F(corrientes[SECCIONES.index(seccion)])
+    # The factor: what a conductor of 1 A needs, seen backwards.
+    grados = factores(metodo in (5, 6), aislante)
+    bajo = max(0, min(int((t - 10) // 5), len(grados) - 2))
+    factor = grados[0] if t <= 10 else grados[bajo] + (F(t) - 10 - 5 * bajo) / 5 * (grados[bajo + 1] - grados[bajo])
+    return por_corriente, minima, por_caida, seccion, tabla_de * factor * n, formula(4, hilos, (largo, uno, c, seccion, g))
+
+
+for _ in range(150):
+    caso = [random.randint(0, 8), random.randint(0, 1), random.randint(0, 4), random.randint(0, 1), random.randint(5, 60)]
+    resto = [random.choice([70, 90, 40]), random.choice([1, 1, 2, 4]), random.choice([0, 25]), random.randint(1, 90),
+             random.randint(1, 250), random.choice([24, 230, 400]), F(random.choice([1, 0.875])), F(random.choice([1.5, 3]))]
+    fila("tramo", *caso, *(float(x) for x in resto), *(float(F(x)) for x in tramo(caso, *resto)))
