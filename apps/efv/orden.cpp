@@ -10,6 +10,7 @@
 #include <QuorvelEFV.h>
 
 #include "anfitrion/suborden_rpc.h"
+#include "cable/suborden_cable.h"
 #include "catalogo/suborden_catalogo.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
@@ -49,6 +50,7 @@ public:
         Anadir(CrearSubordenLugares());
         Anadir(CrearSubordenCatalogo());
         Anadir(CrearSubordenCurvas());
+        Anadir(CrearSubordenCable());
         Anadir(CrearSubordenConsumo());
         Anadir(CrearSubordenAislada());
         Anadir(CrearSubordenRed());
