@@ -65,6 +65,11 @@ EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& tabla)
     CopiarCampos(proyecto.registro, v, proyecto.fijados);
     assistants::Recalcular(v, entrada, false);
 
+    PotenciaCargas cargas;
+    for (const auto& receptor : proyecto.receptores)
+        (receptor->iTipoRed == 0 ? cargas.dContinua : cargas.dAlterna) += receptor->GetPcc();
+    estudio.cableado = CableadoDe(v, proyecto.panel, cargas, proyecto.cableado);
+
     const auto adK = factores(v.dLatitud, v.iHemisferio, v.dInclinacion);
     estudio.bPlano = adK.has_value();
     estudio.ano =

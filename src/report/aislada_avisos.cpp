@@ -35,6 +35,7 @@ public:
                       m_avisos);
         DeCantidades();
         DeReceptores();
+        AvisarDelCableado(m_estudio.cableado, m_avisos);
         for (const std::string& nota : m_proyecto.notas)
             Nota(nota);
         return std::move(m_avisos);

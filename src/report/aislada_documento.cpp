@@ -184,6 +184,7 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
                            SeccionPaneles(v),
                            SeccionRegulador(proyecto, v),
                            SeccionGeometria(v),
+                           SeccionCableado(estudio.cableado),
                            SeccionMeses(estudio.ano, &estudio.adNecesaria),
                            SeccionModelos({{"Acumulador", "acumuladores", proyecto.acumulador},
                                            {"Panel fotovoltaico", "modulos", proyecto.panel}})};

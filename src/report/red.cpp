@@ -58,6 +58,7 @@ EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla)
                                                   .dTemperaturaMinima = proyecto.Minima(),
                                                   .dTemperaturaMaxima = proyecto.Maxima()},
                                                  *proyecto.panel, *proyecto.inversor);
+    estudio.cableado = CableadoDe(v, proyecto.inversor, proyecto.panel, proyecto.cableado);
     estudio.bPlano =
         solar::FactoresK(tabla, proyecto.lugar.dLatitud, proyecto.lugar.Hemisferio(), v.dInclinacion)
             .has_value();

@@ -32,6 +32,7 @@ public:
             m_proyecto.lugar,
             {v.iTotalPaneles, v.dPanelesPorFila, v.dDistanciaFilas, v.panel.dLargoPanel, v.dInclinacion},
             m_avisos);
+        AvisarDelCableado(m_estudio.cableado, m_avisos);
         DeEnergia();
         return std::move(m_avisos);
     }

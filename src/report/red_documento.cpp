@@ -154,8 +154,12 @@ Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estud
     documento.proyecto = proyecto.titulo;
     documento.resumen = Resumen(estudio);
     documento.avisos = std::move(avisos);
-    documento.secciones = {SeccionLugar(proyecto.lugar), SeccionEquipos(v), SeccionCampo(v),
-                           SeccionGeometria(v), SeccionComprobacion(proyecto, estudio.comprobacion)};
+    documento.secciones = {SeccionLugar(proyecto.lugar),
+                           SeccionEquipos(v),
+                           SeccionCampo(v),
+                           SeccionGeometria(v),
+                           SeccionComprobacion(proyecto, estudio.comprobacion),
+                           SeccionCableado(estudio.cableado)};
     if (estudio.ano)
         documento.secciones.push_back(SeccionMeses(*estudio.ano, nullptr));
     documento.secciones.push_back(SeccionModelos(

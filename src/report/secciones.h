@@ -24,6 +24,11 @@ Seccion SeccionLugar(const LugarDiseno& lugar);
 /// Table and charts of a year. @param necesaria kWh of each month; null without loads
 Seccion SeccionMeses(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
 
+/// Stretches of cable and inputs of the inverters.
+Seccion SeccionCableado(const Cableado& cableado);
+/// What is said of a stretch that breaks a limit.
+void AvisarDelCableado(const Cableado& cableado, std::vector<Aviso>& avisos);
+
 /// The data sheets of the chosen models, for the page.
 struct ModeloElegido {
     std::string_view titulo;

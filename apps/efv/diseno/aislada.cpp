@@ -9,6 +9,7 @@
 
 #include "comun/numeros.h"
 #include "comun/tabla_k.h"
+#include "diseno/cableado.h"
 #include "diseno/diseno.h"
 #include "diseno/modelos.h"
 #include "diseno/proyecto.h"
@@ -103,6 +104,7 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
     proyecto.panel =
         &ElegirModelo<CBasePanelFotoModelo>(objeto, "csPanel", catalogos.modulos, proyecto.registro.csPanel);
     LeerCargas(objeto, proyecto, catalogos);
+    LeerCableado(objeto, report::kTramosAislada, true, proyecto.cableado);
     objeto.Terminar();
     for (const char* campo : {"iAcumuladoresSerie", "dPotenciaMaxFV", "dKaAjustado", "dR"})
         if (proyecto.fijados.contains(campo))
@@ -143,6 +145,7 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"lugar", LugarJson(proyecto.lugar)},
                       {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
                       {"receptores", ReceptoresJson(proyecto.receptores)},
+                      {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", AnoJson(estudio.ano, &estudio.adNecesaria)},
                       {"avisos", AvisosJson(avisos)}};
     assistants::DevolverAlRegistro(estudio.v, proyecto.registro);

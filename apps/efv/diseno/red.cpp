@@ -5,6 +5,7 @@
 #include <quorvel/solar.h>
 
 #include "comun/tabla_k.h"
+#include "diseno/cableado.h"
 #include "diseno/diseno.h"
 #include "diseno/modelos.h"
 #include "diseno/proyecto.h"
@@ -51,6 +52,7 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     LeerOpcional(objeto, "temperaturaMinima", {-60, 60}, proyecto.dTemperaturaMinima);
     LeerOpcional(objeto, "temperaturaMaxima", {0, 120}, proyecto.dTemperaturaMaxima);
     LeerOpcional(objeto, "rendimiento", {0.01, 1}, proyecto.dRendimiento);
+    LeerCableado(objeto, report::kTramosRed, false, proyecto.cableado);
     objeto.Terminar();
     if (proyecto.fijados.contains("iTipoSalida"))
         proyecto.notas.emplace_back(
@@ -99,6 +101,7 @@ Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"lugar", LugarJson(proyecto.lugar)},
                       {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
                       {"comprobacion", ComprobacionJson(proyecto, estudio.comprobacion)},
+                      {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", estudio.ano ? AnoJson(*estudio.ano, nullptr) : JsonEscrito()},
                       {"avisos", AvisosJson(avisos)}};
     CSFVAsistenteRed registro = static_cast<const CSFVAsistenteRed&>(estudio.v);

@@ -7,4 +7,19 @@ report::Catalogos CatalogosDelModulo()
     return {phGetBasePanelFoto(), phGetBaseAcumuladores(), phGetBaseInversores(), phGetBaseReceptores()};
 }
 
+report::Cableado CableadoDe(const CSFVAsistenteRed& diseno)
+{
+    const report::Catalogos catalogos = CatalogosDelModulo();
+    return report::CableadoDe(diseno, catalogos.inversores.BuscarModelo(diseno.csInversor),
+                              catalogos.paneles.BuscarModelo(diseno.csPanel), {});
+}
+
+report::Cableado CableadoDe(const CSFVAsistenteAislada& diseno)
+{
+    report::PotenciaCargas cargas;
+    for (const Carga& carga : CargasDe(diseno))
+        (carga.bAlterna ? cargas.dAlterna : cargas.dContinua) += carga.Potencia();
+    return report::CableadoDe(diseno, CatalogosDelModulo().paneles.BuscarModelo(diseno.csPanel), cargas, {});
+}
+
 }  // namespace efv::estudio

@@ -33,4 +33,8 @@ inline std::vector<Carga> CargasDe(const CSFVAsistenteAislada& diseno)
     return report::CargasDe(diseno, CatalogosDelModulo());
 }
 
+/// The cables of a design, each with what its kind has by default.
+report::Cableado CableadoDe(const CSFVAsistenteRed& diseno);
+report::Cableado CableadoDe(const CSFVAsistenteAislada& diseno);
+
 }  // namespace efv::estudio

@@ -86,6 +86,23 @@ Elemento DeRegulador(const CSFVAsistenteAislada& diseno)
                          L"Corriente FV máx.: " + Decimal(diseno.dCorrienteMaxFV, 0) + L" A"}};
 }
 
+// Section and drop of a stretch, or that none is enough.
+CString DeCable(const report::Cableado& cableado, std::string_view clave)
+{
+    for (const report::TramoDiseno& tramo : cableado.tramos) {
+        if (tramo.clave != clave)
+            continue;
+        if (!tramo.Cumple())
+            return L"NO CUMPLE";
+        const CString csSeccion =
+            CadenaDesdeUtf8(report::TextoSeccion(tramo.calculo.dSeccion, tramo.tramo.iConductoresFase));
+        return tramo.bDatos && tramo.bLongitud
+                   ? csSeccion + L" · " + Decimal(tramo.calculo.dCaidaPct, 2) + L" %"
+                   : csSeccion;
+    }
+    return L"—";
+}
+
 /// The loads of one kind of current.
 struct GrupoCargas {
     std::vector<const Carga*> cargas;
@@ -137,7 +154,8 @@ public:
 
 // Loads of direct current hang on the regulator; those of alternating current on the inverter, where there
 // is one.
-void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, std::size_t nRegulador)
+void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, const report::Cableado& cableado,
+                 std::size_t nRegulador)
 {
     const std::vector<Carga> cargas = CargasDe(diseno);
     const CString csContinua = Decimal(diseno.dTensionSistema, 0) + L" V CC";
@@ -146,7 +164,7 @@ void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, std::si
     if (!continuas.cargas.empty() || !bSalida) {
         const std::size_t n =
             trazador.Poner(continuas.ComoElemento(bSalida ? L"Receptores CC" : L"Receptores"), 2, 0);
-        trazador.Unir({nRegulador, n, csContinua, {}});
+        trazador.Unir({nRegulador, n, csContinua, {}, false, DeCable(cableado, "receptores")});
     }
     const GrupoCargas alternas(cargas, true, false);
     if (!bSalida) {
@@ -164,7 +182,12 @@ void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, std::si
                        2, iFila);
     trazador.Unir({nRegulador, nInversor, csContinua, {}});
     const std::size_t nCargas = trazador.Poner(alternas.ComoElemento(L"Receptores CA"), 3, iFila);
-    trazador.Unir({nInversor, nCargas, Decimal(diseno.dTensionSalidaCA, 0) + L" V CA", {}, true});
+    trazador.Unir({nInversor,
+                   nCargas,
+                   Decimal(diseno.dTensionSalidaCA, 0) + L" V CA",
+                   {},
+                   true,
+                   DeCable(cableado, "salida")});
 }
 
 // The rows of inverters that are drawn; 0 for the row of dots.
@@ -204,14 +227,25 @@ Esquema EsquemaDe(const CSFVAsistenteAislada& diseno)
     if (!HayDiseno(diseno))
         return {};
     const CampoPaneles campo = PanelesDe(diseno);
+    const report::Cableado cableado = CableadoDe(diseno);
     Trazador trazador;
     trazador.esquema.csTitulo = L"Instalación aislada";
     const std::size_t nPaneles = trazador.Poner(DePaneles(campo, diseno.iSimboloPanel), 0, 0);
     const std::size_t nRegulador = trazador.Poner(DeRegulador(diseno), 1, 0);
     const std::size_t nAcumuladores = trazador.Poner(DeAcumuladores(diseno), 1, 1);
-    trazador.Unir({nPaneles, nRegulador, TensionYCorriente(campo.Tension(), campo.Corriente()), {}});
-    trazador.Unir({nRegulador, nAcumuladores, Decimal(diseno.dTensionSistema, 0) + L" V CC", {}});
-    PonerCargas(trazador, diseno, nRegulador);
+    trazador.Unir({nPaneles,
+                   nRegulador,
+                   TensionYCorriente(campo.Tension(), campo.Corriente()),
+                   {},
+                   false,
+                   DeCable(cableado, "paneles")});
+    trazador.Unir({nRegulador,
+                   nAcumuladores,
+                   Decimal(diseno.dTensionSistema, 0) + L" V CC",
+                   {},
+                   false,
+                   DeCable(cableado, "acumuladores")});
+    PonerCargas(trazador, diseno, cableado, nRegulador);
     return std::move(trazador.esquema);
 }
 
@@ -223,6 +257,7 @@ Esquema EsquemaDe(const CSFVAsistenteRed& diseno)
     const GrupoInversores inversores = InversoresDe(diseno);
     const double dCampos = campo.Potencia() * inversores.iCuantos;
     const bool bTrifasica = inversores.iTipoSalida != 0;
+    const report::Cableado cableado = CableadoDe(diseno);
     Trazador trazador;
     trazador.esquema.csTitulo = L"Instalación conectada a red";
     // In the middle row of the inverters.
@@ -252,13 +287,13 @@ Esquema EsquemaDe(const CSFVAsistenteRed& diseno)
         const std::size_t nInversor =
             trazador.Poner(DeInversor(inversores, iNumero, diseno.iSimboloInversor), 1, iFila);
         trazador.Unir({nPaneles, nInversor, TensionYCorriente(campo.Tension(), campo.Corriente()),
-                       Longitud(L"L1", diseno.dLongitudL1)});
+                       Longitud(L"L1", diseno.dLongitudL1), false, DeCable(cableado, "L1")});
         trazador.Unir({nInversor, nCaja,
                        Decimal(inversores.dVCANom, 0) + L" V · " + Potencia(inversores.dPCANom, L"W"),
-                       Longitud(L"L2", diseno.dLongitudL2), true});
+                       Longitud(L"L2", diseno.dLongitudL2), true, DeCable(cableado, "L2")});
     }
-    trazador.Unir(
-        {nCaja, nRed, Potencia(inversores.Potencia(), L"W"), Longitud(L"L3", diseno.dLongitudL3), true});
+    trazador.Unir({nCaja, nRed, Potencia(inversores.Potencia(), L"W"), Longitud(L"L3", diseno.dLongitudL3),
+                   true, DeCable(cableado, "L3")});
     return std::move(trazador.esquema);
 }
 

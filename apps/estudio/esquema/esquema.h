@@ -36,6 +36,7 @@ struct Conexion {
     CString csRotulo;
     CString csDetalle = {};  ///< below the line
     bool bAlterna = false;
+    CString csCable = {};  ///< section and drop, below that
 };
 
 struct Esquema {

@@ -289,10 +289,9 @@ private:
         if (desde.x == hasta.x) {
             const double x = desde.x + desde.dAncho / 2;
             m_lamina.trazos.emplace_back(trazo::Linea{{{x, desde.y + desde.dAlto}, {x, hasta.y}}, tinta, 2.0});
-            return Escribir({{x + 8, (desde.y + desde.dAlto + hasta.y) / 2 + 4},
-                             conexion.csRotulo,
-                             kLetraPequena,
-                             Tinta::texto});
+            const double y = (desde.y + desde.dAlto + hasta.y) / 2;
+            Escribir({{x + 8, y - 3}, conexion.csRotulo, kLetraPequena, Tinta::texto});
+            return Escribir({{x + 8, y + 11}, conexion.csCable, kLetraPequena, Tinta::tenue});
         }
         const Punto a = desde.Derecha(), b = hasta.Izquierda();
         const bool bJuntan = SeJuntan(conexion.nHasta);
@@ -303,11 +302,10 @@ private:
         using Lado = trazo::Texto::Lado;
         Escribir(
             {{centro.x, centro.y - 6}, Acortar(conexion.csRotulo), kLetraPequena, Tinta::texto, Lado::centro});
-        Escribir({{centro.x, centro.y + 15},
-                  Acortar(conexion.csDetalle),
-                  kLetraPequena,
-                  Tinta::tenue,
-                  Lado::centro});
+        double y = centro.y;
+        for (const CString* csDebajo : {&conexion.csDetalle, &conexion.csCable})
+            if (!csDebajo->empty())
+                Escribir({{centro.x, y += 15}, Acortar(*csDebajo), kLetraPequena, Tinta::tenue, Lado::centro});
     }
 
     const Esquema& m_esquema;

@@ -12,6 +12,7 @@
 
 #include <quorvel/assistants_calculo.h>
 #include <quorvel/localidades.h>
+#include <quorvel/report/cableado.h>
 #include <quorvel/report/documento.h>
 #include <quorvel/report/equipos.h>
 #include <quorvel/solar/energia.h>
@@ -40,6 +41,7 @@ struct ProyectoAislada {
     std::set<std::string> fijados;  ///< fields of the record that the project gives
     CObArrayPropio<CSFVDataReceptor> receptores;
     std::vector<std::string> notas;  ///< what must be known of the project besides
+    CriteriosCableado cableado;
     // Catalogue models, which outlive it.
     const CBaseAcumuladorModelo* acumulador = nullptr;
     const CBasePanelFotoModelo* panel = nullptr;
@@ -50,6 +52,7 @@ struct EstudioAislada {
     bool bPlano = false;                ///< the table of factors K reaches the latitude
     solar::AnoEnergia ano;              ///< of the field, after the losses; zeros where the table doesn't reach
     solar::DoceMeses adNecesaria = {};  ///< by the loads on the days of each month, kWh
+    Cableado cableado;
 };
 
 /// The project of a design that the assistant accepted: every value of it stays, and the loads have the models
@@ -75,6 +78,7 @@ struct ProyectoRed {
     CSFVAsistenteRed registro;
     std::set<std::string> fijados;   ///< fields of the record that the project gives
     std::vector<std::string> notas;  ///< what must be known of the project besides
+    CriteriosCableado cableado;
     // Catalogue models, which outlive it.
     const CBaseInversorModelo* inversor = nullptr;
     const CBasePanelFotoModelo* panel = nullptr;
@@ -92,6 +96,7 @@ struct EstudioRed {
     assistants::ComprobacionCampo comprobacion;
     bool bPlano = false;                   ///< the table of factors K reaches the latitude
     std::optional<solar::AnoEnergia> ano;  ///< nothing without radiations or outside the table
+    Cableado cableado;
 };
 
 EFV_API ProyectoRed ProyectoDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos);

@@ -60,6 +60,8 @@ TEST_F(Esquemas, LaAisladaTieneSusCampos)
     EXPECT_TRUE(Unidos(esquema, Clase::regulador, Clase::acumuladores));
     EXPECT_TRUE(Unidos(esquema, Clase::regulador, Clase::cargas));
     EXPECT_TRUE(Los(esquema, Clase::inversor).empty());
+    // 44.7 A and a quarter more, over the 54 A of 6 mm².
+    EXPECT_EQ(esquema.conexiones.at(0).csCable, L"10 mm²");
 }
 
 TEST_F(Esquemas, LasCargasCuelganDeSuCorriente)
