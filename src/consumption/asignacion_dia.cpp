@@ -44,12 +44,14 @@ bool EsDestino(Alcance alcance, int iMes, int iDia, int iMesDestino, int iDiaDes
     return false;
 }
 
-void AsignarDia(DiaHorarioVista dia, Alcance alcance, int iMes, int iDia,
-                std::span<double, kHorasDelAno> adHoras)
+void AsignarDia(DiaHorarioVista dia, Alcance alcance, int iMes, int iDia, const HorasDelDia& horas)
 {
-    for (int h = 0; h < solar::kHorasAno; h += 24)
-        if (EsDestino(alcance, iMes, iDia, solar::MesDeHora(h), solar::DiaDelMes(h)))
-            std::ranges::copy(dia, adHoras.begin() + h);
+    for (int h = 0; h < solar::kHorasAno; h += 24) {
+        const int m = solar::MesDeHora(h);
+        const int d = solar::DiaDelMes(h);
+        if (EsDestino(alcance, iMes, iDia, m, d))
+            std::ranges::copy(dia, horas(m, d).begin());
+    }
 }
 
 std::array<std::optional<CString>, 24> CeldasPegadas(std::wstring_view texto)

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <optional>
+#include <span>
 #include <vector>
 
 #include <quorvel/consumption.h>
@@ -28,9 +30,11 @@ std::vector<CString> TextosDeAlcance(int iMes, int iDia);
 /// those of the reference year.
 bool EsDestino(Alcance alcance, int iMes, int iDia, int iMesDestino, int iDiaDestino);
 
+/// Where the hours of day `iDia` (from 0) of month `iMes` stand in a year.
+using HorasDelDia = std::function<std::span<double, 24>(int iMes, int iDia)>;
+
 /// Copies the hours of a day to every day that the choice names.
-void AsignarDia(DiaHorarioVista dia, Alcance alcance, int iMes, int iDia,
-                std::span<double, kHorasDelAno> adHoras);
+void AsignarDia(DiaHorarioVista dia, Alcance alcance, int iMes, int iDia, const HorasDelDia& horas);
 
 /// Values of a plain text of a clipboard, by hour: cells between tabs, line ends count as tabs. What stands
 /// behind the 24th is left out; an empty cell, or one that isn't there, has no text.

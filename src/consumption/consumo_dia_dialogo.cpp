@@ -1,14 +1,6 @@
 #include "consumption/consumo_dia_dialogo.h"
 
-#include <algorithm>
-
-#include <quorvel/ui/presentador.h>
-
-#include "consumption/asignacion_dia.h"
-
 namespace {
-
-namespace ui = efv::ui;
 
 efv::consumption::AspectoHoras Aspecto()
 {
@@ -21,40 +13,10 @@ efv::consumption::AspectoHoras Aspecto()
 }  // namespace
 
 CDlgDatosConsumoDia::CDlgDatosConsumoDia(int iMes, int iDia, std::span<double, efv::kHorasDelAno> adHoras)
-    : Dialogo("CDlgDatosConsumoDia", L"Datos de consumo diario"),
-      m_iMes(iMes),
-      m_iDia(iDia),
-      m_adHoras(adHoras),
-      m_horas(
-          Aspecto(),
-          [this](const CString& csRotulo) -> ui::Edicion& { return Anadir<ui::Edicion>("", csRotulo); },
-          [this]() -> ui::Grafica& { return Anadir<ui::Grafica>("grafica", L""); },
-          [this] { return !Recoger().has_value(); })
+    : DialogoDia("CDlgDatosConsumoDia", L"Datos de consumo diario", Aspecto(), iMes, iDia,
+                 [adHoras](int iMesDestino, int iDiaDestino) {
+                     const auto iInicio = efv::HorasDeDia(iMesDestino, iDiaDestino).iInicio;
+                     return std::span<double, 24>(adHoras.data() + iInicio, 24);
+                 })
 {
-    Anadir<ui::Boton>("", L"Pegar").alPulsar = [this] { AlPegar(); };
-    auto& alcance =
-        Anadir<ui::Seleccion>("iAsignacion", L"Asignación del consumo: ", ui::Seleccion::Forma::radio);
-    alcance.acsEntradas = efv::consumption::TextosDeAlcance(iMes, iDia);
-    alcance.destino = &m_iAlcance;
-    const auto dia = adHoras.subspan(static_cast<std::size_t>(efv::HorasDeDia(iMes, iDia).iInicio), 24);
-    std::ranges::copy(dia, m_horas.Valores().begin());
-    Volcar();
-    m_horas.Mostrar();
-}
-
-void CDlgDatosConsumoDia::AlPegar()
-{
-    const auto celdas = efv::consumption::CeldasPegadas(ui::PresentadorActual().LeerPortapapeles());
-    for (std::size_t h = 0; h < celdas.size(); ++h)
-        if (celdas[h])
-            m_horas.PonerTexto(h, *celdas[h]);
-    if (RecogerAvisando())
-        m_horas.Dibujar();
-}
-
-bool CDlgDatosConsumoDia::AlAceptar()
-{
-    efv::consumption::AsignarDia(m_horas.Valores(), static_cast<efv::consumption::Alcance>(m_iAlcance), m_iMes,
-                                 m_iDia, m_adHoras);
-    return true;
 }

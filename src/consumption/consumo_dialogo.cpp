@@ -22,7 +22,6 @@ namespace ui = efv::ui;
 using P = efv::consumption::DatosConsumo;
 using efv::numero::nuConvertFltToIntlStr;
 
-constexpr int kAnoReferencia = 2018;  // of the weekdays on view: 365 days from a Monday
 constexpr double kMil = 1000.0;
 
 constexpr auto kTipos =
@@ -137,7 +136,9 @@ void CDlgDatosConsumo::AnadirTablaDeDias()
     m_dias = &Anadir<ui::Lista>("adHoras", L"", ui::Lista::Forma::tabla);
     m_dias->acsColumnas = efv::consumption::ColumnasDeDias();
     m_dias->otras = ui::Alineacion::derecha;
-    m_dias->modelo = std::make_shared<efv::consumption::TablaDeDias>(adHoras);
+    m_dias->modelo = std::make_shared<efv::consumption::TablaDeDias>(
+        [horas = adHoras](int iMes, int iDia) { return efv::SumaDeHoras(*horas, efv::HorasDeDia(iMes, iDia)); },
+        0);
     m_dias->alAbrir = [this](int iFila, int iColumna) { AlAbrirDia(iFila, iColumna); };
     m_dias->colocacion.bEstirar = true;
 }
@@ -164,14 +165,9 @@ void CDlgDatosConsumo::AnadirReceptores()
 // The day on view stays where the month has it, else the first comes up.
 void CDlgDatosConsumo::PonerDiasDelMes()
 {
-    efv::ComprobarIndice(datos.iMes, efv::solar::kDiasMesReferencia.size());
     ui::Seleccion& dias = *m_diaMes;
-    const int nDias = efv::solar::kDiasMesReferencia[static_cast<std::size_t>(datos.iMes)];
-    dias.acsEntradas.clear();
-    for (int iDia = 0; iDia < nDias; ++iDia)
-        dias.acsEntradas.push_back(
-            fmt::format(L"{} ({})", iDia + 1,
-                        efv::solar::NombreDia(efv::solar::TipoDia(kAnoReferencia, datos.iMes, iDia))));
+    dias.acsEntradas = efv::consumption::DiasDelMes(datos.iMes);
+    const int nDias = static_cast<int>(dias.acsEntradas.size());
     if (datos.iDiaMes < 0 || datos.iDiaMes >= nDias)
         datos.iDiaMes = 0;
     dias.iSeleccion = datos.iDiaMes;

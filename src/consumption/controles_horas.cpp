@@ -10,7 +10,9 @@ namespace efv::consumption {
 ControlesHoras::ControlesHoras(const AspectoHoras& aspecto, const Anadir& anadir,
                                const std::function<ui::Grafica&()>& anadirGrafica,
                                std::function<bool()> recoger)
-    : m_valores(std::make_unique<std::array<double, 24>>()), m_iDecimales(aspecto.iDecimales)
+    : m_valores(std::make_unique<std::array<double, 24>>()),
+      m_iDecimales(aspecto.iDecimales),
+      m_csSerie(aspecto.csSerie)
 {
     for (std::size_t h = 0; h < m_campos.size(); ++h) {
         ui::Edicion& campo = anadir(NombreDeHora(static_cast<int>(h)));
@@ -39,6 +41,7 @@ void ControlesHoras::Mostrar()
 void ControlesHoras::Dibujar()
 {
     m_grafica->datos.aSeries = GraficaDiaDeHoras(*m_valores).aSeries;
+    m_grafica->datos.aSeries.front().csNombre = m_csSerie;
 }
 
 }  // namespace efv::consumption

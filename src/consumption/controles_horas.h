@@ -15,6 +15,7 @@ struct AspectoHoras {
     int iDecimales = 2;
     ui::Limites limites;
     CCtrlCurva2D grafica;  ///< titles of the curve, whose one series is replaced
+    CString csSerie = {};  ///< what that one is called
 };
 
 /// Editors of a day's hours and their chart, parts of a dialog that owns the controls.
@@ -38,6 +39,7 @@ private:
     std::array<ui::Edicion*, 24> m_campos{};
     ui::Grafica* m_grafica = nullptr;
     int m_iDecimales;
+    CString m_csSerie;
 };
 
 }  // namespace efv::consumption

@@ -1,8 +1,19 @@
 #include "consumption/nombres.h"
 
+#include <fmt/format.h>
+#include <fmt/xchar.h>
+
+#include <quorvel/framework/CArray.h>
+
 #include "solar/calendario.h"
 
 namespace efv::consumption {
+
+namespace {
+
+constexpr int kAnoReferencia = 2018;  // of the weekdays on view: 365 days from a Monday
+
+}  // namespace
 
 std::vector<CString> NombresDeDias()
 {
@@ -20,6 +31,16 @@ std::vector<CString> NombresDeMeses()
     for (int i = 0; i < 12; ++i)
         nombres.emplace_back(solar::NombreMes(i));
     return nombres;
+}
+
+std::vector<CString> DiasDelMes(int iMes)
+{
+    efv::ComprobarIndice(iMes, solar::kDiasMesReferencia.size());
+    std::vector<CString> dias;
+    for (int iDia = 0; iDia < solar::kDiasMesReferencia[static_cast<std::size_t>(iMes)]; ++iDia)
+        dias.push_back(
+            fmt::format(L"{} ({})", iDia + 1, solar::NombreDia(solar::TipoDia(kAnoReferencia, iMes, iDia))));
+    return dias;
 }
 
 }  // namespace efv::consumption

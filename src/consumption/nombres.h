@@ -11,5 +11,8 @@ namespace efv::consumption {
 std::vector<CString> NombresDeDias();
 /// "Enero" to "Diciembre".
 std::vector<CString> NombresDeMeses();
+/// "1 (Lunes)" and so on: the days of a month with their weekdays in 2018, the year on view. A month outside 0
+/// to 11 throws CInvalidArgException.
+std::vector<CString> DiasDelMes(int iMes);
 
 }  // namespace efv::consumption

@@ -20,7 +20,7 @@ CString TablaDeDias::Celda(int iFila, int iColumna) const
     const auto iMes = static_cast<std::size_t>(iColumna - 1);
     if (iMes >= 12 || iFila >= solar::kDiasMesReferencia[iMes])
         return {};
-    return numero::nuConvertFltToIntlStr(SumaDeHoras(*m_adHoras, HorasDeDia(iColumna - 1, iFila)), 0);
+    return numero::nuConvertFltToIntlStr(m_valor(iColumna - 1, iFila), m_iDecimales);
 }
 
 }  // namespace efv::consumption

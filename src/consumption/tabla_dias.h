@@ -1,11 +1,10 @@
 // A year by hours as a table of its days, days by months.
 #pragma once
 
-#include <memory>
+#include <functional>
 #include <utility>
 #include <vector>
 
-#include <quorvel/consumption.h>
 #include <quorvel/ui/controles.h>
 
 namespace efv::consumption {
@@ -13,16 +12,21 @@ namespace efv::consumption {
 /// "Día", then the short names of the months.
 std::vector<CString> ColumnasDeDias();
 
-/// The energy of each day, without decimals; blank for days that a month doesn't have.
+/// A value of each day; blank for days that a month doesn't have.
 class TablaDeDias final : public ui::ModeloFilas {
 public:
-    explicit TablaDeDias(std::shared_ptr<const AnoHorario> adHoras) : m_adHoras(std::move(adHoras)) {}
+    /// @param valor of day `iDia` (from 0) of month `iMes`, asked for when a cell is
+    TablaDeDias(std::function<double(int iMes, int iDia)> valor, int iDecimales)
+        : m_valor(std::move(valor)), m_iDecimales(iDecimales)
+    {
+    }
 
     int Filas() const override { return 31; }
     CString Celda(int iFila, int iColumna) const override;
 
 private:
-    std::shared_ptr<const AnoHorario> m_adHoras;
+    std::function<double(int, int)> m_valor;
+    int m_iDecimales;
 };
 
 }  // namespace efv::consumption

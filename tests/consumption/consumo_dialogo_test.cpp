@@ -258,7 +258,9 @@ TEST(ConsumoDia, CadaAlcanceLlegaASusDias)
     auto ano = std::make_unique<AnoHorario>();
     for (std::size_t i = 0; i < nDias.size(); ++i) {
         ano->fill(0);
-        consumption::AsignarDia(dia, static_cast<consumption::Alcance>(i), 1, 13, *ano);
+        consumption::AsignarDia(dia, static_cast<consumption::Alcance>(i), 1, 13, [&](int iMes, int iDia) {
+            return std::span<double, 24>(ano->data() + HorasDeDia(iMes, iDia).iInicio, 24);
+        });
         EXPECT_EQ(SumaDeHoras(*ano, HorasDePeriodo(12)), 24.0 * static_cast<double>(nDias[i])) << i;
         EXPECT_EQ((*ano)[24 * 44], i == 3 || i == 6 ? 0 : 1) << i;
     }
