@@ -20,4 +20,17 @@ constexpr TramoHoras HorasDelMes(std::size_t m)
     return {iPrimera, iPrimera + static_cast<std::size_t>(solar::kDiasMesReferencia[m]) * 24};
 }
 
+/// Place of the first hour of day `iDia` (from 0) of month `iMes`.
+constexpr std::size_t PrimeraHora(int iMes, int iDia)
+{
+    return static_cast<std::size_t>(iMes) * kHorasMesBloque + static_cast<std::size_t>(iDia) * 24;
+}
+
+/// The day stands in the reference year.
+constexpr bool ExisteDia(int iMes, int iDia)
+{
+    return iMes >= 0 && iMes < 12 && iDia >= 0 &&
+           iDia < solar::kDiasMesReferencia[static_cast<std::size_t>(iMes)];
+}
+
 }  // namespace efv::economics
