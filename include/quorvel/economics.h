@@ -166,3 +166,44 @@ EFV_API int phCalcularViabilidadEconomicaRed3(const double (&adHorizontal)[12], 
 /// @return 1 when accepted, else 0 with the study as it was
 EFV_API int phViabilidadEconomicaRed(CSFVCalculoEconomico& estudio, const double (&adMesA)[12],
                                      const double (&adMesB)[12], double dDato);
+
+// ---------------------------------------------------------------------------------------------------
+// Self-consumption, hour by hour. n is the number of studies in the list.
+// ---------------------------------------------------------------------------------------------------
+
+/// Opens the study of self-consumption: energies, prices, balance, amortisation. The studies of the list are
+/// written as the person works, also when the dialog is cancelled; an installation that doesn't pay within
+/// 10,000 years, or within a year that leaves what remains unchanged, counts as never paid (0 years). Above a
+/// million months of financing the instalments are one product.
+/// @param adProduccion,adConsumo n + 1 blocks, kWh: those of the elements in the list's order, then the whole
+/// @param adCargaFV,adAutoconsumoBat,adVertidoBat,adCargaRed,adDescarga n + 1 blocks each, what a battery did,
+///        kWh: charged from the panels, used in the house, exported, charged from the grid, discharged; or null
+/// @param dCosteDegradacion wear of a kWh discharged, €
+/// @param adPrecioConsumo,adPrecioVertido €/kWh of a kWh bought and sold; replaced on acceptance
+/// @return 1 when accepted, else 0
+EFV_API int phViabilidadEconomicaAutoconsumo(const double* adProduccion, const double* adConsumo,
+                                             const double* adCargaFV, const double* adAutoconsumoBat,
+                                             const double* adVertidoBat, const double* adCargaRed,
+                                             const double* adDescarga, double dCosteDegradacion,
+                                             double (&adPrecioConsumo)[12][31][24],
+                                             double (&adPrecioVertido)[12][31][24],
+                                             CObArrayPropio<CSFVCalculoEconomicoAuto>& aEstudios);
+
+/// Opens the two pages of hourly prices alone.
+/// @return 1 with both blocks replaced when accepted, else 0
+EFV_API int phPrecioEconomicoEnergetico(double (&adPrecioConsumo)[12][31][24],
+                                        double (&adPrecioVertido)[12][31][24]);
+
+/// Opens a dialog with a tick for each hour of the day.
+/// @param aiHoras not 0 for a tick; 0 and 1 on acceptance
+/// @return 1 when accepted, else 0
+EFV_API int phShowDlgHorasDia(int (&aiHoras)[24]);
+
+namespace efv::economics {
+
+/// Opens the form of a tariff of six periods, which no other dialog leads to. Nothing is made of what is
+/// written in it.
+/// @return 1 when accepted, else 2
+EFV_API int AbrirGeneradorTarifa();
+
+}  // namespace efv::economics

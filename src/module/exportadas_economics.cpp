@@ -1,10 +1,14 @@
 // Exported functions of the economic studies.
+#include <algorithm>
 #include <array>
 #include <utility>
 
 #include <quorvel/economics.h>
 #include <quorvel/economics_calculo.h>
 
+#include "economics/autoconsumo_hoja.h"
+#include "economics/detalle_horas_dialogo.h"
+#include "economics/generador_tarifa_dialogo.h"
 #include "economics/venta_dialogo.h"
 #include "frame/recursos.h"
 #include "module/singletons.h"
@@ -29,6 +33,23 @@ int Estudiar(CObject* registro, MESES&& meses)
     ec::CalcularAnos(*estudio);
     ec::CalcularTIR(*estudio);
     ec::AnadirMeses(*estudio, meses(*estudio));
+    return 1;
+}
+
+using BloqueC = double[12][31][24];
+
+ec::BloqueHorario Bloque(const BloqueC& ad)
+{
+    return ec::BloqueHorario(&ad[0][0][0], ec::kHorasBloque);
+}
+
+/// Shows the sheet; accepted, its prices go into the blocks.
+int Mostrar(CCalculoEconomicoAutoSheet& hoja, BloqueC& adPrecioConsumo, BloqueC& adPrecioVertido)
+{
+    if (hoja.Mostrar() != efv::ui::Dialogo::ok)
+        return 0;
+    std::ranges::copy(hoja.precioConsumo, &adPrecioConsumo[0][0][0]);
+    std::ranges::copy(hoja.precioVertido, &adPrecioVertido[0][0][0]);
     return 1;
 }
 
@@ -91,4 +112,43 @@ int phViabilidadEconomicaRed(CSFVCalculoEconomico& estudio, const double (&/*adM
         editado.*meses = std::move(estudio.*meses);
     estudio = std::move(editado);
     return 1;
+}
+
+int phViabilidadEconomicaAutoconsumo(const double* adProduccion, const double* adConsumo,
+                                     const double* adCargaFV, const double* adAutoconsumoBat,
+                                     const double* adVertidoBat, const double* adCargaRed,
+                                     const double* adDescarga, double dCosteDegradacion,
+                                     double (&adPrecioConsumo)[12][31][24],
+                                     double (&adPrecioVertido)[12][31][24],
+                                     CObArrayPropio<CSFVCalculoEconomicoAuto>& aEstudios)
+{
+    const AmbitoRecursos ambito;
+    const ec::HorasBateria bateria{adCargaFV,  adAutoconsumoBat, adVertidoBat,
+                                   adCargaRed, adDescarga,       dCosteDegradacion};
+    CCalculoEconomicoAutoSheet hoja({adProduccion, adConsumo, bateria, &aEstudios}, Bloque(adPrecioConsumo),
+                                    Bloque(adPrecioVertido));
+    return Mostrar(hoja, adPrecioConsumo, adPrecioVertido);
+}
+
+int phPrecioEconomicoEnergetico(double (&adPrecioConsumo)[12][31][24], double (&adPrecioVertido)[12][31][24])
+{
+    const AmbitoRecursos ambito;
+    CCalculoEconomicoAutoSheet hoja(Bloque(adPrecioConsumo), Bloque(adPrecioVertido));
+    return Mostrar(hoja, adPrecioConsumo, adPrecioVertido);
+}
+
+int phShowDlgHorasDia(int (&aiHoras)[24])
+{
+    const AmbitoRecursos ambito;
+    CDlgDetalleHoras dialogo(aiHoras);
+    if (dialogo.Mostrar() != efv::ui::Dialogo::ok)
+        return 0;
+    std::ranges::copy(dialogo.aiHoras, aiHoras);
+    return 1;
+}
+
+int efv::economics::AbrirGeneradorTarifa()
+{
+    const AmbitoRecursos ambito;
+    return CDlgGeneradorTarifa().Mostrar();
 }

@@ -141,6 +141,20 @@ const Json& Lista(const Json& documento, const char* nombre)
     return miembro;
 }
 
+constexpr std::string_view kAbrir = "rpc.open";
+
+// A dialog that no function reaches, opened like one: its class is the first argument.
+const Funcion& DialogoPedido(const Json& params)
+{
+    const Funcion* dialogo = nullptr;
+    if (!params.empty() && params[0].is_string())
+        dialogo = BuscarDialogo(params[0].get_ref<const std::string&>());
+    if (dialogo == nullptr)
+        throw ErrorRpc(Codigo::argumentos,
+                       "rpc.open: se esperaba la clase de un diálogo que pueda abrirse así");
+    return *dialogo;
+}
+
 Respuesta LeerRespuesta(const Json& j)
 {
     for (const auto& [respuesta, nombre] : kRespuestas)
@@ -253,7 +267,8 @@ void Servidor::Atender(const Json& peticion, std::string& salida, bool bHayLugar
 void Servidor::Llamar(const Json& peticion, std::string& salida)
 {
     const std::string_view metodo = LeerMetodo(peticion);
-    const Funcion* funcion = BuscarFuncion(metodo);
+    const Funcion* funcion =
+        metodo == kAbrir ? &DialogoPedido(Lista(peticion, "params")) : BuscarFuncion(metodo);
     const MetodoPropio propio = funcion == nullptr ? BuscarMetodoPropio(metodo) : nullptr;
     if (funcion == nullptr && propio == nullptr)
         throw ErrorRpc(Codigo::noExiste, fmt::format("no hay función «{}»", metodo.substr(0, kCitaMaxima)));

@@ -28,6 +28,16 @@ int ViabilidadRed3(const double (&adHorizontal)[12], const double (&adInclinada)
     return phCalcularViabilidadEconomicaRed3(adHorizontal, adInclinada, adEnergia, &estudio);
 }
 
+int AbrirGeneradorTarifa(const CString& /*csDialogo*/)
+{
+    return economics::AbrirGeneradorTarifa();
+}
+
+// Dialogs that no function reaches, by their class, which is their first argument.
+constexpr auto kDialogos = std::to_array<Funcion>({
+    Funcion::De<&AbrirGeneradorTarifa>("CDlgGeneradorTarifa", "csDialogo"),
+});
+
 constexpr auto kFunciones = std::to_array<Funcion>({
     // Module and host
     Funcion::De<&phSetQuorvelBIMCtrl>("phSetQuorvelBIMCtrl", "ctrl"),
@@ -133,6 +143,16 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&ViabilidadRed3>("phCalcularViabilidadEconomicaRed3",
                                  "adHorizontal, adInclinada, adEnergia, estudio"),
     Funcion::De<&phViabilidadEconomicaRed>("phViabilidadEconomicaRed", "estudio, adMesA, adMesB, dDato"),
+    Funcion::De<&phViabilidadEconomicaAutoconsumo, BloquesPorRegistro{0, 10}, BloquesPorRegistro{1, 10},
+                BloquesPorRegistro{2, 10, true}, BloquesPorRegistro{3, 10, true},
+                BloquesPorRegistro{4, 10, true}, BloquesPorRegistro{5, 10, true},
+                BloquesPorRegistro{6, 10, true}>(
+        "phViabilidadEconomicaAutoconsumo",
+        "adProduccion, adConsumo, adCargaFV, adAutoconsumoBat, adVertidoBat, adCargaRed, adDescarga, "
+        "dCosteDegradacion, adPrecioConsumo, adPrecioVertido, aEstudios"),
+    Funcion::De<&phPrecioEconomicoEnergetico>("phPrecioEconomicoEnergetico",
+                                              "adPrecioConsumo, adPrecioVertido"),
+    Funcion::De<&phShowDlgHorasDia>("phShowDlgHorasDia", "aiHoras"),
 
     // Module curves
     Funcion::De<&phCalcValoresTipicos>(
@@ -328,6 +348,14 @@ const Funcion* BuscarFuncion(std::string_view nombre)
     }();
     const auto fila = indice.find(nombre);
     return fila == indice.end() ? nullptr : fila->second;
+}
+
+const Funcion* BuscarDialogo(std::string_view clase)
+{
+    for (const Funcion& dialogo : kDialogos)
+        if (dialogo.GetNombre() == clase)
+            return &dialogo;
+    return nullptr;
 }
 
 }  // namespace efv::rpc

@@ -64,5 +64,45 @@ TEST(FuncionesEstudio, UnaVentaALaRedLlenaSuRegistro)
     EXPECT_EQ(iCodigo, -32000) << mensaje;
 }
 
+// A house of one element: 3 kWh produced and 1 used each hour. The blocks have two times 8,928 numbers.
+TEST(FuncionesEstudio, ElAutoconsumoPorSusBloques)
+{
+    Anfitrion anfitrion;
+    const Json dos3 = std::vector<double>(2 * 8928, 3.0);
+    const Json dos1 = std::vector<double>(2 * 8928, 1.0);
+    const Json compra = std::vector<double>(8928, 0.2);
+    const Json venta = std::vector<double>(8928, 0.05);
+    const Json estudios =
+        Json::array({{{"csReferencia", "Casa"}, {"dCosteInstalacion", 1314}, {"dTipoInteres", 0}}});
+    const auto params = [&](const Json& produccion, const Json& carga) {
+        return Json::array(
+            {produccion, dos1, carga, nullptr, nullptr, nullptr, nullptr, 0.03, compra, venta, estudios});
+    };
+    const Json guion = {{"dialogs",
+                         {{{"dialog", "CCalculoEconomicoAutoSheet"},
+                           {"steps", {{{"select", {"tab", "Amortización"}}}, {{"read", {"lista"}}}}}}}}};
+    const Json r = anfitrion.Resultado("phViabilidadEconomicaAutoconsumo", params(dos3, nullptr), guion);
+    EXPECT_EQ(r["return"], 0);
+    EXPECT_DOUBLE_EQ(r["params"][10][0]["dAniosRecuperacion"].get<double>(), 0.5);  // 2,628 a year
+    EXPECT_EQ(r["params"][3], nullptr);
+    EXPECT_EQ(r["dialogs"][0]["reads"][0]["lista"]["rows"].size(), 7U);
+    EXPECT_EQ(anfitrion.Error("phViabilidadEconomicaAutoconsumo", params(compra, nullptr)).first, -32602);
+    EXPECT_EQ(anfitrion.Error("phViabilidadEconomicaAutoconsumo", params(nullptr, nullptr)).first, -32602);
+    EXPECT_EQ(anfitrion.Error("phViabilidadEconomicaAutoconsumo", params(dos3, compra)).first, -32602);
+}
+
+TEST(FuncionesEstudio, LaTarifaSeAbrePorSuClase)
+{
+    Anfitrion anfitrion;
+    const Json guion = {{"dialogs", {{{"dialog", "CDlgGeneradorTarifa"}, {"steps", {{{"press", "OK"}}}}}}}};
+    const Json r = anfitrion.Resultado("rpc.open", {"CDlgGeneradorTarifa"}, guion);
+    EXPECT_EQ(r["return"], 1);
+    EXPECT_EQ(r["params"], Json::array({"CDlgGeneradorTarifa"}));
+    EXPECT_EQ(r["messages"][0]["text"], "Tarifa generada");
+    EXPECT_EQ(anfitrion.Resultado("rpc.open", {"CDlgGeneradorTarifa"})["return"], 2);
+    EXPECT_EQ(anfitrion.Error("rpc.open", {"CDlgOtro"}).first, -32602);
+    EXPECT_EQ(anfitrion.Error("rpc.open", Json::array()).first, -32602);
+}
+
 }  // namespace
 }  // namespace efv::rpc::pruebas

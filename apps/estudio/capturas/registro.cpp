@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
+#include <memory>
 #include <utility>
 
 #include <QuorvelEFV.h>
@@ -218,6 +220,78 @@ void AbrirEntradas()
     EditarEntradas(entradas, 2, 6);
 }
 
+/// Hours of a house with its field and its battery: two elements and the whole.
+struct HorasDeMuestra {
+    using Bloque = double[12][31][24];
+
+    HorasDeMuestra()
+    {
+        for (std::size_t i = 0; i < kHoras; ++i) {
+            const std::size_t iHora = i % 24;
+            const double dSol =
+                iHora > 6 && iHora < 19 ? std::sin((static_cast<double>(iHora) - 6.0) * kPi / 13.0) : 0.0;
+            const double dUso = iHora > 17 ? 0.9 : 0.3;
+            for (std::size_t k = 0; k < 3; ++k) {
+                const double dParte = k == 0 ? 0.7 : k == 1 ? 0.3 : 1.0;
+                produccion[k * kHoras + i] = 3.5 * dSol * dParte;
+                consumo[k * kHoras + i] = dUso * dParte;
+                carga[k * kHoras + i] = 0.4 * dSol * dParte;
+                descarga[k * kHoras + i] = iHora > 18 ? 0.6 * dParte : 0.0;
+                propio[k * kHoras + i] = std::min(dUso, 3.5 * dSol) * dParte + descarga[k * kHoras + i];
+                vertido[k * kHoras + i] = std::max(0.0, 3.1 * dSol - dUso) * dParte;
+            }
+            (&precios[0][0][0][0])[i] = iHora > 9 && iHora < 22 ? 0.21 : 0.12;
+            (&precios[1][0][0][0])[i] = 0.06;
+        }
+    }
+
+    static constexpr std::size_t kHoras = 8928;
+    static constexpr double kPi = 3.14159265358979;
+    std::vector<double> produccion = std::vector<double>(3 * kHoras), consumo = produccion, carga = produccion,
+                        descarga = produccion, propio = produccion, vertido = produccion, nada = produccion;
+    std::unique_ptr<Bloque[]> precios = std::make_unique<Bloque[]>(2);
+};
+
+void AbrirAutoconsumo()
+{
+    HorasDeMuestra horas;
+    CObArrayPropio<CSFVCalculoEconomicoAuto> estudios;
+    for (const auto& [csReferencia, dParte] :
+         {std::pair(L"Cubierta sur", 0.7), std::pair(L"Cubierta este", 0.3)}) {
+        auto& estudio = estudios.Add(std::make_unique<CSFVCalculoEconomicoAuto>());
+        estudio.csReferencia = csReferencia;
+        estudio.dPotenciaPaneles = 4.5 * dParte;
+        estudio.dPotenciaInversores = 4.0 * dParte;
+        estudio.dCosteInstalacion = 7000.0 * dParte;
+        estudio.dCapitalInicial = 2000.0 * dParte;
+    }
+    phViabilidadEconomicaAutoconsumo(horas.produccion.data(), horas.consumo.data(), horas.carga.data(),
+                                     horas.propio.data(), horas.vertido.data(), horas.nada.data(),
+                                     horas.descarga.data(), 0.02, horas.precios[0], horas.precios[1], estudios);
+}
+
+void AbrirPrecios()
+{
+    HorasDeMuestra horas;
+    phPrecioEconomicoEnergetico(horas.precios[0], horas.precios[1]);
+}
+
+void AbrirHoras()
+{
+    int aiHoras[24] = {};
+    std::fill_n(aiHoras + 8, 10, 1);
+    phShowDlgHorasDia(aiHoras);
+}
+
+// The day's dialog is another one over a price than over an energy.
+void AbrirDias(ui::Dialogo& dialogo)
+{
+    if (dialogo.clase != "CCalculoEconomicoAutoSheet")
+        return;
+    AbrirFila(dialogo, "adConsumo", 0, 1);
+    AbrirFila(dialogo, "adPrecioConsumo", 0, 1);
+}
+
 }  // namespace
 
 std::vector<Pantalla> Pantallas(Sesion& sesion)
@@ -241,6 +315,13 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
                    "CDlgDatosConsumoMes", "CDlgDatosConsumoDia"}),
         DeConsumo(sesion, "consumo-receptores", 1, {"CDlgDatosReceptor", "CDlgMesAno"}),
         {"venta", {"CDlgCalculoEconomicoRed"}, &AbrirVenta, {}},
+        {"autoconsumo",
+         {"CCalculoEconomicoAutoSheet", "CDlgCalculoEconomicoAutoDia"},
+         &AbrirAutoconsumo,
+         &AbrirDias},
+        {"precios", {"CCalculoEconomicoAutoSheet"}, &AbrirPrecios, {}},
+        {"horas", {"CDlgDetalleHoras"}, &AbrirHoras, {}},
+        {"tarifa", {"CDlgGeneradorTarifa"}, [] { economics::AbrirGeneradorTarifa(); }, {}},
         {"paneles-elegir",
          {"CDlgVisorXML", "CDlgItemDatosPanelFoto"},
          [] {
