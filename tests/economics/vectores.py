@@ -4,8 +4,9 @@
     python3 tests/economics/vectores.py > tests/economics/vectores.csv
 
 Rows: kind, name=value of the inputs, "->", name=value of the results. Kinds: venta (a study of sale to the
-grid), tabla (the same by the texts of its table), auto (a balance of self-consumption with its amortisation). The hourly blocks of `auto` are those of
-`bloque` below, which the test makes by the same rule.
+grid), tabla (the same by the texts of its table), auto (a balance of self-consumption with its amortisation),
+hoja (the same of two elements and of the whole). The hourly blocks are those of `bloque` below, which the tests
+make by the same rule.
 """
 import math
 import random
@@ -99,16 +100,17 @@ def horas():
             yield m, i
 
 
-def auto(rnd, bateria):
-    e = dict(a=rnd.randrange(1, 1000), b=rnd.randrange(1000), bateria=int(bateria), dCosteDegradacion=0.03,
+def caso_auto(rnd, bateria):
+    return dict(a=rnd.randrange(1, 1000), b=rnd.randrange(1000), bateria=int(bateria), dCosteDegradacion=0.03,
              dCosteInstalacion=rnd.choice([9000.0, 40000.0, 500.0]), dCapitalInicial=rnd.choice([0.0, 400.0]),
              dTipoInteres=rnd.choice([0.0, 2.5]), dMesesFinanciacion=rnd.choice([24.0, 24.5, 0.0]),
              dEnvejecimiento=rnd.choice([0.25, 5.0]), dVariacionPrecio=0.5)
-    a, b = e["a"], e["b"]
-    P, C = bloque(a, b, 0.002), bloque(a + 17, b + 5, 0.0015)
-    B, S = bloque(a + 31, b + 9, 0.0002), bloque(a + 3, b + 77, 0.00007)
-    cargaFV, auto_, vertido = bloque(a + 7, b, 0.0004), bloque(a + 11, b, 0.0012), bloque(a + 13, b, 0.0006)
-    cargaRed, descarga = bloque(a + 19, b, 0.0001), bloque(a + 23, b, 0.0004)
+
+
+def calcular(e, P, C, B, S, bat):
+    """Money of the year and payback; `bat` the five hours of the battery, or nothing."""
+    bateria = bat is not None
+    cargaFV, auto_, vertido, cargaRed, descarga = bat or [None] * 5
     gasto, propio, venta_, resto = [[0.0] * 12 for _ in range(4)]
     base = con = 0.0
     for m, i in horas():
@@ -145,12 +147,42 @@ def auto(rnd, bateria):
         ahorro *= factor
     meses = math.ceil(anos * 12)
     acumulado = math.fsum(ahorros[(i % 12)] * factor ** (i // 12) for i in range(meses))
-    linea("auto", e, dict(
+    return dict(
         gastoMarzo=gasto[2], autoconsumoMarzo=propio[2], vertidoMarzo=venta_[2], gastoAno=math.fsum(gasto),
         ahorro=math.fsum(ahorros), dCosteFinanciacion=financiado, dCosteTotal=total, anos=anos, filas=meses + 1,
         autoconsumoUltimo=propio[(meses - 1) % 12] * (factor if meses > 12 else 1) if meses else 0.0,
         acumulado=acumulado,
-        descarga=math.fsum(descarga[i] for _, i in horas()) if bateria else 0.0, ahorroNeto=base - con))
+        descarga=math.fsum(descarga[i] for _, i in horas()) if bateria else 0.0, ahorroNeto=base - con)
+
+
+def auto(rnd, bateria):
+    e = caso_auto(rnd, bateria)
+    a, b = e["a"], e["b"]
+    P, C = bloque(a, b, 0.002), bloque(a + 17, b + 5, 0.0015)
+    B, S = bloque(a + 31, b + 9, 0.0002), bloque(a + 3, b + 77, 0.00007)
+    cargaFV, auto_, vertido = bloque(a + 7, b, 0.0004), bloque(a + 11, b, 0.0012), bloque(a + 13, b, 0.0006)
+    cargaRed, descarga = bloque(a + 19, b, 0.0001), bloque(a + 23, b, 0.0004)
+    bat = [cargaFV, auto_, vertido, cargaRed, descarga] if bateria else None
+    linea("auto", e, calcular(e, P, C, B, S, bat))
+
+
+def hoja(rnd, bateria):
+    """Two elements and the whole under the same prices: each with its own hours, and the first one's consumption
+    against the production of the whole."""
+    e = caso_auto(rnd, bateria)
+    a, b = e["a"], e["b"]
+    P = [bloque(a + 29 * k, b + k, 0.002) for k in range(2)]
+    C = [bloque(a + 17 + 31 * k, b + 5 + k, 0.0015) for k in range(2)]
+    for ambos in (P, C):
+        ambos.append([x + y for x, y in zip(*ambos)])
+    B, S = bloque(a + 31, b + 9, 0.0002), bloque(a + 3, b + 77, 0.00007)
+    factores = [(7, 0.0004), (11, 0.0012), (13, 0.0006), (19, 0.0001), (23, 0.0004)]
+    bat = [[bloque(a + d + k, b, f) for d, f in factores] if bateria else None for k in range(3)]
+    resultados = {}
+    for nombre, p, c, k in (("0", 0, 0, 0), ("1", 1, 1, 1), ("G", 2, 2, 2), ("M", 2, 0, 0)):
+        for campo, valor in calcular(e, P[p], C[c], B, S, bat[k]).items():
+            resultados[campo + nombre] = valor
+    linea("hoja", e, resultados)
 
 
 def tabla(rnd):
@@ -193,6 +225,8 @@ def main():
         auto(rnd, i % 2 == 1)
     for _ in range(20):
         tabla(rnd)
+    for i in range(6):
+        hoja(rnd, i % 2 == 1)
 
 
 main()
