@@ -7,6 +7,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "economia/estudios.h"
 #include "esquema/exportar.h"
 #include "proyecto/asistentes.h"
 #include "proyecto/ejemplo.h"
@@ -21,6 +22,7 @@ constexpr double kPasoAmpliar = 1.25;
 
 constexpr const char* kArchivo = "&Archivo";
 constexpr const char* kDiseno = "&Diseño";
+constexpr const char* kEconomia = "Eco&nomía";
 constexpr const char* kEsquema = "&Esquema";
 constexpr const char* kCatalogos = "&Catálogos";
 constexpr const char* kAyuda = "A&yuda";
@@ -104,6 +106,9 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, "&Consumo…", nullptr, [](Ventana& v) { EditarConsumo(v.LaSesion()); }},
     {kDiseno, nullptr, nullptr, nullptr},
     {kDiseno, "I&nforme…", "Ctrl+I", &GuardarInformeALaVista},
+    {kEconomia, "&Venta a la red…", nullptr, [](Ventana& v) { EstudiarVenta(v.LaSesion()); }},
+    {kEconomia, "&Autoconsumo…", nullptr, [](Ventana& v) { EstudiarAutoconsumo(v.LaSesion()); }},
+    {kEconomia, "&Precios horarios…", nullptr, [](Ventana& v) { EditarPrecios(v.LaSesion()); }},
     {kEsquema, "&Encajar en la ventana", "Ctrl+0", &EncajarEsquema},
     {kEsquema, "&Ampliar", "Ctrl++", [](Ventana& v) { AmpliarEsquema(v, kPasoAmpliar); }},
     {kEsquema, "&Reducir", "Ctrl+-", [](Ventana& v) { AmpliarEsquema(v, 1.0 / kPasoAmpliar); }},

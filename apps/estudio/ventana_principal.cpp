@@ -14,6 +14,7 @@
 
 #include <quorvel/qt.h>
 
+#include "economia/estudios.h"
 #include "ordenes.h"
 #include "proyecto/asistentes.h"
 
@@ -70,6 +71,10 @@ std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
          L"Todavía no hay diseño.\n«Asistente de conexión a red…» lo propone.", Diseno::red},
         {"consumo", "Con&sumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, nullptr,
          std::nullopt},
+        {"venta", "&Venta", [](Ventana& v) -> ui::Dialogo& { return v.m_venta; }, nullptr, nullptr,
+         std::nullopt},
+        {"autoconsumo", "A&utoconsumo", [](Ventana& v) -> ui::Dialogo& { return v.m_autoconsumo; }, nullptr,
+         nullptr, std::nullopt},
     });
     return kFilas;
 }
@@ -101,7 +106,13 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
               const AnoDeConsumo ano = AnoDe(datos);
               return {ResumenDe(datos, ano), GraficaDe(ano)};
           },
-          [this] { EditarConsumo(m_sesion); })
+          [this] { EditarConsumo(m_sesion); }),
+      m_venta(
+          "PanelVenta", L"&Venta a la red…", [this] { return VentaDe(m_sesion.Proyecto()); },
+          [this] { EstudiarVenta(m_sesion); }),
+      m_autoconsumo(
+          "PanelAutoconsumo", L"&Autoconsumo…", [this] { return AutoconsumoDe(m_sesion.Proyecto()); },
+          [this] { EstudiarAutoconsumo(m_sesion); })
 {
     CrearMenus();
     auto* centro = new QSplitter(this);
@@ -191,7 +202,7 @@ void VentanaPrincipal::Actualizar()
     setWindowModified(m_sesion.Modificado());
     m_lugar.Actualizar();
     m_energia.Poner(proyecto.lugar);
-    for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo})
+    for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo, &m_venta, &m_autoconsumo})
         panel->Actualizar();
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)
         if (const FilaPestana& fila = FilasPestanas()[i]; fila.lamina != nullptr)

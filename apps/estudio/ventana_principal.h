@@ -1,4 +1,5 @@
-// The program's window: the project's place at one side, its energy, designs and consumption at the other.
+// The program's window: the project's place at one side, its energy, designs, consumption and
+// economic studies at the other.
 #pragma once
 
 #include <functional>
@@ -53,7 +54,7 @@ private:
     Sesion m_sesion;
     PanelLugar m_lugar;
     PanelEnergia m_energia;
-    PanelResumen m_aislada, m_red, m_consumo;
+    PanelResumen m_aislada, m_red, m_consumo, m_venta, m_autoconsumo;
     QTabWidget* m_pestanas = nullptr;
     std::vector<VistaEsquema*> m_esquemas;  // by tab; null for one without
     std::vector<QWidget*> m_paneles;

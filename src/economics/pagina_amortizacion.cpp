@@ -21,7 +21,7 @@ using numero::nuConvertFltToIntlStr;
 
 constexpr ui::Colocacion kInstalacion{.grupo = L"Instalación"};
 constexpr ui::Colocacion kFinanciacion{.grupo = L"Financiación", .iColumna = 1};
-constexpr ui::Colocacion kBateria{.grupo = L"Resumen anual de batería", .iColumna = 2};
+constexpr ui::Colocacion kBateria{.grupo = L"Resumen anual de batería"};
 
 constexpr auto kElemento = ui::Campos<R>({
     {&R::dPotenciaPaneles, L"Potencia en campo de paneles (kWp):"},
@@ -92,7 +92,6 @@ PaginaAmortizacion::PaginaAmortizacion(ui::Dialogo& dialogo, CCalculoEconomicoAu
     m_elemento = &Anadir<ui::Seleccion>("iSeleccion", L"Generador:", ui::Seleccion::Forma::combo);
     m_elemento->alElegir = [this] { AlElegirElemento(); };
     AnadirCampos();
-    AnadirBateria();
     m_lista = &Anadir<ui::Lista>("lista", L"", ui::Lista::Forma::tabla);
     m_lista->acsColumnas.assign(kColumnas.begin(), kColumnas.end());
     m_lista->alineaciones = {ui::Alineacion::izquierda};
@@ -111,6 +110,7 @@ void PaginaAmortizacion::AnadirCampos()
 {
     m_campos.Anadir(*this, kElemento, kInstalacion);
     m_campos.Anadir(*this, kVariacion, kInstalacion);
+    AnadirBateria();
     m_campos.Anadir(*this, kCapital, kFinanciacion);
     m_campos.Anadir(*this, kResultados, kFinanciacion);
     const auto soloMostrar = [this](const auto& campos) {

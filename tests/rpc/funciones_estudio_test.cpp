@@ -83,7 +83,7 @@ TEST(FuncionesEstudio, ElAutoconsumoPorSusBloques)
                            {"steps", {{{"select", {"tab", "Amortización"}}}, {{"read", {"lista"}}}}}}}}};
     const Json r = anfitrion.Resultado("phViabilidadEconomicaAutoconsumo", params(dos3, nullptr), guion);
     EXPECT_EQ(r["return"], 0);
-    EXPECT_DOUBLE_EQ(r["params"][10][0]["dAniosRecuperacion"].get<double>(), 0.5);  // 2,628 a year
+    EXPECT_NEAR(r["params"][10][0]["dAniosRecuperacion"].get<double>(), 0.5, 1e-9);  // 2,628 a year
     EXPECT_EQ(r["params"][3], nullptr);
     EXPECT_EQ(r["dialogs"][0]["reads"][0]["lista"]["rows"].size(), 7U);
     EXPECT_EQ(anfitrion.Error("phViabilidadEconomicaAutoconsumo", params(compra, nullptr)).first, -32602);

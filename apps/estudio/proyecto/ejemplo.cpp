@@ -66,6 +66,21 @@ void PonerCargas(CProyectoEstudio& proyecto)
     }
 }
 
+// Prices dearer by day, a roof of 1,200 € a kWp on a loan of ten years.
+void PonerEconomia(Economia& economia)
+{
+    for (auto& mes : economia.adPrecioConsumo)
+        for (auto& dia : mes)
+            for (int h = 0; h < 24; ++h)
+                dia[h] = h >= 10 && h < 22 ? 0.21 : 0.12;
+    economia.venta.dRepercusion = 1.2;
+    economia.venta.dPrimaFija = 0.12;
+    economia.venta.dAniosPrestamo = 10.0;
+    economia.autoconsumo.dCosteInstalacion = 24000.0;
+    economia.autoconsumo.dCapitalInicial = 6000.0;
+    economia.autoconsumo.dMesesFinanciacion = 60.0;
+}
+
 }  // namespace
 
 std::unique_ptr<CProyectoEstudio> ProyectoDeEjemplo(const Lugar& lugar)
@@ -94,6 +109,7 @@ std::unique_ptr<CProyectoEstudio> ProyectoDeEjemplo(const Lugar& lugar)
     }
     const Aceptante aceptante("CDlgAsistenteSFVRed");
     phAsistenteSFVRed(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, red);
+    PonerEconomia(proyecto->economia);
     return proyecto;
 }
 

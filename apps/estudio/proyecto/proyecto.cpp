@@ -17,6 +17,8 @@ constexpr std::array<std::uint8_t, 8> kMarca = {'E', 'F', 'V', '-', 'P', 'R', 'Y
 constexpr int kSchema = 2, kSchemaSinSecciones = 1;
 constexpr std::size_t kNombreMaximo = 64;  // of a section
 constexpr int kPatrones = 9;
+constexpr double kAnosVentaMaximo = 200;
+constexpr std::size_t kHorasBloque = std::size_t{12} * 31 * 24;
 constexpr int kEquiposMaximo = 1'000'000;  // more than any field takes; three of them multiply without overflow
 
 constexpr std::wstring_view kMarcaLugar = L"~#SFV#~";
@@ -117,6 +119,8 @@ void Comprobar(const CProyectoEstudio& proyecto)
     Exigir(consumo.iPatron >= 0 && consumo.iPatron < kPatrones, "el patrón de consumo no existe");
     Exigir(std::ranges::all_of(consumo.aiPeriodoHora, [](int i) { return i >= 0 && i < kPeriodosTarifa; }),
            "un período de tarifa no existe");
+    Exigir(!(proyecto.economia.venta.dAniosEstudio > kAnosVentaMaximo),
+           "los años del estudio de venta no son posibles");
 }
 
 void IntercambiarNombre(CProyectoEstudio& proyecto, CArchive& ar)
@@ -166,6 +170,23 @@ void IntercambiarConsumo(CProyectoEstudio& proyecto, CArchive& ar)
     dato(consumo.dHusoHorario);
 }
 
+void IntercambiarVenta(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    proyecto.economia.venta.Serialize(ar);
+}
+
+void IntercambiarAutoconsumo(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    proyecto.economia.autoconsumo.Serialize(ar);
+}
+
+void IntercambiarPrecios(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    dato.Dobles({&proyecto.economia.adPrecioConsumo[0][0][0], kHorasBloque});
+    dato.Dobles({&proyecto.economia.adPrecioVertido[0][0][0], kHorasBloque});
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -179,7 +200,11 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"aislada", 1, &IntercambiarAislada},
     {L"red", 1, &IntercambiarRed},
     {L"consumo", 1, &IntercambiarConsumo},
+    {L"venta", 1, &IntercambiarVenta},
+    {L"autoconsumo", 1, &IntercambiarAutoconsumo},
+    {L"precios", 1, &IntercambiarPrecios},
 });
+constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 
 void EscribirSeccion(CArchive& ar, std::wstring_view nombre, int iSchema, std::span<const std::byte> bytes)
 {
@@ -246,6 +271,12 @@ void LeerSecciones(CProyectoEstudio& proyecto, CArchive& ar)
 
 }  // namespace
 
+Economia::Economia()
+{
+    std::fill_n(&adPrecioConsumo[0][0][0], kHorasBloque, kPrecioConsumo);
+    std::fill_n(&adPrecioVertido[0][0][0], kHorasBloque, kPrecioVertido);
+}
+
 CString Lugar::Texto() const
 {
     // Without a first part the whole would count as one.
@@ -285,7 +316,7 @@ void CProyectoEstudio::Serialize(CArchive& ar)
         return;
     }
     if (LeerCabecera(ar) == kSchemaSinSecciones)
-        for (const ClaseSeccion& clase : kSecciones)
+        for (const ClaseSeccion& clase : std::span(kSecciones).first(kSeccionesDelPrimerSchema))
             clase.intercambiar(*this, ar);
     else
         LeerSecciones(*this, ar);

@@ -1,4 +1,4 @@
-// A project: the place, one design of each assistant, one consumption element.
+// A project: the place, one design of each assistant, one consumption element, the economic studies.
 #pragma once
 
 #include <cstddef>
@@ -40,6 +40,19 @@ struct Consumo {
     double dHusoHorario = 15.0;  ///< offset of the official time, degrees
 };
 
+/// The economic studies of the grid-connected installation. The prices are the person's; a new project has even
+/// ones.
+struct Economia {
+    static constexpr double kPrecioConsumo = 0.2, kPrecioVertido = 0.06;  ///< €/kWh
+
+    CSFVCalculoEconomico venta;
+    CSFVCalculoEconomicoAuto autoconsumo;
+    double adPrecioConsumo[12][31][24];  ///< of a kWh bought, €
+    double adPrecioVertido[12][31][24];  ///< of a kWh sold, €
+
+    Economia();
+};
+
 /// A section of the file that this program doesn't know, kept for the one that does.
 struct SeccionAjena {
     CString csNombre;
@@ -54,6 +67,7 @@ public:
     CSFVAsistenteAislada aislada;
     CSFVAsistenteRed red;
     Consumo consumo;
+    Economia economia;
     std::vector<SeccionAjena> ajenas;
 
     const CRuntimeClass& GetRuntimeClass() const override;

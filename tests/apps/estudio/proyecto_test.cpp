@@ -48,6 +48,12 @@ std::unique_ptr<CProyectoEstudio> Lleno()
     consumo.bExcluir = 1;
     consumo.iRotulacion = 2;
     consumo.dHusoHorario = -15.0;
+    Economia& economia = proyecto->economia;
+    economia.venta.dPrimaFija = 0.25;
+    economia.autoconsumo.csReferencia = L"Tejado";
+    economia.autoconsumo.dTIR = 4.5;
+    economia.adPrecioConsumo[11][30][23] = 0.75;
+    economia.adPrecioVertido[0][0][0] = 0.125;
     return proyecto;
 }
 
@@ -99,6 +105,12 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
     EXPECT_EQ(consumo.bExcluir, 1);
     EXPECT_EQ(consumo.iRotulacion, 2);
     EXPECT_EQ(consumo.dHusoHorario, -15.0);
+    const Economia& economia = despues->economia;
+    EXPECT_EQ(economia.venta.dPrimaFija, 0.25);
+    EXPECT_EQ(economia.autoconsumo.csReferencia, L"Tejado");
+    EXPECT_EQ(economia.autoconsumo.dTIR, 4.5);
+    EXPECT_EQ(economia.adPrecioConsumo[11][30][23], 0.75);
+    EXPECT_EQ(economia.adPrecioVertido[0][0][0], 0.125);
 }
 
 // Bytes put together by hand from the layout, up to the loads; what follows them is zeros.
@@ -132,6 +144,7 @@ TEST(Proyecto, ElDeLaPrimeraVersionSeAbre)
     EXPECT_EQ(consumo.adHoras[8759], 0.3);
     EXPECT_EQ(consumo.adMes[11][5], 7.5);
     EXPECT_EQ(consumo.aiPeriodoHora[23], 2);
+    EXPECT_EQ(proyecto->economia.adPrecioConsumo[5][5][5], Economia::kPrecioConsumo);
     EXPECT_EQ(consumo.dHusoHorario, -15.0);
     EXPECT_EQ(BytesDe(*ProyectoDe(BytesDe(*proyecto))), BytesDe(*proyecto));
 }
@@ -141,8 +154,8 @@ TEST(Proyecto, ElDeLaPrimeraVersionSeAbre)
 std::vector<std::byte> ConSeccion(const wchar_t* csNombre, int iSchema, const std::vector<std::byte>& dentro)
 {
     auto bytes = BytesDe(*Lleno());
-    EXPECT_EQ(bytes.at(12), std::byte{5});
-    bytes[12] = std::byte{6};
+    EXPECT_EQ(bytes.at(12), std::byte{8});
+    bytes[12] = std::byte{9};
     CArchive ar(bytes);
     ar << std::wstring_view(csNombre);
     ar << iSchema;
