@@ -3,6 +3,7 @@
 // Money in euros, energy in kWh, prices in €/kWh, percentages in percentage points (2.0 is 2 %).
 // An hourly year block is double [12][31][24] in one piece: month, day of the month from 0, hour; days that a
 // month lacks are in the block and left out of everything. February has 28 days.
+// Not-a-number and infinities pass through every calculation; on screen they read "nan" and "inf".
 #pragma once
 
 #include <quorvel/exportar.h>

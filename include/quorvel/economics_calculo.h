@@ -140,9 +140,6 @@ struct BalanceHorario {
     std::vector<double> adValorVertido = std::vector<double>(kHorasBloque);
 };
 
-/// Fills `balance`, keeping its storage.
-EFV_API void CalcularBalance(const HorasEstudio& horas, const HorasBateria& bateria, BalanceHorario& balance);
-
 /// One month, or one day, of a balance: sums of absolute hourly values.
 struct FilaBalance {
     double dConsumoTotal = 0.0;
@@ -153,6 +150,9 @@ struct FilaBalance {
 
     bool operator==(const FilaBalance&) const = default;
 };
+/// Fills `balance`, keeping its storage. @return its months with the photovoltaic contribution
+EFV_API std::array<FilaBalance, 12> CalcularBalance(const HorasEstudio& horas, const HorasBateria& bateria,
+                                                    BalanceHorario& balance);
 EFV_API std::array<FilaBalance, 12> MesesBalance(const BalanceHorario& balance, bool bAportacionFV);
 /// @param iMes 0 to 11  @param iDia from 0, a day of that month
 EFV_API FilaBalance DiaBalance(const BalanceHorario& balance, bool bAportacionFV, int iMes, int iDia);

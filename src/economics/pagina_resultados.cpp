@@ -64,7 +64,7 @@ PaginaResultados::PaginaResultados(ui::Dialogo& dialogo, CCalculoEconomicoAutoSh
     m_dias.AnadirSelectores(*this, m_elemento);
     m_aportacion = &Anadir<ui::Casilla>("bAportacionFV", L"Aportación fotovoltaica");
     m_aportacion->bMarcada = true;
-    m_aportacion->alCambiar = [this] { Mostrar(); };
+    m_aportacion->alCambiar = [this] { Mostrar(MesesBalance(m_balance, m_aportacion->bMarcada)); };
     m_aportacion->colocacion = ui::JuntoA(m_dias.Boton());
     m_dias.AnadirTabla(*this);
     AnadirMeses();
@@ -109,13 +109,13 @@ void PaginaResultados::Recalcular()
 {
     m_iMostrado = m_hoja.Elemento();
     m_elemento->iSeleccion = m_elemento->acsEntradas.empty() ? -1 : m_iMostrado;
-    CalcularBalance(m_hoja.Horas(), m_hoja.Bateria(m_iMostrado), m_balance);
-    Mostrar();
+    const auto conAportacion = CalcularBalance(m_hoja.Horas(), m_hoja.Bateria(m_iMostrado), m_balance);
+    Mostrar(m_aportacion->bMarcada ? conAportacion : MesesBalance(m_balance, false));
 }
 
-void PaginaResultados::Mostrar()
+void PaginaResultados::Mostrar(const std::array<FilaBalance, 12>& meses)
 {
-    m_meses->modelo = std::make_shared<TablaDeMeses>(MesesBalance(m_balance, m_aportacion->bMarcada));
+    m_meses->modelo = std::make_shared<TablaDeMeses>(meses);
     ++m_meses->uVersion;
     m_dias.Refrescar();
     MostrarDia();

@@ -1,6 +1,8 @@
 // What the hours of a year cost and earn.
 #pragma once
 
+#include <array>
+
 #include <quorvel/ui/pagina.h>
 
 #include "economics/autoconsumo_hoja.h"
@@ -19,7 +21,7 @@ private:
     void AlElegirElemento();
     /// The balance of the sheet's working copies, and all that shows it.
     void Recalcular();
-    void Mostrar();
+    void Mostrar(const std::array<FilaBalance, 12>& meses);
     void MostrarDia();
     double GastoDia(int iMes, int iDia) const;
     CCtrlCurva2D GraficaDia(int iMes, int iDia) const;

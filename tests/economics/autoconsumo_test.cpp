@@ -62,8 +62,8 @@ TEST(Autoconsumo, BalancesYAmortizacionesContraElProgramaIndependiente)
         caso.estudio.dAniosRecuperacion = r.dAnos;
         const auto tabla = TablaAmortizacion(caso.estudio, dinero, caso.Horas(), caso.bateria);
         BalanceHorario balance;
-        CalcularBalance(caso.Horas(), caso.bateria, balance);
-        const auto meses = MesesBalance(balance, true);
+        const auto meses = CalcularBalance(caso.Horas(), caso.bateria, balance);
+        EXPECT_EQ(MesesBalance(balance, true), meses) << i;
         const ResumenBateria resumen =
             caso.bateria.HayResumen() ? ResumirBateria(caso.Horas(), caso.bateria) : ResumenBateria{};
         double dGastoAno = 0.0;
