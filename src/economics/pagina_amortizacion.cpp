@@ -78,6 +78,24 @@ private:
     std::vector<FilaAmortizacion> m_filas;
 };
 
+// What is left to be paid, month by month.
+CCtrlCurva2D GraficaDeCapital(const std::vector<FilaAmortizacion>& filas)
+{
+    CCtrlCurva2D grafica;
+    grafica.csTitulo = L"Desarrollo mensual del capital (€)";
+    grafica.csTituloX = L"Mes";
+    grafica.csTituloY = L"Capital (€)";
+    ui::SerieCurva& serie = grafica.aSeries.emplace_back();
+    serie.csNombre = L"Capital";
+    serie.color = ui::kRojo;
+    serie.iAncho = 2;
+    for (const FilaAmortizacion& fila : filas) {
+        serie.adX.push_back(fila.iMes);
+        serie.adY.push_back(fila.dCapital);
+    }
+    return grafica;
+}
+
 // Two decimals with a point.
 CString ConPunto(double d)
 {
@@ -92,6 +110,8 @@ PaginaAmortizacion::PaginaAmortizacion(ui::Dialogo& dialogo, CCalculoEconomicoAu
     m_elemento = &Anadir<ui::Seleccion>("iSeleccion", L"Generador:", ui::Seleccion::Forma::combo);
     m_elemento->alElegir = [this] { AlElegirElemento(); };
     AnadirCampos();
+    m_grafica = &Anadir<ui::Grafica>("grafica", L"");
+    m_grafica->colocacion.iColumna = 1;
     m_lista = &Anadir<ui::Lista>("lista", L"", ui::Lista::Forma::tabla);
     m_lista->acsColumnas.assign(kColumnas.begin(), kColumnas.end());
     m_lista->alineaciones = {ui::Alineacion::izquierda};
@@ -232,8 +252,9 @@ void PaginaAmortizacion::LlenarTabla()
             ui::Volcar(m_campos.De(campo.miembro));
     for (double R::*campo : kEditores)
         ui::Volcar(m_campos.De(campo));
-    m_lista->modelo = std::make_shared<FilasDeMeses>(
-        TablaAmortizacion(m_datos, m_dinero, m_hoja.Horas(), m_hoja.Bateria(m_iMostrado)));
+    auto filas = TablaAmortizacion(m_datos, m_dinero, m_hoja.Horas(), m_hoja.Bateria(m_iMostrado));
+    m_grafica->datos = GraficaDeCapital(filas);
+    m_lista->modelo = std::make_shared<FilasDeMeses>(std::move(filas));
     m_lista->iSeleccion = -1;
     ++m_lista->uVersion;
 }

@@ -36,6 +36,7 @@ private:
     ui::CamposDeObjeto<CSFVCalculoEconomicoAuto> m_campos{m_datos};
     DineroAnual m_dinero;
     ui::Seleccion* m_elemento = nullptr;
+    ui::Grafica* m_grafica = nullptr;
     ui::Lista* m_lista = nullptr;
     std::array<ui::TextoFijo*, 5> m_bateria{};
     int m_iMostrado = 0;

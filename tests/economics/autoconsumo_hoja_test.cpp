@@ -160,6 +160,7 @@ TEST_F(HojaDeVectores, CadaElementoTieneLoSuyoYLaSecuenciaDirectaMezclaElBalance
         EXPECT_EQ(static_cast<double>(tabla.size()), r("filas1"));
         EXPECT_NEAR(Numero(tabla.back()[4]), r("acumulado1"), 0.0051);
         EXPECT_EQ(tabla[0][0], L"0-INIT");
+        EXPECT_EQ(Grafica(2).aSeries[0].adY.size(), tabla.size());
         if (tabla.size() > 1) {
             EXPECT_EQ(tabla[1][0], L"1-ENE");
         }
