@@ -22,7 +22,7 @@ constexpr double kPasoAmpliar = 1.25;
 
 constexpr const char* kArchivo = "&Archivo";
 constexpr const char* kDiseno = "&Diseño";
-constexpr const char* kEconomia = "Eco&nomía";
+constexpr const char* kEconomia = "Econo&mía";
 constexpr const char* kEsquema = "&Esquema";
 constexpr const char* kCatalogos = "&Catálogos";
 constexpr const char* kAyuda = "A&yuda";

@@ -73,7 +73,7 @@ std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
          std::nullopt},
         {"venta", "&Venta", [](Ventana& v) -> ui::Dialogo& { return v.m_venta; }, nullptr, nullptr,
          std::nullopt},
-        {"autoconsumo", "A&utoconsumo", [](Ventana& v) -> ui::Dialogo& { return v.m_autoconsumo; }, nullptr,
+        {"autoconsumo", "Autoconsumo", [](Ventana& v) -> ui::Dialogo& { return v.m_autoconsumo; }, nullptr,
          nullptr, std::nullopt},
     });
     return kFilas;
@@ -108,10 +108,10 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
           },
           [this] { EditarConsumo(m_sesion); }),
       m_venta(
-          "PanelVenta", L"&Venta a la red…", [this] { return VentaDe(m_sesion.Proyecto()); },
+          "PanelVenta", L"Estudio de venta a la red…", [this] { return VentaDe(m_sesion.Proyecto()); },
           [this] { EstudiarVenta(m_sesion); }),
       m_autoconsumo(
-          "PanelAutoconsumo", L"&Autoconsumo…", [this] { return AutoconsumoDe(m_sesion.Proyecto()); },
+          "PanelAutoconsumo", L"Estudio de autoconsumo…", [this] { return AutoconsumoDe(m_sesion.Proyecto()); },
           [this] { EstudiarAutoconsumo(m_sesion); })
 {
     CrearMenus();
