@@ -12,6 +12,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <tuple>
 #include <type_traits>
 #include <variant>
 #include <vector>
@@ -58,6 +59,13 @@ struct FilaRegistro {
 /// only adds fields to a record's names that one `Base` and has no schema.
 template <class R>
 struct FilasDe;
+
+/// Tables one behind the other, for rows that several records have.
+template <class R, std::size_t... N>
+constexpr auto Juntas(const std::array<FilaRegistro<R>, N>&... tablas)
+{
+    return std::apply([](const auto&... filas) { return std::array{filas...}; }, std::tuple_cat(tablas...));
+}
 
 namespace detalle {
 
