@@ -36,7 +36,9 @@ bool HayOpcion(int argc, char** argv, std::initializer_list<QByteArrayView> opci
 // Help and pictures need no screen.
 void PrepararPantalla(int argc, char** argv, PantallaDeCapturas& pantalla)
 {
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    // A platform of the person's stays; the pictures bring the screen that it would have without windows.
+    const QByteArray plataforma = qgetenv("QT_QPA_PLATFORM");
+    if (!plataforma.isEmpty() && plataforma != "offscreen")
         return;
     if (HayOpcion(argc, argv, {"--capturas"}))
         pantalla.Poner();

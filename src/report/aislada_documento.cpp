@@ -186,8 +186,8 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
                            SeccionGeometria(v),
                            SeccionCableado(estudio.cableado),
                            SeccionMeses(estudio.ano, &estudio.adNecesaria),
-                           SeccionModelos({{"Acumulador", "acumuladores", proyecto.acumulador},
-                                           {"Panel fotovoltaico", "modulos", proyecto.panel}})};
+                           SeccionModelos({Elegido("Acumulador", *proyecto.acumulador),
+                                           Elegido("Panel fotovoltaico", *proyecto.panel)})};
     documento.supuestos.emplace_back(
         "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.");
     documento.supuestos.emplace_back(

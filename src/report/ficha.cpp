@@ -41,7 +41,7 @@ std::string Rotulo(const CString& csRotulo)
 // The visible controls of a data sheet as rows of caption and text.
 class VisitanteFicha final : public ui::VisitanteControl {
 public:
-    std::vector<std::pair<std::string, std::string>> filas;
+    FilasFicha filas;
 
     void Ver(ui::TextoFijo& /*control*/) override {}
     void Ver(ui::Edicion& control) override
@@ -91,14 +91,18 @@ private:
 
 }  // namespace
 
-std::vector<std::pair<std::string, std::string>> FilasDeFicha(const TipoCatalogo& tipo, const CModelo& modelo)
+FilasFicha FilasDeFicha(const ui::Dialogo& dialogo)
 {
-    const auto dialogo = tipo.CrearDialogo(modelo);
     VisitanteFicha ficha;
-    for (const auto& control : dialogo->Controles())
+    for (const auto& control : dialogo.Controles())
         if (control->bVisible)
             control->Visitar(ficha);
     return std::move(ficha.filas);
+}
+
+FilasFicha FilasDeFicha(const TipoCatalogo& tipo, const CModelo& modelo)
+{
+    return FilasDeFicha(*tipo.CrearDialogo(modelo));
 }
 
 }  // namespace efv::report

@@ -163,7 +163,7 @@ Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estud
     if (estudio.ano)
         documento.secciones.push_back(SeccionMeses(*estudio.ano, nullptr));
     documento.secciones.push_back(SeccionModelos(
-        {{"Inversor", "inversores", proyecto.inversor}, {"Panel fotovoltaico", "modulos", proyecto.panel}}));
+        {Elegido("Inversor", *proyecto.inversor), Elegido("Panel fotovoltaico", *proyecto.panel)}));
     documento.supuestos = Supuestos(proyecto, estudio.ano.has_value());
     return documento;
 }

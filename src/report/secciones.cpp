@@ -70,9 +70,9 @@ Seccion SeccionModelos(std::initializer_list<ModeloElegido> modelos)
         cuadro.titulo = fmt::format("{}: {}#{}", elegido.titulo, CadenaUtf8(elegido.modelo->csFamilia),
                                     CadenaUtf8(elegido.modelo->csModelo));
         cuadro.columnas = {{"Dato", false}, {"Valor", true}};
-        for (auto& [rotulo, texto] : FilasDeFicha(*BuscarTipoCatalogo(elegido.tipo), *elegido.modelo))
+        for (const auto& [rotulo, texto] : elegido.ficha)
             if (!texto.empty())
-                cuadro.filas.push_back({std::move(rotulo), std::move(texto)});
+                cuadro.filas.push_back({rotulo, texto});
     }
     return seccion;
 }

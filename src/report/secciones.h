@@ -8,6 +8,9 @@
 
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/documento.h>
+#include <quorvel/report/ficha.h>
+
+#include "catalogues/dialogs/dialogo_modelo.h"
 
 namespace efv::report {
 
@@ -32,9 +35,15 @@ void AvisarDelCableado(const Cableado& cableado, std::vector<Aviso>& avisos);
 /// The data sheets of the chosen models, for the page.
 struct ModeloElegido {
     std::string_view titulo;
-    std::string_view tipo;  ///< name of its kind
     const CModelo* modelo;
+    FilasFicha ficha;
 };
+template <class M>
+ModeloElegido Elegido(std::string_view titulo, const M& modelo)
+{
+    return {titulo, &modelo,
+            FilasDeFicha(*catalogues::CrearDialogo(modelo, true, catalogues::OrdenesModelo<M>()))};
+}
 Seccion SeccionModelos(std::initializer_list<ModeloElegido> modelos);
 
 /// What is said of a tilt outside 0 to 90 degrees, of a place outside the table of factors K.

@@ -10,8 +10,10 @@
 
 namespace efv::report {
 
-/// What its dialog shows: caption and text. What has no caption stands with the control before it.
-EFV_API std::vector<std::pair<std::string, std::string>> FilasDeFicha(const TipoCatalogo& tipo,
-                                                                      const CModelo& modelo);
+using FilasFicha = std::vector<std::pair<std::string, std::string>>;
+
+/// What a model's dialog shows: caption and text. What has no caption stands with the control before it.
+EFV_API FilasFicha FilasDeFicha(const ui::Dialogo& dialogo);
+EFV_API FilasFicha FilasDeFicha(const TipoCatalogo& tipo, const CModelo& modelo);
 
 }  // namespace efv::report
