@@ -16,6 +16,34 @@ std::string Rellenar(const std::string& celda, std::size_t ancho, TablaTexto::La
 
 }  // namespace
 
+void ColumnasTexto::Medir(const std::vector<std::string>& celdas)
+{
+    for (std::size_t c = 0; c < celdas.size(); ++c)
+        m_anchos[c] = std::max(m_anchos[c], Anchura(celdas[c]));
+}
+
+std::string ColumnasTexto::Linea(const std::vector<std::string>& celdas) const
+{
+    std::string linea;
+    for (std::size_t c = 0; c < celdas.size(); ++c) {
+        linea += c > 0 ? kHueco : std::string_view();
+        linea += Rellenar(celdas[c], m_anchos[c], m_lados[c]);
+    }
+    linea.erase(linea.find_last_not_of(' ') + 1);
+    return linea + '\n';
+}
+
+std::string ColumnasTexto::Raya() const
+{
+    std::size_t total = 0;
+    for (const std::size_t ancho : m_anchos)
+        total += ancho + (total > 0 ? kHueco.size() : 0);
+    std::string raya;
+    for (std::size_t c = 0; c < total; ++c)
+        raya += "─";
+    return raya + '\n';
+}
+
 std::string TablaTexto::LineaDeGrupos(const std::vector<std::size_t>& anchos) const
 {
     std::string linea;
@@ -35,26 +63,12 @@ std::string TablaTexto::LineaDeGrupos(const std::vector<std::size_t>& anchos) co
 
 std::string TablaTexto::Texto() const
 {
-    std::vector<std::size_t> anchos(m_columnas.size());
+    ColumnasTexto columnas(m_columnas);
     for (const auto& fila : m_filas)
-        for (std::size_t c = 0; c < fila.size(); ++c)
-            anchos[c] = std::max(anchos[c], Anchura(fila[c]));
-    std::size_t total = 0;
-    for (const std::size_t ancho : anchos)
-        total += ancho + (total > 0 ? kHueco.size() : 0);
-
-    std::string texto = LineaDeGrupos(anchos);
-    for (const auto& fila : m_filas) {
-        std::string linea;
-        for (std::size_t c = 0; c < fila.size(); ++c) {
-            linea += c > 0 ? kHueco : std::string_view();
-            linea += Rellenar(fila[c], anchos[c], m_columnas[c]);
-        }
-        for (std::size_t c = 0; fila.empty() && c < total; ++c)
-            linea += "─";
-        linea.erase(linea.find_last_not_of(' ') + 1);
-        texto += linea + '\n';
-    }
+        columnas.Medir(fila);
+    std::string texto = LineaDeGrupos(columnas.Anchos());
+    for (const auto& fila : m_filas)
+        texto += fila.empty() ? columnas.Raya() : columnas.Linea(fila);
     return texto;
 }
 

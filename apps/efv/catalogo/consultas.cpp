@@ -1,6 +1,8 @@
 // Orders that read a catalogue.
 #include <algorithm>
 #include <filesystem>
+#include <new>
+#include <sstream>
 
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
@@ -68,7 +70,7 @@ private:
     }
     void Escribir(std::ostream& salida, const Modelos& modelos) const
     {
-        salida << (m_bJson ? TextoJson(ListaJson(Tipo(), modelos)) : ListaTexto(Tipo(), modelos));
+        (m_bJson ? EscribirListaJson : EscribirListaTexto)(salida, Tipo(), modelos);
     }
 
     int Listar(std::ostream& salida) const
@@ -108,15 +110,8 @@ private:
     int Validar(std::ostream& salida) const
     {
         const CatalogoAbierto catalogo = Abrir();
-        const std::vector<HallazgoModelo> hallazgos = ValidarModelos(Tipo(), catalogo.Todos());
-        const std::size_t n = catalogo.Todos().size();
-        if (m_bJson)
-            salida << TextoJson({{"modelos", n}, {"hallazgos", HallazgosJson(hallazgos)}});
-        else if (hallazgos.empty())
-            salida << fmt::format("{} modelo{}, sin hallazgos\n", n, n == 1 ? "" : "s");
-        else
-            salida << HallazgosTexto(hallazgos);
-        return hallazgos.empty() ? 0 : kConHallazgos;
+        const auto validar = m_bJson ? EscribirValidacionJson : EscribirValidacionTexto;
+        return validar(salida, Tipo(), catalogo.Todos()) ? kConHallazgos : 0;
     }
 
     int Exportar(std::ostream& salida) const
@@ -126,13 +121,17 @@ private:
         if (m_salida && m_salida->empty())
             throw ErrorUso("--salida: el nombre está vacío");
         const CatalogoAbierto catalogo = Abrir();
-        const std::string csv = ModelosCsv(Tipo(), Elegidos(catalogo), m_separador.front());
         if (!m_salida) {
-            salida << csv;
+            EscribirModelosCsv(salida, Tipo(), Elegidos(catalogo), m_separador.front());
             return 0;
         }
+        std::ostringstream csv;
+        EscribirModelosCsv(csv, Tipo(), Elegidos(catalogo), m_separador.front());
+        // A text stream keeps a want of memory to itself.
+        if (!csv)
+            throw std::bad_alloc();
         const std::filesystem::path ruta = std::filesystem::absolute(*m_salida);
-        EscribirFicheros(ruta.parent_path(), {{ruta.filename().string(), csv}});
+        EscribirFicheros(ruta.parent_path(), {{ruta.filename().string(), std::move(csv).str()}});
         return 0;
     }
 

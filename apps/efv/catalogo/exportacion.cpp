@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <string_view>
-#include <utility>
 #include <variant>
 
 #include "comun/numeros.h"
@@ -16,28 +15,31 @@ constexpr std::string_view kFinDeLinea = "\r\n";
 
 class EscritorCsv {
 public:
-    explicit EscritorCsv(char separador) : m_separador(separador) {}
+    EscritorCsv(std::ostream& salida, char separador) : m_salida(salida), m_separador(separador)
+    {
+        m_salida << kMarca;
+    }
 
     void Celda(std::string_view celda)
     {
         if (!m_bInicio)
-            m_csv += m_separador;
+            m_salida << m_separador;
         m_bInicio = false;
         const char especiales[] = {m_separador, '"', '\r', '\n'};
         if (celda.find_first_of(std::string_view(especiales, std::size(especiales))) ==
             std::string_view::npos) {
-            m_csv += celda;
+            m_salida << celda;
             return;
         }
-        m_csv += '"';
+        m_salida << '"';
         for (const char c : celda)
-            m_csv += c == '"' ? std::string_view("\"\"") : std::string_view(&c, 1);
-        m_csv += '"';
+            m_salida << (c == '"' ? std::string_view("\"\"") : std::string_view(&c, 1));
+        m_salida << '"';
     }
 
     void FinDeLinea()
     {
-        m_csv += kFinDeLinea;
+        m_salida << kFinDeLinea;
         m_bInicio = true;
     }
 
@@ -57,19 +59,17 @@ public:
         Celda(texto);
     }
 
-    std::string Texto() && { return std::move(m_csv); }
-
 private:
+    std::ostream& m_salida;
     char m_separador;
     bool m_bInicio = true;
-    std::string m_csv{kMarca};
 };
 
 }  // namespace
 
-std::string ModelosCsv(const TipoCatalogo& tipo, const Modelos& modelos, char separador)
+void EscribirModelosCsv(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos, char separador)
 {
-    EscritorCsv csv(separador);
+    EscritorCsv csv(salida, separador);
     const auto campos = tipo.Campos();
     csv.Celda("csFamilia");
     for (const CampoCatalogo& campo : campos)
@@ -81,7 +81,6 @@ std::string ModelosCsv(const TipoCatalogo& tipo, const Modelos& modelos, char se
             std::visit([&](const auto& valor) { csv.Valor(valor); }, tipo.Valor(*modelo, i));
         csv.FinDeLinea();
     }
-    return std::move(csv).Texto();
 }
 
 }  // namespace efv::orden

@@ -91,7 +91,7 @@ Json Valor(int i)
 
 }  // namespace
 
-std::string ListaTexto(const TipoCatalogo& tipo, const Modelos& modelos)
+void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos)
 {
     const std::vector<Columna> columnas = Columnas(tipo, *modelos.front());
     std::vector<TablaTexto::Lado> lados = {TablaTexto::Lado::izquierda};
@@ -100,19 +100,24 @@ std::string ListaTexto(const TipoCatalogo& tipo, const Modelos& modelos)
         lados.push_back(columna.Lado());
         titulos.push_back(columna.Titulo());
     }
-    TablaTexto tabla(std::move(lados));
-    tabla.Fila(std::move(titulos));
-    tabla.Raya();
+    const auto fila = [&](const CModelo& modelo) {
+        std::vector<std::string> celdas = {EnTerminal(Identificacion(modelo))};
+        for (const Columna& columna : columnas)
+            celdas.push_back(columna.Celda(tipo, modelo));
+        return celdas;
+    };
+    report::ColumnasTexto tabla(std::move(lados));
+    tabla.Medir(titulos);
     std::set<std::wstring_view> familias;
     for (const CModelo* m : modelos) {
-        std::vector<std::string> celdas = {EnTerminal(Identificacion(*m))};
-        for (const Columna& columna : columnas)
-            celdas.push_back(columna.Celda(tipo, *m));
-        tabla.Fila(std::move(celdas));
+        tabla.Medir(fila(*m));
         familias.insert(m->csFamilia);
     }
-    return fmt::format("{}\n{} modelo{} de {} familia{}\n", tabla.Texto(), modelos.size(),
-                       modelos.size() == 1 ? "" : "s", familias.size(), familias.size() == 1 ? "" : "s");
+    salida << tabla.Linea(titulos) << tabla.Raya();
+    for (const CModelo* m : modelos)
+        salida << tabla.Linea(fila(*m));
+    salida << fmt::format("\n{} modelo{} de {} familia{}\n", modelos.size(), modelos.size() == 1 ? "" : "s",
+                          familias.size(), familias.size() == 1 ? "" : "s");
 }
 
 std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo)
@@ -134,12 +139,36 @@ Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo)
     return ficha;
 }
 
-Json ListaJson(const TipoCatalogo& tipo, const Modelos& modelos)
+EscritorListaJson::EscritorListaJson(std::ostream& salida, std::size_t nSangria)
+    : m_salida(salida), m_salto('\n' + std::string(nSangria, ' '))
 {
-    Json lista = Json::array();
+    m_salida << '[';
+}
+
+void EscritorListaJson::Anadir(const Json& elemento)
+{
+    m_salida << (std::exchange(m_bVacia, false) ? "" : ",") << m_salto << "  ";
+    // Within a text an end of line is written as an escape.
+    std::string texto = TextoJson(elemento);
+    texto.pop_back();
+    std::size_t nDesde = 0;
+    for (std::size_t n = 0; (n = texto.find('\n', nDesde)) != std::string::npos; nDesde = n + 1)
+        m_salida << std::string_view(texto).substr(nDesde, n - nDesde) << m_salto << "  ";
+    m_salida << std::string_view(texto).substr(nDesde);
+}
+
+void EscritorListaJson::Terminar()
+{
+    m_salida << (m_bVacia ? "" : m_salto) << ']';
+}
+
+void EscribirListaJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos)
+{
+    EscritorListaJson lista(salida);
     for (const CModelo* m : modelos)
-        lista.push_back(FichaJson(tipo, *m));
-    return lista;
+        lista.Anadir(FichaJson(tipo, *m));
+    lista.Terminar();
+    salida << '\n';
 }
 
 std::string TextoJson(const Json& json)

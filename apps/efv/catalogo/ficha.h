@@ -1,6 +1,7 @@
 // The data sheet of a model for people and for programs.
 #pragma once
 
+#include <ostream>
 #include <string>
 #include <vector>
 
@@ -12,13 +13,28 @@ namespace efv::orden {
 
 using Json = nlohmann::ordered_json;
 
-/// One line of a terminal each: identification and the columns that the kind's lists have.
-std::string ListaTexto(const TipoCatalogo& tipo, const Modelos& modelos);
+/// One line of a terminal each: identification and the columns that the kind's lists have. A list as long as a
+/// file admits is never held in memory as a whole.
+void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
+void EscribirListaJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
 /// What its dialog shows with the family, a line a caption.
 std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo);
 /// Every field by its name; what isn't finite is null.
 Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo);
-Json ListaJson(const TipoCatalogo& tipo, const Modelos& modelos);
+
+/// A JSON list, element by element, as TextoJson would write the whole.
+class EscritorListaJson {
+public:
+    /// @param nSangria blanks before the line that the list ends in
+    explicit EscritorListaJson(std::ostream& salida, std::size_t nSangria = 0);
+    void Anadir(const Json& elemento);
+    void Terminar();
+
+private:
+    std::ostream& m_salida;
+    std::string m_salto;  // end of line with the list's indentation
+    bool m_bVacia = true;
+};
 
 /// Indented, with an end of line.
 std::string TextoJson(const Json& json);

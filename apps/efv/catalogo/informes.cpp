@@ -30,8 +30,6 @@ Json FilasJson(const std::vector<const FilaCec*>& filas)
     return lista;
 }
 
-}  // namespace
-
 std::string HallazgosTexto(const std::vector<HallazgoModelo>& hallazgos)
 {
     std::string texto;
@@ -41,14 +39,49 @@ std::string HallazgosTexto(const std::vector<HallazgoModelo>& hallazgos)
     return texto;
 }
 
+Json HallazgoJson(const HallazgoModelo& h)
+{
+    return {{"familia", CadenaUtf8(h.csFamilia)},
+            {"modelo", CadenaUtf8(h.csModelo)},
+            {"texto", CadenaUtf8(h.csTexto)}};
+}
+
 Json HallazgosJson(const std::vector<HallazgoModelo>& hallazgos)
 {
     Json lista = Json::array();
     for (const HallazgoModelo& h : hallazgos)
-        lista.push_back({{"familia", CadenaUtf8(h.csFamilia)},
-                         {"modelo", CadenaUtf8(h.csModelo)},
-                         {"texto", CadenaUtf8(h.csTexto)}});
+        lista.push_back(HallazgoJson(h));
     return lista;
+}
+
+}  // namespace
+
+bool EscribirValidacionTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos)
+{
+    bool bHallazgos = false;
+    for (const CModelo* modelo : modelos) {
+        const auto hallazgos = ValidarModelos(tipo, {&modelo, 1});
+        bHallazgos = bHallazgos || !hallazgos.empty();
+        salida << HallazgosTexto(hallazgos);
+    }
+    if (!bHallazgos)
+        salida << fmt::format("{} modelo{}, sin hallazgos\n", modelos.size(), modelos.size() == 1 ? "" : "s");
+    return bHallazgos;
+}
+
+bool EscribirValidacionJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos)
+{
+    bool bHallazgos = false;
+    salida << fmt::format("{{\n  \"modelos\": {},\n  \"hallazgos\": ", modelos.size());
+    EscritorListaJson lista(salida, 2);
+    for (const CModelo* modelo : modelos)
+        for (const HallazgoModelo& hallazgo : ValidarModelos(tipo, {&modelo, 1})) {
+            bHallazgos = true;
+            lista.Anadir(HallazgoJson(hallazgo));
+        }
+    lista.Terminar();
+    salida << "\n}\n";
+    return bHallazgos;
 }
 
 std::string ImportacionTexto(const Importacion& importacion, const std::string& catalogo)

@@ -1,8 +1,8 @@
 // What the commands that check or extend a catalogue tell of their work.
 #pragma once
 
+#include <ostream>
 #include <string>
-#include <vector>
 
 #include "catalogo/ficha.h"
 #include "catalogo/importacion.h"
@@ -13,8 +13,9 @@ namespace efv::orden {
 /// Exit status when models have findings.
 inline constexpr int kConHallazgos = 1;
 
-std::string HallazgosTexto(const std::vector<HallazgoModelo>& hallazgos);
-Json HallazgosJson(const std::vector<HallazgoModelo>& hallazgos);
+/// Checks all models and writes what is found as it is found. @return whether there are findings
+bool EscribirValidacionTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
+bool EscribirValidacionJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
 
 std::string ImportacionTexto(const Importacion& importacion, const std::string& catalogo);
 Json ImportacionJson(const TipoCatalogo& tipo, const Importacion& importacion, const std::string& catalogo);

@@ -25,10 +25,29 @@ EFV_API std::string EnUnaLinea(std::string_view texto);
 /// Number of characters, for alignment. @param utf8 without combining or double-width characters
 EFV_API std::size_t Anchura(std::string_view utf8);
 
-/// A table for the terminal: columns as wide as their widest cell.
-class EFV_API TablaTexto {
+/// Columns as wide as their widest cell, of rows that nobody keeps: each is measured first, then written.
+class EFV_API ColumnasTexto {
 public:
     enum class Lado { izquierda, derecha };
+
+    explicit ColumnasTexto(std::vector<Lado> lados) : m_lados(std::move(lados)), m_anchos(m_lados.size()) {}
+
+    void Medir(const std::vector<std::string>& celdas);
+    const std::vector<std::size_t>& Anchos() const { return m_anchos; }
+    /// A row in one line with its end; missing cells at its end stay empty.
+    std::string Linea(const std::vector<std::string>& celdas) const;
+    /// A rule over the whole width.
+    std::string Raya() const;
+
+private:
+    std::vector<Lado> m_lados;
+    std::vector<std::size_t> m_anchos;
+};
+
+/// A table for the terminal.
+class EFV_API TablaTexto {
+public:
+    using Lado = ColumnasTexto::Lado;
 
     explicit TablaTexto(std::vector<Lado> columnas) : m_columnas(std::move(columnas)) {}
 
