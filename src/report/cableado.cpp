@@ -131,6 +131,7 @@ Cableado CableadoDe(const CSFVAsistenteAislada& diseno, const CBasePanelFotoMode
     anadir("receptores", "Receptores - Regulador", enSistema(bSalida ? cargas.dContinua : dTotal), dSistema);
     if (!bSalida)
         return cableado;
+    anadir("inversor", "Inversor - Regulador", enSistema(cargas.dAlterna), dSistema);
     const bool bTrifasica = diseno.iTipoSalidaCA != 0;
     const double dCosFi = criterios.De("salida").dCosFi;
     anadir("salida", "Receptores - Inversor",

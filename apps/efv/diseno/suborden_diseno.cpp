@@ -48,7 +48,7 @@ constexpr Clase kAislada = {
     "                      dHorario los 504 minutos del registro\n"
     "  cableado            datos de los tramos: limite, metodo, material, aislante, temperatura, margen...,\n"
     "                      y los de uno con su longitud: {\"limite\": 3, \"paneles\": {\"longitud\": 20}};\n"
-    "                      tramos: paneles, acumuladores, receptores, salida\n"
+    "                      tramos: paneles, acumuladores, receptores, inversor, salida\n"
     "  titulo              nombre del proyecto en el informe\n"
     "y los campos del registro por su nombre: dDiasAutonomia, dTensionSistema, iMesCalculo (0 a 14, o\n"
     "\"Diciembre\", \"Desfavorable\"...), dProfundidadDescarga, dTensionMaxFV, iPanelesSerie... Lo que fija\n"

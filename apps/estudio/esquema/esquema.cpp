@@ -180,7 +180,7 @@ void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, const r
                         .acsDatos = {Decimal(diseno.dTensionSalidaCA, 0) + L" V, " +
                                      (diseno.iTipoSalidaCA == 0 ? L"monofásica" : L"trifásica")}},
                        2, iFila);
-    trazador.Unir({nRegulador, nInversor, csContinua, {}});
+    trazador.Unir({nRegulador, nInversor, csContinua, {}, false, DeCable(cableado, "inversor")});
     const std::size_t nCargas = trazador.Poner(alternas.ComoElemento(L"Receptores CA"), 3, iFila);
     trazador.Unir({nInversor,
                    nCargas,

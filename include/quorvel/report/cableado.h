@@ -41,7 +41,7 @@ struct CriteriosCableado {
 
 /// Keys of the stretches, in their order.
 inline constexpr const char* kTramosRed[] = {"L1", "L2", "L3"};
-inline constexpr const char* kTramosAislada[] = {"paneles", "acumuladores", "receptores", "salida"};
+inline constexpr const char* kTramosAislada[] = {"paneles", "acumuladores", "receptores", "inversor", "salida"};
 
 struct TramoDiseno {
     std::string clave;
@@ -82,7 +82,8 @@ struct PotenciaCargas {
 };
 
 /// Of a stand-alone design: panels, batteries (the greater of what charges and what discharges them) and loads,
-/// each to the regulator; with an output of alternating current that too.
+/// each to the regulator; with an output of alternating current, from there to the inverter and from it to its
+/// loads.
 EFV_API Cableado CableadoDe(const CSFVAsistenteAislada& diseno, const CBasePanelFotoModelo* panel,
                             const PotenciaCargas& cargas, const CriteriosCableado& criterios);
 

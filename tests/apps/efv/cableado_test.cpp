@@ -92,6 +92,10 @@ TEST(CableadoDeDisenos, DeAisladaTomaLasLongitudesDelProyecto)
     EXPECT_TRUE(paneles.at("caida_V").is_null());
     EXPECT_GT(paneles.at("seccion_mm2").get<double>(), 0.0);
     EXPECT_TRUE(antes.at("cableado").at("entradas").empty());
+    // The loads of the output hang on the batteries by way of the inverter: the same power at both voltages.
+    const Json &inversor = antes.at("cableado").at("tramos")[3], &salida = antes.at("cableado").at("tramos")[4];
+    EXPECT_NEAR(inversor.at("corriente_A").get<double>() * 48, salida.at("corriente_A").get<double>() * 230,
+                1e-6);
     proyecto["cableado"] = {{"paneles", {{"longitud", 40}}}, {"limite", 3}};
     const Json despues = Json::parse(Disenar("aislada", proyecto).salida);
     const Json& largo = despues.at("cableado").at("tramos")[0];
