@@ -1,5 +1,5 @@
-// Any bytes as a project file of either kind of installation: a design or a refusal, and what is designed can
-// be written in all its forms and read again.
+// Any bytes as a project file of either kind of installation, and as a study of a sale: a design or a refusal,
+// and what is designed can be written in all its forms and read again.
 #include <cstdint>
 #include <cstdlib>
 #include <string>
@@ -53,5 +53,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tam
     }
     Probar<CSFVAsistenteAislada>(&efv::orden::DisenarAislada, proyecto);
     Probar<CSFVAsistenteRed>(&efv::orden::DisenarRed, proyecto);
+    Probar<CSFVCalculoEconomico>(&efv::orden::EstudiarVenta, proyecto);
     return 0;
 }
