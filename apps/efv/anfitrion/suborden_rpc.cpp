@@ -22,8 +22,8 @@ public:
             "Lee una petición por línea de la entrada estándar y escribe una respuesta por línea\n"
             "en la salida estándar, hasta el fin de la entrada. Ejemplo:\n"
             "  echo '{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"phGetHora\",\"params\":[8759]}' | efv rpc\n"
-            "Además de las funciones: rpc.discover, rpc.archive, rpc.string, rpc.climate y\n"
-            "rpc.report, que escribe el informe de un diseño.");
+            "Además de las funciones: rpc.discover, rpc.archive, rpc.string, rpc.climate,\n"
+            "rpc.report, que escribe el informe de un diseño, y rpc.open, que abre un diálogo por su clase.");
         return linea;
     }
 
