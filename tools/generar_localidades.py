@@ -46,6 +46,7 @@ def localidad_capital(capital, mensual_kwh, alias):
         atributos["alias"] = alias
     atributos |= {"provincia": capital.provincia, "pais": "España"}
     atributos |= atributos_situacion(capital.latitud, capital.longitud, capital.altitud)
+    atributos["zonaHE1"] = clima_de(capital).removesuffix("c").replace("Alfa", "α")
     atributos["zonaHE5"] = zona_he5(media_anual(mensual_kwh))
     atributos["fuente"] = f"CTE DB-HE, clima de referencia {clima_de(capital)}"
     return atributos | atributos_radiacion(radiacion_diaria(mensual_kwh))

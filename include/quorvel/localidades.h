@@ -20,6 +20,8 @@ struct Localidad {
     CString csZonaHE1;              ///< "A3", "α3" ..., by province and altitude; empty where unknown
     CString csZonaHE5;              ///< "I" to "V"; empty outside Spain
     CString csFuente;               ///< where the radiations come from
+    bool bPropia = false;           ///< the person's own
+    bool bMayor = false;            ///< of a file of places: not one of many municipalities
     double dLatitud = 0.0;          ///< degrees, north positive
     double dLongitud = 0.0;         ///< degrees, east positive
     double dAltitud = 0.0;          ///< m
@@ -35,6 +37,25 @@ EFV_API std::vector<Localidad> LeerLocalidades(const CString& csArchivo);
 /// ("Ayala/Aiara") are aliases.
 /// @throws CFileException with a Spanish text that names file, line and reason.
 EFV_API std::vector<Localidad> LeerMunicipios(const CString& csFichero);
+
+/// Name of the file of one's own places in the folder of the data.
+inline constexpr const char* kLugaresPropios = "lugares.xml";
+
+enum class AlcanceLugares { todos, sinMunicipios };
+
+/// All places of a data folder: one's own, the file of places, the municipalities. The first and the last may
+/// be missing. @param csCarpeta,csCarpetaPropios with their trailing separators
+/// @throws CFileException with a Spanish text that names file and reason.
+EFV_API std::vector<Localidad> LeerLugares(const CString& csCarpeta, const CString& csCarpetaPropios,
+                                           AlcanceLugares alcance = AlcanceLugares::todos);
+
+/// Adds a place to a file of places, which is made when it is missing.
+/// @throws CFileException with a Spanish text when it isn't complete, its name is taken there or the file can't
+/// be read or written.
+EFV_API void AnadirLocalidad(const CString& csArchivo, const Localidad& localidad);
+
+/// "Moya (Cuenca)": the name with what tells the place from others of that name.
+EFV_API CString NombreConProvincia(const Localidad& localidad);
 
 /// All places of that name or alias, accents and case ignored. "Moya (Cuenca)" and "Moya, Cuenca" ask for one
 /// of a province, in either form of its name.

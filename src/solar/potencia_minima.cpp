@@ -24,6 +24,7 @@ constexpr std::array<Uso, kUsosHE5> kUsos = {{
 constexpr std::array<double, 5> kCoeficientesC = {1.0, 1.1, 1.2, 1.3, 1.4};
 constexpr std::array<std::wstring_view, 3> kDisposiciones = {L"General", L"Superposición",
                                                              L"Integración arquitectónica"};
+constexpr std::array<std::wstring_view, kZonasHE5> kNombresZona = {L"I", L"II", L"III", L"IV", L"V"};
 /// Mean daily radiation, kWh/m², at which zones II to V begin.
 constexpr std::array<double, 4> kLimitesZona = {3.8, 4.2, 4.6, 5.0};
 
@@ -79,6 +80,37 @@ double PotenciaMinima(int iZona, int iTipoUso, double dSuperficie, bool bFormula
 int ZonaDeRadiacion(double dRadiacionMedia)
 {
     return 1 + static_cast<int>(std::ranges::upper_bound(kLimitesZona, dRadiacionMedia) - kLimitesZona.begin());
+}
+
+int ZonaDeNombre(std::wstring_view nombre)
+{
+    const auto* zona = std::ranges::find(kNombresZona, nombre);
+    return zona != kNombresZona.end() ? 1 + static_cast<int>(zona - kNombresZona.begin()) : 0;
+}
+
+std::wstring_view NombreZona(int iZona)
+{
+    const std::wstring_view* nombre = En(kNombresZona, iZona - 1);
+    return nombre != nullptr ? *nombre : std::wstring_view();
+}
+
+PotenciaHE5 CalcularHE5(const EdificioHE5& edificio)
+{
+    PotenciaHE5 potencia;
+    double dConstruida = 0.0;
+    for (std::size_t i = 0; i < edificio.aiUso.size(); ++i) {
+        if (edificio.aiUso[i] == kSinUso)
+            continue;
+        const double dSuperficie = edificio.adSuperficie[i];
+        potencia.adUso[i] = PotenciaMinima(edificio.iZona, edificio.aiUso[i], dSuperficie, true);
+        potencia.dPorUsos += potencia.adUso[i];
+        potencia.dPorSuperficie += PotenciaMinima(edificio.iZona, edificio.aiUso[i], dSuperficie, false);
+        dConstruida += dSuperficie;
+    }
+    if (edificio.dCubierta)
+        potencia.d2022 =
+            PotenciaMinima2022(edificio.bResidencial, dConstruida, *edificio.dCubierta, edificio.dCaptadores);
+    return potencia;
 }
 
 std::optional<double> PotenciaMinima2022(bool bResidencial, double dSuperficieConstruida,

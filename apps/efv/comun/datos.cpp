@@ -30,6 +30,27 @@ fs::path Elegir(const std::string& opcion)
 
 }  // namespace
 
+CString CarpetaPropia(const std::string& opcion)
+{
+    // NOLINTBEGIN(concurrency-mt-unsafe): one thread, and nobody changes the environment
+    const auto variable = [](const char* nombre) {
+        const char* valor = std::getenv(nombre);
+        return std::string(valor != nullptr ? valor : "");
+    };
+    // NOLINTEND(concurrency-mt-unsafe)
+    std::string carpeta = opcion.empty() ? variable("EFV_DATOS") : opcion;
+    if (carpeta.empty()) {
+        // A relative folder is none, as the desktop's rules say.
+        std::string personal = variable("XDG_DATA_HOME");
+        if (!personal.starts_with('/')) {
+            const std::string casa = variable("HOME");
+            personal = casa.empty() ? casa : casa + "/.local/share";
+        }
+        carpeta = personal.empty() ? personal : personal + "/efv-estudio";
+    }
+    return carpeta.empty() ? CString() : CadenaDesdeUtf8(carpeta + '/');
+}
+
 CString RutaDatos(const std::string& opcion, const char* archivo)
 {
     const fs::path carpeta = Elegir(opcion);

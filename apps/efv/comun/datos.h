@@ -15,4 +15,8 @@ inline constexpr const char* kAyudaDatos =
 /// EFV_DATOS, else the installed folder, else the source tree's. @throws ErrorEjecucion when it is no folder
 CString RutaDatos(const std::string& opcion, const char* archivo);
 
+/// The folder of the person's own files, with its trailing separator: `opcion`, else EFV_DATOS, else the one of
+/// efv-estudio among the person's data. It may not exist yet; empty when the person has none.
+CString CarpetaPropia(const std::string& opcion);
+
 }  // namespace efv::orden

@@ -6,6 +6,10 @@
 #include <cmath>
 #include <cwctype>
 
+#include <fmt/format.h>
+
+#include "comun/consola.h"
+
 namespace efv::orden {
 
 namespace {
@@ -60,6 +64,15 @@ std::optional<double> LeerNumero(std::string_view texto)
     if (fallo != std::errc() || leido != fin || !std::isfinite(d))
         return std::nullopt;
     return d;
+}
+
+double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, double dMaximo)
+{
+    const auto d = LeerNumero(texto);
+    if (!d || *d < dMinimo || *d > dMaximo)
+        throw ErrorUso(fmt::format("{}: se esperaba un número de {} a {}, llegó «{}»", opcion,
+                                   DecimalExacto(dMinimo), DecimalExacto(dMaximo), EnUnaLinea(texto)));
+    return *d;
 }
 
 std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras, std::size_t cuantos)

@@ -14,6 +14,9 @@ namespace efv::orden {
 /// The finite number that `texto` is, wholly; comma or point as decimal mark.
 std::optional<double> LeerNumero(std::string_view texto);
 
+/// The number of an option. @throws ErrorUso when it is none or lies outside
+double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, double dMaximo);
+
 /// The parts of a list of `cuantos` numbers, separated by blanks, commas or semicolons: a comma is a decimal
 /// mark where another separator makes that many.
 std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras, std::size_t cuantos);

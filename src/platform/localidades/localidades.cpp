@@ -49,6 +49,7 @@ Localidad LeerLocalidad(xml::Nodo nodo)
     atributos.Leer("alias", csAlias);
     atributos.Leer("provincia", l.csProvincia);
     atributos.Leer("pais", l.csPais);
+    atributos.Leer("zonaHE1", l.csZonaHE1);
     atributos.Leer("zonaHE5", l.csZonaHE5);
     atributos.Leer("fuente", l.csFuente);
     atributos.Leer("latitud", l.dLatitud);
@@ -57,6 +58,7 @@ Localidad LeerLocalidad(xml::Nodo nodo)
     for (std::size_t m = 0; m < 12; ++m)
         atributos.Leer(kMeses[m], l.adRadHorizontal[m]);
     l.acsAlias = Partir(csAlias, L';');
+    l.bMayor = true;
     return l;
 }
 

@@ -204,6 +204,13 @@ std::vector<Localidad> LeerMunicipios(const CString& csFichero)
     return LectorMunicipios(csFichero, *bytes).Leer();
 }
 
+CString NombreConProvincia(const Localidad& localidad)
+{
+    const CString& csDetalle = localidad.csProvincia.empty() ? localidad.csPais : localidad.csProvincia;
+    return csDetalle.empty() || csDetalle == localidad.csNombre ? localidad.csNombre
+                                                                : localidad.csNombre + L" (" + csDetalle + L")";
+}
+
 std::vector<const Localidad*> BuscarLocalidades(std::span<const Localidad> localidades, const CString& csNombre)
 {
     const CString csPlegado = SinBlancos(texto::Plegar(csNombre));

@@ -1,0 +1,62 @@
+#include "lugares/busqueda.h"
+
+#include <algorithm>
+
+#include <fmt/format.h>
+
+#include "comun/consola.h"
+#include "comun/datos.h"
+#include "comun/numeros.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr std::size_t kParecidos = 3;
+
+std::string Enumeradas(const std::vector<const Localidad*>& lugares)
+{
+    std::string texto;
+    for (const Localidad* lugar : lugares)
+        texto += fmt::format("{}{}", texto.empty() ? "" : ", ", CadenaUtf8(NombreConProvincia(*lugar)));
+    return texto;
+}
+
+}  // namespace
+
+std::vector<Localidad> LeerLugares(const std::string& csDatos)
+{
+    return efv::LeerLugares(RutaDatos(csDatos, ""), CarpetaPropia(csDatos));
+}
+
+std::vector<Localidad> LeerLugaresMayores(const std::string& csDatos)
+{
+    return efv::LeerLugares(RutaDatos(csDatos, ""), CarpetaPropia(csDatos), AlcanceLugares::sinMunicipios);
+}
+
+Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos)
+{
+    const std::vector<Localidad> lugares = LeerLugares(csDatos);
+    const CString csNombre = CadenaDesdeUtf8(nombre);
+    const auto hallados = BuscarLocalidades(lugares, csNombre);
+    if (hallados.size() == 1 || (!hallados.empty() && hallados.front()->bMayor))
+        return *hallados.front();
+    if (!hallados.empty())
+        throw ErrorEjecucion(
+            fmt::format("hay {} lugares «{}»: {}", hallados.size(), nombre, Enumeradas(hallados)));
+    std::string parecidos;
+    for (const CString& parecido : NombresParecidos(lugares, csNombre, kParecidos))
+        parecidos += fmt::format("{}{}", parecidos.empty() ? "; parecidos: " : ", ", CadenaUtf8(parecido));
+    throw ErrorEjecucion(fmt::format("no hay ningún lugar «{}»{} (todos: efv lugares)", nombre, parecidos));
+}
+
+std::string TextoZonas(const Localidad& lugar)
+{
+    if (lugar.csZonaHE5.empty())
+        return {};
+    const std::string he1 =
+        lugar.csZonaHE1.empty() ? std::string() : fmt::format("HE1 {}, ", CadenaUtf8(lugar.csZonaHE1));
+    return fmt::format("{}HE5 {}. {}", he1, CadenaUtf8(lugar.csZonaHE5), kReservaZonas);
+}
+
+}  // namespace efv::orden
