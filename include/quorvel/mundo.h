@@ -16,7 +16,7 @@ struct Mundo {
     Red* red;
 };
 
-/// The system's own; its network answers that there is none.
+/// The system's own.
 EFV_API Mundo MundoDelSistema();
 
 /// The one in use: the system's, until a program puts another.

@@ -17,7 +17,8 @@ namespace efv {
 
 struct OpcionesDescarga {
     std::size_t maximo = std::size_t{64} << 20;  ///< bytes of the body; a larger one is an error
-    std::chrono::milliseconds espera{30'000};    ///< for the connection, and between two pieces of the body
+    std::chrono::milliseconds espera{30'000};    ///< longest time without a byte, from the beginning on
+    std::string autoridades;  ///< file of certificate authorities (PEM) beside the system's; empty: none
     std::vector<std::pair<std::string, std::string>> cabeceras;  ///< name and value, sent along
 };
 
@@ -44,7 +45,8 @@ public:
     Red& operator=(const Red&) = delete;
     virtual ~Red() = default;
 
-    /// What stands at the address. An answer of any status is an answer; redirections are followed.
+    /// What stands at an address of http or https. An answer of any status is an answer; redirections are
+    /// followed, but none from https to http. Certificates and names are always verified.
     virtual std::variant<RespuestaRed, FalloRed> Obtener(const std::string& url,
                                                          const OpcionesDescarga& opciones,
                                                          const AvanceRed& avance) = 0;

@@ -6,7 +6,7 @@
 #include <quorvel/reloj.h>
 
 #include "platform/fichero/sistema_posix.h"
-#include "platform/red/sin_red.h"
+#include "platform/red/red_curl.h"
 #include "platform/reloj/reloj_sistema.h"
 
 namespace efv {
@@ -31,7 +31,7 @@ Mundo MundoDelSistema()
 {
     static SistemaPosix ficheros;
     static RelojSistema reloj;
-    static SinRed red;
+    static RedCurl red;
     return {&ficheros, &reloj, &red};
 }
 
