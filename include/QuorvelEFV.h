@@ -21,6 +21,9 @@
 #include <quorvel/report.h>
 #include <quorvel/solar.h>
 #include <quorvel/solar/energia.h>
+#include <quorvel/solar/he5.h>
 #include <quorvel/solar/inclinacion.h>
+#include <quorvel/solar/planos.h>
+#include <quorvel/solar/pvgis.h>
 #include <quorvel/tipos_catalogo.h>
 #include <quorvel/ui.h>

@@ -127,6 +127,10 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     Funcion::De<&phGetPotMinInstalarCTE>(
         "phGetPotMinInstalarCTE",
         "iZona, iTipoUso1, dSuperficie1, iTipoUso2, dSuperficie2, bFormulaCoeficientes"),
+    Funcion::De<&phDownloadFilePVGIS>("phDownloadFilePVGIS",
+                                      "csArchivo, csNombre, dLatitud, dLongitud, dValorCabecera, csError"),
+    Funcion::De<&phDownloadMonthRadPVGIS>("phDownloadMonthRadPVGIS",
+                                          "dLatitud, dLongitud, adRadiacion, csError, bAvisarSinDatos"),
     Funcion::De<&phShowMapaZonaHE5>("phShowMapaZonaHE5", ""),
     Funcion::De<&phGetCoefA>("phGetCoefA", "iTipoUso"),
     Funcion::De<&phGetCoefB>("phGetCoefB", "iTipoUso"),

@@ -1,4 +1,4 @@
-#include "solar/respuesta_pvgis.h"
+#include <quorvel/solar/pvgis.h>
 
 #include <algorithm>
 #include <cmath>

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <quorvel/solar/pvgis.h>
 #include "comun/ficheros.h"
-#include "solar/respuesta_pvgis.h"
 
 namespace {
 
