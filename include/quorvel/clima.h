@@ -6,6 +6,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -60,6 +61,14 @@ EFV_API BibliotecaClima& BibliotecaActual();
 /// reference climate of the building code, told apart by their first lines. Empty path: none any more.
 /// @param csError why it was refused, with the line; the record before then stays
 EFV_API bool CargarRegistroClimatico(const CString& csRuta, CString& csError);
+
+/// What the loaded climate record says of its place.
+struct DatosRegistro {
+    double dLatitud, dLongitud;  ///< degrees, north and east positive
+};
+
+/// Nothing without a loaded record.
+EFV_API std::optional<DatosRegistro> RegistroCargado();
 
 /// Loads the horizon that takes the direct radiation off: lines of azimuth (0 south, west positive) and
 /// elevation in degrees. Empty path: none any more.

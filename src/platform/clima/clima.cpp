@@ -131,6 +131,14 @@ bool CargarRegistroClimatico(const CString& csRuta, CString& csError)
     return Cargar(Propia().registro, csRuta, csError, &RegistroClimatico::Leer);
 }
 
+std::optional<DatosRegistro> RegistroCargado()
+{
+    const auto& registro = Propia().registro;
+    if (!registro)
+        return std::nullopt;
+    return DatosRegistro{registro->Latitud(), registro->Longitud()};
+}
+
 bool CargarHorizonte(const CString& csRuta, CString& csError)
 {
     return Cargar(Propia().horizonte, csRuta, csError, &Horizonte::Leer);
