@@ -12,6 +12,7 @@
 #include "anfitrion/suborden_rpc.h"
 #include "cable/suborden_cable.h"
 #include "catalogo/suborden_catalogo.h"
+#include "clima/suborden_clima.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
 #include "comun/reloj.h"
@@ -21,6 +22,8 @@
 #include "curvas/suborden_curvas.h"
 #include "diseno/suborden_diseno.h"
 #include "energia/suborden_energia.h"
+#include "he5/suborden_he5.h"
+#include "inclinacion/suborden_inclinacion.h"
 #include "lugares/suborden_lugares.h"
 
 namespace efv::orden {
@@ -48,6 +51,9 @@ public:
             "La variable de entorno EFV_AHORA (2028-02-01T12:00:00) sustituye al reloj.");
         Anadir(CrearSubordenEnergia());
         Anadir(CrearSubordenLugares());
+        Anadir(CrearSubordenClima());
+        Anadir(CrearSubordenInclinacion());
+        Anadir(CrearSubordenHE5());
         Anadir(CrearSubordenCatalogo());
         Anadir(CrearSubordenCurvas());
         Anadir(CrearSubordenCable());

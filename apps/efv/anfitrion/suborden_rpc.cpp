@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "clima/servicio.h"
 #include "comun/linea_ordenes.h"
 #include "rpc/entrada.h"
 
@@ -23,12 +24,14 @@ public:
             "en la salida estándar, hasta el fin de la entrada. Ejemplo:\n"
             "  echo '{\"jsonrpc\":\"2.0\",\"id\":1,\"method\":\"phGetHora\",\"params\":[8759]}' | efv rpc\n"
             "Además de las funciones: rpc.discover, rpc.archive, rpc.string, rpc.climate,\n"
-            "rpc.report, que escribe el informe de un diseño, y rpc.open, que abre un diálogo por su clase.");
+            "rpc.report, que escribe el informe de un diseño, y rpc.open, que abre un diálogo por su clase.\n"
+            "EFV_PVGIS_URL y EFV_PVGIS_CA sustituyen la dirección de PVGIS y añaden autoridades.");
         return linea;
     }
 
     int Ejecutar(std::ostream& salida) override
     {
+        PonerServicioDelEntorno();
         if (!m_bFunciones)
             return rpc::AtenderEntrada();
         salida << rpc::ListaDeFunciones();
