@@ -6,6 +6,7 @@
 #include "assistants/receptores_aislada.h"
 #include "report/campos.h"
 #include "report/receptores.h"
+#include "report/secciones.h"
 #include "solar/calendario.h"
 
 namespace efv::report {
@@ -72,15 +73,16 @@ EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& tabla)
 
     const auto adK = factores(v.dLatitud, v.iHemisferio, v.dInclinacion);
     estudio.bPlano = adK.has_value();
-    estudio.ano =
-        solar::CalcularEnergia({.dLatitud = v.dLatitud,
-                                .bNorte = proyecto.lugar.bNorte,
-                                .adRadHorizontal = v.adRadiacion,
-                                .dInclinacion = v.dInclinacion,
-                                .dPotencia = v.dPotenciaInstalada / 1000.0,
-                                .dPR = (100 - v.dPerdidaAcumulador) / 100 * ((100 - v.dPerdidaCableado) / 100) *
-                                       ((100 - v.dPerdidaAcoplamiento) / 100)},
-                               adK.value_or(solar::DoceMeses{}));
+    const solar::CampoSolar campo{.dLatitud = v.dLatitud,
+                                  .bNorte = proyecto.lugar.bNorte,
+                                  .adRadHorizontal = v.adRadiacion,
+                                  .dInclinacion = v.dInclinacion,
+                                  .dPotencia = v.dPotenciaInstalada / 1000.0,
+                                  .dPR = (100 - v.dPerdidaAcumulador) / 100 *
+                                         ((100 - v.dPerdidaCableado) / 100) *
+                                         ((100 - v.dPerdidaAcoplamiento) / 100)};
+    estudio.ano = solar::CalcularEnergia(campo, adK.value_or(solar::DoceMeses{}));
+    estudio.orientada = CalcularPlanos(proyecto.planos, proyecto.lugar, campo, v.dOrientacion);
     return estudio;
 }
 

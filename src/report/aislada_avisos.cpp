@@ -63,6 +63,7 @@ private:
                                 Con(v.dCapacidadResultante, 1, "Ah"), Con(v.dCapacidadNecesaria, 1, "Ah")));
         }
         AvisarDelPlano(m_proyecto.lugar, m_estudio.bPlano, v.dInclinacion, m_avisos);
+        AvisarDeOrientacion(m_estudio.orientada, m_avisos);
         FaltaSi(v.dHSP <= kTolerancia,
                 "Sin horas de sol pico en el mes de referencia no hay potencia necesaria "
                 "que calcular.");

@@ -186,6 +186,7 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
                            SeccionGeometria(v),
                            SeccionCableado(estudio.cableado),
                            SeccionMeses(estudio.ano, &estudio.adNecesaria),
+                           SeccionOrientacion(estudio.orientada),
                            SeccionModelos({Elegido("Acumulador", *proyecto.acumulador),
                                            Elegido("Panel fotovoltaico", *proyecto.panel)})};
     documento.supuestos.emplace_back(
@@ -198,7 +199,7 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
         "necesaria antes de las pérdidas.");
     documento.supuestos.emplace_back(
         "La radiación sobre el plano es la horizontal por el factor K de la tabla, para un campo orientado al "
-        "ecuador: la orientación no entra en ninguna fórmula.");
+        "ecuador: la orientación no entra en esa fórmula y se cuenta aparte.");
     documento.supuestos.emplace_back(
         "Cada pérdida es el tanto por ciento de lo que llega hasta ella: primero el acoplamiento, después el "
         "cableado y el acumulador. Energía necesaria = receptores + pérdidas.");

@@ -4,6 +4,7 @@
 #include <quorvel/report/disenos.h>
 
 #include "report/campos.h"
+#include "report/secciones.h"
 
 namespace efv::report {
 
@@ -63,13 +64,14 @@ EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla)
         solar::FactoresK(tabla, proyecto.lugar.dLatitud, proyecto.lugar.Hemisferio(), v.dInclinacion)
             .has_value();
     if (proyecto.lugar.adRadiacion) {
-        estudio.ano = solar::CalcularEnergia({.dLatitud = proyecto.lugar.dLatitud,
-                                              .bNorte = proyecto.lugar.bNorte,
-                                              .adRadHorizontal = *proyecto.lugar.adRadiacion,
-                                              .dInclinacion = v.dInclinacion,
-                                              .dPotencia = v.dPotenciaTotal,
-                                              .dPR = proyecto.Rendimiento()},
-                                             solar::kMetodoDeUso, tabla);
+        const solar::CampoSolar campo{.dLatitud = proyecto.lugar.dLatitud,
+                                      .bNorte = proyecto.lugar.bNorte,
+                                      .adRadHorizontal = *proyecto.lugar.adRadiacion,
+                                      .dInclinacion = v.dInclinacion,
+                                      .dPotencia = v.dPotenciaTotal,
+                                      .dPR = proyecto.Rendimiento()};
+        estudio.ano = solar::CalcularEnergia(campo, solar::kMetodoDeUso, tabla);
+        estudio.orientada = CalcularPlanos(proyecto.planos, proyecto.lugar, campo, v.dOrientacion);
     }
     return estudio;
 }

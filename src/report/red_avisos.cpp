@@ -115,6 +115,8 @@ private:
             Nota("Sin radiaciones del lugar no se calcula la energía mensual.");
         else
             AvisarDelPlano(lugar, m_estudio.bPlano, m_estudio.v.dInclinacion, m_avisos);
+        if (m_estudio.orientada)
+            AvisarDeOrientacion(*m_estudio.orientada, m_avisos);
         for (const std::string& nota : m_proyecto.notas)
             Nota(nota);
     }

@@ -112,6 +112,8 @@ std::vector<Dato> Resumen(const EstudioRed& estudio)
         {"Paneles",
          fmt::format("{} ({} × {} por inversor)", v.iTotalPaneles, v.iPanelesSerie, v.iPanelesParalelo)},
         {"Inclinación", Con(v.dInclinacion, 1, "°")}};
+    if (estudio.orientada)
+        resumen.emplace_back("Pérdida por la orientación", Con(estudio.orientada->Perdida() * 100.0, 1, "%"));
     if (estudio.ano) {
         Dato energia{"Energía del año", Con(estudio.ano->Energia(), 0, "kWh")};
         resumen.push_back(std::move(energia));
@@ -138,7 +140,8 @@ std::vector<std::string> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
             "Energía de un mes: potencia instalada × horas de sol pico × rendimiento {}{} × días. La radiación "
             "sobre "
             "el plano es la horizontal por el factor K de la tabla, para un campo orientado al ecuador: la "
-            "orientación no entra en ninguna fórmula. Sin sombras y sin recorte por la potencia del inversor.",
+            "orientación no entra en esa fórmula y se cuenta aparte. Sin sombras y sin recorte por la potencia "
+            "del inversor.",
             Decimal(proyecto.Rendimiento(), 2), porDefecto(proyecto.dRendimiento)));
     }
     return supuestos;
@@ -162,6 +165,8 @@ Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estud
                            SeccionCableado(estudio.cableado)};
     if (estudio.ano)
         documento.secciones.push_back(SeccionMeses(*estudio.ano, nullptr));
+    if (estudio.orientada)
+        documento.secciones.push_back(SeccionOrientacion(*estudio.orientada));
     documento.secciones.push_back(SeccionModelos(
         {Elegido("Inversor", *proyecto.inversor), Elegido("Panel fotovoltaico", *proyecto.panel)}));
     documento.supuestos = Supuestos(proyecto, estudio.ano.has_value());

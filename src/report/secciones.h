@@ -32,6 +32,14 @@ Seccion SeccionCableado(const Cableado& cableado);
 /// What is said of a stretch that breaks a limit.
 void AvisarDelCableado(const Cableado& cableado, std::vector<Aviso>& avisos);
 
+/// The year of the design's planes as they look.
+solar::EnergiaPlanos CalcularPlanos(const PlanosDiseno& planos, const LugarDiseno& lugar,
+                                    const solar::CampoSolar& campo, double dOrientacion);
+/// What the orientation does, plane by plane.
+Seccion SeccionOrientacion(const solar::EnergiaPlanos& energia);
+/// What is said of planes that give clearly less than facing the equator.
+void AvisarDeOrientacion(const solar::EnergiaPlanos& energia, std::vector<Aviso>& avisos);
+
 /// The data sheets of the chosen models, for the page.
 struct ModeloElegido {
     std::string_view titulo;

@@ -94,6 +94,7 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
     ProyectoAislada proyecto;
     LeerCabecera(objeto, "aislada", proyecto.titulo);
     proyecto.lugar = LeerLugar(objeto, csDatos, true);
+    proyecto.planos = LeerPlanos(objeto);
     proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);
     if (std::ranges::find(kTensiones, proyecto.registro.dTensionSistema) == kTensiones.end())
         throw rpc::ErrorValor("dTensionSistema: se esperaba 12, 24, 36, 48, 60 o 72 (V)");
@@ -147,6 +148,7 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"receptores", ReceptoresJson(proyecto.receptores)},
                       {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", AnoJson(estudio.ano, &estudio.adNecesaria)},
+                      {"orientada", PlanosJson(estudio.orientada)},
                       {"avisos", AvisosJson(avisos)}};
     assistants::DevolverAlRegistro(estudio.v, proyecto.registro);
     assistants::GuardarReceptores(proyecto.receptores, proyecto.registro);

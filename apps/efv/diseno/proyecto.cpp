@@ -1,16 +1,18 @@
 #include "diseno/proyecto.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <variant>
 
 #include <fmt/format.h>
 
+#include <quorvel/clima.h>
 #include <quorvel/registros.h>
 #include <quorvel/solar.h>
 
 #include "comun/numeros.h"
-#include "energia/opciones.h"
+#include "lugares/busqueda.h"
 #include "rpc/valores.h"
 
 namespace efv::orden {
@@ -126,6 +128,55 @@ report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool
     if (radiacion != nullptr)
         rpc::NombrarLugar([] { return "radiacion"; }, [&] { lugar.adRadiacion = LeerRadiacion(*radiacion); });
     return lugar;
+}
+
+namespace {
+
+solar::PlanoCampo LeerPlano(const JsonLeido& j)
+{
+    Objeto objeto(j);
+    solar::PlanoCampo plano;
+    const auto leer = [&](const char* nombre, Rango rango, double& d) {
+        rpc::NombrarLugar([&] { return nombre; }, [&] { d = LeerNumero(objeto.Exigir(nombre), rango); });
+    };
+    leer("inclinacion", {0.0, 90.0}, plano.dInclinacion);
+    leer("orientacion", {-180.0, 180.0}, plano.dOrientacion);
+    leer("parte", {0.0, 1.0}, plano.dParte);
+    objeto.Terminar();
+    return plano;
+}
+
+}  // namespace
+
+report::PlanosDiseno LeerPlanos(Objeto& proyecto)
+{
+    report::PlanosDiseno planos;
+    if (const JsonLeido* lista = proyecto.Buscar("planos"); lista != nullptr) {
+        rpc::NombrarLugar(
+            [] { return "planos"; },
+            [&] {
+                double dPartes = 0.0;
+                for (const JsonLeido& j : LeerLista(*lista)) {
+                    rpc::NombrarLugar([&] { return fmt::format("elemento {}", planos.planos.size()); },
+                                      [&] { planos.planos.push_back(LeerPlano(j)); });
+                    dPartes += planos.planos.back().dParte;
+                }
+                if (std::abs(dPartes - 1.0) > 1e-6)
+                    throw rpc::ErrorValor(
+                        fmt::format("las partes suman {} y deben sumar 1", DecimalExacto(dPartes)));
+            });
+    }
+    // What an earlier project has loaded doesn't stand on.
+    CString csRuta, csError;
+    if (const JsonLeido* ruta = proyecto.Buscar("clima"); ruta != nullptr) {
+        rpc::NombrarLugar([] { return "clima"; }, [&] { csRuta = CadenaDesdeUtf8(LeerTexto(*ruta)); });
+        planos.origen = solar::OrigenHoras::registro;
+    }
+    if (planos.origen == solar::OrigenHoras::registro && csRuta.empty())
+        throw rpc::ErrorValor("clima: falta el nombre del fichero");
+    if (!clima::CargarRegistroClimatico(csRuta, csError))
+        throw rpc::ErrorValor(fmt::format("clima: «{}»: {}", CadenaUtf8(csRuta), CadenaUtf8(csError)));
+    return planos;
 }
 
 std::set<std::string> LeerCampos(Objeto& objeto, CObject& registro, std::span<const RangoCampo> rangos)

@@ -22,6 +22,10 @@ namespace efv::orden {
 /// @throws rpc::ErrorValor, ErrorEjecucion for a place that isn't known
 report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool bExigirRadiacion);
 
+/// `planos`, a list of {"inclinacion", "orientacion", "parte"} whose parts add up to 1, and `clima`, a climate
+/// record's file, which is loaded. @throws rpc::ErrorValor
+report::PlanosDiseno LeerPlanos(Objeto& proyecto);
+
 /// Values that a field may have within the record's own limits.
 struct RangoCampo {
     std::string_view nombre;

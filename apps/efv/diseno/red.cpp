@@ -44,6 +44,7 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     ProyectoRed proyecto;
     LeerCabecera(objeto, "red", proyecto.titulo);
     proyecto.lugar = LeerLugar(objeto, csDatos, false);
+    proyecto.planos = LeerPlanos(objeto);
     proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);
     proyecto.inversor = &ElegirModelo<CBaseInversorModelo>(objeto, "csInversor", catalogos.inversores,
                                                            proyecto.registro.csInversor);
@@ -103,6 +104,7 @@ Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"comprobacion", ComprobacionJson(proyecto, estudio.comprobacion)},
                       {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", estudio.ano ? AnoJson(*estudio.ano, nullptr) : JsonEscrito()},
+                      {"orientada", estudio.orientada ? PlanosJson(*estudio.orientada) : JsonEscrito()},
                       {"avisos", AvisosJson(avisos)}};
     CSFVAsistenteRed registro = static_cast<const CSFVAsistenteRed&>(estudio.v);
     diseno.archivo = Archivar(registro);

@@ -20,6 +20,7 @@ JsonEscrito ValoresJson(const std::vector<CampoRegistroConst>& valores);
 JsonEscrito AvisosJson(const std::vector<report::Aviso>& avisos);
 /// @param necesaria kWh of each month; null without loads
 JsonEscrito AnoJson(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
+JsonEscrito PlanosJson(const solar::EnergiaPlanos& energia);
 JsonEscrito LugarJson(const report::LugarDiseno& lugar);
 
 /// The record's items alone, as its Serialize writes them.

@@ -38,11 +38,15 @@ void AnotarCampo(Estudio& estudio)
         estudio.notas.push_back(
             fmt::format("Inclinación no indicada: se toma la latitud sin signo, redondeada ({}°).",
                         Decimal(campo.dInclinacion, 0)));
-    std::string orientacion =
-        "La orientación no entra en ninguna fórmula: los dos métodos calculan un campo orientado al ecuador";
+    std::string orientacion = "Los dos métodos calculan un campo orientado al ecuador";
     if (campo.dOrientacion != campo.OrientacionEcuador())
         orientacion += fmt::format(", aunque se pida {}°", DecimalExacto(campo.dOrientacion));
-    estudio.notas.push_back(orientacion + ".");
+    estudio.notas.push_back(orientacion + ": la energía con la orientación se calcula aparte, hora a hora.");
+    if (estudio.encargo.origen == solar::OrigenHoras::cielo)
+        estudio.notas.emplace_back(
+            "El cielo despejado reparte la radiación de cada mes entre los planos; su parte directa es mayor "
+            "que la de "
+            "un cielo real, y la orientación pesa algo más.");
     if (!campo.bNorte && estudio.correlacion) {
         estudio.notas.push_back(
             fmt::format("Hemisferio sur: la correlación inclina hacia el sur, por lo que se consulta con {}° "
@@ -103,6 +107,8 @@ Estudio Estudiar(Encargo encargo)
         estudio.tabla = calcular(solar::Metodo::tabla);
     if (encargo.bCorrelacion)
         estudio.correlacion = calcular(solar::Metodo::correlacion);
+    estudio.orientada = solar::CalcularPlanos(encargo.campo, encargo.lugar ? encargo.lugar->dAltitud : 0.0,
+                                              encargo.planos, encargo.origen);
     estudio.encargo = std::move(encargo);
     if (!estudio.tabla && !estudio.correlacion)
         throw ErrorEjecucion(fmt::format("la tabla de factores K no llega a la latitud {}°",

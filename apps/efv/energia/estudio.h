@@ -14,6 +14,7 @@ struct Estudio {
     Encargo encargo;
     std::optional<solar::AnoEnergia> correlacion;
     std::optional<solar::AnoEnergia> tabla;
+    solar::EnergiaPlanos orientada;
     std::vector<std::string> notas;
 
     /// The method whose figure counts: the one of use where it was asked for and has an answer, else the other.

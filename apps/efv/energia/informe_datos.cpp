@@ -36,6 +36,26 @@ Json DelAno(const std::optional<solar::AnoEnergia>& resultado)
             {"energia_kWh", Numero(resultado->Energia())}};
 }
 
+Json DeLosPlanos(const solar::EnergiaPlanos& energia)
+{
+    Json planos = Json::array();
+    for (const auto& [plano, ano, alEcuador] : energia.planos) {
+        Json meses = Json::array();
+        for (const solar::MesEnergia& mes : ano.meses)
+            meses.push_back(Numero(mes.dEnergiaMes));
+        planos.push_back({{"inclinacion", plano.dInclinacion},
+                          {"orientacion", plano.dOrientacion},
+                          {"parte", plano.dParte},
+                          {"energia_kWh", Numero(ano.Energia())},
+                          {"hacia_el_ecuador_kWh", Numero(alEcuador.Energia())},
+                          {"meses_kWh", std::move(meses)}});
+    }
+    return {{"origen", energia.origen == solar::OrigenHoras::registro ? "registro" : "cielo"},
+            {"energia_kWh", Numero(energia.Energia())},
+            {"hacia_el_ecuador_kWh", Numero(energia.EnergiaAlEcuador())},
+            {"planos", std::move(planos)}};
+}
+
 Json DelLugar(const std::optional<Localidad>& lugar)
 {
     if (!lugar)
@@ -85,6 +105,7 @@ std::string InformeJson(const Estudio& estudio)
         {"de_uso",
          {{"metodo", estudio.DeUso() == solar::Metodo::tabla ? "tabla" : "correlacion"},
           {"energia_kWh", Numero(estudio.AnoDeUso().Energia())}}},
+        {"orientada", DeLosPlanos(estudio.orientada)},
         {"notas", estudio.notas},
     };
     return documento.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';

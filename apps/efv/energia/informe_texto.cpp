@@ -4,6 +4,7 @@
 
 #include "comun/numeros.h"
 #include "energia/informe.h"
+#include "lugares/busqueda.h"
 
 namespace efv::orden {
 
@@ -24,6 +25,8 @@ std::string Cabecera(const Estudio& estudio)
                              CadenaUtf8(lugar->csPais), Coordenada(lugar->dLatitud, "N", "S"),
                              Coordenada(lugar->dLongitud, "E", "O"), Decimal(lugar->dAltitud, 0));
         texto += fmt::format("Radiación: {}\n", CadenaUtf8(lugar->csFuente));
+        if (const std::string zonas = TextoZonas(*lugar); !zonas.empty())
+            texto += fmt::format("Zonas: {}\n", zonas);
     } else {
         texto += fmt::format("Lugar: latitud {}\n", Coordenada(campo.dLatitud, "N", "S"));
     }
@@ -95,6 +98,24 @@ std::string Cuadro(const Estudio& estudio)
     return tabla.Texto();
 }
 
+// What the planes give as they look, and what their orientation does.
+std::string Orientada(const solar::EnergiaPlanos& energia)
+{
+    std::string texto =
+        fmt::format("Con la orientación: {} kWh al año ({}); los mismos planos hacia el ecuador, {} kWh",
+                    Decimal(energia.Energia(), 2), solar::NombreDeOrigen(energia.origen),
+                    Decimal(energia.EnergiaAlEcuador(), 2));
+    const double dPerdida = energia.Perdida() * 100.0;
+    texto += std::isfinite(dPerdida) ? fmt::format(": la orientación quita el {} %.\n", Decimal(dPerdida, 1))
+                                     : ".\n";
+    if (energia.planos.size() > 1)
+        for (const auto& [plano, ano, alEcuador] : energia.planos)
+            texto += fmt::format("  {}° hacia {}°, {} % de la potencia: {} kWh\n",
+                                 DecimalExacto(plano.dInclinacion), DecimalExacto(plano.dOrientacion),
+                                 DecimalExacto(plano.dParte * 100.0), Decimal(ano.Energia(), 2));
+    return texto;
+}
+
 }  // namespace
 
 std::string InformeTexto(const Estudio& estudio)
@@ -108,6 +129,7 @@ std::string InformeTexto(const Estudio& estudio)
     texto +=
         fmt::format("Cifra que se usa: {} kWh al año, por la {}.\n", Decimal(estudio.AnoDeUso().Energia(), 2),
                     estudio.tabla ? "tabla de factores K" : "correlación");
+    texto += Orientada(estudio.orientada);
     for (const std::string& nota : estudio.notas)
         texto += "· " + nota + '\n';
     return texto;

@@ -6,10 +6,13 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
+#include <quorvel/clima.h>
+
 #include "comun/consola.h"
 #include "comun/datos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "lugares/busqueda.h"
 
 namespace efv::orden {
 
@@ -36,8 +39,8 @@ constexpr auto kOpciones = std::to_array<OpcionNumerica>({
     {"--inclinacion", "GRADOS", &Campo::dInclinacion, 0, 90, false,
      "Inclinación de los paneles hacia el ecuador (0 a 90); si falta, la latitud sin signo, redondeada", ""},
     {"--orientacion", "GRADOS", &Campo::dOrientacion, -180, 180, false,
-     "Orientación, 0 sur, este negativa (-180 a 180); si falta, hacia el ecuador. No entra en ninguna "
-     "fórmula: siempre se calcula un campo orientado al ecuador",
+     "Orientación, 0 sur, este negativa (-180 a 180); si falta, hacia el ecuador. Los dos métodos "
+     "calculan un campo orientado al ecuador; la energía con la orientación se da aparte",
      ""},
     {"--potencia", "KWP", &Campo::dPotencia, 0, 1e6, true, "Potencia pico del campo en kWp; si falta, 1", ""},
     {"--pr", "FRACCION", &Campo::dPR, 0, 1, true,
@@ -92,19 +95,6 @@ std::array<double, kMeses> LeerRadiaciones(const std::vector<std::string>& palab
     return valores;
 }
 
-Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos)
-{
-    const CString csArchivo = RutaDatos(csDatos, "localidades.xml");
-    const std::vector<Localidad> localidades = LeerLocalidades(csArchivo);
-    const CString csNombre = CadenaDesdeUtf8(nombre);
-    if (const Localidad* localidad = BuscarLocalidad(localidades, csNombre))
-        return *localidad;
-    std::string parecidos;
-    for (const CString& parecido : NombresParecidos(localidades, csNombre, 3))
-        parecidos += fmt::format("{}{}", parecidos.empty() ? "; parecidos: " : ", ", CadenaUtf8(parecido));
-    throw ErrorEjecucion(fmt::format("no hay ningún lugar «{}»{} (todos: efv lugares)", nombre, parecidos));
-}
-
 void OpcionesEnergia::Declarar(CLI::App& linea)
 {
     static_assert(kOpciones.size() == kNumericas);
@@ -116,6 +106,20 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
         if (i == kLatitud)
             linea.add_option("--radiacion", m_radiacion, kAyudaRadiacion)->type_name("VALORES");
     }
+    linea
+        .add_option(
+            "--plano", m_planos,
+            "Un plano del campo, INCLINACION:ORIENTACION:PARTE, como 30:-90:0,5; se repite por cada plano y "
+            "las partes suman 1")
+        ->type_name("PLANO")
+        ->expected(1)
+        ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+    linea
+        .add_option(
+            "--clima", m_clima,
+            "Registro climático para la energía con la orientación; si falta, cielo despejado ajustado a las "
+            "doce radiaciones")
+        ->type_name("FICHERO");
     linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")->type_name("METODO");
     CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON");
     CLI::Option* csv = linea.add_flag(
@@ -143,7 +147,33 @@ Encargo OpcionesEnergia::Leer() const
         campo.dInclinacion = std::round(std::abs(campo.dLatitud));
     if (!m_numericas[kOrientacion])
         campo.dOrientacion = campo.OrientacionEcuador();
+    LeerPlanos(encargo);
     return encargo;
+}
+
+void OpcionesEnergia::LeerPlanos(Encargo& encargo) const
+{
+    double dPartes = 0.0;
+    for (const std::string& texto : m_planos) {
+        const std::vector<std::string> partes = CLI::detail::split(texto, ':');
+        if (partes.size() != 3)
+            throw ErrorUso(
+                fmt::format("--plano: se esperaba INCLINACION:ORIENTACION:PARTE, llegó «{}»", texto));
+        encargo.planos.push_back({LeerAcotado("--plano", partes[0], 0, 90),
+                                  LeerAcotado("--plano", partes[1], -180, 180),
+                                  LeerAcotado("--plano", partes[2], 0, 1)});
+        dPartes += encargo.planos.back().dParte;
+    }
+    if (m_planos.empty())
+        encargo.planos = {{encargo.campo.dInclinacion, encargo.campo.dOrientacion, 1.0}};
+    else if (std::abs(dPartes - 1.0) > 1e-6)
+        throw ErrorUso(fmt::format("--plano: las partes suman {} y deben sumar 1", DecimalExacto(dPartes)));
+    // What an earlier run in the same process has loaded doesn't stand on.
+    CString csError;
+    if (!clima::CargarRegistroClimatico(CadenaDesdeUtf8(m_clima.value_or("")), csError))
+        throw ErrorEjecucion(fmt::format("«{}»: {}", *m_clima, CadenaUtf8(csError)));
+    if (m_clima)
+        encargo.origen = solar::OrigenHoras::registro;
 }
 
 void OpcionesEnergia::LeerNumericas(Encargo& encargo) const

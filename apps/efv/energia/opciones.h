@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <quorvel/localidades.h>
+#include <quorvel/solar/planos.h>
 
 #include "energia/campo.h"
 
@@ -26,7 +27,9 @@ struct Encargo {
     bool bCorrelacion = true;
     bool bTabla = true;
     Formato formato = Formato::texto;
-    std::string csDatos;  ///< option --datos
+    std::string csDatos;                    ///< option --datos
+    std::vector<solar::PlanoCampo> planos;  ///< one of the field's tilt and orientation, or those of --plano
+    solar::OrigenHoras origen = solar::OrigenHoras::cielo;
 };
 
 class OpcionesEnergia {
@@ -41,9 +44,12 @@ private:
 
     void LeerLugar(Encargo& encargo) const;
     void LeerNumericas(Encargo& encargo) const;
+    void LeerPlanos(Encargo& encargo) const;
 
     std::optional<std::string> m_lugar;
     std::vector<std::string> m_radiacion;
+    std::vector<std::string> m_planos;
+    std::optional<std::string> m_clima;
     std::array<std::optional<std::string>, kNumericas> m_numericas;  ///< as typed, in the table's order
     std::string m_metodo = "ambos";
     std::string m_datos;
@@ -54,8 +60,5 @@ private:
 /// Twelve numbers separated by blanks, commas or semicolons. A comma is a decimal mark where another
 /// separator makes twelve. @throws ErrorUso
 std::array<double, kMeses> LeerRadiaciones(const std::vector<std::string>& palabras);
-
-/// The place of that name in the data folder. @throws ErrorEjecucion with the nearest names
-Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos);
 
 }  // namespace efv::orden

@@ -16,6 +16,7 @@
 #include <quorvel/report/documento.h>
 #include <quorvel/report/equipos.h>
 #include <quorvel/solar/energia.h>
+#include <quorvel/solar/planos.h>
 
 namespace efv::report {
 
@@ -24,10 +25,18 @@ struct LugarDiseno {
     std::optional<Localidad> localidad;  ///< none when it was given by its figures
     std::string nombre;                  ///< without a place of the list; may be empty
     double dLatitud = 0.0;               ///< degrees
+    double dAltitud = 0.0;               ///< m, without a place of the list
     bool bNorte = true;
     std::optional<solar::DoceMeses> adRadiacion;  ///< on the horizontal, kJ/m²·day
 
     int Hemisferio() const { return bNorte ? 1 : 0; }
+    double Altitud() const { return localidad ? localidad->dAltitud : dAltitud; }  ///< m
+};
+
+/// Where the panels look, for the energy of their true orientation.
+struct PlanosDiseno {
+    std::vector<solar::PlanoCampo> planos;  ///< empty: one, of the design's tilt and orientation
+    solar::OrigenHoras origen = solar::OrigenHoras::cielo;
 };
 
 // ---------------------------------------------------------------------------------------------------
@@ -42,6 +51,7 @@ struct ProyectoAislada {
     CObArrayPropio<CSFVDataReceptor> receptores;
     std::vector<std::string> notas;  ///< what must be known of the project besides
     CriteriosCableado cableado;
+    PlanosDiseno planos;
     // Catalogue models, which outlive it.
     const CBaseAcumuladorModelo* acumulador = nullptr;
     const CBasePanelFotoModelo* panel = nullptr;
@@ -53,6 +63,7 @@ struct EstudioAislada {
     solar::AnoEnergia ano;              ///< of the field, after the losses; zeros where the table doesn't reach
     solar::DoceMeses adNecesaria = {};  ///< by the loads on the days of each month, kWh
     Cableado cableado;
+    solar::EnergiaPlanos orientada;  ///< of the planes as they look
 };
 
 /// The project of a design that the assistant accepted: every value of it stays, and the loads have the models
@@ -79,6 +90,7 @@ struct ProyectoRed {
     std::set<std::string> fijados;   ///< fields of the record that the project gives
     std::vector<std::string> notas;  ///< what must be known of the project besides
     CriteriosCableado cableado;
+    PlanosDiseno planos;
     // Catalogue models, which outlive it.
     const CBaseInversorModelo* inversor = nullptr;
     const CBasePanelFotoModelo* panel = nullptr;
@@ -94,8 +106,9 @@ struct ProyectoRed {
 struct EstudioRed {
     assistants::ValoresRed v;
     assistants::ComprobacionCampo comprobacion;
-    bool bPlano = false;                   ///< the table of factors K reaches the latitude
-    std::optional<solar::AnoEnergia> ano;  ///< nothing without radiations or outside the table
+    bool bPlano = false;                            ///< the table of factors K reaches the latitude
+    std::optional<solar::AnoEnergia> ano;           ///< nothing without radiations or outside the table
+    std::optional<solar::EnergiaPlanos> orientada;  ///< of the planes as they look; nothing without radiations
     Cableado cableado;
 };
 
