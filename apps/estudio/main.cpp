@@ -48,7 +48,7 @@ void PrepararPantalla(int argc, char** argv, PantallaDeCapturas& pantalla)
 
 std::vector<efv::Localidad> Lugares(const std::filesystem::path& datos)
 {
-    return efv::LeerLocalidades(Ruta(datos, "localidades.xml"));
+    return efv::LeerLugares(Ruta(datos, ""), Ruta(datos, ""));
 }
 
 int Capturar(const std::filesystem::path& datos, const std::filesystem::path& carpeta)
@@ -96,6 +96,7 @@ int Ejecutar(QApplication& programa)
         return EXIT_SUCCESS;
     }
 
+    efv::solar::PonerServicioPVGISDelEntorno();
     efv::qt::InstalarPresentadorQt();
     static ControlAnfitrion control;
     phSetQuorvelBIMCtrl(control);

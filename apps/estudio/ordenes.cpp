@@ -7,6 +7,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "clima/estudios.h"
 #include "economia/estudios.h"
 #include "esquema/exportar.h"
 #include "proyecto/asistentes.h"
@@ -24,6 +25,7 @@ constexpr const char* kArchivo = "&Archivo";
 constexpr const char* kDiseno = "&Diseño";
 constexpr const char* kEconomia = "Econo&mía";
 constexpr const char* kEsquema = "&Esquema";
+constexpr const char* kClima = "Clima";
 constexpr const char* kCatalogos = "&Catálogos";
 constexpr const char* kAyuda = "A&yuda";
 
@@ -115,6 +117,13 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kEsquema, nullptr, nullptr, nullptr},
     {kEsquema, "&Copiar", "Ctrl+Shift+C", &CopiarEsquema},
     {kEsquema, "&Guardar como…", nullptr, &GuardarEsquema},
+    {kClima, "&Estudio de la inclinación…", nullptr, [](Ventana& v) { v.EstudiarInclinacion(); }},
+    {kClima, "&Mapa de zonas climáticas…", nullptr, [](Ventana&) { phShowMapaZonaHE5(); }},
+    {kClima, "&Potencia mínima (CTE HE5)…", nullptr, [](Ventana& v) { CalcularPotenciaMinima(v.LaSesion()); }},
+    {kClima, nullptr, nullptr, nullptr},
+    {kClima, "&Descargar año típico de PVGIS…", nullptr, [](Ventana& v) { DescargarRegistro(v.LaSesion()); }},
+    {kClima, "&Registro climático…", nullptr, [](Ventana& v) { ElegirRegistro(v.LaSesion()); }},
+    {kClima, "&Quitar el registro climático", nullptr, [](Ventana& v) { QuitarRegistro(v.LaSesion()); }},
     {kCatalogos, "&Paneles fotovoltaicos…", nullptr,
      [](Ventana&) { phEditarBasePanelesFotovoltaicos(kEditar); }},
     {kCatalogos, "&Acumuladores…", nullptr, [](Ventana&) { phEditarBaseAcumuladores(kEditar); }},

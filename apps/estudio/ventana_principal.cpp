@@ -14,6 +14,7 @@
 
 #include <quorvel/qt.h>
 
+#include "clima/estudios.h"
 #include "economia/estudios.h"
 #include "ordenes.h"
 #include "proyecto/asistentes.h"
@@ -22,10 +23,10 @@ namespace efv::estudio {
 
 namespace {
 
-Lugar LugarInicial(const std::vector<Localidad>& localidades)
+Sesion SesionInicial(const std::vector<Localidad>& localidades)
 {
     const Localidad* madrid = BuscarLocalidad(localidades, L"Madrid");
-    return madrid != nullptr ? LugarDe(*madrid) : Lugar{};
+    return madrid != nullptr ? Sesion(LugarDe(*madrid), SituacionDe(*madrid)) : Sesion();
 }
 
 constexpr double kParteDePantalla = 0.95;  // the title bar takes some
@@ -88,7 +89,7 @@ std::vector<const char*> VentanaPrincipal::Pestanas()
 }
 
 VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
-    : m_sesion(LugarInicial(localidades)),
+    : m_sesion(SesionInicial(localidades)),
       m_lugar(m_sesion, localidades),
       m_energia(m_sesion.Proyecto().lugar),
       m_aislada(
@@ -186,6 +187,15 @@ void VentanaPrincipal::CrearMenus()
     }
 }
 
+void VentanaPrincipal::EstudiarInclinacion()
+{
+    double dInclinacion = m_energia.Inclinacion();
+    if (!estudio::EstudiarInclinacion(m_sesion, dInclinacion, m_energia.Orientacion()))
+        return;
+    m_energia.PonerInclinacion(dInclinacion);
+    Actualizar();
+}
+
 void VentanaPrincipal::Atender(const std::function<void()>& accion)
 {
     try {
@@ -201,7 +211,8 @@ void VentanaPrincipal::Actualizar()
     setWindowTitle(QString::fromStdWString(m_sesion.Titulo()));
     setWindowModified(m_sesion.Modificado());
     m_lugar.Actualizar();
-    m_energia.Poner(proyecto.lugar);
+    CargarRegistroDelProyecto(m_sesion);
+    m_energia.Poner(proyecto.lugar, proyecto.situacion);
     for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo, &m_venta, &m_autoconsumo})
         panel->Actualizar();
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)

@@ -36,6 +36,8 @@ public:
     VistaEsquema* EsquemaALaVista() const;
     /// The design of the tab on view; nothing when it has none.
     std::optional<Diseno> DisenoALaVista() const;
+    /// The study of the tilt on the plane of the energy's panel, which takes the tilt that is accepted.
+    void EstudiarInclinacion();
     /// Runs it and tells the person what went wrong: an exception must not pass through Qt's loop.
     void Atender(const std::function<void()>& accion);
 

@@ -37,6 +37,7 @@ Documento Escribir(const DISENO& diseno, const Portada& portada, const Catalogos
     auto proyecto = ProyectoDe(diseno, catalogos);
     proyecto.titulo = portada.titulo;
     proyecto.lugar = portada.lugar;
+    proyecto.planos = portada.planos;
     ExigirModelos(proyecto);
     const auto estudio = Calcular(proyecto, tabla);
     return EscribirDocumento(proyecto, estudio, Avisos(proyecto, estudio));

@@ -8,6 +8,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "clima/estudios.h"
 #include "proyecto/asistentes.h"
 
 namespace efv::estudio {
@@ -169,12 +170,8 @@ Pantalla DeConsumo(Sesion& sesion, std::string nombre, int iTipoEntrada, std::ve
 // A plane that looks south-west at the project's latitude.
 void AbrirInclinacion(const Sesion& sesion)
 {
-    solar::EstudioInclinacion estudio{.dInclinacionActual = 15.0,
-                                      .fuente = solar::FuenteRadiacion::cielo,
-                                      .dLatitud = sesion.Proyecto().lugar.dLatitud,
-                                      .dOrientacion = 30.0,
-                                      .radHorizontal = {}};
-    solar::EstudiarInclinacion(estudio);
+    double dInclinacion = 15.0;
+    EstudiarInclinacion(sesion, dInclinacion, 30.0);
 }
 
 void AbrirPerdidas()
@@ -308,6 +305,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          {"CDlgCalculoInclinacionPanel"},
          [&sesion] { AbrirInclinacion(sesion); },
          [](ui::Dialogo& dialogo) { ElegirEntrada(dialogo, "iOpcion", 1); }},
+        {"potencia-minima", {"DialogoHE5"}, [&sesion] { CalcularPotenciaMinima(sesion); }, {}},
         {"mapa-zonas", {"CDlgMapaZonas"}, [] { phShowMapaZonaHE5(); }, {}},
         {"red", {"CDlgAsistenteSFVRed"}, [&sesion] { DisenarRed(sesion); }, &Recorrer},
         DeConsumo(sesion, "consumo-horas", 0,

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include <quorvel/clima.h>
+#include <quorvel/solar/planos.h>
+
 #include "comun/numeros.h"
 
 namespace efv::estudio {
@@ -49,11 +52,17 @@ private:
     std::shared_ptr<const std::vector<FilaEnergia>> m_filas;
 };
 
+double AlEcuador(const Lugar& lugar)
+{
+    return lugar.iHemisferio == 1 ? 0.0 : 180.0;
+}
+
 }  // namespace
 
 PanelEnergia::PanelEnergia(Lugar lugarInicial)
     : Dialogo("PanelEnergia", L"Energía de un campo"),
       m_lugar(std::move(lugarInicial)),
+      m_dOrientacion(AlEcuador(m_lugar)),
       m_filas(std::make_shared<std::vector<FilaEnergia>>())
 {
     bAceptarVisible = false;
@@ -69,8 +78,9 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
         return edicion;
     };
     m_inclinacion = &campo("dInclinacion", L"&Inclinación (º):", m_dInclinacion, {0.0, 90.0}, 1, 0);
+    campo("dOrientacion", L"Orientación [0=Sur] (º):", m_dOrientacion, {-180.0, 180.0}, 1, 0);
     campo("dPotencia", L"P&otencia pico (kWp):", m_dPotencia, {0.0, 1e6}, 2, 1);
-    campo("dPR", L"PR [0-1]:", m_dPR, {0.0, 1.0}, 2, 2);
+    campo("dPR", L"PR [0-1]:", m_dPR, {0.0, 1.0}, 2, 1);
     m_nota = &Anadir<ui::TextoFijo>("csNota", L"");
     m_tabla = &Anadir<ui::Lista>("tabla", L"", ui::Lista::Forma::tabla);
     m_tabla->acsColumnas = {L"Mes",
@@ -88,11 +98,24 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
     AlCambiar();
 }
 
-void PanelEnergia::Poner(const Lugar& otro)
+void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion)
 {
-    if (otro == m_lugar)
+    if (otro == m_lugar && otraSituacion == m_situacion)
         return;
+    // What faced the equator does so in the other hemisphere too.
+    if (otro.iHemisferio != m_lugar.iHemisferio && m_dOrientacion == AlEcuador(m_lugar)) {
+        m_dOrientacion = AlEcuador(otro);
+        Volcar();
+    }
     m_lugar = otro;
+    m_situacion = otraSituacion;
+    AlCambiar();
+}
+
+void PanelEnergia::PonerInclinacion(double dInclinacion)
+{
+    m_dInclinacion = dInclinacion;
+    Volcar();
     AlCambiar();
 }
 
@@ -104,18 +127,37 @@ void PanelEnergia::AlCambiar()
         m_nota->csTexto = rechazo->csTexto;
         return;
     }
-    m_nota->csTexto = Calcular() ? kNota : kNotaSinTabla;
+    m_nota->csTexto = CString(Calcular() ? kNota : kNotaSinTabla) + L"\n" + Orientada();
     Mostrar();
 }
 
-bool PanelEnergia::Calcular()
+solar::CampoSolar PanelEnergia::Campo() const
 {
     solar::CampoSolar campo{.dLatitud = m_lugar.dLatitud,
                             .bNorte = m_lugar.iHemisferio == 1,
+                            .adRadHorizontal = {},
                             .dInclinacion = m_dInclinacion,
                             .dPotencia = m_dPotencia,
                             .dPR = m_dPR};
     std::ranges::copy(m_lugar.adRadHorizontal, campo.adRadHorizontal.begin());
+    return campo;
+}
+
+// What the orientation does, of which both methods know nothing.
+CString PanelEnergia::Orientada() const
+{
+    const auto origen = clima::RegistroCargado() ? solar::OrigenHoras::registro : solar::OrigenHoras::cielo;
+    const auto energia =
+        solar::CalcularPlanos(Campo(), m_situacion.dAltitud,
+                              std::array{solar::PlanoCampo{m_dInclinacion, m_dOrientacion, 1.0}}, origen);
+    return L"Con la orientación (" + CadenaDesdeUtf8(solar::NombreDeOrigen(origen)) + L"): " +
+           Decimal(energia.Energia(), 1) + L" kWh al año; hacia el ecuador, " +
+           Decimal(energia.EnergiaAlEcuador(), 1) + L" kWh.";
+}
+
+bool PanelEnergia::Calcular()
+{
+    const solar::CampoSolar campo = Campo();
     m_filas->assign(kMeses + 1, {});
     bool bTodos = true;
     for (std::size_t i = 0; i < kMetodos.size(); ++i) {

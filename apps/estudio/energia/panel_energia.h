@@ -27,7 +27,12 @@ class PanelEnergia final : public ui::Dialogo {
 public:
     explicit PanelEnergia(Lugar lugarInicial);
 
-    void Poner(const Lugar& otro);
+    /// The hours come from the loaded climate record, if there is one.
+    void Poner(const Lugar& otro, const Situacion& otraSituacion);
+
+    double Inclinacion() const { return m_dInclinacion; }
+    double Orientacion() const { return m_dOrientacion; }
+    void PonerInclinacion(double dInclinacion);
 
     const std::vector<FilaEnergia>& Filas() const { return *m_filas; }
 
@@ -35,10 +40,15 @@ private:
     void AlCambiar();
     /// @return whether all methods reach the place
     bool Calcular();
+    solar::CampoSolar Campo() const;
     void Mostrar();
 
+    CString Orientada() const;
+
     Lugar m_lugar;
+    Situacion m_situacion;
     double m_dInclinacion = 30.0;  // degrees toward the equator
+    double m_dOrientacion = 0.0;   // degrees, 0 south
     double m_dPotencia = 1.0;      // kWp
     double m_dPR = 0.8;
     std::shared_ptr<std::vector<FilaEnergia>> m_filas;

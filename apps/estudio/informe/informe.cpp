@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <quorvel/clima.h>
+
 #include "diseno/equipos.h"
 #include "guardar.h"
 
@@ -26,7 +28,10 @@ report::LugarDiseno LugarDelInforme(const Lugar& lugar)
 template <class DISENO>
 std::string Informe(const CProyectoEstudio& origen, const DISENO& diseno)
 {
-    const report::Portada portada{CadenaUtf8(origen.csNombre), LugarDelInforme(origen.lugar)};
+    report::Portada portada{CadenaUtf8(origen.csNombre), LugarDelInforme(origen.lugar), {}};
+    portada.lugar.dAltitud = origen.situacion.dAltitud;
+    if (clima::RegistroCargado())
+        portada.planos.origen = solar::OrigenHoras::registro;
     return report::DocumentoHtml(report::InformeDe(diseno, portada, CatalogosDelModulo(), phGetBaseFactorK()),
                                  report::FechaDeHoy());
 }

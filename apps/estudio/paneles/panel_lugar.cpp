@@ -5,6 +5,8 @@
 
 #include <quorvel/solar/energia.h>
 
+#include "clima/pvgis.h"
+
 namespace efv::estudio {
 
 namespace {
@@ -12,11 +14,14 @@ namespace {
 constexpr std::wstring_view kGrupoRadiacion = L"Radiación horizontal (kJ/m²·día)";
 constexpr std::wstring_view kGrupoLugar = L"Lugar";
 
-CString NombreDe(const Localidad& localidad)
+// As many as a person looks through.
+constexpr std::size_t kOfrecidas = 200;
+
+bool Responde(const Localidad& localidad, const CString& csBuscado)
 {
-    const CString csDetalle = LugarDe(localidad).csDetalle;
-    return csDetalle.empty() || csDetalle == localidad.csNombre ? localidad.csNombre
-                                                                : localidad.csNombre + L" (" + csDetalle + L")";
+    const auto aparece = [&](const CString& cs) { return PlegarTexto(cs).find(csBuscado) != CString::npos; };
+    return aparece(localidad.csNombre) || std::ranges::any_of(localidad.acsAlias, aparece) ||
+           aparece(NombreConProvincia(localidad));
 }
 
 }  // namespace
@@ -35,17 +40,22 @@ PanelLugar::PanelLugar(Sesion& sesion, std::vector<Localidad> localidades)
     m_nota->color = ui::kRojo;
     m_csProyecto = m_sesion.Proyecto().csNombre;
     m_lugar = m_sesion.Proyecto().lugar;
+    m_situacion = m_delProyecto = m_sesion.Proyecto().situacion;
     Mostrar();
 }
 
 void PanelLugar::AnadirLugar()
 {
+    m_buscar = &Anadir<ui::Edicion>("csBuscar", L"&Buscar:");
+    m_buscar->colocacion.grupo = kGrupoLugar;
+    m_buscar->destino = &m_csBuscar;
+    m_buscar->alCambiar = [this] {
+        Recoger(*m_buscar);
+        Ofrecer();
+    };
     m_seleccion = &Anadir<ui::Seleccion>("iLugar", L"&Lugar:", ui::Seleccion::Forma::combo);
     m_seleccion->colocacion.grupo = kGrupoLugar;
     m_seleccion->destino = &m_iLugar;
-    m_seleccion->acsEntradas.emplace_back(L"Datos propios");
-    for (const Localidad& localidad : m_localidades)
-        m_seleccion->acsEntradas.push_back(NombreDe(localidad));
     m_seleccion->alElegir = [this] { AlElegir(); };
     const auto campo = [this](const char* nombre, const wchar_t* csRotulo,
                               ui::Destino destino) -> ui::Edicion& {
@@ -67,6 +77,14 @@ void PanelLugar::AnadirLugar()
     m_hemisferio->acsEntradas = {L"Sur", L"Norte"};
     m_hemisferio->destino = &m_lugar.iHemisferio;
     m_hemisferio->alElegir = [this] { AlCambiar(); };
+    auto& longitud = campo("dLongitud", L"Longitud (º):", &m_situacion.dLongitud);
+    longitud.limites = ui::Intervalo{-180.0, 180.0};
+    longitud.iDecimales = 4;
+    auto& altitud = campo("dAltitud", L"Altitud (m):", &m_situacion.dAltitud);
+    altitud.limites = ui::Intervalo{-500.0, 10000.0};
+    altitud.iDecimales = 0;
+    m_zona = &Anadir<ui::TextoFijo>("csZona", L"");
+    m_zona->colocacion.grupo = kGrupoLugar;
 }
 
 void PanelLugar::AnadirRadiaciones()
@@ -84,12 +102,62 @@ void PanelLugar::AnadirRadiaciones()
         edicion.alCambiar = [this] { AlCambiar(); };
         m_figuras.push_back(&edicion);
     }
+    auto& pvgis = Anadir<ui::Boton>("PVGIS", L"Radiación de P&VGIS…");
+    pvgis.colocacion.grupo = kGrupoRadiacion;
+    pvgis.csIndicacion = L"Pide al servicio PVGIS la radiación de la latitud y la longitud";
+    pvgis.alPulsar = [this] { PedirRadiacion(); };
+}
+
+// The places that answer to what is searched, the project's own among them.
+void PanelLugar::Ofrecer()
+{
+    const CString csBuscado = PlegarTexto(m_csBuscar);
+    m_ofrecidas.clear();
+    for (const Localidad& l : m_localidades) {
+        const bool bEsta = LugarDe(l) == m_lugar;
+        if (bEsta ||
+            (m_ofrecidas.size() < kOfrecidas && (csBuscado.empty() ? l.bMayor : Responde(l, csBuscado))))
+            m_ofrecidas.push_back(&l);
+    }
+    m_seleccion->acsEntradas = {L"Datos propios"};
+    for (const Localidad* l : m_ofrecidas)
+        m_seleccion->acsEntradas.push_back(NombreConProvincia(*l));
+    const auto igual = [this](const Localidad* l) { return LugarDe(*l) == m_lugar; };
+    const auto hallada = std::ranges::find_if(m_ofrecidas, igual);
+    // A place that the file no longer has keeps its figures as one's own.
+    m_iLugar = m_lugar.bPropio != 0 || hallada == m_ofrecidas.end()
+                   ? 0
+                   : static_cast<int>(hallada - m_ofrecidas.begin()) + 1;
+    m_seleccion->iSeleccion = m_iLugar;
+}
+
+// The climate record stays the person's choice.
+void PanelLugar::Situar(const Localidad& localidad)
+{
+    CString csRegistro = std::move(m_situacion.csRegistro);
+    m_situacion = SituacionDe(localidad);
+    m_situacion.csRegistro = std::move(csRegistro);
+}
+
+void PanelLugar::PedirRadiacion()
+{
+    if (!RecogerAvisando())
+        return;
+    const auto radiacion = estudio::PedirRadiacion(m_lugar.dLatitud, m_situacion.dLongitud);
+    if (!radiacion)
+        return;
+    std::ranges::copy(*radiacion, m_lugar.adRadHorizontal);
+    m_lugar.bPropio = 1;
+    Mostrar();
+    AlCambiar();
 }
 
 void PanelLugar::AlElegir()
 {
-    if (!m_localidades.empty() && m_seleccion->iSeleccion > 0) {
-        m_lugar = LugarDe(m_localidades[static_cast<std::size_t>(m_seleccion->iSeleccion) - 1]);
+    if (m_seleccion->iSeleccion > 0) {
+        const Localidad& elegida = *m_ofrecidas.at(static_cast<std::size_t>(m_seleccion->iSeleccion) - 1);
+        m_lugar = LugarDe(elegida);
+        Situar(elegida);
     } else {
         // The figures of the place that stood there, to be changed.
         m_lugar.bPropio = 1;
@@ -108,27 +176,38 @@ void PanelLugar::AlCambiar()
         m_lugar.bPropio = 1;
     m_sesion.Proyecto().csNombre = m_csProyecto;
     m_sesion.Proyecto().lugar = m_lugar;
+    m_sesion.Proyecto().situacion = m_delProyecto = m_situacion;
     m_sesion.Cambiado();
 }
 
 void PanelLugar::Actualizar()
 {
     const CProyectoEstudio& proyecto = m_sesion.Proyecto();
-    if (proyecto.csNombre == m_csProyecto && proyecto.lugar == m_lugar)
+    m_situacion.csRegistro = proyecto.situacion.csRegistro;
+    m_delProyecto.csRegistro = proyecto.situacion.csRegistro;
+    if (proyecto.csNombre == m_csProyecto && proyecto.lugar == m_lugar && proyecto.situacion == m_delProyecto)
         return;
     m_csProyecto = proyecto.csNombre;
     m_lugar = proyecto.lugar;
+    m_situacion = m_delProyecto = proyecto.situacion;
     Mostrar();
 }
 
 void PanelLugar::Mostrar()
 {
-    const auto igual = [this](const Localidad& l) { return LugarDe(l) == m_lugar; };
-    const auto hallada = std::ranges::find_if(m_localidades, igual);
-    // A place that the file no longer has keeps its figures as one's own.
-    m_iLugar = m_lugar.bPropio != 0 || hallada == m_localidades.end()
-                   ? 0
-                   : static_cast<int>(hallada - m_localidades.begin()) + 1;
+    Ofrecer();
+    m_zona->csTexto.clear();
+    if (m_iLugar > 0) {
+        // Projects of earlier programs know no more than the latitude.
+        const Localidad& esta = *m_ofrecidas[static_cast<std::size_t>(m_iLugar) - 1];
+        Situar(esta);
+        Situacion& delProyecto = m_sesion.Proyecto().situacion;
+        if (delProyecto.dLongitud == 0.0 && delProyecto.dAltitud == 0.0)
+            delProyecto = m_delProyecto = m_situacion;
+        if (!esta.csZonaHE5.empty())
+            m_zona->csTexto = L"Zonas HE1 " + esta.csZonaHE1 + L", HE5 " + esta.csZonaHE5 +
+                              L" (por su clima de referencia; la legal puede ser otra)";
+    }
     for (ui::Edicion* edicion : m_figuras) {
         edicion->bSoloLectura = m_iLugar != 0;
         // A place of the list isn't rounded to what is shown of it.

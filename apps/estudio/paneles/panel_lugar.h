@@ -17,6 +17,9 @@ public:
 private:
     void AnadirLugar();
     void AnadirRadiaciones();
+    void Ofrecer();
+    void Situar(const Localidad& localidad);
+    void PedirRadiacion();
     void AlElegir();
     void AlCambiar();
     void Mostrar();
@@ -25,11 +28,17 @@ private:
     std::vector<Localidad> m_localidades;
     CString m_csProyecto;
     Lugar m_lugar;
-    int m_iLugar = 0;  // 0: own figures; then the places in order
+    Situacion m_situacion;
+    Situacion m_delProyecto;  // as the project said it last
+    CString m_csBuscar;
+    std::vector<const Localidad*> m_ofrecidas;  // entries of the choice behind one's own figures
+    int m_iLugar = 0;                           // 0: own figures; then the places that are offered
 
+    ui::Edicion* m_buscar = nullptr;
     ui::Seleccion* m_seleccion = nullptr;
     ui::Seleccion* m_hemisferio = nullptr;
     std::vector<ui::Edicion*> m_figuras;  // what can be written of a place of one's own
+    ui::TextoFijo* m_zona = nullptr;
     ui::TextoFijo* m_nota = nullptr;
 };
 

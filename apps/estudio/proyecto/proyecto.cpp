@@ -105,6 +105,8 @@ void Comprobar(const CProyectoEstudio& proyecto)
 {
     const Lugar& lugar = proyecto.lugar;
     Exigir(std::abs(lugar.dLatitud) <= 90.0, "la latitud no está entre -90 y 90");
+    Exigir(std::abs(proyecto.situacion.dLongitud) <= 180.0 && std::isfinite(proyecto.situacion.dAltitud),
+           "la longitud o la altitud no es posible");
     Exigir(std::ranges::all_of(lugar.adRadHorizontal, [](double d) { return std::isfinite(d) && d >= 0.0; }),
            "una radiación no es posible");
     const CSFVAsistenteAislada& aislada = proyecto.aislada;
@@ -187,6 +189,14 @@ void IntercambiarPrecios(CProyectoEstudio& proyecto, CArchive& ar)
     dato.Dobles({&proyecto.economia.adPrecioVertido[0][0][0], kHorasBloque});
 }
 
+void IntercambiarSituacion(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    dato(proyecto.situacion.dLongitud);
+    dato(proyecto.situacion.dAltitud);
+    dato(proyecto.situacion.csRegistro);
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -203,6 +213,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"venta", 1, &IntercambiarVenta},
     {L"autoconsumo", 1, &IntercambiarAutoconsumo},
     {L"precios", 1, &IntercambiarPrecios},
+    {L"situacion", 1, &IntercambiarSituacion},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 
@@ -293,6 +304,11 @@ Lugar LugarDe(const Localidad& localidad)
     lugar.iHemisferio = localidad.dLatitud < 0.0 ? 0 : 1;
     std::ranges::copy(localidad.adRadHorizontal, lugar.adRadHorizontal);
     return lugar;
+}
+
+Situacion SituacionDe(const Localidad& localidad)
+{
+    return {localidad.dLongitud, localidad.dAltitud, {}};
 }
 
 const CRuntimeClass& CProyectoEstudio::GetThisClass()

@@ -25,6 +25,15 @@ struct Lugar {
 
 Lugar LugarDe(const Localidad& localidad);
 
+/// What else is known of the place.
+struct Situacion {
+    double dLongitud = 0.0;  ///< degrees, east positive
+    double dAltitud = 0.0;   ///< m
+    CString csRegistro;      ///< file of the climate record; empty without one
+
+    bool operator==(const Situacion&) const = default;
+};
+
 /// The consumption element, as its dialog takes it.
 struct Consumo {
     CString csReferencia = L"Consumo";
@@ -60,10 +69,13 @@ struct SeccionAjena {
     std::vector<std::byte> bytes;
 };
 
+Situacion SituacionDe(const Localidad& localidad);
+
 class CProyectoEstudio final : public CObject {
 public:
     CString csNombre = L"Proyecto";
     Lugar lugar;
+    Situacion situacion;
     CSFVAsistenteAislada aislada;
     CSFVAsistenteRed red;
     Consumo consumo;

@@ -37,7 +37,7 @@ void MostrarFallo(const std::exception& fallo)
 
 }  // namespace
 
-Sesion::Sesion(Lugar lugar) : m_lugar(std::move(lugar))
+Sesion::Sesion(Lugar lugar, Situacion situacion) : m_lugar(std::move(lugar)), m_situacion(std::move(situacion))
 {
     Poner(Vacio(), {});
 }
@@ -46,6 +46,7 @@ std::unique_ptr<CProyectoEstudio> Sesion::Vacio() const
 {
     auto proyecto = std::make_unique<CProyectoEstudio>();
     proyecto->lugar = m_lugar;
+    proyecto->situacion = m_situacion;
     return proyecto;
 }
 
@@ -86,8 +87,11 @@ void Sesion::Nuevo()
 
 void Sesion::Nuevo(std::unique_ptr<CProyectoEstudio> proyecto)
 {
-    if (PuedeCerrarse())
-        Poner(std::move(proyecto), {});
+    if (!PuedeCerrarse())
+        return;
+    if (proyecto->lugar == m_lugar)
+        proyecto->situacion = m_situacion;
+    Poner(std::move(proyecto), {});
 }
 
 void Sesion::Abrir()

@@ -18,9 +18,10 @@ inline constexpr std::size_t kRecientes = 8;
 class Sesion {
 public:
     /// New projects stand at `lugar`.
-    explicit Sesion(Lugar lugar = {});
+    explicit Sesion(Lugar lugar = {}, Situacion situacion = {});
 
     const Lugar& LugarInicial() const { return m_lugar; }
+    const Situacion& SituacionInicial() const { return m_situacion; }
 
     /// The project in its present form. After changing it, call Cambiado.
     CProyectoEstudio& Proyecto() { return *m_proyecto; }
@@ -63,6 +64,7 @@ private:
     std::unique_ptr<CProyectoEstudio> Vacio() const;
 
     Lugar m_lugar;
+    Situacion m_situacion;
     std::unique_ptr<CProyectoEstudio> m_proyecto;
     std::vector<std::byte> m_guardado;  // as it was when new, opened or saved
     Huella m_huella;                    // of the file as it was opened or saved

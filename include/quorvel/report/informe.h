@@ -11,6 +11,7 @@ namespace efv::report {
 struct Portada {
     std::string titulo;  ///< of the project, as its author calls it; may be empty
     LugarDiseno lugar;
+    PlanosDiseno planos = {};
 };
 
 /// The report of an accepted design: its document, warnings included.

@@ -154,8 +154,8 @@ TEST(Proyecto, ElDeLaPrimeraVersionSeAbre)
 std::vector<std::byte> ConSeccion(const wchar_t* csNombre, int iSchema, const std::vector<std::byte>& dentro)
 {
     auto bytes = BytesDe(*Lleno());
-    EXPECT_EQ(bytes.at(12), std::byte{8});
-    bytes[12] = std::byte{9};
+    EXPECT_EQ(bytes.at(12), std::byte{9});
+    bytes[12] = std::byte{10};
     CArchive ar(bytes);
     ar << std::wstring_view(csNombre);
     ar << iSchema;

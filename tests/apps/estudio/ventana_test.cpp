@@ -72,7 +72,7 @@ TEST_F(Ventanas, ElLugarEsDeLaListaODeCifrasPropias)
     EXPECT_TRUE(latitud.isReadOnly());
 
     PanelLugar panel(sesion, Localidades());
-    auto& lista = dynamic_cast<ui::Seleccion&>(*panel.Controles()[1]);
+    auto& lista = dynamic_cast<ui::Seleccion&>(*panel.Controles()[2]);
     const auto entrada = [&](const wchar_t* csNombre) {
         return static_cast<int>(
             std::ranges::find_if(lista.acsEntradas,
