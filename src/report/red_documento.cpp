@@ -112,8 +112,10 @@ std::vector<Dato> Resumen(const EstudioRed& estudio)
         {"Paneles",
          fmt::format("{} ({} × {} por inversor)", v.iTotalPaneles, v.iPanelesSerie, v.iPanelesParalelo)},
         {"Inclinación", Con(v.dInclinacion, 1, "°")}};
-    if (estudio.orientada)
-        resumen.emplace_back("Pérdida por la orientación", Con(estudio.orientada->Perdida() * 100.0, 1, "%"));
+    if (estudio.orientada) {
+        Dato perdida{"Pérdida por la orientación", Con(estudio.orientada->Perdida() * 100.0, 1, "%")};
+        resumen.push_back(std::move(perdida));
+    }
     if (estudio.ano) {
         Dato energia{"Energía del año", Con(estudio.ano->Energia(), 0, "kWh")};
         resumen.push_back(std::move(energia));
