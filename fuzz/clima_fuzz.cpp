@@ -3,10 +3,11 @@
 #include <cstdint>
 #include <string_view>
 
+#include <quorvel/solar/pvgis.h>
+
 #include "exigir.h"
 #include "platform/clima/horizonte.h"
 #include "platform/clima/registro_climatico.h"
-#include "solar/respuesta_pvgis.h"
 
 namespace {
 
