@@ -76,18 +76,24 @@ void Recortar()
 #endif
 }
 
-// A request that runs out of memory even for its error's text is answered all the same; there is room, since
-// what waits to be written is less than half of what is reserved.
-void Responder(Servidor& servidor, std::string_view linea, std::string& respuestas)
+constexpr std::string_view kSinMemoria =
+    R"({"jsonrpc":"2.0","id":null,"error":{"code":-32000,"message":"memoria insuficiente"}})"
+    "\n";
+
+// A request that runs out of memory even for its error's text is answered all the same: what waits is written
+// first, for which nothing is asked for. False when it can't be written.
+bool Responder(Servidor& servidor, std::string_view linea, std::string& respuestas)
 {
     const std::size_t nAntes = respuestas.size();
     try {
         servidor.Responder(linea, respuestas);
+        return true;
     } catch (const std::bad_alloc&) {
         respuestas.resize(nAntes);
-        respuestas += R"({"jsonrpc":"2.0","id":null,"error":{"code":-32000,"message":"memoria insuficiente"}})"
-                      "\n";
     }
+    const bool bEscrito = EscribirTodo(STDOUT_FILENO, respuestas) && EscribirTodo(STDOUT_FILENO, kSinMemoria);
+    respuestas.clear();
+    return bEscrito;
 }
 
 std::string Depurado(std::string_view texto)
@@ -99,6 +105,22 @@ std::string Depurado(std::string_view texto)
     return limpio;
 }
 
+bool Escribir(const std::string& respuestas)
+{
+    return EscribirTodo(STDOUT_FILENO, ::isatty(STDOUT_FILENO) == 1 ? Depurado(respuestas) : respuestas);
+}
+
+// Room for what waits; without it each answer takes what it needs.
+void Reservar(std::string& respuestas)
+{
+    try {
+        respuestas.shrink_to_fit();
+        respuestas.reserve(2 * kVolcado);
+    } catch (const std::bad_alloc&) {
+        return;
+    }
+}
+
 }  // namespace
 
 int AtenderEntrada()
@@ -106,33 +128,31 @@ int AtenderEntrada()
     LimitarMemoria();
     DevolverMemoria();
     IgnorarTuberiaRota();
-    const bool bTerminal = ::isatty(STDOUT_FILENO) == 1;
     Servidor servidor;
     LectorLineas lector(STDIN_FILENO, kLineaMaxima);
     std::string respuestas;
-    respuestas.reserve(2 * kVolcado);
+    Reservar(respuestas);
     std::string_view linea;
     for (;;) {
         const LectorLineas::Estado estado = lector.Siguiente(linea);
         if (estado == LectorLineas::Estado::fin)
             return 0;
+        bool bEscrito = true;
         if (estado == LectorLineas::Estado::linea)
-            Responder(servidor, linea, respuestas);
+            bEscrito = Responder(servidor, linea, respuestas);
         else
             Servidor::RechazarLinea(respuestas);
-        if (lector.HayLinea() && respuestas.size() < kVolcado)
+        if (bEscrito && lector.HayLinea() && respuestas.size() < kVolcado)
             continue;
-        if (!EscribirTodo(STDOUT_FILENO, bTerminal ? Depurado(respuestas) : respuestas)) {
+        if (!bEscrito || !Escribir(respuestas)) {
             // Nobody reads any more: there is nobody to tell either.
             if (errno == EPIPE)
                 return 0;
             throw std::runtime_error("no se puede escribir la salida");
         }
         respuestas.clear();
-        if (respuestas.capacity() > 2 * kVolcado) {
-            respuestas.shrink_to_fit();
-            respuestas.reserve(2 * kVolcado);
-        }
+        if (respuestas.capacity() > 2 * kVolcado)
+            Reservar(respuestas);
         if (linea.size() > kVolcado)
             Recortar();
     }

@@ -119,7 +119,7 @@ ui::Paso LeerEspera(const Json& /*j*/)
 ui::Paso LeerLectura(const Json& j)
 {
     paso::Leer leer;
-    if (j == "*")
+    if (Dice(j, "*"))
         return leer;
     if (!j.is_array() || j.empty())
         Esperaba("\"*\" o una lista de controles", j);

@@ -10,6 +10,14 @@ namespace efv::rpc {
 
 using Json = nlohmann::json;
 
+/// Whether `json` is that text. A plain comparison would make a value of the text where nothing may be thrown,
+/// and end the process without memory.
+inline bool Dice(const Json& json, std::string_view texto)
+{
+    const auto* dicho = json.get_ptr<const std::string*>();
+    return dicho != nullptr && *dicho == texto;
+}
+
 void EscribirEntero(std::string& salida, int n);
 
 /// The shortest text that reads back to the same double, always with a point or an exponent, so that a

@@ -6,6 +6,7 @@
 
 #include <fmt/format.h>
 
+#include "rpc/documento.h"
 #include "rpc/errores.h"
 #include "rpc/guiones.h"
 #include "rpc/metodos_propios.h"
@@ -79,10 +80,10 @@ void ConErrores(std::string& salida, const std::string& id, Atender&& atender)
     }
 }
 
-Json Interpretar(std::string_view linea)
+void Interpretar(Documento& documento, std::string_view linea)
 {
     try {
-        return Json::parse(linea.begin(), linea.end());
+        documento.Interpretar(linea);
     } catch (const Json::parse_error& e) {
         throw ErrorRpc(Codigo::noEsJson,
                        linea.empty() ? "línea vacía" : fmt::format("no es JSON: fallo en el byte {}", e.byte));
@@ -118,7 +119,7 @@ std::string LeerId(const Json& id)
 
 std::string_view LeerMetodo(const Json& documento)
 {
-    if (Miembro(documento, "jsonrpc") != "2.0")
+    if (!Dice(Miembro(documento, "jsonrpc"), "2.0"))
         throw ErrorRpc(Codigo::noEsPeticion, R"(falta "jsonrpc":"2.0")");
     const Json& metodo = Miembro(documento, "method");
     if (!metodo.is_string())
@@ -158,7 +159,7 @@ const Funcion& DialogoPedido(const Json& params)
 Respuesta LeerRespuesta(const Json& j)
 {
     for (const auto& [respuesta, nombre] : kRespuestas)
-        if (j == nombre)
+        if (Dice(j, nombre))
             return respuesta;
     throw ErrorValor("answers: se esperaban los textos ok, yes, no o cancel");
 }
@@ -205,13 +206,13 @@ void Servidor::AtenderLinea(std::string_view linea, std::string& salida)
     const Peso peso = Sopesar(linea);
     if (peso.veredicto != Veredicto::admisible)
         Rehusar(peso.veredicto, linea);
-    Json documento;
+    Documento documento;
     const ReservaDeMemoria reserva(peso, linea.size());
-    documento = Interpretar(linea);
-    if (documento.is_array())
-        AtenderLote(documento, salida);
+    Interpretar(documento, linea);
+    if (documento.Raiz().is_array())
+        AtenderLote(documento.Raiz(), salida);
     else
-        Atender(documento, salida);
+        Atender(documento.Raiz(), salida);
 }
 
 // The answers in the order of the requests; none at all when there is nothing but notifications.

@@ -120,11 +120,11 @@ void LeerValor(const Json& j, double& d)
         d = j.get<double>();
     else if (j.is_null())
         d = 0.0;
-    else if (j == "NaN")
+    else if (Dice(j, "NaN"))
         d = std::numeric_limits<double>::quiet_NaN();
-    else if (j == "Infinity")
+    else if (Dice(j, "Infinity"))
         d = infinito;
-    else if (j == "-Infinity")
+    else if (Dice(j, "-Infinity"))
         d = -infinito;
     else
         Esperaba("un número, \"NaN\", \"Infinity\" o \"-Infinity\"", j);
