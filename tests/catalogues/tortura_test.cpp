@@ -221,6 +221,32 @@ TEST_F(TorturaVisor, CadaLlamadaAlDiscoQueFalla)
     EXPECT_NE(m_disco.Contenido(kRuta).find("Cambiada"), std::string::npos);
 }
 
+TEST_F(TorturaVisor, SinMemoriaEnCualquierSitio)
+{
+    int iViejos = 0;
+    bool bFaltado = true;
+    for (std::size_t n = 0; bFaltado; ++n) {
+        m_disco.Poner(kRuta, kAntes);
+        std::vector<CString> mensajes;
+        bool bDicho = false;
+        try {
+            const MemoriaEscasa escasa(n);
+            mensajes = Guardar(m_disco);
+        } catch (const std::bad_alloc&) {
+            bDicho = true;
+        }
+        bFaltado = MemoriaEscasa::HaFaltado();
+        const std::string contenido = m_disco.Contenido(kRuta);
+        const bool bNuevo = contenido.find("Cambiada") != std::string::npos;
+        ASSERT_TRUE(bNuevo || contenido == kAntes) << n << ": " << contenido;
+        ASSERT_TRUE(bNuevo || bDicho || bFaltado) << n;
+        ASSERT_TRUE(!bNuevo || xml::DocumentoEditable::Leer(contenido).has_value()) << n;
+        ASSERT_EQ(m_disco.Cuantos(), 1U) << n;
+        iViejos += bNuevo ? 0 : 1;
+    }
+    EXPECT_GT(iViejos, 10);
+}
+
 TEST_F(TorturaVisor, ElDiscoLlenoSeDiceYElFicheroQuedaComoEstaba)
 {
     m_disco.nCapacidad = kAntes.size() + 10;

@@ -9,6 +9,8 @@
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 
 #include <quorvel/framework/CException.h>
 #include <quorvel/mundo.h>
@@ -224,6 +226,33 @@ TEST_F(FicherosDelSistema, LosPermisosSonLosDeAntesOLosDeLaMascara)
     EXPECT_EQ(Permisos(m_ruta), 0604U);
     EXPECT_EQ(Contenido(m_ruta), kNuevo);
     EXPECT_EQ(Cuantos(), 1U);
+}
+
+// Only what this system lets anybody set: owners need the superuser, attributes a disk that has them.
+TEST_F(FicherosDelSistema, ElDuenoYLosAtributosQuedan)
+{
+    m_carpeta.Crear("f", kViejo);
+    const std::string valor("un\0valor", 8);
+    const bool bConAtributos = ::setxattr(m_ruta.c_str(), "user.prueba", valor.data(), valor.size(), 0) == 0;
+    const bool bConDueno = ::chown(m_ruta.c_str(), 12345, 23456) == 0;
+    ASSERT_EQ(::chmod(m_ruta.c_str(), 0640), 0);
+    if (!bConAtributos && !bConDueno)
+        GTEST_SKIP() << "neither owner nor attributes can be set here";
+    Reemplazar(m_ruta);
+    EXPECT_EQ(Contenido(m_ruta), kNuevo);
+    EXPECT_EQ(Permisos(m_ruta), 0640U);
+    if (bConAtributos) {
+        std::string leido(100, '-');
+        const ssize_t n = ::getxattr(m_ruta.c_str(), "user.prueba", leido.data(), leido.size());
+        ASSERT_EQ(n, 8);
+        EXPECT_EQ(leido.substr(0, 8), valor);
+    }
+    if (bConDueno) {
+        struct stat estado = {};
+        ASSERT_EQ(::stat(m_ruta.c_str(), &estado), 0);
+        EXPECT_EQ(estado.st_uid, 12345U);
+        EXPECT_EQ(estado.st_gid, 23456U);
+    }
 }
 
 TEST_F(FicherosDelSistema, UnEnlaceLoSigueSiendoAunqueNoLleveANada)

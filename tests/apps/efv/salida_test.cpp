@@ -9,6 +9,7 @@
 #include "comun/consola.h"
 #include "comun/ficheros_memoria.h"
 #include "comun/ficheros_nuevos.h"
+#include "comun/memoria_escasa.h"
 #include "comun/mundo_de_prueba.h"
 #include "comun/salida_limpia.h"
 
@@ -127,6 +128,29 @@ TEST(FicherosNuevos, CadaLlamadaAlDiscoQueFalla)
         EXPECT_TRUE(uno == "uno nuevo" || (!bHecho && uno == "uno")) << n << ": " << uno;
         EXPECT_TRUE(dos == "dos nuevo" || (!bHecho && dos == "-")) << n << ": " << dos;
         EXPECT_TRUE(bHecho || bFallado);
+    }
+}
+
+TEST(FicherosNuevos, SinMemoriaEnCualquierSitio)
+{
+    bool bFaltado = true;
+    for (std::size_t n = 0; bFaltado; ++n) {
+        FicherosEnMemoria disco;
+        disco.Poner("/d/a.html", "viejo");
+        const ConFicheros con(disco);
+        const std::vector<FicheroNuevo> ficheros = {{"a.html", "nuevo"}};
+        bool bHecho = false;
+        try {
+            const MemoriaEscasa escasa(n);
+            bHecho = EscribirFicheros("/d", ficheros).size() == 1;
+        } catch (const std::bad_alloc&) {
+        } catch (const ErrorEjecucion&) {
+        }
+        bFaltado = MemoriaEscasa::HaFaltado();
+        const std::string contenido = disco.Contenido("/d/a.html");
+        ASSERT_TRUE(contenido == "nuevo" || (!bHecho && contenido == "viejo")) << n << ": " << contenido;
+        ASSERT_TRUE(bHecho || bFaltado) << n;
+        ASSERT_EQ(disco.Cuantos(), 1U) << n;
     }
 }
 

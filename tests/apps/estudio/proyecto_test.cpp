@@ -7,6 +7,7 @@
 #include "apoyo.h"
 #include "comun/ficheros.h"
 #include "comun/ficheros_memoria.h"
+#include "comun/memoria_escasa.h"
 #include "comun/mundo_de_prueba.h"
 
 namespace {
@@ -294,6 +295,30 @@ TEST(Proyecto, CadaLlamadaAlDiscoQueFallaDejaElViejoOElNuevo)
         const std::string contenido = disco.Contenido("/d/p.efvp");
         EXPECT_TRUE(contenido == nuevo || (!bHecho && contenido == "viejo")) << n;
         EXPECT_TRUE(bHecho || bFallado);
+    }
+}
+
+TEST(Proyecto, SinMemoriaEnCualquierSitioDejaElViejoOElNuevo)
+{
+    const auto bytes = BytesDe(*Lleno());
+    const std::string nuevo(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+    bool bFaltado = true;
+    for (std::size_t n = 0; bFaltado; ++n) {
+        FicherosEnMemoria disco;
+        disco.Poner("/d/p.efvp", "viejo");
+        const ConFicheros con(disco);
+        bool bHecho = false;
+        try {
+            const MemoriaEscasa escasa(n);
+            std::optional<Huella> conocida = efv::HuellaDe("viejo");
+            bHecho = ActualizarProyecto(bytes, L"/d/p.efvp", conocida);
+        } catch (const std::bad_alloc&) {
+        }
+        bFaltado = MemoriaEscasa::HaFaltado();
+        const std::string contenido = disco.Contenido("/d/p.efvp");
+        ASSERT_TRUE(contenido == nuevo || (!bHecho && contenido == "viejo")) << n;
+        ASSERT_TRUE(bHecho || bFaltado) << n;
+        ASSERT_EQ(disco.Cuantos(), 1U) << n;
     }
 }
 
