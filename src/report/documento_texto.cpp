@@ -37,7 +37,7 @@ std::string Parrafo(const std::string& marca, const std::string& texto)
 
 std::string DatosTexto(const std::vector<Dato>& datos)
 {
-    using enum TablaTexto::Lado;
+    using enum ColumnasTexto::Lado;
     TablaTexto tabla({izquierda, izquierda, izquierda, izquierda});
     for (const Dato& dato : datos)
         tabla.Fila({"  " + dato.rotulo, EnUnaLinea(dato.valor),

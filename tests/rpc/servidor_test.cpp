@@ -239,7 +239,11 @@ TEST(Discover, CadaFuncionDeLaListaRespondeConSusArgumentosYSoloConEllos)
         const std::string nombre = funcion.at("name");
         EXPECT_TRUE(nombres.insert(nombre).second) << nombre;
         const std::size_t n = funcion.at("params").size();
-        const Json buena = anfitrion.Pedir(nombre, Json(std::vector<Json>(n)));
+        std::vector<Json> argumentos(n);
+        for (std::size_t i = 0; i < n; ++i)
+            if (!funcion["params"][i].value("nullable", true))
+                argumentos[i] = std::vector<double>(8928);  // the block of a call without records
+        const Json buena = anfitrion.Pedir(nombre, Json(argumentos));
         EXPECT_TRUE(buena.contains("result") || buena["error"]["code"] == -32000) << buena;
         EXPECT_EQ(anfitrion.Error(nombre, Json(std::vector<Json>(n + 1))).first, -32602) << nombre;
     }

@@ -79,7 +79,7 @@ Valores ValoresDe(const TramoEscrito& e)
 Json ComoJson(const Valores& valores)
 {
     Json json = Json::object();
-    for (const auto& [nombre, valor] : valores)
+    for (const auto& [nombre, valor] : valores) {
         json[nombre] = std::visit(
             [](const auto& v) {
                 if constexpr (std::is_same_v<std::decay_t<decltype(v)>, std::monostate>)
@@ -88,6 +88,7 @@ Json ComoJson(const Valores& valores)
                     return Json(v);
             },
             valor);
+    }
     return json;
 }
 
@@ -159,7 +160,7 @@ std::string TramoTexto(const TramoEscrito& e)
     const auto& t = e.tramo;
     const auto& c = e.calculo;
     const bool bLargo = e.pedido.dLongitud.has_value();
-    using enum TablaTexto::Lado;
+    using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({izquierda, izquierda});
     const auto fila = [&](const char* rotulo, std::string valor) { tabla.Fila({rotulo, std::move(valor)}); };
     fila("Instalación", DeTabla(t));
@@ -193,7 +194,7 @@ std::string TramoTexto(const TramoEscrito& e)
 
 std::string ListaTexto(const std::vector<TramoEscrito>& tramos)
 {
-    using enum TablaTexto::Lado;
+    using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({derecha, izquierda, derecha, derecha, derecha, derecha, derecha, derecha, izquierda});
     tabla.Fila({"Línea", "Referencia", "I (A)", "Por I", "Por caída", "Sección", "Caída", "Reserva (A)", ""});
     tabla.Raya();
@@ -201,15 +202,16 @@ std::string ListaTexto(const std::vector<TramoEscrito>& tramos)
         const std::string linea = std::to_string(e.iLinea), referencia = EnUnaLinea(e.pedido.referencia);
         const auto& c = e.calculo;
         const int n = e.tramo.iConductoresFase;
-        if (!e.error.empty())
+        if (!e.error.empty()) {
             tabla.Fila({linea, referencia, "—", "—", "—", "—", "—", "—", "ERROR: " + EnUnaLinea(e.error)});
-        else
+        } else {
             tabla.Fila({linea, referencia, Decimal(e.tramo.dCorriente, 2),
                         report::TextoSeccion(c.dPorCorriente, n),
                         e.pedido.dLongitud ? report::TextoSeccion(c.dPorCaida, n) : "—",
                         report::TextoSeccion(c.dSeccion, n), Caida(e),
                         c.dAdmisible > 0.0 ? Decimal(c.dReserva, 2) : "—",
                         c.Cumple() ? "" : "NO CUMPLE: " + Motivo(e)});
+        }
     }
     return tabla.Texto();
 }
@@ -276,7 +278,7 @@ std::string EscribirTabla(const electrical::TramoCable& tramo, FormatoCable form
     const electrical::TramoCalculado calculo = electrical::Dimensionar(tramo);
     Json json = Json::array();
     std::string csv;
-    using enum TablaTexto::Lado;
+    using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({derecha, derecha, derecha});
     tabla.Fila({"Sección (mm²)", "Tabla (A)", "Corregida (A)"});
     tabla.Raya();
@@ -292,7 +294,7 @@ std::string EscribirTabla(const electrical::TramoCable& tramo, FormatoCable form
     }
     if (formato == FormatoCable::csv)
         return csv;
-    if (formato == FormatoCable::json)
+    if (formato == FormatoCable::json) {
         return Texto({{"metodo", Nombre(phGetCsTipoInstalacion, tramo.iMetodo)},
                       {"material", Nombre(phGetCsTipoMatCable, tramo.iMaterial)},
                       {"aislante", Nombre(phGetCsTipoAislante, tramo.iAislante)},
@@ -300,6 +302,7 @@ std::string EscribirTabla(const electrical::TramoCable& tramo, FormatoCable form
                       {"temperatura_C", calculo.dTemperatura},
                       {"factor_temperatura", calculo.dFactor},
                       {"corrientes", std::move(json)}});
+    }
     return fmt::format("{}\n{} (factor {}); la tabla es para 30 ºC de aire y 20 ºC de suelo.\n\n{}",
                        DeTabla(tramo), Grados(calculo.dTemperatura), Decimal(calculo.dFactor, 3),
                        tabla.Texto());

@@ -67,11 +67,12 @@ void PonerTrifasico(P& p, const C& /*campo*/, const std::string& texto)
 void PonerSeccion(P& p, const C& /*campo*/, const std::string& texto)
 {
     const auto d = LeerNumero(texto);
-    if (!d || *d <= 0.0 || std::abs(phGetSeccProx(*d) - *d) > 1e-6)
+    if (!d || *d <= 0.0 || std::abs(phGetSeccProx(*d) - *d) > 1e-6) {
         throw ErrorUso(
             fmt::format("«{}» no es una sección normal (1,5 2,5 4 6 10 16 25 35 50 70 95 120 150 "
                         "185 240 300)",
                         texto));
+    }
     p.tramo.dSeccion = phGetSeccProx(*d);
 }
 

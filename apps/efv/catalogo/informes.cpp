@@ -74,11 +74,12 @@ bool EscribirValidacionJson(std::ostream& salida, const TipoCatalogo& tipo, cons
     bool bHallazgos = false;
     salida << fmt::format("{{\n  \"modelos\": {},\n  \"hallazgos\": ", modelos.size());
     EscritorListaJson lista(salida, 2);
-    for (const CModelo* modelo : modelos)
+    for (const CModelo* modelo : modelos) {
         for (const HallazgoModelo& hallazgo : ValidarModelos(tipo, {&modelo, 1})) {
             bHallazgos = true;
             lista.Anadir(HallazgoJson(hallazgo));
         }
+    }
     lista.Terminar();
     salida << "\n}\n";
     return bHallazgos;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <filesystem>
 #include <functional>
 #include <numeric>
@@ -61,7 +62,7 @@ std::array<double, 13> SumasDe(const AnoHoras& ad)
     std::array<double, 13> sumas{};
     auto hora = ad.begin();
     for (std::size_t m = 0; m < kMeses; ++m) {
-        const auto fin = hora + 24 * solar::kDiasMesReferencia[m];
+        const auto fin = hora + std::ptrdiff_t{24} * solar::kDiasMesReferencia[m];
         sumas[m] = std::accumulate(hora, fin, 0.0) / 1000.0;
         sumas[12] += sumas[m];
         hora = fin;
@@ -146,11 +147,12 @@ public:
 
     int Ejecutar(std::ostream& salida) override
     {
-        for (const auto& [orden, trabajo] : m_trabajos)
+        for (const auto& [orden, trabajo] : m_trabajos) {
             if (orden->parsed()) {
                 salida << (this->*trabajo)();
                 return 0;
             }
+        }
         throw ErrorUso("falta la orden: descargar, mensual, ver, plano o cielo (ayuda: efv clima --help)");
     }
 
@@ -266,13 +268,14 @@ private:
         CargarRegistro(m_fichero);
         const auto sumas = SumasDe(AnoDelRegistro(0.0, 0.0));
         const auto datos = clima::RegistroCargado();
-        if (m_bJson)
+        if (m_bJson) {
             return Json{{"latitud", datos->dLatitud},
                         {"longitud", datos->dLongitud},
                         {"horizontal_kWh_m2", std::span(sumas).first(kMeses)},
                         {"ano_kWh_m2", sumas[12]}}
                        .dump(2) +
                    '\n';
+        }
         return fmt::format("Registro climático {}\nLatitud {}°, longitud {}°\n\n{}", EnUnaLinea(m_fichero),
                            Decimal(datos->dLatitud, 4), Decimal(datos->dLongitud, 4),
                            TablaDeMeses({{"Horizontal kWh/m²", sumas}})) +

@@ -59,7 +59,7 @@ void AnadirFilas(TablaTexto& tabla, const CBasePanelFotoModelo& modelo, std::spa
 
 std::string ValoresTexto(const CBasePanelFotoModelo& modelo)
 {
-    using enum TablaTexto::Lado;
+    using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({derecha, derecha, derecha, derecha, derecha, derecha, derecha});
     tabla.Fila({"G (W/m²)", "T (ºC)", "Isc (A)", "Voc (V)", "Imp (A)", "Vmp (V)", "Pmp (W)"});
     tabla.Raya();

@@ -84,12 +84,13 @@ JsonEscrito CableadoJson(const report::Cableado& cableado)
         json["cuantos"] = t.iCuantos;
         tramos.push_back(std::move(json));
     }
-    for (const report::EntradaDiseno& entrada : cableado.entradas)
+    for (const report::EntradaDiseno& entrada : cableado.entradas) {
         entradas.push_back({{"referencia", CadenaUtf8(entrada.csReferencia)},
                             {"seguidor", entrada.iSeguidor},
                             {"ramales", entrada.iRamales},
                             {"paneles", static_cast<long long>(entrada.iRamales) * cableado.iPanelesSerie},
                             {"corriente_A", NumeroJson(entrada.dCorriente)}});
+    }
     return {{"tramos", std::move(tramos)}, {"entradas", std::move(entradas)}};
 }
 

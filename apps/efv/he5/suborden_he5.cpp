@@ -77,7 +77,7 @@ std::string InformeTexto(const Encargo& encargo, const solar::PotenciaHE5& poten
         texto += fmt::format("Lugar: {}\n", CadenaUtf8(NombreConProvincia(*encargo.lugar)));
     texto += fmt::format("Zona climática: {} (C = {})\n\n", CadenaUtf8(CString(solar::NombreZona(e.iZona))),
                          Decimal(phGetCoefC(e.iZona), 1));
-    using enum TablaTexto::Lado;
+    using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({izquierda, derecha, derecha, derecha, derecha});
     tabla.Fila({"Uso", "Superficie (m²)", "A", "B", "kW"});
     tabla.Raya();

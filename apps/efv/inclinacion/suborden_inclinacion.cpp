@@ -65,7 +65,7 @@ std::string InformeTexto(const Resultado& r)
         texto += fmt::format("Lugar: {}\n", CadenaUtf8(NombreConProvincia(*r.sitio.lugar)));
     texto += fmt::format("Latitud {}°, {} m; cielo despejado\n\n", Decimal(r.sitio.dLatitud, 2),
                          Decimal(r.sitio.dAltitud, 0));
-    using enum TablaTexto::Lado;
+    using enum report::ColumnasTexto::Lado;
     std::vector<TablaTexto::Lado> lados{izquierda, derecha, derecha};
     std::vector<std::string> titulos{"Mes", "Óptima (º)", "kWh/m²"};
     if (r.plano) {

@@ -35,7 +35,7 @@ bool Contiene(const Localidad& lugar, const CString& csPlegado)
 
 std::string ListaTexto(const std::vector<Localidad>& lugares)
 {
-    using enum TablaTexto::Lado;
+    using enum report::ColumnasTexto::Lado;
     TablaTexto tabla(
         {izquierda, izquierda, izquierda, derecha, derecha, derecha, izquierda, izquierda, derecha});
     tabla.Fila(
