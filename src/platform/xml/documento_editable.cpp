@@ -237,11 +237,13 @@ NodoEditable DocumentoEditable::Anadir(NodoEditable padre, std::string_view nomb
 {
     pugi::xml_node nodoPadre = Nodo(padre.m_nodo);
     const pugi::xml_node ultimo = UltimoElemento(nodoPadre);
-    const std::string sangria = ultimo                    ? Sangria(ultimo)
-                                : nodoPadre.first_child() ? std::string()
-                                                          : Sangria(nodoPadre);
-    NodoNuevo nuevo(ultimo ? nodoPadre.insert_child_after(pugi::node_element, ultimo)
-                           : nodoPadre.append_child(pugi::node_element));
+    // A blank before the closing tag stays the parent's own.
+    const bool bVacio = !nodoPadre.first_child() || (EsBlanco(nodoPadre.first_child()) &&
+                                                     nodoPadre.first_child() == nodoPadre.last_child());
+    const std::string sangria = ultimo ? Sangria(ultimo) : bVacio ? Sangria(nodoPadre) : std::string();
+    NodoNuevo nuevo(ultimo   ? nodoPadre.insert_child_after(pugi::node_element, ultimo)
+                    : bVacio ? nodoPadre.prepend_child(pugi::node_element)
+                             : nodoPadre.append_child(pugi::node_element));
     Exigir(nuevo->set_name(std::string(nombre).c_str()));
     PonerAtributos(NodoEditable(nuevo->internal_object()), atributos);
     InsertarSangriaAntes(*nuevo, sangria);
