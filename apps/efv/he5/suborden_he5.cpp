@@ -81,11 +81,12 @@ std::string InformeTexto(const Encargo& encargo, const solar::PotenciaHE5& poten
     TablaTexto tabla({izquierda, derecha, derecha, derecha, derecha});
     tabla.Fila({"Uso", "Superficie (m²)", "A", "B", "kW"});
     tabla.Raya();
-    for (std::size_t i = 0; i < e.aiUso.size(); ++i)
+    for (std::size_t i = 0; i < e.aiUso.size(); ++i) {
         if (e.aiUso[i] != solar::kSinUso)
             tabla.Fila({NombreUso(e.aiUso[i]), DecimalExacto(e.adSuperficie[i]),
                         DecimalExacto(phGetCoefA(e.aiUso[i])), DecimalExacto(phGetCoefB(e.aiUso[i])),
                         Decimal(potencia.adUso[i], 2)});
+    }
     texto += tabla.Texto();
     texto += fmt::format(
         "\nPor los coeficientes de uso, C·(A·S + B): {} kW\n"
@@ -106,12 +107,14 @@ std::string InformeJson(const Encargo& encargo, const solar::PotenciaHE5& potenc
 {
     const solar::EdificioHE5& e = encargo.edificio;
     Json usos = Json::array();
-    for (std::size_t i = 0; i < e.aiUso.size(); ++i)
-        if (e.aiUso[i] != solar::kSinUso)
+    for (std::size_t i = 0; i < e.aiUso.size(); ++i) {
+        if (e.aiUso[i] != solar::kSinUso) {
             usos.push_back({{"uso", e.aiUso[i]},
                             {"nombre", NombreUso(e.aiUso[i])},
                             {"superficie_m2", e.adSuperficie[i]},
                             {"potencia_kW", potencia.adUso[i]}});
+        }
+    }
     const Json documento{
         {"lugar", encargo.lugar ? Json(CadenaUtf8(NombreConProvincia(*encargo.lugar))) : Json()},
         {"zona", e.iZona},

@@ -89,17 +89,19 @@ std::string InformeTexto(const Resultado& r)
         tabla.Fila(std::move(fila));
     }
     texto += tabla.Texto();
-    if (r.plano)
+    if (r.plano) {
         texto += fmt::format(
             "\nPérdidas del plano a {}° de inclinación y {}° de orientación, frente a la óptima "
             "de cada fila.\n",
             DecimalExacto(r.plano->dInclinacion), DecimalExacto(r.plano->dOrientacion));
-    if (r.filas)
+    }
+    if (r.filas) {
         texto += fmt::format(
             "\nFilas, por {}: {} m de pie a pie, {} m libres; altura de la fila {} m, de cada panel "
             "{} m.\n",
             r.filas->regla, Decimal(r.filas->dDistanciaFilas, 3), Decimal(r.filas->dDistanciaLibre, 3),
             Decimal(r.filas->dAlturaFila, 3), Decimal(r.filas->dAlturaPanel, 3));
+    }
     texto +=
         "\n· La búsqueda va de 0° a la latitud en pasos de 0,5° (a 10° cerca del ecuador): la óptima nunca la "
         "pasa.\n";
@@ -127,12 +129,13 @@ std::string InformeJson(const Resultado& r)
                    {"meses", std::move(meses)}};
     if (r.plano)
         documento["plano"] = {{"inclinacion", r.plano->dInclinacion}, {"orientacion", r.plano->dOrientacion}};
-    if (r.filas)
+    if (r.filas) {
         documento["filas"] = {{"regla", r.filas->regla},
                               {"distancia_filas_m", Numero(r.filas->dDistanciaFilas)},
                               {"distancia_libre_m", Numero(r.filas->dDistanciaLibre)},
                               {"altura_panel_m", Numero(r.filas->dAlturaPanel)},
                               {"altura_fila_m", Numero(r.filas->dAlturaFila)}};
+    }
     if (!r.svg.empty())
         documento["fichero"] = r.svg;
     return documento.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';

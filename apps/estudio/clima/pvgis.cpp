@@ -85,11 +85,12 @@ bool DescargarAno(const CString& csRuta, const CString& csNombre, double dLatitu
         Avisar(error.what());
         return false;
     }
-    if (!bEpw && std::abs(dLongitud) >= solar::kLongitudSinDesfase)
+    if (!bEpw && std::abs(dLongitud) >= solar::kLongitudSinDesfase) {
         ui::MostrarAviso(
             L"El registro toma las horas UTC por solares: desde 7,5° de longitud el sol no concuerda con "
             L"la radiación. El fichero EPW del servicio tampoco lleva hora solar.",
             ui::Icono::informacion);
+    }
     return true;
 }
 

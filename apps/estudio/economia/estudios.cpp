@@ -62,7 +62,7 @@ void EstudiarVenta(Sesion& sesion)
     Tomar(*campo, estudio);
     const double adMeses[12] = {};
     if (phViabilidadEconomicaRed(estudio, adMeses, adMeses, 0.0) == 1)
-        sesion.Proyecto().economia.venta = std::move(estudio);
+        sesion.Proyecto().economia.venta = estudio;
     sesion.Cambiado();
 }
 

@@ -68,10 +68,11 @@ BloqueHoras ProduccionDe(const CProyectoEstudio& proyecto, const CampoRed& campo
         d = std::max(d, 0.0);
     BloqueHoras bloque = EnBloque(*ano);
     for (std::size_t m = 0; m < solar::kMeses; ++m) {
-        const auto desde = bloque.begin() + static_cast<std::ptrdiff_t>(m * 31 * 24);
-        const double dForma = std::accumulate(desde, desde + 31 * 24, 0.0);
+        constexpr std::ptrdiff_t nHoras = 31 * 24;
+        const auto desde = bloque.begin() + static_cast<std::ptrdiff_t>(m) * nHoras;
+        const double dForma = std::accumulate(desde, desde + nHoras, 0.0);
         const double dEnergia = campo.ano.meses[m].dEnergiaMes * kPerformanceRatio;
-        std::for_each(desde, desde + 31 * 24,
+        std::for_each(desde, desde + nHoras,
                       [&](double& d) { d = dForma > 0.0 ? d * dEnergia / dForma : 0.0; });
     }
     return bloque;
