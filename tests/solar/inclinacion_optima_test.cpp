@@ -1,11 +1,14 @@
 // Search of the optimum, losses and names of orientations. The years' sums stand with the definition of the
 // sky; the library of a host shows what is asked of it.
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <limits>
+#include <random>
 
 #include <gtest/gtest.h>
 
+#include "comun/ficheros.h"
 #include "solar/inclinacion_optima.h"
 
 namespace {
@@ -61,6 +64,59 @@ public:
     }
     double clGetID(int, double, double) override { return 0.0; }
 };
+
+// The thirteen sums as their definition reads: each tilt, each hour, a pair of calls.
+std::array<Optimo, 13> BuscarAlPieDeLaLetra(const SitioCielo& sitio, double dOrientacion, double dPaso)
+{
+    constexpr std::array<int, 12> aiDias = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
+    auto& cielo = BibliotecaActual();
+    std::array<Optimo, 13> optimos{};
+    double t = 0.0;
+    for (int i = 0; i < std::floor(std::max(std::abs(sitio.dLatitud), 10.0)) * (1 / dPaso); ++i, t += dPaso) {
+        std::array<double, 13> adSumas{};
+        for (int m = 0; m < 12; ++m)
+            for (int d = 0; d < aiDias[static_cast<std::size_t>(m)]; ++d)
+                for (int h = 1; h <= 24; ++h) {
+                    const double dT = sitio.adTemperaturas[static_cast<std::size_t>(m * 31 + d)];
+                    const auto radiar = [&](double dParte) {
+                        return cielo.clGetRadiacionSolarTotal(sitio.dDatoSitio, sitio.dLatitud, m + 1, d + 1, h,
+                                                              dT, sitio.dHumedad, t, dOrientacion, dParte);
+                    };
+                    const double dNeta = radiar(0.0) - std::abs(radiar(1.0));
+                    adSumas[static_cast<std::size_t>(m)] += dNeta;
+                    adSumas[12] += dNeta;
+                }
+        for (std::size_t k = 0; k < adSumas.size(); ++k)
+            if (adSumas[k] > optimos[k].dRadiacion + 1e-6)
+                optimos[k] = {t, adSumas[k]};
+    }
+    return optimos;
+}
+
+TEST(InclinacionOptima, UnaPasadaDaLosMismosBitsQueLasLlamadasUnaAUna)
+{
+    const efv::pruebas::CarpetaTemporal carpeta;
+    const CString csHorizonte = carpeta.Escribir("horizonte.txt", "-120 25\n-40 3.5\n0 12\n35 30\n100 8\n");
+    std::mt19937 azar(20261122);
+    const auto entre = [&](double a, double b) { return std::uniform_real_distribution<>(a, b)(azar); };
+    CString csError;
+    for (int caso = 0; caso < 6; ++caso) {
+        ASSERT_TRUE(efv::clima::CargarHorizonte(caso % 2 == 1 ? csHorizonte : CString(), csError));
+        std::array<double, 372> adTemperaturas{};
+        for (double& d : adTemperaturas)
+            d = entre(-20.0, 40.0);
+        const SitioCielo sitio{entre(-100.0, 3000.0), entre(-66.0, 66.0), entre(0.1, 0.9), adTemperaturas};
+        const double dOrientacion = entre(-180.0, 180.0);
+        const double dPaso = caso % 3 == 0 ? 7.3 : 4.1;
+        const auto esperados = BuscarAlPieDeLaLetra(sitio, dOrientacion, dPaso);
+        const auto hallados = BuscarOptimos(BibliotecaActual(), sitio, dOrientacion, dPaso);
+        for (std::size_t k = 0; k < esperados.size(); ++k) {
+            EXPECT_EQ(hallados[k].dInclinacion, esperados[k].dInclinacion) << caso << ' ' << k;
+            EXPECT_EQ(hallados[k].dRadiacion, esperados[k].dRadiacion) << caso << ' ' << k;
+        }
+    }
+    ASSERT_TRUE(efv::clima::CargarHorizonte({}, csError));
+}
 
 TEST(InclinacionOptima, ElMaximoNoPasaDeLaLatitudYLosEmpatesQuedanAbajo)
 {
