@@ -102,7 +102,7 @@ void PanelLugar::AnadirRadiaciones()
         edicion.alCambiar = [this] { AlCambiar(); };
         m_figuras.push_back(&edicion);
     }
-    auto& pvgis = Anadir<ui::Boton>("PVGIS", L"Radiación de PV&GIS…");
+    auto& pvgis = Anadir<ui::Boton>("PVGIS", L"Radiación de PVGIS…");
     pvgis.colocacion.grupo = kGrupoRadiacion;
     pvgis.csIndicacion = L"Pide al servicio PVGIS la radiación de la latitud y la longitud";
     pvgis.alPulsar = [this] { PedirRadiacion(); };

@@ -1,5 +1,6 @@
 // The two downloads against a stand-in of the service. What an answer becomes is held against vectores.py
 // elsewhere.
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 
