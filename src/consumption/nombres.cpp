@@ -36,8 +36,10 @@ std::vector<CString> NombresDeMeses()
 std::vector<CString> DiasDelMes(int iMes)
 {
     efv::ComprobarIndice(iMes, solar::kDiasMesReferencia.size());
+    const int nDias = solar::kDiasMesReferencia[static_cast<std::size_t>(iMes)];
     std::vector<CString> dias;
-    for (int iDia = 0; iDia < solar::kDiasMesReferencia[static_cast<std::size_t>(iMes)]; ++iDia)
+    dias.reserve(static_cast<std::size_t>(nDias));
+    for (int iDia = 0; iDia < nDias; ++iDia)
         dias.push_back(
             fmt::format(L"{} ({})", iDia + 1, solar::NombreDia(solar::TipoDia(kAnoReferencia, iMes, iDia))));
     return dias;

@@ -64,6 +64,7 @@ CSFVCalculoEconomicoAuto& CCalculoEconomicoAutoSheet::Estudio(int iElemento) con
 std::vector<CString> CCalculoEconomicoAutoSheet::Referencias() const
 {
     std::vector<CString> acsReferencias;
+    acsReferencias.reserve(static_cast<std::size_t>(Elementos()));
     for (int i = 0; i < Elementos(); ++i)
         acsReferencias.push_back(Estudio(i).csReferencia);
     return acsReferencias;

@@ -210,6 +210,7 @@ void PaginaAmortizacion::Cargar(int iElemento)
     const bool bGlobal = iElemento == m_hoja.Elementos();
     if (bGlobal) {
         std::vector<const R*> estudios;
+        estudios.reserve(static_cast<std::size_t>(m_hoja.Elementos()));
         for (int i = 0; i < m_hoja.Elementos(); ++i)
             estudios.push_back(&m_hoja.Estudio(i));
         m_datos = EstudioGlobal(estudios);

@@ -76,6 +76,7 @@ constexpr auto kExcluir = ui::Campos<D>({
 std::vector<CString> Nombres(std::wstring_view (*nombre)(int), int iCuantos)
 {
     std::vector<CString> acsNombres;
+    acsNombres.reserve(static_cast<std::size_t>(iCuantos));
     for (int i = 0; i < iCuantos; ++i)
         acsNombres.emplace_back(nombre(i));
     return acsNombres;
@@ -173,6 +174,7 @@ ui::Seleccion& CDlgDatosConductor::AnadirSecciones(double D::*miembro, std::wstr
                                                    const ui::Colocacion& colocacion)
 {
     std::vector<CString> acsSecciones;
+    acsSecciones.reserve(electrical::kSecciones.size());
     for (const double dSeccion : electrical::kSecciones)
         acsSecciones.push_back(numero::nuConvertFltToIntlStr(dSeccion, 2));
     return AnadirCombo(ui::NombreDeCampo(miembro), rotulo, &iElegida, std::move(acsSecciones), colocacion);

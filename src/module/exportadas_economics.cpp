@@ -110,7 +110,7 @@ int phViabilidadEconomicaRed(CSFVCalculoEconomico& estudio, const double (&/*adM
     for (auto meses : {&CSFVCalculoEconomico::aRadHorizontal, &CSFVCalculoEconomico::aRadInclinada,
                        &CSFVCalculoEconomico::aEnergiaDia, &CSFVCalculoEconomico::aEnergiaMes})
         editado.*meses = std::move(estudio.*meses);
-    estudio = std::move(editado);
+    estudio = editado;
     return 1;
 }
 

@@ -374,7 +374,7 @@ void VentanaDialogo::changeEvent(QEvent* evento)
     QDialog::changeEvent(evento);
     // From the loop: a theme reaches the widgets in no order, and colours are worked out from their parents'.
     if (evento->type() == QEvent::PaletteChange)
-        QMetaObject::invokeMethod(this, &VentanaDialogo::Refrescar, Qt::QueuedConnection);
+        QTimer::singleShot(0, this, [this] { Refrescar(); });
 }
 
 }  // namespace efv::qt
