@@ -83,6 +83,8 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
         if (m_porSalir != nullptr)
             Actuar([](ui::Dialogo&) {});
     });
+    m_tema.setSingleShot(true);
+    connect(&m_tema, &QTimer::timeout, this, &VentanaDialogo::Refrescar);
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*antes*/, QWidget* ahora) { AtenderFoco(ahora); });
     Refrescar();
@@ -374,7 +376,7 @@ void VentanaDialogo::changeEvent(QEvent* evento)
     QDialog::changeEvent(evento);
     // From the loop: a theme reaches the widgets in no order, and colours are worked out from their parents'.
     if (evento->type() == QEvent::PaletteChange)
-        QTimer::singleShot(0, this, [this] { Refrescar(); });
+        m_tema.start(0);
 }
 
 }  // namespace efv::qt

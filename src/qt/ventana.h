@@ -70,6 +70,7 @@ private:
     QPushButton* m_cancelar = nullptr;
     QTimer m_temporizador;
     QTimer m_salida;  // to the next turn of the loop, after a field was left
+    QTimer m_tema;    // the same after a change of theme
 
     int m_nAcciones = 0;                // running now, one inside the other
     bool m_bMoviendoFoco = false;       // by us, not by the person

@@ -55,13 +55,14 @@ Seccion SeccionOrientacion(const solar::EnergiaPlanos& energia)
 
 void AvisarDeOrientacion(const solar::EnergiaPlanos& energia, std::vector<Aviso>& avisos)
 {
-    if (energia.Perdida() > kPerdidaNotable)
+    if (energia.Perdida() > kPerdidaNotable) {
         avisos.push_back(
             {false, fmt::format("La orientación de los paneles quita el {} % de la energía del año: {} en "
                                 "vez de {} hacia el ecuador, que es lo que cuentan el dimensionado y las "
                                 "tablas mensuales.",
                                 Decimal(energia.Perdida() * 100.0, 1), Con(energia.Energia(), 0, "kWh"),
                                 Con(energia.EnergiaAlEcuador(), 0, "kWh"))});
+    }
 }
 
 }  // namespace efv::report

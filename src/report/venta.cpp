@@ -69,11 +69,12 @@ EstudioVenta Calcular(const ProyectoVenta& proyecto, const CBaseFactorK& tabla)
     economics::CalcularAnos(e);
     e.dTIR = 0.0;
     economics::CalcularTIR(e);
-    if (e.dCosteElegible > 0.0)
+    if (e.dCosteElegible > 0.0) {
         resultado.bTasaHallada =
             economics::TasaInternaRetorno(
                 e.dCosteElegible, {e.aCashFlow.GetData(), static_cast<std::size_t>(e.aCashFlow.GetSize())})
                 .bHallada;
+    }
     if (ano)
         AnadirMeses(proyecto, *ano, e);
     resultado.iAnoRecuperado = AnoRecuperado(e);

@@ -183,11 +183,12 @@ std::vector<std::string> Supuestos(const ProyectoVenta& proyecto, const EstudioV
     };
     if (proyecto.EnergiaDada())
         supuestos.emplace_back("La energía del año es la que da el fichero.");
-    else
+    else {
         supuestos.emplace_back(
             "Energía del año: radiación sobre el plano por el factor K de la tabla × potencia, en un año de "
             "365 "
             "días, para un campo orientado al ecuador y sin sombras; después, el performance ratio.");
+    }
     if (const std::string porDefecto = PorDefecto(proyecto, resultado.estudio); !porDefecto.empty())
         supuestos.push_back("Valores por defecto: " + porDefecto + ".");
     return supuestos;

@@ -33,6 +33,7 @@ constexpr auto kOptima = ui::Campos<DatosInclinacion>({
 std::vector<CString> Meses()
 {
     std::vector<CString> meses;
+    meses.reserve(kAnual);
     for (int m = 0; m < kAnual; ++m)
         meses.emplace_back(efv::solar::NombreMes(m));
     meses.emplace_back(L"Anual");
