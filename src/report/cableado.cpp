@@ -9,8 +9,6 @@ namespace efv::report {
 
 namespace {
 
-using electrical::TramoCable;
-
 /// What a stretch carries; a voltage or current of 0 isn't known.
 struct Servicio {
     double dLongitud, dCorriente, dTension;
@@ -49,7 +47,7 @@ std::vector<EntradaDiseno> Repartir(int iRamales, int iNumMPPT, int iNumEntradas
     const int iSeguidores = std::clamp(iNumMPPT, 1, iEntradas);
     electrical::AsignarEntradas(0, iSeguidores, iEntradas, rotuladas, true);
     std::vector<EntradaDiseno> entradas;
-    entradas.reserve(iEntradas);
+    entradas.reserve(static_cast<std::size_t>(iEntradas));
     for (int i = 0; i < iEntradas; ++i)
         entradas.push_back({rotuladas[i].csReferencia, i % iSeguidores + 1, 0, 0.0});
     // Inputs of each tracker, in their order.
