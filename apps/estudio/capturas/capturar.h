@@ -18,12 +18,13 @@ struct ResultadoCapturas {
     std::vector<std::string> faltas;  ///< what isn't as it has to be, in Spanish: a dialog that didn't open
 };
 
-/// Writes "name-Class.png" into `carpeta` for every dialog that the screens open, and "name-Class-oscuro.png" in
-/// a dark theme.
+/// Writes "name-Class.png" into `carpeta` for every dialog that the screens open, and "name-Class-oscuro.png"
+/// in a dark theme.
 /// @throws std::runtime_error when a file can't be written.
 ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta);
 
-/// The same of the program's window with each of its tabs, of the presenter's own windows and of both schematics.
+/// The same of the program's window with each of its tabs, of the presenter's own windows and of both
+/// schematics.
 ResultadoCapturas CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta);
 
 }  // namespace efv::estudio

@@ -90,7 +90,8 @@ TEST_F(Clima, LaRadiacionDePvgisPasaAlProyectoYSePuedeCancelar)
     Usar("rechazo");
     panel.Pulsar(De<ui::Boton>(panel, "PVGIS"));
     ASSERT_EQ(guion.Mensajes().size(), 1U);
-    EXPECT_NE(guion.Mensajes()[0].find(L"Location over the sea"), CString::npos) << CadenaUtf8(guion.Mensajes()[0]);
+    EXPECT_NE(guion.Mensajes()[0].find(L"Location over the sea"), CString::npos)
+        << CadenaUtf8(guion.Mensajes()[0]);
 }
 
 TEST_F(Clima, ElRegistroEsDelProyectoYSeVuelveALeer)
