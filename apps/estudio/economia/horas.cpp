@@ -68,7 +68,7 @@ BloqueHoras ProduccionDe(const CProyectoEstudio& proyecto, const CampoRed& campo
         d = std::max(d, 0.0);
     BloqueHoras bloque = EnBloque(*ano);
     for (std::size_t m = 0; m < solar::kMeses; ++m) {
-        constexpr std::ptrdiff_t nHoras = 31 * 24;
+        constexpr auto nHoras = std::ptrdiff_t{31} * 24;
         const auto desde = bloque.begin() + static_cast<std::ptrdiff_t>(m) * nHoras;
         const double dForma = std::accumulate(desde, desde + nHoras, 0.0);
         const double dEnergia = campo.ano.meses[m].dEnergiaMes * kPerformanceRatio;
