@@ -88,7 +88,7 @@ void ElOrdenEsElDeLaLectura(const ui::Dialogo& dialogo, const QWidget& ventana)
 }
 
 // Looks at each dialog that opens in place of a person.
-class PresentadorQueMira final : public ui::Presentador {
+class PresentadorQueMira final : public ui::PresentadorNulo {
 public:
     explicit PresentadorQueMira(const Pantalla& pantalla) : m_pantalla(pantalla)
     {
@@ -117,20 +117,9 @@ public:
         if (!dialogo.Terminado())
             dialogo.Cancelar();
     }
-    ui::Respuesta MostrarMensaje(const ui::Mensaje& mensaje) override
-    {
-        return m_nadie.MostrarMensaje(mensaje);
-    }
-    void MostrarRechazo(ui::Dialogo& /*dialogo*/, const ui::Rechazo& /*rechazo*/) override {}
-    std::optional<CString> ElegirFichero(const ui::PeticionFichero& /*peticion*/) override { return {}; }
-    CString LeerPortapapeles() override { return {}; }
-    void EscribirPortapapeles(const CString& /*csTexto*/) override {}
-    void Esperar(bool /*bEmpieza*/) override {}
-    void Refrescar(ui::Dialogo& /*dialogo*/) override {}
 
 private:
     const Pantalla& m_pantalla;
-    ui::PresentadorNulo m_nadie;
 };
 
 class Teclado : public ConCatalogos {

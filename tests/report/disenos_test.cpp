@@ -3,6 +3,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "comun/catalogos_enviados.h"
 #include "comun/guion.h"
 
 namespace {
@@ -10,25 +11,8 @@ namespace {
 using namespace efv;
 using namespace efv::report;
 
-// The shipped catalogues and table while it lives.
-class Disenos : public ::testing::Test {
+class Disenos : public pruebas::ConCatalogosEnviados {
 protected:
-    Disenos()
-    {
-        phSetPathHE5BD(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/").c_str());
-        CStringArray fallidas;
-        phCargarBasesHE5(fallidas);
-    }
-    ~Disenos() override
-    {
-        phGetBasePanelFoto().Vaciar();
-        phGetBaseAcumuladores().Vaciar();
-        phGetBaseInversores().Vaciar();
-        phGetBaseReceptores().Vaciar();
-        phGetBaseFactorK().Vaciar();
-        phSetPathHE5BD(L"");
-    }
-
     static LugarDiseno Lugar()
     {
         LugarDiseno lugar;

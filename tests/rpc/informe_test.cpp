@@ -2,9 +2,8 @@
 // name.
 #include <gtest/gtest.h>
 
-#include <QuorvelEFV.h>
-
 #include "comun/anfitrion.h"
+#include "comun/catalogos_enviados.h"
 
 namespace efv::rpc::pruebas {
 namespace {
@@ -22,23 +21,8 @@ Json Red()
             {"dInclinacion", 17.0}};
 }
 
-class Informe : public ::testing::Test {
+class Informe : public ConCatalogosEnviados {
 protected:
-    Informe()
-    {
-        anfitrion.Resultado("phSetPathHE5BD", {EFV_CARPETA_DATOS "/"});
-        anfitrion.Resultado("phCargarBasesHE5", Json::array({Json::array()}));
-    }
-    ~Informe() override
-    {
-        phGetBasePanelFoto().Vaciar();
-        phGetBaseAcumuladores().Vaciar();
-        phGetBaseInversores().Vaciar();
-        phGetBaseReceptores().Vaciar();
-        phGetBaseFactorK().Vaciar();
-        phSetPathHE5BD(L"");
-    }
-
     Json peticion = {
         {"record", "CSFVAsistenteRed"},
         {"value", Red()},

@@ -126,7 +126,7 @@ public:
         CLI::Option* json =
             linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores por su nombre en el código");
         json->option_text(" ")->disable_flag_override();
-        if (m_clase.bCsv)
+        if (m_clase.bCsv) {
             linea
                 .add_flag("--csv", m_bCsv,
                           "Escribe la tabla de años como CSV con punto y coma y coma decimal, como lo leen las "
@@ -134,6 +134,7 @@ public:
                 ->option_text(" ")
                 ->excludes(json)
                 ->disable_flag_override();
+        }
         linea
             .add_option(
                 "--guardar", m_guardar,

@@ -105,7 +105,7 @@ void CapturarPresentador(const std::filesystem::path& carpeta, ResultadoCapturas
 }
 
 // Takes a picture of each dialog that opens, then does in it what its screen says.
-class PresentadorCapturas final : public ui::Presentador {
+class PresentadorCapturas final : public ui::PresentadorNulo {
 public:
     PresentadorCapturas(const Pantalla& pantalla, const std::filesystem::path& carpeta,
                         ResultadoCapturas& resultado)
@@ -142,20 +142,6 @@ public:
             dialogo.Cancelar();
     }
 
-    ui::Respuesta MostrarMensaje(const ui::Mensaje& mensaje) override
-    {
-        return m_nadie.MostrarMensaje(mensaje);
-    }
-    void MostrarRechazo(ui::Dialogo& /*dialogo*/, const ui::Rechazo& /*rechazo*/) override {}
-    std::optional<CString> ElegirFichero(const ui::PeticionFichero& /*peticion*/) override
-    {
-        return std::nullopt;
-    }
-    CString LeerPortapapeles() override { return {}; }
-    void EscribirPortapapeles(const CString& /*csTexto*/) override {}
-    void Esperar(bool /*bEmpieza*/) override {}
-    void Refrescar(ui::Dialogo& /*dialogo*/) override {}
-
 private:
     // One picture, or one of each page.
     void CapturarPaginas(ui::Dialogo& dialogo, QDialog& ventana, const std::string& nombre)
@@ -174,7 +160,6 @@ private:
 
     const Pantalla& m_pantalla;
     const std::filesystem::path& m_carpeta;
-    ui::PresentadorNulo m_nadie;
     ResultadoCapturas& m_resultado;
     std::set<std::string> m_escritos;
     std::vector<std::string> m_abiertas;

@@ -91,7 +91,7 @@ EFV_API Presentador& PresentadorActual();
 
 /// Nobody is there: boxes go unseen, a question gets the answer that changes nothing, a dialog counts as
 /// cancelled.
-class EFV_API PresentadorNulo final : public Presentador {
+class EFV_API PresentadorNulo : public Presentador {
 public:
     Respuesta MostrarMensaje(const Mensaje& mensaje) override;
     void MostrarModal(Dialogo& dialogo) override;

@@ -1,8 +1,10 @@
 // What the tests of the command share.
 #pragma once
 
+#include <initializer_list>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -23,6 +25,16 @@ struct Corrida {
     std::string salida;
     std::string errores;
 };
+
+/// Whether all the parts stand in the text.
+inline testing::AssertionResult Contiene(const std::string& texto,
+                                         std::initializer_list<std::string_view> partes)
+{
+    for (const std::string_view parte : partes)
+        if (texto.find(parte) == std::string::npos)
+            return testing::AssertionFailure() << "«" << parte << "» no está en\n" << texto;
+    return testing::AssertionSuccess();
+}
 
 /// Runs the command in this process.
 inline Corrida Correr(const std::vector<std::string>& argumentos)

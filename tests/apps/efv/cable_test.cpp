@@ -9,16 +9,6 @@ namespace efv::orden::pruebas {
 
 namespace {
 
-using testing::AssertionResult;
-
-AssertionResult Contiene(const std::string& texto, std::initializer_list<std::string_view> partes)
-{
-    for (const std::string_view parte : partes)
-        if (texto.find(parte) == std::string::npos)
-            return testing::AssertionFailure() << "«" << parte << "» no está en\n" << texto;
-    return testing::AssertionSuccess();
-}
-
 // 4600 W at 230 V are 20 A; the hand calculation stands in the kernel's tests.
 TEST(OrdenCable, EligeLaSeccionMayorDeLasDos)
 {

@@ -10,16 +10,6 @@ namespace efv::orden::pruebas {
 
 namespace {
 
-using testing::AssertionResult;
-
-AssertionResult Contiene(const std::string& texto, std::initializer_list<std::string_view> partes)
-{
-    for (const std::string_view parte : partes)
-        if (texto.find(parte) == std::string::npos)
-            return testing::AssertionFailure() << "«" << parte << "» no está en\n" << texto;
-    return testing::AssertionSuccess();
-}
-
 Json Proyecto(const std::string& nombre)
 {
     std::ifstream fichero(std::filesystem::path(EFV_CARPETA_PRUEBAS) / "../data/ejemplos" / nombre);

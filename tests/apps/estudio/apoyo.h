@@ -5,30 +5,16 @@
 #include <string>
 
 #include <QuorvelEFV.h>
-#include <gtest/gtest.h>
 
+#include "comun/catalogos_enviados.h"
 #include "proyecto/proyecto.h"
 
 namespace efv::pruebas {
 
-/// Shipped catalogues while it lives.
-class ConCatalogos : public testing::Test {
+/// Shipped catalogues while it lives, and no presenter after it.
+class ConCatalogos : public ConCatalogosEnviados {
 protected:
-    ConCatalogos()
-    {
-        phSetPathHE5BD(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/").c_str());
-        CStringArray fallidas;
-        phCargarBasesHE5(fallidas);
-    }
-    ~ConCatalogos() override
-    {
-        ui::InstalarPresentador(nullptr);
-        phGetBasePanelFoto().Vaciar();
-        phGetBaseAcumuladores().Vaciar();
-        phGetBaseInversores().Vaciar();
-        phGetBaseReceptores().Vaciar();
-        phSetPathHE5BD(L"");
-    }
+    ~ConCatalogos() override { ui::InstalarPresentador(nullptr); }
 };
 
 inline constexpr const wchar_t* kPanel = L"Canadian Solar#CS3U-350P";  // 350.448 W, 39.2 V, 8.94 A, 46.6 V
