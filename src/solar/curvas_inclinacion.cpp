@@ -2,8 +2,13 @@
 
 #include <algorithm>
 #include <cstddef>
-#include <vector>
+#include <numeric>
+#include <utility>
 
+#include <fmt/xchar.h>
+
+#include "platform/numero/conversion.h"
+#include "platform/numero/tolerancia.h"
 #include "solar/calendario.h"
 #include "solar/inclinacion_optima.h"
 
@@ -49,13 +54,26 @@ void DelCielo(clima::BibliotecaClima& biblioteca, const PlanoEstudio& plano, dou
     Repartir(std::span<const double, 8760>(ano), bloque);
 }
 
+double SumarHoras(std::span<const double> adHoras)
+{
+    double dSuma = 0.0;
+    for (const double d : adHoras)
+        dSuma += d;
+    return dSuma;
+}
+
+// The factor of each day is FactorDelDia, out of two whole years: the same additions in the same order.
 void DeLaHorizontal(clima::BibliotecaClima& biblioteca, const PlanoEstudio& plano, double dInclinacion,
                     BloqueHoras adInclinada, std::span<const double, kHorasBloque> adHorizontal)
 {
-    CadaDia([&](std::size_t m, std::size_t d, std::size_t iBloque, std::size_t) {
-        const double dFactor =
-            FactorDelDia(biblioteca, plano.dDatoSitio, plano.dLatitud, static_cast<int>(m), static_cast<int>(d),
-                         dInclinacion, plano.dOrientacion, kHumedadNormal, kTemperaturaNormal);
+    std::vector<double> enHorizontal(kHorasBloque), enPlano(kHorasBloque);
+    DelCielo(biblioteca, plano, 0.0, BloqueHoras(enHorizontal));
+    DelCielo(biblioteca, plano, dInclinacion, BloqueHoras(enPlano));
+    CadaDia([&](std::size_t, std::size_t, std::size_t iBloque, std::size_t) {
+        const auto suma = [iBloque](const std::vector<double>& horas) {
+            return SumarHoras(std::span(horas).subspan(iBloque, kHorasDia));
+        };
+        const double dFactor = suma(enPlano) / suma(enHorizontal);
         for (std::size_t h = iBloque; h < iBloque + kHorasDia; ++h)
             adInclinada[h] = dFactor * adHorizontal[h];
     });
@@ -73,8 +91,8 @@ std::span<const double, 372> TemperaturasNormales()
     return temperaturas;
 }
 
-CurvaDiaria CalcularCurva(clima::BibliotecaClima& biblioteca, const PlanoEstudio& plano, double dInclinacion,
-                          BloqueHoras adInclinada, BloqueHoras adHorizontal)
+void RadiarPlano(clima::BibliotecaClima& biblioteca, const PlanoEstudio& plano, double dInclinacion,
+                 BloqueHoras adInclinada, BloqueHoras adHorizontal)
 {
     switch (plano.fuente) {
         case FuenteRadiacion::registro:
@@ -89,16 +107,47 @@ CurvaDiaria CalcularCurva(clima::BibliotecaClima& biblioteca, const PlanoEstudio
             DeLaHorizontal(biblioteca, plano, dInclinacion, adInclinada, adHorizontal);
             break;
     }
+}
+
+CurvaDiaria SumarDias(std::span<const double, kHorasBloque> adHoras)
+{
     CurvaDiaria curva;
     std::size_t iDia = 0;
     CadaDia([&](std::size_t, std::size_t, std::size_t iBloque, std::size_t) {
-        double dSuma = 0.0;
-        for (std::size_t h = iBloque; h < iBloque + kHorasDia; ++h)
-            dSuma += adInclinada[h];
+        const double dSuma = SumarHoras(adHoras.subspan(iBloque, kHorasDia));
         curva.adDia[iDia++] = dSuma;
         curva.dTotal += dSuma;
     });
     return curva;
+}
+
+CString TituloRadiacion(const PlanoEstudio& plano)
+{
+    return fmt::format(L"Radiación incidente (w/m²·día) Lat={}{} Or:{}{}",
+                       numero::nuConvertFltToIntlStr(plano.dLatitud, 2),
+                       numero::Menor(plano.dLatitud, 0.0) ? L"S" : L"N", NombreOrientacion(plano.dOrientacion),
+                       plano.fuente == FuenteRadiacion::registro ? L"" : L" T=25ºC Hr=50%");
+}
+
+ui::SerieCurva SerieDeDias(const CurvaDiaria& curva, ui::Color color, std::wstring_view nombre)
+{
+    ui::SerieCurva serie;
+    serie.adX.resize(curva.adDia.size());
+    std::iota(serie.adX.begin(), serie.adX.end(), 1.0);
+    serie.adY.assign(curva.adDia.begin(), curva.adDia.end());
+    serie.color = color;
+    serie.csNombre = nombre;
+    return serie;
+}
+
+CCtrlCurva2D GraficaRadiacion(CString csTitulo, std::vector<ui::SerieCurva> series)
+{
+    CCtrlCurva2D grafica;
+    grafica.csTitulo = std::move(csTitulo);
+    grafica.claseX = ui::ClaseEje::fecha;
+    grafica.csTituloY = L"w/m²·día";
+    grafica.aSeries = std::move(series);
+    return grafica;
 }
 
 }  // namespace efv::solar

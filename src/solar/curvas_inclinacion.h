@@ -1,10 +1,14 @@
-// The daily radiation of a year on a plane, as the study of the tilt draws it.
+// The daily radiation of a year on a plane, and the charts that draw it.
 #pragma once
 
 #include <array>
 #include <span>
+#include <string_view>
+#include <vector>
 
+#include <quorvel/framework/CString.h>
 #include <quorvel/solar/inclinacion.h>
+#include <quorvel/ui/grafica.h>
 
 namespace efv::solar {
 
@@ -29,8 +33,19 @@ struct CurvaDiaria {
 
 /// The hours of the tilted plane go to `adInclinada`. Those of the horizontal are read from `adHorizontal` if
 /// they are the source, else written there. Hours of the climate record are floored at 0, those of the sky
-/// aren't.
-CurvaDiaria CalcularCurva(clima::BibliotecaClima& biblioteca, const PlanoEstudio& plano, double dInclinacion,
-                          BloqueHoras adInclinada, BloqueHoras adHorizontal);
+/// aren't. Days that a month lacks stay as they are.
+void RadiarPlano(clima::BibliotecaClima& biblioteca, const PlanoEstudio& plano, double dInclinacion,
+                 BloqueHoras adInclinada, BloqueHoras adHorizontal);
+
+/// Each day's hours, added in their order.
+CurvaDiaria SumarDias(std::span<const double, kHorasBloque> adHoras);
+
+/// "Radiación incidente (w/m²·día) Lat=40,40N Or:S", and the standard sky's weather unless a record is the
+/// source.
+CString TituloRadiacion(const PlanoEstudio& plano);
+
+/// The curve over the days of the year, and a chart of such.
+ui::SerieCurva SerieDeDias(const CurvaDiaria& curva, ui::Color color, std::wstring_view nombre);
+CCtrlCurva2D GraficaRadiacion(CString csTitulo, std::vector<ui::SerieCurva> series);
 
 }  // namespace efv::solar

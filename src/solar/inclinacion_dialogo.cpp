@@ -48,13 +48,8 @@ CString Total(double dInclinacion, double dTotal)
 
 ui::SerieCurva Serie(const efv::solar::CurvaDiaria& curva, ui::Color color, bool bEnUso, const wchar_t* nombre)
 {
-    ui::SerieCurva serie;
-    for (std::size_t i = 0; i < curva.adDia.size(); ++i)
-        serie.adX.push_back(static_cast<double>(i + 1));
-    serie.adY.assign(curva.adDia.begin(), curva.adDia.end());
-    serie.color = color;
+    ui::SerieCurva serie = efv::solar::SerieDeDias(curva, color, nombre);
     serie.iEstilo = bEnUso ? kTrazoContinuo : kTrazoDePuntos;
-    serie.csNombre = nombre;
     return serie;
 }
 
@@ -171,9 +166,9 @@ void CDlgCalculoInclinacionPanel::MostrarOptima(int iMes)
 void CDlgCalculoInclinacionPanel::CalcularCurvas()
 {
     const auto calcular = [this](double dInclinacion) {
-        return efv::solar::CalcularCurva(efv::clima::BibliotecaActual(), m_plano, dInclinacion,
-                                         efv::solar::BloqueHoras(radInclinada),
-                                         efv::solar::BloqueHoras(radHorizontal));
+        efv::solar::RadiarPlano(efv::clima::BibliotecaActual(), m_plano, dInclinacion,
+                                efv::solar::BloqueHoras(radInclinada), efv::solar::BloqueHoras(radHorizontal));
+        return efv::solar::SumarDias(std::span<const double, efv::solar::kHorasBloque>(radInclinada));
     };
     const auto actual = calcular(datos.dInclinacionActual);
     const auto optima = calcular(datos.dInclinacionOptima);
@@ -181,21 +176,9 @@ void CDlgCalculoInclinacionPanel::CalcularCurvas()
     dTotal2 = optima.dTotal;
     m_total1->csTexto = Total(datos.dInclinacionActual, dTotal1);
     m_total2->csTexto = Total(datos.dInclinacionOptima, dTotal2);
-    CCtrlCurva2D& grafica = m_grafica->datos;
-    grafica.csTitulo = Titulo();
-    grafica.claseX = ui::ClaseEje::fecha;
-    grafica.csTituloY = L"w/m²·día";
-    grafica.aSeries = {Serie(actual, kColorActual, datos.iOpcion == 0, L"Actual"),
-                       Serie(optima, ui::kRojo, datos.iOpcion == 1, L"Óptima")};
-}
-
-CString CDlgCalculoInclinacionPanel::Titulo() const
-{
-    return fmt::format(L"Radiación incidente (w/m²·día) Lat={}{} Or:{}{}",
-                       nuConvertFltToIntlStr(m_plano.dLatitud, 2),
-                       efv::numero::Menor(m_plano.dLatitud, 0.0) ? L"S" : L"N",
-                       efv::solar::NombreOrientacion(m_plano.dOrientacion),
-                       m_plano.fuente == efv::solar::FuenteRadiacion::registro ? L"" : L" T=25ºC Hr=50%");
+    m_grafica->datos = efv::solar::GraficaRadiacion(efv::solar::TituloRadiacion(m_plano),
+                                                    {Serie(actual, kColorActual, datos.iOpcion == 0, L"Actual"),
+                                                     Serie(optima, ui::kRojo, datos.iOpcion == 1, L"Óptima")});
 }
 
 namespace efv::solar {

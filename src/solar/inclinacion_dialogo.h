@@ -54,7 +54,6 @@ private:
     void Simular();
     void MostrarOptima(int iMes);
     void CalcularCurvas();
-    CString Titulo() const;
 
     efv::solar::PlanoEstudio m_plano;
     efv::ui::Seleccion* m_opcion = nullptr;
