@@ -9,6 +9,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <string_view>
 
 #include <quorvel/exportar.h>
 #include <quorvel/framework/CString.h>
@@ -61,6 +62,9 @@ EFV_API BibliotecaClima& BibliotecaActual();
 /// reference climate of the building code, told apart by their first lines. Empty path: none any more.
 /// @param csError why it was refused, with the line; the record before then stays
 EFV_API bool CargarRegistroClimatico(const CString& csRuta, CString& csError);
+
+/// The same of a record that was read already.
+EFV_API bool TomarRegistroClimatico(std::string_view bytes, CString& csError);
 
 /// What the loaded climate record says of its place.
 struct DatosRegistro {

@@ -218,6 +218,9 @@ EFV_API CString TextoDeHoras(AnoHorarioVista ano, double dEscala, TramoHoras tra
 /// has more than 16 MiB. @throws CFileException while another process holds it
 EFV_API std::optional<CString> LeerFicheroDeValores(const CString& csRuta);
 
+/// The same of bytes that were read already.
+EFV_API std::optional<CString> TextoDeValores(std::string_view bytes);
+
 /// Values of a file's text as text of values: line ends, tabs, ";" and the marker "~#~" become blanks, runs
 /// of blanks one, blanks the separator, points commas. A comma is a decimal mark, never a separator.
 EFV_API CString NormalizarValores(std::wstring_view texto, wchar_t separador);

@@ -52,6 +52,11 @@ std::optional<CString> LeerFicheroDeValores(const CString& csRuta)
     return fichero::LeerTexto(csRuta);
 }
 
+std::optional<CString> TextoDeValores(std::string_view bytes)
+{
+    return fichero::TextoDeBytes(bytes);
+}
+
 CString NormalizarValores(std::wstring_view texto, wchar_t separador)
 {
     CString normal;

@@ -4,10 +4,8 @@
 
 #include <fmt/format.h>
 
-#include <quorvel/ficheros.h>
-#include <quorvel/mundo.h>
-
 #include "comun/consola.h"
+#include "comun/entrada.h"
 
 namespace efv::orden {
 
@@ -206,11 +204,9 @@ std::vector<FilaLista> AnalizarLista(std::string_view bytes)
 
 std::vector<FilaLista> LeerLista(const std::string& ruta)
 {
-    const LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, ruta, kFicheroMaximo);
-    if (!lectura.bytes)
-        throw ErrorEjecucion(fmt::format("no se puede leer «{}»: {}", ruta, lectura.motivo));
+    const std::string bytes = LeerEntrada(ruta, kFicheroMaximo);
     try {
-        return AnalizarLista(*lectura.bytes);
+        return AnalizarLista(bytes);
     } catch (const ErrorEjecucion& error) {
         throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
     }

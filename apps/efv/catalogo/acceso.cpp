@@ -75,18 +75,17 @@ CString OpcionesCatalogo::Ruta(const TipoCatalogo& tipo) const
 }
 
 CatalogoAbierto::CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta)
-    : m_tipo(tipo), m_base(tipo.CrearBase())
+    : m_tipo(tipo), m_ruta(CadenaUtf8(csRuta)), m_base(tipo.CrearBase())
 {
-    const std::string ruta = CadenaUtf8(csRuta);
     std::error_code fallo;
-    if (!std::filesystem::exists(ruta, fallo))
-        throw ErrorEjecucion(fmt::format("no existe el catálogo «{}»", ruta));
+    if (!std::filesystem::exists(m_ruta, fallo))
+        throw ErrorEjecucion(fmt::format("no existe el catálogo «{}»", m_ruta));
     if (m_base->Cargar(csRuta) == 0)
         throw ErrorEjecucion(
-            fmt::format("el catálogo «{}» no se puede leer: {}", ruta, MotivoDocumentoIlegible(csRuta)));
+            fmt::format("el catálogo «{}» no se puede leer: {}", m_ruta, MotivoDocumentoIlegible(csRuta)));
     m_modelos = tipo.Modelos(*m_base);
     if (m_modelos.empty())
-        throw ErrorEjecucion(fmt::format("el catálogo «{}» no tiene ningún modelo", ruta));
+        throw ErrorEjecucion(fmt::format("el catálogo «{}» no tiene ningún modelo", m_ruta));
 }
 
 std::string CatalogoAbierto::Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const

@@ -59,6 +59,8 @@ public:
     CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta);
 
     const TipoCatalogo& Tipo() const { return m_tipo; }
+    /// The file's path.
+    const std::string& Ruta() const { return m_ruta; }
     /// All models in file order.
     const Modelos& Todos() const { return m_modelos; }
 
@@ -73,6 +75,7 @@ private:
     std::string Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const;
 
     const TipoCatalogo& m_tipo;
+    std::string m_ruta;
     std::unique_ptr<CBaseXML> m_base;
     Modelos m_modelos;
 };

@@ -12,8 +12,8 @@
 #include "catalogo/grupo_ordenes.h"
 #include "catalogo/informes.h"
 #include "comun/consola.h"
-#include "comun/ficheros_nuevos.h"
 #include "comun/numeros.h"
+#include "comun/salidas.h"
 
 namespace efv::orden {
 
@@ -118,10 +118,11 @@ private:
     {
         if (m_separador != ";" && m_separador != ",")
             throw ErrorUso(fmt::format("--separador: se esperaba «;» o «,», llegó «{}»", m_separador));
-        if (m_salida && m_salida->empty())
-            throw ErrorUso("--salida: el nombre está vacío");
         const CatalogoAbierto catalogo = Abrir();
-        if (!m_salida) {
+        Salidas salidas({catalogo.Ruta()});
+        if (m_salida)
+            salidas.Anadir("--salida", *m_salida);
+        if (!m_salida || salidas.EnLaSalida()) {
             EscribirModelosCsv(salida, Tipo(), Elegidos(catalogo), m_separador.front());
             return 0;
         }
@@ -130,8 +131,7 @@ private:
         // A text stream keeps a want of memory to itself.
         if (!csv)
             throw std::bad_alloc();
-        const std::filesystem::path ruta = std::filesystem::absolute(*m_salida);
-        EscribirFicheros(ruta.parent_path(), {{ruta.filename().string(), std::move(csv).str()}});
+        salidas.Escribir({std::move(csv).str()}, salida);
         return 0;
     }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <filesystem>
 #include <functional>
 #include <numeric>
 #include <span>
@@ -18,9 +17,10 @@
 #include <quorvel/solar/energia.h>
 
 #include "clima/servicio.h"
-#include "comun/ficheros_nuevos.h"
+#include "comun/entrada.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/salidas.h"
 #include "energia/campo.h"
 #include "inclinacion/sitio.h"
 
@@ -29,9 +29,9 @@ namespace efv::orden {
 namespace {
 
 using Json = nlohmann::ordered_json;
-namespace fs = std::filesystem;
 
 constexpr std::size_t kHorasAno = 8760;
+constexpr std::size_t kRegistroMaximo = std::size_t{16} << 20;
 constexpr const char* kDesfase =
     "· El registro toma las horas UTC por solares: desde 7,5° de longitud, el sol no concuerda con la "
     "radiación.\n";
@@ -43,7 +43,7 @@ void CargarRegistro(const std::string& ruta)
     if (ruta.empty())
         throw ErrorUso("falta el fichero del registro climático");
     CString csError;
-    if (!clima::CargarRegistroClimatico(CadenaDesdeUtf8(ruta), csError))
+    if (!clima::TomarRegistroClimatico(LeerEntrada(ruta, kRegistroMaximo), csError))
         throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, CadenaUtf8(csError)));
 }
 
@@ -149,7 +149,7 @@ public:
     {
         for (const auto& [orden, trabajo] : m_trabajos) {
             if (orden->parsed()) {
-                salida << (this->*trabajo)();
+                salida << (this->*trabajo)(salida);
                 return 0;
             }
         }
@@ -157,7 +157,7 @@ public:
     }
 
 private:
-    using Trabajo = std::string (SubordenClima::*)();
+    using Trabajo = std::string (SubordenClima::*)(std::ostream&);
 
     CLI::App& Orden(CLI::App& linea, const char* nombre, const char* descripcion, Trabajo trabajo)
     {
@@ -209,11 +209,12 @@ private:
             ->option_text(" ");
     }
 
-    std::string Descargar()
+    std::string Descargar(std::ostream& salida)
     {
-        const fs::path ruta(m_fichero);
-        if (!ruta.has_filename())
+        if (m_fichero.empty())
             throw ErrorUso("falta el nombre del fichero (ayuda: efv clima descargar --help)");
+        Salidas salidas({});
+        salidas.Anadir("FICHERO", m_fichero);
         const PuntoPedido punto = m_servicio.LeerPunto();
         const bool bEpw = m_fichero.ends_with("epw");
         const double dCabecera = LeerAcotado("--cabecera", m_cabecera, -1e9, 1e9);
@@ -232,12 +233,11 @@ private:
         } else if (!contenido.starts_with("LOCATION,")) {
             throw ErrorEjecucion("la respuesta de PVGIS no es un fichero EPW");
         }
-        EscribirFicheros(ruta.has_parent_path() ? ruta.parent_path() : fs::path("."),
-                         {{ruta.filename().string(), std::move(contenido)}});
-        return texto;
+        salidas.Escribir({std::move(contenido)}, salida);
+        return salidas.EnLaSalida() ? std::string() : texto;
     }
 
-    std::string Mensual()
+    std::string Mensual(std::ostream& /*salida*/)
     {
         const PuntoPedido punto = m_servicio.LeerPunto();
         const std::string respuesta = m_servicio.Consultar(solar::ConsultaPVGIS::radiacionMensual, punto);
@@ -263,7 +263,7 @@ private:
             punto.Nombre(), punto.dLatitud, lista, punto.dLatitud, redondeadas.dump());
     }
 
-    std::string Ver()
+    std::string Ver(std::ostream& /*salida*/)
     {
         CargarRegistro(m_fichero);
         const auto sumas = SumasDe(AnoDelRegistro(0.0, 0.0));
@@ -282,7 +282,7 @@ private:
                (std::abs(datos->dLongitud) >= solar::kLongitudSinDesfase ? kDesfase : "");
     }
 
-    std::string Plano()
+    std::string Plano(std::ostream& /*salida*/)
     {
         const double dInclinacion = m_plano.Inclinacion();
         const double dOrientacion = m_plano.Orientacion();
@@ -290,7 +290,7 @@ private:
         return m_plano.Texto(AnoDelRegistro(dInclinacion, dOrientacion));
     }
 
-    std::string Cielo()
+    std::string Cielo(std::ostream& /*salida*/)
     {
         const double dInclinacion = m_plano.Inclinacion();
         const double dOrientacion = m_plano.Orientacion();

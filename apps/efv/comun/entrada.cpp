@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
 #include <optional>
 
 #include <fmt/format.h>
@@ -17,14 +18,17 @@ namespace efv::orden {
 
 namespace {
 
-std::optional<std::string> LeerFlujo(const std::string& ruta, std::size_t maximo)
+constexpr std::string_view kEntrada = "-";
+
+std::optional<std::string> LeerFlujo(std::istream& flujo, std::size_t maximo)
 {
-    std::ifstream flujo(ruta, std::ios::binary);
     std::string bytes(maximo + 1, '\0');
     flujo.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(std::max<std::streamsize>(flujo.gcount(), 0)));
     return bytes.size() > maximo ? std::nullopt : std::optional(std::move(bytes));
 }
+
+}  // namespace
 
 bool EsFlujo(const std::string& ruta)
 {
@@ -33,13 +37,14 @@ bool EsFlujo(const std::string& ruta)
     return std::filesystem::is_fifo(estado) || std::filesystem::is_character_file(estado);
 }
 
-}  // namespace
-
 std::string LeerEntrada(const std::string& ruta, std::size_t maximo)
 {
     LecturaFichero lectura;
-    if (EsFlujo(ruta)) {
-        lectura.bytes = LeerFlujo(ruta, maximo);
+    if (ruta == kEntrada || EsFlujo(ruta)) {
+        std::ifstream flujo;
+        if (ruta != kEntrada)
+            flujo.open(ruta, std::ios::binary);
+        lectura.bytes = LeerFlujo(ruta == kEntrada ? std::cin : flujo, maximo);
         if (!lectura.bytes)
             lectura.motivo = fmt::format("da más de {} MiB", maximo >> 20U);
     } else {

@@ -1,5 +1,7 @@
 #include "comun/salida_limpia.h"
 
+#include "comun/consola.h"
+
 namespace efv::orden {
 
 SalidaLimpia::int_type SalidaLimpia::overflow(int_type c)
@@ -22,12 +24,28 @@ int SalidaLimpia::sync()
     return Escribir() ? m_destino.pubsync() : -1;
 }
 
+bool SalidaLimpia::EscribirSinFiltro(std::string_view bytes)
+{
+    const auto n = static_cast<std::streamsize>(bytes.size());
+    return sync() >= 0 && m_destino.sputn(bytes.data(), n) == n;
+}
+
 bool SalidaLimpia::Escribir()
 {
     const auto n = static_cast<std::streamsize>(m_limpio.size());
     const bool bEscrito = m_destino.sputn(m_limpio.data(), n) == n;
     m_limpio.clear();
     return bEscrito;
+}
+
+void EscribirSinFiltro(std::ostream& salida, std::string_view bytes)
+{
+    auto* limpia = dynamic_cast<SalidaLimpia*>(salida.rdbuf());
+    const bool bEscrito = limpia != nullptr
+                              ? limpia->EscribirSinFiltro(bytes)
+                              : !salida.write(bytes.data(), static_cast<std::streamsize>(bytes.size())).fail();
+    if (!bEscrito)
+        throw ErrorEjecucion("no se puede escribir la salida");
 }
 
 }  // namespace efv::orden

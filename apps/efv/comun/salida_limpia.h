@@ -1,8 +1,10 @@
 // The commands' standard output, without anything that would steer a terminal.
 #pragma once
 
+#include <ostream>
 #include <streambuf>
 #include <string>
+#include <string_view>
 
 #include <quorvel/terminal.h>
 
@@ -12,6 +14,9 @@ namespace efv::orden {
 class SalidaLimpia final : public std::streambuf {
 public:
     explicit SalidaLimpia(std::streambuf& destino) : m_destino(destino) {}
+
+    /// Bytes that aren't for a terminal, as they are. @return whether they could be written
+    bool EscribirSinFiltro(std::string_view bytes);
 
 protected:
     int_type overflow(int_type c) override;
@@ -25,5 +30,9 @@ private:
     Depurador m_depurador;
     std::string m_limpio;
 };
+
+/// A file's content as the command's output: byte by byte, whatever it holds.
+/// @throws ErrorEjecucion when it can't be written
+void EscribirSinFiltro(std::ostream& salida, std::string_view bytes);
 
 }  // namespace efv::orden

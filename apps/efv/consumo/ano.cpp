@@ -17,6 +17,7 @@ namespace efv::orden {
 namespace {
 
 constexpr wchar_t kSeparador = L';';
+constexpr std::size_t kMaximoTexto = std::size_t{16} << 20;
 constexpr std::size_t kMaximoJson = std::size_t{64} << 20;
 constexpr double kWhPorKWh = 1000.0;
 
@@ -42,12 +43,11 @@ void ComprobarValores(std::wstring_view texto, const std::string& ruta)
     }
 }
 
-CString TextoDeValores(const std::string& ruta)
+CString LeerNormal(const std::string& ruta)
 {
-    const auto texto = LeerFicheroDeValores(CadenaDesdeUtf8(ruta));
+    const auto texto = TextoDeValores(LeerEntrada(ruta, kMaximoTexto));
     if (!texto)
-        throw ErrorEjecucion(
-            fmt::format("no se puede leer «{}»: no existe, no es texto o pasa de 16 MiB", ruta));
+        throw ErrorEjecucion(fmt::format("no se puede leer «{}»: no es texto", ruta));
     CString normal = NormalizarValores(*texto, kSeparador);
     normal.erase(0, normal.find_first_not_of(kSeparador));
     if (normal.empty())
@@ -79,7 +79,7 @@ AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, 
 {
     // Months of quarter hours hold four values an hour here, whatever the screens make of them.
     const int nEsperados = HorasDePeriodo(formato.iPeriodo).Horas() * (formato.bCuartosDeHora ? 4 : 1);
-    const std::vector<double> valores = LeerValores(TextoDeValores(ruta), kSeparador, nEsperados + 1);
+    const std::vector<double> valores = LeerValores(LeerNormal(ruta), kSeparador, nEsperados + 1);
     const int nLeidos = static_cast<int>(valores.size());
     if (nLeidos > nEsperados)
         throw ErrorEjecucion(fmt::format(

@@ -10,9 +10,9 @@
 #include <quorvel/solar.h>
 
 #include "catalogo/ficha.h"
-#include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/salidas.h"
 #include "consumo/ano.h"
 #include "consumo/vistas.h"
 
@@ -131,6 +131,7 @@ private:
 
     // How the year goes out, as asked for.
     struct Salida {
+        Salidas ficheros;
         Vista vista = Vista::ano;
         int iMes = 0, iDia = 0;
     };
@@ -281,9 +282,11 @@ private:
     {
         if (!m_svg && (m_vista || m_mes || m_dia))
             throw ErrorUso("--vista, --mes y --dia necesitan --svg");
-        if (m_svg && (m_bJson || m_svg->empty()))
-            throw ErrorUso(m_bJson ? "--svg y --json se excluyen" : "--svg: el nombre está vacío");
-        Salida como;
+        if (m_svg && m_bJson)
+            throw ErrorUso("--svg y --json se excluyen");
+        Salida como{Salidas({m_palabra})};
+        if (m_svg)
+            como.ficheros.Anadir("--svg", *m_svg);
         como.vista = Elegir("--vista", m_vista.value_or("ano"), kVistas);
         como.iMes = LeerEntero("--mes", m_mes.value_or("1"), 1, 12) - 1;
         como.iDia = LeerEntero("--dia", m_dia.value_or("1"), 1, HorasDePeriodo(como.iMes).Horas() / 24) - 1;
@@ -296,13 +299,11 @@ private:
             salida << (m_bJson ? InformeJson(ano) : InformeCsv(ano));
             return;
         }
-        const std::filesystem::path ruta(*m_svg);
-        const auto escritos =
-            EscribirFicheros(ruta.has_parent_path() ? ruta.parent_path() : std::filesystem::path("."),
-                             {{ruta.filename().string(), DibujarAno(ano, como.vista, como.iMes, como.iDia)}});
-        salida << fmt::format("{}\nEnergía del año: {} kWh\nGráfica escrita: {}\n", EnUnaLinea(ano.origen),
-                              Decimal(SumaDeHoras(*ano.horas, HorasDePeriodo(12)) / 1000.0, 2),
-                              EnUnaLinea(escritos.at(0).lexically_normal().string()));
+        como.ficheros.Escribir({DibujarAno(ano, como.vista, como.iMes, como.iDia)}, salida);
+        if (!como.ficheros.EnLaSalida())
+            salida << fmt::format("{}\nEnergía del año: {} kWh\nGráfica escrita: {}\n", EnUnaLinea(ano.origen),
+                                  Decimal(SumaDeHoras(*ano.horas, HorasDePeriodo(12)) / 1000.0, 2),
+                                  EnUnaLinea(*m_svg));
     }
 
     std::vector<std::pair<CLI::App*, Calculo>> m_ordenes;

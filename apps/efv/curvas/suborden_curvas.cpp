@@ -15,9 +15,9 @@
 
 #include "catalogo/acceso.h"
 #include "catalogo/ficha.h"
-#include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/salidas.h"
 
 namespace efv::orden {
 
@@ -121,12 +121,14 @@ struct Familias {
     GraficasPanel irradiacion;  // constant irradiance
 };
 
-std::vector<FicheroNuevo> Svg(const Familias& familias, const std::string& base)
+constexpr std::array kSufijos = {"_T_constante_IV.svg", "_T_constante_PI.svg", "_G_constante_IV.svg",
+                                 "_G_constante_PI.svg"};
+
+// In the order of kSufijos.
+std::vector<std::string> Svg(const Familias& familias)
 {
-    return {{base + "_T_constante_IV.svg", ui::EscribirSvg(familias.temperatura.corriente)},
-            {base + "_T_constante_PI.svg", ui::EscribirSvg(familias.temperatura.potencia)},
-            {base + "_G_constante_IV.svg", ui::EscribirSvg(familias.irradiacion.corriente)},
-            {base + "_G_constante_PI.svg", ui::EscribirSvg(familias.irradiacion.potencia)}};
+    return {ui::EscribirSvg(familias.temperatura.corriente), ui::EscribirSvg(familias.temperatura.potencia),
+            ui::EscribirSvg(familias.irradiacion.corriente), ui::EscribirSvg(familias.irradiacion.potencia)};
 }
 
 class SubordenCurvas final : public Suborden {
@@ -136,9 +138,7 @@ public:
         CLI::App& linea = *raiz.add_subcommand("curvas", "Valores típicos y curvas I-V y P-I de un módulo");
         Castellanizar(linea);
         linea.add_option("ID", m_id, "FAMILIA#MODELO, o el modelo solo")->option_text(" ");
-        linea
-            .add_option("--salida", m_carpeta,
-                        "Carpeta de las cuatro gráficas SVG, que se crea si falta; sin ella, la actual")
+        linea.add_option("--salida", m_carpeta, "Carpeta de las cuatro gráficas SVG; sin ella, la actual")
             ->type_name("CARPETA");
         linea
             .add_flag("--json", m_bJson,
@@ -161,11 +161,15 @@ public:
         const CatalogoAbierto catalogo(modulos, m_catalogo.Ruta(modulos));
         const auto& modelo = static_cast<const CBasePanelFotoModelo&>(catalogo.Buscar(m_id));
         const Familias familias{GraficasATemperaturaConstante(modelo), GraficasAIrradiacionConstante(modelo)};
-        std::vector<std::filesystem::path> escritos;
-        if (!m_bJson || m_carpeta)
-            escritos =
-                EscribirFicheros(m_carpeta.value_or("."),
-                                 Svg(familias, NombreDeFichero(modelo.csFamilia + L'_' + modelo.csModelo)));
+        std::vector<std::string> escritos;
+        if (!m_bJson || m_carpeta) {
+            const auto base = std::filesystem::path(m_carpeta.value_or(".")) /
+                              NombreDeFichero(modelo.csFamilia + L'_' + modelo.csModelo);
+            Salidas salidas({catalogo.Ruta()});
+            for (const char* sufijo : kSufijos)
+                salidas.Anadir("--salida", base.lexically_normal().string() + sufijo);
+            escritos = salidas.Escribir(Svg(familias), salida);
+        }
         if (m_bJson)
             salida << InformeJson(modelo, familias, escritos);
         else
@@ -175,20 +179,17 @@ public:
 
 private:
     static std::string InformeTexto(const CBasePanelFotoModelo& modelo,
-                                    const std::vector<std::filesystem::path>& escritos)
+                                    const std::vector<std::string>& escritos)
     {
         std::string texto = ValoresTexto(modelo) + "\nGráficas escritas:\n";
         for (const auto& ruta : escritos)
-            texto += fmt::format("  {}\n", EnUnaLinea(ruta.lexically_normal().string()));
+            texto += fmt::format("  {}\n", EnUnaLinea(ruta));
         return texto;
     }
 
     static std::string InformeJson(const CBasePanelFotoModelo& modelo, const Familias& familias,
-                                   const std::vector<std::filesystem::path>& escritos)
+                                   const std::vector<std::string>& escritos)
     {
-        Json ficheros = Json::array();
-        for (const auto& ruta : escritos)
-            ficheros.push_back(ruta.lexically_normal().string());
         return TextoJson(
             {{"id", CadenaUtf8(Identificacion(modelo))},
              {"valores",
@@ -197,7 +198,7 @@ private:
              {"curvas",
               {{"temperatura_constante", CurvasJson(familias.temperatura, kATemperaturaConstante)},
                {"irradiacion_constante", CurvasJson(familias.irradiacion, kAIrradiacionConstante)}}},
-             {"ficheros", ficheros}});
+             {"ficheros", escritos}});
     }
 
     OpcionesCatalogo m_catalogo;

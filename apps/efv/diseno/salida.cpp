@@ -89,13 +89,14 @@ JsonEscrito AnoJson(const solar::AnoEnergia& ano, const solar::DoceMeses* necesa
 JsonEscrito PlanosJson(const solar::EnergiaPlanos& energia)
 {
     JsonEscrito planos = JsonEscrito::array();
-    for (const auto& [plano, ano, alEcuador] : energia.planos)
+    for (const auto& [plano, ano, alEcuador] : energia.planos) {
         planos.push_back({{"inclinacion", plano.dInclinacion},
                           {"orientacion", plano.dOrientacion},
                           {"parte", plano.dParte},
                           {"energia_kWh", NumeroJson(ano.Energia())},
                           {"hacia_el_ecuador_kWh", NumeroJson(alEcuador.Energia())},
                           {"meses", AnoJson(ano, nullptr)}});
+    }
     return {{"origen", energia.origen == solar::OrigenHoras::registro ? "registro" : "cielo"},
             {"energia_kWh", NumeroJson(energia.Energia())},
             {"hacia_el_ecuador_kWh", NumeroJson(energia.EnergiaAlEcuador())},

@@ -1,6 +1,5 @@
 #include "diseno/suborden_diseno.h"
 
-#include <filesystem>
 #include <optional>
 
 #include <fmt/format.h>
@@ -11,9 +10,9 @@
 #include <quorvel/report/informe.h>
 
 #include "comun/datos.h"
-#include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/salidas.h"
 #include "diseno/ayuda_campos.h"
 #include "diseno/diseno.h"
 
@@ -21,7 +20,6 @@ namespace efv::orden {
 
 namespace {
 
-namespace fs = std::filesystem;
 
 // What tells one command from the other.
 struct Clase {
@@ -107,13 +105,6 @@ constexpr Clase kVenta = {
     &CSFVCalculoEconomico::GetThisClass,
     true};
 
-void Guardar(const std::string& ruta, std::string contenido)
-{
-    const fs::path fichero(ruta);
-    EscribirFicheros(fichero.has_parent_path() ? fichero.parent_path() : fs::path("."),
-                     {{fichero.filename().string(), std::move(contenido)}});
-}
-
 class SubordenDiseno final : public Suborden {
 public:
     explicit SubordenDiseno(const Clase& clase) : m_clase(clase) {}
@@ -151,19 +142,18 @@ public:
     {
         if (m_proyecto.empty())
             throw ErrorUso(fmt::format("falta el fichero de proyecto (ayuda: efv {} --help)", m_clase.nombre));
-        for (const auto& [nombre, ruta] : {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}})
-            if (*ruta && !fs::path(**ruta).has_filename())
-                throw ErrorUso(fmt::format("{}: falta el nombre del fichero", nombre));
-        Diseno diseno = Disenar();
-        std::vector<std::string> escritos;
-        if (m_guardar) {
-            Guardar(*m_guardar, {reinterpret_cast<const char*>(diseno.archivo.data()), diseno.archivo.size()});
-            escritos.push_back(*m_guardar);
-        }
-        if (m_informe) {
-            Guardar(*m_informe, report::DocumentoHtml(diseno.documento, report::FechaDeHoy()));
-            escritos.push_back(*m_informe);
-        }
+        const JsonLeido proyecto = LeerFicheroJson(m_proyecto);
+        const Salidas salidas = LeerSalidas(proyecto);
+        Diseno diseno = Disenar(proyecto);
+        std::vector<std::string> contenidos;
+        if (m_guardar)
+            contenidos.emplace_back(reinterpret_cast<const char*>(diseno.archivo.data()),
+                                    diseno.archivo.size());
+        if (m_informe)
+            contenidos.push_back(report::DocumentoHtml(diseno.documento, report::FechaDeHoy()));
+        const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
+        if (salidas.EnLaSalida())
+            return 0;
         if (m_bJson) {
             diseno.valores["ficheros"] = escritos;
             salida << diseno.valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
@@ -180,9 +170,23 @@ public:
     }
 
 private:
-    Diseno Disenar() const
+    // What the run reads may not be what it writes: the project, and the climate record that it names.
+    Salidas LeerSalidas(const JsonLeido& proyecto) const
     {
-        const JsonLeido proyecto = LeerFicheroJson(m_proyecto);
+        std::vector<std::string> entradas{m_proyecto};
+        if (proyecto.is_object() && proyecto.contains("clima") && proyecto["clima"].is_string())
+            entradas.push_back(proyecto["clima"].get<std::string>());
+        Salidas salidas(std::move(entradas));
+        for (const auto& [opcion, ruta] : {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}})
+            if (*ruta)
+                salidas.Anadir(opcion, **ruta);
+        if (salidas.EnLaSalida() && (m_bJson || m_bCsv))
+            throw ErrorUso(fmt::format("{} y un fichero «-» se excluyen", m_bJson ? "--json" : "--csv"));
+        return salidas;
+    }
+
+    Diseno Disenar(const JsonLeido& proyecto) const
+    {
         try {
             return m_clase.disenar(proyecto, m_datos);
         } catch (const rpc::ErrorValor& error) {

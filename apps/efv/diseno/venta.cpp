@@ -69,11 +69,12 @@ ProyectoVenta LeerProyecto(const JsonLeido& j, const std::string& csDatos)
     proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);
     if (objeto.Buscar("lugar") != nullptr || objeto.Buscar("latitud") != nullptr || !proyecto.EnergiaDada())
         proyecto.lugar = LeerLugar(objeto, csDatos, !proyecto.EnergiaDada());
-    if (const JsonLeido* inclinacion = objeto.Buscar("dInclinacion"); inclinacion != nullptr)
+    if (const JsonLeido* inclinacion = objeto.Buscar("dInclinacion"); inclinacion != nullptr) {
         rpc::NombrarLugar([] { return "dInclinacion"; },
                           [&] {
                               proyecto.dInclinacion = LeerNumero(*inclinacion, {0.0, 90.0});
                           });
+    }
     objeto.Terminar();
     if (!proyecto.fijados.contains("dPotenciaGenerador") &&
         (!proyecto.EnergiaDada() || !proyecto.fijados.contains("dCosteInstalacion")))

@@ -42,11 +42,11 @@ void AnotarCampo(Estudio& estudio)
     if (campo.dOrientacion != campo.OrientacionEcuador())
         orientacion += fmt::format(", aunque se pida {}°", DecimalExacto(campo.dOrientacion));
     estudio.notas.push_back(orientacion + ": la energía con la orientación se calcula aparte, hora a hora.");
-    if (estudio.encargo.origen == solar::OrigenHoras::cielo)
+    if (estudio.encargo.origen == solar::OrigenHoras::cielo) {
         estudio.notas.emplace_back(
             "El cielo despejado reparte la radiación de cada mes entre los planos; su parte directa es mayor "
-            "que la de "
-            "un cielo real, y la orientación pesa algo más.");
+            "que la de un cielo real, y la orientación pesa algo más.");
+    }
     if (!campo.bNorte && estudio.correlacion) {
         estudio.notas.push_back(
             fmt::format("Hemisferio sur: la correlación inclina hacia el sur, por lo que se consulta con {}° "

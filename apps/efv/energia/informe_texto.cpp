@@ -108,11 +108,13 @@ std::string Orientada(const solar::EnergiaPlanos& energia)
     const double dPerdida = energia.Perdida() * 100.0;
     texto += std::isfinite(dPerdida) ? fmt::format(": la orientación quita el {} %.\n", Decimal(dPerdida, 1))
                                      : ".\n";
-    if (energia.planos.size() > 1)
-        for (const auto& [plano, ano, alEcuador] : energia.planos)
+    if (energia.planos.size() > 1) {
+        for (const auto& [plano, ano, alEcuador] : energia.planos) {
             texto += fmt::format("  {}° hacia {}°, {} % de la potencia: {} kWh\n",
                                  DecimalExacto(plano.dInclinacion), DecimalExacto(plano.dOrientacion),
                                  DecimalExacto(plano.dParte * 100.0), Decimal(ano.Energia(), 2));
+        }
+    }
     return texto;
 }
 

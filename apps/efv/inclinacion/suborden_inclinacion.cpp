@@ -1,7 +1,6 @@
 #include "inclinacion/suborden_inclinacion.h"
 
 #include <cmath>
-#include <filesystem>
 #include <optional>
 
 #include <fmt/format.h>
@@ -11,9 +10,9 @@
 #include <quorvel/solar.h>
 #include <quorvel/solar/inclinacion.h>
 
-#include "comun/ficheros_nuevos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/salidas.h"
 #include "energia/campo.h"
 #include "inclinacion/mapa_perdidas.h"
 #include "inclinacion/sitio.h"
@@ -23,7 +22,6 @@ namespace efv::orden {
 namespace {
 
 using Json = nlohmann::ordered_json;
-namespace fs = std::filesystem;
 
 constexpr std::size_t kAno = 12;
 constexpr int kAnoPerdidas = -1;  // the losses call the year so, the search 12
@@ -181,6 +179,11 @@ public:
 
     int Ejecutar(std::ostream& salida) override
     {
+        Salidas salidas({});
+        if (m_svg)
+            salidas.Anadir("--svg", *m_svg);
+        if (m_bJson && salidas.EnLaSalida())
+            throw ErrorUso("--json y --svg - se excluyen");
         Resultado r;
         r.sitio = m_sitio.Leer();
         LeerPlano(r);
@@ -188,8 +191,12 @@ public:
         r.optimas = solar::InclinacionesOptimas(clima::BibliotecaActual(), r.sitio.Cielo(),
                                                 r.sitio.OrientacionAlEcuador());
         CalcularPerdidas(r);
-        EscribirMapa(r);
-        salida << (m_bJson ? InformeJson(r) : InformeTexto(r));
+        if (m_svg) {
+            salidas.Escribir({Mapa(r)}, salida);
+            r.svg = *m_svg;
+        }
+        if (!salidas.EnLaSalida())
+            salida << (m_bJson ? InformeJson(r) : InformeTexto(r));
         return 0;
     }
 
@@ -258,20 +265,13 @@ private:
         }
     }
 
-    void EscribirMapa(Resultado& r) const
+    static std::string Mapa(const Resultado& r)
     {
-        if (!m_svg)
-            return;
-        const fs::path ruta(*m_svg);
-        if (!ruta.has_filename())
-            throw ErrorUso("--svg: falta el nombre del fichero");
-        const std::string titulo = fmt::format(
-            "Pérdidas del año por inclinación y orientación, latitud {}º{}", Decimal(r.sitio.dLatitud, 2),
-            r.sitio.lugar ? " (" + CadenaUtf8(r.sitio.lugar->csNombre) + ")" : "");
-        EscribirFicheros(
-            ruta.has_parent_path() ? ruta.parent_path() : fs::path("."),
-            {{ruta.filename().string(), MapaDePerdidas(r.sitio, r.optimas[kAno].dRadiacion, titulo)}});
-        r.svg = *m_svg;
+        std::string titulo = fmt::format("Pérdidas del año por inclinación y orientación, latitud {}º",
+                                         Decimal(r.sitio.dLatitud, 2));
+        if (r.sitio.lugar)
+            titulo += fmt::format(" ({})", CadenaUtf8(r.sitio.lugar->csNombre));
+        return MapaDePerdidas(r.sitio, r.optimas[kAno].dRadiacion, titulo);
     }
 
     OpcionesSitio m_sitio;

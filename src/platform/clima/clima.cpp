@@ -90,6 +90,19 @@ BibliotecaClima*& EnUso()
     return enUso;
 }
 
+// Reads bytes into `destino` with `leer`.
+template <class T>
+bool Tomar(std::optional<T>& destino, std::string_view bytes, CString& csError, T (*leer)(std::string_view))
+{
+    try {
+        destino = leer(bytes);
+        return true;
+    } catch (const FicheroInvalido& error) {
+        csError = CadenaDesdeUtf8(error.what());
+        return false;
+    }
+}
+
 // Reads a file into `destino` with `leer`; an empty path empties it.
 template <class T>
 bool Cargar(std::optional<T>& destino, const CString& csRuta, CString& csError, T (*leer)(std::string_view))
@@ -98,18 +111,12 @@ bool Cargar(std::optional<T>& destino, const CString& csRuta, CString& csError, 
         destino.reset();
         return true;
     }
-    try {
-        const auto bytes = fichero::LeerFichero(csRuta, kMaximoFicheroClima);
-        if (!bytes) {
-            csError = L"no se puede leer (no existe, no es un fichero corriente o pasa de 16 MiB)";
-            return false;
-        }
-        destino = leer(*bytes);
-        return true;
-    } catch (const FicheroInvalido& error) {
-        csError = CadenaDesdeUtf8(error.what());
+    const auto bytes = fichero::LeerFichero(csRuta, kMaximoFicheroClima);
+    if (!bytes) {
+        csError = L"no se puede leer (no existe, no es un fichero corriente o pasa de 16 MiB)";
+        return false;
     }
-    return false;
+    return Tomar(destino, *bytes, csError, leer);
 }
 
 }  // namespace
@@ -129,6 +136,11 @@ BibliotecaClima& BibliotecaActual()
 bool CargarRegistroClimatico(const CString& csRuta, CString& csError)
 {
     return Cargar(Propia().registro, csRuta, csError, &RegistroClimatico::Leer);
+}
+
+bool TomarRegistroClimatico(std::string_view bytes, CString& csError)
+{
+    return Tomar(Propia().registro, bytes, csError, &RegistroClimatico::Leer);
 }
 
 std::optional<DatosRegistro> RegistroCargado()

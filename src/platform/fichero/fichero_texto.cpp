@@ -60,9 +60,12 @@ CString Decodificar(std::string_view bytes)
 std::optional<CString> LeerTexto(const CString& csRuta)
 {
     const std::optional<std::string> bytes = LeerFichero(csRuta, kMaximo);
-    if (!bytes)
-        return std::nullopt;
-    const CString csTexto = Decodificar(*bytes);
+    return bytes ? TextoDeBytes(*bytes) : std::nullopt;
+}
+
+std::optional<CString> TextoDeBytes(std::string_view bytes)
+{
+    const CString csTexto = Decodificar(bytes);
     if (csTexto.find(L'\0') != CString::npos)
         return std::nullopt;
     return ConFinesDeLinea(csTexto);

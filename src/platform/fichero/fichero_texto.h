@@ -2,6 +2,7 @@
 #pragma once
 
 #include <optional>
+#include <string_view>
 
 #include <quorvel/framework/CString.h>
 
@@ -13,5 +14,8 @@ namespace efv::fichero {
 /// character)
 /// @throws CFileException as LeerFichero does
 std::optional<CString> LeerTexto(const CString& csRuta);
+
+/// The same of bytes that were read already.
+std::optional<CString> TextoDeBytes(std::string_view bytes);
 
 }  // namespace efv::fichero

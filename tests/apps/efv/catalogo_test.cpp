@@ -6,7 +6,7 @@
 #include <sstream>
 
 #include "apoyo.h"
-#include "comun/ficheros_nuevos.h"
+#include "comun/salidas.h"
 
 namespace efv::orden::pruebas {
 namespace {
@@ -215,6 +215,8 @@ TEST_F(OrdenCatalogo, LasGraficasSeEscribenEnteras)
         "_nergy_AB-360_x_G_constante_IV.svg", "_nergy_AB-360_x_G_constante_PI.svg"};
     OrdenJson({"curvas", "AB-360/x"});
     EXPECT_FALSE(fs::exists(base));
+    EsperarFallo({"curvas", "AB-360/x", "--salida", base}, 1, "no existe");
+    fs::create_directories(base);
     const Corrida corrida = Orden({"curvas", "AB-360/x", "--salida", base});
     EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
     EXPECT_EQ(nombres(), cuatro);

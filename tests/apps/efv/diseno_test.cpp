@@ -56,7 +56,7 @@ protected:
     }
     std::string Informe(const char* orden, const Json& proyecto)
     {
-        const std::string ruta = (m_carpeta.Ruta() / "sub/informe.html").string();
+        const std::string ruta = (m_carpeta.Ruta() / "informe.html").string();
         EXPECT_EQ(Disenar(orden, proyecto, {"--informe", ruta}).iEstado, 0);
         return LeerTodo(ruta);
     }

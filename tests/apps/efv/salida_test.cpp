@@ -1,17 +1,21 @@
 // What the commands write: to the terminal, to files, and where that can't be.
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <filesystem>
+#include <fstream>
+#include <thread>
 
 #include "apoyo.h"
 #include "comun/consola.h"
 #include "comun/ficheros_memoria.h"
-#include "comun/ficheros_nuevos.h"
 #include "comun/memoria_escasa.h"
 #include "comun/mundo_de_prueba.h"
 #include "comun/salida_limpia.h"
+#include "comun/salidas.h"
 
 namespace efv::orden::pruebas {
 namespace {
@@ -107,9 +111,18 @@ TEST(SalidaLlena, EsUnErrorEnTodasLasOrdenes)
     }
 }
 
-TEST(FicherosNuevos, CadaLlamadaAlDiscoQueFalla)
+std::vector<std::string> Escribir(const std::vector<std::string>& rutas,
+                                  const std::vector<std::string>& contenidos)
 {
-    const std::vector<FicheroNuevo> ficheros = {{"a.svg", "uno nuevo"}, {"b.svg", "dos nuevo"}};
+    Salidas salidas({});
+    for (const std::string& ruta : rutas)
+        salidas.Anadir("--salida", ruta);
+    std::ostringstream salida;
+    return salidas.Escribir(contenidos, salida);
+}
+
+TEST(Salidas, CadaLlamadaAlDiscoQueFalla)
+{
     bool bFallado = true;
     for (std::size_t n = 0; bFallado; ++n) {
         FicherosEnMemoria disco;
@@ -118,7 +131,7 @@ TEST(FicherosNuevos, CadaLlamadaAlDiscoQueFalla)
         const ConFicheros con(averiados);
         bool bHecho = true;
         try {
-            EscribirFicheros("/d", ficheros);
+            Escribir({"/d/a.svg", "/d/b.svg"}, {"uno nuevo", "dos nuevo"});
         } catch (const ErrorEjecucion& error) {
             bHecho = false;
             EXPECT_NE(std::string(error.what()).find("/d"), std::string::npos);
@@ -131,18 +144,17 @@ TEST(FicherosNuevos, CadaLlamadaAlDiscoQueFalla)
     }
 }
 
-TEST(FicherosNuevos, SinMemoriaEnCualquierSitio)
+TEST(Salidas, SinMemoriaEnCualquierSitio)
 {
     bool bFaltado = true;
     for (std::size_t n = 0; bFaltado; ++n) {
         FicherosEnMemoria disco;
         disco.Poner("/d/a.html", "viejo");
         const ConFicheros con(disco);
-        const std::vector<FicheroNuevo> ficheros = {{"a.html", "nuevo"}};
         bool bHecho = false;
         try {
             const MemoriaEscasa escasa(n);
-            bHecho = EscribirFicheros("/d", ficheros).size() == 1;
+            bHecho = Escribir({"/d/a.html"}, {"nuevo"}).size() == 1;
         } catch (const std::bad_alloc&) {
         } catch (const ErrorEjecucion&) {
         }
@@ -154,17 +166,68 @@ TEST(FicherosNuevos, SinMemoriaEnCualquierSitio)
     }
 }
 
-TEST(FicherosNuevos, LaCausaSeDice)
+TEST(Salidas, LaCausaSeDice)
 {
     FicherosEnMemoria disco;
     disco.nCapacidad = 3;
     const ConFicheros con(disco);
     try {
-        EscribirFicheros("/d", {{"a.html", "demasiado"}});
+        Escribir({"/d/a.html"}, {"demasiado"});
         ADD_FAILURE();
     } catch (const ErrorEjecucion& error) {
         EXPECT_STREQ(error.what(), "no se puede escribir «/d/a.html»: el disco está lleno");
     }
+}
+
+// What is read is never written, by whatever name, nor one file twice; a folder isn't made.
+TEST(Salidas, UnaSalidaNoEsLaEntradaNiOtraSalida)
+{
+    const CarpetaTemporal carpeta;
+    const std::string entrada = carpeta.Crear("p.json", "{}"), base = carpeta.Ruta().string();
+    std::filesystem::create_symlink("p.json", base + "/enlace");
+    std::filesystem::create_hard_link(entrada, base + "/otro_nombre");
+    for (const char* nombre : {"/p.json", "/./p.json", "/enlace", "/otro_nombre"}) {
+        Salidas salidas({entrada});
+        EXPECT_THROW(salidas.Anadir("--informe", base + nombre), ErrorUso) << nombre;
+    }
+    Salidas dos({entrada});
+    dos.Anadir("--informe", base + "/nuevo");
+    EXPECT_THROW(dos.Anadir("--guardar", base + "/./nuevo"), ErrorUso);
+    EXPECT_THROW(dos.Anadir("--guardar", base + "/"), ErrorUso);
+    EXPECT_THROW(Escribir({base + "/falta/x"}, {"x"}), ErrorEjecucion);
+    EXPECT_FALSE(std::filesystem::exists(base + "/falta"));
+}
+
+TEST(Salidas, ALaSalidaVaElContenidoSoloYByteAByte)
+{
+    std::ostringstream salida;
+    SalidaLimpia limpia(*salida.rdbuf());
+    std::ostream filtrada(&limpia);
+    Salidas salidas({"-"});
+    salidas.Anadir("--guardar", "-");
+    EXPECT_TRUE(salidas.EnLaSalida());
+    const std::string bytes("\0\x1b[2J\xff", 6);
+    filtrada << "antes";
+    salidas.Escribir({bytes}, filtrada);
+    EXPECT_EQ(salida.str(), "antes" + bytes);
+    EXPECT_THROW(salidas.Anadir("--informe", "-"), ErrorUso);
+}
+
+// Somebody reads at the other end; the pipe stays one, and a link leads where it led.
+TEST(Salidas, UnaTuberiaSeEscribeYUnEnlaceSigueSiendolo)
+{
+    const CarpetaTemporal carpeta;
+    const std::string tubo = (carpeta.Ruta() / "tubo").string(), enlace = (carpeta.Ruta() / "e").string();
+    ASSERT_EQ(::mkfifo(tubo.c_str(), 0600), 0);
+    std::filesystem::create_symlink("final", enlace);
+    std::string leido;
+    std::thread lector([&] { std::getline(std::ifstream(tubo), leido); });
+    Escribir({tubo, enlace}, {"por el tubo", "por el enlace"});
+    lector.join();
+    EXPECT_EQ(leido, "por el tubo");
+    EXPECT_TRUE(std::filesystem::is_fifo(tubo));
+    EXPECT_TRUE(std::filesystem::is_symlink(enlace));
+    EXPECT_EQ(std::filesystem::file_size(carpeta.Ruta() / "final"), 13U);
 }
 
 }  // namespace
