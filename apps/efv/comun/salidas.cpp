@@ -35,8 +35,8 @@ bool SonElMismo(const std::string& una, const std::string& otra)
         return false;
     if (fs::equivalent(una, otra, error))
         return true;
-    const fs::path completa = fs::weakly_canonical(una, error);
-    return !error && completa == fs::weakly_canonical(otra, error) && !error;
+    const fs::path completa = fs::weakly_canonical(fs::absolute(una), error);
+    return !error && completa == fs::weakly_canonical(fs::absolute(otra), error) && !error;
 }
 
 void EscribirFlujo(const std::string& ruta, std::string_view contenido)
@@ -93,8 +93,11 @@ std::vector<std::string> Salidas::Escribir(const std::vector<std::string>& conte
             try {
                 accion(i);
             } catch (const CFileException& error) {
-                throw ErrorEjecucion(
-                    fmt::format("no se puede escribir «{}»: {}", m_rutas[i], MotivoSinRuta(error, m_rutas[i])));
+                // To make a new file, only its folder can be missing.
+                const std::string motivo = error.m_cause == CFileException::noEncontrado
+                                               ? "no existe la carpeta"
+                                               : MotivoSinRuta(error, m_rutas[i]);
+                throw ErrorEjecucion(fmt::format("no se puede escribir «{}»: {}", m_rutas[i], motivo));
             }
         }
     };

@@ -194,6 +194,8 @@ TEST(Salidas, UnaSalidaNoEsLaEntradaNiOtraSalida)
     dos.Anadir("--informe", base + "/nuevo");
     EXPECT_THROW(dos.Anadir("--guardar", base + "/./nuevo"), ErrorUso);
     EXPECT_THROW(dos.Anadir("--guardar", base + "/"), ErrorUso);
+    dos.Anadir("--guardar", "un_fichero_que_no_esta");
+    EXPECT_THROW(dos.Anadir("--svg", "./un_fichero_que_no_esta"), ErrorUso);
     EXPECT_THROW(Escribir({base + "/falta/x"}, {"x"}), ErrorEjecucion);
     EXPECT_FALSE(std::filesystem::exists(base + "/falta"));
 }
