@@ -11,6 +11,7 @@
 #include <quorvel/economics.h>
 #include <quorvel/economics_calculo.h>
 #include <quorvel/electrical.h>
+#include <quorvel/elements.h>
 #include <quorvel/entradas.h>
 #include <quorvel/frame.h>
 #include <quorvel/framework.h>

@@ -5,6 +5,8 @@
 
 #include <QuorvelEFV.h>
 
+#include "rpc/errores.h"
+
 namespace efv::rpc {
 
 namespace {
@@ -33,9 +35,17 @@ int AbrirGeneradorTarifa(const CString& /*csDialogo*/)
     return economics::AbrirGeneradorTarifa();
 }
 
+int AbrirRotulacion(const CString& /*csDialogo*/, const CString& csClase, int& iRotulos)
+{
+    if (!elements::PropiedadesDe(csClase))
+        throw ErrorValor("csClase: se esperaba la clase del diálogo de un elemento");
+    return elements::EditarRotulos(csClase, iRotulos);
+}
+
 // Dialogs that no function reaches, by their class, which is their first argument.
 constexpr auto kDialogos = std::to_array<Funcion>({
     Funcion::De<&AbrirGeneradorTarifa>("CDlgGeneradorTarifa", "csDialogo"),
+    Funcion::De<&AbrirRotulacion>("CDlgRotulacion", "csDialogo, csClase, iRotulos"),
 });
 
 constexpr auto kFunciones = std::to_array<Funcion>({

@@ -217,6 +217,12 @@ void AbrirEntradas()
     EditarEntradas(entradas, 2, 6);
 }
 
+void AbrirRotulacion()
+{
+    int iRotulos = 0x0B;
+    elements::EditarRotulos(L"CDlgDatosInversor", iRotulos);
+}
+
 /// Hours of a house with its field and its battery: two elements and the whole.
 struct HorasDeMuestra {
     using Bloque = double[12][31][24];
@@ -341,6 +347,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          &AbrirCableado,
          {}},
         {"entradas", {"CDlgDatosEntrada", "CDlgItemEntrada"}, &AbrirEntradas, &Recorrer},
+        {"rotulacion", {"CDlgRotulacion"}, &AbrirRotulacion, {}},
     };
 }
 
