@@ -106,6 +106,7 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, "Instalación &aislada…", nullptr, [](Ventana& v) { DisenarAislada(v.LaSesion()); }},
     {kDiseno, "Conexión a &red…", nullptr, [](Ventana& v) { DisenarRed(v.LaSesion()); }},
     {kDiseno, "&Consumo…", nullptr, [](Ventana& v) { EditarConsumo(v.LaSesion()); }},
+    {kDiseno, "&Planos del campo…", nullptr, [](Ventana& v) { v.EditarPlanos(); }},
     {kDiseno, nullptr, nullptr, nullptr},
     {kDiseno, "I&nforme…", "Ctrl+I", &GuardarInformeALaVista},
     {kEconomia, "&Venta a la red…", nullptr, [](Ventana& v) { EstudiarVenta(v.LaSesion()); }},

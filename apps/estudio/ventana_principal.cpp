@@ -16,6 +16,7 @@
 
 #include "clima/estudios.h"
 #include "economia/estudios.h"
+#include "energia/planos.h"
 #include "ordenes.h"
 #include "proyecto/asistentes.h"
 
@@ -91,14 +92,14 @@ std::vector<const char*> VentanaPrincipal::Pestanas()
 VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     : m_sesion(SesionInicial(localidades)),
       m_lugar(m_sesion, localidades),
-      m_energia(m_sesion.Proyecto().lugar),
+      m_energia(m_sesion.Proyecto().lugar, [this] { EditarPlanos(); }),
       m_aislada(
           "PanelAislada", L"Asistente de &instalación aislada…",
-          [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto().aislada)}; },
+          [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto(), Diseno::aislada)}; },
           [this] { DisenarAislada(m_sesion); }),
       m_red(
           "PanelRed", L"Asistente de c&onexión a red…",
-          [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto().red)}; },
+          [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto(), Diseno::red)}; },
           [this] { DisenarRed(m_sesion); }),
       m_consumo(
           "PanelConsumo", L"Dat&os del consumo…",
@@ -196,6 +197,11 @@ void VentanaPrincipal::EstudiarInclinacion()
     Actualizar();
 }
 
+void VentanaPrincipal::EditarPlanos()
+{
+    estudio::EditarPlanos(m_sesion, m_energia.Campo());
+}
+
 void VentanaPrincipal::Atender(const std::function<void()>& accion)
 {
     try {
@@ -212,7 +218,7 @@ void VentanaPrincipal::Actualizar()
     setWindowModified(m_sesion.Modificado());
     m_lugar.Actualizar();
     CargarRegistroDelProyecto(m_sesion);
-    m_energia.Poner(proyecto.lugar, proyecto.situacion);
+    m_energia.Poner(proyecto.lugar, proyecto.situacion, proyecto.planos);
     for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo, &m_venta, &m_autoconsumo})
         panel->Actualizar();
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)

@@ -38,6 +38,8 @@ public:
     std::optional<Diseno> DisenoALaVista() const;
     /// The study of the tilt on the plane of the energy's panel, which takes the tilt that is accepted.
     void EstudiarInclinacion();
+    /// The planes of the field, with the power of the energy's panel.
+    void EditarPlanos();
     /// Runs it and tells the person what went wrong: an exception must not pass through Qt's loop.
     void Atender(const std::function<void()>& accion);
 

@@ -10,22 +10,29 @@ namespace efv::report {
 
 namespace {
 
-void ExigirModelo(const void* modelo, const CString& csId)
+// The first model that its catalogue doesn't have; null when all are there.
+const CString* ModeloQueFalta(const ProyectoAislada& proyecto)
 {
-    if (modelo == nullptr)
-        throw std::invalid_argument(fmt::format("El modelo «{}» no está en el catálogo.", CadenaUtf8(csId)));
+    return proyecto.panel == nullptr        ? &proyecto.registro.csPanel
+           : proyecto.acumulador == nullptr ? &proyecto.registro.csAcumulador
+                                            : nullptr;
 }
 
-void ExigirModelos(const ProyectoAislada& proyecto)
+const CString* ModeloQueFalta(const ProyectoRed& proyecto)
 {
-    ExigirModelo(proyecto.panel, proyecto.registro.csPanel);
-    ExigirModelo(proyecto.acumulador, proyecto.registro.csAcumulador);
+    return proyecto.panel == nullptr      ? &proyecto.registro.csPanel
+           : proyecto.inversor == nullptr ? &proyecto.registro.csInversor
+                                          : nullptr;
 }
 
-void ExigirModelos(const ProyectoRed& proyecto)
+template <class DISENO>
+auto ProyectoCon(const DISENO& diseno, const Portada& portada, const Catalogos& catalogos)
 {
-    ExigirModelo(proyecto.panel, proyecto.registro.csPanel);
-    ExigirModelo(proyecto.inversor, proyecto.registro.csInversor);
+    auto proyecto = ProyectoDe(diseno, catalogos);
+    proyecto.titulo = portada.titulo;
+    proyecto.lugar = portada.lugar;
+    proyecto.planos = portada.planos;
+    return proyecto;
 }
 
 template <class DISENO>
@@ -34,16 +41,48 @@ Documento Escribir(const DISENO& diseno, const Portada& portada, const Catalogos
 {
     if (!HayDiseno(diseno))
         throw std::invalid_argument("Todavía no hay diseño: lo propone su asistente.");
-    auto proyecto = ProyectoDe(diseno, catalogos);
-    proyecto.titulo = portada.titulo;
-    proyecto.lugar = portada.lugar;
-    proyecto.planos = portada.planos;
-    ExigirModelos(proyecto);
+    auto proyecto = ProyectoCon(diseno, portada, catalogos);
+    if (const CString* csId = ModeloQueFalta(proyecto))
+        throw std::invalid_argument(fmt::format("El modelo «{}» no está en el catálogo.", CadenaUtf8(*csId)));
     const auto estudio = Calcular(proyecto, tabla);
     return EscribirDocumento(proyecto, estudio, Avisos(proyecto, estudio));
 }
 
+EnergiaDiseno EnergiaDe(const EstudioAislada& estudio)
+{
+    return {estudio.bPlano ? std::optional(estudio.ano.Energia()) : std::nullopt, estudio.orientada};
+}
+
+EnergiaDiseno EnergiaDe(const EstudioRed& estudio)
+{
+    return {estudio.ano ? std::optional(estudio.ano->Energia()) : std::nullopt, estudio.orientada.value()};
+}
+
+template <class DISENO>
+std::optional<EnergiaDiseno> Energia(const DISENO& diseno, const Portada& portada, const Catalogos& catalogos,
+                                     const CBaseFactorK& tabla)
+{
+    if (!HayDiseno(diseno) || !portada.lugar.adRadiacion)
+        return std::nullopt;
+    auto proyecto = ProyectoCon(diseno, portada, catalogos);
+    if (ModeloQueFalta(proyecto) != nullptr)
+        return std::nullopt;
+    return EnergiaDe(Calcular(proyecto, tabla));
+}
+
 }  // namespace
+
+std::optional<EnergiaDiseno> EnergiaDe(const CSFVAsistenteAislada& diseno, const Portada& portada,
+                                       const Catalogos& catalogos, const CBaseFactorK& tabla)
+{
+    return Energia(diseno, portada, catalogos, tabla);
+}
+
+std::optional<EnergiaDiseno> EnergiaDe(const CSFVAsistenteRed& diseno, const Portada& portada,
+                                       const Catalogos& catalogos, const CBaseFactorK& tabla)
+{
+    return Energia(diseno, portada, catalogos, tabla);
+}
 
 Documento InformeDe(const CSFVAsistenteAislada& diseno, const Portada& portada, const Catalogos& catalogos,
                     const CBaseFactorK& tabla)

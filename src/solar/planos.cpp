@@ -5,6 +5,7 @@
 #include <cmath>
 #include <limits>
 
+#include "platform/numero/tolerancia.h"
 #include "solar/curvas_inclinacion.h"
 
 namespace efv::solar {
@@ -93,6 +94,19 @@ AnoEnergia Ano(const CampoSolar& campo, double dParte, const Radiaciones& r)
 }
 
 }  // namespace
+
+double SumaDePartes(std::span<const PlanoCampo> planos)
+{
+    double dSuma = 0.0;
+    for (const PlanoCampo& plano : planos)
+        dSuma += plano.dParte;
+    return dSuma;
+}
+
+bool LleganAlTotal(std::span<const PlanoCampo> planos)
+{
+    return numero::Igual(SumaDePartes(planos), 1.0);
+}
 
 double EnergiaPlanos::Energia() const
 {

@@ -1,7 +1,6 @@
 #include "diseno/proyecto.h"
 
 #include <algorithm>
-#include <cmath>
 #include <limits>
 #include <variant>
 
@@ -155,15 +154,13 @@ report::PlanosDiseno LeerPlanos(Objeto& proyecto)
         rpc::NombrarLugar(
             [] { return "planos"; },
             [&] {
-                double dPartes = 0.0;
                 for (const JsonLeido& j : LeerLista(*lista)) {
                     rpc::NombrarLugar([&] { return fmt::format("elemento {}", planos.planos.size()); },
                                       [&] { planos.planos.push_back(LeerPlano(j)); });
-                    dPartes += planos.planos.back().dParte;
                 }
-                if (std::abs(dPartes - 1.0) > 1e-6)
-                    throw rpc::ErrorValor(
-                        fmt::format("las partes suman {} y deben sumar 1", DecimalExacto(dPartes)));
+                if (!solar::LleganAlTotal(planos.planos))
+                    throw rpc::ErrorValor(fmt::format("las partes suman {} y deben sumar 1",
+                                                      DecimalExacto(solar::SumaDePartes(planos.planos))));
             });
     }
     // What an earlier project has loaded doesn't stand on.

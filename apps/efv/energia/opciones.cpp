@@ -153,7 +153,6 @@ Encargo OpcionesEnergia::Leer() const
 
 void OpcionesEnergia::LeerPlanos(Encargo& encargo) const
 {
-    double dPartes = 0.0;
     for (const std::string& texto : m_planos) {
         const std::vector<std::string> partes = CLI::detail::split(texto, ':');
         if (partes.size() != 3)
@@ -162,12 +161,12 @@ void OpcionesEnergia::LeerPlanos(Encargo& encargo) const
         encargo.planos.push_back({LeerAcotado("--plano", partes[0], 0, 90),
                                   LeerAcotado("--plano", partes[1], -180, 180),
                                   LeerAcotado("--plano", partes[2], 0, 1)});
-        dPartes += encargo.planos.back().dParte;
     }
     if (m_planos.empty())
         encargo.planos = {{encargo.campo.dInclinacion, encargo.campo.dOrientacion, 1.0}};
-    else if (std::abs(dPartes - 1.0) > 1e-6)
-        throw ErrorUso(fmt::format("--plano: las partes suman {} y deben sumar 1", DecimalExacto(dPartes)));
+    else if (!solar::LleganAlTotal(encargo.planos))
+        throw ErrorUso(fmt::format("--plano: las partes suman {} y deben sumar 1",
+                                   DecimalExacto(solar::SumaDePartes(encargo.planos))));
     // What an earlier run in the same process has loaded doesn't stand on.
     CString csError;
     if (!clima::CargarRegistroClimatico(CadenaDesdeUtf8(m_clima.value_or("")), csError))

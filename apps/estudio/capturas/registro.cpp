@@ -9,6 +9,7 @@
 #include <QuorvelEFV.h>
 
 #include "clima/estudios.h"
+#include "energia/planos.h"
 #include "proyecto/asistentes.h"
 
 namespace efv::estudio {
@@ -174,6 +175,20 @@ void AbrirInclinacion(const Sesion& sesion)
     EstudiarInclinacion(sesion, dInclinacion, 30.0);
 }
 
+// A roof that looks east and west, most of it east. The project's own planes aren't touched.
+void AbrirPlanos(const Sesion& sesion)
+{
+    const Lugar& lugar = sesion.Proyecto().lugar;
+    solar::CampoSolar campo{.dLatitud = lugar.dLatitud,
+                            .bNorte = lugar.iHemisferio == 1,
+                            .adRadHorizontal = {},
+                            .dInclinacion = 30.0,
+                            .dPotencia = 10.0};
+    std::ranges::copy(lugar.adRadHorizontal, campo.adRadHorizontal.begin());
+    DialogoPlanos({{30.0, -90.0, 0.6}, {30.0, 90.0, 0.4}}, campo, sesion.Proyecto().situacion.dAltitud)
+        .Mostrar();
+}
+
 void AbrirPerdidas()
 {
     CSFVAsistenteAislada diseno;
@@ -311,6 +326,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          {"CDlgCalculoInclinacionPanel"},
          [&sesion] { AbrirInclinacion(sesion); },
          [](ui::Dialogo& dialogo) { ElegirEntrada(dialogo, "iOpcion", 1); }},
+        {"planos", {"DialogoPlanos"}, [&sesion] { AbrirPlanos(sesion); }, {}},
         {"potencia-minima", {"DialogoHE5"}, [&sesion] { CalcularPotenciaMinima(sesion); }, {}},
         {"mapa-zonas", {"CDlgMapaZonas"}, [] { phShowMapaZonaHE5(); }, {}},
         {"red", {"CDlgAsistenteSFVRed"}, [&sesion] { DisenarRed(sesion); }, &Recorrer},

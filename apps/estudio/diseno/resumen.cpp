@@ -1,6 +1,7 @@
 #include "diseno/resumen.h"
 
 #include <algorithm>
+#include <iterator>
 #include <memory>
 #include <numeric>
 
@@ -12,6 +13,7 @@ namespace efv::estudio {
 namespace {
 
 constexpr double kMil = 1000.0;
+constexpr double kCiento = 100.0;
 constexpr double kDiasDelAno = 365.0;
 constexpr ui::Color kColorBarras = 0xC0702F;
 
@@ -43,7 +45,45 @@ CString Posicion(const DISENO& diseno)
            L"º de orientación";
 }
 
+std::vector<LineaResumen> LineasDeEnergia(const report::EnergiaDiseno& energia)
+{
+    const auto alAno = [](double dEnergia) { return Decimal(dEnergia, 0) + L" kWh al año"; };
+    std::vector<LineaResumen> lineas;
+    if (energia.dAsistente)
+        lineas.push_back({L"Energía del asistente, hacia el ecuador", alAno(*energia.dAsistente)});
+    const auto& planos = energia.orientada.planos;
+    const CString csOrigen = CadenaDesdeUtf8(solar::NombreDeOrigen(energia.orientada.origen));
+    lineas.push_back(
+        {(planos.size() > 1 ? L"Energía de los planos (" : L"Energía con la orientación (") + csOrigen + L")",
+         alAno(energia.orientada.Energia())});
+    if (planos.size() > 1) {
+        for (const auto& [plano, ano, alEcuador] : planos) {
+            lineas.push_back({L"  " + Decimal(plano.dInclinacion, 1) + L"º hacia " +
+                                  Decimal(plano.dOrientacion, 1) + L"º, " + Decimal(plano.dParte * kCiento, 1) +
+                                  L" %",
+                              alAno(ano.Energia())});
+        }
+    }
+    return lineas;
+}
+
+template <class DISENO>
+std::vector<LineaResumen> ConEnergia(const CProyectoEstudio& proyecto, const DISENO& diseno)
+{
+    const auto energia =
+        report::EnergiaDe(diseno, PortadaDe(proyecto), CatalogosDelModulo(), phGetBaseFactorK());
+    auto lineas = energia ? LineasDeEnergia(*energia) : std::vector<LineaResumen>();
+    std::ranges::move(ResumenDe(diseno), std::back_inserter(lineas));
+    return lineas;
+}
+
 }  // namespace
+
+std::vector<LineaResumen> ResumenDe(const CProyectoEstudio& proyecto, Diseno diseno)
+{
+    return diseno == Diseno::aislada ? ConEnergia(proyecto, proyecto.aislada)
+                                     : ConEnergia(proyecto, proyecto.red);
+}
 
 std::vector<LineaResumen> ResumenDe(const CSFVAsistenteAislada& diseno)
 {

@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "informe/informe.h"
 #include "proyecto/proyecto.h"
 
 namespace efv::estudio {
@@ -16,6 +17,9 @@ struct LineaResumen {
 /// No lines while there is no accepted design.
 std::vector<LineaResumen> ResumenDe(const CSFVAsistenteAislada& diseno);
 std::vector<LineaResumen> ResumenDe(const CSFVAsistenteRed& diseno);
+
+/// The same behind the yearly energy: the assistant's figure and, beside it, what the planes give as they look.
+std::vector<LineaResumen> ResumenDe(const CProyectoEstudio& proyecto, Diseno diseno);
 
 /// The year of a consumption element, of hours or of loads; zeros when it is left out of the calculation.
 struct AnoDeConsumo {

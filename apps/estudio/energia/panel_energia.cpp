@@ -2,10 +2,8 @@
 
 #include <algorithm>
 
-#include <quorvel/clima.h>
-#include <quorvel/solar/planos.h>
-
 #include "comun/numeros.h"
+#include "energia/planos.h"
 
 namespace efv::estudio {
 
@@ -59,7 +57,7 @@ double AlEcuador(const Lugar& lugar)
 
 }  // namespace
 
-PanelEnergia::PanelEnergia(Lugar lugarInicial)
+PanelEnergia::PanelEnergia(Lugar lugarInicial, std::function<void()> editarPlanos)
     : Dialogo("PanelEnergia", L"Energía de un campo"),
       m_lugar(std::move(lugarInicial)),
       m_dOrientacion(AlEcuador(m_lugar)),
@@ -77,10 +75,14 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
         edicion.alCambiar = [this] { AlCambiar(); };
         return edicion;
     };
-    m_inclinacion = &campo("dInclinacion", L"&Inclinación (º):", m_dInclinacion, {0.0, 90.0}, 1, 0);
-    campo("dOrientacion", L"Orientación [0=Sur] (º):", m_dOrientacion, {-180.0, 180.0}, 1, 0);
+    m_inclinacion = &campo("dInclinacion", L"&Inclinación (º):", m_dInclinacion, kInclinaciones, 1, 0);
+    m_orientacion = &campo("dOrientacion", L"Orientación [0=Sur] (º):", m_dOrientacion, kOrientaciones, 1, 0);
     campo("dPotencia", L"P&otencia pico (kWp):", m_dPotencia, {0.0, 1e6}, 2, 1);
     campo("dPR", L"PR [0-1]:", m_dPR, {0.0, 1.0}, 2, 1);
+    auto& planos = Anadir<ui::Boton>("planos", L"Planos…");
+    planos.csIndicacion = L"Varios planos en un campo: inclinación, orientación y parte de cada uno";
+    planos.alPulsar = std::move(editarPlanos);
+    planos.colocacion.iColumna = 1;
     m_nota = &Anadir<ui::TextoFijo>("csNota", L"");
     m_tabla = &Anadir<ui::Lista>("tabla", L"", ui::Lista::Forma::tabla);
     m_tabla->acsColumnas = {L"Mes",
@@ -98,9 +100,10 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial)
     AlCambiar();
 }
 
-void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion)
+void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion,
+                         const std::vector<solar::PlanoCampo>& otrosPlanos)
 {
-    if (otro == m_lugar && otraSituacion == m_situacion)
+    if (otro == m_lugar && otraSituacion == m_situacion && otrosPlanos == m_planos)
         return;
     // What faced the equator does so in the other hemisphere too.
     if (otro.iHemisferio != m_lugar.iHemisferio && m_dOrientacion == AlEcuador(m_lugar)) {
@@ -109,6 +112,8 @@ void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion)
     }
     m_lugar = otro;
     m_situacion = otraSituacion;
+    m_planos = otrosPlanos;
+    m_orientacion->bHabilitado = m_planos.empty();
     AlCambiar();
 }
 
@@ -146,13 +151,14 @@ solar::CampoSolar PanelEnergia::Campo() const
 // What the orientation does, of which both methods know nothing.
 CString PanelEnergia::Orientada() const
 {
-    const auto origen = clima::RegistroCargado() ? solar::OrigenHoras::registro : solar::OrigenHoras::cielo;
-    const auto energia =
-        solar::CalcularPlanos(Campo(), m_situacion.dAltitud,
-                              std::array{solar::PlanoCampo{m_dInclinacion, m_dOrientacion, 1.0}}, origen);
-    return L"Con la orientación (" + CadenaDesdeUtf8(solar::NombreDeOrigen(origen)) + L"): " +
-           Decimal(energia.Energia(), 1) + L" kWh al año; hacia el ecuador, " +
-           Decimal(energia.EnergiaAlEcuador(), 1) + L" kWh.";
+    const std::array propio = {solar::PlanoCampo{m_dInclinacion, m_dOrientacion, 1.0}};
+    const auto energia = solar::CalcularPlanos(
+        Campo(), m_situacion.dAltitud, m_planos.empty() ? std::span<const solar::PlanoCampo>(propio) : m_planos,
+        OrigenDeLasHoras());
+    return TextoDeEnergia(m_planos.empty()
+                              ? CString(L"Con la orientación")
+                              : L"Con los planos del proyecto, " + std::to_wstring(m_planos.size()),
+                          energia);
 }
 
 bool PanelEnergia::Calcular()

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <array>
+#include <functional>
 #include <limits>
 #include <vector>
 
 #include <quorvel/solar/energia.h>
+#include <quorvel/solar/planos.h>
 
 #include "proyecto/proyecto.h"
 
@@ -25,14 +27,17 @@ struct FilaEnergia {
 
 class PanelEnergia final : public ui::Dialogo {
 public:
-    explicit PanelEnergia(Lugar lugarInicial);
+    /// @param editarPlanos what the button of the planes does
+    explicit PanelEnergia(Lugar lugarInicial, std::function<void()> editarPlanos = {});
 
-    /// The hours come from the loaded climate record, if there is one.
-    void Poner(const Lugar& otro, const Situacion& otraSituacion);
+    /// The hours come from the loaded climate record, if there is one. With planes the orientation is theirs.
+    void Poner(const Lugar& otro, const Situacion& otraSituacion,
+               const std::vector<solar::PlanoCampo>& otrosPlanos = {});
 
     double Inclinacion() const { return m_dInclinacion; }
     double Orientacion() const { return m_dOrientacion; }
     void PonerInclinacion(double dInclinacion);
+    solar::CampoSolar Campo() const;
 
     const std::vector<FilaEnergia>& Filas() const { return *m_filas; }
 
@@ -40,21 +45,21 @@ private:
     void AlCambiar();
     /// @return whether all methods reach the place
     bool Calcular();
-    solar::CampoSolar Campo() const;
     void Mostrar();
 
     CString Orientada() const;
 
     Lugar m_lugar;
     Situacion m_situacion;
-    double m_dInclinacion = 30.0;  // degrees toward the equator
-    double m_dOrientacion = 0.0;   // degrees, 0 south
-    double m_dPotencia = 1.0;      // kWp
+    std::vector<solar::PlanoCampo> m_planos;  // of the project; empty: one of the figures below
+    double m_dInclinacion = 30.0;             // degrees toward the equator
+    double m_dOrientacion = 0.0;              // degrees, 0 south
+    double m_dPotencia = 1.0;                 // kWp
     double m_dPR = 0.8;
     std::shared_ptr<std::vector<FilaEnergia>> m_filas;
 
     ui::TextoFijo* m_nota = nullptr;
-    ui::Edicion* m_inclinacion = nullptr;
+    ui::Edicion *m_inclinacion = nullptr, *m_orientacion = nullptr;
     ui::Lista* m_tabla = nullptr;
     ui::Grafica* m_grafica = nullptr;
 };

@@ -2,9 +2,8 @@
 
 #include <algorithm>
 
-#include <quorvel/clima.h>
-
 #include "diseno/equipos.h"
+#include "energia/planos.h"
 #include "guardar.h"
 
 namespace efv::estudio {
@@ -28,15 +27,20 @@ report::LugarDiseno LugarDelInforme(const Lugar& lugar)
 template <class DISENO>
 std::string Informe(const CProyectoEstudio& origen, const DISENO& diseno)
 {
-    report::Portada portada{CadenaUtf8(origen.csNombre), LugarDelInforme(origen.lugar), {}};
-    portada.lugar.dAltitud = origen.situacion.dAltitud;
-    if (clima::RegistroCargado())
-        portada.planos.origen = solar::OrigenHoras::registro;
-    return report::DocumentoHtml(report::InformeDe(diseno, portada, CatalogosDelModulo(), phGetBaseFactorK()),
-                                 report::FechaDeHoy());
+    return report::DocumentoHtml(
+        report::InformeDe(diseno, PortadaDe(origen), CatalogosDelModulo(), phGetBaseFactorK()),
+        report::FechaDeHoy());
 }
 
 }  // namespace
+
+report::Portada PortadaDe(const CProyectoEstudio& proyecto)
+{
+    report::Portada portada{
+        CadenaUtf8(proyecto.csNombre), LugarDelInforme(proyecto.lugar), {proyecto.planos, OrigenDeLasHoras()}};
+    portada.lugar.dAltitud = proyecto.situacion.dAltitud;
+    return portada;
+}
 
 std::string InformeHtml(const CProyectoEstudio& proyecto, Diseno diseno)
 {

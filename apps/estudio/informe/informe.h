@@ -3,11 +3,16 @@
 
 #include <string>
 
+#include <quorvel/report/informe.h>
+
 #include "proyecto/proyecto.h"
 
 namespace efv::estudio {
 
 enum class Diseno { aislada, red };
+
+/// The project's name, place and planes, as its designs take them.
+report::Portada PortadaDe(const CProyectoEstudio& proyecto);
 
 /// A page of its own, HTML.
 /// @throws std::runtime_error with a Spanish text when the assistant hasn't been accepted or a model isn't in

@@ -100,6 +100,21 @@ void Exigir(bool bCierto, const char* que)
         throw std::runtime_error(std::string("El proyecto está dañado: ") + que + '.');
 }
 
+void ComprobarPlanos(std::span<const solar::PlanoCampo> planos)
+{
+    const auto dentro = [](double d, ui::Intervalo limites) {
+        return d >= limites.dMinimo && d <= limites.dMaximo;
+    };
+    Exigir(std::ranges::all_of(planos,
+                               [&](const solar::PlanoCampo& p) {
+                                   return dentro(p.dInclinacion, kInclinaciones) &&
+                                          dentro(p.dOrientacion, kOrientaciones) &&
+                                          dentro(p.dParte, {0.0, 1.0});
+                               }),
+           "un plano no es posible");
+    Exigir(planos.empty() || solar::LleganAlTotal(planos), "las partes de los planos no suman el total");
+}
+
 // What would lead a calculation or a dialog astray. Other figures are the records' own matter.
 void Comprobar(const CProyectoEstudio& proyecto)
 {
@@ -123,6 +138,7 @@ void Comprobar(const CProyectoEstudio& proyecto)
            "un período de tarifa no existe");
     Exigir(!(proyecto.economia.venta.dAniosEstudio > kAnosVentaMaximo),
            "los años del estudio de venta no son posibles");
+    ComprobarPlanos(proyecto.planos);
 }
 
 void IntercambiarNombre(CProyectoEstudio& proyecto, CArchive& ar)
@@ -197,6 +213,23 @@ void IntercambiarSituacion(CProyectoEstudio& proyecto, CArchive& ar)
     dato(proyecto.situacion.csRegistro);
 }
 
+void IntercambiarPlanos(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    if (ar.IsStoring()) {
+        ar.WriteCount(proyecto.planos.size());
+    } else {
+        const std::size_t nPlanos = ar.ReadCount();
+        Exigir(nPlanos <= kPlanosMaximo, "el número de planos no es posible");
+        proyecto.planos.resize(nPlanos);
+    }
+    for (solar::PlanoCampo& plano : proyecto.planos) {
+        dato(plano.dInclinacion);
+        dato(plano.dOrientacion);
+        dato(plano.dParte);
+    }
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -214,6 +247,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"autoconsumo", 1, &IntercambiarAutoconsumo},
     {L"precios", 1, &IntercambiarPrecios},
     {L"situacion", 1, &IntercambiarSituacion},
+    {L"planos", 1, &IntercambiarPlanos},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

@@ -62,6 +62,9 @@ struct Economia {
     Economia();
 };
 
+inline constexpr std::size_t kPlanosMaximo = 20;
+inline constexpr ui::Intervalo kInclinaciones{0.0, 90.0}, kOrientaciones{-180.0, 180.0};  // degrees
+
 /// A section of the file that this program doesn't know, kept for the one that does.
 struct SeccionAjena {
     CString csNombre;
@@ -80,6 +83,8 @@ public:
     CSFVAsistenteRed red;
     Consumo consumo;
     Economia economia;
+    /// Where the panels look, at most kPlanosMaximo; empty: as each design says.
+    std::vector<solar::PlanoCampo> planos;
     std::vector<SeccionAjena> ajenas;
 
     const CRuntimeClass& GetRuntimeClass() const override;

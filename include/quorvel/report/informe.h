@@ -1,6 +1,7 @@
 // The report of a design as its assistant leaves it, for programs that hold the record and no project file.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include <quorvel/report/disenos.h>
@@ -20,6 +21,18 @@ EFV_API Documento InformeDe(const CSFVAsistenteAislada& diseno, const Portada& p
                             const Catalogos& catalogos, const CBaseFactorK& tabla);
 EFV_API Documento InformeDe(const CSFVAsistenteRed& diseno, const Portada& portada, const Catalogos& catalogos,
                             const CBaseFactorK& tabla);
+
+/// What an accepted design gives in a year.
+struct EnergiaDiseno {
+    std::optional<double> dAsistente;  ///< toward the equator, kWh; nothing outside the table of factors K
+    solar::EnergiaPlanos orientada;    ///< of the planes as they look
+};
+
+/// The energy that the report of the design tells; nothing without a design, its models or the radiations.
+EFV_API std::optional<EnergiaDiseno> EnergiaDe(const CSFVAsistenteAislada& diseno, const Portada& portada,
+                                               const Catalogos& catalogos, const CBaseFactorK& tabla);
+EFV_API std::optional<EnergiaDiseno> EnergiaDe(const CSFVAsistenteRed& diseno, const Portada& portada,
+                                               const Catalogos& catalogos, const CBaseFactorK& tabla);
 
 /// Today as a page dates itself, "3-2-2028"; empty when the clock fails.
 EFV_API std::string FechaDeHoy();

@@ -16,7 +16,13 @@ struct PlanoCampo {
     double dInclinacion = 0.0;  ///< 0 to 90 degrees
     double dOrientacion = 0.0;  ///< degrees, 0 south, negative east
     double dParte = 1.0;        ///< fraction
+
+    bool operator==(const PlanoCampo&) const = default;
 };
+
+/// Together, fraction; 1 of a whole field, for which LleganAlTotal leaves room for rounding.
+EFV_API double SumaDePartes(std::span<const PlanoCampo> planos);
+EFV_API bool LleganAlTotal(std::span<const PlanoCampo> planos);
 
 /// Where the hours come from.
 enum class OrigenHoras {

@@ -9,7 +9,9 @@
 #include "comun/ficheros.h"
 #include "comun/guion.h"
 #include "comun/servidor_pvgis.h"
+#include "diseno/resumen.h"
 #include "energia/panel_energia.h"
+#include "energia/planos.h"
 #include "paneles/panel_lugar.h"
 #include "proyecto/fichero.h"
 
@@ -135,6 +137,66 @@ TEST_F(Clima, LaOrientacionSeVeJuntoALaEnergia)
     EXPECT_TRUE(EstudiarInclinacion(sesion, dInclinacion, 0.0));
     // The best of the year at Madrid lies near 36 degrees under a clear sky.
     EXPECT_NEAR(dInclinacion, 36.0, 0.5);
+}
+
+// A plane of a field gives its share, whatever the others do; a roof of two halves gives their mean.
+TEST_F(Clima, LosPlanosSonDelProyecto)
+{
+    PanelEnergia panel(sesion.Proyecto().lugar);
+    const auto anual = [&] {
+        panel.Poner(sesion.Proyecto().lugar, sesion.Proyecto().situacion, sesion.Proyecto().planos);
+        CString csNota = De<ui::TextoFijo>(panel, "csNota").csTexto;
+        csNota.erase(0, csNota.find(L"): ") + 3);
+        std::ranges::replace(csNota, L',', L'.');
+        return std::stod(csNota);
+    };
+    const auto con = [&](double dOrientacion) {
+        sesion.Proyecto().planos = {{30.0, dOrientacion, 1.0}};
+        return anual();
+    };
+    const double dSur = con(0.0), dNorte = con(180.0);
+    ASSERT_LT(dNorte, 0.8 * dSur);
+    sesion.Proyecto().planos.clear();
+    using namespace paso;
+    guion.Dialogo("DialogoPlanos",
+                  {Pulsar{"Anadir"}, Poner{"dParte", L"50"}, Pulsar{"OK"},  // refused: a half is missing
+                   Pulsar{"Anadir"}, Poner{"dOrientacion", L"180"}, Pulsar{"OK"}});
+    EditarPlanos(sesion, panel.Campo());
+    EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt);
+    EXPECT_EQ(guion.Mensajes(), std::vector<CString>{L"Las partes suman 50,0000 % y deben sumar 100 %."});
+    ASSERT_EQ(sesion.Proyecto().planos, (std::vector<solar::PlanoCampo>{{30, 0, 0.5}, {30, 180, 0.5}}));
+    EXPECT_TRUE(sesion.Modificado());
+    EXPECT_NEAR(anual(), (dSur + dNorte) / 2, 0.11);  // figures of one decimal
+
+    const CString csProyecto = CadenaDesdeUtf8((carpeta.Ruta() / "p.efvp").string());
+    guion.presentador.ficheros = {csProyecto};
+    EXPECT_TRUE(sesion.GuardarComo());
+    Sesion otra;
+    EXPECT_TRUE(otra.Abrir(csProyecto));
+    EXPECT_EQ(otra.Proyecto().planos, sesion.Proyecto().planos);
+
+    guion.Dialogo("DialogoPlanos",
+                  {Elegir{"planos", 1}, Pulsar{"Quitar"}, Poner{"dParte", L"100"}, Pulsar{"OK"}});
+    EditarPlanos(otra, panel.Campo());
+    EXPECT_EQ(otra.Proyecto().planos, (std::vector<solar::PlanoCampo>{{30, 0, 1}}));
+}
+
+// The summary tells both figures as the report does.
+TEST_F(Clima, ElResumenPoneLosPlanosJuntoALaCifraDelAsistente)
+{
+    CProyectoEstudio& proyecto = sesion.Proyecto();
+    EXPECT_TRUE(ResumenDe(proyecto, Diseno::red).empty());
+    proyecto.red = DisenoRed(2);
+    proyecto.planos = {{30.0, 90.0, 0.5}, {30.0, -90.0, 0.5}};
+    const auto lineas = ResumenDe(proyecto, Diseno::red);
+    const std::string html = InformeHtml(proyecto, Diseno::red);
+    ASSERT_EQ(lineas.size(), ResumenDe(proyecto.red).size() + 4);
+    EXPECT_EQ(lineas[0].csConcepto, L"Energía del asistente, hacia el ecuador");
+    EXPECT_EQ(lineas[1].csConcepto, L"Energía de los planos (cielo despejado ajustado a las doce radiaciones)");
+    EXPECT_EQ(lineas[3].csConcepto, L"  30,0º hacia -90,0º, 50,0 %");
+    EXPECT_NE(html.find("Energía con la orientación de los paneles"), std::string::npos);
+    proyecto.red.csPanel = L"Nadie#Nada";
+    EXPECT_EQ(ResumenDe(proyecto, Diseno::red).size(), ResumenDe(proyecto.red).size());
 }
 
 TEST_F(Clima, PotenciaMinima)

@@ -55,6 +55,7 @@ std::unique_ptr<CProyectoEstudio> Lleno()
     economia.autoconsumo.dTIR = 4.5;
     economia.adPrecioConsumo[11][30][23] = 0.75;
     economia.adPrecioVertido[0][0][0] = 0.125;
+    proyecto->planos = {{20.0, -90.0, 0.25}, {40.0, 90.0, 0.75}};
     return proyecto;
 }
 
@@ -112,6 +113,7 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
     EXPECT_EQ(economia.autoconsumo.dTIR, 4.5);
     EXPECT_EQ(economia.adPrecioConsumo[11][30][23], 0.75);
     EXPECT_EQ(economia.adPrecioVertido[0][0][0], 0.125);
+    EXPECT_EQ(despues->planos, antes->planos);
 }
 
 // Bytes put together by hand from the layout, up to the loads; what follows them is zeros.
@@ -155,8 +157,7 @@ TEST(Proyecto, ElDeLaPrimeraVersionSeAbre)
 std::vector<std::byte> ConSeccion(const wchar_t* csNombre, int iSchema, const std::vector<std::byte>& dentro)
 {
     auto bytes = BytesDe(*Lleno());
-    EXPECT_EQ(bytes.at(12), std::byte{9});
-    bytes[12] = std::byte{10};
+    bytes.at(12) = static_cast<std::byte>(std::to_integer<int>(bytes.at(12)) + 1);
     CArchive ar(bytes);
     ar << std::wstring_view(csNombre);
     ar << iSchema;
@@ -270,6 +271,9 @@ TEST(Proyecto, LoQueNingunProyectoContieneSeRechaza)
     EXPECT_TRUE(rechazado([](P& p) { p.consumo.aiPeriodoHora[7] = 3; }));
     EXPECT_TRUE(rechazado([](P& p) { p.consumo.iPatron = 9; }));
     EXPECT_TRUE(rechazado([](P& p) { p.consumo.iTipoEntrada = -1; }));
+    EXPECT_TRUE(rechazado([](P& p) { p.planos[1].dParte = 0.5; }));
+    EXPECT_TRUE(rechazado([](P& p) { p.planos[0].dInclinacion = std::nan(""); }));
+    EXPECT_TRUE(rechazado([](P& p) { p.planos.assign(21, {30.0, 0.0, 1.0 / 21}); }));
     EXPECT_TRUE(rechazado([](P& p) { p.red.iInversores = 2'000'000'000; }));
     EXPECT_FALSE(rechazado([](P& p) { p.aislada.dDistanciaFilas = std::nan(""); }));
 }
