@@ -1,8 +1,11 @@
 #include <quorvel/solar/pvgis.h>
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <limits>
 
 #include <fmt/format.h>
 
@@ -97,31 +100,46 @@ HoraTipica LeerHora(std::string_view linea)
     return {cifras(4), cifras(6), cifras(9), numero(1), numero(2), numero(3), numero(5), numero(7), numero(8)};
 }
 
+constexpr std::array<std::uint32_t, 7> kPotencias = {1, 10, 100, 1'000, 10'000, 100'000, 1'000'000};
+
+/// Writes `uCifras`, the last `iDecimales` of its digits behind a point.
+void EscribirCifras(fmt::memory_buffer& salida, std::uint32_t uCifras, int iDecimales)
+{
+    constexpr std::size_t kMayor = std::numeric_limits<std::uint32_t>::digits10 + 2;  // with the point
+    const std::size_t n = salida.size();
+    salida.resize(n + kMayor);
+    const std::uint32_t uEntera = uCifras / kPotencias[static_cast<std::size_t>(iDecimales)];
+    std::uint32_t uResto = uCifras - uEntera * kPotencias[static_cast<std::size_t>(iDecimales)];
+    char* p = std::to_chars(salida.data() + n, salida.data() + n + kMayor, uEntera).ptr;
+    if (iDecimales > 0) {
+        *p = '.';
+        for (int i = iDecimales; i > 0; --i, uResto /= 10)
+            p[i] = static_cast<char>('0' + uResto % 10);
+        p += 1 + iDecimales;
+    }
+    salida.resize(static_cast<std::size_t>(p - salida.data()));
+}
+
 /// Writes `d` with `iDecimales` (0 to 6) as printf's %.*f does. Most numbers are far enough from a tie for one
 /// multiplication to tell their digits; the others go the long way.
 void Escribir(fmt::memory_buffer& salida, double d, int iDecimales)
 {
-    constexpr std::array<double, 7> kPotencias = {1, 10, 100, 1e3, 1e4, 1e5, 1e6};
     constexpr double kMaximo = 1e9;
     constexpr double kMargen = 1e-4;  // a product below 1e9 errs by 1e-7
     const double dEscalado = std::abs(d) * kPotencias[static_cast<std::size_t>(iDecimales)];
-    const double dFraccion = dEscalado - std::floor(dEscalado);
-    if (!(dEscalado < kMaximo) || std::abs(dFraccion - 0.5) < kMargen) {
+    if (!(dEscalado < kMaximo)) {
         fmt::format_to(std::back_inserter(salida), "{:.{}f}", d, iDecimales);
         return;
     }
-    auto u = static_cast<std::uint64_t>(dEscalado) + (dFraccion > 0.5 ? 1U : 0U);
-    char cifras[24];
-    char* p = std::end(cifras);
-    for (int i = 0; u != 0 || i <= iDecimales; ++i) {
-        if (i == iDecimales && i != 0)
-            *--p = '.';
-        *--p = static_cast<char>('0' + u % 10);
-        u /= 10;
+    const auto uEntera = static_cast<std::uint32_t>(dEscalado);
+    const double dFraccion = dEscalado - uEntera;
+    if (std::abs(dFraccion - 0.5) < kMargen) {
+        fmt::format_to(std::back_inserter(salida), "{:.{}f}", d, iDecimales);
+        return;
     }
     if (std::signbit(d))
-        *--p = '-';
-    salida.append(p, std::end(cifras));
+        salida.push_back('-');
+    EscribirCifras(salida, uEntera + (dFraccion > 0.5 ? 1U : 0U), iDecimales);
 }
 
 /// Columns of decimals with their separators.
@@ -132,14 +150,24 @@ void EscribirHora(fmt::memory_buffer& salida, const HoraTipica& h, double dCielo
         double d;
         int iDecimales;
     };
-    fmt::format_to(std::back_inserter(salida), "{}\t{}\t{}", h.iMes, h.iDia, h.iHora + 1);
-    for (const Columna& c :
-         {Columna{h.dTemperatura, 1}, Columna{dCielo, 5}, Columna{h.dGlobal, 0}, Columna{h.dDifusa, 0},
-          Columna{dRazonHumedad, 6}, Columna{h.dHumedad, 4}, Columna{h.dViento, 5}, Columna{h.dDireccion, 0},
-          Columna{dAcimut, 0}, Columna{dCenit, 0}}) {
-        salida.push_back('\t');
+    const Columna columnas[] = {{static_cast<double>(h.iMes), 0},
+                                {static_cast<double>(h.iDia), 0},
+                                {static_cast<double>(h.iHora) + 1, 0},
+                                {h.dTemperatura, 1},
+                                {dCielo, 5},
+                                {h.dGlobal, 0},
+                                {h.dDifusa, 0},
+                                {dRazonHumedad, 6},
+                                {h.dHumedad, 4},
+                                {h.dViento, 5},
+                                {h.dDireccion, 0},
+                                {dAcimut, 0},
+                                {dCenit, 0}};
+    for (const Columna& c : columnas) {
         Escribir(salida, c.d, c.iDecimales);
+        salida.push_back('\t');
     }
+    salida.resize(salida.size() - 1);
     salida.append(std::string_view("\r\n"));
 }
 

@@ -38,7 +38,9 @@ Carriles HacerCarriles(std::span<const double> adInclinaciones, double dOrientac
 
 using Sumas = std::array<double, kCarriles>;
 
-// The same operations as TotalEnPlano and DirectaEnPlano, for all tilts of a group.
+// The same operations as TotalEnPlano and DirectaEnPlano, for all tilts of a group. Without a horizon there is
+// nothing to take off, and what isn't taken off changes no bit.
+template <bool CON_HORIZONTE>
 void SumarHoras(std::span<const HoraSuma> horas, const Carriles& c, Sumas& mes, Sumas& ano)
 {
     Sumas m = mes;
@@ -47,8 +49,9 @@ void SumarHoras(std::span<const HoraSuma> horas, const Carriles& c, Sumas& mes, 
         for (std::size_t i = 0; i < kCarriles; ++i) {
             const double dCosIncidencia = h.dCosCenit * c.adCoseno[i] + h.dFrente * c.adSeno[i];
             const double dDirecta = h.dDirecta * (dCosIncidencia > 0.0 ? dCosIncidencia : 0.0);
-            const double dNeta =
-                dDirecta + h.dDifusa * c.adCielo[i] + h.dSuelo * c.adSuelo[i] - dDirecta * h.dTapada;
+            double dNeta = dDirecta + h.dDifusa * c.adCielo[i] + h.dSuelo * c.adSuelo[i];
+            if constexpr (CON_HORIZONTE)
+                dNeta -= dDirecta * h.dTapada;
             m[i] += dNeta;
             a[i] += dNeta;
         }
@@ -66,6 +69,22 @@ std::vector<HoraSuma> HorasDeSuma(const AnoCielo& ano, double dOrientacion)
         horas.push_back({cielo.dCosCenit, Frente(cielo, plano), cielo.dDirecta, cielo.dDifusa,
                          kAlbedo * cielo.dGlobal, bTapada ? 1.0 : 0.0});
     return horas;
+}
+
+// The morning's hour with the sun at the same height, if its bits are the same: its sky is then the same.
+const HoraCielo* HoraDeIgualAltura(std::span<const AnoCielo::Hora> delDia, const HoraCielo& hora)
+{
+    for (const AnoCielo::Hora& otra : delDia)
+        if (otra.cielo.dCosCenit == hora.dCosCenit)
+            return &otra.cielo;
+    return nullptr;
+}
+
+void CopiarRadiacion(const HoraCielo& de, HoraCielo& a)
+{
+    a.dDirecta = de.dDirecta;
+    a.dGlobal = de.dGlobal;
+    a.dDifusa = de.dDifusa;
 }
 
 }  // namespace
@@ -103,11 +122,15 @@ AnoCielo HacerAnoCielo(const SitioCielo& sitio, const Horizonte* horizonte)
                 continue;
             const DiaCielo dia(*DiaDelAno(iMes, iDia));
             const double dAgua = AguaPrecipitable(dTemperatura, dHumedad);
+            const std::size_t iPrimera = ano.horas.size();
             for (int iHora = 1; iHora <= 24; ++iHora) {
                 HoraCielo hora = SolDeLaHora(latitud, dia, iHora);
                 if (hora.dCosCenit <= 0.0)
                     continue;
-                CieloDespejado(hora, dia.dExtraterrestre, dPresion, dAgua);
+                if (const HoraCielo* igual = HoraDeIgualAltura(std::span(ano.horas).subspan(iPrimera), hora))
+                    CopiarRadiacion(*igual, hora);
+                else
+                    CieloDespejado(hora, dia.dExtraterrestre, dPresion, dAgua);
                 ano.horas.push_back(
                     {hora, iHoraAno + iHora - 1, horizonte != nullptr && Tapado(hora, *horizonte)});
             }
@@ -130,15 +153,16 @@ void SumarInclinaciones(const AnoCielo& ano, std::span<const double> adInclinaci
                         std::span<SumasMeses> sumas)
 {
     const std::vector<HoraSuma> horas = HorasDeSuma(ano, dOrientacion);
+    const bool bTapadas = std::ranges::any_of(horas, [](const HoraSuma& h) { return h.dTapada != 0.0; });
+    const auto sumar = bTapadas ? &SumarHoras<true> : &SumarHoras<false>;
     for (std::size_t iGrupo = 0; iGrupo < adInclinaciones.size(); iGrupo += kCarriles) {
         const std::size_t n = std::min(kCarriles, adInclinaciones.size() - iGrupo);
         const Carriles carriles = HacerCarriles(adInclinaciones.subspan(iGrupo, n), dOrientacion);
         Sumas anual{};
         for (std::size_t m = 0; m < 12; ++m) {
             Sumas mensual{};
-            SumarHoras(
-                std::span(horas).subspan(ano.aiInicioMes[m], ano.aiInicioMes[m + 1] - ano.aiInicioMes[m]),
-                carriles, mensual, anual);
+            sumar(std::span(horas).subspan(ano.aiInicioMes[m], ano.aiInicioMes[m + 1] - ano.aiInicioMes[m]),
+                  carriles, mensual, anual);
             for (std::size_t i = 0; i < n; ++i)
                 sumas[iGrupo + i][m] = mensual[i];
         }

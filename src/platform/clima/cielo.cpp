@@ -46,6 +46,24 @@ Transmision Transmitir(double dMasa, double dMasaPresion, double dAgua)
     };
 }
 
+/// Of an hour's middle; the same every day.
+struct AnguloHora {
+    double dSeno, dCoseno;
+};
+
+const std::array<AnguloHora, 24>& Angulos()
+{
+    static const auto angulos = [] {
+        std::array<AnguloHora, 24> a{};
+        for (int iHora = 1; iHora <= 24; ++iHora) {
+            const double d = 15.0 * (iHora - 0.5 - 12.0) * kRadianes;
+            a[static_cast<std::size_t>(iHora - 1)] = {std::sin(d), std::cos(d)};
+        }
+        return a;
+    }();
+    return angulos;
+}
+
 }  // namespace
 
 std::optional<int> DiaDelAno(int iMes, int iDia)
@@ -66,26 +84,28 @@ LatitudCielo::LatitudCielo(double dLatitud)
 DiaCielo::DiaCielo(int iDiaAno)
 {
     const double g = 2.0 * std::numbers::pi * (iDiaAno - 1) / 365.0;
-    const double dDeclinacion = 0.006918 - 0.399912 * std::cos(g) + 0.070257 * std::sin(g) -
-                                0.006758 * std::cos(2.0 * g) + 0.000907 * std::sin(2.0 * g) -
+    const double c1 = std::cos(g);
+    const double s1 = std::sin(g);
+    const double c2 = std::cos(2.0 * g);
+    const double s2 = std::sin(2.0 * g);
+    const double dDeclinacion = 0.006918 - 0.399912 * c1 + 0.070257 * s1 - 0.006758 * c2 + 0.000907 * s2 -
                                 0.002697 * std::cos(3.0 * g) + 0.00148 * std::sin(3.0 * g);
     dSenoDeclinacion = std::sin(dDeclinacion);
     dCosenoDeclinacion = std::cos(dDeclinacion);
-    dExtraterrestre = kConstanteSolar * (1.00011 + 0.034221 * std::cos(g) + 0.00128 * std::sin(g) +
-                                         0.000719 * std::cos(2.0 * g) + 0.000077 * std::sin(2.0 * g));
+    dExtraterrestre =
+        kConstanteSolar * (1.00011 + 0.034221 * c1 + 0.00128 * s1 + 0.000719 * c2 + 0.000077 * s2);
 }
 
 HoraCielo SolDeLaHora(const LatitudCielo& f, const DiaCielo& dia, int iHora)
 {
-    const double dHora = 15.0 * (iHora - 0.5 - 12.0) * kRadianes;
-    const double dCosHora = std::cos(dHora);
+    const auto& [dSenoHora, dCosHora] = Angulos()[static_cast<std::size_t>(iHora - 1)];
     const double dCosCenit = f.dSeno * dia.dSenoDeclinacion + f.dCoseno * dia.dCosenoDeclinacion * dCosHora;
     if (!(dCosCenit > 0.0))
         return {};
     HoraCielo h;
     h.dCosCenit = dCosCenit;
     h.dSur = f.dSeno * dia.dCosenoDeclinacion * dCosHora - f.dCoseno * dia.dSenoDeclinacion;
-    h.dOeste = dia.dCosenoDeclinacion * std::sin(dHora);
+    h.dOeste = dia.dCosenoDeclinacion * dSenoHora;
     return h;
 }
 
