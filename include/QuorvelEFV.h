@@ -3,6 +3,7 @@
 
 #include <quorvel/assistants.h>
 #include <quorvel/assistants_calculo.h>
+#include <quorvel/bateria.h>
 #include <quorvel/cables.h>
 #include <quorvel/cables_calculo.h>
 #include <quorvel/catalogues.h>

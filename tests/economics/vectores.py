@@ -5,8 +5,8 @@
 
 Rows: kind, name=value of the inputs, "->", name=value of the results. Kinds: venta (a study of sale to the
 grid), tabla (the same by the texts of its table), auto (a balance of self-consumption with its amortisation),
-hoja (the same of two elements and of the whole). The hourly blocks are those of `bloque` below, which the tests
-make by the same rule.
+hoja (the same of two elements and of the whole), bateria (a year of a battery by each of its rules). The hourly
+blocks are those of `bloque` below, which the tests make by the same rule.
 """
 import math
 import random
@@ -185,6 +185,52 @@ def hoja(rnd, bateria):
     linea("hoja", e, resultados)
 
 
+def bateria(rnd, arbitraje):
+    """A year of a battery. What later hours need is worked out for each hour anew, walking its 24 hours ahead
+    from the last to the first."""
+    e = dict(a=rnd.randrange(1, 1000), b=rnd.randrange(1000), arbitraje=int(arbitraje),
+             dCapacidad=rnd.choice([2.5, 10.0]), dPotenciaCarga=rnd.choice([0.8, 3.0]),
+             dPotenciaDescarga=rnd.choice([0.5, 3.0]), dRendimientoCarga=rnd.choice([0.95, 1.0]),
+             dRendimientoDescarga=rnd.choice([0.9, 1.0]), dEstadoInicial=rnd.choice([0.0, 1.25]),
+             dCosteDegradacion=rnd.choice([0.0, 0.02, 0.5]))
+    lugares = [i for _, i in horas()]
+    P, C = bloque(e["a"], e["b"], 0.002), bloque(e["a"] + 17, e["b"] + 5, 0.0015)
+    p, c = [P[i] for i in lugares], [C[i] for i in lugares]
+    precio = [(0.1, 0.15, 0.25)[t % 24 // 8] for t in range(8760)]
+    nc, nd, cap = e["dRendimientoCarga"], e["dRendimientoDescarga"], e["dCapacidad"]
+    carga, descarga = e["dPotenciaCarga"], e["dPotenciaDescarga"]
+
+    def reserva(t, comprada):
+        r = 0.0
+        for j in reversed(range(t + 1, min(t + 24, 8760))):
+            r -= min(max(p[j] - c[j], 0.0), carga) * nc
+            r = max(r - (carga * nc if precio[j] < precio[t] else 0.0), 0.0)
+            merece = precio[j] > precio[t]
+            if comprada:
+                merece = merece and (precio[j] - e["dCosteDegradacion"]) * nc * nd > precio[t]
+            if merece:
+                r = min(cap, r + min(max(c[j] - p[j], 0.0), descarga) / nd)
+        return r
+
+    estado = e["dEstadoInicial"]
+    sumas = dict(cargaFV=0.0, cargaRed=0.0, descarga=0.0, vertido=0.0, autoconsumo=0.0)
+    for t in range(8760):
+        sobra, falta = max(p[t] - c[t], 0.0), max(c[t] - p[t], 0.0)
+        fv = min(sobra, carga, (cap - estado) / nc)
+        estado += fv * nc
+        sale = red = 0.0
+        if falta:
+            sale = min(falta, descarga, nd * max(0.0, estado - (reserva(t, False) if arbitraje else 0.0)))
+            estado -= sale / nd
+        if arbitraje and sale == 0.0:
+            red = max(0.0, min(carga - fv, (reserva(t, True) - estado) / nc))
+            estado += red * nc
+        for nombre, valor in (("cargaFV", fv), ("cargaRed", red), ("descarga", sale), ("vertido", sobra - fv),
+                              ("autoconsumo", min(p[t], c[t]) + sale)):
+            sumas[nombre] += valor
+    linea("bateria", e, dict(sumas, estado=estado))
+
+
 def tabla(rnd):
     """The dialog's years: every field goes through its text, and each year starts from the texts of the one
     before. Operations in the order in which the formulas are stated, since a cent decides."""
@@ -227,6 +273,8 @@ def main():
         tabla(rnd)
     for i in range(6):
         hoja(rnd, i % 2 == 1)
+    for i in range(12):
+        bateria(rnd, i % 2 == 1)
 
 
 main()
