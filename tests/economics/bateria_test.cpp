@@ -84,7 +84,7 @@ TEST(Bateria, CierraHoraAHoraYSumaComoElProgramaIndependiente)
         const int a = static_cast<int>(v["a"]);
         const int b = static_cast<int>(v["b"]);
         Ano ano;
-        ano.P = Bloque(a, b, 0.002);
+        ano.P = Bloque(a, b, v["arbitraje"] != 0.0 ? 0.0004 : 0.002);
         ano.C = Bloque(a + 17, b + 5, 0.0015);
         const Bateria bateria = BateriaDe(v);
         const auto regla = v["arbitraje"] != 0.0 ? ReglaBateria::arbitraje : ReglaBateria::autoconsumo;

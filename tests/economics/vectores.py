@@ -194,7 +194,7 @@ def bateria(rnd, arbitraje):
              dRendimientoDescarga=rnd.choice([0.9, 1.0]), dEstadoInicial=rnd.choice([0.0, 1.25]),
              dCosteDegradacion=rnd.choice([0.0, 0.02, 0.5]))
     lugares = [i for _, i in horas()]
-    P, C = bloque(e["a"], e["b"], 0.002), bloque(e["a"] + 17, e["b"] + 5, 0.0015)
+    P, C = bloque(e["a"], e["b"], 0.0004 if arbitraje else 0.002), bloque(e["a"] + 17, e["b"] + 5, 0.0015)
     p, c = [P[i] for i in lugares], [C[i] for i in lugares]
     precio = [(0.1, 0.15, 0.25)[t % 24 // 8] for t in range(8760)]
     nc, nd, cap = e["dRendimientoCarga"], e["dRendimientoDescarga"], e["dCapacidad"]
