@@ -9,6 +9,7 @@
 #include <quorvel/catalogues.h>
 #include <quorvel/clima.h>
 #include <quorvel/consumption.h>
+#include <quorvel/curva_contador.h>
 #include <quorvel/economics.h>
 #include <quorvel/economics_calculo.h>
 #include <quorvel/electrical.h>
@@ -16,6 +17,7 @@
 #include <quorvel/entradas.h>
 #include <quorvel/frame.h>
 #include <quorvel/framework.h>
+#include <quorvel/hora_oficial.h>
 #include <quorvel/importacion_catalogo.h>
 #include <quorvel/localidades.h>
 #include <quorvel/registros.h>
