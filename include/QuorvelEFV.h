@@ -9,7 +9,7 @@
 #include <quorvel/catalogues.h>
 #include <quorvel/clima.h>
 #include <quorvel/consumption.h>
-#include <quorvel/curva_contador.h>
+#include <quorvel/contador.h>
 #include <quorvel/economics.h>
 #include <quorvel/economics_calculo.h>
 #include <quorvel/electrical.h>

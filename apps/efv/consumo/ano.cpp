@@ -97,6 +97,29 @@ AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, 
     return ano;
 }
 
+AnoConsumo AnoDeFicheroDeContador(const std::string& ruta, std::string_view bytes,
+                                  const LecturaContador& opciones)
+{
+    try {
+        MedidasContador contador = LeerContador(bytes, opciones.lectura);
+        AnoMedido medido = AnoDeContador(contador, opciones.ano);
+        AnoConsumo ano;
+        ano.origen = fmt::format("Contador: {}", ruta);
+        if (!contador.cups.empty())
+            ano.origen += fmt::format(", {}", contador.cups);
+        ano.horas = std::move(medido.adHoras);
+        ano.dPotMaxima = Maximo(*ano.horas);
+        std::vector<std::string> notas = std::move(medido.notas);
+        notas.insert(notas.end(), contador.notas.begin(), contador.notas.end());
+        ano.contador = {std::move(contador.cups), medido.aiAno,        medido.iPrimerDia,
+                        medido.iUltimoDia,        medido.dExcedente,   medido.nRellenas,
+                        contador.nEstimadas,      opciones.ano.bSolar, std::move(notas)};
+        return ano;
+    } catch (const ErrorContador& error) {
+        throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
+    }
+}
+
 AnoConsumo AnoDeMeses(const EnergiasMensuales& datos)
 {
     double adMes[12][6] = {};

@@ -3,12 +3,25 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include <quorvel/consumption.h>
+#include <quorvel/contador.h>
 
 namespace efv::orden {
+
+/// What a meter's file says of its year besides.
+struct OrigenContador {
+    std::string cups;
+    AnosDeDias aiAno;
+    int iPrimerDia, iUltimoDia;  ///< counted from 1970
+    double dExcedente;           ///< kWh
+    std::size_t nRellenas, nEstimadas;
+    bool bSolar;
+    std::vector<std::string> notas;
+};
 
 /// An hourly year with what is told of it.
 struct AnoConsumo {
@@ -16,6 +29,7 @@ struct AnoConsumo {
     double dPotMaxima = 0.0;                                             ///< W
     std::unique_ptr<AnoHorario> horas = std::make_unique<AnoHorario>();  ///< Wh
     CObArrayPropio<CSFVDataReceptor> receptores;                         ///< when it comes from loads
+    std::optional<OrigenContador> contador;                              ///< when it comes from a meter's file
 };
 
 /// Pattern 1 to 9 whose factor 1 is that power. @throws ErrorUso
@@ -25,6 +39,15 @@ AnoConsumo AnoDePatron(int iPatron, double dPotencia);
 /// @throws ErrorEjecucion when it can't be read, a value is no number, or there are more or (unless
 /// `bIncompleto`) less of them than the format asks for
 AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, bool bIncompleto);
+
+/// What a meter's file is read with.
+struct LecturaContador {
+    OpcionesContador lectura;
+    OpcionesAno ano;
+};
+/// The last twelve months of a meter's file. @param bytes its content @throws ErrorEjecucion with file and line
+AnoConsumo AnoDeFicheroDeContador(const std::string& ruta, std::string_view bytes,
+                                  const LecturaContador& opciones);
 
 /// Energies of the months by tariff period, kWh, and the period 1 to 3 of each hour of the day.
 struct EnergiasMensuales {

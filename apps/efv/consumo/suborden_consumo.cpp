@@ -1,19 +1,20 @@
 #include "consumo/suborden_consumo.h"
 
-#include <cmath>
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <utility>
 
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
-#include <quorvel/solar.h>
-
-#include "catalogo/ficha.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/palabras.h"
 #include "comun/salidas.h"
 #include "consumo/ano.h"
+#include "consumo/importacion.h"
+#include "consumo/informes.h"
 #include "consumo/vistas.h"
 
 namespace efv::orden {
@@ -23,70 +24,7 @@ namespace {
 constexpr double kPotenciaMaxima = 1e10;  // W
 constexpr double kEnergiaMaxima = 1e7;    // kWh a month and period
 
-// Every hour with its place in the year, as spreadsheets read it.
-std::string InformeCsv(const AnoConsumo& ano)
-{
-    std::string texto = "mes;dia;hora;consumo_Wh\n";
-    for (int h = 0; h < static_cast<int>(kHorasDelAno); ++h)
-        texto += fmt::format("{};{};{};{}\n", phGetMes(h) + 1, phGetDia(h) + 1, phGetHora(h),
-                             DecimalExacto((*ano.horas)[static_cast<std::size_t>(h)]));
-    return texto;
-}
-
-Json Numero(double d)
-{
-    return std::isfinite(d) ? Json(d) : Json();
-}
-
-std::string InformeJson(const AnoConsumo& ano)
-{
-    Json meses = Json::array();
-    for (int iMes = 0; iMes < 12; ++iMes)
-        meses.push_back(Numero(SumaDeHoras(*ano.horas, HorasDePeriodo(iMes))));
-    Json horas = Json::array();
-    for (const double d : *ano.horas)
-        horas.push_back(Numero(d));
-    return TextoJson({{"origen", ano.origen},
-                      {"potencia_maxima_W", ano.dPotMaxima},
-                      {"energia_ano_Wh", Numero(SumaDeHoras(*ano.horas, HorasDePeriodo(12)))},
-                      {"energia_mes_Wh", meses},
-                      {"horas_Wh", horas}});
-}
-
-// One of a few words. @throws ErrorUso
-template <class T, std::size_t N>
-T Elegir(const char* opcion, const std::string& texto, const std::array<std::pair<const char*, T>, N>& palabras)
-{
-    std::string lista;
-    for (const auto& [palabra, valor] : palabras) {
-        if (texto == palabra)
-            return valor;
-        lista += fmt::format("{}{}", lista.empty() ? "" : ", ", palabra);
-    }
-    throw ErrorUso(fmt::format("{}: se esperaba una de {}, llegó «{}»", opcion, lista, texto));
-}
-
-double LeerEntre(const char* opcion, const std::string& texto, double dMinimo, double dMaximo)
-{
-    const std::optional<double> d = LeerNumero(texto);
-    if (!d || *d < dMinimo || *d > dMaximo)
-        throw ErrorUso(fmt::format("{}: se esperaba un número de {} a {}, llegó «{}»", opcion,
-                                   DecimalExacto(dMinimo), DecimalExacto(dMaximo), texto));
-    return *d;
-}
-
-int LeerEntero(const char* opcion, const std::string& texto, int iMinimo, int iMaximo)
-{
-    const double d = LeerEntre(opcion, texto, iMinimo, iMaximo);
-    if (d != std::trunc(d))
-        throw ErrorUso(fmt::format("{}: se esperaba un número entero, llegó «{}»", opcion, texto));
-    return static_cast<int>(d);
-}
-
-constexpr std::array<std::pair<const char*, bool>, 2> kUnidades = {{{"Wh", false}, {"kWh", true}}};
-constexpr std::array<std::pair<const char*, bool>, 2> kTiempos = {{{"1", false}, {"1/4", true}}};
-constexpr std::array<std::pair<const char*, Vista>, 3> kVistas = {
-    {{"dia", Vista::dia}, {"semana", Vista::semana}, {"ano", Vista::ano}}};
+constexpr Palabras<Vista, 3> kVistas = {{{"dia", Vista::dia}, {"semana", Vista::semana}, {"ano", Vista::ano}}};
 
 std::string PiePatrones()
 {
@@ -171,21 +109,21 @@ private:
             Orden(linea, "importar", "Los valores de un fichero de texto", &SubordenConsumo::Importar);
         orden
             .add_option("FICHERO", m_palabra,
-                        "Valores separados por líneas, tabuladores, blancos o punto y coma")
+                        "Fichero de un contador, o valores separados por líneas, tabuladores, blancos o punto "
+                        "y coma")
             ->option_text(" ");
-        orden.add_option("--unidad", m_unidad, "Wh o kWh; si falta, Wh")->type_name("UNIDAD");
-        orden.add_option("--tiempo", m_tiempo, "Horas que abarca cada valor: 1 o 1/4; si falta, 1")
-            ->type_name("HORAS");
         orden
-            .add_option("--periodo", m_periodo,
-                        "Mes de los valores, 1 a 12; si falta, el año. Las horas de los demás meses son 0")
-            ->type_name("MES");
-        orden.add_flag("--incompleto", m_bIncompleto, "Admite menos valores: los que faltan cuentan 0")
+            .add_flag("--csv", m_bCsv,
+                      "Escribe las 8760 horas como CSV: lo que sale sin más de una lista de valores")
             ->option_text(" ")
             ->disable_flag_override();
-        orden.footer(
-            "La coma y el punto son decimales.\nEjemplo:\n"
-            "  efv consumo importar contador.csv --unidad kWh --tiempo 1/4 --json");
+        orden
+            .add_flag(
+                "--valores", m_bValores,
+                "Escribe solo las 8760 horas, en Wh, una por línea: como las toman los diálogos de consumo")
+            ->option_text(" ")
+            ->disable_flag_override();
+        m_importacion.Declarar(orden);
     }
 
     void DeclararMensual(CLI::App& linea)
@@ -238,18 +176,10 @@ private:
             LeerEntero("N", Palabra("el patrón"), 1, static_cast<int>(PatronesConsumo().size()));
         if (!m_potencia)
             throw ErrorUso("falta --potencia, en W");
-        return AnoDePatron(iPatron, LeerEntre("--potencia", *m_potencia, 0.01, kPotenciaMaxima));
+        return AnoDePatron(iPatron, LeerAcotado("--potencia", *m_potencia, 0.01, kPotenciaMaxima));
     }
 
-    AnoConsumo Importar() const
-    {
-        FormatoValores formato;
-        if (m_periodo)
-            formato.iPeriodo = LeerEntero("--periodo", *m_periodo, 1, 12) - 1;
-        formato.bKWh = Elegir("--unidad", m_unidad, kUnidades);
-        formato.bCuartosDeHora = Elegir("--tiempo", m_tiempo, kTiempos);
-        return AnoDeFichero(Palabra("el fichero"), formato, m_bIncompleto);
-    }
+    AnoConsumo Importar() const { return m_importacion.Leer(Palabra("el fichero")); }
 
     AnoConsumo Mensual() const
     {
@@ -264,7 +194,7 @@ private:
             if (partes.size() != 12)
                 throw ErrorUso(fmt::format("{}: se esperaban 12 valores, llegaron {}", opcion, partes.size()));
             for (std::size_t m = 0; m < 12; ++m)
-                datos.adMes[p][m] = LeerEntre(opcion.c_str(), partes[m], 0, kEnergiaMaxima);
+                datos.adMes[p][m] = LeerAcotado(opcion.c_str(), partes[m], 0, kEnergiaMaxima);
         }
         if (!bAlguna)
             throw ErrorUso("faltan las energías: --p1, --p2 o --p3");
@@ -282,8 +212,10 @@ private:
     {
         if (!m_svg && (m_vista || m_mes || m_dia))
             throw ErrorUso("--vista, --mes y --dia necesitan --svg");
-        if (m_svg && m_bJson)
-            throw ErrorUso("--svg y --json se excluyen");
+        const std::array formas = {m_bJson, m_bCsv, m_bValores, m_svg.has_value()};
+        if (std::ranges::count(formas, true) > 1)
+            throw ErrorUso(m_bCsv || m_bValores ? "--json, --csv, --valores y --svg se excluyen"
+                                                : "--svg y --json se excluyen");
         Salida como{Salidas({m_palabra})};
         if (m_svg)
             como.ficheros.Anadir("--svg", *m_svg);
@@ -293,10 +225,19 @@ private:
         return como;
     }
 
+    std::string Escribir(const AnoConsumo& ano) const
+    {
+        if (m_bJson)
+            return InformeJson(ano);
+        if (m_bValores)
+            return InformeValores(ano);
+        return ano.contador && !m_bCsv ? InformeTexto(ano) : InformeCsv(ano);
+    }
+
     void Emitir(const AnoConsumo& ano, const Salida& como, std::ostream& salida) const
     {
         if (!m_svg) {
-            salida << (m_bJson ? InformeJson(ano) : InformeCsv(ano));
+            salida << Escribir(ano);
             return;
         }
         como.ficheros.Escribir({DibujarAno(ano, como.vista, como.iMes, como.iDia)}, salida);
@@ -308,10 +249,11 @@ private:
 
     std::vector<std::pair<CLI::App*, Calculo>> m_ordenes;
     std::string m_palabra;
-    std::optional<std::string> m_potencia, m_periodo, m_svg, m_vista, m_mes, m_dia;
-    std::string m_unidad = "Wh", m_tiempo = "1", m_patron = "1", m_horas = std::string(24, '1');
+    std::optional<std::string> m_potencia, m_svg, m_vista, m_mes, m_dia;
+    ImportacionConsumo m_importacion;
+    std::string m_patron = "1", m_horas = std::string(24, '1');
     std::array<std::vector<std::string>, 3> m_energias;
-    bool m_bJson = false, m_bIncompleto = false;
+    bool m_bJson = false, m_bCsv = false, m_bValores = false;
 };
 
 }  // namespace

@@ -57,6 +57,35 @@ TEST(Consumo, UnFicheroSeImportaEnSuUnidadYTiempo)
     EsperarFallo({"importar", ruta, "--unidad", "W"}, 2, "Wh, kWh");
 }
 
+// The shipped house: its twelve months read apart from this program, by the clock of each hour; six hours of 14
+// May are missing, 29 February doesn't count.
+TEST(Consumo, UnFicheroDeContadorSeImportaEnHorasSolares)
+{
+    const std::string contador = EFV_CARPETA_PRUEBAS "/../data/ejemplos/contador-casa.csv";
+    const Json json = Calcular({"importar", contador, "--longitud", "-5,9"});
+    EXPECT_EQ(json["horas_Wh"][0], 147.0);     // 1 to 2 by the clock
+    EXPECT_EQ(json["horas_Wh"][8759], 158.0);  // the first hour of the year closes it
+    EXPECT_EQ(json["contador"]["horas_rellenas"], 6);
+    EXPECT_EQ(json["contador"]["primer_dia"], "2024-01-01");
+    const Corrida texto = Correr({"consumo", "importar", contador});
+    EXPECT_TRUE(Contiene(texto.salida, {"Faltan 6 horas", "El 29 de febrero no cuenta", "3641,0"}));
+
+    // What --valores writes is a list of values, which the same command and the dialogs read.
+    const CarpetaTemporal carpeta;
+    const Corrida valores = Correr({"consumo", "importar", contador, "--valores"});
+    const Json otra = Calcular({"importar", carpeta.Crear("v.txt", valores.salida)});
+    EXPECT_EQ(otra["horas_Wh"], json["horas_Wh"]);
+
+    EsperarFallo({"importar", contador, "--estricto"}, 1, "faltan 6 horas del 1/1/2024 al 31/12/2024");
+    EsperarFallo({"importar", contador, "--cups", "ES77"}, 1, "no hay ningún punto de suministro «ES77»");
+    EsperarFallo({"importar", contador, "--tiempo", "1"}, 2, "esto es un fichero de contador");
+    EsperarFallo({"importar", contador, "--csv", "--valores"}, 2, "se excluyen");
+    const std::string lista = carpeta.Crear("l.txt", "1;2;3");
+    EsperarFallo({"importar", lista, "--cups", "ES1"}, 2, "esto es una lista de valores");
+    EsperarFallo({"importar", carpeta.Crear("m.csv", "Fecha;Hora;Consumo_kWh\n1/1/2024;1;x\n")}, 1,
+                 "m.csv»: línea 2: «x» no es un consumo");
+}
+
 TEST(Consumo, LasEnergiasMensualesSeReparten)
 {
     const std::string doce = "10 20 30 40 50 60 70 80 90 100 110 120,5";

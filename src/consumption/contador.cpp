@@ -1,5 +1,5 @@
 // Rows of a meter's file as the hours of its days.
-#include <quorvel/curva_contador.h>
+#include <quorvel/contador.h>
 
 #include <algorithm>
 #include <cmath>
@@ -7,8 +7,8 @@
 
 #include <fmt/format.h>
 
-#include "consumption/curva_columnas.h"
-#include "consumption/curva_filas.h"
+#include "consumption/medidas_columnas.h"
+#include "consumption/medidas_filas.h"
 #include "platform/numero/conversion.h"
 #include "platform/texto/csv.h"
 
@@ -16,9 +16,9 @@ namespace efv {
 
 namespace {
 
-using curva::Fila;
-using curva::Filas;
-using curva::HoraLeida;
+using contador::Fila;
+using contador::Filas;
+using contador::HoraLeida;
 
 constexpr int kMinutosHora = 60;
 constexpr int kMinutosDia = 24 * kMinutosHora;
@@ -66,8 +66,8 @@ std::uint32_t ElegirCups(const std::vector<std::string>& todos, const std::strin
 {
     if (buscado.empty()) {
         if (todos.size() > 1)
-            throw ErrorCurva(fmt::format("hay {} puntos de suministro, elija uno con --cups: {}", todos.size(),
-                                         Lista(todos)));
+            throw ErrorContador(fmt::format("hay {} puntos de suministro, elija uno con --cups: {}",
+                                            todos.size(), Lista(todos)));
         return 0;
     }
     std::vector<std::uint32_t> aiHallados;
@@ -75,9 +75,9 @@ std::uint32_t ElegirCups(const std::vector<std::string>& todos, const std::strin
         if (Mayusculas(todos[i]).find(Mayusculas(buscado)) != std::string::npos)
             aiHallados.push_back(i);
     if (aiHallados.size() != 1)
-        throw ErrorCurva(fmt::format("{} punto de suministro «{}»; hay: {}",
-                                     aiHallados.empty() ? "no hay ningún" : "no es uno solo el", buscado,
-                                     Lista(todos)));
+        throw ErrorContador(fmt::format("{} punto de suministro «{}»; hay: {}",
+                                        aiHallados.empty() ? "no hay ningún" : "no es uno solo el", buscado,
+                                        Lista(todos)));
     return aiHallados.front();
 }
 
@@ -236,7 +236,7 @@ void Ordenar(std::vector<Paso>& pasos)
     std::ranges::stable_sort(pasos, {}, &Paso::iDia);
 }
 
-void RecogerDias(std::vector<Paso>& pasos, int iPorHora, CurvaContador& curva)
+void RecogerDias(std::vector<Paso>& pasos, int iPorHora, MedidasContador& medidas)
 {
     std::size_t nRepetidas = 0, nFuera = 0;
     for (std::size_t i = 0; i < pasos.size();) {
@@ -244,18 +244,18 @@ void RecogerDias(std::vector<Paso>& pasos, int iPorHora, CurvaContador& curva)
         while (fin < pasos.size() && pasos[fin].iDia == pasos[i].iDia)
             ++fin;
         Dia(pasos[i].iDia, iPorHora, std::span(pasos).subspan(i, fin - i))
-            .Recoger(curva.horas, nRepetidas, nFuera);
+            .Recoger(medidas.horas, nRepetidas, nFuera);
         i = fin;
     }
     if (nRepetidas > 0)
-        curva.notas.push_back(
+        medidas.notas.push_back(
             fmt::format("Valores repetidos: {}; cuenta el primero de cada hora.", nRepetidas));
     if (nFuera > 0)
-        curva.notas.push_back(
+        medidas.notas.push_back(
             fmt::format("Valores de horas que el día oficial no tiene: {}; no cuentan.", nFuera));
 }
 
-UnidadCurva UnidadSupuesta(const std::vector<HoraMedida>& horas)
+UnidadContador UnidadSupuesta(const std::vector<HoraMedida>& horas)
 {
     double dSuma = 0.0;
     bool bEnteros = true;
@@ -263,69 +263,69 @@ UnidadCurva UnidadSupuesta(const std::vector<HoraMedida>& horas)
         dSuma += hora.dConsumo;
         bEnteros = bEnteros && hora.dConsumo == std::trunc(hora.dConsumo);
     }
-    return bEnteros && dSuma > kMediaDeWh * static_cast<double>(horas.size()) ? UnidadCurva::Wh
-                                                                              : UnidadCurva::kWh;
+    return bEnteros && dSuma > kMediaDeWh * static_cast<double>(horas.size()) ? UnidadContador::Wh
+                                                                              : UnidadContador::kWh;
 }
 
-void AplicarUnidades(const Filas& filas, UnidadCurva pedida, CurvaContador& curva)
+void AplicarUnidades(const Filas& filas, UnidadContador pedida, MedidasContador& medidas)
 {
-    UnidadCurva consumo = pedida != UnidadCurva::automatica ? pedida : filas.unidadConsumo;
-    if (consumo == UnidadCurva::automatica) {
-        consumo = UnidadSupuesta(curva.horas);
-        curva.notas.push_back(fmt::format(
+    UnidadContador consumo = pedida != UnidadContador::automatica ? pedida : filas.unidadConsumo;
+    if (consumo == UnidadContador::automatica) {
+        consumo = UnidadSupuesta(medidas.horas);
+        medidas.notas.push_back(fmt::format(
             "El fichero no dice la unidad: por el tamaño de los valores se toman {} (--unidad la fija).",
-            consumo == UnidadCurva::Wh ? "Wh" : "kWh"));
+            consumo == UnidadContador::Wh ? "Wh" : "kWh"));
     }
-    const UnidadCurva excedente =
-        filas.unidadExcedente != UnidadCurva::automatica ? filas.unidadExcedente : consumo;
-    for (HoraMedida& hora : curva.horas) {
-        hora.dConsumo /= consumo == UnidadCurva::Wh ? kWhPorKWh : 1.0;
-        hora.dExcedente /= excedente == UnidadCurva::Wh ? kWhPorKWh : 1.0;
+    const UnidadContador excedente =
+        filas.unidadExcedente != UnidadContador::automatica ? filas.unidadExcedente : consumo;
+    for (HoraMedida& hora : medidas.horas) {
+        hora.dConsumo /= consumo == UnidadContador::Wh ? kWhPorKWh : 1.0;
+        hora.dExcedente /= excedente == UnidadContador::Wh ? kWhPorKWh : 1.0;
     }
 }
 
 // No meter counts backwards: a negative hour is one that is missing.
-void ApartarAbsurdos(CurvaContador& curva)
+void ApartarAbsurdos(MedidasContador& medidas)
 {
     const auto negativa = [](const HoraMedida& hora) { return hora.dConsumo < 0.0; };
-    const auto primera = std::ranges::find_if(curva.horas, negativa);
-    if (primera != curva.horas.end()) {
+    const auto primera = std::ranges::find_if(medidas.horas, negativa);
+    if (primera != medidas.horas.end()) {
         const std::string lugar = TextoDeHora(*primera);
-        const std::size_t nNegativas = std::erase_if(curva.horas, negativa);
-        curva.notas.push_back(
+        const std::size_t nNegativas = std::erase_if(medidas.horas, negativa);
+        medidas.notas.push_back(
             fmt::format("Consumos negativos: {} (el primero, {}); cuentan como huecos.", nNegativas, lugar));
     }
     double dSuma = 0.0;
-    for (const HoraMedida& hora : curva.horas)
+    for (const HoraMedida& hora : medidas.horas)
         dSuma += hora.dConsumo;
     const double dLimite =
-        kVecesLaMedia * dSuma / static_cast<double>(std::max<std::size_t>(curva.horas.size(), 1));
-    for (const HoraMedida& hora : curva.horas) {
+        kVecesLaMedia * dSuma / static_cast<double>(std::max<std::size_t>(medidas.horas.size(), 1));
+    for (const HoraMedida& hora : medidas.horas) {
         if (hora.dConsumo > dLimite)
-            curva.notas.push_back(
+            medidas.notas.push_back(
                 fmt::format("Consumo de {} kWh, más de cien veces la media ({}): compruébelo.",
                             Numero(hora.dConsumo, 2), TextoDeHora(hora)));
     }
 }
 
-void AnotarLectura(const Filas& filas, const Escritura& e, CurvaContador& curva)
+void AnotarLectura(const Filas& filas, const Escritura& e, MedidasContador& medidas)
 {
     if (e.bDudosa)
-        curva.notas.push_back(
+        medidas.notas.push_back(
             fmt::format("La hora escrita se toma como {} de su intervalo (--etiqueta la fija).",
                         e.bFin ? "final" : "comienzo"));
     if (filas.nVacias > 0)
-        curva.notas.push_back(fmt::format("Valores en blanco: {}; cuentan como huecos.", filas.nVacias));
+        medidas.notas.push_back(fmt::format("Valores en blanco: {}; cuentan como huecos.", filas.nVacias));
     if (filas.nAjenas > 0)
-        curva.notas.push_back(fmt::format("Líneas sin medidas (totales, en blanco): {}.", filas.nAjenas));
-    if (curva.nEstimadas > 0)
-        curva.notas.push_back(fmt::format("Valores estimados por la distribuidora: {}.", curva.nEstimadas));
-    if (curva.bExcedente) {
+        medidas.notas.push_back(fmt::format("Líneas sin medidas (totales, en blanco): {}.", filas.nAjenas));
+    if (medidas.nEstimadas > 0)
+        medidas.notas.push_back(fmt::format("Valores estimados por la distribuidora: {}.", medidas.nEstimadas));
+    if (medidas.bExcedente) {
         double dSuma = 0.0;
-        for (const HoraMedida& hora : curva.horas)
+        for (const HoraMedida& hora : medidas.horas)
             dSuma += hora.dExcedente;
         if (dSuma > 0.0)
-            curva.notas.push_back(fmt::format(
+            medidas.notas.push_back(fmt::format(
                 "El fichero tiene {} kWh de excedentes: hubo ya generación, y el consumo es solo lo comprado.",
                 Numero(dSuma, 1)));
     }
@@ -333,49 +333,49 @@ void AnotarLectura(const Filas& filas, const Escritura& e, CurvaContador& curva)
 
 }  // namespace
 
-ErrorCurva::~ErrorCurva() = default;
+ErrorContador::~ErrorContador() = default;
 
-bool PareceCurva(std::string_view bytes)
+bool PareceContador(std::string_view bytes)
 {
     constexpr std::size_t kCabeza = 16384, kRegistros = 60;
     std::string memoria;
     // A character cut in two at the end would look like another encoding; the columns don't mind.
-    const std::string_view texto = curva::TextoUtf8(bytes.substr(0, kCabeza), memoria);
-    texto::LectorCsv lector(texto, curva::Separador(texto));
-    curva::Campos campos;
+    const std::string_view texto = contador::TextoUtf8(bytes.substr(0, kCabeza), memoria);
+    texto::LectorCsv lector(texto, contador::Separador(texto));
+    contador::Campos campos;
     for (std::size_t n = 0; n < kRegistros && lector.Siguiente(campos); ++n)
-        if (curva::TieneFecha(campos) || curva::ColumnasDeCabecera(campos))
+        if (contador::TieneFecha(campos) || contador::ColumnasDeCabecera(campos))
             return true;
     return false;
 }
 
-CurvaContador LeerCurva(std::string_view bytes, const OpcionesCurva& opciones)
+MedidasContador LeerContador(std::string_view bytes, const OpcionesContador& opciones)
 {
-    if (bytes.size() > kMaximoCurva)
-        throw ErrorCurva("tiene más de 16 MiB");
+    if (bytes.size() > kMaximoContador)
+        throw ErrorContador("tiene más de 16 MiB");
     std::string memoria;
-    Filas filas = curva::LeerFilas(curva::TextoUtf8(bytes, memoria));
-    CurvaContador curva;
+    Filas filas = contador::LeerFilas(contador::TextoUtf8(bytes, memoria));
+    MedidasContador medidas;
     const std::uint32_t iCups = ElegirCups(filas.acsCups, opciones.cups);
-    curva.cups = filas.acsCups[iCups];
+    medidas.cups = filas.acsCups[iCups];
     std::erase_if(filas.filas, [&](const Fila& fila) { return fila.iCups != iCups; });
     const Escritura e = ReconocerEscritura(filas, opciones.etiqueta);
-    curva.bCuartos = e.iPaso != kMinutosHora;
-    curva.bExcedente = filas.bExcedente;
+    medidas.bCuartos = e.iPaso != kMinutosHora;
+    medidas.bExcedente = filas.bExcedente;
     std::vector<Paso> pasos;
     pasos.reserve(filas.filas.size());
     for (const Fila& fila : filas.filas) {
         pasos.push_back(PasoDe(fila, e));
-        curva.nEstimadas += fila.bEstimada ? 1 : 0;
+        medidas.nEstimadas += fila.bEstimada ? 1 : 0;
     }
     Ordenar(pasos);
-    RecogerDias(pasos, e.PorHora(), curva);
-    if (curva.horas.empty())
-        throw ErrorCurva("no tiene ninguna hora entera");
-    AplicarUnidades(filas, opciones.unidad, curva);
-    ApartarAbsurdos(curva);
-    AnotarLectura(filas, e, curva);
-    return curva;
+    RecogerDias(pasos, e.PorHora(), medidas);
+    AplicarUnidades(filas, opciones.unidad, medidas);
+    ApartarAbsurdos(medidas);
+    if (medidas.horas.empty())
+        throw ErrorContador("no tiene ninguna hora entera");
+    AnotarLectura(filas, e, medidas);
+    return medidas;
 }
 
 }  // namespace efv

@@ -6,20 +6,20 @@
 #include <string>
 #include <vector>
 
-#include <quorvel/curva_contador.h>
+#include <quorvel/contador.h>
 
-namespace efv::curva {
+namespace efv::contador {
 
 struct Columnas {
     std::optional<std::size_t> cups, fecha, hora, consumo, excedente, estado;
     std::vector<std::size_t> horas;  ///< of a row a day: one an hour, or one a quarter
-    UnidadCurva unidadConsumo = UnidadCurva::automatica;
-    UnidadCurva unidadExcedente = UnidadCurva::automatica;
+    UnidadContador unidadConsumo = UnidadContador::automatica;
+    UnidadContador unidadExcedente = UnidadContador::automatica;
 };
 
 using Campos = std::vector<std::string>;
 
-/// What the headings say; nothing when they don't name a date and another column of a curve.
+/// What the headings say; nothing when they don't name a date and another column of a meter.
 std::optional<Columnas> ColumnasDeCabecera(const Campos& campos);
 
 /// What a row of data without headings looks like; nothing when it has no date and number.
@@ -27,4 +27,4 @@ std::optional<Columnas> ColumnasDeDatos(const Campos& campos);
 
 bool TieneFecha(const Campos& campos);
 
-}  // namespace efv::curva
+}  // namespace efv::contador

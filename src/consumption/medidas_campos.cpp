@@ -1,4 +1,4 @@
-#include "consumption/curva_campos.h"
+#include "consumption/medidas_campos.h"
 
 #include <algorithm>
 #include <array>
@@ -9,7 +9,7 @@
 
 #include "platform/texto/texto.h"
 
-namespace efv::curva {
+namespace efv::contador {
 
 namespace {
 
@@ -170,4 +170,4 @@ std::optional<HoraLeida> LeerHora(std::string_view campo)
     return HoraLeida{bIntervalo ? HoraLeida::Clase::intervalo : HoraLeida::Clase::reloj, *iMinutos};
 }
 
-}  // namespace efv::curva
+}  // namespace efv::contador

@@ -1,4 +1,4 @@
-// Hourly curves of a meter as Spanish distributors deliver them, and the year of the study out of one.
+// Hourly values of a meter as Spanish distributors deliver them, and the year of the study out of them.
 //
 // What is read: fields separated by semicolons, tabs or commas, with headings or without, with lines of other
 // data before them; supply point (CUPS), date, hour, consumption, surplus, "real or estimated", in any order.
@@ -21,17 +21,17 @@
 
 namespace efv {
 
-/// What is wrong with a curve, in Spanish, with its line where it has one.
-class EFV_API ErrorCurva : public CException {
+/// What is wrong with a file, in Spanish, with its line where it has one.
+class EFV_API ErrorContador : public CException {
 public:
     using CException::CException;
-    ~ErrorCurva() override;
+    ~ErrorContador() override;
 };
 
 /// Most bytes of a file.
-inline constexpr std::size_t kMaximoCurva = std::size_t{16} << 20;
+inline constexpr std::size_t kMaximoContador = std::size_t{16} << 20;
 
-enum class UnidadCurva {
+enum class UnidadContador {
     automatica,  ///< what the heading says, else by the size of the values
     Wh,
     kWh
@@ -44,9 +44,9 @@ enum class EtiquetaHora {
     fin
 };
 
-struct OpcionesCurva {
-    std::string cups;  ///< the supply point, or a part of it that no other has; empty: the only one
-    UnidadCurva unidad = UnidadCurva::automatica;
+struct OpcionesContador {
+    std::string cups = {};  ///< the supply point, or a part of it that no other has; empty: the only one
+    UnidadContador unidad = UnidadContador::automatica;
     EtiquetaHora etiqueta = EtiquetaHora::automatica;
 };
 
@@ -56,7 +56,7 @@ struct HoraMedida {
     double dConsumo, dExcedente;  ///< kWh
 };
 
-struct CurvaContador {
+struct MedidasContador {
     std::string cups;  ///< empty when the file has none
     bool bExcedente = false;
     bool bCuartos = false;           ///< quarters of an hour, summed
@@ -65,12 +65,13 @@ struct CurvaContador {
     std::vector<std::string> notas;  ///< what must be known of the reading, a Spanish line each
 };
 
-/// True when one of the first lines holds a date, as every curve does and a plain list of values doesn't.
-EFV_API bool PareceCurva(std::string_view bytes);
+/// True when one of the first lines holds a date, as every file of a meter does and a plain list of values
+/// doesn't.
+EFV_API bool PareceContador(std::string_view bytes);
 
-/// @throws ErrorCurva for a file of another kind, a missing column, an unreadable value, two supply points and
-/// none chosen
-EFV_API CurvaContador LeerCurva(std::string_view bytes, const OpcionesCurva& opciones = {});
+/// @throws ErrorContador for a file of another kind, a missing column, an unreadable value, two supply points
+/// and none chosen
+EFV_API MedidasContador LeerContador(std::string_view bytes, const OpcionesContador& opciones = {});
 
 struct OpcionesAno {
     bool bSolar = true;  ///< hours of the sun; else of the clock: its two hours of the October day add up in
@@ -83,7 +84,7 @@ struct OpcionesAno {
 /// Civil year of each day of the year of 365.
 using AnosDeDias = std::array<int, 365>;
 
-/// The last twelve months of a curve as a year from 1 January.
+/// The last twelve months of a meter as a year from 1 January.
 struct AnoMedido {
     std::unique_ptr<AnoHorario> adHoras = std::make_unique<AnoHorario>();  ///< Wh
     AnosDeDias aiAno{};
@@ -94,7 +95,7 @@ struct AnoMedido {
 };
 
 /// Missing hours take the value of the same day of the week and hour, the mean of the nearest weeks before and
-/// after; 29 February is left out. @throws ErrorCurva without a week of data, or for a gap with `bEstricto`
-EFV_API AnoMedido AnoDeCurva(const CurvaContador& curva, const OpcionesAno& opciones);
+/// after; 29 February is left out. @throws ErrorContador without a week of data, or for a gap with `bEstricto`
+EFV_API AnoMedido AnoDeContador(const MedidasContador& medidas, const OpcionesAno& opciones);
 
 }  // namespace efv

@@ -1,12 +1,12 @@
-#include "consumption/curva_columnas.h"
+#include "consumption/medidas_columnas.h"
 
 #include <algorithm>
 #include <array>
 #include <string_view>
 
-#include "consumption/curva_campos.h"
+#include "consumption/medidas_campos.h"
 
-namespace efv::curva {
+namespace efv::contador {
 
 namespace {
 
@@ -73,11 +73,11 @@ bool EsConsumo(std::string_view clave)
     return clave == "kwh" || clave == "wh" || clave.starts_with("consum") || EsUna(SinUnidad(clave), kPalabras);
 }
 
-UnidadCurva Unidad(std::string_view clave)
+UnidadContador Unidad(std::string_view clave)
 {
     if (clave.ends_with("kwh"))
-        return UnidadCurva::kWh;
-    return clave.ends_with("wh") ? UnidadCurva::Wh : UnidadCurva::automatica;
+        return UnidadContador::kWh;
+    return clave.ends_with("wh") ? UnidadContador::Wh : UnidadContador::automatica;
 }
 
 // "H1", "Hora 01", "1", "01:00": an hour as a heading.
@@ -174,4 +174,4 @@ bool TieneFecha(const Campos& campos)
     return std::ranges::any_of(campos, [](const std::string& campo) { return LeerFecha(campo).has_value(); });
 }
 
-}  // namespace efv::curva
+}  // namespace efv::contador

@@ -6,7 +6,7 @@
 #include <fmt/format.h>
 #include <gtest/gtest.h>
 
-#include <quorvel/curva_contador.h>
+#include <quorvel/contador.h>
 
 namespace {
 
@@ -19,18 +19,18 @@ int Dia(int iAno, int iMes, int iDia)
     return DiaDeFecha({iAno, iMes, iDia});
 }
 
-std::string Falta(const std::string& texto, const OpcionesCurva& opciones = {})
+std::string Falta(const std::string& texto, const OpcionesContador& opciones = {})
 {
     try {
-        LeerCurva(texto, opciones);
-    } catch (const ErrorCurva& error) {
+        LeerContador(texto, opciones);
+    } catch (const ErrorContador& error) {
         return error.what();
     }
     return "";
 }
 
 // Every text holds 0.25 kWh in the first hour of 5 March 2024 and 1.5 kWh in its last one.
-TEST(CurvaContador, LeeLoQueEscribenLasDistribuidoras)
+TEST(Contador, LeeLoQueEscribenLasDistribuidoras)
 {
     std::string cuartos = "Fecha;Hora;kWh\n", ancha = "Fecha";
     for (int q = 1; q <= 96; ++q)
@@ -64,25 +64,25 @@ TEST(CurvaContador, LeeLoQueEscribenLasDistribuidoras)
         ancha,
     };
     for (const std::string& texto : textos) {
-        ASSERT_TRUE(PareceCurva(texto)) << texto;
-        const CurvaContador curva = LeerCurva(texto);
-        ASSERT_GE(curva.horas.size(), 2U) << texto;
-        const HoraMedida& primera = curva.horas.front();
-        const HoraMedida& ultima = curva.horas.back();
+        ASSERT_TRUE(PareceContador(texto)) << texto;
+        const MedidasContador medidas = LeerContador(texto);
+        ASSERT_GE(medidas.horas.size(), 2U) << texto;
+        const HoraMedida& primera = medidas.horas.front();
+        const HoraMedida& ultima = medidas.horas.back();
         EXPECT_TRUE(primera.iDia == Dia(2024, 3, 5) && ultima.iDia == primera.iDia) << texto;
         EXPECT_EQ(primera.iOrden, 0) << texto;
         EXPECT_EQ(ultima.iOrden, 23) << texto;
         EXPECT_DOUBLE_EQ(primera.dConsumo, 0.25) << texto;
         EXPECT_DOUBLE_EQ(ultima.dConsumo, 1.5) << texto;
-        EXPECT_DOUBLE_EQ(ultima.dExcedente, curva.bExcedente ? 0.5 : 0.0) << texto;
+        EXPECT_DOUBLE_EQ(ultima.dExcedente, medidas.bExcedente ? 0.5 : 0.0) << texto;
     }
-    EXPECT_EQ(LeerCurva(textos[0]).nEstimadas, 1U);
-    EXPECT_FALSE(PareceCurva("0,25;0,30;1,5\n0,2;0,3;0,1\n"));
+    EXPECT_EQ(LeerContador(textos[0]).nEstimadas, 1U);
+    EXPECT_FALSE(PareceContador("0,25;0,30;1,5\n0,2;0,3;0,1\n"));
 }
 
 // 31 March 2024 has 23 hours and 27 October 25: numbered on, by the clock with its third hour missing or twice,
 // and by times. The value of each hour is its place in the day.
-TEST(CurvaContador, ElDiaDelCambioTieneSusHoras)
+TEST(Contador, ElDiaDelCambioTieneSusHoras)
 {
     const auto texto = [](const char* fecha, const std::vector<std::string>& horas) {
         std::string csv = "Fecha;Hora;Consumo_kWh\n";
@@ -105,21 +105,21 @@ TEST(CurvaContador, ElDiaDelCambioTieneSusHoras)
         texto("27/10/2024", seguidas(25, [](int i) { return fmt::format("{}:00", i < 3 ? i : i - 1); })),
     };
     for (const std::string& csv : textos) {
-        const CurvaContador curva = LeerCurva(csv);
+        const MedidasContador medidas = LeerContador(csv);
         const std::size_t nHoras = csv.find("31/03") != std::string::npos ? 23 : 25;
-        ASSERT_EQ(curva.horas.size(), nHoras) << csv;
+        ASSERT_EQ(medidas.horas.size(), nHoras) << csv;
         for (std::size_t i = 0; i < nHoras; ++i) {
-            EXPECT_EQ(curva.horas[i].iOrden, static_cast<int>(i));
-            EXPECT_EQ(curva.horas[i].dConsumo, static_cast<double>(i)) << csv;
+            EXPECT_EQ(medidas.horas[i].iOrden, static_cast<int>(i));
+            EXPECT_EQ(medidas.horas[i].dConsumo, static_cast<double>(i)) << csv;
         }
     }
 }
 
-TEST(CurvaContador, LoQueNoEsUnaCurvaSeDiceConSuLinea)
+TEST(Contador, LoQueNoEsUnFicheroDeContadorSeDiceConSuLinea)
 {
     const std::string cabecera = "CUPS;Fecha;Hora;Consumo_kWh\n";
     const std::vector<std::pair<std::string, std::string>> casos = {
-        {"uno;dos;tres\n1;2;3\n", "no es una curva"},
+        {"uno;dos;tres\n1;2;3\n", "no es un fichero de contador"},
         {"CUPS;Fecha;Hora;Precio\nES1;1/1/2024;1;0,2\n", "línea 1: la cabecera no tiene columna de consumo"},
         {"Fecha;Consumo_kWh\n1/1/2024;0,2\n", "línea 2: falta la columna de la hora"},
         {cabecera + "ES1;1/1/2024;1;0,2\nES1;31/2/2024;2;0,2\n", "línea 3: «31/2/2024» no es una fecha"},
@@ -132,12 +132,12 @@ TEST(CurvaContador, LoQueNoEsUnaCurvaSeDiceConSuLinea)
     for (const auto& [texto, esperado] : casos)
         EXPECT_NE(Falta(texto).find(esperado), std::string::npos) << texto << "\n" << Falta(texto);
     const std::string dos = casos[6].first;
-    EXPECT_DOUBLE_EQ(LeerCurva(dos, {.cups = "es2"}).horas[0].dConsumo, 0.3);
+    EXPECT_DOUBLE_EQ(LeerContador(dos, {.cups = "es2"}).horas[0].dConsumo, 0.3);
     EXPECT_NE(Falta(dos, {.cups = "ES3"}).find("no hay ningún"), std::string::npos);
 }
 
 // From 1 March 2023 on, as many days; the value of an hour says its day and hour: day × 100 + hour, from 0.
-std::string Curva(int nDias, const std::function<bool(int, int)>& falta = {})
+std::string Texto(int nDias, const std::function<bool(int, int)>& falta = {})
 {
     std::string csv = "CUPS;Fecha;Hora;Consumo_kWh;Metodo_obtencion\n";
     for (int d = 0; d < nDias; ++d) {
@@ -159,11 +159,11 @@ double En(const AnoMedido& ano, int iMes, int iDia, int iHora)
 // 366 days from 1 March 2023 to 29 February 2024, of which the last is left out. In the sun's hours of Madrid
 // those of the winter clock lie one back, those of summer two; in the Canary Islands (longitude -15.4) one and
 // two as well.
-TEST(CurvaContador, DoceMesesEnHorasDelSolODelReloj)
+TEST(Contador, DoceMesesEnHorasDelSolODelReloj)
 {
-    const CurvaContador curva = LeerCurva(Curva(366));
+    const MedidasContador medidas = LeerContador(Texto(366));
     const int iJulio = Dia(2023, 7, 1) - Dia(2023, 3, 1);
-    const AnoMedido ano = AnoDeCurva(curva, {});
+    const AnoMedido ano = AnoDeContador(medidas, {});
     EXPECT_EQ(ano.nRellenas, 0U);
     EXPECT_EQ(ano.iPrimerDia, Dia(2023, 3, 1));
     EXPECT_DOUBLE_EQ(En(ano, 3, 5, 8), 409.0);                   // 9 to 10 by the winter clock
@@ -172,9 +172,9 @@ TEST(CurvaContador, DoceMesesEnHorasDelSolODelReloj)
     EXPECT_DOUBLE_EQ(En(ano, 3, 26, 1), 25 * 100.0 + 2.0);       // the third of 23
     EXPECT_EQ(ano.aiAno[0], 2024);
     EXPECT_EQ(ano.aiAno[364], 2023);
-    const AnoMedido canario = AnoDeCurva(curva, {.dLongitud = -15.4, .huso = HusoOficial::canarias});
+    const AnoMedido canario = AnoDeContador(medidas, {.dLongitud = -15.4, .huso = HusoOficial::canarias});
     EXPECT_DOUBLE_EQ(En(canario, 3, 5, 8), 409.0);
-    const AnoMedido reloj = AnoDeCurva(curva, {.bSolar = false});
+    const AnoMedido reloj = AnoDeContador(medidas, {.bSolar = false});
     EXPECT_DOUBLE_EQ(En(reloj, 7, 1, 12), iJulio * 100.0 + 12.0);
     EXPECT_EQ(En(reloj, 3, 26, 2), 0.0);
     const int iOctubre = Dia(2023, 10, 29) - Dia(2023, 3, 1);
@@ -183,19 +183,19 @@ TEST(CurvaContador, DoceMesesEnHorasDelSolODelReloj)
 }
 
 // The hour 5 of a day in the middle is missing: the mean of a week before and after is its own value here.
-TEST(CurvaContador, LosHuecosSeRellenanODetienen)
+TEST(Contador, LosHuecosSeRellenanODetienen)
 {
-    const CurvaContador curva = LeerCurva(Curva(365, [](int d, int h) { return d == 300 && h == 5; }));
-    const AnoMedido ano = AnoDeCurva(curva, {});
+    const MedidasContador medidas = LeerContador(Texto(365, [](int d, int h) { return d == 300 && h == 5; }));
+    const AnoMedido ano = AnoDeContador(medidas, {});
     EXPECT_EQ(ano.nRellenas, 1U);
     const FechaCivil fecha = FechaDeDia(Dia(2023, 3, 1) + 300);
     EXPECT_DOUBLE_EQ(En(ano, fecha.iMes, fecha.iDia, 4), 30005.0);
-    EXPECT_THROW(AnoDeCurva(curva, {.bEstricto = true}), ErrorCurva);
-    EXPECT_THROW(AnoDeCurva(LeerCurva(Curva(5)), {}), ErrorCurva);
-    EXPECT_EQ(AnoDeCurva(LeerCurva(Curva(40)), {}).nRellenas, 8760U - (40 * 24 - 1));
+    EXPECT_THROW(AnoDeContador(medidas, {.bEstricto = true}), ErrorContador);
+    EXPECT_THROW(AnoDeContador(LeerContador(Texto(5)), {}), ErrorContador);
+    EXPECT_EQ(AnoDeContador(LeerContador(Texto(40)), {}).nRellenas, 8760U - (40 * 24 - 1));
 }
 
-TEST(CurvaContador, LoAbsurdoSeDice)
+TEST(Contador, LoAbsurdoSeDice)
 {
     std::string csv = "Fecha;Hora;Consumo_kWh\n";
     for (int d = 1; d <= 28; ++d)
@@ -204,11 +204,11 @@ TEST(CurvaContador, LoAbsurdoSeDice)
                                d == 9 && h == 4    ? "-1"
                                : d == 10 && h == 4 ? "900"
                                                    : "1");
-    const CurvaContador curva = LeerCurva(csv);
-    ASSERT_EQ(curva.notas.size(), 2U);
-    EXPECT_NE(curva.notas[0].find("negativos: 1 (el primero, 9/2/2023, hora 4)"), std::string::npos);
-    EXPECT_NE(curva.notas[1].find("900,00 kWh"), std::string::npos);
-    EXPECT_EQ(curva.horas.size(), 28U * 24 - 1);
+    const MedidasContador medidas = LeerContador(csv);
+    ASSERT_EQ(medidas.notas.size(), 2U);
+    EXPECT_NE(medidas.notas[0].find("negativos: 1 (el primero, 9/2/2023, hora 4)"), std::string::npos);
+    EXPECT_NE(medidas.notas[1].find("900,00 kWh"), std::string::npos);
+    EXPECT_EQ(medidas.horas.size(), 28U * 24 - 1);
 }
 
 }  // namespace

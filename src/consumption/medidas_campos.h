@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace efv::curva {
+namespace efv::contador {
 
 /// Without blanks at both ends, no-break ones too.
 std::string_view Recortar(std::string_view campo);
@@ -34,4 +34,4 @@ struct HoraLeida {
 };
 std::optional<HoraLeida> LeerHora(std::string_view campo);
 
-}  // namespace efv::curva
+}  // namespace efv::contador

@@ -1,5 +1,5 @@
 // The last twelve months of a meter as a year of 365 days, in hours of the sun or of the clock.
-#include <quorvel/curva_contador.h>
+#include <quorvel/contador.h>
 
 #include <algorithm>
 
@@ -67,11 +67,13 @@ int PrimerDia(int iUltimo)
 
 class Ano {
 public:
-    Ano(const CurvaContador& curva, const OpcionesAno& opciones) : m_curva(curva), m_opciones(opciones) {}
+    Ano(const MedidasContador& medidas, const OpcionesAno& opciones) : m_medidas(medidas), m_opciones(opciones)
+    {
+    }
 
     AnoMedido Hacer()
     {
-        m_ano.iUltimoDia = UltimoDia(m_curva.horas);
+        m_ano.iUltimoDia = UltimoDia(m_medidas.horas);
         m_ano.iPrimerDia = PrimerDia(m_ano.iUltimoDia);
         for (int iDia = m_ano.iPrimerDia; iDia <= m_ano.iUltimoDia; ++iDia)
             if (const FechaCivil fecha = FechaDeDia(iDia); !Es29DeFebrero(fecha))
@@ -79,7 +81,7 @@ public:
         // The first hours of the clock fall on the sun's day before: they close the year where nothing else
         // does.
         for (const bool bDentro : {true, false})
-            for (const HoraMedida& hora : m_curva.horas)
+            for (const HoraMedida& hora : m_medidas.horas)
                 Poner(hora, bDentro);
         if (m_nBisiesto > 0)
             m_ano.notas.push_back(fmt::format("El 29 de febrero no cuenta: {} horas, {} kWh.", m_nBisiesto,
@@ -156,13 +158,14 @@ private:
         const std::string primero = fmt::format("{} a las {} h", Texto(DiaCivil(huecos.front() / kHorasDia)),
                                                 huecos.front() % kHorasDia);
         if (m_opciones.bEstricto)
-            throw ErrorCurva(fmt::format("faltan {} horas del {} al {}; la primera, {}", huecos.size(),
-                                         Texto(m_ano.iPrimerDia), Texto(m_ano.iUltimoDia), primero));
+            throw ErrorContador(fmt::format("faltan {} horas del {} al {}; la primera, {}", huecos.size(),
+                                            Texto(m_ano.iPrimerDia), Texto(m_ano.iUltimoDia), primero));
         for (const std::size_t i : huecos)
             (*m_ano.adHoras)[i] = ValorParecido(i);
         const double dParte = static_cast<double>(huecos.size()) / static_cast<double>(kHorasDelAno);
         m_ano.notas.push_back(fmt::format(
-            "Faltan {} horas{} (la primera, {}): rellenas con el mismo día de la semana y hora más cercanos.",
+            "Faltan {} horas{} (la primera, el {}): rellenas con el mismo día de la semana y hora más "
+            "cercanos.",
             huecos.size(),
             dParte > kMuchasRellenas
                 ? fmt::format(", el {} % del año", CadenaUtf8(numero::nuConvertFltToIntlStr(dParte * 100.0, 0)))
@@ -190,7 +193,7 @@ private:
             if (n > 0)
                 return dSuma / n;
         }
-        throw ErrorCurva(
+        throw ErrorContador(
             "no hay datos de todos los días de la semana y horas: hace falta al menos una semana entera");
     }
 
@@ -204,7 +207,7 @@ private:
                 fmt::format("El fichero tiene {} horas más, fuera de esos doce meses.", m_nFuera));
     }
 
-    const CurvaContador& m_curva;
+    const MedidasContador& m_medidas;
     const OpcionesAno& m_opciones;
     AnoMedido m_ano;
     std::array<unsigned char, kHorasDelAno> m_anHoras{};
@@ -214,11 +217,11 @@ private:
 
 }  // namespace
 
-AnoMedido AnoDeCurva(const CurvaContador& curva, const OpcionesAno& opciones)
+AnoMedido AnoDeContador(const MedidasContador& medidas, const OpcionesAno& opciones)
 {
-    if (curva.horas.empty())
-        throw ErrorCurva("no tiene ninguna hora entera");
-    return Ano(curva, opciones).Hacer();
+    if (medidas.horas.empty())
+        throw ErrorContador("no tiene ninguna hora entera");
+    return Ano(medidas, opciones).Hacer();
 }
 
 }  // namespace efv

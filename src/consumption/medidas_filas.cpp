@@ -1,16 +1,16 @@
-#include "consumption/curva_filas.h"
+#include "consumption/medidas_filas.h"
 
 #include <algorithm>
-#include <limits>
+#include <cmath>
 #include <optional>
 
 #include <fmt/format.h>
 
-#include "consumption/curva_columnas.h"
+#include "consumption/medidas_columnas.h"
 #include "platform/texto/csv.h"
 #include "platform/texto/texto.h"
 
-namespace efv::curva {
+namespace efv::contador {
 
 namespace {
 
@@ -19,6 +19,8 @@ constexpr std::size_t kMaximoPrevias = 60;
 constexpr std::size_t kMaximoFilas = 1'000'000;
 constexpr std::size_t kMaximoCups = 1000;
 constexpr std::size_t kCita = 40;
+/// No meter counts so much in an hour, Wh or kWh.
+constexpr double kMaximoValor = 1e12;
 
 std::string Cita(std::string_view campo)
 {
@@ -27,7 +29,7 @@ std::string Cita(std::string_view campo)
 
 [[noreturn]] void Fallar(std::size_t nLinea, const std::string& texto)
 {
-    throw ErrorCurva(fmt::format("línea {}: {}", nLinea, texto));
+    throw ErrorContador(fmt::format("línea {}: {}", nLinea, texto));
 }
 
 std::string_view CampoDe(const Campos& campos, std::optional<std::size_t> columna)
@@ -51,7 +53,7 @@ public:
         while (m_lector.Siguiente(m_campos))
             LeerRegistro();
         if (m_filas.filas.empty())
-            throw ErrorCurva("no tiene ninguna medida con fecha, hora y consumo");
+            throw ErrorContador("no tiene ninguna medida con fecha, hora y consumo");
         return std::move(m_filas);
     }
 
@@ -78,8 +80,8 @@ private:
                 return;
             }
         }
-        throw ErrorCurva(
-            "no es una curva de consumo: se esperaban columnas de fecha, hora y consumo, como "
+        throw ErrorContador(
+            "no es un fichero de contador: se esperaban columnas de fecha, hora y consumo, como "
             "CUPS;Fecha;Hora;Consumo_kWh");
     }
 
@@ -149,7 +151,7 @@ private:
         if (campo.empty())
             return std::nullopt;
         const auto d = LeerCantidad(campo);
-        if (!d)
+        if (!d || std::abs(*d) > kMaximoValor)
             Fallar(m_lector.Linea(), fmt::format("«{}» no es {}", Cita(campo), que));
         return d;
     }
@@ -221,8 +223,8 @@ char Separador(std::string_view texto)
 Filas LeerFilas(std::string_view texto)
 {
     if (texto.find('\0') != std::string_view::npos)
-        throw ErrorCurva("no es un fichero de texto");
+        throw ErrorContador("no es un fichero de texto");
     return LectorFilas(texto).Leer();
 }
 
-}  // namespace efv::curva
+}  // namespace efv::contador

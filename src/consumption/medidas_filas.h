@@ -6,11 +6,11 @@
 #include <string_view>
 #include <vector>
 
-#include <quorvel/curva_contador.h>
+#include <quorvel/contador.h>
 
-#include "consumption/curva_campos.h"
+#include "consumption/medidas_campos.h"
 
-namespace efv::curva {
+namespace efv::contador {
 
 struct Fila {
     int iDia;
@@ -25,14 +25,14 @@ struct Fila {
 struct Filas {
     std::vector<Fila> filas;
     std::vector<std::string> acsCups;
-    UnidadCurva unidadConsumo = UnidadCurva::automatica;
-    UnidadCurva unidadExcedente = UnidadCurva::automatica;
+    UnidadContador unidadConsumo = UnidadContador::automatica;
+    UnidadContador unidadExcedente = UnidadContador::automatica;
     bool bExcedente = false;
     std::size_t nVacias = 0;  ///< values left blank
-    std::size_t nAjenas = 0;  ///< lines behind the first row that hold totals or nothing of a curve
+    std::size_t nAjenas = 0;  ///< lines behind the first row that hold totals or nothing of a meter
 };
 
-/// @param texto UTF-8 @throws ErrorCurva
+/// @param texto UTF-8 @throws ErrorContador
 Filas LeerFilas(std::string_view texto);
 
 /// UTF-8 of a file of any encoding; well-formed UTF-8 isn't copied but stays where it is.
@@ -41,4 +41,4 @@ std::string_view TextoUtf8(std::string_view bytes, std::string& memoria);
 /// What parts the fields of a text.
 char Separador(std::string_view texto);
 
-}  // namespace efv::curva
+}  // namespace efv::contador

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include <quorvel/curva_contador.h>
+#include <quorvel/contador.h>
 
 #include "exigir.h"
 
@@ -13,11 +13,11 @@ namespace {
 
 using namespace efv;
 
-void ComprobarHoras(const CurvaContador& curva)
+void ComprobarHoras(const MedidasContador& medidas)
 {
-    Exigir(!curva.horas.empty());
+    Exigir(!medidas.horas.empty());
     const HoraMedida* anterior = nullptr;
-    for (const HoraMedida& hora : curva.horas) {
+    for (const HoraMedida& hora : medidas.horas) {
         Exigir(hora.iOrden >= 0 && hora.iOrden < HorasDelDiaOficial(hora.iDia));
         Exigir(std::isfinite(hora.dConsumo) && hora.dConsumo >= 0.0);
         if (anterior != nullptr)
@@ -32,14 +32,15 @@ void ComprobarHoras(const CurvaContador& curva)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tamano)
 {
     const std::string_view bytes(reinterpret_cast<const char*>(datos), tamano);
-    PareceCurva(bytes);
+    PareceContador(bytes);
     try {
-        const CurvaContador curva = LeerCurva(bytes, {.etiqueta = static_cast<EtiquetaHora>(tamano % 3)});
-        ComprobarHoras(curva);
-        const AnoMedido ano = AnoDeCurva(curva, {.bSolar = tamano % 2 == 0});
+        const MedidasContador medidas =
+            LeerContador(bytes, {.etiqueta = static_cast<EtiquetaHora>(tamano % 3)});
+        ComprobarHoras(medidas);
+        const AnoMedido ano = AnoDeContador(medidas, {.bSolar = tamano % 2 == 0});
         for (const double d : *ano.adHoras)
             Exigir(!std::isnan(d) && d >= 0.0);
-    } catch (const ErrorCurva&) {
+    } catch (const ErrorContador&) {
         return 0;
     }
     return 0;
