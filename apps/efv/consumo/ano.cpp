@@ -17,7 +17,6 @@ namespace efv::orden {
 namespace {
 
 constexpr wchar_t kSeparador = L';';
-constexpr std::size_t kMaximoTexto = std::size_t{16} << 20;
 constexpr std::size_t kMaximoJson = std::size_t{64} << 20;
 constexpr double kWhPorKWh = 1000.0;
 
@@ -43,9 +42,9 @@ void ComprobarValores(std::wstring_view texto, const std::string& ruta)
     }
 }
 
-CString LeerNormal(const std::string& ruta)
+CString LeerNormal(const std::string& ruta, std::string_view bytes)
 {
-    const auto texto = TextoDeValores(LeerEntrada(ruta, kMaximoTexto));
+    const auto texto = TextoDeValores(bytes);
     if (!texto)
         throw ErrorEjecucion(fmt::format("no se puede leer «{}»: no es texto", ruta));
     CString normal = NormalizarValores(*texto, kSeparador);
@@ -75,11 +74,12 @@ AnoConsumo AnoDePatron(int iPatron, double dPotencia)
     return ano;
 }
 
-AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, bool bIncompleto)
+AnoConsumo AnoDeFichero(const std::string& ruta, std::string_view bytes, const FormatoValores& formato,
+                        bool bIncompleto)
 {
     // Months of quarter hours hold four values an hour here, whatever the screens make of them.
     const int nEsperados = HorasDePeriodo(formato.iPeriodo).Horas() * (formato.bCuartosDeHora ? 4 : 1);
-    const std::vector<double> valores = LeerValores(LeerNormal(ruta), kSeparador, nEsperados + 1);
+    const std::vector<double> valores = LeerValores(LeerNormal(ruta, bytes), kSeparador, nEsperados + 1);
     const int nLeidos = static_cast<int>(valores.size());
     if (nLeidos > nEsperados)
         throw ErrorEjecucion(fmt::format(

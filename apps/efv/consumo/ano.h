@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include <quorvel/consumption.h>
@@ -36,9 +37,10 @@ struct AnoConsumo {
 AnoConsumo AnoDePatron(int iPatron, double dPotencia);
 
 /// The values of a file. A month's hours alone are set when the format asks for a month.
-/// @throws ErrorEjecucion when it can't be read, a value is no number, or there are more or (unless
-/// `bIncompleto`) less of them than the format asks for
-AnoConsumo AnoDeFichero(const std::string& ruta, const FormatoValores& formato, bool bIncompleto);
+/// @param bytes its content @throws ErrorEjecucion when it is no text, a value is no number, or there are more
+/// or (unless `bIncompleto`) less of them than the format asks for
+AnoConsumo AnoDeFichero(const std::string& ruta, std::string_view bytes, const FormatoValores& formato,
+                        bool bIncompleto);
 
 /// What a meter's file is read with.
 struct LecturaContador {

@@ -1,7 +1,5 @@
 #include "consumo/importacion.h"
 
-#include <filesystem>
-
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
@@ -20,15 +18,6 @@ constexpr Palabras<bool, 2> kUnidades = {{{"Wh", false}, {"kWh", true}}};
 constexpr Palabras<bool, 2> kTiempos = {{{"1", false}, {"1/4", true}}};
 constexpr Palabras<EtiquetaHora, 2> kEtiquetas = {
     {{"inicio", EtiquetaHora::inicio}, {"final", EtiquetaHora::fin}}};
-
-// Bytes of what may be a meter's file: of a plain list the library reads the file itself.
-std::string BytesDe(const std::string& ruta)
-{
-    std::error_code error;
-    if (std::filesystem::is_directory(ruta, error))
-        return {};
-    return LeerEntrada(ruta, kMaximoContador);
-}
 
 }  // namespace
 
@@ -74,7 +63,8 @@ void ImportacionConsumo::Declarar(CLI::App& orden)
 
 AnoConsumo ImportacionConsumo::Leer(const std::string& ruta) const
 {
-    if (const std::string bytes = BytesDe(ruta); PareceContador(bytes)) {
+    const std::string bytes = LeerEntrada(ruta, kMaximoContador);
+    if (PareceContador(bytes)) {
         if (m_tiempo || m_periodo || m_bIncompleto)
             throw ErrorUso(
                 "--tiempo, --periodo e --incompleto son de una lista de valores, y esto es un fichero de "
@@ -87,7 +77,7 @@ AnoConsumo ImportacionConsumo::Leer(const std::string& ruta) const
         formato.iPeriodo = LeerEntero("--periodo", *m_periodo, 1, 12) - 1;
     formato.bKWh = Elegir("--unidad", m_unidad.value_or("Wh"), kUnidades);
     formato.bCuartosDeHora = Elegir("--tiempo", m_tiempo.value_or("1"), kTiempos);
-    return AnoDeFichero(ruta, formato, m_bIncompleto);
+    return AnoDeFichero(ruta, bytes, formato, m_bIncompleto);
 }
 
 void ImportacionConsumo::ComprobarSinContador() const
