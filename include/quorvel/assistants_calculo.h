@@ -204,23 +204,65 @@ enum class Limite {
     corrienteCortocircuito,  ///< short circuit at the highest temperature there, A: at most the inverter's
     potenciaCC,              ///< peak power, W: at most the inverter's
     ramales,                 ///< strings: at most the inverter's inputs
+    tensionVacioRegulador,   ///< open circuit at the lowest temperature, V: at most the regulator's
+    tensionMppRegulador,     ///< maximum power at the highest temperature, V: at least the regulator's
+    corrienteRegulador,      ///< short circuit at the highest temperature, A: at most the regulator's
 };
 
 struct Comprobacion {
     Limite limite;
-    double dValor;
+    double dValor;                ///< not a number when the module's temperature coefficient isn't known
     double dLimite;               ///< 0 when the catalogue doesn't give it
-    std::optional<bool> bCumple;  ///< nothing when the catalogue doesn't give the limit
+    std::optional<bool> bCumple;  ///< nothing when the catalogue doesn't give the limit or the coefficient
 };
 
 struct ComprobacionCampo {
-    std::vector<Comprobacion> limites;  ///< one of each, in the order of the enumeration
+    std::vector<Comprobacion> limites;  ///< one of each that the field has, in the order of the enumeration
     double dRatioCCCA = 0.0;            ///< peak power over the inverter's nominal output; infinite without it
+
+    bool Incumple() const;  ///< whether any limit is passed
 };
 
 /// Holds the field against the limits of module and inverter. The module's values at a temperature are
-/// those of phCalcValoresTipicos; of maximum power, the voltage follows the power and the current stays.
+/// those of phCalcValoresTipicos; of maximum power, the voltage follows the power and the current stays. A
+/// temperature coefficient of 0 counts as unknown: a limit that the values at 25 ºC keep to is then left open.
 EFV_API ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
                                     const CBaseInversorModelo& inversor);
+
+/// What a regulator of charge takes from the panels; 0 isn't known.
+struct LimitesRegulador {
+    double dTensionMaxima = 0.0, dTensionMinima = 0.0;  ///< of the panels' circuit, V
+    double dCorrienteMaxima = 0.0;                      ///< A
+};
+
+/// The same for a field on a regulator; without ratio.
+EFV_API ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
+                                    const LimitesRegulador& regulador);
+
+/// Why no field of a module fits an inverter.
+enum class SinPropuesta {
+    ninguna,     ///< there is one
+    usoAislado,  ///< the inverter isn't meant for the grid
+    sinDatos,    ///< no limit of voltage is known, or no power
+    tension,     ///< no count of panels in series keeps within the voltages
+    corriente,   ///< a single string has too much current for a tracker
+    potenciaCC,  ///< the shortest string has too much power for an inverter
+};
+
+struct PropuestaComprobada {
+    SinPropuesta falta = SinPropuesta::ninguna;
+    int iInversores = 0, iPanelesSerie = 0, iRamales = 0;  ///< strings of one inverter
+    double dPotencia = 0.0;                                ///< of all panels, kW
+    bool bSeguidoresIguales = true;                        ///< all trackers have the same count of strings
+    ComprobacionCampo comprobacion;
+};
+
+/// The field that reaches a power and passes every check that can be made: the fewest inverters, no fewer than
+/// their nominal output asks for, on which a field with equal trackers reaches it; of these the least power,
+/// then the fewest strings. Fields with unequal trackers count only where no other fits.
+/// @param dPotencia kW @param campo its temperatures count
+EFV_API PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& campo,
+                                               const CBasePanelFotoModelo& panel,
+                                               const CBaseInversorModelo& inversor);
 
 }  // namespace efv::assistants

@@ -1,6 +1,7 @@
 // A field of panels against the limits of its inverter at the temperatures of the place.
 #include <algorithm>
 #include <functional>
+#include <limits>
 
 #include <quorvel/assistants_calculo.h>
 
@@ -41,6 +42,14 @@ Comprobacion AlMenos(Limite limite, double dValor, double dLimite)
     if (numero::MenorIgual(dLimite, 0.0))
         return {limite, dValor, 0.0, std::nullopt};
     return {limite, dValor, dLimite, numero::MayorIgual(dValor, dLimite)};
+}
+
+// What hangs on a coefficient that the catalogue doesn't give stays open, unless it is passed at 25 ºC already.
+Comprobacion SegunCoeficiente(double dCoeficiente, Comprobacion c)
+{
+    if (dCoeficiente != 0.0 || c.bCumple == false)
+        return c;
+    return {c.limite, std::numeric_limits<double>::quiet_NaN(), c.dLimite, std::nullopt};
 }
 
 // Strings on each of so many trackers, the busiest first.
@@ -90,15 +99,40 @@ ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoMode
     // A stand-alone inverter keeps other things in these fields: the battery's voltages, its consumption.
     const auto deRed = [&](double d) { return inversor.iUsoPrincipal == 0 ? d : 0.0; };
     using enum Limite;
-    return {{ComoMucho(tensionVacioInversor, dSerie * frio.dVoc, inversor.dVCCMax),
-             ComoMucho(tensionVacioModulo, dSerie * frio.dVoc, panel.dVsmax),
-             ComoMucho(tensionMppMaxima, dSerie * frio.dVmp, deRed(inversor.dVMPPMax)),
-             AlMenos(tensionMppMinima, dSerie * calor.dVmp, deRed(inversor.dVMPPMin)),
+    const auto conVoc = [&](const Comprobacion& c) { return SegunCoeficiente(panel.dCTVoc, c); };
+    const auto conPmpm = [&](const Comprobacion& c) { return SegunCoeficiente(panel.dCTPmpm, c); };
+    return {{conVoc(ComoMucho(tensionVacioInversor, dSerie * frio.dVoc, inversor.dVCCMax)),
+             conVoc(ComoMucho(tensionVacioModulo, dSerie * frio.dVoc, panel.dVsmax)),
+             conPmpm(ComoMucho(tensionMppMaxima, dSerie * frio.dVmp, deRed(inversor.dVMPPMax))),
+             conPmpm(AlMenos(tensionMppMinima, dSerie * calor.dVmp, deRed(inversor.dVMPPMin))),
              EnSeguidores(corrienteMpp, iRamales, std::max(frio.dImp, calor.dImp), adMaximas),
-             EnSeguidores(corrienteCortocircuito, iRamales, std::max(frio.dIsc, calor.dIsc), adCortocircuito),
+             SegunCoeficiente(panel.dCTIsc, EnSeguidores(corrienteCortocircuito, iRamales,
+                                                         std::max(frio.dIsc, calor.dIsc), adCortocircuito)),
              ComoMucho(potenciaCC, dPotencia, deRed(inversor.dPCCMax)),
              ComoMucho(ramales, iRamales, inversor.iNumEntradas)},
             dPotencia / inversor.dPCANom};
+}
+
+ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
+                            const LimitesRegulador& regulador)
+{
+    const auto frio = ATemperatura(panel, campo.dTemperaturaMinima);
+    const auto calor = ATemperatura(panel, campo.dTemperaturaMaxima);
+    const double dSerie = campo.iPanelesSerie, dRamales = campo.iPanelesParalelo;
+    using enum Limite;
+    return {{SegunCoeficiente(panel.dCTVoc, ComoMucho(tensionVacioModulo, dSerie * frio.dVoc, panel.dVsmax)),
+             SegunCoeficiente(panel.dCTVoc,
+                              ComoMucho(tensionVacioRegulador, dSerie * frio.dVoc, regulador.dTensionMaxima)),
+             SegunCoeficiente(panel.dCTPmpm,
+                              AlMenos(tensionMppRegulador, dSerie * calor.dVmp, regulador.dTensionMinima)),
+             SegunCoeficiente(panel.dCTIsc,
+                              ComoMucho(corrienteRegulador, dRamales * std::max(frio.dIsc, calor.dIsc),
+                                        regulador.dCorrienteMaxima))}};
+}
+
+bool ComprobacionCampo::Incumple() const
+{
+    return std::ranges::any_of(limites, [](const Comprobacion& c) { return c.bCumple == false; });
 }
 
 }  // namespace efv::assistants

@@ -66,6 +66,14 @@ EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& tabla)
     CopiarCampos(proyecto.registro, v, proyecto.fijados);
     assistants::Recalcular(v, entrada, false);
 
+    estudio.comprobacion = assistants::Comprobar({.iPanelesSerie = v.iPanelesSerie,
+                                                  .iPanelesParalelo = v.iPanelesParalelo,
+                                                  .dTemperaturaMinima = proyecto.temperaturas.Minima(),
+                                                  .dTemperaturaMaxima = proyecto.temperaturas.Maxima()},
+                                                 *proyecto.panel,
+                                                 {.dTensionMaxima = v.dTensionMaxFV,
+                                                  .dTensionMinima = v.dTensionMinFV,
+                                                  .dCorrienteMaxima = v.dCorrienteMaxFV});
     PotenciaCargas cargas;
     for (const auto& receptor : proyecto.receptores)
         (receptor->iTipoRed == 0 ? cargas.dContinua : cargas.dAlterna) += receptor->GetPcc();

@@ -28,7 +28,7 @@ public:
     std::vector<Aviso> Avisar()
     {
         DeResultados();
-        DeElectricidad();
+        AvisarDeLimites(m_estudio.comprobacion, *m_proyecto.panel, m_avisos);
         AvisarDeFilas(m_proyecto.lugar,
                       {m_v.iTotalPaneles, m_v.dPanelesPorFila, m_v.dDistanciaFilas, m_v.panel.dLargoPanel,
                        m_v.dInclinacion},
@@ -75,26 +75,6 @@ private:
             if (m_estudio.ano.meses[m].dEnergiaMes + kTolerancia < m_estudio.adNecesaria[m])
                 meses += (meses.empty() ? "" : ", ") + NombreMes(static_cast<int>(m));
         FaltaSi(!meses.empty(), "La energía producida no alcanza la necesaria en " + meses + ".");
-    }
-
-    void DeElectricidad()
-    {
-        const auto& v = m_v;
-        const double dVoc = v.iPanelesSerie * v.panel.dVoc, dVmp = v.iPanelesSerie * v.panel.dVmpm;
-        const double dIsc = v.iPanelesParalelo * m_proyecto.panel->dIsc;
-        FaltaSi(dVoc > v.dTensionMaxFV + kTolerancia,
-                fmt::format("Tensión a circuito abierto del ramal, {}, superior a la máxima del circuito "
-                            "fotovoltaico, {}.",
-                            Con(dVoc, 1, "V"), Con(v.dTensionMaxFV, 1, "V")));
-        FaltaSi(dVmp < v.dTensionMinFV - kTolerancia,
-                fmt::format("Tensión del ramal en máxima potencia, {}, inferior a la mínima del circuito "
-                            "fotovoltaico, {}.",
-                            Con(dVmp, 1, "V"), Con(v.dTensionMinFV, 1, "V")));
-        FaltaSi(
-            dIsc > v.dCorrienteMaxFV + kTolerancia,
-            fmt::format("Corriente de cortocircuito del campo, {}, superior a la corriente fotovoltaica máxima "
-                        "del regulador, {}: hace falta otro regulador, o repartir el campo entre varios.",
-                        Con(dIsc, 1, "A"), Con(v.dCorrienteMaxFV, 1, "A")));
     }
 
     // As the assistant asks when it is accepted.

@@ -183,6 +183,7 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
                            SeccionAcumuladores(v),
                            SeccionPaneles(v),
                            SeccionRegulador(proyecto, v),
+                           SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion),
                            SeccionGeometria(v),
                            SeccionCableado(estudio.cableado),
                            SeccionMeses(estudio.ano, &estudio.adNecesaria),
@@ -206,8 +207,7 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
     documento.supuestos.emplace_back(
         "Energía producida de un mes: potencia instalada × horas de sol pico × (1 − pérdidas) × días. La que "
         "sobra en un mes no pasa al siguiente.");
-    documento.supuestos.emplace_back(
-        "La tensión del ramal es la de condiciones STC: con frío la de circuito abierto es mayor.");
+    documento.supuestos.push_back(SupuestoTemperaturas(proyecto.temperaturas));
     return documento;
 }
 

@@ -1,5 +1,5 @@
 // A grid-connected design, calculated.
-#include <array>
+#include <optional>
 
 #include <quorvel/report/disenos.h>
 
@@ -10,24 +10,21 @@ namespace efv::report {
 
 namespace {
 
-// In the order of assistants::Limite.
-constexpr auto kTextos = std::to_array<TextoLimite>({
-    {"Tensión a circuito abierto, frío: entrada del inversor", "tension_vacio_inversor", "V", 1, false},
-    {"Tensión a circuito abierto, frío: sistema del módulo", "tension_vacio_modulo", "V", 1, false},
-    {"Tensión en máxima potencia, frío: rango MPPT", "tension_mpp_maxima", "V", 1, false},
-    {"Tensión en máxima potencia, calor: rango MPPT", "tension_mpp_minima", "V", 1, true},
-    {"Corriente en máxima potencia de un seguidor", "corriente_mpp", "A", 2, false},
-    {"Corriente de cortocircuito de un seguidor, calor", "corriente_cortocircuito", "A", 2, false},
-    {"Potencia del campo de un inversor", "potencia_cc", "W", 0, false},
-    {"Ramales de un inversor: entradas", "ramales", "", 0, false},
-});
+// Where the assistant's own proposal, at standard conditions, is no installation.
+std::optional<assistants::PropuestaComprobada> PropuestaMejor(const ProyectoRed& proyecto,
+                                                              const assistants::ValoresRed& v,
+                                                              assistants::CampoInversor campo)
+{
+    constexpr double kTolerancia = 1e-6;  // kW, of the sizing's comparisons
+    campo.iPanelesSerie = v.iPanelesSerieP;
+    campo.iPanelesParalelo = v.iPanelesParaleloP;
+    const bool bFalta = v.dPotenciaTotalP < v.dPotenciaObjetivo - kTolerancia;
+    if (!bFalta && !assistants::Comprobar(campo, *proyecto.panel, *proyecto.inversor).Incumple())
+        return std::nullopt;
+    return assistants::ProponerComprobada(v.dPotenciaObjetivo, campo, *proyecto.panel, *proyecto.inversor);
+}
 
 }  // namespace
-
-const TextoLimite& TextoDe(assistants::Limite limite)
-{
-    return kTextos.at(static_cast<std::size_t>(limite));
-}
 
 ProyectoRed ProyectoDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos)
 {
@@ -54,11 +51,12 @@ EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla)
     assistants::RecalcularRed(v, false);
     v.iTipoSalida = v.inversor.iTipoSalida;
 
-    estudio.comprobacion = assistants::Comprobar({.iPanelesSerie = v.iPanelesSerie,
-                                                  .iPanelesParalelo = v.iPanelesParalelo,
-                                                  .dTemperaturaMinima = proyecto.Minima(),
-                                                  .dTemperaturaMaxima = proyecto.Maxima()},
-                                                 *proyecto.panel, *proyecto.inversor);
+    const assistants::CampoInversor porInversor{.iPanelesSerie = v.iPanelesSerie,
+                                                .iPanelesParalelo = v.iPanelesParalelo,
+                                                .dTemperaturaMinima = proyecto.temperaturas.Minima(),
+                                                .dTemperaturaMaxima = proyecto.temperaturas.Maxima()};
+    estudio.comprobacion = assistants::Comprobar(porInversor, *proyecto.panel, *proyecto.inversor);
+    estudio.propuesta = PropuestaMejor(proyecto, v, porInversor);
     estudio.cableado = CableadoDe(v, proyecto.inversor, proyecto.panel, proyecto.cableado);
     estudio.bPlano =
         solar::FactoresK(tabla, proyecto.lugar.dLatitud, proyecto.lugar.Hemisferio(), v.dInclinacion)

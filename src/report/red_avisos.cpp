@@ -90,15 +90,7 @@ private:
 
     void DeTemperaturas()
     {
-        for (const auto& c : m_estudio.comprobacion.limites) {
-            const TextoLimite& texto = TextoDe(c.limite);
-            // That of the inputs has been told with the assistant's own words.
-            if (c.limite == assistants::Limite::ramales)
-                continue;
-            FaltaSi(c.bCumple == false, fmt::format("{}: {}, y el límite es {}.", texto.rotulo,
-                                                    Con(c.dValor, texto.iDecimales, texto.unidad),
-                                                    Con(c.dLimite, texto.iDecimales, texto.unidad)));
-        }
+        AvisarDeLimites(m_estudio.comprobacion, *m_proyecto.panel, m_avisos);
         const double dRatio = m_estudio.comprobacion.dRatioCCCA;
         if (dRatio < kRatioMinimo || dRatio > kRatioMaximo) {
             Nota(fmt::format(

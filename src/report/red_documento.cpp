@@ -74,32 +74,27 @@ Seccion SeccionGeometria(const V& v)
     return seccion;
 }
 
-std::string Veredicto(const assistants::Comprobacion& c)
+// "2 inversores de 9 × 2 paneles, 10,26 kW", or why there is none.
+std::string PropuestaComprobada(const assistants::PropuestaComprobada& p)
 {
-    return !c.bCumple ? "sin dato" : *c.bCumple ? "cumple" : "NO CUMPLE";
+    const std::string motivo = MotivoDe(p);
+    if (p.falta != assistants::SinPropuesta::ninguna)
+        return "no la hay: " + motivo;
+    return fmt::format("{} de {} × {} paneles, {}{}",
+                       p.iInversores == 1 ? "1 inversor" : fmt::format("{} inversores", p.iInversores),
+                       p.iPanelesSerie, p.iRamales, Con(p.dPotencia, 2, "kW"),
+                       motivo.empty() ? "" : fmt::format(" ({})", motivo));
 }
 
-Seccion SeccionComprobacion(const ProyectoRed& proyecto, const assistants::ComprobacionCampo& comprobacion)
+Seccion SeccionComprobacion(const ProyectoRed& proyecto, const EstudioRed& estudio)
 {
-    Seccion seccion("Comprobación a las temperaturas del lugar");
-    Cuadro& cuadro = seccion.cuadros.emplace_back();
-    cuadro.titulo =
-        fmt::format("Células de {} a {} ºC", Decimal(proyecto.Minima(), 0), Decimal(proyecto.Maxima(), 0));
-    cuadro.columnas = {{"Comprobación", false}, {"Valor", true}, {"Límite", true}, {"Resultado", false}};
-    for (const auto& c : comprobacion.limites) {
-        const TextoLimite& texto = TextoDe(c.limite);
-        cuadro.filas.push_back({texto.rotulo, Con(c.dValor, texto.iDecimales, texto.unidad),
-                                c.bCumple ? fmt::format("{} {}", texto.bMinimo ? "mín." : "máx.",
-                                                        Con(c.dLimite, texto.iDecimales, texto.unidad))
-                                          : "—",
-                                Veredicto(c)});
+    Seccion seccion = SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion);
+    seccion.cuadros.front().filas.push_back({"Potencia de los paneles / nominal del inversor (CC/CA)",
+                                             Decimal(estudio.comprobacion.dRatioCCCA, 2), "", ""});
+    if (estudio.propuesta) {
+        Dato comprobada{"Propuesta comprobada", PropuestaComprobada(*estudio.propuesta)};
+        seccion.datos.push_back(std::move(comprobada));
     }
-    cuadro.filas.push_back({"Potencia de los paneles / nominal del inversor (CC/CA)",
-                            Decimal(comprobacion.dRatioCCCA, 2), "", ""});
-    seccion.notas = {
-        fmt::format("Frío: células a {} ºC; calor: a {} ºC; 1000 W/m². No cambia ningún resultado del "
-                    "dimensionado, que trabaja en condiciones STC.",
-                    Decimal(proyecto.Minima(), 0), Decimal(proyecto.Maxima(), 0))};
     return seccion;
 }
 
@@ -125,15 +120,13 @@ std::vector<Dato> Resumen(const EstudioRed& estudio)
 
 std::vector<std::string> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
 {
-    const auto porDefecto = [](const std::optional<double>& d) { return d ? "" : " (valor por defecto)"; };
+    const char* rendimiento = proyecto.dRendimiento ? "" : " (valor por defecto)";
     std::vector<std::string> supuestos = {
         "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.",
-        fmt::format("Temperatura de las células: mínima {} ºC{}, máxima {} ºC{}.",
-                    Decimal(proyecto.Minima(), 1), porDefecto(proyecto.dTemperaturaMinima),
-                    Decimal(proyecto.Maxima(), 1), porDefecto(proyecto.dTemperaturaMaxima)),
+        SupuestoTemperaturas(proyecto.temperaturas),
         "Tensión a circuito abierto y corriente de cortocircuito a una temperatura: por los coeficientes del "
-        "módulo. "
-        "Tensión en máxima potencia: la potencia a esa temperatura entre la corriente, que no cambia con ella.",
+        "módulo. Tensión en máxima potencia: la potencia a esa temperatura entre la corriente, que no cambia "
+        "con ella.",
         "Los ramales se reparten entre los seguidores del inversor lo más igual posible. La corriente de "
         "cortocircuito no lleva margen por irradiancias superiores a 1000 W/m².",
     };
@@ -144,7 +137,7 @@ std::vector<std::string> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
             "el plano es la horizontal por el factor K de la tabla, para un campo orientado al ecuador: la "
             "orientación no entra en esa fórmula y se cuenta aparte. Sin sombras y sin recorte por la potencia "
             "del inversor.",
-            Decimal(proyecto.Rendimiento(), 2), porDefecto(proyecto.dRendimiento)));
+            Decimal(proyecto.Rendimiento(), 2), rendimiento));
     }
     return supuestos;
 }
@@ -163,7 +156,7 @@ Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estud
                            SeccionEquipos(v),
                            SeccionCampo(v),
                            SeccionGeometria(v),
-                           SeccionComprobacion(proyecto, estudio.comprobacion),
+                           SeccionComprobacion(proyecto, estudio),
                            SeccionCableado(estudio.cableado)};
     if (estudio.ano)
         documento.secciones.push_back(SeccionMeses(*estudio.ano, nullptr));

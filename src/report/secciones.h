@@ -27,6 +27,15 @@ Seccion SeccionLugar(const LugarDiseno& lugar);
 /// Table and charts of a year. @param necesaria kWh of each month; null without loads
 Seccion SeccionMeses(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
 
+/// The limits that the field was held against.
+Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
+                            const assistants::ComprobacionCampo& comprobacion);
+/// Which temperatures those are.
+std::string SupuestoTemperaturas(const TemperaturasCelulas& temperaturas);
+/// What is said of a limit that is passed, and of coefficients that the module lacks.
+void AvisarDeLimites(const assistants::ComprobacionCampo& comprobacion, const CBasePanelFotoModelo& panel,
+                     std::vector<Aviso>& avisos);
+
 /// Stretches of cable and inputs of the inverters.
 Seccion SeccionCableado(const Cableado& cableado);
 /// What is said of a stretch that breaks a limit.

@@ -1,4 +1,6 @@
 #include <cmath>
+#include <optional>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -102,6 +104,86 @@ TEST_F(ComprobacionCampoTest, SinDatoNoHayVeredicto)
         EXPECT_EQ(De(limite, 12, 2).bCumple, std::nullopt);
     inversor = {};
     EXPECT_TRUE(std::isinf(Comprobar({}, panel, inversor).dRatioCCCA));
+}
+
+// What hangs on a coefficient that nobody gave is open, but for what 25 ºC already break.
+TEST_F(ComprobacionCampoTest, SinCoeficienteNoHayVeredicto)
+{
+    using enum Limite;
+    panel.dCTVoc = panel.dCTPmpm = panel.dCTIsc = 0;
+    for (const Limite limite : {tensionVacioInversor, tensionVacioModulo, tensionMppMaxima, tensionMppMinima,
+                                corrienteCortocircuito}) {
+        EXPECT_EQ(De(limite, 12, 2).bCumple, std::nullopt);
+        EXPECT_TRUE(std::isnan(De(limite, 12, 2).dValor));
+    }
+    Esperar(tensionVacioInversor, 17, 1, 629, 600, false);
+    Esperar(tensionMppMinima, 4, 1, 120, 150, false);
+    Esperar(corrienteMpp, 12, 2, 8, 10, true);
+}
+
+TEST_F(ComprobacionCampoTest, ElCampoDeUnReguladorSeMideConSusLimites)
+{
+    const auto resultados = [&](int iSerie, int iParalelo) {
+        const auto campo = Comprobar({.iPanelesSerie = iSerie, .iPanelesParalelo = iParalelo}, panel,
+                                     LimitesRegulador{150, 60, 35});
+        std::vector<std::optional<bool>> lista;
+        for (const Comprobacion& c : campo.limites)
+            lista.push_back(c.bCumple);
+        return lista;
+    };
+    using Lista = std::vector<std::optional<bool>>;
+    EXPECT_EQ(resultados(3, 4), (Lista{true, true, true, true}));    // 123.6 V, 73.125 V, 34.9 A
+    EXPECT_EQ(resultados(4, 5), (Lista{true, false, true, false}));  // 164.8 V, 148 at 25 ºC; 43.625 A
+    EXPECT_EQ(resultados(2, 1), (Lista{true, true, false, true}));   // 48.75 V
+}
+
+// In series 7 (6 · 24.375 V are below 150) to 13 (14 · 34.375 V pass 480); two strings on two trackers, of
+// 5500 W at most, so 14 to 22 panels of 240 W an inverter.
+TEST_F(ComprobacionCampoTest, LaPropuestaComprobadaAlcanzaLaPotencia)
+{
+    const auto esperar = [&](double dPotencia, int iInversores, int iSerie, int iRamales, double dAlcanza) {
+        const PropuestaComprobada p = ProponerComprobada(dPotencia, {}, panel, inversor);
+        EXPECT_EQ(p.falta, SinPropuesta::ninguna);
+        EXPECT_EQ(p.iInversores, iInversores) << dPotencia;
+        EXPECT_EQ(p.iPanelesSerie, iSerie) << dPotencia;
+        EXPECT_EQ(p.iRamales, iRamales) << dPotencia;
+        EXPECT_NEAR(p.dPotencia, dAlcanza, 1e-9);
+        EXPECT_FALSE(p.comprobacion.Incumple());
+        return p.bSeguidoresIguales;
+    };
+    EXPECT_TRUE(esperar(5, 1, 11, 2, 5.28));
+    EXPECT_TRUE(esperar(5.28, 2, 7, 2, 6.72));  // above its nominal output: two inverters
+    EXPECT_TRUE(esperar(10, 2, 11, 2, 10.56));
+    EXPECT_TRUE(esperar(3, 1, 7, 2, 3.36));
+    inversor.dPCANom = 4000;
+    EXPECT_TRUE(esperar(10.9, 3, 8, 2, 11.52));
+    // Two strings would pass the power: one tracker stays free.
+    inversor.dPCCMax = 3000;
+    EXPECT_FALSE(esperar(2, 1, 9, 1, 2.16));
+}
+
+TEST_F(ComprobacionCampoTest, SinPropuestaSeSabePorQue)
+{
+    const auto motivo = [&](double dPotencia = 5) {
+        return ProponerComprobada(dPotencia, {}, panel, inversor).falta;
+    };
+    const CBaseInversorModelo bueno = inversor;
+    inversor.dVCCMax = 280;
+    EXPECT_EQ(motivo(), SinPropuesta::tension);
+    inversor = bueno;
+    inversor.csICCMaxMPPT = L"5,00/5,00";
+    EXPECT_EQ(motivo(), SinPropuesta::corriente);
+    inversor = bueno;
+    inversor.dPCCMax = 1600;
+    EXPECT_EQ(motivo(), SinPropuesta::potenciaCC);
+    inversor = bueno;
+    EXPECT_EQ(motivo(0), SinPropuesta::sinDatos);
+    EXPECT_EQ(motivo(std::nan("")), SinPropuesta::sinDatos);
+    inversor.iUsoPrincipal = 1;
+    EXPECT_EQ(motivo(), SinPropuesta::usoAislado);
+    inversor = bueno;
+    inversor.dVCCMax = inversor.dVMPPMax = panel.dVsmax = 0;
+    EXPECT_EQ(motivo(), SinPropuesta::sinDatos);
 }
 
 }  // namespace

@@ -105,6 +105,7 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
     proyecto.panel =
         &ElegirModelo<CBasePanelFotoModelo>(objeto, "csPanel", catalogos.modulos, proyecto.registro.csPanel);
     LeerCargas(objeto, proyecto, catalogos);
+    proyecto.temperaturas = LeerTemperaturas(objeto);
     LeerCableado(objeto, report::kTramosAislada, true, proyecto.cableado);
     objeto.Terminar();
     for (const char* campo : {"iAcumuladoresSerie", "dPotenciaMaxFV", "dKaAjustado", "dR"})
@@ -140,12 +141,14 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
     const std::vector<report::Aviso> avisos = report::Avisos(proyecto, estudio);
 
     Diseno diseno;
+    diseno.bCumple = SinFaltas(avisos);
     diseno.documento = report::EscribirDocumento(proyecto, estudio, avisos);
     diseno.valores = {{"tipo", "aislada"},
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},
                       {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
                       {"receptores", ReceptoresJson(proyecto.receptores)},
+                      {"comprobacion", ComprobacionJson(proyecto.temperaturas, estudio.comprobacion)},
                       {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", AnoJson(estudio.ano, &estudio.adNecesaria)},
                       {"orientada", PlanosJson(estudio.orientada)},

@@ -19,6 +19,7 @@ struct Diseno {
     nlohmann::ordered_json valores;  ///< what --json writes
     std::vector<std::byte> archivo;  ///< the record's items alone
     std::string csv;                 ///< what --csv writes, of those that have it
+    bool bCumple = true;             ///< no check fails and nothing falls short
 };
 
 /// A stand-alone installation. As in the assistant, a forced recalculation first; then the values that the

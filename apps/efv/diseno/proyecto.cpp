@@ -222,4 +222,21 @@ int LeerMes(const JsonLeido& j, int iUltimo)
         fmt::format("no hay ningún mes «{}»{}", EnUnaLinea(LeerTexto(j)), Parecidos(nombres, LeerTexto(j))));
 }
 
+std::optional<double> LeerOpcional(Objeto& proyecto, const char* nombre, Rango rango)
+{
+    std::optional<double> d;
+    if (const JsonLeido* j = proyecto.Buscar(nombre); j != nullptr)
+        rpc::NombrarLugar([&] { return nombre; }, [&] { d = LeerNumero(*j, rango); });
+    return d;
+}
+
+report::TemperaturasCelulas LeerTemperaturas(Objeto& proyecto)
+{
+    const report::TemperaturasCelulas temperaturas{LeerOpcional(proyecto, "temperaturaMinima", {-60, 60}),
+                                                   LeerOpcional(proyecto, "temperaturaMaxima", {0, 120})};
+    if (temperaturas.Minima() >= temperaturas.Maxima())
+        throw rpc::ErrorValor("temperaturaMinima: debe ser menor que temperaturaMaxima");
+    return temperaturas;
+}
+
 }  // namespace efv::orden

@@ -26,6 +26,13 @@ report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool
 /// record's file, which is loaded. @throws rpc::ErrorValor
 report::PlanosDiseno LeerPlanos(Objeto& proyecto);
 
+/// A number that the project may give.
+std::optional<double> LeerOpcional(Objeto& proyecto, const char* nombre, Rango rango);
+
+/// `temperaturaMinima` and `temperaturaMaxima` of the cells. @throws rpc::ErrorValor, of two that don't follow
+/// each other too
+report::TemperaturasCelulas LeerTemperaturas(Objeto& proyecto);
+
 /// Values that a field may have within the record's own limits.
 struct RangoCampo {
     std::string_view nombre;

@@ -32,12 +32,6 @@ struct Catalogos {
     }
 };
 
-void LeerOpcional(Objeto& objeto, const char* nombre, Rango rango, std::optional<double>& d)
-{
-    if (const JsonLeido* j = objeto.Buscar(nombre); j != nullptr)
-        rpc::NombrarLugar([&] { return nombre; }, [&] { d = LeerNumero(*j, rango); });
-}
-
 ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const std::string& csDatos)
 {
     Objeto objeto(j);
@@ -50,16 +44,13 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
                                                            proyecto.registro.csInversor);
     proyecto.panel =
         &ElegirModelo<CBasePanelFotoModelo>(objeto, "csPanel", catalogos.modulos, proyecto.registro.csPanel);
-    LeerOpcional(objeto, "temperaturaMinima", {-60, 60}, proyecto.dTemperaturaMinima);
-    LeerOpcional(objeto, "temperaturaMaxima", {0, 120}, proyecto.dTemperaturaMaxima);
-    LeerOpcional(objeto, "rendimiento", {0.01, 1}, proyecto.dRendimiento);
+    proyecto.temperaturas = LeerTemperaturas(objeto);
+    proyecto.dRendimiento = LeerOpcional(objeto, "rendimiento", {0.01, 1});
     LeerCableado(objeto, report::kTramosRed, false, proyecto.cableado);
     objeto.Terminar();
     if (proyecto.fijados.contains("iTipoSalida"))
         proyecto.notas.emplace_back(
             "«iTipoSalida» se toma siempre del inversor: el valor del fichero no cuenta.");
-    if (proyecto.Minima() >= proyecto.Maxima())
-        throw rpc::ErrorValor("temperaturaMinima: debe ser menor que temperaturaMaxima");
     if (proyecto.inversor->dPCANom <= 0.0)
         throw rpc::ErrorValor("csInversor: el modelo no tiene potencia nominal y no sirve para calcular");
     if (proyecto.panel->dPmpm <= 0.0 || proyecto.panel->dVmpm <= 0.0 || proyecto.panel->dVoc <= 0.0)
@@ -67,22 +58,29 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     return proyecto;
 }
 
-JsonEscrito ComprobacionJson(const ProyectoRed& proyecto, const assistants::ComprobacionCampo& comprobacion)
+JsonEscrito ConRatio(const ProyectoRed& proyecto, const assistants::ComprobacionCampo& comprobacion)
 {
-    JsonEscrito lista = JsonEscrito::array();
-    for (const auto& c : comprobacion.limites) {
-        const report::TextoLimite& texto = report::TextoDe(c.limite);
-        lista.push_back(
-            {{"comprobacion", texto.clave},
-             {"valor", NumeroJson(c.dValor)},
-             {texto.bMinimo ? "minimo" : "maximo", c.bCumple ? NumeroJson(c.dLimite) : JsonEscrito()},
-             {"unidad", texto.unidad},
-             {"cumple", c.bCumple ? JsonEscrito(*c.bCumple) : JsonEscrito()}});
-    }
-    return {{"temperatura_minima_C", proyecto.Minima()},
-            {"temperatura_maxima_C", proyecto.Maxima()},
-            {"ratio_cc_ca", NumeroJson(comprobacion.dRatioCCCA)},
-            {"limites", std::move(lista)}};
+    JsonEscrito json = ComprobacionJson(proyecto.temperaturas, comprobacion);
+    json["ratio_cc_ca"] = NumeroJson(comprobacion.dRatioCCCA);
+    return json;
+}
+
+// Null where the assistant's own proposal reaches the power and keeps to every limit.
+JsonEscrito PropuestaJson(const ProyectoRed& proyecto,
+                          const std::optional<assistants::PropuestaComprobada>& propuesta)
+{
+    if (!propuesta)
+        return {};
+    const bool bHay = propuesta->falta == assistants::SinPropuesta::ninguna;
+    const auto cuenta = [&](int i) { return bHay ? JsonEscrito(i) : JsonEscrito(); };
+    JsonEscrito json = {{"inversores", cuenta(propuesta->iInversores)},
+                        {"paneles_serie", cuenta(propuesta->iPanelesSerie)},
+                        {"ramales", cuenta(propuesta->iRamales)},
+                        {"potencia_kW", bHay ? NumeroJson(propuesta->dPotencia) : JsonEscrito()},
+                        {"cumple", bHay},
+                        {"motivo", report::MotivoDe(*propuesta)}};
+    json["comprobacion"] = bHay ? ConRatio(proyecto, propuesta->comprobacion) : JsonEscrito();
+    return json;
 }
 
 }  // namespace
@@ -96,12 +94,14 @@ Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
     const std::vector<report::Aviso> avisos = report::Avisos(proyecto, estudio);
 
     Diseno diseno;
+    diseno.bCumple = SinFaltas(avisos);
     diseno.documento = report::EscribirDocumento(proyecto, estudio, avisos);
     diseno.valores = {{"tipo", "red"},
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},
                       {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
-                      {"comprobacion", ComprobacionJson(proyecto, estudio.comprobacion)},
+                      {"comprobacion", ConRatio(proyecto, estudio.comprobacion)},
+                      {"propuesta_comprobada", PropuestaJson(proyecto, estudio.propuesta)},
                       {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", estudio.ano ? AnoJson(*estudio.ano, nullptr) : JsonEscrito()},
                       {"orientada", estudio.orientada ? PlanosJson(*estudio.orientada) : JsonEscrito()},

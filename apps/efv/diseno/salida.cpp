@@ -70,6 +70,29 @@ JsonEscrito AvisosJson(const std::vector<report::Aviso>& avisos)
     return lista;
 }
 
+bool SinFaltas(const std::vector<report::Aviso>& avisos)
+{
+    return std::ranges::none_of(avisos, &report::Aviso::bFalta);
+}
+
+JsonEscrito ComprobacionJson(const report::TemperaturasCelulas& temperaturas,
+                             const assistants::ComprobacionCampo& comprobacion)
+{
+    JsonEscrito lista = JsonEscrito::array();
+    for (const auto& c : comprobacion.limites) {
+        const report::TextoLimite& texto = report::TextoDe(c.limite);
+        lista.push_back({{"nombre", texto.clave},
+                         {"tipo", texto.bMinimo ? "minimo" : "maximo"},
+                         {"valor", NumeroJson(c.dValor)},
+                         {"limite", c.dLimite > 0.0 ? NumeroJson(c.dLimite) : JsonEscrito()},
+                         {"unidad", texto.unidad},
+                         {"resultado", report::ResultadoDe(c)}});
+    }
+    return {{"temperatura_minima_C", temperaturas.Minima()},
+            {"temperatura_maxima_C", temperaturas.Maxima()},
+            {"limites", std::move(lista)}};
+}
+
 JsonEscrito AnoJson(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria)
 {
     JsonEscrito lista = JsonEscrito::array();

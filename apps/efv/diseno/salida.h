@@ -18,6 +18,11 @@ JsonEscrito NumeroJson(double d);
 /// Every value by its name in the code.
 JsonEscrito ValoresJson(const std::vector<CampoRegistroConst>& valores);
 JsonEscrito AvisosJson(const std::vector<report::Aviso>& avisos);
+/// Whether none of them tells of something that falls short or passes a limit.
+bool SinFaltas(const std::vector<report::Aviso>& avisos);
+/// Temperatures and limits, each {nombre, tipo, valor, limite, unidad, resultado}.
+JsonEscrito ComprobacionJson(const report::TemperaturasCelulas& temperaturas,
+                             const assistants::ComprobacionCampo& comprobacion);
 /// @param necesaria kWh of each month; null without loads
 JsonEscrito AnoJson(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
 JsonEscrito PlanosJson(const solar::EnergiaPlanos& energia);

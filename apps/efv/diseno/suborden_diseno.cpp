@@ -20,6 +20,7 @@ namespace efv::orden {
 
 namespace {
 
+constexpr int kFaltas = 3;
 
 // What tells one command from the other.
 struct Clase {
@@ -29,7 +30,7 @@ struct Clase {
     const char* que;  ///< what --guardar keeps
     Diseno (*disenar)(const JsonLeido& proyecto, const std::string& csDatos);
     const CRuntimeClass& (*registro)();
-    bool bCsv = false;
+    bool bCsv = false;  ///< whether it has a table of years; else it has checks
 };
 
 constexpr Clase kAislada = {
@@ -44,6 +45,7 @@ constexpr Clase kAislada = {
     "                      horario  lista de {\"meses\": [\"junio\"], \"dias\": [\"fin de semana\"],\n"
     "                               \"franjas\": ...}; una regla puede a la anterior\n"
     "                      dHorario los 504 minutos del registro\n"
+    "  temperaturaMinima, temperaturaMaxima   de las células, ºC; si faltan, -10 y 70\n"
     "  cableado            datos de los tramos: limite, metodo, material, aislante, temperatura, margen...,\n"
     "                      y los de uno con su longitud: {\"limite\": 3, \"paneles\": {\"longitud\": 20}};\n"
     "                      tramos: paneles, acumuladores, receptores, inversor, salida\n"
@@ -126,6 +128,13 @@ public:
                 ->excludes(json)
                 ->disable_flag_override();
         }
+        if (!m_clase.bCsv) {
+            linea
+                .add_flag("--estricto", m_bEstricto,
+                          "Termina con estado 3 si una comprobación no se cumple o algo no alcanza lo pedido")
+                ->option_text(" ")
+                ->disable_flag_override();
+        }
         linea
             .add_option(
                 "--guardar", m_guardar,
@@ -152,24 +161,26 @@ public:
         if (m_informe)
             contenidos.push_back(report::DocumentoHtml(diseno.documento, report::FechaDeHoy()));
         const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
-        if (salidas.EnLaSalida())
-            return 0;
-        if (m_bJson) {
-            diseno.valores["ficheros"] = escritos;
-            salida << diseno.valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
-            return 0;
-        }
-        if (m_bCsv) {
-            salida << diseno.csv;
-            return 0;
-        }
-        salida << report::DocumentoTexto(diseno.documento);
-        for (std::size_t i = 0; i < escritos.size(); ++i)
-            salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
-        return 0;
+        if (!salidas.EnLaSalida())
+            Contar(diseno, escritos, salida);
+        return m_bEstricto && !diseno.bCumple ? kFaltas : 0;
     }
 
 private:
+    void Contar(Diseno& diseno, const std::vector<std::string>& escritos, std::ostream& salida) const
+    {
+        if (m_bJson) {
+            diseno.valores["ficheros"] = escritos;
+            salida << diseno.valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
+        } else if (m_bCsv) {
+            salida << diseno.csv;
+        } else {
+            salida << report::DocumentoTexto(diseno.documento);
+            for (std::size_t i = 0; i < escritos.size(); ++i)
+                salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
+        }
+    }
+
     // What the run reads may not be what it writes: the project, and the climate record that it names.
     Salidas LeerSalidas(const JsonLeido& proyecto) const
     {
@@ -197,7 +208,7 @@ private:
     const Clase& m_clase;
     std::string m_proyecto, m_datos;
     std::optional<std::string> m_guardar, m_informe;
-    bool m_bJson = false, m_bCsv = false;
+    bool m_bJson = false, m_bCsv = false, m_bEstricto = false;
 };
 
 }  // namespace

@@ -39,6 +39,14 @@ struct PlanosDiseno {
     solar::OrigenHoras origen = solar::OrigenHoras::cielo;
 };
 
+/// Extremes of the cells' temperature at the place, ºC, as the project gives them.
+struct TemperaturasCelulas {
+    std::optional<double> dMinima, dMaxima;
+
+    double Minima() const { return dMinima.value_or(-10.0); }
+    double Maxima() const { return dMaxima.value_or(70.0); }
+};
+
 // ---------------------------------------------------------------------------------------------------
 // Stand-alone
 // ---------------------------------------------------------------------------------------------------
@@ -55,10 +63,12 @@ struct ProyectoAislada {
     // Catalogue models, which outlive it.
     const CBaseAcumuladorModelo* acumulador = nullptr;
     const CBasePanelFotoModelo* panel = nullptr;
+    TemperaturasCelulas temperaturas;
 };
 
 struct EstudioAislada {
     assistants::ValoresAislada v;
+    assistants::ComprobacionCampo comprobacion;
     bool bPlano = false;                ///< the table of factors K reaches the latitude
     solar::AnoEnergia ano;              ///< of the field, after the losses; zeros where the table doesn't reach
     solar::DoceMeses adNecesaria = {};  ///< by the loads on the days of each month, kWh
@@ -94,18 +104,17 @@ struct ProyectoRed {
     // Catalogue models, which outlive it.
     const CBaseInversorModelo* inversor = nullptr;
     const CBasePanelFotoModelo* panel = nullptr;
-    std::optional<double> dTemperaturaMinima,
-        dTemperaturaMaxima;              ///< of the cells, ºC, as the project gives them
+    TemperaturasCelulas temperaturas;
     std::optional<double> dRendimiento;  ///< of the whole installation, fraction
 
-    double Minima() const { return dTemperaturaMinima.value_or(-10.0); }
-    double Maxima() const { return dTemperaturaMaxima.value_or(70.0); }
     double Rendimiento() const { return dRendimiento.value_or(0.8); }
 };
 
 struct EstudioRed {
     assistants::ValoresRed v;
     assistants::ComprobacionCampo comprobacion;
+    /// Instead of the assistant's proposal, where that falls short of the power or passes a limit.
+    std::optional<assistants::PropuestaComprobada> propuesta;
     bool bPlano = false;                            ///< the table of factors K reaches the latitude
     std::optional<solar::AnoEnergia> ano;           ///< nothing without radiations or outside the table
     std::optional<solar::EnergiaPlanos> orientada;  ///< of the planes as they look; nothing without radiations
@@ -128,5 +137,11 @@ struct TextoLimite {
     bool bMinimo;  ///< else the limit is a maximum
 };
 EFV_API const TextoLimite& TextoDe(assistants::Limite limite);
+
+/// "cumple", "no cumple", "sin dato"
+EFV_API const char* ResultadoDe(const assistants::Comprobacion& comprobacion);
+
+/// Why there is no checked proposal, or what it does besides passing the checks; may be empty.
+EFV_API std::string MotivoDe(const assistants::PropuestaComprobada& propuesta);
 
 }  // namespace efv::report

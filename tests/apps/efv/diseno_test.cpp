@@ -142,10 +142,30 @@ TEST_F(Diseno, LaCubiertaDaLasCuentasAMano)
     ASSERT_EQ(limites.size(), std::size(adEsperados));
     for (std::size_t i = 0; i < limites.size(); ++i)
         EXPECT_NEAR(limites[i]["valor"].get<double>(), adEsperados[i], 1e-3) << limites[i];
-    EXPECT_EQ(limites[5]["cumple"], nullptr);  // the catalogue doesn't give this inverter's limit
-    EXPECT_EQ(limites[3]["cumple"], true);
+    EXPECT_EQ(limites[5]["resultado"], "sin dato");  // the catalogue doesn't give this inverter's limit
+    EXPECT_EQ(limites[5]["limite"], nullptr);
+    EXPECT_EQ(limites[3]["resultado"], "cumple");
     EXPECT_NEAR(json["comprobacion"]["ratio_cc_ca"].get<double>(), 1.0262088, 1e-6);
+    // The assistant's 15 · 1 fall short; 5000 / 285.058 are 17.5 panels, on two trackers 9 · 2.
+    const Json& propuesta = json["propuesta_comprobada"];
+    EXPECT_EQ(propuesta["inversores"], 1);
+    EXPECT_EQ(propuesta["paneles_serie"], 9);
+    EXPECT_EQ(propuesta["ramales"], 2);
+    EXPECT_NEAR(propuesta["potencia_kW"].get<double>(), 5.131044, 1e-9);
+    EXPECT_EQ(propuesta["cumple"], true);
+    EXPECT_EQ(propuesta["motivo"], "");
     EXPECT_NEAR(json["meses"][5]["producida_kWh"].get<double>(), 837.633, 1e-3);
+}
+
+TEST_F(Diseno, EstrictoTerminaConTresSiAlgoNoSeCumple)
+{
+    EXPECT_EQ(Disenar("red", Cubierta(), {"--estricto"}).iEstado, 0);
+    EXPECT_EQ(Disenar("aislada", Casa(), {"--estricto"}).iEstado, 0);
+    EXPECT_EQ(Disenar("red", Cubierta({{"iPanelesSerie", 17}}), {"--estricto"}).iEstado, 3);
+    EXPECT_EQ(
+        Disenar("aislada", Casa({{"temperaturaMinima", -40}, {"iPanelesSerie", 4}}), {"--estricto"}).iEstado,
+        3);
+    EXPECT_EQ(Disenar("red", Cubierta({{"iPanelesSerie", 17}}), {}).iEstado, 0);
 }
 
 // One field has one energy, whichever command tells it.
@@ -222,9 +242,10 @@ TEST_F(Diseno, LoQueSeQuedaCortoSeAvisa)
     EsperarAviso("aislada", Casa({{"iPanelesParalelo", 1}}), true, "no alcanza la necesaria en Enero");
     EsperarAviso("aislada", Casa({{"dDiasAutonomia", 10}, {"iAcumuladoresParalelo", 2}}), true,
                  "Capacidad Resultante, 920,0 Ah, inferior a la necesaria, 1220,5 Ah");
-    EsperarAviso("aislada", Casa({{"iPanelesSerie", 4}}), true, "156,7 V, superior a la máxima");
-    EsperarAviso("aislada", Casa({{"iPanelesSerie", 1}}), true, "31,9 V, inferior a la mínima");
-    EsperarAviso("aislada", Casa({{"dCorrienteMaxFV", 28}}), true, "28,4 A, superior");
+    // 4 · (39.18 + 35 · 0.116365) V; (285.058 − 45 · 1.20009418) W / 8.95 A; 3 · (9.46 + 45 · 0.00464486) A
+    EsperarAviso("aislada", Casa({{"iPanelesSerie", 4}}), true, "173,0 V, y el límite es 150,0 V");
+    EsperarAviso("aislada", Casa({{"iPanelesSerie", 1}}), true, "25,8 V, y el límite es 60,0 V");
+    EsperarAviso("aislada", Casa({{"dCorrienteMaxFV", 29}}), true, "29,01 A, y el límite es 29,00 A");
     EsperarAviso("aislada", Casa({{"bSalidaCA", 0}}), true, "no tiene salida en CA");
     EsperarAviso("aislada", Casa({{"iPanelesPorFila", 3}}), true, "Distancia fila - fila en vigor, 4342 mm");
     EsperarAviso("aislada", Casa({{"iAcumuladoresSerie", 12}}), false,
