@@ -108,13 +108,6 @@ CString Informacion(const electrical::ConductorDibujado& conductor)
         longitud(conductor.dLongitud), longitud(conductor.dDesnivel), conductor.iIdGrafico);
 }
 
-// A field that is off keeps what its variable holds, whatever stands in it.
-void Habilitar(ui::Edicion& campo, bool bHabilitado)
-{
-    campo.bHabilitado = bHabilitado;
-    campo.intercambio = bHabilitado ? ui::Intercambio::automatico : ui::Intercambio::aMano;
-}
-
 }  // namespace
 
 CDlgDatosConductor::CDlgDatosConductor(const electrical::ConductorDibujado& conductor, const D& inicial)
@@ -183,9 +176,9 @@ ui::Seleccion& CDlgDatosConductor::AnadirSecciones(double D::*miembro, std::wstr
 void CDlgDatosConductor::Habilitar()
 {
     const auto marcada = [this](int D::*miembro) { return De<ui::Casilla>(miembro).bMarcada; };
-    ::Habilitar(De(&D::dLongitudForzada), marcada(&D::bForzarLongitud));
-    ::Habilitar(De(&D::dLongitudAdicional), !marcada(&D::bForzarLongitud));
-    ::Habilitar(De<ui::Edicion>(&D::iConductoresFase), marcada(&D::bConductoresFase));
+    ui::Habilitar(De(&D::dLongitudForzada), marcada(&D::bForzarLongitud));
+    ui::Habilitar(De(&D::dLongitudAdicional), !marcada(&D::bForzarLongitud));
+    ui::Habilitar(De<ui::Edicion>(&D::iConductoresFase), marcada(&D::bConductoresFase));
     m_forzada->bHabilitado = marcada(&D::bForzarSeccion);
     m_material->bHabilitado = marcada(&D::bTipoCable);
 }

@@ -216,4 +216,18 @@ void Volcar(Control& control)
     control.Visitar(volcador);
 }
 
+void Habilitar(Edicion& campo, bool bHabilitado)
+{
+    campo.bHabilitado = bHabilitado;
+    campo.intercambio = bHabilitado ? Intercambio::automatico : Intercambio::aMano;
+}
+
+void DejarEscribir(Edicion& campo, bool bEscribible)
+{
+    campo.bSoloLectura = !bEscribible;
+    campo.intercambio = bEscribible ? Intercambio::automatico : Intercambio::soloMuestra;
+    if (!bEscribible)
+        Volcar(campo);
+}
+
 }  // namespace efv::ui

@@ -16,6 +16,12 @@ std::optional<CString> Recoger(Control& control);
 /// Writes the variable into the control.
 void Volcar(Control& control);
 
+/// Puts a field on or off. One that is off keeps what its variable holds, whatever stands in it.
+void Habilitar(Edicion& campo, bool bHabilitado);
+
+/// Lets a field be typed into or not. One that isn't shows its variable, unchecked and never taken back.
+void DejarEscribir(Edicion& campo, bool bEscribible);
+
 /// "Introduzca un número entre … y ….", with the limits as the person writes them.
 CString MensajeDeLimites(const Intervalo& limites);
 

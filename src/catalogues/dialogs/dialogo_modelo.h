@@ -12,15 +12,19 @@
 #include "catalogues/kinds/ordenes.h"
 #include "ui/ficha.h"
 
+namespace efv::ui {
+
 /// A model's fields in dialogs are named by its catalogue's table.
 template <std::derived_from<CModelo> M>
-struct efv::ui::CamposDe<M> {
+struct CamposDe<M> {
     static constexpr std::string_view Nombre(const Miembro<M>& miembro)
     {
         const auto* fila = FilaDeMiembro(efv::catalogues::FormatoCatalogo<M>::kCampos, miembro);
         return fila != nullptr ? std::string_view(fila->atributo) : std::string_view();
     }
 };
+
+}  // namespace efv::ui
 
 namespace efv::catalogues {
 

@@ -2,6 +2,7 @@
 
 #include "catalogues/dialogs/dialogo_modelo.h"
 #include "catalogues/dialogs/importar_en_campos.h"
+#include "catalogues/dialogs/panel_foto_campos.h"
 #include "catalogues/import/importacion.h"
 #include "catalogues/import/panel_foto_pan.h"
 #include "catalogues/kinds/panel_foto.h"
@@ -23,14 +24,6 @@ constexpr auto kEntradasTipo = [] {
 constexpr auto kGenerales = ui::Campos<P>({
     {&P::csModelo, L"Modelo:"},
     {&P::csCodPrecio, L"Cod.Precios:"},
-});
-constexpr auto kElectricos = ui::Campos<P>({
-    {&P::dVsmax, L"Tensión máxima del sistema [Vsmax] (V):", {0, 10000}},
-    {&P::dPmpm, L"Potencia máxima [Pmpm] (W):", {0, 15000}},
-    {&P::dVmpm, L"Tensión en máxima potencia [Vmpm] (V):", {0, 15000}},
-    {&P::dImpm, L"Corriente en máxima potencia [Impm] (A):", {0, 5000}},
-    {&P::dVoc, L"Tensión a circuito abierto [Voc] (V):", {0, 15000}},
-    {&P::dIsc, L"Corriente en cortocircuito [Isc] (A):", {0, 5000}},
 });
 constexpr auto kTermicos = ui::Campos<P>({
     {&P::dCEf, L"Reducción efic. [1000 a 200 W/m² ](%):", {0, 100}},
@@ -74,7 +67,7 @@ CDlgItemDatosPanelFoto::CDlgItemDatosPanelFoto(const P& inicial, bool bSoloLectu
       m_coeficientes{{{&P::dCTVoc, &P::dVoc}, {&P::dCTIsc, &P::dIsc}, {&P::dCTPmpm, &P::dPmpm}}}
 {
     Anadir(kGenerales);
-    Anadir(kElectricos, kZonaElectricos);
+    Anadir(efv::catalogues::kElectricosPanel, kZonaElectricos);
     AnadirCoeficiente(m_coeficientes[0], L"Coeficiente de Tª de Voc:    (mV/ºC):", "iUnidadVoc", L"mV/ºC");
     AnadirCoeficiente(m_coeficientes[1], L"Coeficiente de Tª de Isc:     (mA/ºC)", "iUnidadIsc", L"mA/ºC");
     AnadirCoeficiente(m_coeficientes[2], L"Coeficiente de Tª a Pmpm:    (mW/ºC):", "iUnidadPmpm", L"mW/ºC");
