@@ -56,6 +56,36 @@ inline constexpr auto kImagenes = std::to_array<Imagen>({
     {L"receptor",
      "#D9A441 M 5 9.5 L 3.5 6.5 L 4.5 3.5 L 8 1.8 L 11.5 3.5 L 12.5 6.5 L 11 9.5 L 10.2 11 L 5.8 11 Z;"
      "M 6 12.8 L 10 12.8 M 7 14.6 L 9 14.6"},
+    // How an array's panels stand, upright: alone, in a square, side by side, one above the other
+    {L"5023", "#2F74C0 relleno M 5.5 3.5 L 10.5 3.5 L 10.5 12.5 L 5.5 12.5 Z"},
+    {L"5104",
+     "#2F74C0 relleno M 3.3 0.9 L 6.8 0.9 L 6.8 6.8 L 3.3 6.8 Z "
+     "M 9.2 0.9 L 12.7 0.9 L 12.7 6.8 L 9.2 6.8 Z "
+     "M 3.3 9.2 L 6.8 9.2 L 6.8 15.1 L 3.3 15.1 Z "
+     "M 9.2 9.2 L 12.7 9.2 L 12.7 15.1 L 9.2 15.1 Z"},
+    {L"5105",
+     "#2F74C0 relleno M 0.9 4.5 L 4.1 4.5 L 4.1 11.5 L 0.9 11.5 Z "
+     "M 6.4 4.5 L 9.6 4.5 L 9.6 11.5 L 6.4 11.5 Z "
+     "M 11.9 4.5 L 15.1 4.5 L 15.1 11.5 L 11.9 11.5 Z"},
+    {L"5106",
+     "#2F74C0 relleno M 6.9 0.9 L 9.1 0.9 L 9.1 4.1 L 6.9 4.1 Z "
+     "M 6.9 6.4 L 9.1 6.4 L 9.1 9.6 L 6.9 9.6 Z "
+     "M 6.9 11.9 L 9.1 11.9 L 9.1 15.1 L 6.9 15.1 Z"},
+    // And lying: alone, one above the other, side by side, in a square
+    {L"5024", "#2F74C0 relleno M 3.5 5.5 L 12.5 5.5 L 12.5 10.5 L 3.5 10.5 Z"},
+    {L"5107",
+     "#2F74C0 relleno M 4.5 0.9 L 11.5 0.9 L 11.5 4.1 L 4.5 4.1 Z "
+     "M 4.5 6.4 L 11.5 6.4 L 11.5 9.6 L 4.5 9.6 Z "
+     "M 4.5 11.9 L 11.5 11.9 L 11.5 15.1 L 4.5 15.1 Z"},
+    {L"5108",
+     "#2F74C0 relleno M 0.9 6.9 L 4.1 6.9 L 4.1 9.1 L 0.9 9.1 Z "
+     "M 6.4 6.9 L 9.6 6.9 L 9.6 9.1 L 6.4 9.1 Z "
+     "M 11.9 6.9 L 15.1 6.9 L 15.1 9.1 L 11.9 9.1 Z"},
+    {L"5109",
+     "#2F74C0 relleno M 0.9 3.3 L 6.8 3.3 L 6.8 6.8 L 0.9 6.8 Z "
+     "M 0.9 9.2 L 6.8 9.2 L 6.8 12.7 L 0.9 12.7 Z "
+     "M 9.2 3.3 L 15.1 3.3 L 15.1 6.8 L 9.2 6.8 Z "
+     "M 9.2 9.2 L 15.1 9.2 L 15.1 12.7 L 9.2 12.7 Z"},
 });
 
 }  // namespace efv::recursos
