@@ -33,6 +33,7 @@ struct Bases {
     Elegir elegirPanelFoto;
     Elegir elegirAcumulador;
     Elegir elegirInversor;
+    Elegir elegirMicroInversor;
     Elegir elegirReceptor;
 };
 

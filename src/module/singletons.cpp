@@ -91,6 +91,7 @@ const catalogues::Bases& Bases()
         .elegirPanelFoto = &ElegirModelo<CBasePanelFotoModelo>,
         .elegirAcumulador = &ElegirModelo<CBaseAcumuladorModelo>,
         .elegirInversor = &ElegirModelo<CBaseInversorModelo>,
+        .elegirMicroInversor = &ElegirModelo<CBaseMicroInversorModelo>,
         .elegirReceptor = &ElegirModelo<CBaseReceptorModelo>,
     };
     return bases;

@@ -24,6 +24,7 @@ const catalogues::Bases& Bases();
 /// What dialogs remember from one opening to the next.
 struct Recuerdo {
     int iPaginaAislada = 0;               ///< page of the stand-alone assistant that was open at its last OK
+    int iPaginaPanel = 0;                 ///< page of the PV array that was open at its last OK
     std::vector<PatronConsumo> patrones;  ///< the typical patterns, with what the person has changed in them
 };
 Recuerdo& RecuerdoDialogos();

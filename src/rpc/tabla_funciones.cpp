@@ -334,6 +334,15 @@ constexpr auto kFunciones = std::to_array<Funcion>({
     // All catalogues
     Funcion::De<&phCargarBasesHE5>("phCargarBasesHE5", "lista"),
 
+    // Elements of the drawing
+    Funcion::De<&phShowPropertyPanelFoto>(
+        "phShowPropertyPanelFoto",
+        "csReferencia, csId, nPaneles, bModelo, bInclinacion, dInclinacion, iOrientacion, iMontaje, "
+        "dRendimiento, iOptimizador, bAutoDesconexion, dAutoDesconexion, bOptimizadorMPPT, csOptimizadorMPPT, "
+        "acsOptimizadores, csString, bInformarSombra, dSombreado, bExcluir, bNoSombras, iAux, dLatitud, "
+        "dOrientacion, dDatoSitio, bClima, iFuente, bMicroInversor, csIdMicro, bMicroModelo, iConexion, "
+        "adHorizontal, bForzado, nColor"),
+
     // Consumption
     Funcion::De<&phShowPropertyConsumo>(
         "phShowPropertyConsumo",
