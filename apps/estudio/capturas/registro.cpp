@@ -8,6 +8,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "capturas/panel_fotovoltaico.h"
 #include "clima/estudios.h"
 #include "energia/planos.h"
 #include "proyecto/asistentes.h"
@@ -90,6 +91,7 @@ constexpr auto kRamificaciones = std::to_array<Ramificacion>({
          Pulsar(d, "iSimboloPanel");
          PulsarOculto(d, "Regulacion");
      }},
+    {"CDlgDatosPanelFotovoltaico", [](ui::Dialogo& d) { Pulsar(d, "ElegirInclinacion"); }},
     {"CDlgDatosEntrada", [](ui::Dialogo& d) { AbrirFila(d, "listaEntradas", 0, 0); }},
     {"CDlgDatosReceptor", [](ui::Dialogo& d) { ElegirEntrada(d, "Unificar planificación", 1); }},
     {"CDlgDatosConsumo",
@@ -362,6 +364,10 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          {"CDlgDatosConductor", "CDlgDatosFisicoConductor", "CDlgDatosMargenSeguridadCableado"},
          &AbrirCableado,
          {}},
+        {"panel-fotovoltaico",
+         {"CDlgDatosPanelFotovoltaico", "CDlgCalculoInclinacionPanel"},
+         &AbrirPanelFotovoltaico,
+         &Recorrer},
         {"entradas", {"CDlgDatosEntrada", "CDlgItemEntrada"}, &AbrirEntradas, &Recorrer},
         {"rotulacion", {"CDlgRotulacion"}, &AbrirRotulacion, {}},
     };
