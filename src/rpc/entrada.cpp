@@ -16,6 +16,7 @@
 
 #include "rpc/flujos.h"
 #include "rpc/presupuesto.h"
+#include "rpc/saneador.h"
 #include "rpc/servidor.h"
 #include "rpc/tabla_funciones.h"
 
@@ -27,20 +28,7 @@ namespace {
 constexpr std::size_t kVolcado = std::size_t{1024} * 1024;
 [[maybe_unused]] constexpr int kBloqueGrande = 256 * 1024;
 
-#if defined(__SANITIZE_ADDRESS__)
-constexpr bool kConSaneador = true;
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-constexpr bool kConSaneador = true;
-#else
-constexpr bool kConSaneador = false;
-#endif
-#else
-constexpr bool kConSaneador = false;
-#endif
-
-// From the limit on an allocation fails, and the request that wants it is answered with an error. The
-// sanitizer reserves address space far beyond any such limit.
+// From the limit on an allocation fails, and the request that wants it is answered with an error.
 void LimitarMemoria()
 {
     constexpr rlim_t maximo = rlim_t{1024} * 1024 * 1024;
@@ -80,13 +68,14 @@ constexpr std::string_view kSinMemoria =
     R"({"jsonrpc":"2.0","id":null,"error":{"code":-32000,"message":"memoria insuficiente"}})"
     "\n";
 
-// A request that runs out of memory even for its error's text is answered all the same: what waits is written
-// first, for which nothing is asked for. False when it can't be written.
-bool Responder(Servidor& servidor, std::string_view linea, std::string& respuestas)
+// Answers with `responder`. What runs out of memory even for its error's text is answered all the same: what
+// waits is written first, for which nothing is asked for. False when it can't be written.
+template <class RESPONDER>
+bool Responder(std::string& respuestas, RESPONDER&& responder)
 {
     const std::size_t nAntes = respuestas.size();
     try {
-        servidor.Responder(linea, respuestas);
+        responder();
         return true;
     } catch (const std::bad_alloc&) {
         respuestas.resize(nAntes);
@@ -94,6 +83,18 @@ bool Responder(Servidor& servidor, std::string_view linea, std::string& respuest
     const bool bEscrito = EscribirTodo(STDOUT_FILENO, respuestas) && EscribirTodo(STDOUT_FILENO, kSinMemoria);
     respuestas.clear();
     return bEscrito;
+}
+
+bool Atender(Servidor& servidor, LectorLineas::Estado estado, std::string_view linea, std::string& respuestas)
+{
+    return Responder(respuestas, [&] {
+        if (estado == LectorLineas::Estado::sinMemoria)
+            throw std::bad_alloc();
+        if (estado == LectorLineas::Estado::linea)
+            servidor.Responder(linea, respuestas);
+        else
+            Servidor::RechazarLinea(respuestas);
+    });
 }
 
 std::string Depurado(std::string_view texto)
@@ -105,9 +106,18 @@ std::string Depurado(std::string_view texto)
     return limpio;
 }
 
+// On a terminal cleaned first, for which the memory may be missing too.
 bool Escribir(const std::string& respuestas)
 {
-    return EscribirTodo(STDOUT_FILENO, ::isatty(STDOUT_FILENO) == 1 ? Depurado(respuestas) : respuestas);
+    if (::isatty(STDOUT_FILENO) != 1)
+        return EscribirTodo(STDOUT_FILENO, respuestas);
+    std::string limpias;
+    try {
+        limpias = Depurado(respuestas);
+    } catch (const std::bad_alloc&) {
+        return EscribirTodo(STDOUT_FILENO, kSinMemoria);
+    }
+    return EscribirTodo(STDOUT_FILENO, limpias);
 }
 
 // Room for what waits; without it each answer takes what it needs.
@@ -137,11 +147,7 @@ int AtenderEntrada()
         const LectorLineas::Estado estado = lector.Siguiente(linea);
         if (estado == LectorLineas::Estado::fin)
             return 0;
-        bool bEscrito = true;
-        if (estado == LectorLineas::Estado::linea)
-            bEscrito = Responder(servidor, linea, respuestas);
-        else
-            Servidor::RechazarLinea(respuestas);
+        const bool bEscrito = Atender(servidor, estado, linea, respuestas);
         if (bEscrito && lector.HayLinea() && respuestas.size() < kVolcado)
             continue;
         if (!bEscrito || !Escribir(respuestas)) {

@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <new>
 #include <utility>
 
 namespace efv::rpc {
@@ -47,7 +48,7 @@ LectorLineas::Estado LectorLineas::Siguiente(std::string_view& linea)
         }
         Acumular(m_pendiente);
         if (!Rellenar())
-            return m_parcial.empty() && !m_bSaltando ? Estado::fin : Terminar({}, linea);
+            return m_parcial.empty() && m_estado == Estado::linea ? Estado::fin : Terminar({}, linea);
     }
 }
 
@@ -68,30 +69,37 @@ bool LectorLineas::Rellenar()
     }
 }
 
-// Keeps a piece of a line; from the limit on the line is only skipped.
-bool LectorLineas::Acumular(std::string_view trozo)
+// Keeps a piece of a line; from the limit on, or without memory for it, the line is only skipped.
+void LectorLineas::Acumular(std::string_view trozo)
 {
-    if (!m_bSaltando && m_parcial.size() + trozo.size() > m_maximo) {
-        m_bSaltando = true;
-        m_parcial = {};
-        m_parcial.shrink_to_fit();
-    }
-    if (!m_bSaltando)
+    if (m_estado != Estado::linea)
+        return;
+    if (m_parcial.size() + trozo.size() > m_maximo)
+        return Saltar(Estado::demasiadoLarga);
+    try {
         m_parcial += trozo;
-    return !m_bSaltando;
+    } catch (const std::bad_alloc&) {
+        Saltar(Estado::sinMemoria);
+    }
+}
+
+void LectorLineas::Saltar(Estado porque)
+{
+    m_estado = porque;
+    m_parcial = {};
+    m_parcial.shrink_to_fit();
 }
 
 LectorLineas::Estado LectorLineas::Terminar(std::string_view trozo, std::string_view& linea)
 {
-    if (m_parcial.empty() && !m_bSaltando) {
+    if (m_parcial.empty() && m_estado == Estado::linea) {
         linea = trozo;
         return trozo.size() > m_maximo ? Estado::demasiadoLarga : Estado::linea;
     }
-    const bool bCabe = Acumular(trozo);
+    Acumular(trozo);
     m_bAgotada = true;
-    m_bSaltando = false;
     linea = m_parcial;
-    return bCabe ? Estado::linea : Estado::demasiadoLarga;
+    return std::exchange(m_estado, Estado::linea);
 }
 
 bool EscribirTodo(int iDescriptor, std::string_view texto)

@@ -13,6 +13,7 @@ public:
     enum class Estado {
         linea,
         demasiadoLarga,  ///< a line over the limit went by, unread
+        sinMemoria,      ///< a line for which there was no memory went by, unread
         fin,
     };
 
@@ -27,16 +28,17 @@ public:
 
 private:
     bool Rellenar();
-    bool Acumular(std::string_view trozo);
+    void Acumular(std::string_view trozo);
+    void Saltar(Estado porque);
     Estado Terminar(std::string_view trozo, std::string_view& linea);
 
     int m_iDescriptor;
     std::size_t m_maximo;
     std::vector<char> m_bufer;
-    std::string_view m_pendiente;  ///< what of the buffer is still to be given
-    std::string m_parcial;         ///< start of a line whose end the buffer didn't hold
-    bool m_bAgotada = false;       ///< m_parcial was given and can go
-    bool m_bSaltando = false;      ///< within a line over the limit
+    std::string_view m_pendiente;     ///< what of the buffer is still to be given
+    std::string m_parcial;            ///< start of a line whose end the buffer didn't hold
+    bool m_bAgotada = false;          ///< m_parcial was given and can go
+    Estado m_estado = Estado::linea;  ///< of the line that is being read: any other skips it
 };
 
 /// Writes all of `texto`; false when the other end is closed or the write fails.

@@ -54,7 +54,7 @@ report::LugarDiseno LeerLugar(const Json& j)
 
 std::unique_ptr<CObject> CrearDiseno(const Json& nombre)
 {
-    if (nombre != "CSFVAsistenteAislada" && nombre != "CSFVAsistenteRed")
+    if (!Dice(nombre, "CSFVAsistenteAislada") && !Dice(nombre, "CSFVAsistenteRed"))
         Esperaba("CSFVAsistenteAislada o CSFVAsistenteRed", nombre);
     return CrearRegistro(nombre);
 }
@@ -84,14 +84,14 @@ void EscribirInforme(const Json& params, std::string& salida)
         NombrarLugar([] { return "title"; }, [&] { portada.titulo = Texto(params["title"]); });
     const Json& lugar = Miembro(params, "place", "el lugar");
     NombrarLugar([] { return "place"; }, [&] { portada.lugar = LeerLugar(lugar); });
-    const Json formato = params.value("format", Json("html"));
-    if (formato != "html" && formato != "text")
+    const bool bHtml = !params.contains("format") || Dice(params["format"], "html");
+    if (!bHtml && !Dice(params["format"], "text"))
         throw ErrorValor("format: se esperaba html o text");
     try {
         const report::Documento documento = DocumentoDe(*registro, portada);
         salida += "{\"text\":";
-        EscribirTexto(salida, formato == "html" ? report::DocumentoHtml(documento, report::FechaDeHoy())
-                                                : report::DocumentoTexto(documento));
+        EscribirTexto(salida, bHtml ? report::DocumentoHtml(documento, report::FechaDeHoy())
+                                    : report::DocumentoTexto(documento));
         salida += '}';
     } catch (const std::invalid_argument& error) {
         throw ErrorRpc(Codigo::argumentos, error.what());

@@ -200,7 +200,7 @@ void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo)
 {
     if (const JsonLeido* j = proyecto.Buscar("titulo"); j != nullptr)
         rpc::NombrarLugar([] { return "titulo"; }, [&] { titulo = LeerTexto(*j); });
-    if (const JsonLeido* j = proyecto.Buscar("tipo"); j != nullptr && *j != std::string(tipo))
+    if (const JsonLeido* j = proyecto.Buscar("tipo"); j != nullptr && !rpc::Dice(*j, tipo))
         rpc::NombrarLugar([] { return "tipo"; }, [&] { rpc::Esperaba(fmt::format("\"{}\"", tipo), *j); });
 }
 

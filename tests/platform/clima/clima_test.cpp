@@ -57,7 +57,7 @@ TEST_F(Clima, HorasYAnosContraElProgramaIndependiente)
 {
     for (const auto& v : Vectores("hora"))
         EXPECT_NEAR(Radiacion(v[0], v[1], int(v[2]), int(v[3]), int(v[4]), 0.0, v[7], v[8], v[5], v[6]), v[9],
-                    1e-8);
+                    1e-9);
     std::array<double, 372> adTemperaturas{};
     adTemperaturas.fill(25.0);
     for (const auto& v : Vectores("ano")) {
