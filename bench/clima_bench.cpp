@@ -7,11 +7,11 @@
 #include <vector>
 
 #include <benchmark/benchmark.h>
-#include <fmt/format.h>
 
 #include <quorvel/clima.h>
 #include <quorvel/solar/pvgis.h>
 
+#include "ano_tipico.h"
 #include "platform/clima/cielo.h"
 #include "solar/curvas_inclinacion.h"
 #include "solar/inclinacion_optima.h"
@@ -72,24 +72,9 @@ void EstudioDeInclinacion(benchmark::State& estado)
 }
 BENCHMARK(EstudioDeInclinacion)->Unit(benchmark::kMicrosecond);
 
-std::string AnoTipico()
-{
-    std::string texto =
-        "Latitude (decimal degrees): 40.400\r\nLongitude (decimal degrees): -3.700\r\nElevation (m): 652.0\r\n"
-        "time(UTC),T2m,RH,G(h),Gb(n),Gd(h),IR(h),WS10m,WD10m,SP\r\n";
-    for (int iHora = 0; iHora < 8760; ++iHora) {
-        const int iDia = iHora / 24;
-        texto += fmt::format(
-            "2007{:02}{:02}:{:02}10,{:.2f},{:.2f},{:.1f},0.0,{:.1f},300.0,{:.2f},{:.1f},95000.0\r\n",
-            iDia / 31 + 1, iDia % 28 + 1, iHora % 24, iHora % 41 - 5.0, 40.0 + iHora % 53, iHora % 907 * 1.0,
-            iHora % 401 * 1.0, iHora % 13 * 0.7, iHora % 361 * 1.0);
-    }
-    return texto;
-}
-
 void RespuestaARegistro(benchmark::State& estado)
 {
-    const std::string respuesta = AnoTipico();
+    const std::string respuesta = bench::AnoTipico();
     for (auto _ : estado) {
         auto registro = solar::ConvertirAnoTipico(respuesta, "Madrid", 40.4, 0.0);
         if (registro.iFilas != solar::kFilasAnoTipico)

@@ -1,11 +1,15 @@
 // Opening the dialog of an array of panels with its simulated year, beside the years of sky that it takes.
+#include <filesystem>
+#include <fstream>
 #include <memory>
+#include <stdexcept>
 #include <vector>
 
 #include <benchmark/benchmark.h>
 
 #include <QuorvelEFV.h>
 
+#include "ano_tipico.h"
 #include "medidor.h"
 #include "solar/curvas_inclinacion.h"
 
@@ -30,11 +34,24 @@ void SueloDosAnosDeCielo(benchmark::State& estado)
 }
 BENCHMARK(SueloDosAnosDeCielo)->Unit(benchmark::kMicrosecond);
 
+// Makes the typical year the one that the climate library reads.
+void CargarRegistro()
+{
+    const auto ruta = std::filesystem::temp_directory_path() / "efv_bench_registro.txt";
+    std::ofstream(ruta, std::ios::binary)
+        << solar::ConvertirAnoTipico(bench::AnoTipico(), "Madrid", 40.4, 0.0).texto;
+    CString csError;
+    if (!clima::CargarRegistroClimatico(CadenaDesdeUtf8(ruta.string()), csError))
+        throw std::runtime_error(CadenaUtf8(csError));
+    std::filesystem::remove(ruta);
+}
+
 // Its argument is the source: 0 the record, 1 the sky, 2 the host's hours.
 void AbrirPanelFotovoltaico(benchmark::State& estado)
 {
     phCargarBasePanelesFotovoltaicos(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/ZqModFotoHE5.xml"));
     phCargarBaseMicroInversores(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/ZqMicroInversorHE5.xml"));
+    CargarRegistro();
     const auto horas = std::make_unique<HorasHorizontal>();
     CString csReferencia = L"FV1", csId = L"CHSM6612P-295", csOptimizador, csString, csIdMicro = L"IQ8-60-2-US";
     int nPaneles = 4, bModelo = 1, bInclinacion = 1, iOrientacion = 0, iMontaje = 0, bDesconexion = 0;
