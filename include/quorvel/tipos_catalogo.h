@@ -31,8 +31,8 @@ struct ModelosDeFamilia {
 };
 
 enum class Adicion {
-    estricta,   ///< the file must exist, and no name may be taken: else nothing is added
-    tolerante,  ///< a missing file is made; models whose name their family already has are left out
+    estricta,   ///< no name may be taken: else nothing is added
+    tolerante,  ///< models whose name their family already has are left out
 };
 
 /// A kind of component. A model handed to it must be of its own class.
@@ -62,7 +62,8 @@ public:
     virtual std::vector<CString> Faltas(const CModelo& modelo) const = 0;
 
     /// Adds models at the end of their families in a catalogue file; a family is made when the file lacks
-    /// it. All else in the file stays as it was; it is read once, and replaced as a whole or not at all.
+    /// it, a missing file is made. All else in the file stays as it was; it is read once, and replaced as a
+    /// whole or not at all.
     /// @return the models left out, in order: none when `modo` is estricta
     /// @throws CFileException when the file can't be opened or written, or when in estricta a family
     /// already has a model of one of the names
@@ -75,6 +76,10 @@ public:
 EFV_API std::span<const TipoCatalogo* const> TiposDeCatalogo();
 /// The kind of that name; null when there is none.
 EFV_API const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre);
+
+/// The kind whose fields the attributes of a catalogue's first model are; null when the file can't be read, has
+/// no model or several kinds fit as well.
+EFV_API const TipoCatalogo* TipoDelCatalogo(const CString& csRuta);
 
 /// What is wrong with one model, as its dialog would say it.
 struct HallazgoModelo {

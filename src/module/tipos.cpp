@@ -1,6 +1,8 @@
 // The kinds of component, and what looks through all of them.
 #include <algorithm>
 #include <array>
+#include <string>
+#include <vector>
 
 #include <quorvel/framework/CException.h>
 #include <quorvel/importacion_catalogo.h>
@@ -14,6 +16,7 @@
 #include "catalogues/kinds/panel_foto.h"
 #include "catalogues/kinds/receptor.h"
 #include "module/ordenes.h"
+#include "platform/xml/documento_editable.h"
 
 namespace efv {
 
@@ -36,6 +39,49 @@ const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre)
     const auto tipos = TiposDeCatalogo();
     const auto hallado = std::ranges::find(tipos, nombre, &TipoCatalogo::Nombre);
     return hallado != tipos.end() ? *hallado : nullptr;
+}
+
+namespace {
+
+// Names of the attributes of the first model.
+std::vector<std::string> AtributosDelPrimero(const xml::DocumentoEditable& documento)
+{
+    for (const xml::NodoEditable tabla : documento.Superiores()) {
+        for (const xml::NodoEditable familia : documento.Hijos(tabla, "Familia")) {
+            const auto modelos = documento.Hijos(familia, "Modelo");
+            if (modelos.empty())
+                continue;
+            std::vector<std::string> nombres;
+            for (const auto& [csNombre, csValor] : documento.LeerAtributos(modelos.front()))
+                nombres.push_back(CadenaUtf8(csNombre));
+            return nombres;
+        }
+    }
+    return {};
+}
+
+}  // namespace
+
+const TipoCatalogo* TipoDelCatalogo(const CString& csRuta)
+{
+    const auto documento = xml::DocumentoEditable::Abrir(csRuta);
+    if (!documento)
+        return nullptr;
+    const std::vector<std::string> nombres = AtributosDelPrimero(*documento);
+    const TipoCatalogo* mejor = nullptr;
+    std::ptrdiff_t nMejor = 0;
+    for (const TipoCatalogo* tipo : TiposDeCatalogo()) {
+        const auto campos = tipo->Campos();
+        const auto n = std::ranges::count_if(nombres, [&](const std::string& nombre) {
+            return std::ranges::find(campos, nombre, &CampoCatalogo::nombre) != campos.end();
+        });
+        if (n > nMejor)
+            mejor = tipo;
+        else if (n == nMejor)
+            mejor = nullptr;
+        nMejor = std::max(n, nMejor);
+    }
+    return mejor;
 }
 
 BibliotecaCec LeerCec(const CString& csFichero, const OpcionesCec& opciones)

@@ -74,6 +74,26 @@ CString OpcionesCatalogo::Ruta(const TipoCatalogo& tipo) const
                              : CadenaDesdeUtf8(m_fichero);
 }
 
+void ExigirTipo(const TipoCatalogo& tipo, const Modelos& modelos, const std::string& ruta)
+{
+    if (modelos.empty())
+        return;
+    // A look at the file's own attributes costs a second reading: only where hardly anything was found.
+    std::size_t nNumeros = 0, nNulos = 0;
+    for (std::size_t i = 0; i < tipo.Campos().size(); ++i) {
+        const ValorCampo valor = tipo.Valor(*modelos.front(), i);
+        const double* d = std::get_if<double>(&valor);
+        nNumeros += d != nullptr ? 1U : 0U;
+        nNulos += d != nullptr && *d == 0.0 ? 1U : 0U;
+    }
+    if (2 * nNulos < nNumeros)
+        return;
+    const TipoCatalogo* otro = TipoDelCatalogo(CadenaDesdeUtf8(ruta));
+    if (otro != nullptr && otro != &tipo)
+        throw ErrorEjecucion(
+            fmt::format("«{}» es un catálogo de {}, no de {}", ruta, otro->Nombre(), tipo.Nombre()));
+}
+
 CatalogoAbierto::CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta)
     : m_tipo(tipo), m_ruta(CadenaUtf8(csRuta)), m_base(tipo.CrearBase())
 {
@@ -84,6 +104,7 @@ CatalogoAbierto::CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta
         throw ErrorEjecucion(
             fmt::format("el catálogo «{}» no se puede leer: {}", m_ruta, MotivoDocumentoIlegible(csRuta)));
     m_modelos = tipo.Modelos(*m_base);
+    ExigirTipo(tipo, m_modelos, m_ruta);
     if (m_modelos.empty())
         throw ErrorEjecucion(fmt::format("el catálogo «{}» no tiene ningún modelo", m_ruta));
 }

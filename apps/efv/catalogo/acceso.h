@@ -49,6 +49,8 @@ CString Identificacion(const CModelo& modelo);
 /// The models of that identification, or of that name alone; when nothing has the very name those that differ
 /// from it in case and accents. One identification twice in a file counts as its first model.
 Modelos ModelosDeNombre(const Modelos& modelos, const CString& csId);
+/// @throws ErrorEjecucion when the models of that file are of another kind
+void ExigirTipo(const TipoCatalogo& tipo, const Modelos& modelos, const std::string& ruta);
 /// Identifications, ", " between them.
 std::string Enumerar(const Modelos& modelos);
 

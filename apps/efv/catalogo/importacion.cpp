@@ -1,30 +1,25 @@
 #include "catalogo/importacion.h"
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
+#include "catalogo/acceso.h"
 #include "comun/consola.h"
 
 namespace efv::orden {
 
 namespace {
 
-CString FabricanteComun(const std::vector<Importacion::Leido>& modelos)
+// The family of a model: what the order says, else the maker that the file names.
+CString FamiliaDe(const Importacion::Leido& leido, const std::optional<std::string>& familia)
 {
-    const CString& csPrimero = modelos.front().importado.csFabricante;
-    for (const auto& modelo : modelos) {
-        const CString& csOtro = modelo.importado.csFabricante;
-        if (csOtro.empty()) {
-            throw ErrorEjecucion(
-                fmt::format("«{}» no dice el fabricante: indique la familia con --familia", modelo.fichero));
-        }
-        if (csOtro != csPrimero) {
-            throw ErrorEjecucion(
-                fmt::format("los archivos son de fabricantes distintos, «{}» y «{}»: indique una familia con "
-                            "--familia o impórtelos por separado",
-                            CadenaUtf8(csPrimero), CadenaUtf8(csOtro)));
-        }
-    }
-    return csPrimero;
+    if (familia)
+        return CadenaDesdeUtf8(*familia);
+    if (leido.importado.csFabricante.empty())
+        throw ErrorEjecucion(
+            fmt::format("«{}» no dice el fabricante: indique la familia con --familia", leido.fichero));
+    return leido.importado.csFabricante;
 }
 
 }  // namespace
@@ -49,24 +44,44 @@ Importacion LeerModelos(const TipoCatalogo& tipo, const std::vector<std::string>
     Importacion importacion;
     for (const std::string& fichero : ficheros)
         importacion.modelos.push_back({fichero, leer(CadenaDesdeUtf8(fichero)), {}});
-    importacion.csFamilia = familia ? CadenaDesdeUtf8(*familia) : FabricanteComun(importacion.modelos);
-    ComprobarNombre(importacion.csFamilia, "la familia");
     for (auto& leido : importacion.modelos) {
         CModelo& modelo = *leido.importado.modelo;
         ComprobarNombre(modelo.csModelo, "el modelo");
-        modelo.csFamilia = importacion.csFamilia;
+        modelo.csFamilia = FamiliaDe(leido, familia);
+        ComprobarNombre(modelo.csFamilia, "la familia");
         const CModelo* uno = &modelo;
         leido.hallazgos = ValidarModelos(tipo, {&uno, 1});
     }
     return importacion;
 }
 
+void AvisarDeNombres(const TipoCatalogo& tipo, const CString& csCatalogo, Importacion& importacion)
+{
+    const auto base = tipo.CrearBase();
+    if (base->Cargar(csCatalogo) == 0)
+        return;
+    const Modelos estan = tipo.Modelos(*base);
+    ExigirTipo(tipo, estan, CadenaUtf8(csCatalogo));
+    for (auto& leido : importacion.modelos) {
+        const CModelo& nuevo = *leido.importado.modelo;
+        for (const CModelo* modelo : estan)
+            if (modelo->csModelo == nuevo.csModelo && modelo->csFamilia != nuevo.csFamilia)
+                leido.importado.acsAvisos.push_back(L"ese modelo está también en la familia " +
+                                                    modelo->csFamilia);
+    }
+}
+
 void Anadir(const TipoCatalogo& tipo, const Importacion& importacion, const CString& csCatalogo)
 {
-    ModelosDeFamilia nuevos{importacion.csFamilia, {}};
-    for (const auto& leido : importacion.modelos)
-        nuevos.modelos.push_back(leido.importado.modelo.get());
-    tipo.Anadir(csCatalogo, {&nuevos, 1});
+    std::vector<ModelosDeFamilia> familias;
+    for (const auto& leido : importacion.modelos) {
+        const CModelo& modelo = *leido.importado.modelo;
+        auto familia = std::ranges::find(familias, modelo.csFamilia, &ModelosDeFamilia::csFamilia);
+        if (familia == familias.end())
+            familia = familias.insert(familia, ModelosDeFamilia{modelo.csFamilia, {}});
+        familia->modelos.push_back(&modelo);
+    }
+    tipo.Anadir(csCatalogo, familias);
 }
 
 }  // namespace efv::orden

@@ -17,7 +17,6 @@ struct Importacion {
         std::vector<HallazgoModelo> hallazgos;
     };
 
-    CString csFamilia;
     std::vector<Leido> modelos;
 
     std::size_t Hallazgos() const;
@@ -25,12 +24,16 @@ struct Importacion {
 
 using LectorModelo = std::function<ModeloImportado(const CString& csFichero)>;
 
-/// Reads the files as models of `familia`, or of their common manufacturer, and checks them.
+/// Reads the files as models of `familia`, or each of its manufacturer, and checks them.
 /// @throws ErrorEjecucion, CFileException when a file can't be read or the family is not to be told
 Importacion LeerModelos(const TipoCatalogo& tipo, const std::vector<std::string>& ficheros,
                         const LectorModelo& leer, const std::optional<std::string>& familia);
 
-/// Adds the models to the catalogue. @throws CFileException, the file untouched
+/// Notes what bears the name of a model of another family. @throws ErrorEjecucion when the catalogue is of
+/// another kind
+void AvisarDeNombres(const TipoCatalogo& tipo, const CString& csCatalogo, Importacion& importacion);
+
+/// Adds the models to the catalogue, which is made if it is missing. @throws CFileException, the file untouched
 void Anadir(const TipoCatalogo& tipo, const Importacion& importacion, const CString& csCatalogo);
 
 /// What stands before and after "#" in an identification holds none itself. @throws ErrorEjecucion

@@ -108,7 +108,8 @@ private:
     {
         const std::optional<std::string>& familia = Familia();
         const CString csCatalogo = m_catalogo.Ruta(tipo);
-        const Importacion importacion = LeerModelos(tipo, m_palabras, leer, familia);
+        Importacion importacion = LeerModelos(tipo, m_palabras, leer, familia);
+        AvisarDeNombres(tipo, csCatalogo, importacion);
         if (importacion.Hallazgos() == 0)
             Anadir(tipo, importacion, csCatalogo);
         salida << (m_bJson ? TextoJson(ImportacionJson(tipo, importacion, CadenaUtf8(csCatalogo)))

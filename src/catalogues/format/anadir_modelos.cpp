@@ -34,10 +34,8 @@ xml::NodoEditable BuscarTabla(const xml::DocumentoEditable& documento)
 constexpr std::string_view kVacio =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<QuorvelEFV>\n<TablaFamilias/>\n</QuorvelEFV>\n";
 
-xml::DocumentoEditable LeerOCrear(FicheroRetenido& fichero, const CString& csFichero, Adicion modo)
+xml::DocumentoEditable LeerOCrear(FicheroRetenido& fichero, const CString& csFichero)
 {
-    if (!fichero.Existe() && modo == Adicion::estricta)
-        Fallar(csFichero, "no existe");
     auto documento = fichero.Existe() ? xml::DocumentoEditable::DeBytes(fichero.Leer(xml::kMaximoFichero))
                                       : xml::DocumentoEditable::Leer(kVacio);
     if (!documento)
@@ -96,7 +94,7 @@ std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<co
 {
     // Nobody else changes the file between its reading and its replacement.
     FicheroRetenido fichero(*ElMundo().ficheros, CadenaUtf8(csFichero));
-    xml::DocumentoEditable documento = LeerOCrear(fichero, csFichero, modo);
+    xml::DocumentoEditable documento = LeerOCrear(fichero, csFichero);
     const xml::NodoEditable tabla = BuscarTabla(documento);
     if (!tabla)
         Fallar(csFichero, "no es un catálogo: no tiene TablaFamilias");

@@ -1,9 +1,11 @@
 #include "catalogues/import/importacion.h"
 
+#include <array>
 #include <utility>
 
 #include <quorvel/framework/CException.h>
 
+#include "catalogues/import/claves.h"
 #include "platform/numero/conversion.h"
 #include "ui/fichero_texto.h"
 
@@ -50,6 +52,22 @@ CString TextoImportado(const CString& csFichero)
     if (!csTexto)
         throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no se puede leer");
     return std::move(*csTexto);
+}
+
+void ExigirClase(const CString& csFichero, std::wstring_view texto, ClaseImportada clase)
+{
+    struct Fila {
+        ClaseImportada clase;
+        std::wstring_view objeto;
+        const char* que;
+    };
+    static constexpr std::array kFilas = {
+        Fila{ClaseImportada::modulo, L"pvModule", "un módulo (PAN): impórtelo con importar-pan"},
+        Fila{ClaseImportada::inversor, L"pvGInverter", "un inversor (OND): impórtelo con importar-ond"}};
+    const std::wstring_view dicho = Claves(texto).Texto(L"PVObject_");
+    for (const Fila& fila : kFilas)
+        if (fila.objeto == dicho && fila.clase != clase)
+            throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": es de " + fila.que);
 }
 
 void FallarSinClaves(const CString& csFichero, const char* que)

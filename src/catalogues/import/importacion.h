@@ -70,6 +70,11 @@ std::vector<CString> ClavesAusentes(std::wstring_view texto, std::span<const Cla
     return ausentes;
 }
 
+enum class ClaseImportada { modulo, inversor };
+/// What the file itself says that it is; one that says nothing passes.
+/// @throws CFileException, with the import that would take it
+void ExigirClase(const CString& csFichero, std::wstring_view texto, ClaseImportada clase);
+
 /// The text of a file. @throws CFileException when it can't be read.
 CString TextoImportado(const CString& csFichero);
 [[noreturn]] void FallarSinClaves(const CString& csFichero, const char* que);

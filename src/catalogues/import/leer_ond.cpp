@@ -36,7 +36,9 @@ ModeloImportado Importado(const TextoConAusentes& abierto, M& modelo, ModoOnd mo
 template <class M>
 ModeloImportado Leer(const CString& csFichero, M& modelo, ModoOnd modo)
 {
-    return Importado(AbrirImportado<M>(csFichero, kClavesOnd<M>, "OND"), modelo, modo);
+    const TextoConAusentes abierto = AbrirImportado<M>(csFichero, kClavesOnd<M>, "OND");
+    ExigirClase(csFichero, abierto.csTexto, ClaseImportada::inversor);
+    return Importado(abierto, modelo, modo);
 }
 
 }  // namespace

@@ -148,7 +148,6 @@ TEST_F(OrdenCatalogo, VariosPanSeAnadenTodosONinguno)
     const std::string a = m_carpeta.Crear("a.pan", Pan("Una", "A"));
     const std::string b = m_carpeta.Crear("b.pan", Pan("Dos", "B"));
     const std::string mala = m_carpeta.Crear("mala.pan", Pan("Una", "Mala", "0"));
-    EsperarFallo({"catalogo", "importar-pan", a, b}, 1, "--familia");
     EsperarFallo({"catalogo", "importar-pan", a, a}, 1, "ya tiene el modelo A");
     EsperarFallo({"catalogo", "importar-pan", a, m_carpeta.Ruta().string() + "/no.pan"}, 1, "no.pan");
     EsperarFallo({"catalogo", "importar-pan", a, m_carpeta.Crear("no_es.pan", "texto\n")}, 1, "no_es.pan");
@@ -163,6 +162,59 @@ TEST_F(OrdenCatalogo, VariosPanSeAnadenTodosONinguno)
 
     EXPECT_EQ(OrdenJson({"catalogo", "importar-pan", a, b, "--familia", "Ñ & Cía"})["anadidos"], 2);
     EXPECT_EQ(Ids({"catalogo", "listar", "--familia", "Ñ & Cía"}), (Textos{"Ñ & Cía#A", "Ñ & Cía#B"}));
+    // Each to its maker; a name that stands elsewhere is told. A catalogue that is missing is made.
+    const Corrida porMarcas = Orden({"catalogo", "importar-pan", a, b});
+    EXPECT_EQ(porMarcas.iEstado, 0) << porMarcas.errores;
+    EXPECT_NE(porMarcas.salida.find("está también en la familia Ñ & Cía"), std::string::npos)
+        << porMarcas.salida;
+    EXPECT_EQ(Ids({"catalogo", "listar", "--familia", "Dos"}), (Textos{"Dos#B"}));
+    const std::string nuevo = m_carpeta.Ruta().string() + "/nuevo.xml";
+    EXPECT_EQ(Correr({"catalogo", "importar-pan", a, "--fichero", nuevo}).iEstado, 0);
+    EXPECT_EQ(Correr({"catalogo", "ver", "Una#A", "--fichero", nuevo}).iEstado, 0);
+}
+
+// What a file is stands in it: nothing of one kind goes to a catalogue of another.
+TEST_F(OrdenCatalogo, CadaFicheroEsDeSuClase)
+{
+    const std::string pan = m_carpeta.Crear("a.pan", Pan("Una", "A"));
+    const std::string ond = m_carpeta.Crear("a.ond", "PVObject_=pvGInverter\n Manufacturer=Una\n Model=A\n");
+    EsperarFallo({"catalogo", "importar-pan", ond}, 1, "es de un inversor (OND)");
+    EsperarFallo({"catalogo", "importar-ond", pan}, 1, "es de un módulo (PAN)");
+    EsperarFallo({"catalogo", "listar", "--tipo", "inversores"}, 1, "es un catálogo de modulos");
+    const std::string inversores = m_carpeta.Crear(
+        "i.xml",
+        "<QuorvelEFV><TablaFamilias><Familia nombre=\"F\"><Modelo csModelo=\"I\" iUsoPrincipal=\"0\" "
+        "dPCCMax=\"5000\" dVMPPMax=\"500\" iNumMPPT=\"1\"/></Familia></TablaFamilias></QuorvelEFV>");
+    const Corrida corrida = Correr({"catalogo", "importar-pan", pan, "--fichero", inversores});
+    EXPECT_EQ(corrida.iEstado, 1);
+    EXPECT_NE(corrida.errores.find("es un catálogo de inversores"), std::string::npos) << corrida.errores;
+    EXPECT_EQ(Correr({"catalogo", "listar", "--tipo", "inversores", "--fichero", inversores}).iEstado, 0);
+}
+
+// What the file leaves open is taken from elsewhere and told, a line each.
+TEST_F(OrdenCatalogo, LoQueUnPanNoDiceSeTomaYSeDice)
+{
+    const auto importar = [&](const char* modelo, const std::string& resto) {
+        const std::string pan =
+            "PVObject_=pvModule\n Manufacturer=M\n Width=1\n Height=1.7\n Technol=mtSiPoly\n NCelS=60\n "
+            "PNom=285\n"
+            " Isc=9.46\n Voc=39.18\n Imp=8.95\n Vmp=31.85\n muISC=4.5\n muVocSpec=0\n muPmpReq=-0.4\n"
+            " VMaxIEC=1000\n CellArea=243.3\n RelEffic200=-3.2\n Model=" +
+            std::string(modelo) + "\n" + resto;
+        const Corrida corrida = Orden({"catalogo", "importar-pan", m_carpeta.Crear("x.pan", pan)});
+        EXPECT_EQ(corrida.iEstado, 0) << corrida.salida << corrida.errores;
+        for (const char* dicho :
+             {"VMaxUL: se toma VMaxIEC = 1000", "NCelP: se toma 1", "Depth: se toma un canto"})
+            EXPECT_NE(corrida.salida.find(dicho), std::string::npos) << dicho << corrida.salida;
+        return OrdenJson({"catalogo", "ver", std::string("M#") + modelo});
+    };
+    const Json tipico = importar("T", "");
+    EXPECT_NEAR(tipico["dCTVoc"].get<double>(), -39.18 * 0.31 * 10, 1e-3);
+    EXPECT_NEAR(tipico["dAcel"].get<double>(), 24330, 1e-6);
+    EXPECT_NEAR(tipico["dCEf"].get<double>(), 3.2, 1e-6);
+    // Independent solution of the single-diode model by Newton's method at 24 and 26 ºC.
+    const Json diodo = importar("D", " RSerie=0.25\n RShunt=400\n Gamma=1.05\n muGamma=-0.0004\n");
+    EXPECT_NEAR(diodo["dCTVoc"].get<double>(), -124.360729, 1e-2);
 }
 
 TEST_F(OrdenCatalogo, LosValoresTipicosSonLosDeLaFicha)
