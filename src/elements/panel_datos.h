@@ -68,7 +68,7 @@ inline constexpr auto kNombresDe<DatosPanel> = std::to_array<ui::NombreCampo<Dat
 /// What the host knows of the place. The hours of the horizontal are those of a block of a year, or none.
 struct ClimaPanel {
     bool bHay = false;
-    solar::PlanoEstudio plano;
+    solar::PlanoEstudio plano{solar::FuenteRadiacion::cielo, 0.0, 36.0, 0.0};
     std::span<const double> adHorizontal;
 };
 
