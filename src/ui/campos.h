@@ -16,6 +16,7 @@
 #include <quorvel/ui/dialogo.h>
 
 #include "platform/unidades/unidades.h"
+#include "ui/intercambio.h"
 
 namespace efv::ui {
 
@@ -204,6 +205,26 @@ public:
     C& De(const Miembro<P>& miembro) const
     {
         return *std::get<C*>(Hallar(miembro).mando);
+    }
+
+    /// The object into its controls, and no others.
+    void Volcar() const
+    {
+        for (const Enlace& enlace : m_enlaces)
+            std::visit([](auto* control) { ui::Volcar(*control); }, enlace.mando);
+    }
+
+    /// The controls show the object and never change it: none is at fault, whatever stands in it.
+    void SoloMostrar() const
+    {
+        for (const Enlace& enlace : m_enlaces)
+            std::visit(
+                [](auto* control) {
+                    control->PonerSoloLectura();
+                    if constexpr (requires { control->intercambio; })
+                        control->intercambio = Intercambio::soloMuestra;
+                },
+                enlace.mando);
     }
 
 private:

@@ -19,7 +19,7 @@ template <std::derived_from<CModelo> M>
 struct CamposDe<M> {
     static constexpr std::string_view Nombre(const Miembro<M>& miembro)
     {
-        const auto* fila = FilaDeMiembro(efv::catalogues::FormatoCatalogo<M>::kCampos, miembro);
+        const auto* fila = FilaDeMiembro(catalogues::FormatoCatalogo<M>::kCampos, miembro);
         return fila != nullptr ? std::string_view(fila->atributo) : std::string_view();
     }
 };

@@ -1,10 +1,6 @@
-// Dialog of an inverter's data sheet. Its main use changes what the first page means and which fields
-// there are.
-#include <fmt/format.h>
-#include <fmt/xchar.h>
-
+// Dialog of an inverter's data sheet.
+#include "catalogues/dialogs/inversor_paginas.h"
 #include "catalogues/dialogs/inversores_dialogo.h"
-#include "catalogues/kinds/inversor.h"
 #include "platform/numero/conversion.h"
 
 namespace {
@@ -13,51 +9,11 @@ namespace ui = efv::ui;
 namespace cat = efv::catalogues;
 using M = CBaseInversorModelo;
 
-constexpr int kRed = 0;
-constexpr int kAislada = 1;
-constexpr ui::Color kGris = 0x808080;
-
-constexpr auto kUsos = std::to_array<std::wstring_view>({L"Conexión a red", L"Instalación aislada"});
-constexpr auto kSalidas = std::to_array<std::wstring_view>({L"Monofase", L"Trifase"});
-
 constexpr auto kModelo = ui::Campos<M>({{&M::csModelo, L"Modelo:"}});
 constexpr auto kGenerales = ui::Campos<M>({
     {&M::csCodPrecio, L"Cod.Precios:"},
-    {.miembro = &M::iUsoPrincipal, .rotulo = L"Uso principal:", .entradas = kUsos},
+    {.miembro = &M::iUsoPrincipal, .rotulo = L"Uso principal:", .entradas = cat::kUsosInversor},
 });
-
-constexpr auto kCorrientes = ui::Campos<M>({
-    {&M::iNumMPPT, L"Nº de inversores MPPT y entradas (total):", {1, 100}},
-    {.miembro = &M::iNumEntradas, .rotulo = L"", .limites = {&M::iNumMPPT, 100}, .junto = &M::iNumMPPT},
-    {&M::csICCMaxMPPT, L"Corriente máxima por MPPT (A):"},
-    {&M::csICCMinMPPT, L"Corriente mínima por MPPT (A):"},
-});
-constexpr auto kCortocircuito = ui::Campos<M>({{&M::dIScMax, L"Corriente de cortocircuito máxima (A):"}});
-
-constexpr auto kFase = ui::Campos<M>({
-    {&M::dFP, L"Factor de potencia:", {0.1, 1, [](const M& m) { return m.iUsoPrincipal == kRed; }}},
-    {.miembro = &M::iTipoSalida, .rotulo = L"", .entradas = kSalidas, .junto = &M::dFP},
-});
-
-/// What a field is called in each use once the use has been chosen. A field without a caption in
-/// stand-alone use isn't there then; on the page of the output it is only hidden.
-struct RotuloPorUso {
-    ui::Miembro<M> campo;
-    std::wstring_view red;
-    std::wstring_view aislada = {};
-};
-constexpr auto kRotulos = std::to_array<RotuloPorUso>({
-    {&M::dPCCMax, L"Potencia CC máx (W):", L"Potencia de autoconsumo (W):"},
-    {&M::dVMPPMax, L"Rango de tensiones MPPT (V) [max.- min.]:", L"Rango tensiones entrada (V) [max.- min.]:"},
-    {&M::dVCCMax, L"Tensión de entrada máxima (V):"},
-    {&M::dVCCMin, L""},
-    {&M::iNumMPPT, L"Nº de inversores MPPT y entradas (total):"},
-    {&M::iNumEntradas, L""},
-    {&M::csICCMaxMPPT, L"Corriente máx. por MPPT (A):"},
-    {&M::csICCMinMPPT, L"Corriente mín. por MPPT (A):"},
-    {&M::dIScMax, L"Corriente de cortocircuito máxima (A):"},
-});
-constexpr auto kOcultosEnAislada = std::to_array<double M::*>({&M::dICAMax, &M::dICAMin, &M::dFP});
 
 class CDlgItemDatosInversor : public cat::DialogoInversor<M> {
 public:
@@ -69,67 +25,35 @@ public:
         AnadirFabricante();
         Anadir(kGenerales);
         AnadirImportacionOnd();
-        AnadirEntrada(AnadirPagina(cat::kPaginaEntrada));
+        ui::Pagina& entrada = AnadirPagina(cat::kPaginaEntrada);
         ui::Pagina& salida = AnadirPagina(cat::kPaginaSalida);
-        Anadir(salida, cat::kFilasSalida<M>);
-        Anadir(salida, kFase);
-        Anadir(AnadirPagina(cat::kPaginaSistema), cat::kFilasSistema<M>);
+        m_paginas.Anadir(entrada, salida, AnadirPagina(cat::kPaginaSistema));
+        entrada.alRecoger = [this] { return datos.iUsoPrincipal != cat::kUsoRed || RecogerCorrientes(); };
 
         m_uso = &De<ui::Seleccion>(&M::iUsoPrincipal);
         m_uso->alElegir = [this] { RotularSegunUso(); };
         Abrir(bSoloLectura);
-        if (datos.iUsoPrincipal == kAislada)
+        if (datos.iUsoPrincipal == cat::kUsoAislada)
             RotularSegunUso();
-        Indicar();
+        m_paginas.Indicar();
         if (!bSoloLectura)
-            De<ui::Edicion>(&M::iNumMPPT).alCambiar = [this] { AlTeclearMPPT(); };
+            m_paginas.campos.De<ui::Edicion>(&M::iNumMPPT).alCambiar = [this] { AlTeclearMPPT(); };
     }
 
 private:
-    void AnadirEntrada(ui::Pagina& pagina)
-    {
-        Anadir(pagina, cat::kFilasTensiones<M>);
-        Anadir(pagina, kCorrientes);
-        m_indicacion = &pagina.Anadir<ui::TextoFijo>("csIndicacionMPPT", L"");
-        m_indicacion->color = kGris;
-        Anadir(pagina, kCortocircuito);
-        pagina.alRecoger = [this] { return datos.iUsoPrincipal != kRed || RecogerCorrientes(); };
-    }
-
-    // Values stay as they are.
-    void RotularSegunUso()
-    {
-        const bool bAislada = m_uso->iSeleccion == kAislada;
-        for (const RotuloPorUso& rotulo : kRotulos) {
-            ui::Control& control = De(rotulo.campo);
-            control.csRotulo = bAislada ? rotulo.aislada : rotulo.red;
-            control.bVisible = !bAislada || !rotulo.aislada.empty();
-            control.bHabilitado = control.bVisible;
-        }
-        m_indicacion->bVisible = m_indicacion->bHabilitado = !bAislada;
-        for (double M::*campo : kOcultosEnAislada)
-            De(campo).bVisible = !bAislada;
-    }
-
-    void Indicar()
-    {
-        m_indicacion->csTexto =
-            datos.iNumMPPT <= 1
-                ? CString(L"Introduzca 1 valor de I máx. y 1 de I mín.")
-                : fmt::format(L"Introduzca {} valores para la I máx. e I mín., separados por '/'.",
-                              datos.iNumMPPT);
-    }
+    void RotularSegunUso() { m_paginas.Rotular(m_uso->iSeleccion == cat::kUsoAislada); }
 
     // What is no number of trackers waits for OK.
     void AlTeclearMPPT()
     {
         double d = 0.0;
-        const bool bEntero = efv::numero::nuConvertIntlStrToFlt(De<ui::Edicion>(&M::iNumMPPT).csTexto, d) &&
-                             d == efv::numero::Entero(d);
-        if (m_uso->iSeleccion != kRed || !bEntero || d < 1 || d > 100)
+        const bool bEntero =
+            efv::numero::nuConvertIntlStrToFlt(m_paginas.campos.De<ui::Edicion>(&M::iNumMPPT).csTexto, d) &&
+            d == efv::numero::Entero(d);
+        if (m_uso->iSeleccion != cat::kUsoRed || !bEntero || d < 1 || d > 100)
             return;
         datos.iNumMPPT = efv::numero::Entero(d);
-        Indicar();
+        m_paginas.Indicar();
     }
 
     // The file has no minimum current: the lists are rebuilt with the one that stands typed.
@@ -144,7 +68,7 @@ private:
     void AlCambiarTodo() override
     {
         RotularSegunUso();
-        Indicar();
+        m_paginas.Indicar();
     }
 
     bool AlRecogerPagina(int iPagina) override
@@ -170,7 +94,7 @@ private:
                 csTexto += L"\n\nCorriente máxima: " + csErrorMax;
             if (!bMin)
                 csTexto += L"\n\nCorriente mínima: " + csErrorMin;
-            foco = &De(bMax ? &M::csICCMinMPPT : &M::csICCMaxMPPT);
+            foco = &m_paginas.campos.De(bMax ? &M::csICCMinMPPT : &M::csICCMaxMPPT);
             ui::MostrarAviso(csTexto, ui::Icono::error);
             return false;
         }
@@ -182,7 +106,7 @@ private:
     }
 
     ui::Seleccion* m_uso = nullptr;
-    ui::TextoFijo* m_indicacion = nullptr;
+    cat::PaginasInversor m_paginas{datos};
 };
 
 }  // namespace
