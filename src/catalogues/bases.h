@@ -34,6 +34,7 @@ struct Bases {
     Elegir elegirAcumulador;
     Elegir elegirInversor;
     Elegir elegirMicroInversor;
+    Elegir elegirConvertidor;
     Elegir elegirReceptor;
 };
 

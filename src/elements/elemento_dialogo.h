@@ -49,8 +49,10 @@ inline constexpr auto kNombresComunes<D> = std::to_array<ui::NombreCampo<D>>({
 
 }  // namespace efv::elements
 
-template <std::derived_from<efv::elements::DatosElemento> D>
-struct efv::ui::CamposDe<D> {
+namespace efv::ui {
+
+template <std::derived_from<elements::DatosElemento> D>
+struct CamposDe<D> {
     static constexpr std::string_view Nombre(const Miembro<D>& miembro)
     {
         if (const auto* comun = FilaDeMiembro(elements::kNombresComunes<D>, miembro))
@@ -59,6 +61,8 @@ struct efv::ui::CamposDe<D> {
         return propio != nullptr ? propio->nombre : std::string_view();
     }
 };
+
+}  // namespace efv::ui
 
 namespace efv::elements {
 

@@ -92,6 +92,7 @@ const catalogues::Bases& Bases()
         .elegirAcumulador = &ElegirModelo<CBaseAcumuladorModelo>,
         .elegirInversor = &ElegirModelo<CBaseInversorModelo>,
         .elegirMicroInversor = &ElegirModelo<CBaseMicroInversorModelo>,
+        .elegirConvertidor = &ElegirModelo<CBaseConvertidorModelo>,
         .elegirReceptor = &ElegirModelo<CBaseReceptorModelo>,
     };
     return bases;

@@ -86,6 +86,20 @@ inline constexpr auto kImagenes = std::to_array<Imagen>({
      "M 0.9 9.2 L 6.8 9.2 L 6.8 12.7 L 0.9 12.7 Z "
      "M 9.2 3.3 L 15.1 3.3 L 15.1 6.8 L 9.2 6.8 Z "
      "M 9.2 9.2 L 15.1 9.2 L 15.1 12.7 L 9.2 12.7 Z"},
+    // Elements of the drawing without a catalogue
+    {L"red-electrica",
+     "M 5 15 L 8 1.5 L 11 15 M 5.8 11.5 L 10.2 11.5 M 6.5 8.5 L 9.5 8.5 M 2.5 7 L 3.5 5 L 12.5 5 L 13.5 7;"
+     "#D0402F M 1 9.5 L 4 9.5 M 12 9.5 L 15 9.5"},
+    {L"regulador",
+     "M 1.5 3 L 14.5 3 L 14.5 13 L 1.5 13 Z;"
+     "#D9A441 M 3.5 9.5 L 6 6 L 8 8.5 L 10 5.5 L 12.5 5.5;"
+     "#3C9A46 M 3.5 11 L 12.5 11"},
+    {L"caja-conexion",
+     "M 4 2 L 12 2 L 12 14 L 4 14 Z;"
+     "#2F74C0 M 1 4.5 L 6 4.5 L 8 8 M 1 8 L 8 8 M 1 11.5 L 6 11.5 L 8 8;"
+     "#D0402F M 8 8 L 15 8"},
+    {L"nudo", "#2F74C0 M 1 8 L 5.5 8 M 10.5 8 L 15 8 M 8 1 L 8 5.5;relleno O 2.5 8 8"},
+    {L"elemento-auxiliar", "M 2 2 L 14 2 L 14 14 L 2 14 Z;#D9A441 M 5 8 L 11 8 M 8 5 L 8 11"},
 });
 
 }  // namespace efv::recursos
