@@ -352,6 +352,27 @@ constexpr auto kFunciones = std::to_array<Funcion>({
         "phShowPropertyReceptor",
         "csReferencia, csModelo, bModelo, dHorario, bExcluir, iReservado, iCantidad, bPedirCantidad, "
         "iReservado1, iReservado2"),
+
+    // Elements of the drawing
+    Funcion::De<&phShowPropertyRedElectrica>("phShowPropertyRedElectrica", "csReferencia, bExcluir, iRotulos"),
+    Funcion::De<&phShowPropertyRegulador>(
+        "phShowPropertyRegulador",
+        "csReferencia, csAux, iAux, dVNom, dPPanelMax, dIPanelMax, dVPanelMax, dVPanelMin, dAux1, dAux2, "
+        "dAux3, "
+        "dAux4, dAux5, dAux6, dPerdidas, dAux7, dAux8, iTipoRegulador, dTensionSalida, dPotenciaSalida, "
+        "iTipoSalida, bExcluir, iRotulos, iTipo"),
+    Funcion::De<&phShowPropertyAcumulador>(
+        "phShowPropertyAcumulador",
+        "csReferencia, csId, bModelo, dAux, nSerie, nParalelo, bExcluir, bEscala, iRotulos"),
+    Funcion::De<&phShowPropertyInversor>(
+        "phShowPropertyInversor",
+        "csReferencia, csId, bModelo, aEntradas, bExcluir, bEscala, iRotulos, iAux, iNumMPPT, iNumEntradas"),
+    Funcion::De<&phShowPropertyConvertidorCC>("phShowPropertyConvertidorCC",
+                                              "csReferencia, csId, bModelo, bExcluir, iRotulos"),
+    Funcion::De<&phShowPropertyCajaConexion>("phShowPropertyCajaConexion",
+                                             "csReferencia, nEntradas, bFijo, bTrifasica, bExcluir, iRotulos"),
+    Funcion::De<&phShowPropertyElementoAux>("phShowPropertyElementoAux", "csReferencia, bExcluir, iRotulos"),
+    Funcion::De<&phShowPropertyPageNudo>("phShowPropertyPageNudo", "csReferencia, bCaja, iRotulos"),
 });
 
 }  // namespace
