@@ -8,6 +8,7 @@
 
 #include <QuorvelEFV.h>
 
+#include "capturas/elementos.h"
 #include "capturas/panel_fotovoltaico.h"
 #include "clima/estudios.h"
 #include "energia/planos.h"
@@ -234,12 +235,6 @@ void AbrirEntradas()
     EditarEntradas(entradas, 2, 6);
 }
 
-void AbrirRotulacion()
-{
-    int iRotulos = 0x0B;
-    elements::EditarRotulos(L"CDlgDatosInversor", iRotulos);
-}
-
 /// Hours of a house with its field and its battery: two elements and the whole.
 struct HorasDeMuestra {
     using Bloque = double[12][31][24];
@@ -369,6 +364,13 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          &AbrirPanelFotovoltaico,
          &Recorrer},
         {"entradas", {"CDlgDatosEntrada", "CDlgItemEntrada"}, &AbrirEntradas, &Recorrer},
+        {"elementos",
+         {"CDlgDatosAcumulador", "CDlgDatosConvertidorCC", "CDlgDatosCajaConexion", "CDlgDatosNudo",
+          "CDlgDatosElementoAuxiliar", "CDlgDatosRedElectrica"},
+         &AbrirElementos,
+         {}},
+        {"reguladores", {"CDlgDatosReguladorCarga", "CDlgDatosReguladorAuto"}, &AbrirReguladores, {}},
+        {"elemento-inversor", {"CDlgDatosInversor"}, &AbrirInversores, {}},
         {"rotulacion", {"CDlgRotulacion"}, &AbrirRotulacion, {}},
     };
 }
