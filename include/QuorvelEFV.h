@@ -3,6 +3,7 @@
 
 #include <quorvel/assistants.h>
 #include <quorvel/assistants_calculo.h>
+#include <quorvel/autoconsumo.h>
 #include <quorvel/bateria.h>
 #include <quorvel/cables.h>
 #include <quorvel/cables_calculo.h>
@@ -28,6 +29,8 @@
 #include <quorvel/solar/he5.h>
 #include <quorvel/solar/inclinacion.h>
 #include <quorvel/solar/planos.h>
+#include <quorvel/solar/produccion.h>
 #include <quorvel/solar/pvgis.h>
+#include <quorvel/tarifas.h>
 #include <quorvel/tipos_catalogo.h>
 #include <quorvel/ui.h>

@@ -2,6 +2,7 @@
 // designs told as such with what a person must look at in them.
 #pragma once
 
+#include <quorvel/report/autoconsumo.h>
 #include <quorvel/report/cableado.h>
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/documento.h>
