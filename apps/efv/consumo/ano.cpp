@@ -60,6 +60,35 @@ double Maximo(const AnoHorario& horas)
     return std::ranges::max(horas);
 }
 
+/// First line of the CSV that this command writes.
+constexpr std::string_view kCabeceraPropia = "mes;dia;hora;consumo_Wh";
+
+void LeerHorasCsv(std::string_view bytes, const std::string& ruta, AnoHorario& horas)
+{
+    std::size_t nHora = 0;
+    bytes.remove_prefix(std::min(bytes.find('\n') + 1, bytes.size()));
+    while (!bytes.empty()) {
+        const std::string_view linea = bytes.substr(0, bytes.find('\n'));
+        bytes.remove_prefix(std::min(linea.size() + 1, bytes.size()));
+        const auto d = LeerNumero(linea.substr(linea.rfind(';') + 1));
+        if (!d || nHora == kHorasDelAno)
+            throw ErrorEjecucion(fmt::format("«{}»: línea {}: no es una hora de consumo", ruta, nHora + 2));
+        horas[nHora++] = *d;
+    }
+    if (nHora != kHorasDelAno)
+        throw ErrorEjecucion(fmt::format("«{}»: tiene {} horas y se esperaban {}", ruta, nHora, kHorasDelAno));
+}
+
+void LeerHorasJson(std::string_view bytes, const std::string& ruta, AnoHorario& horas)
+{
+    const rpc::Json json = rpc::Json::parse(bytes, nullptr, false);
+    const auto lista = json.find("horas_Wh");
+    if (!json.is_object() || lista == json.end() || !lista->is_array() || lista->size() != kHorasDelAno ||
+        !std::ranges::all_of(*lista, [](const rpc::Json& j) { return j.is_number(); }))
+        throw ErrorEjecucion(fmt::format("«{}» no tiene «horas_Wh» con {} números", ruta, kHorasDelAno));
+    std::ranges::transform(*lista, horas.begin(), [](const rpc::Json& j) { return j.get<double>(); });
+}
+
 }  // namespace
 
 AnoConsumo AnoDePatron(int iPatron, double dPotencia)
@@ -118,6 +147,20 @@ AnoConsumo AnoDeFicheroDeContador(const std::string& ruta, std::string_view byte
     } catch (const ErrorContador& error) {
         throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
     }
+}
+
+std::optional<AnoConsumo> AnoPropio(const std::string& ruta, std::string_view bytes)
+{
+    AnoConsumo ano;
+    if (bytes.starts_with(kCabeceraPropia))
+        LeerHorasCsv(bytes, ruta, *ano.horas);
+    else if (bytes.starts_with('{'))
+        LeerHorasJson(bytes, ruta, *ano.horas);
+    else
+        return std::nullopt;
+    ano.origen = fmt::format("Fichero: {}", ruta);
+    ano.dPotMaxima = Maximo(*ano.horas);
+    return ano;
 }
 
 AnoConsumo AnoDeMeses(const EnergiasMensuales& datos)

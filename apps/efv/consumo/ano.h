@@ -51,6 +51,10 @@ struct LecturaContador {
 AnoConsumo AnoDeFicheroDeContador(const std::string& ruta, std::string_view bytes,
                                   const LecturaContador& opciones);
 
+/// A year that this command wrote before, as CSV or JSON; nothing for any other content.
+/// @throws ErrorEjecucion for one that isn't whole
+std::optional<AnoConsumo> AnoPropio(const std::string& ruta, std::string_view bytes);
+
 /// Energies of the months by tariff period, kWh, and the period 1 to 3 of each hour of the day.
 struct EnergiasMensuales {
     std::array<std::array<double, 12>, 3> adMes{};

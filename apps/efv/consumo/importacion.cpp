@@ -64,6 +64,8 @@ void ImportacionConsumo::Declarar(CLI::App& orden)
 AnoConsumo ImportacionConsumo::Leer(const std::string& ruta) const
 {
     const std::string bytes = LeerEntrada(ruta, kMaximoContador);
+    if (auto propio = AnoPropio(ruta, bytes))
+        return std::move(*propio);
     if (PareceContador(bytes)) {
         if (m_tiempo || m_periodo || m_bIncompleto)
             throw ErrorUso(
