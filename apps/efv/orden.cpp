@@ -10,6 +10,7 @@
 #include <QuorvelEFV.h>
 
 #include "anfitrion/suborden_rpc.h"
+#include "autoconsumo/suborden_autoconsumo.h"
 #include "cable/suborden_cable.h"
 #include "catalogo/suborden_catalogo.h"
 #include "clima/suborden_clima.h"
@@ -25,6 +26,7 @@
 #include "he5/suborden_he5.h"
 #include "inclinacion/suborden_inclinacion.h"
 #include "lugares/suborden_lugares.h"
+#include "tarifa/suborden_tarifa.h"
 
 namespace efv::orden {
 
@@ -58,9 +60,11 @@ public:
         Anadir(CrearSubordenCurvas());
         Anadir(CrearSubordenCable());
         Anadir(CrearSubordenConsumo());
+        Anadir(CrearSubordenTarifa());
         Anadir(CrearSubordenAislada());
         Anadir(CrearSubordenRed());
         Anadir(CrearSubordenVenta());
+        Anadir(CrearSubordenAutoconsumo());
         Anadir(CrearSubordenRpc());
         m_raiz.require_subcommand(0, 1);
     }

@@ -1,0 +1,410 @@
+#include "autoconsumo/lectura_estudio.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
+#include <limits>
+#include <optional>
+
+#include <fmt/format.h>
+
+#include "comun/consola.h"
+#include "comun/entrada.h"
+#include "comun/numeros.h"
+#include "comun/palabras.h"
+#include "consumo/ano.h"
+#include "diseno/proyecto.h"
+#include "rpc/valores.h"
+#include "tarifa/pedido.h"
+
+namespace efv::orden {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+using report::ProyectoAutoconsumo;
+
+/// The year of the patterns begins on a Monday, as 2018 did.
+constexpr int kAnoDeReferencia = 2018;
+constexpr double kInclinacionHabitual = 30.0;
+constexpr double kMucho = 1e9;
+/// Spain lies between the Canary and the Balearic Islands, degrees of longitude.
+constexpr double kOesteDeEspana = -19.0, kEsteDeEspana = 5.0;
+
+std::string RutaJunto(const std::string& estudio, const std::string& ruta)
+{
+    if (ruta == "-" || fs::path(ruta).is_absolute())
+        return ruta;
+    return (fs::path(estudio).parent_path() / ruta).string();
+}
+
+/// Members of an object by their names, and where each figure comes from.
+class Lector {
+public:
+    Lector(const JsonLeido& json, std::string prefijo, ProyectoAutoconsumo& proyecto)
+        : m_objeto(json), m_prefijo(std::move(prefijo)), m_proyecto(proyecto)
+    {
+    }
+
+    Objeto& ElObjeto() { return m_objeto; }
+    const JsonLeido* Buscar(const char* nombre) { return m_objeto.Buscar(nombre); }
+
+    /// A number that may be missing: then the value that stands there counts, and that is told.
+    void Numero(const char* nombre, Rango rango, double& d, const std::string& rotulo, const char* unidad)
+    {
+        const JsonLeido* j = m_objeto.Buscar(nombre);
+        if (j != nullptr)
+            rpc::NombrarLugar([&] { return nombre; }, [&] { d = LeerNumero(*j, rango); });
+        Anotar(rotulo, fmt::format("{}{}{}", DecimalExacto(d), *unidad != '\0' ? " " : "", unidad),
+               j != nullptr ? nombre : nullptr);
+    }
+
+    double Exigido(const char* nombre, Rango rango, const std::string& rotulo, const char* unidad)
+    {
+        double d = 0.0;
+        m_objeto.Exigir(nombre);
+        Numero(nombre, rango, d, rotulo, unidad);
+        return d;
+    }
+
+    /// A text that may be missing.
+    std::optional<std::string> Texto(const char* nombre)
+    {
+        const JsonLeido* j = m_objeto.Buscar(nombre);
+        if (j == nullptr)
+            return std::nullopt;
+        std::string texto;
+        rpc::NombrarLugar([&] { return nombre; }, [&] { texto = LeerTexto(*j); });
+        return texto;
+    }
+
+    /// @param nombre of the member that says it; null for what nobody said
+    void Anotar(const std::string& rotulo, const std::string& valor, const char* nombre)
+    {
+        const std::string origen =
+            nombre != nullptr ? fmt::format("{}{}", m_prefijo, nombre) : std::string("por defecto");
+        m_proyecto.entradas.emplace_back(rotulo, fmt::format("{} ({})", valor, origen));
+    }
+
+private:
+    Objeto m_objeto;
+    std::string m_prefijo;
+    ProyectoAutoconsumo& m_proyecto;
+};
+
+// A word of a few, named where it stands.
+template <class T, std::size_t N>
+T ElegirPalabra(const char* nombre, const std::string& texto, const Palabras<T, N>& palabras)
+{
+    try {
+        return Elegir(nombre, texto, palabras);
+    } catch (const ErrorUso& error) {
+        throw rpc::ErrorValor(error.what());
+    }
+}
+
+template <class F>
+void EnObjeto(const char* nombre, F leer)
+{
+    rpc::NombrarLugar([&] { return nombre; }, leer);
+}
+
+// ---------------------------------------------------------------------------------------------------
+
+void LeerCampo(Lector& lector, ProyectoAutoconsumo& p)
+{
+    p.dPotencia = lector.Exigido("potencia", {0.01, 1e6}, "Potencia de los paneles", "kWp");
+    if (lector.Buscar("inversor") != nullptr)
+        p.dInversor = lector.Exigido("inversor", {0.01, 1e6}, "Potencia del inversor", "kW");
+    else
+        lector.Anotar("Potencia del inversor", "sin límite", nullptr);
+    if (const JsonLeido* perdidas = lector.Buscar("perdidas"); perdidas != nullptr) {
+        if (lector.Buscar("rendimiento") != nullptr)
+            throw rpc::ErrorValor("«perdidas» y «rendimiento» se excluyen");
+        EnObjeto("perdidas", [&] {
+            if (!perdidas->is_object())
+                rpc::Esperaba("un objeto de nombres y porcentajes", *perdidas);
+            p.dRendimiento = 1.0;
+            for (const auto& perdida : perdidas->items()) {
+                double d = 0.0;
+                EnObjeto(perdida.key().c_str(), [&] { d = LeerNumero(perdida.value(), {0.0, 99.0}); });
+                p.dRendimiento *= 1.0 - d / 100.0;
+                p.entradas.emplace_back(fmt::format("Pérdida: {}", EnUnaLinea(perdida.key())),
+                                        fmt::format("{} % (perdidas)", DecimalExacto(d)));
+            }
+        });
+    } else {
+        lector.Numero("rendimiento", {0.01, 1.0}, p.dRendimiento, "Rendimiento de la instalación", "");
+    }
+    lector.Numero("edad", {0.0, 50.0}, p.dEdad, "Edad de los paneles", "años");
+    p.planos = LeerPlanos(lector.ElObjeto());
+    if (!p.planos.planos.empty()) {
+        for (const auto& plano : p.planos.planos)
+            lector.Anotar("Plano",
+                          fmt::format("{}° de inclinación, {}° de orientación, {} % de la potencia",
+                                      DecimalExacto(plano.dInclinacion), DecimalExacto(plano.dOrientacion),
+                                      DecimalExacto(plano.dParte * 100.0)),
+                          "planos");
+        return;
+    }
+    solar::PlanoCampo plano{kInclinacionHabitual, p.lugar.bNorte ? 0.0 : 180.0, 1.0};
+    lector.Numero("inclinacion", {0.0, 90.0}, plano.dInclinacion, "Inclinación", "°");
+    lector.Numero("orientacion", {-180.0, 180.0}, plano.dOrientacion, "Orientación", "°");
+    p.planos.planos.push_back(plano);
+}
+
+AnoConsumo ConsumoDeFichero(Lector& lector, const std::string& ruta, const OpcionesAno& opciones)
+{
+    const std::string bytes = LeerEntrada(ruta, kMaximoContador);
+    if (auto propio = AnoPropio(ruta, bytes))
+        return std::move(*propio);
+    LecturaContador lectura;
+    lectura.ano = opciones;
+    static constexpr Palabras<UnidadContador, 2> kUnidades = {
+        {{"Wh", UnidadContador::Wh}, {"kWh", UnidadContador::kWh}}};
+    const auto unidad = lector.Texto("unidad");
+    if (unidad)
+        lectura.lectura.unidad = ElegirPalabra("unidad", *unidad, kUnidades);
+    lectura.lectura.cups = lector.Texto("cups").value_or("");
+    if (const JsonLeido* estricto = lector.Buscar("estricto"); estricto != nullptr) {
+        if (!estricto->is_boolean())
+            rpc::Esperaba("true o false", *estricto);
+        lectura.ano.bEstricto = estricto->get<bool>();
+    }
+    if (PareceContador(bytes))
+        return AnoDeFicheroDeContador(ruta, bytes, lectura);
+    return AnoDeFichero(ruta, bytes, {.bKWh = unidad && *unidad == "kWh"}, false);
+}
+
+// The hours of consumption, and the civil year of each day for the tariff.
+AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const OpcionesAno& opciones,
+                       ProyectoAutoconsumo& p)
+{
+    Lector lector(json, "consumo.", p);
+    AnoConsumo ano;
+    const char* origen = nullptr;
+    if (const auto fichero = lector.Texto("fichero")) {
+        ano = ConsumoDeFichero(lector, RutaJunto(estudio, *fichero), opciones);
+        origen = "fichero";
+    } else if (lector.Buscar("patron") != nullptr) {
+        double dPatron = 0.0;
+        lector.Numero("patron", {1.0, 9.0}, dPatron, "Patrón de consumo", "");
+        const double dPotencia = lector.Exigido("potencia", {0.01, 1e10}, "Potencia del patrón", "W");
+        ano = AnoDePatron(static_cast<int>(dPatron), dPotencia);
+        origen = "patron";
+    } else if (const auto receptores = lector.Texto("receptores")) {
+        ano = AnoDeListaDeReceptores(RutaJunto(estudio, *receptores));
+        origen = "receptores";
+    } else {
+        throw rpc::ErrorValor("falta «fichero», «patron» o «receptores»");
+    }
+    p.adConsumo.assign(ano.horas->begin(), ano.horas->end());
+    const double dEnergia = SumaDeHoras(*ano.horas, HorasDePeriodo(12)) / 1000.0;
+    if (lector.Buscar("energia") != nullptr) {
+        const double dPedida = lector.Exigido("energia", {0.01, kMucho}, "Consumo del año", "kWh");
+        if (!(dEnergia > 0.0))
+            throw rpc::ErrorValor("energia: el consumo es 0 y no se puede escalar");
+        for (double& d : p.adConsumo)
+            d *= dPedida / dEnergia;
+    }
+    lector.ElObjeto().Terminar();
+    lector.Anotar("Consumo", fmt::format("{}, {} kWh", EnUnaLinea(ano.origen), Decimal(dEnergia, 1)), origen);
+    if (!ano.contador)
+        return economics::DiasDeUnAno(kAnoDeReferencia);
+    p.notas.insert(p.notas.end(), ano.contador->notas.begin(), ano.contador->notas.end());
+    return ano.contador->aiAno;
+}
+
+void LeerExcedente(Lector& lector, const std::string& estudio, PedidoTarifa& pedido)
+{
+    const JsonLeido* excedente = lector.Buscar("excedente");
+    if (excedente != nullptr && excedente->is_string()) {
+        pedido.excedentes = RutaJunto(estudio, excedente->get<std::string>());
+        lector.Anotar("Precio del excedente", pedido.excedentes, "excedente");
+        return;
+    }
+    pedido.dExcedente = 0.0;
+    lector.Numero("excedente", {-10.0, 10.0}, *pedido.dExcedente, "Precio del excedente", "€/kWh");
+}
+
+void LeerPrecios(const JsonLeido& json, const std::string& estudio,
+                 const economics::CalendarioTarifa& calendario, const std::string& csDatos,
+                 ProyectoAutoconsumo& p)
+{
+    static constexpr Palabras<economics::PagoVertido, 2> kPagos = {
+        {{"compensacion", economics::PagoVertido::compensacion}, {"venta", economics::PagoVertido::venta}}};
+    Lector lector(json, "precios.", p);
+    PedidoTarifa pedido;
+    const auto tarifa = lector.Texto("tarifa");
+    pedido.tarifa = tarifa.value_or(pedido.tarifa);
+    lector.Anotar("Tarifa", pedido.tarifa, tarifa ? "tarifa" : nullptr);
+    if (pedido.tarifa != "2.0TD" && pedido.tarifa != "plana")
+        pedido.tarifa = RutaJunto(estudio, pedido.tarifa);
+    pedido.zona = lector.Texto("zona").value_or(pedido.zona);
+    if (const auto festivos = lector.Texto("festivos"))
+        pedido.festivos = RutaJunto(estudio, *festivos);
+    for (std::size_t i = 0; i < pedido.adPrecio.size(); ++i) {
+        const std::string nombre = fmt::format("p{}", i + 1);
+        if (lector.Buscar(nombre.c_str()) != nullptr)
+            pedido.adPrecio[i] =
+                lector.Exigido(nombre.c_str(), {-10.0, 10.0}, fmt::format("Precio P{}", i + 1), "€/kWh");
+    }
+    LeerExcedente(lector, estudio, pedido);
+    const auto pago = lector.Texto("pago");
+    if (pago)
+        p.pago = ElegirPalabra("pago", *pago, kPagos);
+    lector.Anotar("Pago del excedente",
+                  p.pago == economics::PagoVertido::venta ? "venta" : "compensación simplificada",
+                  pago ? "pago" : nullptr);
+    lector.Numero("impuestos", {0.1, 10.0}, pedido.dImpuestos, "Factor de impuestos", "");
+    // What compensates is taken off before the taxes, so it bears them as well; what is sold doesn't.
+    pedido.dImpuestosExcedente = p.pago == economics::PagoVertido::compensacion ? pedido.dImpuestos : 1.0;
+    lector.Numero("impuestosExcedente", {0.1, 10.0}, pedido.dImpuestosExcedente,
+                  "Factor de impuestos del excedente", "");
+    lector.ElObjeto().Terminar();
+    try {
+        p.adPrecioConsumo = economics::PreciosDelAno(HacerTarifa(pedido, csDatos), calendario);
+    } catch (const economics::ErrorTarifa& error) {
+        throw rpc::ErrorValor(error.what());
+    }
+    p.adPrecioVertido = PreciosDeExcedente(pedido);
+}
+
+void LeerBateria(const JsonLeido& json, ProyectoAutoconsumo& p)
+{
+    static constexpr Palabras<economics::ReglaBateria, 2> kReglas = {
+        {{"autoconsumo", economics::ReglaBateria::autoconsumo},
+         {"arbitraje", economics::ReglaBateria::arbitraje}}};
+    Lector lector(json, "bateria.", p);
+    economics::Bateria b;
+    if (const JsonLeido* j = lector.Buscar("capacidad");
+        j != nullptr && j->is_number() && j->get<double>() == 0.0)
+        throw rpc::ErrorValor("capacidad: es 0; para un estudio sin batería quite «bateria»");
+    b.dCapacidad = lector.Exigido("capacidad", {0.01, 1e6}, "Batería, capacidad útil", "kWh");
+    double dPotencia = b.dCapacidad / 2.0;
+    lector.Numero("potencia", {0.01, 1e6}, dPotencia, "Batería, potencia", "kW");
+    b.dPotenciaCarga = b.dPotenciaDescarga = dPotencia;
+    double dRendimiento = 0.9;
+    lector.Numero("rendimiento", {0.1, 1.0}, dRendimiento, "Batería, rendimiento de ida y vuelta", "");
+    b.dRendimientoCarga = b.dRendimientoDescarga = std::sqrt(dRendimiento);
+    lector.Numero("estadoInicial", {0.0, b.dCapacidad}, b.dEstadoInicial, "Batería, carga al empezar el año",
+                  "kWh");
+    lector.Numero("costeDegradacion", {0.0, 10.0}, p.dCosteDegradacion, "Batería, degradación", "€/kWh");
+    if (const auto regla = lector.Texto("regla"))
+        p.regla = ElegirPalabra("regla", *regla, kReglas);
+    lector.ElObjeto().Terminar();
+    p.bateria = b;
+}
+
+// @return whether one figure was given for the whole
+bool LeerCoste(Lector& lector, ProyectoAutoconsumo& p)
+{
+    const JsonLeido& coste = lector.ElObjeto().Exigir("coste");
+    const bool bUno = !coste.is_object();
+    if (bUno) {
+        const double dCoste = lector.Exigido("coste", {0.0, 1e8}, "Coste", "€");
+        p.coste.dPorKWp = dCoste / p.dPotencia;
+    } else {
+        EnObjeto("coste", [&] {
+            Lector partes(coste, "coste.", p);
+            partes.Numero("fijo", {0.0, 1e8}, p.coste.dFijo, "Coste fijo", "€");
+            partes.Numero("porKWp", {0.0, 1e6}, p.coste.dPorKWp, "Coste de la potencia", "€/kWp");
+            partes.Numero("porKWhBateria", {0.0, 1e6}, p.coste.dPorKWhBateria, "Coste de la batería", "€/kWh");
+            partes.ElObjeto().Terminar();
+        });
+    }
+    lector.Numero("subvencion", {0.0, 1e8}, p.coste.dSubvencion, "Subvención", "€");
+    return bUno;
+}
+
+void LeerInversion(Lector& lector, ProyectoAutoconsumo& p)
+{
+    CSFVCalculoEconomicoAuto& r = p.registro;
+    lector.Numero("envejecimiento", {0.0, 5.0}, r.dEnvejecimiento, "Envejecimiento anual", "%");
+    lector.Numero("variacionPrecio", {0.0, 100.0}, r.dVariacionPrecio, "Variación anual del precio", "%");
+    lector.Numero("mantenimiento", {0.0, 1e7}, p.inversion.dMantenimiento, "Mantenimiento", "€/año");
+    double dAnos = p.inversion.iAnos;
+    lector.Numero("anos", {1.0, 100.0}, dAnos, "Años del estudio", "");
+    p.inversion.iAnos = static_cast<int>(dAnos);
+    const JsonLeido* prestamo = lector.Buscar("prestamo");
+    if (prestamo == nullptr) {
+        r.dTipoInteres = 0.0;
+        r.dMesesFinanciacion = 0.0;
+        r.dCapitalInicial = std::numeric_limits<double>::max();
+        lector.Anotar("Préstamo", "ninguno", nullptr);
+        return;
+    }
+    EnObjeto("prestamo", [&] {
+        Lector datos(*prestamo, "prestamo.", p);
+        datos.Numero("capitalInicial", {0.0, 1e8}, r.dCapitalInicial, "Capital inicial aportado", "€");
+        datos.Numero("interes", {0.0, 100.0}, r.dTipoInteres, "Tipo de interés", "%");
+        datos.Numero("meses", {1.0, 12000.0}, r.dMesesFinanciacion, "Meses de la financiación", "");
+        datos.ElObjeto().Terminar();
+    });
+}
+
+// Longitude and zone of the place: what the clock's hours are to the sun's.
+OpcionesAno LeerRelojDelLugar(Lector& lector, ProyectoAutoconsumo& p)
+{
+    OpcionesAno opciones;
+    if (p.lugar.localidad)
+        opciones.dLongitud = p.lugar.localidad->dLongitud;
+    else
+        lector.Numero("longitud", {-180.0, 180.0}, opciones.dLongitud, "Longitud", "°");
+    opciones.huso = HusoDeLongitud(opciones.dLongitud);
+    if (const auto huso = lector.Texto("huso"))
+        opciones.huso = ElegirPalabra("huso", *huso, kHusos);
+    if (opciones.dLongitud < kOesteDeEspana || opciones.dLongitud > kEsteDeEspana)
+        p.notas.emplace_back(
+            "El lugar no está en España: las horas oficiales de contador y tarifa son las de allí.");
+    return opciones;
+}
+
+}  // namespace
+
+EstudioLeido LeerEstudio(const JsonLeido& json, const std::string& ruta, const std::string& csDatos)
+{
+    EstudioLeido leido;
+    ProyectoAutoconsumo& p = leido.proyecto;
+    Lector lector(json, "", p);
+    LeerCabecera(lector.ElObjeto(), "autoconsumo", p.titulo);
+    p.lugar = LeerLugar(lector.ElObjeto(), csDatos, true);
+    const OpcionesAno reloj = LeerRelojDelLugar(lector, p);
+    LeerCampo(lector, p);
+    LeerInversion(lector, p);
+    leido.bCostePorPotencia = LeerCoste(lector, p);
+    const JsonLeido& consumo = lector.ElObjeto().Exigir("consumo");
+    const JsonLeido& precios = lector.ElObjeto().Exigir("precios");
+    const JsonLeido* bateria = lector.Buscar("bateria");
+    lector.ElObjeto().Terminar();
+    economics::CalendarioTarifa calendario{{}, true, reloj.dLongitud, reloj.huso};
+    EnObjeto("consumo", [&] { calendario.aiAno = LeerConsumo(consumo, ruta, reloj, p); });
+    EnObjeto("precios", [&] { LeerPrecios(precios, ruta, calendario, csDatos, p); });
+    if (bateria != nullptr)
+        EnObjeto("bateria", [&] { LeerBateria(*bateria, p); });
+    return leido;
+}
+
+std::vector<std::string> FicherosDelEstudio(const JsonLeido& json, const std::string& ruta)
+{
+    std::vector<std::string> rutas{ruta};
+    const auto anadir = [&](const JsonLeido& objeto, const char* nombre, bool bJunto) {
+        if (!objeto.is_object() || !objeto.contains(nombre) || !objeto[nombre].is_string())
+            return;
+        const auto texto = objeto[nombre].get<std::string>();
+        if (!texto.empty())
+            rutas.push_back(bJunto ? RutaJunto(ruta, texto) : texto);
+    };
+    if (!json.is_object())
+        return rutas;
+    anadir(json, "clima", false);
+    for (const char* parte : {"consumo", "precios"})
+        if (json.contains(parte))
+            for (const char* nombre : {"fichero", "receptores", "tarifa", "festivos", "excedente"})
+                anadir(json[parte], nombre, true);
+    return rutas;
+}
+
+}  // namespace efv::orden

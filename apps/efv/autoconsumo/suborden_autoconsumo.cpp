@@ -1,0 +1,202 @@
+#include "autoconsumo/suborden_autoconsumo.h"
+
+#include <cmath>
+#include <optional>
+
+#include <fmt/format.h>
+#include <CLI/CLI.hpp>
+
+#include <quorvel/report/informe.h>
+
+#include "autoconsumo/lectura_estudio.h"
+#include "autoconsumo/salida_estudio.h"
+#include "comun/datos.h"
+#include "comun/linea_ordenes.h"
+#include "comun/numeros.h"
+#include "comun/palabras.h"
+#include "comun/salidas.h"
+
+namespace efv::orden {
+
+namespace {
+
+constexpr std::size_t kMaximoPuntos = 10'000;
+
+// "1..15", "1..15:0,5", "2;3,5;6".
+std::vector<double> LeerBarrido(const char* opcion, const std::string& texto, double dMinimo)
+{
+    constexpr double kMaximo = 1e6;
+    std::vector<double> valores;
+    const std::size_t iHasta = texto.find("..");
+    if (iHasta == std::string::npos) {
+        for (const std::string& parte : SepararNumeros({texto}, 0))
+            valores.push_back(LeerAcotado(opcion, parte, dMinimo, kMaximo));
+    } else {
+        const std::size_t iPaso = std::min(texto.find(':', iHasta), texto.size());
+        const double dDesde = LeerAcotado(opcion, texto.substr(0, iHasta), dMinimo, kMaximo);
+        const double dHasta =
+            LeerAcotado(opcion, texto.substr(iHasta + 2, iPaso - iHasta - 2), dDesde, kMaximo);
+        const double dPaso =
+            iPaso == texto.size() ? 1.0 : LeerAcotado(opcion, texto.substr(iPaso + 1), 1e-3, kMaximo);
+        const double dPasos = std::floor((dHasta - dDesde) / dPaso + 1e-9);
+        if (dPasos >= static_cast<double>(kMaximoPuntos))
+            throw ErrorUso(fmt::format("{}: son más de {} valores", opcion, kMaximoPuntos));
+        for (int i = 0; i <= static_cast<int>(dPasos); ++i)
+            valores.push_back(dDesde + i * dPaso);
+    }
+    if (valores.empty())
+        throw ErrorUso(fmt::format("{}: no hay ningún valor en «{}»", opcion, EnUnaLinea(texto)));
+    return valores;
+}
+
+constexpr const char* kPie =
+    "El estudio es un objeto JSON; los ficheros que nombra están junto a él:\n"
+    "  lugar               nombre de «efv lugares»; o latitud, hemisferio, radiacion (doce, kJ/m²·día) y\n"
+    "                      longitud\n"
+    "  potencia            kWp; inversor, kW que no se pasan; rendimiento o perdidas ({\"polvo\": 3, ...}, "
+    "%);\n"
+    "                      edad de los paneles, años\n"
+    "  inclinacion, orientacion, o planos como en «efv red»; clima, registro climático\n"
+    "  consumo             {\"fichero\": \"contador.csv\", \"cups\": ...}, {\"patron\": 2, \"potencia\": 4600} "
+    "o\n"
+    "                      {\"receptores\": \"lista.json\"}; energia, kWh a los que se escala\n"
+    "  precios             {\"tarifa\": \"2.0TD\", \"p1\": 0.197, \"p2\": 0.128, \"p3\": 0.093, \"excedente\": "
+    "0.06,\n"
+    "                      \"impuestos\": 1.2719}; tarifa plana o fichero de períodos, zona, festivos;\n"
+    "                      pago: compensacion o venta\n"
+    "  coste               € de todo, o {\"fijo\", \"porKWp\", \"porKWhBateria\"}; subvencion, €\n"
+    "  prestamo            {\"capitalInicial\", \"interes\", \"meses\"}; si falta, se paga al contado\n"
+    "  envejecimiento, variacionPrecio (% al año), mantenimiento (€ al año), anos del estudio (25)\n"
+    "  bateria             {\"capacidad\": 5, \"potencia\": 2.5, \"rendimiento\": 0.9, \"regla\": "
+    "\"autoconsumo\" o\n"
+    "                      \"arbitraje\", \"costeDegradacion\": 0}\n"
+    "  titulo              nombre del estudio en el informe\n"
+    "Ejemplos:\n"
+    "  efv autoconsumo casa-autoconsumo.json --informe casa.html\n"
+    "  efv autoconsumo casa-autoconsumo.json --barrido 1..15 --svg barrido.svg";
+
+class SubordenAutoconsumo final : public Suborden {
+public:
+    CLI::App& Declarar(CLI::App& raiz) override
+    {
+        CLI::App& linea = *raiz.add_subcommand(
+            "autoconsumo",
+            "Estudia hora a hora una instalación de autoconsumo, del contador a la recuperación");
+        Castellanizar(linea);
+        linea.add_option("ESTUDIO", m_estudio, "Fichero de estudio, JSON")->option_text(" ");
+        CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores");
+        json->option_text(" ")->disable_flag_override();
+        linea.add_flag("--csv", m_bCsv, "Escribe las 8760 horas como CSV con punto y coma y coma decimal")
+            ->option_text(" ")
+            ->excludes(json)
+            ->disable_flag_override();
+        const auto texto = [&](const char* nombre, std::optional<std::string>& valor, const char* ayuda,
+                               const char* tipo) { linea.add_option(nombre, valor, ayuda)->type_name(tipo); };
+        texto("--barrido", m_barrido, "Lo mismo con otras potencias, kWp: 1..15, 1..6:0,5 o 2;3;4", "kWp");
+        texto("--baterias", m_baterias, "Y con otras capacidades de batería, kWh; 0, sin ella", "kWh");
+        texto("--informe", m_informe, "Escribe un informe para imprimir, una página HTML", "FICHERO");
+        texto("--svg", m_svg, "Dibuja el barrido", "FICHERO");
+        texto("--guardar", m_guardar,
+              "Guarda el registro del estudio como archivo, que los diálogos y otro programa pueden abrir",
+              "FICHERO");
+        linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
+        linea.footer(kPie);
+        return linea;
+    }
+
+    int Ejecutar(std::ostream& salida) override
+    {
+        if (m_estudio.empty())
+            throw ErrorUso("falta el fichero de estudio (ayuda: efv autoconsumo --help)");
+        if (m_svg && !m_barrido && !m_baterias)
+            throw ErrorUso("--svg necesita --barrido o --baterias");
+        const JsonLeido json = LeerFicheroJson(m_estudio);
+        const Salidas salidas = LeerSalidas(json);
+        try {
+            Estudiar(json, salidas, salida);
+        } catch (const rpc::ErrorValor& error) {
+            throw ErrorEjecucion(fmt::format("«{}»: {}", m_estudio, error.what()));
+        }
+        return 0;
+    }
+
+private:
+    Salidas LeerSalidas(const JsonLeido& json) const
+    {
+        Salidas salidas(FicherosDelEstudio(json, m_estudio));
+        for (const auto& [opcion, ruta] :
+             {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}, {"--svg", &m_svg}})
+            if (*ruta)
+                salidas.Anadir(opcion, **ruta);
+        if (salidas.EnLaSalida() && (m_bJson || m_bCsv))
+            throw ErrorUso(fmt::format("{} y un fichero «-» se excluyen", m_bJson ? "--json" : "--csv"));
+        return salidas;
+    }
+
+    std::vector<report::PuntoBarrido> Barrer(EstudioLeido& leido) const
+    {
+        if (!m_barrido && !m_baterias)
+            return {};
+        report::ProyectoAutoconsumo& proyecto = leido.proyecto;
+        const std::vector<double> potencias =
+            m_barrido ? LeerBarrido("--barrido", *m_barrido, 0.01) : std::vector{proyecto.dPotencia};
+        std::vector<double> baterias;
+        if (m_baterias)
+            baterias = LeerBarrido("--baterias", *m_baterias, 0.0);
+        if (m_baterias && !proyecto.bateria)
+            throw ErrorUso(
+                "--baterias: el estudio no tiene «bateria» de la que tomar potencia, rendimiento y regla");
+        if (potencias.size() * std::max<std::size_t>(baterias.size(), 1) > kMaximoPuntos)
+            throw ErrorUso(fmt::format("--barrido y --baterias dan más de {} casos", kMaximoPuntos));
+        if (leido.bCostePorPotencia)
+            proyecto.notas.emplace_back(
+                "El coste es una sola cifra: en los otros tamaños crece con la potencia y la batería no lo "
+                "cambia.");
+        return report::Barrer(proyecto, potencias, baterias);
+    }
+
+    void Estudiar(const JsonLeido& json, const Salidas& salidas, std::ostream& salida) const
+    {
+        EstudioLeido leido = LeerEstudio(json, m_estudio, m_datos);
+        const std::vector<report::PuntoBarrido> barrido = Barrer(leido);
+        report::EstudioAutoconsumo estudio = report::Calcular(leido.proyecto);
+        const std::vector<report::Aviso> avisos = report::Avisos(leido.proyecto, estudio);
+        const report::Documento documento = report::EscribirDocumento(leido.proyecto, estudio, avisos, barrido);
+        std::vector<std::string> contenidos;
+        if (m_guardar) {
+            const std::vector<std::byte> bytes = Archivar(estudio.registro);
+            contenidos.emplace_back(reinterpret_cast<const char*>(bytes.data()), bytes.size());
+        }
+        if (m_informe)
+            contenidos.push_back(report::DocumentoHtml(documento, report::FechaDeHoy()));
+        if (m_svg)
+            contenidos.push_back(ui::EscribirSvg(report::GraficaBarrido(barrido)));
+        const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
+        if (salidas.EnLaSalida())
+            return;
+        if (m_bJson) {
+            JsonEscrito valores = EstudioJson(leido.proyecto, estudio, avisos, barrido);
+            valores["ficheros"] = escritos;
+            salida << valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
+        } else if (m_bCsv) {
+            salida << HorasCsv(estudio);
+        } else {
+            salida << report::DocumentoTexto(documento);
+            for (std::size_t i = 0; i < escritos.size(); ++i)
+                salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
+        }
+    }
+
+    std::string m_estudio, m_datos;
+    std::optional<std::string> m_barrido, m_baterias, m_informe, m_svg, m_guardar;
+    bool m_bJson = false, m_bCsv = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Suborden> CrearSubordenAutoconsumo()
+{
+    return std::make_unique<SubordenAutoconsumo>();
+}
+
+}  // namespace efv::orden
