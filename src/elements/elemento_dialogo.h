@@ -92,7 +92,7 @@ protected:
     /// The way to the labels, which hosts offer themselves: hidden and disabled.
     ui::Boton& AnadirRotulacion()
     {
-        auto& boton = this->template Anadir<ui::Boton>("Rotulacion", L"Rotulación ...");
+        auto& boton = this->template Anadir<ui::Boton>("", L"Rotulación ...");
         boton.bVisible = false;
         boton.bHabilitado = false;
         boton.alPulsar = [this] { EditarRotulos(CadenaDesdeUtf8(this->clase), this->datos.iRotulos); };

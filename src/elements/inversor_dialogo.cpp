@@ -50,7 +50,7 @@ CDlgDatosInversor::CDlgDatosInversor(const D& inicial, const efv::electrical::En
     efv::electrical::CopiarEntradas(entradasIniciales, entradas);
     AnadirReferencia(L"inversor");
     AnadirModelo(m_bases.elegirInversor);
-    m_uso = &Anadir<ui::TextoFijo>("csUso", L"Tipo de uso:");
+    m_uso = &Anadir<ui::TextoFijo>("", L"Tipo de uso:");
     m_uso->bVisible = false;
     Anadir(kEscala);
     AnadirExcluir();

@@ -152,7 +152,7 @@ TEST_F(ElementosConModelo, UnaBateriaDeLitioMuestraUnSoloRegimen)
     EXPECT_EQ(guion.Texto(0, 0, "iTipo"), L"Li-Ion");
     EXPECT_EQ(guion.Texto(0, 0, "dVnom"), L"12,80");
     EXPECT_EQ(guion.Texto(0, 0, "csFabricante"), L"Go Power!");
-    EXPECT_FALSE(guion.Estado(0, 0, "Rotulacion").bHabilitado);
+    EXPECT_FALSE(guion.Estado(0, 0, "Rotulación ...").bHabilitado);
     EXPECT_EQ(csId, L"Go Power!#Advanced Lithium 100 Ah");
 }
 
@@ -223,7 +223,7 @@ TEST_F(ElementosConModelo, OtroNumeroDeEntradasBorraLosRotulosDeLaPersona)
 TEST_F(ElementosConModelo, LasEntradasSeEditanEnSuDialogo)
 {
     guion.Dialogo("CDlgDatosInversor",
-                  {paso::Pulsar{"Configuración de string ..."}, paso::Leer{{"csUso", "iTipoSalida"}},
+                  {paso::Pulsar{"Configuración de string ..."}, paso::Leer{{"Tipo de uso:", "iTipoSalida"}},
                    paso::Elegir{"tab", 1}, paso::Leer{{"dPCANom", "iTipoSalida"}}, paso::Pulsar{"OK"}});
     guion.Dialogo("CDlgDatosEntrada", {paso::Abrir{"listaEntradas", 0, 1}, paso::Pulsar{"OK"}});
     guion.Dialogo("CDlgItemEntrada", {paso::Poner{"csReferencia", L"Porche"}, paso::Pulsar{"OK"}});
@@ -231,7 +231,7 @@ TEST_F(ElementosConModelo, LasEntradasSeEditanEnSuDialogo)
     csId = L"SMA#SB5.0-1AV-40";
     EXPECT_EQ(Inversor(2, 4), 1);
     EXPECT_EQ(aEntradas[0].csReferencia, L"Porche");
-    EXPECT_EQ(guion.Texto(0, 0, "csUso"), L"Conexión a red");
+    EXPECT_EQ(guion.Texto(0, 0, "Tipo de uso:"), L"Conexión a red");
     EXPECT_TRUE(guion.Estado(0, 1, "dPCANom").bSoloLectura);
     EXPECT_EQ(guion.Texto(0, 1, "dPCANom"), L"5000,00");
 }
