@@ -73,20 +73,21 @@ public:
         else
             m_ar.ReadDoubles(ad);
     }
-    void Receptores(CObArrayPropio<CSFVDataReceptor>& lista)
+    template <class R>
+    void Registros(CObArrayPropio<R>& lista)
     {
         if (m_ar.IsStoring()) {
             m_ar.WriteCount(static_cast<std::size_t>(lista.GetSize()));
-            for (const auto& receptor : lista)
-                receptor->Serialize(m_ar);
+            for (const auto& registro : lista)
+                registro->Serialize(m_ar);
             return;
         }
         lista.RemoveAll();
-        // A false count ends with the stream: each load takes thousands of bytes of it.
+        // A false count ends with the stream: each record takes bytes of it.
         for (std::size_t n = m_ar.ReadCount(); n > 0; --n) {
-            auto receptor = std::make_unique<CSFVDataReceptor>();
-            receptor->Serialize(m_ar);
-            lista.Add(std::move(receptor));
+            auto registro = std::make_unique<R>();
+            registro->Serialize(m_ar);
+            lista.Add(std::move(registro));
         }
     }
 
@@ -174,7 +175,7 @@ void IntercambiarConsumo(CProyectoEstudio& proyecto, CArchive& ar)
     Intercambio dato(ar);
     Consumo& consumo = proyecto.consumo;
     dato(consumo.csReferencia);
-    dato.Receptores(consumo.lReceptores);
+    dato.Registros(consumo.lReceptores);
     dato(consumo.iTipoEntrada);
     dato(consumo.iPatron);
     dato(consumo.dPotMaxima);
@@ -230,6 +231,61 @@ void IntercambiarPlanos(CProyectoEstudio& proyecto, CArchive& ar)
     }
 }
 
+void IntercambiarComun(Intercambio& dato, DatosElemento& elemento)
+{
+    dato(elemento.csReferencia);
+    dato(elemento.bExcluir);
+    dato(elemento.iRotulos);
+}
+
+void IntercambiarConModelo(Intercambio& dato, DatosConModelo& elemento)
+{
+    IntercambiarComun(dato, elemento);
+    dato(elemento.bModelo);
+    dato(elemento.bEscala);
+}
+
+void IntercambiarPaneles(Intercambio& dato, DatosPaneles& paneles)
+{
+    IntercambiarComun(dato, paneles);
+    for (int* entero : {&paneles.bModelo, &paneles.bInclinacion, &paneles.iMontaje, &paneles.iConexion,
+                        &paneles.bAutoDesconexion, &paneles.bOptimizadorMPPT, &paneles.bInformarSombra,
+                        &paneles.bNoSombras, &paneles.bMicroInversor, &paneles.bMicroModelo, &paneles.bForzado})
+        dato(*entero);
+    for (double* doble : {&paneles.dRendimiento, &paneles.dAutoDesconexion, &paneles.dSombreado})
+        dato(*doble);
+    dato(paneles.csOptimizadorMPPT);
+    dato(paneles.csIdMicro);
+    int iColor = paneles.nColor;
+    dato(iColor);
+    paneles.nColor = static_cast<short>(iColor);
+}
+
+void IntercambiarInversor(Intercambio& dato, DatosInversor& inversor)
+{
+    IntercambiarConModelo(dato, inversor);
+    dato(inversor.iNumMPPT);
+    dato(inversor.iNumEntradas);
+    dato.Registros(inversor.entradas);
+}
+
+void IntercambiarElementos(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    Elementos& elementos = proyecto.elementos;
+    IntercambiarPaneles(dato, elementos.panelesAislada);
+    IntercambiarComun(dato, elementos.regulador);
+    dato(elementos.dPerdidasRegulador);
+    IntercambiarConModelo(dato, elementos.acumuladores);
+    IntercambiarInversor(dato, elementos.salida);
+    dato(elementos.csIdSalida);
+    IntercambiarPaneles(dato, elementos.panelesRed);
+    IntercambiarInversor(dato, elementos.inversor);
+    IntercambiarComun(dato, elementos.caja);
+    dato(elementos.bCajaTrifasica);
+    IntercambiarComun(dato, elementos.red);
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -248,6 +304,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"precios", 1, &IntercambiarPrecios},
     {L"situacion", 1, &IntercambiarSituacion},
     {L"planos", 1, &IntercambiarPlanos},
+    {L"elementos", 1, &IntercambiarElementos},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

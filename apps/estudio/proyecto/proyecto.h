@@ -6,6 +6,8 @@
 
 #include <QuorvelEFV.h>
 
+#include "proyecto/elementos.h"
+
 namespace efv::estudio {
 
 /// Where the installation stands: a place of the file of places, or the person's own figures.
@@ -85,6 +87,7 @@ public:
     Economia economia;
     /// Where the panels look, at most kPlanosMaximo; empty: as each design says.
     std::vector<solar::PlanoCampo> planos;
+    Elementos elementos;
     std::vector<SeccionAjena> ajenas;
 
     const CRuntimeClass& GetRuntimeClass() const override;

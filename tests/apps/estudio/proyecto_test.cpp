@@ -56,6 +56,16 @@ std::unique_ptr<CProyectoEstudio> Lleno()
     economia.adPrecioConsumo[11][30][23] = 0.75;
     economia.adPrecioVertido[0][0][0] = 0.125;
     proyecto->planos = {{20.0, -90.0, 0.25}, {40.0, 90.0, 0.75}};
+    Elementos& elementos = proyecto->elementos;
+    elementos.panelesAislada.csIdMicro = L"M#1";
+    elementos.panelesRed.nColor = 5;
+    elementos.dPerdidasRegulador = 0.02;
+    elementos.acumuladores.iRotulos = 15;
+    phAsignArrayInverterInputs(0, 2, 4, elementos.inversor.entradas, 1);
+    elementos.inversor.entradas[3].csReferencia = L"Porche";
+    elementos.inversor.entradas[3].nColor = 1;
+    elementos.inversor.iNumEntradas = 4;
+    elementos.red.csReferencia = L"RED";
     return proyecto;
 }
 
@@ -114,6 +124,15 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
     EXPECT_EQ(economia.adPrecioConsumo[11][30][23], 0.75);
     EXPECT_EQ(economia.adPrecioVertido[0][0][0], 0.125);
     EXPECT_EQ(despues->planos, antes->planos);
+    const Elementos& elementos = despues->elementos;
+    EXPECT_EQ(elementos.panelesAislada.csIdMicro, L"M#1");
+    EXPECT_EQ(elementos.panelesRed.nColor, 5);
+    EXPECT_EQ(elementos.dPerdidasRegulador, 0.02);
+    EXPECT_EQ(elementos.acumuladores.iRotulos, 15);
+    ASSERT_EQ(elementos.inversor.entradas.GetSize(), 4);
+    EXPECT_EQ(elementos.inversor.entradas[3].csReferencia, L"Porche");
+    EXPECT_EQ(elementos.inversor.entradas[3].nColor, 1);
+    EXPECT_EQ(elementos.red.csReferencia, L"RED");
 }
 
 // Bytes put together by hand from the layout, up to the loads; what follows them is zeros.
