@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "diseno/resumen.h"
+#include "elementos/rotulos.h"
 #include "esquema/lamina.h"
 #include "proyecto/fichero.h"
 
@@ -18,32 +19,39 @@ namespace {
 // offset. Inputs are shorter than a year of hours: they stand for what comes before it.
 constexpr std::size_t kCola = 4 + 4 + 8 + (8760 + 12 * 6) * 8 + 24 * 4 + 4 + 4 + 8;
 
-template <class DISENO>
-void Dibujarlo(const DISENO& diseno)
+void Dibujarlo(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    ResumenDe(diseno);
-    const Lamina dibujo = Dibujar(EsquemaDe(diseno));
+    const Lamina dibujo = Dibujar(EsquemaDe(proyecto, diseno));
     if (dibujo.trazos.size() > 1000 || !(dibujo.dAncho < 5000.0) || !(dibujo.dAlto < 5000.0))
         std::abort();
 }
 
-}  // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tamano)
+void Recorrer(std::span<const std::uint8_t> entero)
 {
     std::unique_ptr<CProyectoEstudio> proyecto;
     try {
-        auto entero = std::vector<std::uint8_t>(datos, datos + tamano);
-        entero.resize(tamano + kCola);
-        proyecto = ProyectoDe(std::as_bytes(std::span(entero)));
+        proyecto = ProyectoDe(std::as_bytes(entero));
     } catch (const std::runtime_error&) {
-        return 0;
+        return;
     }
     const auto bytes = BytesDe(*proyecto);
     if (BytesDe(*ProyectoDe(bytes)) != bytes)
         std::abort();
-    Dibujarlo(proyecto->aislada);
-    Dibujarlo(proyecto->red);
+    ResumenDe(proyecto->aislada);
+    ResumenDe(proyecto->red);
+    Dibujarlo(*proyecto, Diseno::aislada);
+    Dibujarlo(*proyecto, Diseno::red);
     ResumenDe(proyecto->consumo, AnoDe(proyecto->consumo));
+}
+
+}  // namespace
+
+// As it comes, for the files of sections, and before a year of hours.
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tamano)
+{
+    auto entero = std::vector<std::uint8_t>(datos, datos + tamano);
+    Recorrer(entero);
+    entero.resize(tamano + kCola);
+    Recorrer(entero);
     return 0;
 }

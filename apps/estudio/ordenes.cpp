@@ -1,6 +1,7 @@
 #include "ordenes.h"
 
 #include <array>
+#include <set>
 
 #include <QDir>
 #include <QMenu>
@@ -36,6 +37,20 @@ void LlenarRecientes(Ventana& ventana, QMenu& menu)
     for (const CString& csRuta : ventana.LaSesion().Recientes())
         menu.addAction(QDir::toNativeSeparators(QString::fromStdWString(csRuta)).replace('&', "&&"), &ventana,
                        [&ventana, csRuta] { ventana.Atender([&] { ventana.LaSesion().Abrir(csRuta); }); });
+    if (menu.isEmpty())
+        menu.addAction("(ninguno)")->setEnabled(false);
+}
+
+// An element a class: those of a class share their data.
+void LlenarElementos(Ventana& ventana, QMenu& menu)
+{
+    std::set<Elemento::Clase> puestas = {Elemento::Clase::puntos};
+    VistaEsquema* vista = ventana.EsquemaALaVista();
+    for (const Zona& zona : vista != nullptr ? vista->Mostrado().zonas : std::vector<Zona>()) {
+        if (puestas.insert(zona.clase).second)
+            vista->LlenarMenu(*menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&")),
+                              zona.clase);
+    }
     if (menu.isEmpty())
         menu.addAction("(ninguno)")->setEnabled(false);
 }
@@ -115,6 +130,7 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kEsquema, "&Encajar en la ventana", "Ctrl+0", &EncajarEsquema},
     {kEsquema, "&Ampliar", "Ctrl++", [](Ventana& v) { AmpliarEsquema(v, kPasoAmpliar); }},
     {kEsquema, "&Reducir", "Ctrl+-", [](Ventana& v) { AmpliarEsquema(v, 1.0 / kPasoAmpliar); }},
+    {kEsquema, "E&lementos", nullptr, nullptr, &LlenarElementos},
     {kEsquema, nullptr, nullptr, nullptr},
     {kEsquema, "&Copiar", "Ctrl+Shift+C", &CopiarEsquema},
     {kEsquema, "&Guardar como…", nullptr, &GuardarEsquema},

@@ -16,6 +16,7 @@
 
 #include "clima/estudios.h"
 #include "economia/estudios.h"
+#include "elementos/rotulos.h"
 #include "energia/planos.h"
 #include "ordenes.h"
 #include "proyecto/asistentes.h"
@@ -42,41 +43,29 @@ QWidget* ConMargen(QWidget* dentro)
     return marco;
 }
 
-template <class Registro>
-Lamina LaminaDe(const Registro& diseno)
-{
-    return Dibujar(EsquemaDe(diseno));
-}
-
 }  // namespace
 
 struct VentanaPrincipal::FilaPestana {
     const char* nombre;
     const char* rotulo;
     ui::Dialogo& (*panel)(VentanaPrincipal& ventana);
-    Lamina (*lamina)(const CProyectoEstudio& proyecto);  // of the schematic above the panel; null: none
-    const wchar_t* sinLamina;                            // said in place of an empty one
-    std::optional<Diseno> diseno;                        // of which the tab is
+    const wchar_t* sinLamina;      // said in place of an empty schematic above the panel; null: there is none
+    std::optional<Diseno> diseno;  // of which the tab is
 };
 
 std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
 {
     using Ventana = VentanaPrincipal;
     static constexpr auto kFilas = std::to_array<FilaPestana>({
-        {"energia", "Ener&gía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, nullptr,
-         std::nullopt},
+        {"energia", "Ener&gía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, std::nullopt},
         {"aislada", "Ins&talación aislada", [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
-         [](const CProyectoEstudio& p) { return LaminaDe(p.aislada); },
          L"Todavía no hay diseño.\n«Asistente de instalación aislada…» lo propone.", Diseno::aislada},
         {"red", "Cone&xión a red", [](Ventana& v) -> ui::Dialogo& { return v.m_red; },
-         [](const CProyectoEstudio& p) { return LaminaDe(p.red); },
          L"Todavía no hay diseño.\n«Asistente de conexión a red…» lo propone.", Diseno::red},
-        {"consumo", "Con&sumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, nullptr,
-         std::nullopt},
-        {"venta", "&Venta", [](Ventana& v) -> ui::Dialogo& { return v.m_venta; }, nullptr, nullptr,
-         std::nullopt},
+        {"consumo", "Con&sumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, std::nullopt},
+        {"venta", "&Venta", [](Ventana& v) -> ui::Dialogo& { return v.m_venta; }, nullptr, std::nullopt},
         {"autoconsumo", "Autoconsumo", [](Ventana& v) -> ui::Dialogo& { return v.m_autoconsumo; }, nullptr,
-         nullptr, std::nullopt},
+         std::nullopt},
     });
     return kFilas;
 }
@@ -149,13 +138,23 @@ QWidget* VentanaPrincipal::CrearPanel(ui::Dialogo& dialogo, QWidget* padre)
 
 QWidget* VentanaPrincipal::CrearPestana(const FilaPestana& fila)
 {
-    if (fila.lamina == nullptr) {
+    if (!fila.diseno) {
         m_esquemas.push_back(nullptr);
         return ConMargen(CrearPanel(fila.panel(*this), m_pestanas));
     }
     auto* partes = new QSplitter(Qt::Vertical);
     auto* esquema = new VistaEsquema;
     m_esquemas.push_back(esquema);
+    const Diseno diseno = *fila.diseno;
+    esquema->alAbrir = [this, diseno](Elemento::Clase clase) {
+        Atender([&] { EditarElemento(m_sesion, {diseno, clase}); });
+    };
+    esquema->alRotular = [this, diseno](Elemento::Clase clase) {
+        Atender([&] { RotularElemento(m_sesion, {diseno, clase}); });
+    };
+    esquema->tieneRotulos = [this, diseno](Elemento::Clase clase) {
+        return !ClaseDeDialogo(m_sesion.Proyecto(), {diseno, clase}).empty();
+    };
     partes->addWidget(esquema);
     partes->addWidget(ConMargen(CrearPanel(fila.panel(*this), partes)));
     partes->setStretchFactor(0, 1);
@@ -222,8 +221,8 @@ void VentanaPrincipal::Actualizar()
     for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo, &m_venta, &m_autoconsumo})
         panel->Actualizar();
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)
-        if (const FilaPestana& fila = FilasPestanas()[i]; fila.lamina != nullptr)
-            m_esquemas[i]->Poner(fila.lamina(proyecto), fila.sinLamina);
+        if (const FilaPestana& fila = FilasPestanas()[i]; fila.diseno)
+            m_esquemas[i]->Poner(Dibujar(EsquemaDe(proyecto, *fila.diseno)), fila.sinLamina);
     for (QWidget* panel : m_paneles)
         qt::RefrescarVentana(panel);
 }

@@ -14,6 +14,7 @@
 
 #include <quorvel/qt.h>
 
+#include "elementos/rotulos.h"
 #include "esquema/exportar.h"
 #include "ventana_principal.h"
 
@@ -190,8 +191,8 @@ ResultadoCapturas CapturarPrograma(VentanaPrincipal& ventana, const std::filesys
     }
     CapturarPresentador(carpeta, resultado);
     const CProyectoEstudio& proyecto = ventana.LaSesion().Proyecto();
-    CapturarEsquema(Dibujar(EsquemaDe(proyecto.aislada)), carpeta, "esquema-aislada", resultado);
-    CapturarEsquema(Dibujar(EsquemaDe(proyecto.red)), carpeta, "esquema-red", resultado);
+    CapturarEsquema(Dibujar(EsquemaDe(proyecto, Diseno::aislada)), carpeta, "esquema-aislada", resultado);
+    CapturarEsquema(Dibujar(EsquemaDe(proyecto, Diseno::red)), carpeta, "esquema-red", resultado);
     return resultado;
 }
 

@@ -222,6 +222,14 @@ CString Longitud(const wchar_t* csNombre, double d)
 
 }  // namespace
 
+int Elemento::ColorDeString(int iString) const
+{
+    if (iColor != ui::kColorPorCapa)
+        return iColor;
+    const auto i = static_cast<std::size_t>(iString) - 1;
+    return i < aiColores.size() ? aiColores[i] : ui::kColorPorCapa;
+}
+
 Esquema EsquemaDe(const CSFVAsistenteAislada& diseno)
 {
     if (!HayDiseno(diseno))

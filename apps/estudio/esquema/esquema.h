@@ -22,12 +22,18 @@ struct Elemento {
 
     Clase clase;
     CString csTitulo;
-    std::vector<CString> acsDatos = {};  ///< its figures, one a line
+    std::vector<CString> acsDatos = {};    ///< its figures, one a line
+    std::vector<CString> acsRotulos = {};  ///< what the person wants beside it, below them
     int iColumna = 0, iFila = 0;
     int iCuantos = 1;
-    int iSerie = 0, iParalelo = 0;  ///< of panels and batteries
-    bool bUnifilar = false;         ///< drawn as one symbol instead of one by one
-    bool bFalta = false;            ///< its model isn't in the catalogue
+    int iSerie = 0, iParalelo = 0;    ///< of panels and batteries
+    bool bUnifilar = false;           ///< drawn as one symbol instead of one by one
+    bool bFalta = false;              ///< its model isn't in the catalogue
+    int iColor = ui::kColorPorCapa;   ///< palette code of all its strings; by layer: each has its own
+    std::vector<int> aiColores = {};  ///< palette codes of its first strings
+
+    /// Palette code of a string, from 1.
+    int ColorDeString(int iString) const;
 };
 
 /// Between two elements, by index.

@@ -16,22 +16,30 @@ constexpr double kHueco = 130.0;  // between columns: room for a connection's te
 constexpr double kHuecoFilas = 46.0;
 constexpr double kAlmohada = 12.0;  // inside a card
 constexpr double kTitulo = 15.0, kLetra = 12.5, kLetraPequena = 11.5, kCabecera = 19.0;
-constexpr double kRenglon = 17.0;
+constexpr double kRenglon = 17.0, kRenglonRotulo = 15.0;
 constexpr double kAnchoLetra = 0.56;  // of a letter, as part of its height
 constexpr double kAnchoMinimo = 150.0;
-constexpr std::size_t kLetrasMaximo = 42;
+constexpr std::size_t kLetrasMaximo = 42, kLetrasRotulo = 64;
+constexpr int kColorNegro = 7;  // of the palette: black on paper, white on a dark screen
 constexpr double kAltoSimbolo = 58.0;
 constexpr int kSerieDibujada = 8, kParaleloDibujado = 4;
 constexpr double kCodo = 16.0;  // of a connection, from its element
 
-CString Acortar(const CString& cs)
+CString Acortar(const CString& cs, std::size_t nLetras = kLetrasMaximo)
 {
-    return cs.size() <= kLetrasMaximo ? cs : cs.substr(0, kLetrasMaximo - 1) + L"…";
+    return cs.size() <= nLetras ? cs : cs.substr(0, nLetras - 1) + L"…";
 }
 
-double AnchoDe(const CString& cs, double dTamano)
+double AnchoDe(const CString& cs, double dTamano, std::size_t nLetras = kLetrasMaximo)
 {
-    return static_cast<double>(std::min(cs.size(), kLetrasMaximo)) * dTamano * kAnchoLetra;
+    return static_cast<double>(std::min(cs.size(), nLetras)) * dTamano * kAnchoLetra;
+}
+
+// Black is the colour of the lines.
+std::optional<ui::Color> ColorDeString(const Elemento& elemento, int iString)
+{
+    const int iColor = elemento.ColorDeString(iString);
+    return iColor == kColorNegro ? std::nullopt : ui::ColorDePaleta(iColor);
 }
 
 /// A card: an element with its place on the plane.
@@ -53,7 +61,8 @@ double AltoDe(const Elemento& elemento)
     if (elemento.clase == Clase::puntos)
         return 2 * kRenglon;
     return 2 * kAlmohada + AltoRejilla(elemento) + 8.0 + kTitulo +
-           kRenglon * static_cast<double>(elemento.acsDatos.size());
+           kRenglon * static_cast<double>(elemento.acsDatos.size()) +
+           kRenglonRotulo * static_cast<double>(elemento.acsRotulos.size());
 }
 
 double AnchoDe(const Elemento& elemento)
@@ -64,6 +73,8 @@ double AnchoDe(const Elemento& elemento)
     double dAncho = AnchoDe(elemento.csTitulo, kTitulo);
     for (const CString& cs : elemento.acsDatos)
         dAncho = std::max(dAncho, AnchoDe(cs, kLetra));
+    for (const CString& cs : elemento.acsRotulos)
+        dAncho = std::max(dAncho, AnchoDe(cs, kLetraPequena, kLetrasRotulo));
     return std::max(kAnchoMinimo, dAncho + 2 * kAlmohada);
 }
 
@@ -108,6 +119,8 @@ public:
     }
 
 private:
+    static constexpr double kAnchoLinea = 1.5, kAnchoString = 2.5;
+
     void Linea(std::vector<Punto> puntos, Tinta tinta = Tinta::linea)
     {
         m_trazos.emplace_back(trazo::Linea{std::move(puntos), tinta});
@@ -170,13 +183,19 @@ private:
         for (std::size_t f = 0; f < filas.size(); ++f) {
             const double y = dY + dPasoY * static_cast<double>(f);
             const bool bHayFila = filas[f] != 0;
-            if (bHayFila)
-                Linea({{dX - 4, y + dPasoY / 2}, {dX + dPasoX * nColumnas + 4, y + dPasoY / 2}});
+            const auto color = bHayFila ? ColorDeString(elemento, filas[f]) : std::nullopt;
+            if (bHayFila) {
+                m_trazos.emplace_back(
+                    trazo::Linea{{{dX - 4, y + dPasoY / 2}, {dX + dPasoX * nColumnas + 4, y + dPasoY / 2}},
+                                 Tinta::linea,
+                                 color ? kAnchoString : kAnchoLinea,
+                                 color});
+            }
             for (std::size_t c = 0; c < columnas.size(); ++c) {
                 const double x = dX + dPasoX * static_cast<double>(c);
                 if (bHayFila && columnas[c] != 0) {
                     m_trazos.emplace_back(
-                        trazo::Caja{{x + 2, y + 2}, dPasoX - 4, dPasoY - 4, Tinta::linea, tinta});
+                        trazo::Caja{{x + 2, y + 2}, dPasoX - 4, dPasoY - 4, Tinta::linea, tinta, 0.0, color});
                 } else {
                     Puntos({x + dPasoX / 2, y + dPasoY / 2}, bHayFila);
                 }
@@ -217,6 +236,12 @@ public:
             Conectar(conexion);
         for (std::size_t i = 0; i < m_tarjetas.size(); ++i)
             PintarTarjeta(m_esquema.elementos[i], m_tarjetas[i]);
+        m_lamina.zonas.reserve(m_tarjetas.size());
+        for (std::size_t i = 0; i < m_tarjetas.size(); ++i) {
+            const Tarjeta& t = m_tarjetas[i];
+            const Elemento& elemento = m_esquema.elementos[i];
+            m_lamina.zonas.push_back({elemento.clase, elemento.csTitulo, t.x, t.y, t.dAncho, t.dAlto});
+        }
         double y = m_lamina.dAlto;
         for (const CString& csNota : m_esquema.acsNotas) {
             Escribir({{kMargen, y}, csNota, kLetra, Tinta::aviso});
@@ -273,6 +298,13 @@ private:
         Escribir({{dCentro, y}, Acortar(elemento.csTitulo), kTitulo, Tinta::texto, Texto::Lado::centro, true});
         for (const CString& cs : elemento.acsDatos)
             Escribir({{dCentro, y += kRenglon}, Acortar(cs), kLetra, Tinta::texto, Texto::Lado::centro});
+        for (const CString& cs : elemento.acsRotulos) {
+            Escribir({{dCentro, y += kRenglonRotulo},
+                      Acortar(cs, kLetrasRotulo),
+                      kLetraPequena,
+                      Tinta::alterna,
+                      Texto::Lado::centro});
+        }
     }
 
     // Where several connections come together the elbow stands beside the element that they share.
@@ -325,6 +357,12 @@ std::vector<int> PiezasDibujadas(int n, int nMaximo)
         piezas.back() = n;
     }
     return piezas;
+}
+
+const Zona* Lamina::En(Punto p) const
+{
+    const auto zona = std::ranges::find_if(zonas, [&](const Zona& z) { return z.Contiene(p); });
+    return zona == zonas.end() ? nullptr : &*zona;
 }
 
 Lamina Dibujar(const Esquema& esquema)

@@ -1,6 +1,7 @@
 // A schematic as strokes on a plane: whoever paints them knows nothing of photovoltaics.
 #pragma once
 
+#include <optional>
 #include <variant>
 #include <vector>
 
@@ -21,13 +22,15 @@ struct Linea {
     std::vector<Punto> puntos;
     Tinta tinta;
     double dAncho = 1.5;
+    std::optional<ui::Color> color = {};  ///< of the host's palette, in the ink's place
     bool operator==(const Linea&) const = default;
 };
 struct Caja {
     Punto esquina;
     double dAncho, dAlto;
     Tinta borde, relleno = Tinta::ninguna;
-    double dRadio = 0.0;  ///< of its corners
+    double dRadio = 0.0;                  ///< of its corners
+    std::optional<ui::Color> color = {};  ///< of the host's palette, in the border's place
     bool operator==(const Caja&) const = default;
 };
 struct Circulo {
@@ -50,9 +53,23 @@ struct Texto {
 
 using Trazo = std::variant<trazo::Linea, trazo::Caja, trazo::Circulo, trazo::Texto>;
 
+/// Where an element stands, and how it is called.
+struct Zona {
+    Elemento::Clase clase;
+    CString csTitulo;
+    double x, y, dAncho, dAlto;
+
+    bool Contiene(Punto p) const { return p.x >= x && p.x < x + dAncho && p.y >= y && p.y < y + dAlto; }
+    bool operator==(const Zona&) const = default;
+};
+
 struct Lamina {
     double dAncho = 0.0, dAlto = 0.0;
     std::vector<Trazo> trazos;
+    std::vector<Zona> zonas;  ///< in the order of the schematic's elements
+
+    /// The element at a point; null beside all of them.
+    const Zona* En(Punto p) const;
     bool operator==(const Lamina&) const = default;
 };
 

@@ -39,14 +39,19 @@ QString Escapado(const CString& cs)
     return QString::fromStdWString(cs).toHtmlEscaped();
 }
 
+QColor ColorDeTrazo(std::optional<ui::Color> color, Tinta tinta, Tema tema)
+{
+    return color ? QColor(QString::fromStdString(ui::ColorHex(*color))) : ColorDe(tinta, tema);
+}
+
 class Pincel {
 public:
     Pincel(QPainter& pintor, Tema tema) : m_pintor(pintor), m_tema(tema) {}
 
     void operator()(const trazo::Linea& linea) const
     {
-        m_pintor.setPen(
-            QPen(ColorDe(linea.tinta, m_tema), linea.dAncho, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        m_pintor.setPen(QPen(ColorDeTrazo(linea.color, linea.tinta, m_tema), linea.dAncho, Qt::SolidLine,
+                             Qt::RoundCap, Qt::RoundJoin));
         QPolygonF puntos;
         for (const Punto& p : linea.puntos)
             puntos << AQt(p);
@@ -54,13 +59,13 @@ public:
     }
     void operator()(const trazo::Caja& caja) const
     {
-        Preparar(caja.borde, caja.relleno);
+        Preparar(ColorDeTrazo(caja.color, caja.borde, m_tema), caja.relleno);
         m_pintor.drawRoundedRect(QRectF(AQt(caja.esquina), QSizeF(caja.dAncho, caja.dAlto)), caja.dRadio,
                                  caja.dRadio);
     }
     void operator()(const trazo::Circulo& circulo) const
     {
-        Preparar(circulo.borde, circulo.relleno);
+        Preparar(ColorDe(circulo.borde, m_tema), circulo.relleno);
         m_pintor.drawEllipse(AQt(circulo.centro), circulo.dRadio, circulo.dRadio);
     }
     void operator()(const trazo::Texto& texto) const
@@ -83,9 +88,9 @@ public:
 private:
     static constexpr double kFino = 8.0;
 
-    void Preparar(Tinta borde, Tinta relleno) const
+    void Preparar(const QColor& borde, Tinta relleno) const
     {
-        m_pintor.setPen(QPen(ColorDe(borde, m_tema), 1.3));
+        m_pintor.setPen(QPen(borde, 1.3));
         m_pintor.setBrush(relleno == Tinta::ninguna ? QBrush(Qt::NoBrush) : QBrush(ColorDe(relleno, m_tema)));
     }
 
@@ -99,8 +104,8 @@ public:
 
     void operator()(const trazo::Linea& linea) const
     {
-        m_salida << "<polyline fill=\"none\" stroke=\"" << Nombre(linea.tinta) << "\" stroke-width=\""
-                 << linea.dAncho << "\" points=\"";
+        m_salida << "<polyline fill=\"none\" stroke=\"" << Nombre(linea.color, linea.tinta)
+                 << "\" stroke-width=\"" << linea.dAncho << "\" points=\"";
         for (const Punto& p : linea.puntos)
             m_salida << p.x << ',' << p.y << ' ';
         m_salida << "\"/>\n";
@@ -109,13 +114,13 @@ public:
     {
         m_salida << "<rect x=\"" << caja.esquina.x << "\" y=\"" << caja.esquina.y << "\" width=\""
                  << caja.dAncho << "\" height=\"" << caja.dAlto << "\" rx=\"" << caja.dRadio << '"';
-        Contorno(caja.borde, caja.relleno);
+        Contorno(Nombre(caja.color, caja.borde), caja.relleno);
     }
     void operator()(const trazo::Circulo& circulo) const
     {
         m_salida << "<circle cx=\"" << circulo.centro.x << "\" cy=\"" << circulo.centro.y << "\" r=\""
                  << circulo.dRadio << '"';
-        Contorno(circulo.borde, circulo.relleno);
+        Contorno(Nombre(circulo.borde), circulo.relleno);
     }
     void operator()(const trazo::Texto& texto) const
     {
@@ -134,10 +139,13 @@ public:
     }
 
 private:
-    void Contorno(Tinta borde, Tinta relleno) const
+    static QString Nombre(std::optional<ui::Color> color, Tinta tinta)
     {
-        m_salida << " stroke=\"" << Nombre(borde) << "\" stroke-width=\"1.3\" fill=\"" << Nombre(relleno)
-                 << "\"/>\n";
+        return color ? QString::fromStdString(ui::ColorHex(*color)) : Nombre(tinta);
+    }
+    void Contorno(const QString& csBorde, Tinta relleno) const
+    {
+        m_salida << " stroke=\"" << csBorde << "\" stroke-width=\"1.3\" fill=\"" << Nombre(relleno) << "\"/>\n";
     }
 
     QTextStream& m_salida;

@@ -3,7 +3,10 @@
 #include <algorithm>
 #include <cmath>
 
+#include <QContextMenuEvent>
 #include <QGraphicsScene>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QWheelEvent>
 
 #include "esquema/pintura.h"
@@ -77,6 +80,39 @@ void VistaEsquema::wheelEvent(QWheelEvent* evento)
         return;
     Ampliar(std::exp2(evento->angleDelta().y() / kPasosPorDoble));
     evento->accept();
+}
+
+const Zona* VistaEsquema::ZonaEn(const QPoint& punto) const
+{
+    const QPointF enPlano = mapToScene(punto);
+    return m_lamina.En({enPlano.x(), enPlano.y()});
+}
+
+void VistaEsquema::LlenarMenu(QMenu& menu, Elemento::Clase clase)
+{
+    menu.addAction("&Datos…", this, [this, clase] { alAbrir(clase); });
+    if (tieneRotulos(clase))
+        menu.addAction("&Rotulación…", this, [this, clase] { alRotular(clase); });
+}
+
+void VistaEsquema::mouseDoubleClickEvent(QMouseEvent* evento)
+{
+    const Zona* zona = ZonaEn(evento->pos());
+    if (zona == nullptr || zona->clase == Elemento::Clase::puntos || evento->button() != Qt::LeftButton ||
+        !alAbrir)
+        return QGraphicsView::mouseDoubleClickEvent(evento);
+    evento->accept();
+    alAbrir(zona->clase);
+}
+
+void VistaEsquema::contextMenuEvent(QContextMenuEvent* evento)
+{
+    const Zona* zona = ZonaEn(evento->pos());
+    if (zona == nullptr || zona->clase == Elemento::Clase::puntos || !alAbrir)
+        return;
+    QMenu menu(this);
+    LlenarMenu(menu, zona->clase);
+    menu.exec(evento->globalPos());
 }
 
 void VistaEsquema::changeEvent(QEvent* evento)

@@ -1,9 +1,15 @@
 // A schematic on screen: fitted to its room, enlarged with the wheel, moved by dragging.
 #pragma once
 
+#include <functional>
+
 #include <QGraphicsView>
 
 #include "esquema/lamina.h"
+
+QT_BEGIN_NAMESPACE
+class QMenu;
+QT_END_NAMESPACE
 
 namespace efv::estudio {
 
@@ -15,17 +21,28 @@ public:
     void Poner(Lamina lamina, const CString& csSinDiseno);
     const Lamina& Mostrado() const { return m_lamina; }
 
+    /// What a double click on an element opens, and what its menu offers besides.
+    std::function<void(Elemento::Clase)> alAbrir, alRotular;
+    /// Whether something can be written beside such an element.
+    std::function<bool(Elemento::Clase)> tieneRotulos;
+    /// Fills a menu with what can be done with an element.
+    void LlenarMenu(QMenu& menu, Elemento::Clase clase);
+
     void Encajar();
     void Ampliar(double dFactor);
 
 protected:
     void resizeEvent(QResizeEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
+    void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    void contextMenuEvent(QContextMenuEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void drawBackground(QPainter* pintor, const QRectF& zona) override;
     void drawForeground(QPainter* pintor, const QRectF& zona) override;
 
 private:
+    const Zona* ZonaEn(const QPoint& punto) const;
+
     Lamina m_lamina;
     QString m_aviso;
     bool m_bEncajado = true;  // follows the room until the person chooses a scale

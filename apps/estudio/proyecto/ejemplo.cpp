@@ -81,6 +81,29 @@ void PonerEconomia(Economia& economia)
     economia.autoconsumo.dMesesFinanciacion = 60.0;
 }
 
+// References, what is written beside the elements, and the colours of an inverter's strings.
+void PonerElementos(const CSFVAsistenteRed& red, Elementos& elementos)
+{
+    constexpr int kReferencia = 1, kInclinacion = 4, kCapacidad = 8, kEnergiaAnual = 16;
+    constexpr std::array<short, 4> kColores = {5, 1, 3, 6};
+    elementos.panelesAislada.csReferencia = L"FV-A";
+    elementos.panelesAislada.iRotulos = kReferencia | kInclinacion;
+    elementos.acumuladores.csReferencia = L"BAT-1";
+    elementos.acumuladores.iRotulos = kReferencia | kCapacidad;
+    elementos.panelesRed.csReferencia = L"FV-R";
+    elementos.panelesRed.iRotulos = kReferencia | kInclinacion;
+    elementos.red.csReferencia = L"CUPS-1";
+    elementos.red.iRotulos = kReferencia | kEnergiaAnual;
+    DatosInversor& inversor = elementos.inversor;
+    if (const CBaseInversorModelo* modelo = phGetBaseInversores().BuscarModelo(red.csInversor)) {
+        inversor.iNumMPPT = modelo->iNumMPPT;
+        inversor.iNumEntradas = modelo->iNumEntradas;
+        phAsignArrayInverterInputs(0, inversor.iNumMPPT, inversor.iNumEntradas, inversor.entradas, 1);
+    }
+    for (std::size_t i = 0; i < kColores.size() && static_cast<int>(i) < inversor.entradas.GetSize(); ++i)
+        inversor.entradas[static_cast<std::ptrdiff_t>(i)].nColor = kColores.at(i);
+}
+
 }  // namespace
 
 std::unique_ptr<CProyectoEstudio> ProyectoDeEjemplo(const Lugar& lugar)
@@ -110,6 +133,7 @@ std::unique_ptr<CProyectoEstudio> ProyectoDeEjemplo(const Lugar& lugar)
     const Aceptante aceptante("CDlgAsistenteSFVRed");
     phAsistenteSFVRed(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, red);
     PonerEconomia(proyecto->economia);
+    PonerElementos(red, proyecto->elementos);
     return proyecto;
 }
 

@@ -12,6 +12,7 @@
 #include "apoyo.h"
 #include "comun/ficheros.h"
 #include "comun/guion.h"
+#include "esquema/pintura.h"
 #include "ordenes.h"
 #include "proyecto/asistentes.h"
 #include "proyecto/ejemplo.h"
@@ -165,6 +166,92 @@ TEST_F(Ventanas, ElEjemploTieneLosDosDisenosYConsumo)
     EXPECT_EQ(proyecto.aislada.iAcumuladoresSerie, 24);  // 48 V of 2 V each
     EXPECT_GT(AnoDe(proyecto.consumo).Energia(), 0.0);
     EXPECT_EQ(&ui::PresentadorActual(), &guion.presentador);
+}
+
+// On the middle of the first card of that class.
+void DobleClic(VistaEsquema& vista, Elemento::Clase clase)
+{
+    const auto& zonas = vista.Mostrado().zonas;
+    const auto zona = std::ranges::find(zonas, clase, &Zona::clase);
+    ASSERT_NE(zona, zonas.end());
+    const QPoint centro = vista.mapFromScene(zona->x + zona->dAncho / 2, zona->y + zona->dAlto / 2);
+    QTest::mouseDClick(vista.viewport(), Qt::LeftButton, {}, centro);
+}
+
+TEST_F(Ventanas, UnDobleClicAbreElDialogoDelElemento)
+{
+    using Clase = Elemento::Clase;
+    struct Caso {
+        const char* pestana;
+        Clase clase;
+        const char* dialogo;
+    };
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    ventana.show();
+    for (const Caso& caso :
+         {Caso{"aislada", Clase::paneles, "CDlgDatosPanelFotovoltaico"},
+          Caso{"aislada", Clase::regulador, "CDlgDatosReguladorAuto"},
+          Caso{"aislada", Clase::acumuladores, "CDlgDatosAcumulador"},
+          Caso{"aislada", Clase::inversor, "CDlgDatosInversor"},
+          Caso{"aislada", Clase::cargas, "CDlgDatosConsumo"},
+          Caso{"red", Clase::paneles, "CDlgDatosPanelFotovoltaico"},
+          Caso{"red", Clase::inversor, "CDlgDatosInversor"}, Caso{"red", Clase::caja, "CDlgDatosCajaConexion"},
+          Caso{"red", Clase::red, "CDlgDatosRedElectrica"}}) {
+        guion.presentador.transcripciones.clear();
+        guion.Dialogo(caso.dialogo, {paso::Poner{"csReferencia", L"REF"}, paso::Pulsar{"OK"}});
+        ventana.MostrarPestana(caso.pestana);
+        DobleClic(*ventana.EsquemaALaVista(), caso.clase);
+        EXPECT_EQ(guion.presentador.csErrorGuion, std::nullopt) << caso.dialogo;
+        ASSERT_EQ(guion.presentador.transcripciones.size(), 1U) << caso.dialogo;
+    }
+    const CProyectoEstudio& proyecto = sesion.Proyecto();
+    EXPECT_TRUE(sesion.Modificado());
+    EXPECT_EQ(proyecto.elementos.panelesRed.csReferencia, L"REF");
+    EXPECT_EQ(proyecto.elementos.caja.csReferencia, L"REF");
+    EXPECT_EQ(proyecto.elementos.inversor.entradas.GetSize(), 4);  // of the SB5.0
+    EXPECT_EQ(proyecto.red.csInversor, L"SMA#SB5.0-1AV-40");
+    EXPECT_EQ(proyecto.red.iInversores, 4);
+    guion.Dialogo("CDlgDatosAcumulador", {paso::Poner{"nParalelo", L"3"}, paso::Pulsar{"OK"}});
+    ventana.MostrarPestana("aislada");
+    DobleClic(*ventana.EsquemaALaVista(), Clase::acumuladores);
+    EXPECT_EQ(proyecto.aislada.iAcumuladoresParalelo, 3);
+}
+
+bool SeLee(const Lamina& lamina, const CString& csTexto)
+{
+    return std::ranges::any_of(lamina.trazos, [&](const Trazo& t) {
+        const auto* texto = std::get_if<trazo::Texto>(&t);
+        return texto != nullptr && texto->cs == csTexto;
+    });
+}
+
+TEST_F(Ventanas, ElEsquemaLlevaLosRotulosYLosColoresDeLaPersona)
+{
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    ventana.MostrarPestana("red");
+    const VistaEsquema& vista = *ventana.EsquemaALaVista();
+    guion.Dialogo("CDlgRotulacion", {paso::Marcar{"Referencia", true}, paso::Marcar{"Corriente máxima", true},
+                                     paso::Pulsar{"OK"}});
+    Elementos& elementos = sesion.Proyecto().elementos;
+    elementos.inversor.entradas.RemoveAll();
+    elementos.caja.csReferencia = L"CX-1";
+    vista.alRotular(Elemento::Clase::caja);
+    EXPECT_EQ(elementos.caja.iRotulos, 5);
+    EXPECT_TRUE(SeLee(vista.Mostrado(), L"Referencia: CX-1"));
+    EXPECT_TRUE(SeLee(vista.Mostrado(), L"Corriente máxima: 88,0 A"));  // 4 inverters of 22 A
+
+    const auto rojas = [&] {
+        return std::ranges::count_if(vista.Mostrado().trazos, [](const Trazo& t) {
+            const auto* linea = std::get_if<trazo::Linea>(&t);
+            return linea != nullptr && linea->color == ui::ColorDePaleta(1);
+        });
+    };
+    EXPECT_EQ(rojas(), 0);
+    phAsignArrayInverterInputs(0, 2, 4, elementos.inversor.entradas, 1);
+    elementos.inversor.entradas[0].nColor = 1;
+    sesion.Cambiado();
+    EXPECT_EQ(rojas(), 2);  // the first string of the two inverters that are drawn one by one
+    EXPECT_NE(EscribirSvg(vista.Mostrado()).find("stroke=\"#FF0000\""), std::string::npos);
 }
 
 TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
