@@ -96,9 +96,9 @@ bool CDlgDatosInversor::CargarModelo()
     const bool bAislada = m_modelo.iUsoPrincipal == cat::kUsoAislada;
     m_uso->csTexto = bAislada ? cat::kUsosInversor.back() : cat::kUsosInversor.front();
     if (m_modelo.iNumMPPT != m_iNumMPPT || m_modelo.iNumEntradas != m_iNumEntradas) {
+        efv::electrical::AsignarEntradas(kSinNumero, m_modelo.iNumMPPT, m_modelo.iNumEntradas, entradas, true);
         m_iNumMPPT = m_modelo.iNumMPPT;
         m_iNumEntradas = m_modelo.iNumEntradas;
-        efv::electrical::AsignarEntradas(kSinNumero, m_iNumMPPT, m_iNumEntradas, entradas, true);
     }
     return true;
 }
