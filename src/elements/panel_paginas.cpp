@@ -14,8 +14,6 @@ namespace ui = efv::ui;
 using D = efv::elements::DatosPanel;
 using Micro = CBaseMicroInversorModelo;
 
-constexpr auto kElectricos = efv::catalogues::kElectricosPanel;
-
 constexpr auto kOptimizador = ui::Campos<D>({
     {.miembro = &D::bOptimizador, .rotulo = L"Habilitar el uso de optimizadores", .casilla = true},
     {.miembro = &D::bOptModelo, .rotulo = L"Modelo:", .casilla = true},
@@ -74,16 +72,14 @@ CTabPanelFotovoltaicoSTC::CTabPanelFotovoltaicoSTC(ui::Dialogo& dialogo)
     : Pagina(dialogo, L"Características eléctricas del panel (*STC)")
 {
     m_modelo.dVmpm = 0.0;  // a record made by name has 30
-    m_campos.Anadir(*this, kElectricos);
-    for (const auto& fila : kElectricos)
-        ui::DejarEscribir(m_campos.De<ui::Edicion>(fila.miembro), false);
+    m_campos.Anadir(*this, efv::catalogues::kElectricosPanel);
+    m_campos.SoloMostrar();
 }
 
 void CTabPanelFotovoltaicoSTC::Mostrar(const CBasePanelFotoModelo& modelo)
 {
     m_modelo = modelo;
-    for (const auto& fila : kElectricos)
-        ui::Volcar(m_campos.De(fila.miembro));
+    m_campos.Volcar();
 }
 
 // ---------------------------------------------------------------------------------------------------
