@@ -4,6 +4,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <span>
 #include <string>
@@ -62,6 +63,10 @@ public:
 
     /// Writes the new content to the disk, beside the old one and under no name of its own yet.
     void Preparar(std::string_view bytes);
+    /// Takes the next piece of a content.
+    using Sumidero = std::function<void(std::string_view)>;
+    /// The same for a content that needn't fit in memory: `escribir` hands its pieces over one by one.
+    void PrepararPorPartes(const std::function<void(const Sumidero&)>& escribir);
     /// Puts what was prepared in the file's place. The lock ends.
     void Confirmar();
     void Reemplazar(std::string_view bytes)

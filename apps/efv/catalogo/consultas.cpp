@@ -1,8 +1,6 @@
 // Orders that read a catalogue.
 #include <algorithm>
 #include <filesystem>
-#include <new>
-#include <sstream>
 
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
@@ -122,16 +120,13 @@ private:
         Salidas salidas({catalogo.Ruta()});
         if (m_salida)
             salidas.Anadir("--salida", *m_salida);
-        if (!m_salida || salidas.EnLaSalida()) {
-            EscribirModelosCsv(salida, Tipo(), Elegidos(catalogo), m_separador.front());
-            return 0;
-        }
-        std::ostringstream csv;
-        EscribirModelosCsv(csv, Tipo(), Elegidos(catalogo), m_separador.front());
-        // A text stream keeps a want of memory to itself.
-        if (!csv)
-            throw std::bad_alloc();
-        salidas.Escribir({std::move(csv).str()}, salida);
+        const auto exportar = [&, modelos = Elegidos(catalogo)](std::ostream& csv) {
+            EscribirModelosCsv(csv, Tipo(), modelos, m_separador.front());
+        };
+        if (!m_salida || salidas.EnLaSalida())
+            exportar(salida);
+        else
+            salidas.EscribirPorPartes({exportar}, salida);
         return 0;
     }
 

@@ -1,9 +1,11 @@
 #include "comun/salidas.h"
 
 #include <algorithm>
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <streambuf>
 
 #include <fmt/format.h>
 
@@ -39,12 +41,52 @@ bool SonElMismo(const std::string& una, const std::string& otra)
     return !error && completa == fs::weakly_canonical(fs::absolute(otra), error) && !error;
 }
 
-void EscribirFlujo(const std::string& ruta, std::string_view contenido)
+using Sumidero = FicheroRetenido::Sumidero;
+
+/// Hands what is written over in pieces.
+class Partes final : public std::streambuf {
+public:
+    explicit Partes(const Sumidero& sumidero) : m_sumidero(sumidero) { Vaciar(); }
+
+protected:
+    int_type overflow(int_type c) override
+    {
+        sync();
+        if (!traits_type::eq_int_type(c, traits_type::eof()))
+            sputc(traits_type::to_char_type(c));
+        return traits_type::not_eof(c);
+    }
+    int sync() override
+    {
+        m_sumidero({pbase(), static_cast<std::size_t>(pptr() - pbase())});
+        Vaciar();
+        return 0;
+    }
+
+private:
+    void Vaciar() { setp(m_bufer.data(), m_bufer.data() + m_bufer.size()); }
+
+    const Sumidero& m_sumidero;
+    std::array<char, 16384> m_bufer;
+};
+
+void Pasar(const Salidas::Escritor& contenido, const Sumidero& sumidero)
+{
+    Partes partes(sumidero);
+    std::ostream flujo(&partes);
+    // What the writing throws, and a want of memory, would else be kept by the stream.
+    flujo.exceptions(std::ios::badbit | std::ios::failbit);
+    contenido(flujo);
+    flujo.flush();
+}
+
+void EscribirFlujo(const std::string& ruta, const Salidas::Escritor& contenido)
 {
     std::ofstream flujo(ruta, std::ios::binary);
-    flujo.write(contenido.data(), static_cast<std::streamsize>(contenido.size()));
-    if (!flujo.flush())
-        throw ErrorEjecucion(fmt::format("no se puede escribir «{}»", ruta));
+    Pasar(contenido, [&](std::string_view parte) {
+        if (!flujo.write(parte.data(), static_cast<std::streamsize>(parte.size())).flush())
+            throw ErrorEjecucion(fmt::format("no se puede escribir «{}»", ruta));
+    });
 }
 
 bool EsSegura(wchar_t c)
@@ -86,6 +128,16 @@ bool Salidas::EnLaSalida() const
 std::vector<std::string> Salidas::Escribir(const std::vector<std::string>& contenidos,
                                            std::ostream& salida) const
 {
+    std::vector<Escritor> escritores;
+    escritores.reserve(contenidos.size());
+    for (const std::string& contenido : contenidos)
+        escritores.emplace_back([&contenido](std::ostream& flujo) { flujo << contenido; });
+    return EscribirPorPartes(escritores, salida);
+}
+
+std::vector<std::string> Salidas::EscribirPorPartes(const std::vector<Escritor>& contenidos,
+                                                    std::ostream& salida) const
+{
     SistemaFicheros& sistema = *ElMundo().ficheros;
     std::vector<std::optional<FicheroRetenido>> retenidos(m_rutas.size());
     const auto conCada = [&](auto accion) {
@@ -103,13 +155,15 @@ std::vector<std::string> Salidas::Escribir(const std::vector<std::string>& conte
     };
     conCada([&](std::size_t i) {
         if (m_rutas[i] != kSalida && !EsFlujo(m_rutas[i]))
-            retenidos[i].emplace(sistema, m_rutas[i]).Preparar(contenidos[i]);
+            retenidos[i].emplace(sistema, m_rutas[i]).PrepararPorPartes([&](const Sumidero& sumidero) {
+                Pasar(contenidos[i], sumidero);
+            });
     });
     conCada([&](std::size_t i) {
         if (retenidos[i])
             retenidos[i]->Confirmar();
         else if (m_rutas[i] == kSalida)
-            EscribirSinFiltro(salida, contenidos[i]);
+            Pasar(contenidos[i], [&](std::string_view parte) { EscribirSinFiltro(salida, parte); });
         else
             EscribirFlujo(m_rutas[i], contenidos[i]);
     });

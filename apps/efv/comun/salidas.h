@@ -1,6 +1,7 @@
 // Files that a command writes.
 #pragma once
 
+#include <functional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -26,9 +27,15 @@ public:
     /// Whether one of them is the standard output.
     bool EnLaSalida() const;
 
+    /// Writes a content into a stream, whose failures are thrown.
+    using Escritor = std::function<void(std::ostream&)>;
+
     /// Writes them in the order in which they were added, one content each. A file that exists stays as it
     /// was until all successors are complete. @return the paths @throws ErrorEjecucion, naming the file
     std::vector<std::string> Escribir(const std::vector<std::string>& contenidos, std::ostream& salida) const;
+    /// The same for contents that needn't fit in memory.
+    std::vector<std::string> EscribirPorPartes(const std::vector<Escritor>& contenidos,
+                                               std::ostream& salida) const;
 
 private:
     std::vector<std::string> m_entradas, m_rutas;

@@ -204,9 +204,14 @@ std::string FicheroRetenido::Leer(std::size_t maximo)
 
 void FicheroRetenido::Preparar(std::string_view bytes)
 {
+    PrepararPorPartes([bytes](const Sumidero& sumidero) { sumidero(bytes); });
+}
+
+void FicheroRetenido::PrepararPorPartes(const std::function<void(const Sumidero&)>& escribir)
+{
     SoltarProvisional();
     CrearProvisional();
-    EscribirProvisional(bytes);
+    escribir([this](std::string_view bytes) { EscribirProvisional(bytes); });
     if (Existe()) {
         const int iError = m_sistema->CopiarAtributos(m_iFichero, m_iProvisional);
         // A disk without permissions of its own gives every file the same.
