@@ -34,3 +34,13 @@
 #include <quorvel/tarifas.h>
 #include <quorvel/tipos_catalogo.h>
 #include <quorvel/ui.h>
+
+// Threads. The module belongs to one thread, that of the host's interface: every ph... function, catalogue,
+// table, list of record classes, dialog and setting (presenter, units, climate library, world). Beside it any
+// number of threads may calculate at once with the free functions of
+//     <quorvel/solar/energia.h>, <quorvel/solar/planos.h>, InclinacionesOptimas, <quorvel/solar/he5.h>,
+//     ConvertirAnoTipico and RadiacionMensual of <quorvel/solar/pvgis.h>,
+//     the answers of the climate library that <quorvel/clima.h> gives, <quorvel/cables_calculo.h>,
+//     and of <quorvel/economics_calculo.h> those of loans, rates of return and hourly balances,
+// each on data of its own or on data that nobody changes meanwhile. While they do, nobody loads a climate
+// record or a horizon, installs another library or loads the table of factors K that they were given.
