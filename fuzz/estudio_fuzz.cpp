@@ -37,8 +37,8 @@ void Recorrer(std::span<const std::uint8_t> entero)
     const auto bytes = BytesDe(*proyecto);
     if (BytesDe(*ProyectoDe(bytes)) != bytes)
         std::abort();
-    ResumenDe(proyecto->aislada);
-    ResumenDe(proyecto->red);
+    ResumenDe(*proyecto, Diseno::aislada);
+    ResumenDe(*proyecto, Diseno::red);
     Dibujarlo(*proyecto, Diseno::aislada);
     Dibujarlo(*proyecto, Diseno::red);
     ResumenDe(proyecto->consumo, AnoDe(proyecto->consumo));
