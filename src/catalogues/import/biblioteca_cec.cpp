@@ -7,10 +7,11 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/ficheros.h>
 #include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
 
 #include "catalogues/import/cec_fila.h"
-#include "platform/fichero/fichero.h"
 #include "platform/texto/csv.h"
 #include "platform/texto/texto.h"
 
@@ -134,9 +135,10 @@ std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec&
 
 std::string TextoCec(const CString& csFichero)
 {
-    std::optional<std::string> bytes = fichero::LeerFichero(csFichero, kMaximo);
+    const std::string ruta = CadenaUtf8(csFichero);
+    auto [bytes, motivo] = LeerFichero(*ElMundo().ficheros, ruta, kMaximo);
     if (!bytes)
-        throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no se puede leer");
+        throw CFileException(CFileException::generica, ruta + ": " + motivo);
     if (!texto::EsUtf8(*bytes))
         bytes = texto::Windows1252AUtf8(*bytes);
     constexpr std::string_view kMarca = "\xEF\xBB\xBF";

@@ -3,9 +3,12 @@
 #include <array>
 #include <utility>
 
+#include <quorvel/ficheros.h>
 #include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
 
 #include "catalogues/import/claves.h"
+#include "platform/fichero/fichero_texto.h"
 #include "platform/numero/conversion.h"
 #include "ui/fichero_texto.h"
 
@@ -48,9 +51,13 @@ int EnteroImportado(const CString& csValor)
 
 CString TextoImportado(const CString& csFichero)
 {
-    std::optional<CString> csTexto = fichero::LeerTexto(csFichero);
+    const std::string ruta = CadenaUtf8(csFichero);
+    const LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, ruta, fichero::kMaximoTexto);
+    if (!lectura.bytes)
+        throw CFileException(CFileException::generica, ruta + ": " + lectura.motivo);
+    std::optional<CString> csTexto = fichero::TextoDeBytes(*lectura.bytes);
     if (!csTexto)
-        throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no se puede leer");
+        throw CFileException(CFileException::generica, ruta + ": no es texto");
     return std::move(*csTexto);
 }
 

@@ -9,11 +9,14 @@
 #include <optional>
 #include <vector>
 
+#include <quorvel/ficheros.h>
+#include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
+
 #include "platform/clima/ano_cielo.h"
 #include "platform/clima/cielo.h"
 #include "platform/clima/horizonte.h"
 #include "platform/clima/registro_climatico.h"
-#include "platform/fichero/fichero.h"
 #include "platform/texto/texto.h"
 
 namespace efv::clima {
@@ -111,12 +114,18 @@ bool Cargar(std::optional<T>& destino, const CString& csRuta, CString& csError, 
         destino.reset();
         return true;
     }
-    const auto bytes = fichero::LeerFichero(csRuta, kMaximoFicheroClima);
-    if (!bytes) {
-        csError = L"no se puede leer (no existe, no es un fichero corriente o pasa de 16 MiB)";
+    const std::string ruta = CadenaUtf8(csRuta);
+    LecturaFichero lectura;
+    try {
+        lectura = LeerFichero(*ElMundo().ficheros, ruta, kMaximoFicheroClima);
+    } catch (const CFileException& error) {
+        lectura.motivo = MotivoSinRuta(error, ruta);
+    }
+    if (!lectura.bytes) {
+        csError = CadenaDesdeUtf8(lectura.motivo);
         return false;
     }
-    return Tomar(destino, *bytes, csError, leer);
+    return Tomar(destino, *lectura.bytes, csError, leer);
 }
 
 }  // namespace

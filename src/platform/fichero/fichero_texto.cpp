@@ -11,9 +11,6 @@ namespace efv::fichero {
 
 namespace {
 
-// Real files have some kilobytes, a year of quarter hours less than one megabyte.
-constexpr std::size_t kMaximo = std::size_t{16} << 20;
-
 CString ConFinesDeLinea(const CString& csTexto)
 {
     CString csLineas;
@@ -59,7 +56,7 @@ CString Decodificar(std::string_view bytes)
 
 std::optional<CString> LeerTexto(const CString& csRuta)
 {
-    const std::optional<std::string> bytes = LeerFichero(csRuta, kMaximo);
+    const std::optional<std::string> bytes = LeerFichero(csRuta, kMaximoTexto);
     return bytes ? TextoDeBytes(*bytes) : std::nullopt;
 }
 

@@ -7,9 +7,10 @@
 #include <optional>
 #include <string_view>
 
+#include <quorvel/ficheros.h>
 #include <quorvel/framework/CException.h>
+#include <quorvel/mundo.h>
 
-#include "platform/fichero/fichero.h"
 #include "platform/texto/texto.h"
 
 namespace efv {
@@ -197,11 +198,11 @@ bool Responde(const Localidad& l, const CString& csBuscado)
 
 std::vector<Localidad> LeerMunicipios(const CString& csFichero)
 {
-    const auto bytes = fichero::LeerFichero(csFichero, kMaximoFichero);
-    if (!bytes)
-        throw CFileException(CFileException::generica,
-                             CadenaUtf8(csFichero) + ": no existe, no se puede leer o pasa de 16 MiB");
-    return LectorMunicipios(csFichero, *bytes).Leer();
+    const std::string ruta = CadenaUtf8(csFichero);
+    const LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, ruta, kMaximoFichero);
+    if (!lectura.bytes)
+        throw CFileException(CFileException::generica, ruta + ": " + lectura.motivo);
+    return LectorMunicipios(csFichero, *lectura.bytes).Leer();
 }
 
 CString NombreConProvincia(const Localidad& localidad)
