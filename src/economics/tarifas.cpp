@@ -150,24 +150,30 @@ void Poner(PeriodosTarifa& periodos, const Tabla& tabla)
     const auto horas = Tramos(tabla, "hora", {0, kHorasDia}, false);
     const auto meses =
         tabla.Hay("mes") ? Tramos(tabla, "mes", {1, kMeses + 1}, true) : std::vector<Tramo>{{1, kMeses + 1}};
-    for (const Tramo mes : meses)
-        for (int m = mes.iPrimero; m < mes.iFin; ++m)
-            for (const ClaseDia clase : clases)
+    for (const Tramo mes : meses) {
+        for (int m = mes.iPrimero; m < mes.iFin; ++m) {
+            for (const ClaseDia clase : clases) {
+                auto& aiHoras =
+                    periodos.aiPeriodo[static_cast<std::size_t>(m - 1)][static_cast<std::size_t>(clase)];
                 for (const Tramo hora : horas)
-                    for (int h = hora.iPrimero; h < hora.iFin; ++h)
-                        periodos.aiPeriodo[static_cast<std::size_t>(m - 1)][static_cast<std::size_t>(clase)]
-                                          [static_cast<std::size_t>(h)] = iPeriodo;
+                    std::fill(aiHoras.begin() + hora.iPrimero, aiHoras.begin() + hora.iFin, iPeriodo);
+            }
+        }
+    }
     periodos.nPeriodos = std::max(periodos.nPeriodos, static_cast<std::size_t>(iPeriodo) + 1);
 }
 
 void ComprobarCompletos(const PeriodosTarifa& periodos)
 {
-    for (int m = 0; m < kMeses; ++m)
-        for (const ClaseDia clase : {ClaseDia::laborable, ClaseDia::festivo})
-            for (int h = 0; h < kHorasDia; ++h)
+    for (int m = 0; m < kMeses; ++m) {
+        for (const ClaseDia clase : {ClaseDia::laborable, ClaseDia::festivo}) {
+            for (int h = 0; h < kHorasDia; ++h) {
                 if (periodos.En(m, clase, h) == kSinPeriodo)
                     throw ErrorTarifa(fmt::format("falta el período del mes {}, día {}, hora {}", m + 1,
                                                   clase == ClaseDia::laborable ? "laborable" : "festivo", h));
+            }
+        }
+    }
 }
 
 bool EsFestivo(const Tarifa& tarifa, int iDia)

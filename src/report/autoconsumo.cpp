@@ -94,9 +94,10 @@ EstudioAutoconsumo Calcular(const ProyectoAutoconsumo& proyecto)
     e.dRecortada =
         Producir(HorasDeUnKWp(proyecto), proyecto.dPotencia, proyecto.dInversor, e.horas.adProduccion);
     const double dCapacidad = proyecto.bateria ? proyecto.bateria->dCapacidad : 0.0;
-    if (proyecto.bateria)
+    if (proyecto.bateria) {
         economics::OperarBateria(e.horas.Horas(), *proyecto.bateria, proyecto.regla, proyecto.dCosteDegradacion,
                                  e.operacion.emplace());
+    }
     e.ano = economics::EstudiarAno(e.horas.Horas(), e.operacion ? &*e.operacion : nullptr,
                                    proyecto.dCosteDegradacion, proyecto.pago);
     e.registro = RegistroDe(proyecto, proyecto.dPotencia, proyecto.dInversor.value_or(proyecto.dPotencia),

@@ -126,11 +126,12 @@ Seccion SeccionDinero(const ProyectoAutoconsumo& proyecto, const EstudioAutocons
                                                        {s.dDegradacion, 2},
                                                        {s.dAhorro, 2}}};
                       }));
-    if (proyecto.pago == economics::PagoVertido::compensacion)
+    if (proyecto.pago == economics::PagoVertido::compensacion) {
         seccion.notas = {
             "Compensación simplificada: cada mes los excedentes descuentan como mucho el término de energía de "
             "lo "
             "comprado."};
+    }
     return seccion;
 }
 
@@ -222,12 +223,13 @@ Seccion SeccionBarrido(std::span<const PuntoBarrido> puntos)
     for (const char* titulo : {"kWp", "Batería (kWh)", "Coste (€)", "Cubierto (%)", "Aprovechada (%)",
                                "Ahorro (€)", "Recuperación (años)", "T.I.R. (%)"})
         cuadro.columnas.emplace_back(titulo, true);
-    for (const PuntoBarrido& p : puntos)
+    for (const PuntoBarrido& p : puntos) {
         cuadro.filas.push_back({DecimalExacto(p.dPotencia), DecimalExacto(p.dCapacidad), Decimal(p.dCoste, 2),
                                 Decimal(p.dCobertura * 100.0, 1), Decimal(p.dAprovechamiento * 100.0, 1),
                                 Decimal(p.dAhorro, 2),
                                 p.recuperacion.bViable ? Decimal(p.recuperacion.dAnos, 1) : "—",
                                 p.tasa.bHallada ? Decimal(p.tasa.dTIR, 2) : "—"});
+    }
     seccion.graficas.push_back(GraficaBarrido(puntos));
     return seccion;
 }
@@ -305,11 +307,12 @@ std::vector<std::string> Supuestos(const ProyectoAutoconsumo& proyecto)
         "precio).",
         "La tasa interna de retorno es la del coste entero con los ahorros del estudio, sin préstamo.",
     };
-    if (proyecto.bateria)
+    if (proyecto.bateria) {
         supuestos.emplace_back(
             "La batería sigue una regla propia de este programa, con capacidad útil y rendimientos constantes "
             "y sin "
             "consumo en reposo.");
+    }
     supuestos.insert(supuestos.end(), proyecto.fuentes.begin(), proyecto.fuentes.end());
     return supuestos;
 }

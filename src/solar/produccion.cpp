@@ -60,12 +60,13 @@ void SumarCielo(const CampoSolar& campo, double dAltitud, std::span<const PlanoC
 
 void SumarRegistro(std::span<const PlanoCampo> planos, Ano& adSuma)
 {
-    for (const PlanoCampo& plano : planos)
-        for (std::size_t i = 0; i < kHoras; ++i)
-            adSuma[i] += std::max(clima::BibliotecaActual().clGetID(static_cast<int>(i), plano.dInclinacion,
-                                                                    plano.dOrientacion),
-                                  0.0) *
-                         plano.dParte;
+    for (const PlanoCampo& plano : planos) {
+        for (std::size_t i = 0; i < kHoras; ++i) {
+            const double dRadiacion =
+                clima::BibliotecaActual().clGetID(static_cast<int>(i), plano.dInclinacion, plano.dOrientacion);
+            adSuma[i] += std::max(dRadiacion, 0.0) * plano.dParte;
+        }
+    }
 }
 
 }  // namespace

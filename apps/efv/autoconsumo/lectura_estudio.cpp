@@ -141,12 +141,13 @@ void LeerCampo(Lector& lector, ProyectoAutoconsumo& p)
     lector.Numero("edad", {0.0, 50.0}, p.dEdad, "Edad de los paneles", "años");
     p.planos = LeerPlanos(lector.ElObjeto());
     if (!p.planos.planos.empty()) {
-        for (const auto& plano : p.planos.planos)
+        for (const auto& plano : p.planos.planos) {
             lector.Anotar("Plano",
                           fmt::format("{}° de inclinación, {}° de orientación, {} % de la potencia",
                                       DecimalExacto(plano.dInclinacion), DecimalExacto(plano.dOrientacion),
                                       DecimalExacto(plano.dParte * 100.0)),
                           "planos");
+        }
         return;
     }
     solar::PlanoCampo plano{kInclinacionHabitual, p.lugar.bNorte ? 0.0 : 180.0, 1.0};
@@ -247,9 +248,10 @@ void LeerPrecios(const JsonLeido& json, const std::string& estudio,
         pedido.festivos = RutaJunto(estudio, *festivos);
     for (std::size_t i = 0; i < pedido.adPrecio.size(); ++i) {
         const std::string nombre = fmt::format("p{}", i + 1);
-        if (lector.Buscar(nombre.c_str()) != nullptr)
+        if (lector.Buscar(nombre.c_str()) != nullptr) {
             pedido.adPrecio[i] =
                 lector.Exigido(nombre.c_str(), {-10.0, 10.0}, fmt::format("Precio P{}", i + 1), "€/kWh");
+        }
     }
     LeerExcedente(lector, estudio, pedido);
     const auto pago = lector.Texto("pago");
@@ -356,9 +358,10 @@ OpcionesAno LeerRelojDelLugar(Lector& lector, ProyectoAutoconsumo& p)
     opciones.huso = HusoDeLongitud(opciones.dLongitud);
     if (const auto huso = lector.Texto("huso"))
         opciones.huso = ElegirPalabra("huso", *huso, kHusos);
-    if (opciones.dLongitud < kOesteDeEspana || opciones.dLongitud > kEsteDeEspana)
+    if (opciones.dLongitud < kOesteDeEspana || opciones.dLongitud > kEsteDeEspana) {
         p.notas.emplace_back(
             "El lugar no está en España: las horas oficiales de contador y tarifa son las de allí.");
+    }
     return opciones;
 }
 
@@ -400,10 +403,12 @@ std::vector<std::string> FicherosDelEstudio(const JsonLeido& json, const std::st
     if (!json.is_object())
         return rutas;
     anadir(json, "clima", false);
-    for (const char* parte : {"consumo", "precios"})
-        if (json.contains(parte))
+    for (const char* parte : {"consumo", "precios"}) {
+        if (json.contains(parte)) {
             for (const char* nombre : {"fichero", "receptores", "tarifa", "festivos", "excedente"})
                 anadir(json[parte], nombre, true);
+        }
+    }
     return rutas;
 }
 

@@ -48,11 +48,12 @@ JsonEscrito DiasJson(const report::EstudioAutoconsumo& e)
     static constexpr std::array<const char*, 4> kNombres = {"invierno", "primavera", "verano", "otono"};
     const auto dias = economics::DiasTipicos(e.horas.Horas(), e.operacion ? &*e.operacion : nullptr);
     JsonEscrito json = JsonEscrito::object();
-    for (std::size_t i = 0; i < dias.size(); ++i)
+    for (std::size_t i = 0; i < dias.size(); ++i) {
         json[kNombres[i]] = {{"produccion_kWh", dias[i].adProduccion},
                              {"consumo_kWh", dias[i].adConsumo},
                              {"autoconsumo_kWh", dias[i].adAutoconsumo},
                              {"vertido_kWh", dias[i].adVertido}};
+    }
     return json;
 }
 

@@ -125,9 +125,10 @@ private:
     {
         Salidas salidas(FicherosDelEstudio(json, m_estudio));
         for (const auto& [opcion, ruta] :
-             {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}, {"--svg", &m_svg}})
+             {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}, {"--svg", &m_svg}}) {
             if (*ruta)
                 salidas.Anadir(opcion, **ruta);
+        }
         if (salidas.EnLaSalida() && (m_bJson || m_bCsv))
             throw ErrorUso(fmt::format("{} y un fichero «-» se excluyen", m_bJson ? "--json" : "--csv"));
         return salidas;
@@ -143,15 +144,17 @@ private:
         std::vector<double> baterias;
         if (m_baterias)
             baterias = LeerBarrido("--baterias", *m_baterias, 0.0);
-        if (m_baterias && !proyecto.bateria)
+        if (m_baterias && !proyecto.bateria) {
             throw ErrorUso(
                 "--baterias: el estudio no tiene «bateria» de la que tomar potencia, rendimiento y regla");
+        }
         if (potencias.size() * std::max<std::size_t>(baterias.size(), 1) > kMaximoPuntos)
             throw ErrorUso(fmt::format("--barrido y --baterias dan más de {} casos", kMaximoPuntos));
-        if (leido.bCostePorPotencia)
+        if (leido.bCostePorPotencia) {
             proyecto.notas.emplace_back(
                 "El coste es una sola cifra: en los otros tamaños crece con la potencia y la batería no lo "
                 "cambia.");
+        }
         return report::Barrer(proyecto, potencias, baterias);
     }
 

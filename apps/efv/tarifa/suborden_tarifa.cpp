@@ -24,8 +24,8 @@ namespace {
 
 constexpr double kPrecioMaximo = 10.0;  // €/kWh
 constexpr int kHorasSemana = 168;
-// Second Mondays of January and July are in the middle of either time.
-constexpr int kDiaInvierno = 7, kDiaVerano = 188;
+// Days of the year in the weeks that are drawn: 11 January and 11 July, one in each time.
+constexpr int kDiaInvierno = 10, kDiaVerano = 191;
 
 /// The hours of the year with what they cost.
 struct Precios {
@@ -97,7 +97,7 @@ std::string Svg(const Precios& precios)
     grafica.claseX = ui::ClaseEje::diaSemana;
     const auto semana = [&](const wchar_t* nombre, int iDia, ui::Color color) {
         // From the Monday of that week on.
-        iDia -= phGetTipoDiaMes2(static_cast<short>(precios.iAno), iDia + 1);
+        iDia -= TipoDeDiaCivil(DiaDeFecha({precios.iAno, 1, 1}) + iDia);
         ui::SerieCurva serie;
         serie.forma = ui::FormaSerie::escalon;
         serie.csNombre = nombre;
@@ -108,8 +108,8 @@ std::string Svg(const Precios& precios)
         }
         grafica.aSeries.push_back(std::move(serie));
     };
-    semana(L"Enero", kDiaInvierno + 3, ui::kAzul);
-    semana(L"Julio", kDiaVerano + 3, ui::kRojo);
+    semana(L"Enero", kDiaInvierno, ui::kAzul);
+    semana(L"Julio", kDiaVerano, ui::kRojo);
     return ui::EscribirSvg(grafica);
 }
 
@@ -123,11 +123,12 @@ public:
             ->type_name("CUAL");
         linea.add_option("--zona", m_pedido.zona, "peninsula o ceuta_melilla; si falta, peninsula")
             ->type_name("ZONA");
-        for (std::size_t p = 0; p < m_precios.size(); ++p)
+        for (std::size_t p = 0; p < m_precios.size(); ++p) {
             linea
                 .add_option(fmt::format("--p{}", p + 1), m_precios[p],
                             fmt::format("Precio del período P{}, €/kWh sin impuestos", p + 1))
                 ->type_name("PRECIO");
+        }
         linea
             .add_option("--excedente", m_excedente,
                         "Precio del kWh vertido, o fichero con sus 8760 valores; si falta, 0")
@@ -168,9 +169,10 @@ public:
     int Ejecutar(std::ostream& salida) override
     {
         std::vector<std::string> entradas;
-        for (const std::string& ruta : {m_pedido.tarifa, m_pedido.festivos, m_excedente.value_or("")})
+        for (const std::string& ruta : {m_pedido.tarifa, m_pedido.festivos, m_excedente.value_or("")}) {
             if (!ruta.empty())
                 entradas.push_back(ruta);
+        }
         Salidas salidas(std::move(entradas));
         if (m_svg)
             salidas.Anadir("--svg", *m_svg);
@@ -190,10 +192,12 @@ public:
 private:
     void LeerPedido()
     {
-        for (std::size_t p = 0; p < m_precios.size(); ++p)
-            if (m_precios[p])
+        for (std::size_t p = 0; p < m_precios.size(); ++p) {
+            if (m_precios[p]) {
                 m_pedido.adPrecio[p] = LeerAcotado(fmt::format("--p{}", p + 1).c_str(), *m_precios[p],
                                                    -kPrecioMaximo, kPrecioMaximo);
+            }
+        }
         if (m_excedente) {
             m_pedido.dExcedente = LeerNumero(*m_excedente);
             if (!m_pedido.dExcedente)
