@@ -295,18 +295,21 @@ std::vector<CCtrlCurva2D> GraficasDiasTipicos(const EstudioAutoconsumo& e)
 
 std::vector<std::string> Supuestos(const ProyectoAutoconsumo& proyecto)
 {
-    std::vector<std::string> supuestos = {
-        fmt::format("Producción hora a hora: {}; radiación sobre cada plano × potencia × {} de rendimiento.",
-                    solar::NombreDeOrigen(proyecto.planos.origen), DecimalExacto(proyecto.dRendimiento)),
+    std::vector<std::string> supuestos;
+    const auto anadir = [&](std::string texto) { supuestos.push_back(std::move(texto)); };
+    anadir(fmt::format("Producción hora a hora: {}; radiación sobre cada plano × potencia × {} de rendimiento.",
+                       solar::NombreDeOrigen(proyecto.planos.origen), DecimalExacto(proyecto.dRendimiento)));
+    anadir(
         "Horas solares de un año de 365 días; producción, consumo y precios son los de la misma hora. Dentro "
         "de una "
-        "hora lo producido y lo consumido se dan por simultáneos.",
+        "hora lo producido y lo consumido se dan por simultáneos.");
+    anadir(
         "Solo cuenta el término de energía: el de potencia y los demás importes fijos de la factura no "
-        "cambian.",
+        "cambian.");
+    anadir(
         "Cada año el ahorro, quitado el mantenimiento, es el anterior por (1 − envejecimiento + variación del "
-        "precio).",
-        "La tasa interna de retorno es la del coste entero con los ahorros del estudio, sin préstamo.",
-    };
+        "precio).");
+    anadir("La tasa interna de retorno es la del coste entero con los ahorros del estudio, sin préstamo.");
     if (proyecto.bateria) {
         supuestos.emplace_back(
             "La batería sigue una regla propia de este programa, con capacidad útil y rendimientos constantes "

@@ -23,7 +23,7 @@ namespace efv::orden {
 namespace {
 
 constexpr double kPrecioMaximo = 10.0;  // €/kWh
-constexpr int kHorasSemana = 168;
+constexpr int kHorasDia = 24, kHorasSemana = 7 * kHorasDia;
 // Days of the year in the weeks that are drawn: 11 January and 11 July, one in each time.
 constexpr int kDiaInvierno = 10, kDiaVerano = 191;
 
@@ -102,9 +102,10 @@ std::string Svg(const Precios& precios)
         serie.forma = ui::FormaSerie::escalon;
         serie.csNombre = nombre;
         serie.color = color;
+        auto precio = precios.adConsumo.begin() + static_cast<std::ptrdiff_t>(iDia) * kHorasDia;
         for (int h = 0; h < kHorasSemana; ++h) {
-            serie.adX.push_back(0.5 + h / 24.0);
-            serie.adY.push_back(precios.adConsumo[static_cast<std::size_t>(iDia * 24 + h)]);
+            serie.adX.push_back(0.5 + static_cast<double>(h) / kHorasDia);
+            serie.adY.push_back(*precio++);
         }
         grafica.aSeries.push_back(std::move(serie));
     };
