@@ -47,9 +47,10 @@ void LlenarElementos(Ventana& ventana, QMenu& menu)
     std::set<Elemento::Clase> puestas = {Elemento::Clase::puntos};
     VistaEsquema* vista = ventana.EsquemaALaVista();
     for (const Zona& zona : vista != nullptr ? vista->Mostrado().zonas : std::vector<Zona>()) {
-        if (puestas.insert(zona.clase).second)
-            vista->LlenarMenu(*menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&")),
-                              zona.clase);
+        if (!puestas.insert(zona.clase).second)
+            continue;
+        QMenu* dentro = menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&"));
+        vista->LlenarMenu(*dentro, zona.clase);
     }
     if (menu.isEmpty())
         menu.addAction("(ninguno)")->setEnabled(false);

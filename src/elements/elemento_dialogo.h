@@ -107,14 +107,14 @@ protected:
     using DialogoElemento<D>::DialogoElemento;
 
     /// "Modelo" with its field and its button, "Fabricante:", both filled from `datos.csId`. `elegir` must
-    /// outlive the dialog.
-    void AnadirModelo(const catalogues::Elegir& elegir)
+    /// outlive the dialog. The button goes by its caption where no name is given.
+    void AnadirModelo(const catalogues::Elegir& elegir, std::string_view nombreBoton = {})
     {
         this->Anadir(ui::Campos<D>({{.miembro = &D::bModelo, .rotulo = L"Modelo", .casilla = true}}));
         auto& conModelo = this->template De<ui::Casilla>(&D::bModelo);
         m_modelo = &AnadirTexto("csModelo", L"");
         m_modelo->colocacion = ui::JuntoA(conModelo);
-        auto& boton = this->template Anadir<ui::Boton>("ElegirModelo", L"...");
+        auto& boton = this->template Anadir<ui::Boton>(nombreBoton, L"...");
         boton.colocacion = ui::JuntoA(conModelo);
         boton.bHabilitado = this->datos.bModelo != 0;
         boton.alPulsar = [this, &elegir] { Elegir(elegir); };

@@ -64,7 +64,7 @@ CDlgDatosPanelFotovoltaico::CDlgDatosPanelFotovoltaico(const D& inicial, const e
     m_adHorizontal.resize(efv::solar::kHorasBloque);
     bMaximizable = true;
     AnadirReferencia(L"panel");
-    AnadirModelo(bases.elegirPanelFoto);
+    AnadirModelo(bases.elegirPanelFoto, "ElegirModelo");
     AnadirPaneles();
     AnadirMontaje();
     AnadirSombras();

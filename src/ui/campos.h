@@ -217,14 +217,13 @@ public:
     /// The controls show the object and never change it: none is at fault, whatever stands in it.
     void SoloMostrar() const
     {
+        const auto mostrar = [](auto* control) {
+            control->PonerSoloLectura();
+            if constexpr (requires { control->intercambio; })
+                control->intercambio = Intercambio::soloMuestra;
+        };
         for (const Enlace& enlace : m_enlaces)
-            std::visit(
-                [](auto* control) {
-                    control->PonerSoloLectura();
-                    if constexpr (requires { control->intercambio; })
-                        control->intercambio = Intercambio::soloMuestra;
-                },
-                enlace.mando);
+            std::visit(mostrar, enlace.mando);
     }
 
 private:

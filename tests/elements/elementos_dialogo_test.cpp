@@ -172,13 +172,13 @@ TEST_F(ElementosConModelo, UnaBateriaDesconocidaMuestraCerosYVuelveConSuMarca)
 
 TEST_F(ElementosConModelo, ElegirEsCosaDeLaCasillaYLlegaAlAceptar)
 {
-    guion.Dialogo("CDlgDatosAcumulador", {paso::Leer{{"ElegirModelo"}}, paso::Marcar{"Modelo", true},
+    guion.Dialogo("CDlgDatosAcumulador", {paso::Leer{{"..."}}, paso::Marcar{"Modelo", true},
                                           paso::Pulsar{"..."}, paso::Leer{}, paso::Pulsar{"OK"}});
     guion.Dialogo("CDlgVisorXML",
                   {paso::Elegir{"arbol", CString(L"Go Power!#Advanced Lithium 300 Ah")}, paso::Pulsar{"OK"}});
     bModelo = 0;
     EXPECT_EQ(Acumulador(), 1);
-    EXPECT_FALSE(guion.Estado(0, 0, "ElegirModelo").bHabilitado);
+    EXPECT_FALSE(guion.Estado(0, 0, "...").bHabilitado);
     EXPECT_EQ(guion.Texto(0, 1, "csModelo"), L"Advanced Lithium 300 Ah");
     EXPECT_EQ(guion.Texto(0, 1, "dPeso"), L"33,10");
     EXPECT_EQ(csId, L"Go Power!#Advanced Lithium 300 Ah");
