@@ -45,12 +45,13 @@ void LlenarRecientes(Ventana& ventana, QMenu& menu)
 void LlenarElementos(Ventana& ventana, QMenu& menu)
 {
     std::set<Elemento::Clase> puestas = {Elemento::Clase::puntos};
-    VistaEsquema* vista = ventana.EsquemaALaVista();
-    for (const Zona& zona : vista != nullptr ? vista->Mostrado().zonas : std::vector<Zona>()) {
-        if (!puestas.insert(zona.clase).second)
-            continue;
-        QMenu* dentro = menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&"));
-        vista->LlenarMenu(*dentro, zona.clase);
+    if (VistaEsquema* vista = ventana.EsquemaALaVista()) {
+        for (const Zona& zona : vista->Mostrado().zonas) {
+            if (!puestas.insert(zona.clase).second)
+                continue;
+            QMenu* dentro = menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&"));
+            vista->LlenarMenu(*dentro, zona.clase);
+        }
     }
     if (menu.isEmpty())
         menu.addAction("(ninguno)")->setEnabled(false);
