@@ -1,5 +1,6 @@
 // Periods and prices of the shipped tariff counted on a calendar of 2025, and tables that aren't one.
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <sstream>
 
@@ -14,7 +15,7 @@ using namespace efv::economics;
 
 std::string Enviado(const char* nombre)
 {
-    std::ifstream fichero(std::string(EFV_CARPETA_DATOS) + "/" + nombre);
+    std::ifstream fichero(std::filesystem::path(EFV_CARPETA_DATOS) / nombre);
     std::ostringstream texto;
     texto << fichero.rdbuf();
     return texto.str();

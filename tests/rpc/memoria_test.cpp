@@ -75,7 +75,9 @@ TEST(LectorSinMemoria, UnaLineaParaLaQueNoLaHaySeSalta)
 {
     const std::unique_ptr<std::FILE, int (*)(std::FILE*)> fichero(std::tmpfile(), &std::fclose);
     const int iDescriptor = ::fileno(fichero.get());
-    ASSERT_TRUE(EscribirTodo(iDescriptor, std::string(1'000'000, 'x') + "\nfin\n"));
+    std::string lineas(1'000'000, 'x');
+    lineas.append("\nfin\n");
+    ASSERT_TRUE(EscribirTodo(iDescriptor, lineas));
     bool bFaltado = true;
     for (std::size_t n = 0; bFaltado; ++n) {
         ::lseek(iDescriptor, 0, SEEK_SET);
