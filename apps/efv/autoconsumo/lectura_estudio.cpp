@@ -33,11 +33,11 @@ constexpr double kMucho = 1e9;
 /// Spain lies between the Canary and the Balearic Islands, degrees of longitude.
 constexpr double kOesteDeEspana = -19.0, kEsteDeEspana = 5.0;
 
-std::string RutaJunto(const std::string& estudio, const std::string& ruta)
+std::string RutaJunto(const std::string& estudio, const std::string& fichero)
 {
-    if (ruta == "-" || fs::path(ruta).is_absolute())
-        return ruta;
-    return (fs::path(estudio).parent_path() / ruta).string();
+    if (fichero == "-" || fs::path(fichero).is_absolute())
+        return fichero;
+    return (fs::path(estudio).parent_path() / fichero).string();
 }
 
 /// Members of an object by their names, and where each figure comes from.
@@ -396,9 +396,9 @@ std::vector<std::string> FicherosDelEstudio(const JsonLeido& json, const std::st
     const auto anadir = [&](const JsonLeido& objeto, const char* nombre, bool bJunto) {
         if (!objeto.is_object() || !objeto.contains(nombre) || !objeto[nombre].is_string())
             return;
-        const auto texto = objeto[nombre].get<std::string>();
-        if (!texto.empty())
-            rutas.push_back(bJunto ? RutaJunto(ruta, texto) : texto);
+        const auto fichero = objeto[nombre].get<std::string>();
+        if (!fichero.empty())
+            rutas.push_back(bJunto ? RutaJunto(ruta, fichero) : fichero);
     };
     if (!json.is_object())
         return rutas;
