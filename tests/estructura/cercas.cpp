@@ -184,7 +184,8 @@ private:
     void Propia(const Situado& s, const std::string& incluida)
     {
         const std::string junto = s.fichero->ruta.substr(0, s.fichero->ruta.rfind('/') + 1);
-        for (const std::string& ruta : {junto + incluida, s.raiz + "/" + incluida, "src/" + incluida}) {
+        for (const std::string& ruta :
+             {junto + incluida, s.raiz + "/" + incluida, "src/" + incluida, "apps/" + incluida}) {
             if (m_rutas.contains(ruta)) {
                 DeCapa(s, incluida, CapaDeFichero(m_reglas, ruta), false);
                 return;

@@ -40,6 +40,12 @@ std::string RutaJunto(const std::string& estudio, const std::string& fichero)
     return (fs::path(estudio).parent_path() / fichero).string();
 }
 
+// Tariffs that are words, not files.
+bool EsTarifaPropia(const std::string& tarifa)
+{
+    return tarifa == "2.0TD" || tarifa == "plana";
+}
+
 /// Members of an object by their names, and where each figure comes from.
 class Lector {
 public:
@@ -198,8 +204,18 @@ AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const 
     } else if (const auto receptores = lector.Texto("receptores")) {
         ano = AnoDeListaDeReceptores(RutaJunto(estudio, *receptores));
         origen = "receptores";
+    } else if (const JsonLeido* horas = lector.Buscar("horas"); horas != nullptr) {
+        EnObjeto("horas", [&] {
+            if (LeerLista(*horas).size() != ano.horas->size())
+                throw rpc::ErrorValor(fmt::format("son {} valores y se esperaban 8760", horas->size()));
+            std::ranges::transform(*horas, ano.horas->begin(), [](const JsonLeido& hora) {
+                return LeerNumero(hora, {0.0, kMucho});
+            });
+        });
+        ano.origen = "8760 horas del estudio";
+        origen = "horas";
     } else {
-        throw rpc::ErrorValor("falta «fichero», «patron» o «receptores»");
+        throw rpc::ErrorValor("falta «fichero», «patron», «receptores» u «horas»");
     }
     p.adConsumo.assign(ano.horas->begin(), ano.horas->end());
     const double dEnergia = SumaDeHoras(*ano.horas, HorasDePeriodo(12)) / 1000.0;
@@ -241,7 +257,7 @@ void LeerPrecios(const JsonLeido& json, const std::string& estudio,
     const auto tarifa = lector.Texto("tarifa");
     pedido.tarifa = tarifa.value_or(pedido.tarifa);
     lector.Anotar("Tarifa", pedido.tarifa, tarifa ? "tarifa" : nullptr);
-    if (pedido.tarifa != "2.0TD" && pedido.tarifa != "plana")
+    if (!EsTarifaPropia(pedido.tarifa))
         pedido.tarifa = RutaJunto(estudio, pedido.tarifa);
     pedido.zona = lector.Texto("zona").value_or(pedido.zona);
     if (const auto festivos = lector.Texto("festivos"))
@@ -351,10 +367,12 @@ void LeerInversion(Lector& lector, ProyectoAutoconsumo& p)
 OpcionesAno LeerRelojDelLugar(Lector& lector, ProyectoAutoconsumo& p)
 {
     OpcionesAno opciones;
-    if (p.lugar.localidad)
+    if (p.lugar.localidad) {
         opciones.dLongitud = p.lugar.localidad->dLongitud;
-    else
+    } else {
         lector.Numero("longitud", {-180.0, 180.0}, opciones.dLongitud, "Longitud", "°");
+        lector.Numero("altitud", {-500.0, 9000.0}, p.lugar.dAltitud, "Altitud", "m");
+    }
     opciones.huso = HusoDeLongitud(opciones.dLongitud);
     if (const auto huso = lector.Texto("huso"))
         opciones.huso = ElegirPalabra("huso", *huso, kHusos);
@@ -363,6 +381,35 @@ OpcionesAno LeerRelojDelLugar(Lector& lector, ProyectoAutoconsumo& p)
             "El lugar no está en España: las horas oficiales de contador y tarifa son las de allí.");
     }
     return opciones;
+}
+
+const std::string& TextoDe(const JsonLeido& json)
+{
+    return json.get_ref<const std::string&>();
+}
+
+std::string& TextoDe(JsonLeido& json)
+{
+    return json.get_ref<std::string&>();
+}
+
+// The texts of a study that name files; `bJunto`: beside it.
+template <class J, class F>
+void VisitarFicheros(J& json, F ver)
+{
+    const auto mirar = [&](J& objeto, const char* nombre, bool bJunto) {
+        if (objeto.is_object() && objeto.contains(nombre) && objeto[nombre].is_string())
+            ver(TextoDe(objeto[nombre]), bJunto);
+    };
+    if (!json.is_object())
+        return;
+    mirar(json, "clima", false);
+    for (const char* parte : {"consumo", "precios"}) {
+        if (json.contains(parte)) {
+            for (const char* nombre : {"fichero", "receptores", "tarifa", "festivos", "excedente"})
+                mirar(json[parte], nombre, true);
+        }
+    }
 }
 
 }  // namespace
@@ -393,23 +440,19 @@ EstudioLeido LeerEstudio(const JsonLeido& json, const std::string& ruta, const s
 std::vector<std::string> FicherosDelEstudio(const JsonLeido& json, const std::string& ruta)
 {
     std::vector<std::string> rutas{ruta};
-    const auto anadir = [&](const JsonLeido& objeto, const char* nombre, bool bJunto) {
-        if (!objeto.is_object() || !objeto.contains(nombre) || !objeto[nombre].is_string())
-            return;
-        const auto fichero = objeto[nombre].get<std::string>();
-        if (!fichero.empty())
-            rutas.push_back(bJunto ? RutaJunto(ruta, fichero) : fichero);
-    };
-    if (!json.is_object())
-        return rutas;
-    anadir(json, "clima", false);
-    for (const char* parte : {"consumo", "precios"}) {
-        if (json.contains(parte)) {
-            for (const char* nombre : {"fichero", "receptores", "tarifa", "festivos", "excedente"})
-                anadir(json[parte], nombre, true);
-        }
-    }
+    VisitarFicheros(json, [&](const std::string& texto, bool bJunto) {
+        if (!texto.empty())
+            rutas.push_back(bJunto ? RutaJunto(ruta, texto) : texto);
+    });
     return rutas;
+}
+
+void NombrarFicherosEnteros(JsonLeido& json, const std::string& ruta)
+{
+    VisitarFicheros(json, [&](std::string& texto, bool bJunto) {
+        if (bJunto && !EsTarifaPropia(texto))
+            texto = RutaJunto(ruta, texto);
+    });
 }
 
 }  // namespace efv::orden

@@ -23,4 +23,7 @@ EstudioLeido LeerEstudio(const JsonLeido& json, const std::string& ruta, const s
 /// Paths of the files that a study names, for what a run may not write.
 std::vector<std::string> FicherosDelEstudio(const JsonLeido& json, const std::string& ruta);
 
+/// Those that stand beside the study by their whole paths.
+void NombrarFicherosEnteros(JsonLeido& json, const std::string& ruta);
+
 }  // namespace efv::orden

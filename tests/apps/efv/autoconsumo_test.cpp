@@ -92,7 +92,7 @@ TEST(Autoconsumo, LoQueNoValeSeDiceEnUnaLinea)
         {[](Json& j) { j["precios"].erase("p2"); }, "precios: falta el precio del período P2"},
         {[](Json& j) { j["precios"]["tarifa"] = "no-hay.csv"; }, "no-hay.csv»"},
         {[](Json& j) { j["consumo"]["cups"] = "ES55"; }, "no hay ningún punto de suministro «ES55»"},
-        {[](Json& j) { j["consumo"] = Json::object(); }, "consumo: falta «fichero», «patron» o «receptores»"},
+        {[](Json& j) { j["consumo"] = Json::object(); }, "consumo: falta «fichero», «patron», «receptores» u «horas»"},
         {[](Json& j) { j["consumo"]["estricto"] = true; }, "contador-casa.csv»: faltan 6 horas"},
         {[](Json& j) { j["potencia"] = -1; }, "potencia: se esperaba un número de 0,01"},
         {[](Json& j) { j.erase("coste"); }, "falta «coste»"},
