@@ -75,6 +75,13 @@ void CargarRegistroDelProyecto(const Sesion& sesion)
                      ui::Icono::advertencia);
 }
 
+void RecargarRegistro()
+{
+    CString csError;
+    if (!clima::CargarRegistroClimatico(Cargado(), csError))
+        clima::CargarRegistroClimatico({}, csError);
+}
+
 bool EstudiarInclinacion(const Sesion& sesion, double& dInclinacion, double dOrientacion)
 {
     const CProyectoEstudio& proyecto = sesion.Proyecto();

@@ -13,6 +13,8 @@ void QuitarRegistro(Sesion& sesion);
 /// Loads the project's climate record into the climate library, or none. A file that can't be read is told
 /// once.
 void CargarRegistroDelProyecto(const Sesion& sesion);
+/// Puts it back after a study has loaded another, or none.
+void RecargarRegistro();
 
 /// The study of a plane's tilt. @param dInclinacion,dOrientacion of the plane; the tilt that the person accepts
 /// @return whether one was accepted

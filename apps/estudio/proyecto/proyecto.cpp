@@ -286,6 +286,12 @@ void IntercambiarElementos(CProyectoEstudio& proyecto, CArchive& ar)
     IntercambiarComun(dato, elementos.red);
 }
 
+void IntercambiarAutoconsumoGuiado(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    dato(proyecto.economia.csGuiado);
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -305,6 +311,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"situacion", 1, &IntercambiarSituacion},
     {L"planos", 1, &IntercambiarPlanos},
     {L"elementos", 1, &IntercambiarElementos},
+    {L"autoconsumo guiado", 1, &IntercambiarAutoconsumoGuiado},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

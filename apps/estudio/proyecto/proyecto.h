@@ -60,6 +60,7 @@ struct Economia {
     CSFVCalculoEconomicoAuto autoconsumo;
     double adPrecioConsumo[12][31][24];  ///< of a kWh bought, €
     double adPrecioVertido[12][31][24];  ///< of a kWh sold, €
+    CString csGuiado;                    ///< the guided study as its JSON; empty: none yet
 
     Economia();
 };
