@@ -9,6 +9,7 @@
 #include <QuorvelEFV.h>
 
 #include "clima/estudios.h"
+#include "economia/dialogo_autoconsumo.h"
 #include "economia/estudios.h"
 #include "esquema/exportar.h"
 #include "proyecto/asistentes.h"
@@ -128,6 +129,7 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, "I&nforme…", "Ctrl+I", &GuardarInformeALaVista},
     {kEconomia, "&Venta a la red…", nullptr, [](Ventana& v) { EstudiarVenta(v.LaSesion()); }},
     {kEconomia, "&Autoconsumo…", nullptr, [](Ventana& v) { EstudiarAutoconsumo(v.LaSesion()); }},
+    {kEconomia, "Autoconsumo &guiado…", nullptr, [](Ventana& v) { EstudiarAutoconsumoGuiado(v.LaSesion()); }},
     {kEconomia, "&Precios horarios…", nullptr, [](Ventana& v) { EditarPrecios(v.LaSesion()); }},
     {kEsquema, "&Encajar en la ventana", "Ctrl+0", &EncajarEsquema},
     {kEsquema, "&Ampliar", "Ctrl++", [](Ventana& v) { AmpliarEsquema(v, kPasoAmpliar); }},

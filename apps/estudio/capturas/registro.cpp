@@ -11,6 +11,7 @@
 #include "capturas/elementos.h"
 #include "capturas/panel_fotovoltaico.h"
 #include "clima/estudios.h"
+#include "economia/dialogo_autoconsumo.h"
 #include "energia/planos.h"
 #include "proyecto/asistentes.h"
 
@@ -336,6 +337,10 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          {"CCalculoEconomicoAutoSheet", "CDlgCalculoEconomicoAutoDia"},
          &AbrirAutoconsumo,
          &AbrirDias},
+        {"autoconsumo-guiado",
+         {"DialogoAutoconsumo"},
+         [&sesion] { DialogoAutoconsumo(sesion.Proyecto()).Mostrar(); },
+         {}},
         {"precios", {"CCalculoEconomicoAutoSheet"}, &AbrirPrecios, {}},
         {"horas", {"CDlgDetalleHoras"}, &AbrirHoras, {}},
         {"tarifa", {"CDlgGeneradorTarifa"}, [] { economics::AbrirGeneradorTarifa(); }, {}},
