@@ -35,9 +35,12 @@ void ComprobarValores(std::wstring_view texto, const std::string& ruta)
     for (std::size_t nValor = 1; !texto.empty(); ++nValor) {
         const std::size_t fin = std::min(texto.find(kSeparador), texto.size());
         const std::string valor = CadenaUtf8(texto.substr(0, fin));
-        if (!LeerNumero(valor))
+        if (!LeerNumero(valor)) {
             throw ErrorEjecucion(
-                fmt::format("«{}»: el valor {} no es un número: «{}»", ruta, nValor, valor.substr(0, 40)));
+                fmt::format("«{}»: el valor {} no es un número: «{}»; se espera una lista de valores, o un "
+                            "fichero de la distribuidora con fecha, hora y kWh en su cabecera o sus columnas",
+                            ruta, nValor, valor.substr(0, 40)));
+        }
         texto.remove_prefix(std::min(fin + 1, texto.size()));
     }
 }

@@ -32,11 +32,12 @@ void AbrirReguladores()
     double dTension = 48.0, dPotencia = 5300.0, dCorriente = 100.0, dMaxima = 150.0, dMinima = 60.0;
     double dPerdidas = 0.02, dTensionSalida = 230.0, dPotenciaSalida = 5000.0;
     double adAux[8] = {};
-    for (const int iTipo : {0, 1})
+    for (const int iTipo : {0, 1}) {
         phShowPropertyRegulador(csReferencia, csAux, iAux, dTension, dPotencia, dCorriente, dMaxima, dMinima,
                                 adAux[0], adAux[1], adAux[2], adAux[3], adAux[4], adAux[5], dPerdidas, adAux[6],
                                 adAux[7], iTipoRegulador, dTensionSalida, dPotenciaSalida, iTipoSalida,
                                 bExcluir, iRotulos, iTipo);
+    }
 }
 
 void AbrirInversores()

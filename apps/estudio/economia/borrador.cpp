@@ -107,6 +107,11 @@ BorradorAutoconsumo::BorradorAutoconsumo(const std::string& texto) : m_json(Json
         m_json = Nuevo();
 }
 
+bool BorradorAutoconsumo::Entiende(const std::string& texto)
+{
+    return texto.empty() || TieneForma(Json::parse(texto, nullptr, false));
+}
+
 double BorradorAutoconsumo::Numero(const std::string& ruta, double dSinEl) const
 {
     const Json::json_pointer lugar(ruta);

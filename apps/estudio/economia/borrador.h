@@ -27,6 +27,9 @@ public:
     /// @param texto what Texto gave; empty, or anything else: a new study
     explicit BorradorAutoconsumo(const std::string& texto);
 
+    /// Whether that makes no new study of a text that isn't empty.
+    static bool Entiende(const std::string& texto);
+
     std::string Texto() const { return m_json.dump(); }
 
     /// By their path, "/precios/p1".

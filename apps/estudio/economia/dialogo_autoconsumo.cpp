@@ -606,6 +606,13 @@ void DialogoAutoconsumo::Barrer()
 void EstudiarAutoconsumoGuiado(Sesion& sesion)
 {
     CString& csGuiado = sesion.Proyecto().economia.csGuiado;
+    if (!BorradorAutoconsumo::Entiende(CadenaUtf8(csGuiado))) {
+        ui::MostrarAviso(
+            L"El estudio que guarda el proyecto no se entiende: se empieza uno nuevo. El del proyecto queda "
+            L"como "
+            L"está mientras no se escriba nada en el nuevo.",
+            ui::Icono::advertencia);
+    }
     DialogoAutoconsumo dialogo(sesion.Proyecto());
     const CString csAntes = dialogo.Texto();
     dialogo.Mostrar();

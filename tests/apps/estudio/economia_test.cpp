@@ -54,6 +54,16 @@ TEST_F(EconomiaDelProyecto, LasHorasRepartenLaEnergiaDelMes)
     EXPECT_NEAR(Suma(ConsumoDe(sesion.Proyecto())), 4380.0, 1e-9);  // 0.5 kWh · 8760
 }
 
+TEST_F(EconomiaDelProyecto, UnEstudioGuiadoQueNoSeEntiendeSeDiceYSeQueda)
+{
+    CString& csGuiado = sesion.Proyecto().economia.csGuiado;
+    csGuiado = L"{\"precios\":3}";
+    guion.Dialogo("DialogoAutoconsumo", {paso::Pulsar{"Cancel"}});
+    EstudiarAutoconsumoGuiado(sesion);
+    EXPECT_EQ(csGuiado, L"{\"precios\":3}");
+    EXPECT_EQ(guion.Mensajes().size(), 1U);
+}
+
 TEST_F(EconomiaDelProyecto, LosEstudiosSeQuedanEnElProyecto)
 {
     Economia& economia = sesion.Proyecto().economia;
