@@ -43,6 +43,14 @@ CString StringsDe(const DatosInversor& inversor, int iStrings)
     return csStrings;
 }
 
+// The records of both designs name them alike.
+template <class DISENO>
+PanelesDeDiseno PanelesDe(DISENO& diseno)
+{
+    return {diseno.csPanel, diseno.iPanelesSerie, diseno.dInclinacion, diseno.dOrientacion,
+            diseno.iDisposicion};
+}
+
 bool EditarPaneles(const CProyectoEstudio& proyecto, DatosPaneles& paneles, const PanelesDeDiseno& diseno,
                    CString csString)
 {
@@ -129,10 +137,7 @@ void EditarDeAislada(Sesion& sesion, Clase clase)
     Elementos& elementos = proyecto.elementos;
     switch (clase) {
         case Clase::paneles:
-            EditarPaneles(proyecto, elementos.panelesAislada,
-                          {diseno.csPanel, diseno.iPanelesSerie, diseno.dInclinacion, diseno.dOrientacion,
-                           diseno.iDisposicion},
-                          {});
+            EditarPaneles(proyecto, elementos.panelesAislada, PanelesDe(diseno), {});
             return;
         case Clase::regulador:
             return EditarRegulador(diseno, elementos);
@@ -156,9 +161,7 @@ void EditarDeRed(CProyectoEstudio& proyecto, Clase clase)
     Elementos& elementos = proyecto.elementos;
     switch (clase) {
         case Clase::paneles:
-            EditarPaneles(proyecto, elementos.panelesRed,
-                          {diseno.csPanel, diseno.iPanelesSerie, diseno.dInclinacion, diseno.dOrientacion,
-                           diseno.iDisposicion},
+            EditarPaneles(proyecto, elementos.panelesRed, PanelesDe(diseno),
                           StringsDe(elementos.inversor, diseno.iPanelesParalelo));
             return;
         case Clase::inversor:

@@ -5,14 +5,13 @@
 
 #include <fmt/format.h>
 
+#include "platform/texto/recortar.h"
+
 namespace efv::catalogues {
 
-std::string_view Recortar(std::string_view texto)
+std::string_view Recortar(std::string_view celda)
 {
-    const std::size_t primero = texto.find_first_not_of(" \t");
-    if (primero == std::string_view::npos)
-        return {};
-    return texto.substr(primero, texto.find_last_not_of(" \t") - primero + 1);
+    return texto::Recortar(celda, std::string_view(" \t"));
 }
 
 std::string_view FilaLeida::Texto(std::string_view columna) const

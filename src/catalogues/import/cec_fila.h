@@ -20,7 +20,7 @@ public:
 };
 
 /// Without blanks at either end.
-std::string_view Recortar(std::string_view texto);
+std::string_view Recortar(std::string_view celda);
 
 /// A row's cells by the name of their column.
 class FilaLeida {

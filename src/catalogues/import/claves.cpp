@@ -4,6 +4,7 @@
 #include <cwctype>
 
 #include "platform/numero/conversion.h"
+#include "platform/texto/recortar.h"
 
 namespace efv::catalogues {
 
@@ -11,12 +12,9 @@ namespace {
 
 constexpr std::wstring_view kBlancos = L" \t\r\n";
 
-std::wstring_view Recortar(std::wstring_view texto)
+std::wstring_view Recortar(std::wstring_view valor)
 {
-    const std::size_t primero = texto.find_first_not_of(kBlancos);
-    if (primero == std::wstring_view::npos)
-        return {};
-    return texto.substr(primero, texto.find_last_not_of(kBlancos) - primero + 1);
+    return texto::Recortar(valor, kBlancos);
 }
 
 CString Minusculas(std::wstring_view texto)

@@ -9,6 +9,7 @@
 
 #include "platform/numero/conversion.h"
 #include "platform/numero/tolerancia.h"
+#include "platform/texto/recortar.h"
 
 namespace efv::catalogues {
 
@@ -16,12 +17,9 @@ namespace {
 
 constexpr std::wstring_view kBlancos = L" \t\r\n\v\f";
 
-std::wstring_view Recortar(std::wstring_view texto)
+std::wstring_view Recortar(std::wstring_view valor)
 {
-    const std::size_t primero = texto.find_first_not_of(kBlancos);
-    if (primero == std::wstring_view::npos)
-        return {};
-    return texto.substr(primero, texto.find_last_not_of(kBlancos) - primero + 1);
+    return texto::Recortar(valor, kBlancos);
 }
 
 // What is wrong with the trimmed value of tracker `i`; nothing when it reads as `d`.
