@@ -7,7 +7,9 @@
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/documento.h>
 #include <quorvel/report/equipos.h>
+#include <quorvel/report/esquema.h>
 #include <quorvel/report/ficha.h>
 #include <quorvel/report/informe.h>
+#include <quorvel/report/lamina.h>
 #include <quorvel/report/texto.h>
 #include <quorvel/report/venta.h>

@@ -2,8 +2,9 @@
 
 #include <fmt/format.h>
 
-#include <quorvel/framework/CString.h>
 #include <quorvel/report/documento.h>
+
+#include "report/marcado.h"
 
 namespace efv::report {
 
@@ -56,37 +57,6 @@ footer { margin-top: 2rem; border-top: 1px solid var(--linea); padding-top: .5re
   * { print-color-adjust: exact; -webkit-print-color-adjust: exact; }
 }
 )";
-
-// Text of a document, of an attribute too: without what a document can't hold.
-std::string Escapado(const std::string& texto)
-{
-    CString limpio;
-    for (const wchar_t c : CadenaDesdeUtf8(texto)) {
-        switch (c) {
-            case L'&':
-                limpio += L"&amp;";
-                break;
-            case L'<':
-                limpio += L"&lt;";
-                break;
-            case L'>':
-                limpio += L"&gt;";
-                break;
-            case L'"':
-                limpio += L"&quot;";
-                break;
-            case L'\'':
-                limpio += L"&#39;";
-                break;
-            default:
-                if (c == L'\xFFFE' || c == L'\xFFFF')
-                    limpio += L'\xFFFD';
-                else
-                    limpio += c < L' ' || (c >= 0x7F && c < 0xA0) ? L' ' : c;
-        }
-    }
-    return CadenaUtf8(limpio);
-}
 
 std::string Valor(const Dato& dato)
 {

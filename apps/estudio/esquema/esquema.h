@@ -1,62 +1,24 @@
-// A design as a schematic: its elements on a grid of columns and rows, and what connects them.
+// The schematics of the project's designs: the library's, with the models of the module's catalogues and the
+// symbols of this host.
 #pragma once
 
-#include <cstddef>
-#include <vector>
+#include <quorvel/report/esquema.h>
 
-#include <QuorvelEFV.h>
+#include "anfitrion/simbolos.h"
+#include "diseno/equipos.h"
 
 namespace efv::estudio {
 
-struct Elemento {
-    enum class Clase {
-        paneles,
-        regulador,
-        acumuladores,
-        inversor,
-        cargas,
-        caja,  ///< connection box
-        red,
-        puntos  ///< stands for `iCuantos` more of the row above
-    };
-
-    Clase clase;
-    CString csTitulo;
-    std::vector<CString> acsDatos = {};    ///< its figures, one a line
-    std::vector<CString> acsRotulos = {};  ///< what the person wants beside it, below them
-    int iColumna = 0, iFila = 0;
-    int iCuantos = 1;
-    int iSerie = 0, iParalelo = 0;    ///< of panels and batteries
-    bool bUnifilar = false;           ///< drawn as one symbol instead of one by one
-    bool bFalta = false;              ///< its model isn't in the catalogue
-    int iColor = ui::kColorPorCapa;   ///< palette code of all its strings; by layer: each has its own
-    std::vector<int> aiColores = {};  ///< palette codes of its first strings
-
-    /// Palette code of a string, from 1.
-    int ColorDeString(int iString) const;
-};
-
-/// Between two elements, by index.
-struct Conexion {
-    std::size_t nDesde, nHasta;
-    CString csRotulo;
-    CString csDetalle = {};  ///< below the line
-    bool bAlterna = false;
-    CString csCable = {};  ///< section and drop, below that
-};
-
-struct Esquema {
-    CString csTitulo;
-    std::vector<Elemento> elementos;
-    std::vector<Conexion> conexiones;
-    std::vector<CString> acsNotas;
-};
-
-/// Inverters that are drawn one by one; of more of them the first, the last and what lies between.
-inline constexpr int kInversoresDibujados = 3;
+using report::Conexion;
+using report::Elemento;
+using report::Esquema;
+using report::kInversoresDibujados;
 
 /// Empty while there is no accepted design.
-Esquema EsquemaDe(const CSFVAsistenteAislada& diseno);
-Esquema EsquemaDe(const CSFVAsistenteRed& diseno);
+template <class DISENO>
+Esquema EsquemaDe(const DISENO& diseno)
+{
+    return report::EsquemaDe(diseno, CatalogosDelModulo(), CableadoDe(diseno), &EsUnifilar);
+}
 
 }  // namespace efv::estudio

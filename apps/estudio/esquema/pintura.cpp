@@ -5,43 +5,38 @@
 #include <QFontDatabase>
 #include <QGuiApplication>
 #include <QPolygonF>
-#include <QTextStream>
 
 namespace efv::estudio {
 
 namespace {
 
-struct Colores {
-    QRgb claro, oscuro;
+// On a dark screen, in the order of Tinta.
+constexpr std::array<QRgb, 10> kOscuros{
+    0xFF1E2126,  // fondo
+    0xFFE9ECF0,  // texto
+    0xFFA3ABB6,  // tenue
+    0xFFC9CFD8,  // linea
+    0xFFF0A35C,  // alterna
+    0xFF2A2E35,  // tarjeta
+    0xFF2F6299,  // panel
+    0xFF37703F,  // acumulador
+    0xFF6B5A24,  // aparato
+    0xFFFF8A80,  // aviso
 };
 
-// In the order of Tinta.
-constexpr std::array<Colores, 10> kColores{{
-    {0xFFFFFFFF, 0xFF1E2126},  // fondo
-    {0xFF1B1F24, 0xFFE9ECF0},  // texto
-    {0xFF6B7480, 0xFFA3ABB6},  // tenue
-    {0xFF3A4048, 0xFFC9CFD8},  // linea
-    {0xFFB4530A, 0xFFF0A35C},  // alterna
-    {0xFFF6F8FA, 0xFF2A2E35},  // tarjeta
-    {0xFF9CC4EC, 0xFF2F6299},  // panel
-    {0xFFA9D8AE, 0xFF37703F},  // acumulador
-    {0xFFF2E3B8, 0xFF6B5A24},  // aparato
-    {0xFFB3261E, 0xFFFF8A80},  // aviso
-}};
+QColor DeLaBiblioteca(ui::Color color)
+{
+    return {QString::fromStdString(ui::ColorHex(color))};
+}
 
 QPointF AQt(Punto p)
 {
     return {p.x, p.y};
 }
 
-QString Escapado(const CString& cs)
-{
-    return QString::fromStdWString(cs).toHtmlEscaped();
-}
-
 QColor ColorDeTrazo(std::optional<ui::Color> color, Tinta tinta, Tema tema)
 {
-    return color ? QColor(QString::fromStdString(ui::ColorHex(*color))) : ColorDe(tinta, tema);
+    return color ? DeLaBiblioteca(*color) : ColorDe(tinta, tema);
 }
 
 class Pincel {
@@ -98,67 +93,15 @@ private:
     Tema m_tema;
 };
 
-class EscritorSvg {
-public:
-    explicit EscritorSvg(QTextStream& salida) : m_salida(salida) {}
-
-    void operator()(const trazo::Linea& linea) const
-    {
-        m_salida << "<polyline fill=\"none\" stroke=\"" << Nombre(linea.color, linea.tinta)
-                 << "\" stroke-width=\"" << linea.dAncho << "\" points=\"";
-        for (const Punto& p : linea.puntos)
-            m_salida << p.x << ',' << p.y << ' ';
-        m_salida << "\"/>\n";
-    }
-    void operator()(const trazo::Caja& caja) const
-    {
-        m_salida << "<rect x=\"" << caja.esquina.x << "\" y=\"" << caja.esquina.y << "\" width=\""
-                 << caja.dAncho << "\" height=\"" << caja.dAlto << "\" rx=\"" << caja.dRadio << '"';
-        Contorno(Nombre(caja.color, caja.borde), caja.relleno);
-    }
-    void operator()(const trazo::Circulo& circulo) const
-    {
-        m_salida << "<circle cx=\"" << circulo.centro.x << "\" cy=\"" << circulo.centro.y << "\" r=\""
-                 << circulo.dRadio << '"';
-        Contorno(Nombre(circulo.borde), circulo.relleno);
-    }
-    void operator()(const trazo::Texto& texto) const
-    {
-        m_salida << "<text x=\"" << texto.base.x << "\" y=\"" << texto.base.y << "\" font-size=\""
-                 << texto.dTamano << "\" fill=\"" << Nombre(texto.tinta) << '"';
-        if (texto.lado == trazo::Texto::Lado::centro)
-            m_salida << " text-anchor=\"middle\"";
-        if (texto.bNegrita)
-            m_salida << " font-weight=\"bold\"";
-        m_salida << '>' << Escapado(texto.cs) << "</text>\n";
-    }
-
-    static QString Nombre(Tinta tinta)
-    {
-        return tinta == Tinta::ninguna ? QStringLiteral("none") : ColorDe(tinta, Tema::claro).name();
-    }
-
-private:
-    static QString Nombre(std::optional<ui::Color> color, Tinta tinta)
-    {
-        return color ? QString::fromStdString(ui::ColorHex(*color)) : Nombre(tinta);
-    }
-    void Contorno(const QString& csBorde, Tinta relleno) const
-    {
-        m_salida << " stroke=\"" << csBorde << "\" stroke-width=\"1.3\" fill=\"" << Nombre(relleno) << "\"/>\n";
-    }
-
-    QTextStream& m_salida;
-};
-
 }  // namespace
 
 QColor ColorDe(Tinta tinta, Tema tema)
 {
-    if (tinta == Tinta::ninguna)
+    const auto enPapel = report::ColorEnPapel(tinta);
+    if (!enPapel)
         return Qt::transparent;
-    const Colores& colores = kColores.at(static_cast<std::size_t>(tinta));
-    return QColor::fromRgb(tema == Tema::claro ? colores.claro : colores.oscuro);
+    return tema == Tema::claro ? DeLaBiblioteca(*enPapel)
+                               : QColor::fromRgb(kOscuros.at(static_cast<std::size_t>(tinta)));
 }
 
 void Pintar(QPainter& pintor, const Lamina& lamina, Tema tema)
@@ -167,23 +110,6 @@ void Pintar(QPainter& pintor, const Lamina& lamina, Tema tema)
     const Pincel pincel(pintor, tema);
     for (const Trazo& t : lamina.trazos)
         std::visit(pincel, t);
-}
-
-std::string EscribirSvg(const Lamina& lamina)
-{
-    QString documento;
-    QTextStream salida(&documento);
-    salida << R"(<?xml version="1.0" encoding="UTF-8"?>)" << '\n'
-           << "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" << lamina.dAncho << "\" height=\""
-           << lamina.dAlto << "\" viewBox=\"0 0 " << lamina.dAncho << ' ' << lamina.dAlto
-           << "\" font-family=\"sans-serif\">\n"
-           << "<rect width=\"100%\" height=\"100%\" fill=\"" << EscritorSvg::Nombre(Tinta::fondo) << "\"/>\n";
-    const EscritorSvg escritor(salida);
-    for (const Trazo& t : lamina.trazos)
-        std::visit(escritor, t);
-    salida << "</svg>\n";
-    salida.flush();
-    return documento.toStdString();
 }
 
 }  // namespace efv::estudio

@@ -1,7 +1,5 @@
-// Strokes on paper: with Qt's painter, or as an SVG document.
+// Strokes on paper, with Qt's painter.
 #pragma once
-
-#include <string>
 
 #include <QPainter>
 
@@ -15,8 +13,5 @@ QColor ColorDe(Tinta tinta, Tema tema);
 
 /// In the painter's coordinates, without the ground.
 void Pintar(QPainter& pintor, const Lamina& lamina, Tema tema);
-
-/// A self-contained document, UTF-8.
-std::string EscribirSvg(const Lamina& lamina);
 
 }  // namespace efv::estudio

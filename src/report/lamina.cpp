@@ -1,11 +1,11 @@
-#include "esquema/lamina.h"
+#include <quorvel/report/lamina.h>
 
 #include <algorithm>
 #include <map>
 #include <optional>
 #include <utility>
 
-namespace efv::estudio {
+namespace efv::report {
 
 namespace {
 
@@ -370,4 +370,4 @@ Lamina Dibujar(const Esquema& esquema)
     return esquema.elementos.empty() ? Lamina{} : Delineante(esquema).Dibujar();
 }
 
-}  // namespace efv::estudio
+}  // namespace efv::report

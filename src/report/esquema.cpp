@@ -1,10 +1,8 @@
-#include "esquema/esquema.h"
+#include <quorvel/report/esquema.h>
 
-#include "anfitrion/simbolos.h"
-#include "comun/numeros.h"
-#include "diseno/equipos.h"
+#include <quorvel/report/texto.h>
 
-namespace efv::estudio {
+namespace efv::report {
 
 namespace {
 
@@ -12,6 +10,11 @@ using Clase = Elemento::Clase;
 
 constexpr double kMil = 1000.0;
 constexpr std::size_t kCargasEscritas = 4;
+
+CString Cifra(double d, int iDecimales)
+{
+    return CadenaDesdeUtf8(Decimal(d, iDecimales));
+}
 
 CString ModeloDe(const Equipo& equipo)
 {
@@ -29,13 +32,13 @@ CString Cuantos(long long n, const wchar_t* csNombre, const wchar_t* csPlural)
 // Watts, or kilowatts from ten thousand on.
 CString Potencia(double dVatios, const wchar_t* csUnidad)
 {
-    return dVatios < 10.0 * kMil ? Decimal(dVatios, 0) + L" " + csUnidad
-                                 : Decimal(dVatios / kMil, 1) + L" k" + csUnidad;
+    return dVatios < 10.0 * kMil ? Cifra(dVatios, 0) + L" " + csUnidad
+                                 : Cifra(dVatios / kMil, 1) + L" k" + csUnidad;
 }
 
 CString TensionYCorriente(double dTension, double dCorriente)
 {
-    return Decimal(dTension, 0) + L" V · " + Decimal(dCorriente, 1) + L" A";
+    return Cifra(dTension, 0) + L" V · " + Cifra(dCorriente, 1) + L" A";
 }
 
 CString EnSerieYParalelo(int iSerie, int iParalelo)
@@ -44,73 +47,77 @@ CString EnSerieYParalelo(int iSerie, int iParalelo)
            (iParalelo == 1 ? L" ramal" : L" ramales");
 }
 
-Elemento DePaneles(const CampoPaneles& campo, int iSimbolo)
+Elemento DePaneles(const CampoPaneles& campo, bool bUnifilar)
 {
     return {.clase = Clase::paneles,
             .csTitulo = Cuantos(campo.Paneles(), L"panel", L"es"),
             .acsDatos = {ModeloDe(campo), EnSerieYParalelo(campo.iSerie, campo.iParalelo),
-                         Potencia(campo.Potencia(), L"Wp") + L" (" + Decimal(campo.dPmpm, 0) + L" Wp cada uno)",
+                         Potencia(campo.Potencia(), L"Wp") + L" (" + Cifra(campo.dPmpm, 0) + L" Wp cada uno)",
                          L"Pmp: " + TensionYCorriente(campo.Tension(), campo.Corriente()),
-                         L"Voc: " + Decimal(campo.TensionVacio(), 0) + L" V"},
+                         L"Voc: " + Cifra(campo.TensionVacio(), 0) + L" V"},
             .iSerie = campo.iSerie,
             .iParalelo = campo.iParalelo,
-            .bUnifilar = EsUnifilar(iSimbolo),
+            .bUnifilar = bUnifilar,
             .bFalta = !campo.bHallado};
 }
 
-Elemento DeAcumuladores(const CSFVAsistenteAislada& diseno)
+Elemento DeAcumuladores(const BancoAcumuladores& banco, bool bUnifilar)
 {
-    const BancoAcumuladores banco = AcumuladoresDe(diseno);
-    return {.clase = Clase::acumuladores,
-            .csTitulo = Cuantos(banco.Acumuladores(), L"acumulador", L"es"),
-            .acsDatos = {ModeloDe(banco), EnSerieYParalelo(banco.iSerie, banco.iParalelo),
-                         Decimal(banco.dVnom, 0) + L" V, " + Decimal(banco.dCapacidad, 0) + L" Ah " +
-                             banco.csRegimen + L" cada uno",
-                         L"Banco: " + Decimal(banco.Tension(), 0) + L" V · " + Decimal(banco.Capacidad(), 0) +
-                             L" Ah",
-                         L"Energía: " + Decimal(banco.Energia() / kMil, 1) + L" kWh"},
-            .iSerie = banco.iSerie,
-            .iParalelo = banco.iParalelo,
-            .bUnifilar = EsUnifilar(diseno.iSimboloAcumulador),
-            .bFalta = !banco.bHallado};
+    return {
+        .clase = Clase::acumuladores,
+        .csTitulo = Cuantos(banco.Acumuladores(), L"acumulador", L"es"),
+        .acsDatos = {ModeloDe(banco), EnSerieYParalelo(banco.iSerie, banco.iParalelo),
+                     Cifra(banco.dVnom, 0) + L" V, " + Cifra(banco.dCapacidad, 0) + L" Ah " + banco.csRegimen +
+                         L" cada uno",
+                     L"Banco: " + Cifra(banco.Tension(), 0) + L" V · " + Cifra(banco.Capacidad(), 0) + L" Ah",
+                     L"Energía: " + Cifra(banco.Energia() / kMil, 1) + L" kWh"},
+        .iSerie = banco.iSerie,
+        .iParalelo = banco.iParalelo,
+        .bUnifilar = bUnifilar,
+        .bFalta = !banco.bHallado};
 }
 
 Elemento DeRegulador(const CSFVAsistenteAislada& diseno)
 {
     return {.clase = Clase::regulador,
             .csTitulo = L"Regulador de carga",
-            .acsDatos = {L"Sistema: " + Decimal(diseno.dTensionSistema, 0) + L" V",
+            .acsDatos = {L"Sistema: " + Cifra(diseno.dTensionSistema, 0) + L" V",
                          L"Potencia FV máx.: " + Potencia(diseno.dPotenciaMaxFV, L"W"),
-                         L"Tensión FV: " + Decimal(diseno.dTensionMinFV, 0) + L"–" +
-                             Decimal(diseno.dTensionMaxFV, 0) + L" V",
-                         L"Corriente FV máx.: " + Decimal(diseno.dCorrienteMaxFV, 0) + L" A"}};
+                         L"Tensión FV: " + Cifra(diseno.dTensionMinFV, 0) + L"–" +
+                             Cifra(diseno.dTensionMaxFV, 0) + L" V",
+                         L"Corriente FV máx.: " + Cifra(diseno.dCorrienteMaxFV, 0) + L" A"}};
 }
 
 // Section and drop of a stretch, or that none is enough.
-CString DeCable(const report::Cableado& cableado, std::string_view clave)
+CString DeCable(const Cableado& cableado, std::string_view clave)
 {
-    for (const report::TramoDiseno& tramo : cableado.tramos) {
+    for (const TramoDiseno& tramo : cableado.tramos) {
         if (tramo.clave != clave)
             continue;
         if (!tramo.Cumple())
             return L"NO CUMPLE";
         const CString csSeccion =
             CadenaDesdeUtf8(report::TextoSeccion(tramo.calculo.dSeccion, tramo.tramo.iConductoresFase));
-        return tramo.bDatos && tramo.bLongitud
-                   ? csSeccion + L" · " + Decimal(tramo.calculo.dCaidaPct, 2) + L" %"
-                   : csSeccion;
+        return tramo.bDatos && tramo.bLongitud ? csSeccion + L" · " + Cifra(tramo.calculo.dCaidaPct, 2) + L" %"
+                                               : csSeccion;
     }
     return L"—";
 }
 
+struct SimbolosUnifilares {
+    EsUnifilar esUnifilar;
+
+    bool operator()(int iSimbolo) const { return esUnifilar != nullptr && esUnifilar(iSimbolo); }
+};
+
 /// The loads of one kind of current.
 struct GrupoCargas {
-    std::vector<const Carga*> cargas;
+    std::vector<const CargaDiseno*> cargas;
     double dPotencia = 0.0, dEnergia = 0.0;
 
-    GrupoCargas(const std::vector<Carga>& todas, bool bAlternas, bool bTodas)
+    GrupoCargas(const std::vector<CargaDiseno>& todas, bool bAlternas, bool bTodas)
     {
-        for (const Carga& carga : todas) {
+        for (const CargaDiseno& carga : todas) {
             if (!bTodas && carga.bAlterna != bAlternas)
                 continue;
             cargas.push_back(&carga);
@@ -123,13 +130,13 @@ struct GrupoCargas {
     {
         Elemento elemento{.clase = Clase::cargas, .csTitulo = csTitulo};
         for (std::size_t i = 0; i < cargas.size() && i < kCargasEscritas; ++i)
-            elemento.acsDatos.push_back(Decimal(cargas[i]->dCantidad, 0) + L" × " + ModeloDe(*cargas[i]));
+            elemento.acsDatos.push_back(Cifra(cargas[i]->dCantidad, 0) + L" × " + ModeloDe(*cargas[i]));
         if (cargas.size() > kCargasEscritas)
             elemento.acsDatos.push_back(
                 L"… y " + Cuantos(static_cast<long long>(cargas.size() - kCargasEscritas), L"modelo", L"s") +
                 L" más");
-        elemento.acsDatos.push_back(Potencia(dPotencia, L"W") + L" · " + Decimal(dEnergia, 0) + L" Wh/día");
-        for (const Carga* carga : cargas)
+        elemento.acsDatos.push_back(Potencia(dPotencia, L"W") + L" · " + Cifra(dEnergia, 0) + L" Wh/día");
+        for (const CargaDiseno* carga : cargas)
             elemento.bFalta = elemento.bFalta || !carga->bHallado;
         return elemento;
     }
@@ -154,11 +161,10 @@ public:
 
 // Loads of direct current hang on the regulator; those of alternating current on the inverter, where there
 // is one.
-void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, const report::Cableado& cableado,
-                 std::size_t nRegulador)
+void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, const std::vector<CargaDiseno>& cargas,
+                 const Cableado& cableado, std::size_t nRegulador)
 {
-    const std::vector<Carga> cargas = CargasDe(diseno);
-    const CString csContinua = Decimal(diseno.dTensionSistema, 0) + L" V CC";
+    const CString csContinua = Cifra(diseno.dTensionSistema, 0) + L" V CC";
     const bool bSalida = diseno.bSalidaCA != 0;
     const GrupoCargas continuas(cargas, false, !bSalida);
     if (!continuas.cargas.empty() || !bSalida) {
@@ -177,14 +183,14 @@ void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, const r
     const std::size_t nInversor =
         trazador.Poner({.clase = Clase::inversor,
                         .csTitulo = L"Salida en CA",
-                        .acsDatos = {Decimal(diseno.dTensionSalidaCA, 0) + L" V, " +
+                        .acsDatos = {Cifra(diseno.dTensionSalidaCA, 0) + L" V, " +
                                      (diseno.iTipoSalidaCA == 0 ? L"monofásica" : L"trifásica")}},
                        2, iFila);
     trazador.Unir({nRegulador, nInversor, csContinua, {}, false, DeCable(cableado, "inversor")});
     const std::size_t nCargas = trazador.Poner(alternas.ComoElemento(L"Receptores CA"), 3, iFila);
     trazador.Unir({nInversor,
                    nCargas,
-                   Decimal(diseno.dTensionSalidaCA, 0) + L" V CA",
+                   Cifra(diseno.dTensionSalidaCA, 0) + L" V CA",
                    {},
                    true,
                    DeCable(cableado, "salida")});
@@ -202,22 +208,22 @@ std::vector<int> Numeros(int iInversores)
     return {1, 0, iInversores};
 }
 
-Elemento DeInversor(const GrupoInversores& inversores, int iNumero, int iSimbolo)
+Elemento DeInversor(const GrupoInversores& inversores, int iNumero, bool bUnifilar)
 {
-    return {.clase = Clase::inversor,
-            .csTitulo = L"Inversor " + std::to_wstring(iNumero),
-            .acsDatos = {ModeloDe(inversores), Potencia(inversores.dPCANom, L"W") + L" nominal",
-                         L"MPPT: " + Decimal(inversores.dVMPPMin, 0) + L"–" + Decimal(inversores.dVMPPMax, 0) +
-                             L" V",
-                         std::to_wstring(inversores.iNumMPPT) + L" seguidores, " +
-                             std::to_wstring(inversores.iNumEntradas) + L" entradas"},
-            .bUnifilar = EsUnifilar(iSimbolo),
-            .bFalta = !inversores.bHallado};
+    return {
+        .clase = Clase::inversor,
+        .csTitulo = L"Inversor " + std::to_wstring(iNumero),
+        .acsDatos = {ModeloDe(inversores), Potencia(inversores.dPCANom, L"W") + L" nominal",
+                     L"MPPT: " + Cifra(inversores.dVMPPMin, 0) + L"–" + Cifra(inversores.dVMPPMax, 0) + L" V",
+                     std::to_wstring(inversores.iNumMPPT) + L" seguidores, " +
+                         std::to_wstring(inversores.iNumEntradas) + L" entradas"},
+        .bUnifilar = bUnifilar,
+        .bFalta = !inversores.bHallado};
 }
 
 CString Longitud(const wchar_t* csNombre, double d)
 {
-    return CString(csNombre) + L" = " + Decimal(d, 1) + L" m";
+    return CString(csNombre) + L" = " + Cifra(d, 1) + L" m";
 }
 
 }  // namespace
@@ -230,17 +236,19 @@ int Elemento::ColorDeString(int iString) const
     return i < aiColores.size() ? aiColores[i] : ui::kColorPorCapa;
 }
 
-Esquema EsquemaDe(const CSFVAsistenteAislada& diseno)
+Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos, const Cableado& cableado,
+                  EsUnifilar esUnifilar)
 {
     if (!HayDiseno(diseno))
         return {};
-    const CampoPaneles campo = PanelesDe(diseno);
-    const report::Cableado cableado = CableadoDe(diseno);
+    const CampoPaneles campo = PanelesDe(diseno, catalogos);
+    const SimbolosUnifilares unifilar{esUnifilar};
     Trazador trazador;
     trazador.esquema.csTitulo = L"Instalación aislada";
-    const std::size_t nPaneles = trazador.Poner(DePaneles(campo, diseno.iSimboloPanel), 0, 0);
+    const std::size_t nPaneles = trazador.Poner(DePaneles(campo, unifilar(diseno.iSimboloPanel)), 0, 0);
     const std::size_t nRegulador = trazador.Poner(DeRegulador(diseno), 1, 0);
-    const std::size_t nAcumuladores = trazador.Poner(DeAcumuladores(diseno), 1, 1);
+    const std::size_t nAcumuladores = trazador.Poner(
+        DeAcumuladores(AcumuladoresDe(diseno, catalogos), unifilar(diseno.iSimboloAcumulador)), 1, 1);
     trazador.Unir({nPaneles,
                    nRegulador,
                    TensionYCorriente(campo.Tension(), campo.Corriente()),
@@ -249,23 +257,24 @@ Esquema EsquemaDe(const CSFVAsistenteAislada& diseno)
                    DeCable(cableado, "paneles")});
     trazador.Unir({nRegulador,
                    nAcumuladores,
-                   Decimal(diseno.dTensionSistema, 0) + L" V CC",
+                   Cifra(diseno.dTensionSistema, 0) + L" V CC",
                    {},
                    false,
                    DeCable(cableado, "acumuladores")});
-    PonerCargas(trazador, diseno, cableado, nRegulador);
+    PonerCargas(trazador, diseno, CargasDe(diseno, catalogos), cableado, nRegulador);
     return std::move(trazador.esquema);
 }
 
-Esquema EsquemaDe(const CSFVAsistenteRed& diseno)
+Esquema EsquemaDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos, const Cableado& cableado,
+                  EsUnifilar esUnifilar)
 {
     if (!HayDiseno(diseno))
         return {};
-    const CampoPaneles campo = PanelesDe(diseno);
-    const GrupoInversores inversores = InversoresDe(diseno);
+    const CampoPaneles campo = PanelesDe(diseno, catalogos);
+    const GrupoInversores inversores = InversoresDe(diseno, catalogos);
+    const SimbolosUnifilares unifilar{esUnifilar};
     const double dCampos = campo.Potencia() * inversores.iCuantos;
     const bool bTrifasica = inversores.iTipoSalida != 0;
-    const report::Cableado cableado = CableadoDe(diseno);
     Trazador trazador;
     trazador.esquema.csTitulo = L"Instalación conectada a red";
     // In the middle row of the inverters.
@@ -291,13 +300,13 @@ Esquema EsquemaDe(const CSFVAsistenteRed& diseno)
                            1, iFila);
             continue;
         }
-        const std::size_t nPaneles = trazador.Poner(DePaneles(campo, diseno.iSimboloPanel), 0, iFila);
+        const std::size_t nPaneles = trazador.Poner(DePaneles(campo, unifilar(diseno.iSimboloPanel)), 0, iFila);
         const std::size_t nInversor =
-            trazador.Poner(DeInversor(inversores, iNumero, diseno.iSimboloInversor), 1, iFila);
+            trazador.Poner(DeInversor(inversores, iNumero, unifilar(diseno.iSimboloInversor)), 1, iFila);
         trazador.Unir({nPaneles, nInversor, TensionYCorriente(campo.Tension(), campo.Corriente()),
                        Longitud(L"L1", diseno.dLongitudL1), false, DeCable(cableado, "L1")});
         trazador.Unir({nInversor, nCaja,
-                       Decimal(inversores.dVCANom, 0) + L" V · " + Potencia(inversores.dPCANom, L"W"),
+                       Cifra(inversores.dVCANom, 0) + L" V · " + Potencia(inversores.dPCANom, L"W"),
                        Longitud(L"L2", diseno.dLongitudL2), true, DeCable(cableado, "L2")});
     }
     trazador.Unir({nCaja, nRed, Potencia(inversores.Potencia(), L"W"), Longitud(L"L3", diseno.dLongitudL3),
@@ -305,4 +314,4 @@ Esquema EsquemaDe(const CSFVAsistenteRed& diseno)
     return std::move(trazador.esquema);
 }
 
-}  // namespace efv::estudio
+}  // namespace efv::report

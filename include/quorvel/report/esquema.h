@@ -1,0 +1,71 @@
+// A design as a schematic: its elements on a grid of columns and rows, and what connects them.
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include <quorvel/assistants.h>
+#include <quorvel/exportar.h>
+#include <quorvel/report/cableado.h>
+#include <quorvel/report/equipos.h>
+#include <quorvel/ui/color.h>
+
+namespace efv::report {
+
+struct EFV_API Elemento {
+    enum class Clase {
+        paneles,
+        regulador,
+        acumuladores,
+        inversor,
+        cargas,
+        caja,  ///< connection box
+        red,
+        puntos  ///< stands for `iCuantos` more of the row above
+    };
+
+    Clase clase;
+    CString csTitulo;
+    std::vector<CString> acsDatos = {};    ///< its figures, one a line
+    std::vector<CString> acsRotulos = {};  ///< what the person wants beside it, below them
+    int iColumna = 0, iFila = 0;
+    int iCuantos = 1;
+    int iSerie = 0, iParalelo = 0;    ///< of panels and batteries
+    bool bUnifilar = false;           ///< drawn as one symbol instead of one by one
+    bool bFalta = false;              ///< its model isn't in the catalogue
+    int iColor = ui::kColorPorCapa;   ///< palette code of all its strings; by layer: each has its own
+    std::vector<int> aiColores = {};  ///< palette codes of its first strings
+
+    /// Palette code of a string, from 1.
+    int ColorDeString(int iString) const;
+};
+
+/// Between two elements, by index.
+struct Conexion {
+    std::size_t nDesde, nHasta;
+    CString csRotulo;
+    CString csDetalle = {};  ///< below the line
+    bool bAlterna = false;
+    CString csCable = {};  ///< section and drop, below that
+};
+
+struct Esquema {
+    CString csTitulo;
+    std::vector<Elemento> elementos;
+    std::vector<Conexion> conexiones;
+    std::vector<CString> acsNotas;
+};
+
+/// Inverters that are drawn one by one; of more of them the first, the last and what lies between.
+inline constexpr int kInversoresDibujados = 3;
+
+/// Whether a host's symbol stands for a whole field instead of a piece.
+using EsUnifilar = bool (*)(int iSimbolo);
+
+/// Empty while there is no accepted design. @param esUnifilar null: drawn piece by piece
+EFV_API Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos,
+                          const Cableado& cableado, EsUnifilar esUnifilar = nullptr);
+EFV_API Esquema EsquemaDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos, const Cableado& cableado,
+                          EsUnifilar esUnifilar = nullptr);
+
+}  // namespace efv::report
