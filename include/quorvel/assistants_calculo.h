@@ -239,21 +239,25 @@ struct LimitesRegulador {
 EFV_API ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
                                     const LimitesRegulador& regulador);
 
-/// Why no field of a module fits an inverter.
+/// Why no field of a module fits an inverter or a regulator.
 enum class SinPropuesta {
-    ninguna,     ///< there is one
-    usoAislado,  ///< the inverter isn't meant for the grid
-    sinDatos,    ///< no limit of voltage is known, or no power
-    tension,     ///< no count of panels in series keeps within the voltages
-    corriente,   ///< a single string has too much current for a tracker
-    potenciaCC,  ///< the shortest string has too much power for an inverter
+    ninguna,             ///< there is one
+    usoAislado,          ///< the inverter isn't meant for the grid
+    sinDatos,            ///< no limit of voltage is known, or no power
+    tension,             ///< no count of panels in series keeps within the voltages
+    corriente,           ///< a single string has too much current for a tracker
+    potenciaCC,          ///< the shortest string has too much power for an inverter
+    tensionRegulador,    ///< no count of panels in series keeps within the regulator's voltages
+    corrienteRegulador,  ///< a single string has too much current for the regulator
+    potenciaRegulador,   ///< no field that keeps to the regulator's limits reaches the power
 };
 
 struct PropuestaComprobada {
     SinPropuesta falta = SinPropuesta::ninguna;
-    int iInversores = 0, iPanelesSerie = 0, iRamales = 0;  ///< strings of one inverter
-    double dPotencia = 0.0;                                ///< of all panels, kW
-    bool bSeguidoresIguales = true;                        ///< all trackers have the same count of strings
+    int iInversores = 0;                  ///< 0 on a regulator
+    int iPanelesSerie = 0, iRamales = 0;  ///< strings of one inverter
+    double dPotencia = 0.0;               ///< of all panels, kW
+    bool bSeguidoresIguales = true;       ///< all trackers have the same count of strings
     ComprobacionCampo comprobacion;
 };
 
@@ -264,5 +268,10 @@ struct PropuestaComprobada {
 EFV_API PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& campo,
                                                const CBasePanelFotoModelo& panel,
                                                const CBaseInversorModelo& inversor);
+
+/// The same on one regulator: of the fields that reach the power, the least, then that of fewest strings.
+EFV_API PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& campo,
+                                               const CBasePanelFotoModelo& panel,
+                                               const LimitesRegulador& regulador);
 
 }  // namespace efv::assistants

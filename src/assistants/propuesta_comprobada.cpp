@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <functional>
 #include <optional>
+#include <utility>
 
 #include <quorvel/assistants_calculo.h>
 
@@ -15,29 +17,40 @@ namespace {
 // Beyond these no inverter goes, whatever a catalogue says.
 constexpr int kSerieMaxima = 1000, kRamalesMaximos = 1000;
 constexpr double kInversoresMaximos = 1e9;
+constexpr double kVatios = 1000.0;  // of a kW
 constexpr double kRedondeo = 1e-9;  // of a quotient that is a whole number
+
+/// A field of panels in series and in strings.
+struct Reparto {
+    int iSerie = 0, iRamales = 0;
+    int Paneles() const { return iSerie * iRamales; }
+};
+
+// Holds a field against its limits.
+using Comprobador = std::function<ComprobacionCampo(Reparto)>;
 
 class Buscador {
 public:
-    Buscador(const CampoInversor& campo, const CBasePanelFotoModelo& panel, const CBaseInversorModelo& inversor)
-        : m_campo(campo), m_panel(panel), m_inversor(inversor)
+    /// @param iPaso the least count of strings that loads all trackers alike
+    Buscador(Comprobador comprobar, int iPaso, int iRamalesMaximos)
+        : m_comprobar(std::move(comprobar)), m_iPaso(iPaso), m_iRamalesMaximos(iRamalesMaximos)
     {
     }
 
-    // The field of one inverter with at least that many panels, the fewest; with equal trackers or with any.
-    std::optional<CampoInversor> Menor(double dPaneles, bool bIguales) const
+    // The field with at least that many panels, the fewest; with equal trackers or with any.
+    std::optional<Reparto> Menor(double dPaneles, bool bIguales) const
     {
-        std::optional<CampoInversor> mejor;
-        const int iPaso = bIguales ? std::max(m_inversor.iNumMPPT, 1) : 1;
-        for (int p = iPaso; p <= RamalesMaximos(); p += iPaso) {
+        std::optional<Reparto> mejor;
+        const int iPaso = bIguales ? m_iPaso : 1;
+        for (int p = iPaso; p <= m_iRamalesMaximos; p += iPaso) {
             if (!CorrienteCabe(p))
                 break;
             for (int s = 1; s <= kSerieMaxima; ++s) {
-                const bool bMejora = !mejor || s * p < mejor->iPanelesSerie * mejor->iPanelesParalelo;
+                const bool bMejora = !mejor || s * p < mejor->Paneles();
                 if (!bMejora)
                     break;
-                if (numero::MenorIgual(dPaneles, static_cast<double>(s) * p) && Cabe(s, p)) {
-                    mejor = Campo(s, p);
+                if (numero::MenorIgual(dPaneles, static_cast<double>(s) * p) && Cabe({s, p})) {
+                    mejor = {s, p};
                     break;
                 }
                 if (TensionPasada(s))
@@ -51,62 +64,73 @@ public:
     int Mayor(bool bIguales) const
     {
         int iMayor = 0;
-        const int iPaso = bIguales ? std::max(m_inversor.iNumMPPT, 1) : 1;
-        for (int p = iPaso; p <= RamalesMaximos() && CorrienteCabe(p); p += iPaso)
+        const int iPaso = bIguales ? m_iPaso : 1;
+        for (int p = iPaso; p <= m_iRamalesMaximos && CorrienteCabe(p); p += iPaso)
             for (int s = 1; s <= kSerieMaxima && !TensionPasada(s); ++s)
-                if (s * p > iMayor && Cabe(s, p))
+                if (s * p > iMayor && Cabe({s, p}))
                     iMayor = s * p;
         return iMayor;
     }
 
-    // What stands in the way when nothing fits at all.
-    SinPropuesta Motivo() const
+    // Whether any count in series keeps within the voltages.
+    bool HayTension() const
     {
         bool bTension = false;
         for (int s = 1; s <= kSerieMaxima && !TensionPasada(s); ++s)
-            bTension = bTension || Cumplen(Campo(s, 1), kTensiones);
-        if (!bTension)
-            return SinPropuesta::tension;
-        return CorrienteCabe(1) ? SinPropuesta::potenciaCC : SinPropuesta::corriente;
+            bTension = bTension || Cumplen({s, 1}, kTensiones);
+        return bTension;
     }
+    // More strings only have more current.
+    bool CorrienteCabe(int p) const { return Cumplen({1, p}, kCorrientes); }
 
 private:
-    static constexpr std::array kTensiones = {Limite::tensionVacioInversor, Limite::tensionVacioModulo,
-                                              Limite::tensionMppMaxima, Limite::tensionMppMinima};
+    static constexpr std::array kTensiones = {Limite::tensionVacioInversor,  Limite::tensionVacioModulo,
+                                              Limite::tensionMppMaxima,      Limite::tensionMppMinima,
+                                              Limite::tensionVacioRegulador, Limite::tensionMppRegulador};
     static constexpr std::array kTopes = {Limite::tensionVacioInversor, Limite::tensionVacioModulo,
-                                          Limite::tensionMppMaxima};
-    static constexpr std::array kCorrientes = {Limite::corrienteMpp, Limite::corrienteCortocircuito};
+                                          Limite::tensionMppMaxima, Limite::tensionVacioRegulador};
+    static constexpr std::array kCorrientes = {Limite::corrienteMpp, Limite::corrienteCortocircuito,
+                                               Limite::corrienteRegulador};
 
-    CampoInversor Campo(int iSerie, int iRamales) const
-    {
-        CampoInversor campo = m_campo;
-        campo.iPanelesSerie = iSerie;
-        campo.iPanelesParalelo = iRamales;
-        return campo;
-    }
     template <std::size_t N>
-    bool Cumplen(const CampoInversor& campo, const std::array<Limite, N>& limites) const
+    bool Cumplen(Reparto reparto, const std::array<Limite, N>& limites) const
     {
-        const ComprobacionCampo c = Comprobar(campo, m_panel, m_inversor);
+        const ComprobacionCampo c = m_comprobar(reparto);
         return std::ranges::none_of(c.limites, [&](const Comprobacion& limite) {
             return limite.bCumple == false && std::ranges::find(limites, limite.limite) != limites.end();
         });
     }
-    bool Cabe(int s, int p) const { return !Comprobar(Campo(s, p), m_panel, m_inversor).Incumple(); }
+    bool Cabe(Reparto reparto) const { return !m_comprobar(reparto).Incumple(); }
     // Longer strings only have more voltage.
-    bool TensionPasada(int s) const { return !Cumplen(Campo(s, 1), kTopes); }
-    // More strings only have more current.
-    bool CorrienteCabe(int p) const { return Cumplen(Campo(1, p), kCorrientes); }
-    int RamalesMaximos() const
-    {
-        return m_inversor.iNumEntradas > 0 ? std::min(m_inversor.iNumEntradas, kRamalesMaximos)
-                                           : kRamalesMaximos;
-    }
+    bool TensionPasada(int s) const { return !Cumplen({s, 1}, kTopes); }
 
-    const CampoInversor& m_campo;
-    const CBasePanelFotoModelo& m_panel;
-    const CBaseInversorModelo& m_inversor;
+    Comprobador m_comprobar;
+    int m_iPaso, m_iRamalesMaximos;
 };
+
+Comprobador Comprobaciones(const CampoInversor& campo, const CBasePanelFotoModelo& panel, const auto& limites)
+{
+    return [&campo, &panel, &limites](Reparto reparto) {
+        CampoInversor este = campo;
+        este.iPanelesSerie = reparto.iSerie;
+        este.iPanelesParalelo = reparto.iRamales;
+        return Comprobar(este, panel, limites);
+    };
+}
+
+bool HayCifras(double dPotencia, const CBasePanelFotoModelo& panel)
+{
+    return dPotencia > 0.0 && panel.dPmpm > 0.0 && panel.dVoc > 0.0 && panel.dVmpm > 0.0;
+}
+
+void Poner(Reparto reparto, int iInversores, double dPmpm, PropuestaComprobada& propuesta)
+{
+    propuesta.iInversores = iInversores;
+    propuesta.iPanelesSerie = reparto.iSerie;
+    propuesta.iRamales = reparto.iRamales;
+    propuesta.dPotencia =
+        static_cast<double>(std::max(iInversores, 1)) * reparto.iSerie * reparto.iRamales * dPmpm / kVatios;
+}
 
 }  // namespace
 
@@ -115,32 +139,53 @@ PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& ca
 {
     PropuestaComprobada propuesta;
     const bool bTope = inversor.dVCCMax > 0.0 || inversor.dVMPPMax > 0.0 || panel.dVsmax > 0.0;
-    const bool bDatos = bTope && panel.dPmpm > 0.0 && panel.dVoc > 0.0 && panel.dVmpm > 0.0 &&
-                        inversor.dPCANom > 0.0 && dPotencia > 0.0;
+    const bool bDatos = bTope && HayCifras(dPotencia, panel) && inversor.dPCANom > 0.0;
     if (inversor.iUsoPrincipal != 0 || !bDatos) {
         propuesta.falta = bDatos ? SinPropuesta::usoAislado : SinPropuesta::sinDatos;
         return propuesta;
     }
-    const Buscador buscador(campo, panel, inversor);
+    const Comprobador comprobar = Comprobaciones(campo, panel, inversor);
+    const int iEntradas = inversor.iNumEntradas > 0 ? inversor.iNumEntradas : kRamalesMaximos;
+    const Buscador buscador(comprobar, std::max(inversor.iNumMPPT, 1), std::min(iEntradas, kRamalesMaximos));
     int iMayor = buscador.Mayor(true);
     propuesta.bSeguidoresIguales = iMayor > 0;
     if (iMayor == 0)
         iMayor = buscador.Mayor(false);
     if (iMayor == 0) {
-        propuesta.falta = buscador.Motivo();
+        propuesta.falta = !buscador.HayTension()      ? SinPropuesta::tension
+                          : buscador.CorrienteCabe(1) ? SinPropuesta::potenciaCC
+                                                      : SinPropuesta::corriente;
         return propuesta;
     }
-    const double dPaneles = dPotencia * 1000.0 / panel.dPmpm;
+    const double dPaneles = dPotencia * kVatios / panel.dPmpm;
     const double dInversores =
-        std::max(std::ceil(dPotencia * 1000.0 / inversor.dPCANom), std::ceil(dPaneles / iMayor - kRedondeo));
+        std::max(std::ceil(dPotencia * kVatios / inversor.dPCANom), std::ceil(dPaneles / iMayor - kRedondeo));
     const auto menor = buscador.Menor(std::min(dPaneles / dInversores, static_cast<double>(iMayor)),
                                       propuesta.bSeguidoresIguales);
-    propuesta.iInversores = static_cast<int>(std::min(dInversores, kInversoresMaximos));
-    propuesta.iPanelesSerie = menor->iPanelesSerie;
-    propuesta.iRamales = menor->iPanelesParalelo;
-    propuesta.dPotencia = static_cast<double>(propuesta.iInversores) * menor->iPanelesSerie *
-                          menor->iPanelesParalelo * panel.dPmpm / 1000.0;
-    propuesta.comprobacion = Comprobar(*menor, panel, inversor);
+    Poner(*menor, static_cast<int>(std::min(dInversores, kInversoresMaximos)), panel.dPmpm, propuesta);
+    propuesta.comprobacion = comprobar(*menor);
+    return propuesta;
+}
+
+PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& campo,
+                                       const CBasePanelFotoModelo& panel, const LimitesRegulador& regulador)
+{
+    PropuestaComprobada propuesta;
+    if (!HayCifras(dPotencia, panel) || (regulador.dTensionMaxima <= 0.0 && panel.dVsmax <= 0.0)) {
+        propuesta.falta = SinPropuesta::sinDatos;
+        return propuesta;
+    }
+    const Comprobador comprobar = Comprobaciones(campo, panel, regulador);
+    const Buscador buscador(comprobar, 1, kRamalesMaximos);
+    const auto menor = buscador.Menor(dPotencia * kVatios / panel.dPmpm, true);
+    if (!menor) {
+        propuesta.falta = !buscador.HayTension()      ? SinPropuesta::tensionRegulador
+                          : buscador.CorrienteCabe(1) ? SinPropuesta::potenciaRegulador
+                                                      : SinPropuesta::corrienteRegulador;
+        return propuesta;
+    }
+    Poner(*menor, 0, panel.dPmpm, propuesta);
+    propuesta.comprobacion = comprobar(*menor);
     return propuesta;
 }
 

@@ -1,4 +1,6 @@
 // A stand-alone design, calculated.
+#include <cmath>
+#include <optional>
 #include <vector>
 
 #include <quorvel/report/disenos.h>
@@ -10,6 +12,28 @@
 #include "solar/calendario.h"
 
 namespace efv::report {
+
+namespace {
+
+// Where the assistant's own proposal, at standard conditions, is no installation. Without loads or without sun
+// there is no power to reach.
+std::optional<assistants::PropuestaComprobada> PropuestaMejor(const assistants::ValoresAislada& v,
+                                                              assistants::CampoInversor campo,
+                                                              const CBasePanelFotoModelo& panel,
+                                                              const assistants::LimitesRegulador& regulador)
+{
+    constexpr double kTolerancia = 1e-6;  // Wp, of the sizing's comparisons
+    if (!(v.dPotenciaMinima > kTolerancia) || !std::isfinite(v.dPotenciaMinima))
+        return std::nullopt;
+    campo.iPanelesSerie = v.iPanelesSerieP;
+    campo.iPanelesParalelo = v.iPanelesParaleloP;
+    const bool bFalta = v.dPotenciaInstaladaP < v.dPotenciaMinima - kTolerancia;
+    if (!bFalta && !assistants::Comprobar(campo, panel, regulador).Incumple())
+        return std::nullopt;
+    return assistants::ProponerComprobada(v.dPotenciaMinima / 1000.0, campo, panel, regulador);
+}
+
+}  // namespace
 
 double HorasDeCalculo(CSFVDataReceptor& receptor)
 {
@@ -66,14 +90,15 @@ EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& tabla)
     CopiarCampos(proyecto.registro, v, proyecto.fijados);
     assistants::Recalcular(v, entrada, false);
 
-    estudio.comprobacion = assistants::Comprobar({.iPanelesSerie = v.iPanelesSerie,
-                                                  .iPanelesParalelo = v.iPanelesParalelo,
-                                                  .dTemperaturaMinima = proyecto.temperaturas.Minima(),
-                                                  .dTemperaturaMaxima = proyecto.temperaturas.Maxima()},
-                                                 *proyecto.panel,
-                                                 {.dTensionMaxima = v.dTensionMaxFV,
-                                                  .dTensionMinima = v.dTensionMinFV,
-                                                  .dCorrienteMaxima = v.dCorrienteMaxFV});
+    const assistants::CampoInversor campoRegulador{.iPanelesSerie = v.iPanelesSerie,
+                                                   .iPanelesParalelo = v.iPanelesParalelo,
+                                                   .dTemperaturaMinima = proyecto.temperaturas.Minima(),
+                                                   .dTemperaturaMaxima = proyecto.temperaturas.Maxima()};
+    const assistants::LimitesRegulador regulador{.dTensionMaxima = v.dTensionMaxFV,
+                                                 .dTensionMinima = v.dTensionMinFV,
+                                                 .dCorrienteMaxima = v.dCorrienteMaxFV};
+    estudio.comprobacion = assistants::Comprobar(campoRegulador, *proyecto.panel, regulador);
+    estudio.propuesta = PropuestaMejor(v, campoRegulador, *proyecto.panel, regulador);
     PotenciaCargas cargas;
     for (const auto& receptor : proyecto.receptores)
         (receptor->iTipoRed == 0 ? cargas.dContinua : cargas.dAlterna) += receptor->GetPcc();

@@ -183,7 +183,7 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
                            SeccionAcumuladores(v),
                            SeccionPaneles(v),
                            SeccionRegulador(proyecto, v),
-                           SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion),
+                           SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion, estudio.propuesta),
                            SeccionGeometria(v),
                            SeccionCableado(estudio.cableado),
                            SeccionMeses(estudio.ano, &estudio.adNecesaria),

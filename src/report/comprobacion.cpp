@@ -38,21 +38,25 @@ constexpr auto kMotivos = std::to_array<const char*>({
     "ningún número de paneles en serie cabe en las tensiones del inversor y del módulo a estas temperaturas",
     "un solo ramal pasa de la corriente de un seguidor",
     "el ramal más corto que admiten las tensiones pasa de la potencia del inversor",
+    "ningún número de paneles en serie cabe en las tensiones del regulador y del módulo a estas temperaturas",
+    "un solo ramal pasa de la corriente del regulador",
+    "ningún campo que cabe en el regulador alcanza la potencia necesaria",
 });
-
-std::string TextoLimiteDe(const assistants::Comprobacion& c, const TextoLimite& texto)
-{
-    if (c.dLimite <= 0.0)
-        return "—";
-    return fmt::format("{} {}", texto.bMinimo ? "mín." : "máx.",
-                       Con(c.dLimite, texto.iDecimales, texto.unidad));
-}
 
 }  // namespace
 
 const TextoLimite& TextoDe(assistants::Limite limite)
 {
     return kTextos.at(static_cast<std::size_t>(limite));
+}
+
+std::string LimiteDe(const assistants::Comprobacion& comprobacion)
+{
+    if (comprobacion.dLimite <= 0.0)
+        return "—";
+    const TextoLimite& texto = TextoDe(comprobacion.limite);
+    return fmt::format("{} {}", texto.bMinimo ? "mín." : "máx.",
+                       Con(comprobacion.dLimite, texto.iDecimales, texto.unidad));
 }
 
 const char* ResultadoDe(const assistants::Comprobacion& comprobacion)
@@ -69,8 +73,22 @@ std::string MotivoDe(const assistants::PropuestaComprobada& propuesta)
     return kMotivos.at(static_cast<std::size_t>(propuesta.falta));
 }
 
+std::string TextoDe(const assistants::PropuestaComprobada& propuesta)
+{
+    const std::string motivo = MotivoDe(propuesta);
+    if (propuesta.falta != SinPropuesta::ninguna)
+        return "no la hay: " + motivo;
+    const int n = propuesta.iInversores;
+    const std::string inversores = n == 0   ? std::string()
+                                   : n == 1 ? std::string("1 inversor de ")
+                                            : fmt::format("{} inversores de ", n);
+    return fmt::format("{}{} × {} paneles, {}{}", inversores, propuesta.iPanelesSerie, propuesta.iRamales,
+                       Con(propuesta.dPotencia, 2, "kW"), motivo.empty() ? "" : fmt::format(" ({})", motivo));
+}
+
 Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
-                            const assistants::ComprobacionCampo& comprobacion)
+                            const assistants::ComprobacionCampo& comprobacion,
+                            const std::optional<assistants::PropuestaComprobada>& propuesta)
 {
     const std::string minima = Decimal(temperaturas.Minima(), 0), maxima = Decimal(temperaturas.Maxima(), 0);
     Seccion seccion("Comprobación a las temperaturas del lugar");
@@ -79,14 +97,18 @@ Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
     cuadro.columnas = {{"Comprobación", false}, {"Valor", true}, {"Límite", true}, {"Resultado", false}};
     for (const auto& c : comprobacion.limites) {
         const TextoLimite& texto = TextoDe(c.limite);
-        cuadro.filas.push_back({texto.rotulo, Con(c.dValor, texto.iDecimales, texto.unidad),
-                                TextoLimiteDe(c, texto), c.bCumple == false ? "NO CUMPLE" : ResultadoDe(c)});
+        cuadro.filas.push_back({texto.rotulo, Con(c.dValor, texto.iDecimales, texto.unidad), LimiteDe(c),
+                                c.bCumple == false ? "NO CUMPLE" : ResultadoDe(c)});
     }
     std::string nota = fmt::format(
         "Frío: células a {} ºC; calor: a {} ºC; 1000 W/m². No cambia ningún resultado del dimensionado, que "
         "trabaja en condiciones STC.",
         minima, maxima);
     seccion.notas.push_back(std::move(nota));
+    if (propuesta) {
+        Dato comprobada{"Propuesta comprobada", TextoDe(*propuesta)};
+        seccion.datos.push_back(std::move(comprobada));
+    }
     return seccion;
 }
 

@@ -32,6 +32,7 @@ auto ProyectoCon(const DISENO& diseno, const Portada& portada, const Catalogos& 
     proyecto.titulo = portada.titulo;
     proyecto.lugar = portada.lugar;
     proyecto.planos = portada.planos;
+    proyecto.temperaturas = portada.temperaturas;
     return proyecto;
 }
 
@@ -48,29 +49,56 @@ Documento Escribir(const DISENO& diseno, const Portada& portada, const Catalogos
     return EscribirDocumento(proyecto, estudio, Avisos(proyecto, estudio));
 }
 
-EnergiaDiseno EnergiaDe(const EstudioAislada& estudio)
+template <class DISENO>
+auto Estudio(const DISENO& diseno, const Portada& portada, const Catalogos& catalogos,
+             const CBaseFactorK& tabla)
 {
-    return {estudio.bPlano ? std::optional(estudio.ano.Energia()) : std::nullopt, estudio.orientada};
-}
-
-EnergiaDiseno EnergiaDe(const EstudioRed& estudio)
-{
-    return {estudio.ano ? std::optional(estudio.ano->Energia()) : std::nullopt, estudio.orientada.value()};
+    auto proyecto = ProyectoCon(diseno, portada, catalogos);
+    using Estudiado = decltype(Calcular(proyecto, tabla));
+    if (!HayDiseno(diseno) || ModeloQueFalta(proyecto) != nullptr)
+        return std::optional<Estudiado>();
+    return std::optional(Calcular(proyecto, tabla));
 }
 
 template <class DISENO>
 std::optional<EnergiaDiseno> Energia(const DISENO& diseno, const Portada& portada, const Catalogos& catalogos,
                                      const CBaseFactorK& tabla)
 {
-    if (!HayDiseno(diseno) || !portada.lugar.adRadiacion)
+    if (!portada.lugar.adRadiacion)
         return std::nullopt;
-    auto proyecto = ProyectoCon(diseno, portada, catalogos);
-    if (ModeloQueFalta(proyecto) != nullptr)
-        return std::nullopt;
-    return EnergiaDe(Calcular(proyecto, tabla));
+    const auto estudio = Estudio(diseno, portada, catalogos, tabla);
+    return estudio ? EnergiaDe(*estudio, portada) : std::nullopt;
 }
 
 }  // namespace
+
+std::optional<EstudioAislada> EstudioDe(const CSFVAsistenteAislada& diseno, const Portada& portada,
+                                        const Catalogos& catalogos, const CBaseFactorK& tabla)
+{
+    return Estudio(diseno, portada, catalogos, tabla);
+}
+
+std::optional<EstudioRed> EstudioDe(const CSFVAsistenteRed& diseno, const Portada& portada,
+                                    const Catalogos& catalogos, const CBaseFactorK& tabla)
+{
+    return Estudio(diseno, portada, catalogos, tabla);
+}
+
+std::optional<EnergiaDiseno> EnergiaDe(const EstudioAislada& estudio, const Portada& portada)
+{
+    if (!portada.lugar.adRadiacion)
+        return std::nullopt;
+    return EnergiaDiseno{estudio.bPlano ? std::optional(estudio.ano.Energia()) : std::nullopt,
+                         estudio.orientada};
+}
+
+std::optional<EnergiaDiseno> EnergiaDe(const EstudioRed& estudio, const Portada& /*portada*/)
+{
+    if (!estudio.orientada)
+        return std::nullopt;
+    return EnergiaDiseno{estudio.ano ? std::optional(estudio.ano->Energia()) : std::nullopt,
+                         *estudio.orientada};
+}
 
 std::optional<EnergiaDiseno> EnergiaDe(const CSFVAsistenteAislada& diseno, const Portada& portada,
                                        const Catalogos& catalogos, const CBaseFactorK& tabla)

@@ -74,27 +74,11 @@ Seccion SeccionGeometria(const V& v)
     return seccion;
 }
 
-// "2 inversores de 9 × 2 paneles, 10,26 kW", or why there is none.
-std::string PropuestaComprobada(const assistants::PropuestaComprobada& p)
-{
-    const std::string motivo = MotivoDe(p);
-    if (p.falta != assistants::SinPropuesta::ninguna)
-        return "no la hay: " + motivo;
-    return fmt::format("{} de {} × {} paneles, {}{}",
-                       p.iInversores == 1 ? "1 inversor" : fmt::format("{} inversores", p.iInversores),
-                       p.iPanelesSerie, p.iRamales, Con(p.dPotencia, 2, "kW"),
-                       motivo.empty() ? "" : fmt::format(" ({})", motivo));
-}
-
 Seccion SeccionComprobacion(const ProyectoRed& proyecto, const EstudioRed& estudio)
 {
-    Seccion seccion = SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion);
+    Seccion seccion = SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion, estudio.propuesta);
     seccion.cuadros.front().filas.push_back({"Potencia de los paneles / nominal del inversor (CC/CA)",
                                              Decimal(estudio.comprobacion.dRatioCCCA, 2), "", ""});
-    if (estudio.propuesta) {
-        Dato comprobada{"Propuesta comprobada", PropuestaComprobada(*estudio.propuesta)};
-        seccion.datos.push_back(std::move(comprobada));
-    }
     return seccion;
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -27,9 +28,10 @@ Seccion SeccionLugar(const LugarDiseno& lugar);
 /// Table and charts of a year. @param necesaria kWh of each month; null without loads
 Seccion SeccionMeses(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
 
-/// The limits that the field was held against.
+/// The limits that the field was held against, and what keeps to them instead of the assistant's proposal.
 Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
-                            const assistants::ComprobacionCampo& comprobacion);
+                            const assistants::ComprobacionCampo& comprobacion,
+                            const std::optional<assistants::PropuestaComprobada>& propuesta);
 /// Which temperatures those are.
 std::string SupuestoTemperaturas(const TemperaturasCelulas& temperaturas);
 /// What is said of a limit that is passed, and of coefficients that the module lacks.

@@ -1,5 +1,6 @@
 #include <cmath>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
@@ -184,6 +185,28 @@ TEST_F(ComprobacionCampoTest, SinPropuestaSeSabePorQue)
     inversor = bueno;
     inversor.dVCCMax = inversor.dVMPPMax = panel.dVsmax = 0;
     EXPECT_EQ(motivo(), SinPropuesta::sinDatos);
+}
+
+// Three in series: 2 · 24.375 V are below 60 and 4 · 41.2 V above 150; up to four strings of 8.725 A.
+TEST_F(ComprobacionCampoTest, EnUnReguladorLaPropuestaEsElMenorCampoQueAlcanza)
+{
+    const auto proponer = [&](double dPotencia, LimitesRegulador regulador) {
+        return ProponerComprobada(dPotencia, {}, panel, regulador);
+    };
+    const LimitesRegulador bueno{150, 60, 35};
+    for (const auto& [dPotencia, iRamales] : {std::pair(2.0, 3), {2.16, 3}, {2.17, 4}, {2.88, 4}}) {
+        const PropuestaComprobada p = proponer(dPotencia, bueno);
+        EXPECT_EQ(p.falta, SinPropuesta::ninguna);
+        EXPECT_EQ(p.iInversores, 0);
+        EXPECT_EQ(p.iPanelesSerie, 3);
+        EXPECT_EQ(p.iRamales, iRamales) << dPotencia;
+        EXPECT_NEAR(p.dPotencia, 0.72 * iRamales, 1e-9);
+        EXPECT_FALSE(p.comprobacion.Incumple());
+    }
+    EXPECT_EQ(proponer(2.89, bueno).falta, SinPropuesta::potenciaRegulador);
+    EXPECT_EQ(proponer(2, {100, 60, 35}).falta, SinPropuesta::tensionRegulador);
+    EXPECT_EQ(proponer(2, {150, 60, 8}).falta, SinPropuesta::corrienteRegulador);
+    EXPECT_EQ(proponer(0, bueno).falta, SinPropuesta::sinDatos);
 }
 
 }  // namespace

@@ -149,6 +149,7 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
                       {"receptores", ReceptoresJson(proyecto.receptores)},
                       {"comprobacion", ComprobacionJson(proyecto.temperaturas, estudio.comprobacion)},
+                      {"propuesta_comprobada", PropuestaJson(proyecto.temperaturas, estudio.propuesta)},
                       {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", AnoJson(estudio.ano, &estudio.adNecesaria)},
                       {"orientada", PlanosJson(estudio.orientada)},

@@ -58,31 +58,6 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     return proyecto;
 }
 
-JsonEscrito ConRatio(const ProyectoRed& proyecto, const assistants::ComprobacionCampo& comprobacion)
-{
-    JsonEscrito json = ComprobacionJson(proyecto.temperaturas, comprobacion);
-    json["ratio_cc_ca"] = NumeroJson(comprobacion.dRatioCCCA);
-    return json;
-}
-
-// Null where the assistant's own proposal reaches the power and keeps to every limit.
-JsonEscrito PropuestaJson(const ProyectoRed& proyecto,
-                          const std::optional<assistants::PropuestaComprobada>& propuesta)
-{
-    if (!propuesta)
-        return {};
-    const bool bHay = propuesta->falta == assistants::SinPropuesta::ninguna;
-    const auto cuenta = [&](int i) { return bHay ? JsonEscrito(i) : JsonEscrito(); };
-    JsonEscrito json = {{"inversores", cuenta(propuesta->iInversores)},
-                        {"paneles_serie", cuenta(propuesta->iPanelesSerie)},
-                        {"ramales", cuenta(propuesta->iRamales)},
-                        {"potencia_kW", bHay ? NumeroJson(propuesta->dPotencia) : JsonEscrito()},
-                        {"cumple", bHay},
-                        {"motivo", report::MotivoDe(*propuesta)}};
-    json["comprobacion"] = bHay ? ConRatio(proyecto, propuesta->comprobacion) : JsonEscrito();
-    return json;
-}
-
 }  // namespace
 
 Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
@@ -100,8 +75,8 @@ Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},
                       {"valores", ValoresJson(assistants::ValoresPorNombre(std::as_const(estudio.v)))},
-                      {"comprobacion", ConRatio(proyecto, estudio.comprobacion)},
-                      {"propuesta_comprobada", PropuestaJson(proyecto, estudio.propuesta)},
+                      {"comprobacion", ConRatio(proyecto.temperaturas, estudio.comprobacion)},
+                      {"propuesta_comprobada", PropuestaJson(proyecto.temperaturas, estudio.propuesta)},
                       {"cableado", CableadoJson(estudio.cableado)},
                       {"meses", estudio.ano ? AnoJson(*estudio.ano, nullptr) : JsonEscrito()},
                       {"orientada", estudio.orientada ? PlanosJson(*estudio.orientada) : JsonEscrito()},

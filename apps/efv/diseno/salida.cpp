@@ -93,6 +93,34 @@ JsonEscrito ComprobacionJson(const report::TemperaturasCelulas& temperaturas,
             {"limites", std::move(lista)}};
 }
 
+JsonEscrito ConRatio(const report::TemperaturasCelulas& temperaturas,
+                     const assistants::ComprobacionCampo& comprobacion)
+{
+    JsonEscrito json = ComprobacionJson(temperaturas, comprobacion);
+    json["ratio_cc_ca"] = NumeroJson(comprobacion.dRatioCCCA);
+    return json;
+}
+
+JsonEscrito PropuestaJson(const report::TemperaturasCelulas& temperaturas,
+                          const std::optional<assistants::PropuestaComprobada>& propuesta)
+{
+    if (!propuesta)
+        return {};
+    const bool bHay = propuesta->falta == assistants::SinPropuesta::ninguna;
+    const bool bInversores = propuesta->iInversores > 0;
+    const auto cuenta = [](bool bCuenta, int i) { return bCuenta ? JsonEscrito(i) : JsonEscrito(); };
+    JsonEscrito json = {{"inversores", cuenta(bHay && bInversores, propuesta->iInversores)},
+                        {"paneles_serie", cuenta(bHay, propuesta->iPanelesSerie)},
+                        {"ramales", cuenta(bHay, propuesta->iRamales)},
+                        {"potencia_kW", bHay ? NumeroJson(propuesta->dPotencia) : JsonEscrito()},
+                        {"cumple", bHay},
+                        {"motivo", report::MotivoDe(*propuesta)}};
+    json["comprobacion"] = !bHay         ? JsonEscrito()
+                           : bInversores ? ConRatio(temperaturas, propuesta->comprobacion)
+                                         : ComprobacionJson(temperaturas, propuesta->comprobacion);
+    return json;
+}
+
 JsonEscrito AnoJson(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria)
 {
     JsonEscrito lista = JsonEscrito::array();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include <nlohmann/json.hpp>
@@ -23,6 +24,13 @@ bool SinFaltas(const std::vector<report::Aviso>& avisos);
 /// Temperatures and limits, each {nombre, tipo, valor, limite, unidad, resultado}.
 JsonEscrito ComprobacionJson(const report::TemperaturasCelulas& temperaturas,
                              const assistants::ComprobacionCampo& comprobacion);
+/// The same with the ratio of the panels' power to the inverter's.
+JsonEscrito ConRatio(const report::TemperaturasCelulas& temperaturas,
+                     const assistants::ComprobacionCampo& comprobacion);
+/// Null where the assistant's own proposal reaches the power and keeps to every limit. On a regulator there are
+/// no inverters.
+JsonEscrito PropuestaJson(const report::TemperaturasCelulas& temperaturas,
+                          const std::optional<assistants::PropuestaComprobada>& propuesta);
 /// @param necesaria kWh of each month; null without loads
 JsonEscrito AnoJson(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
 JsonEscrito PlanosJson(const solar::EnergiaPlanos& energia);

@@ -69,6 +69,8 @@ struct ProyectoAislada {
 struct EstudioAislada {
     assistants::ValoresAislada v;
     assistants::ComprobacionCampo comprobacion;
+    /// Instead of the assistant's proposal, where that falls short of the power or passes a limit.
+    std::optional<assistants::PropuestaComprobada> propuesta;
     bool bPlano = false;                ///< the table of factors K reaches the latitude
     solar::AnoEnergia ano;              ///< of the field, after the losses; zeros where the table doesn't reach
     solar::DoceMeses adNecesaria = {};  ///< by the loads on the days of each month, kWh
@@ -138,10 +140,16 @@ struct TextoLimite {
 };
 EFV_API const TextoLimite& TextoDe(assistants::Limite limite);
 
+/// "máx. 500,0 V"; "—" where the catalogue doesn't give it.
+EFV_API std::string LimiteDe(const assistants::Comprobacion& comprobacion);
+
 /// "cumple", "no cumple", "sin dato"
 EFV_API const char* ResultadoDe(const assistants::Comprobacion& comprobacion);
 
 /// Why there is no checked proposal, or what it does besides passing the checks; may be empty.
 EFV_API std::string MotivoDe(const assistants::PropuestaComprobada& propuesta);
+
+/// "2 inversores de 9 × 2 paneles, 10,26 kW", or "no la hay" and why.
+EFV_API std::string TextoDe(const assistants::PropuestaComprobada& propuesta);
 
 }  // namespace efv::report

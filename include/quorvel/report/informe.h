@@ -13,6 +13,7 @@ struct Portada {
     std::string titulo;  ///< of the project, as its author calls it; may be empty
     LugarDiseno lugar;
     PlanosDiseno planos = {};
+    TemperaturasCelulas temperaturas = {};
 };
 
 /// The report of an accepted design: its document, warnings included.
@@ -21,6 +22,12 @@ EFV_API Documento InformeDe(const CSFVAsistenteAislada& diseno, const Portada& p
                             const Catalogos& catalogos, const CBaseFactorK& tabla);
 EFV_API Documento InformeDe(const CSFVAsistenteRed& diseno, const Portada& portada, const Catalogos& catalogos,
                             const CBaseFactorK& tabla);
+
+/// An accepted design as its report calculates it; nothing without a design or one of its models.
+EFV_API std::optional<EstudioAislada> EstudioDe(const CSFVAsistenteAislada& diseno, const Portada& portada,
+                                                const Catalogos& catalogos, const CBaseFactorK& tabla);
+EFV_API std::optional<EstudioRed> EstudioDe(const CSFVAsistenteRed& diseno, const Portada& portada,
+                                            const Catalogos& catalogos, const CBaseFactorK& tabla);
 
 /// What an accepted design gives in a year.
 struct EnergiaDiseno {
@@ -33,6 +40,10 @@ EFV_API std::optional<EnergiaDiseno> EnergiaDe(const CSFVAsistenteAislada& disen
                                                const Catalogos& catalogos, const CBaseFactorK& tabla);
 EFV_API std::optional<EnergiaDiseno> EnergiaDe(const CSFVAsistenteRed& diseno, const Portada& portada,
                                                const Catalogos& catalogos, const CBaseFactorK& tabla);
+
+/// The same of a design that has been calculated. @param portada as it was then
+EFV_API std::optional<EnergiaDiseno> EnergiaDe(const EstudioAislada& estudio, const Portada& portada);
+EFV_API std::optional<EnergiaDiseno> EnergiaDe(const EstudioRed& estudio, const Portada& portada);
 
 /// Today as a page dates itself, "3-2-2028"; empty when the clock fails.
 EFV_API std::string FechaDeHoy();

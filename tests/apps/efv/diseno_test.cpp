@@ -157,6 +157,26 @@ TEST_F(Diseno, LaCubiertaDaLasCuentasAMano)
     EXPECT_NEAR(json["meses"][5]["producida_kWh"].get<double>(), 837.633, 1e-3);
 }
 
+// At -10 ºC three in series have 3 · (39.18 + 35 · 0.116365) = 129.8 V: two, and 1746.25 / 285.058 = 6.13
+// panels make four strings.
+TEST_F(Diseno, LaAisladaTambienTienePropuestaComprobada)
+{
+    EXPECT_EQ(Calcular("aislada", Casa())["propuesta_comprobada"], nullptr);
+    const Json propuesta = Calcular("aislada", Casa({{"temperaturaMinima", -10},
+                                                     {"dTensionMaxFV", 125},
+                                                     {"dTensionMinFV", 40},
+                                                     {"dCorrienteMaxFV", 60}}))["propuesta_comprobada"];
+    EXPECT_EQ(propuesta["inversores"], nullptr);
+    EXPECT_EQ(propuesta["paneles_serie"], 2);
+    EXPECT_EQ(propuesta["ramales"], 4);
+    EXPECT_NEAR(propuesta["potencia_kW"].get<double>(), 2.280464, 1e-9);
+    EXPECT_EQ(propuesta["cumple"], true);
+    const Json ninguna = Calcular("aislada", Casa({{"dCorrienteMaxFV", 20}}))["propuesta_comprobada"];
+    EXPECT_EQ(ninguna["cumple"], false);
+    EXPECT_EQ(ninguna["potencia_kW"], nullptr);
+    EXPECT_EQ(ninguna["motivo"], "ningún campo que cabe en el regulador alcanza la potencia necesaria");
+}
+
 TEST_F(Diseno, EstrictoTerminaConTresSiAlgoNoSeCumple)
 {
     EXPECT_EQ(Disenar("red", Cubierta(), {"--estricto"}).iEstado, 0);
