@@ -218,7 +218,7 @@ std::vector<Festivo> LeerFestivos(std::string_view csv)
         const auto iMes = Entero(tabla.Campo("mes"));
         const auto iDia = Entero(tabla.Campo("dia"));
         // A leap year has every date that can be a holiday.
-        if (!iMes || !iDia || *iMes > kMeses || !EsFechaCivil({2024, *iMes, *iDia}))
+        if (!iMes || !iDia || !EsFechaCivil({2024, *iMes, *iDia}))
             Fallar(tabla.Linea(), "no es una fecha: mes y día con números");
         festivos.push_back({*iMes, *iDia});
     }

@@ -95,7 +95,9 @@ TEST(Tarifas, UnaTablaQueNoValeDiceSuLinea)
             EXPECT_NE(std::string(error.what()).find(esperado), std::string::npos) << error.what();
         }
     }
-    EXPECT_THROW(LeerFestivos("mes,dia\n2,30\n"), ErrorTarifa);
+    // 275 and 259 are 19 and 3 modulo 256.
+    for (const char* csv : {"mes,dia\n2,30\n", "mes,dia\n12,275\n", "mes,dia\n259,1\n"})
+        EXPECT_THROW(LeerFestivos(csv), ErrorTarifa) << csv;
 }
 
 }  // namespace

@@ -118,6 +118,9 @@ TEST_F(Xml, LeeLasCodificacionesQueSeDeclaran)
     }
     ASSERT_TRUE(Abrir(utf16));
     EXPECT_EQ(Nombre(), L"ñ€\U0001F31E");
+    // Another attribute whose name has the word declares nothing.
+    ASSERT_TRUE(Abrir("<?xml vencodingersion='1.0' encoding='latin1'?><R><A n='\xF1'/></R>"));
+    EXPECT_EQ(Nombre(), L"ñ");
 }
 
 TEST_F(Xml, LoQueNoEsUnDocumentoNoSeAbre)

@@ -43,7 +43,9 @@ int DesfaseInvierno(HusoOficial huso)
 
 bool EsFechaCivil(const FechaCivil& fecha)
 {
-    if (fecha.iAno < 1970 || fecha.iAno > 9999 || fecha.iMes < 1 || fecha.iDia < 1)
+    // std::chrono keeps a month and a day in a byte: 275 would be 19.
+    if (fecha.iAno < 1970 || fecha.iAno > 9999 || fecha.iMes < 1 || fecha.iMes > 12 || fecha.iDia < 1 ||
+        fecha.iDia > 31)
         return false;
     return year_month_day{year{fecha.iAno}, month{static_cast<unsigned>(fecha.iMes)},
                           day{static_cast<unsigned>(fecha.iDia)}}

@@ -2,7 +2,10 @@
 
 #include <algorithm>
 #include <initializer_list>
+#include <new>
 #include <string_view>
+
+#include <pugixml.hpp>
 
 #include <quorvel/ficheros.h>
 #include <quorvel/mundo.h>
@@ -23,20 +26,19 @@ std::string Minusculas(std::string_view texto)
     return minusculas;
 }
 
-// Value of encoding="…" in the declaration that `bytes` begins with, in lower case; empty without one.
+// Value of encoding="…" in the declaration that `bytes` begins with, in lower case; empty without one. The
+// parser of the document reads it, so that both understand the same attribute.
 std::string CodificacionDeclarada(std::string_view bytes)
 {
-    if (!bytes.starts_with("<?xml"))
+    const std::size_t fin = bytes.find("?>");
+    if (!bytes.starts_with("<?xml") || fin == std::string_view::npos)
         return {};
-    const std::string_view declaracion = bytes.substr(0, bytes.find("?>"));
-    const std::size_t clave = declaracion.find("encoding");
-    if (clave == std::string_view::npos)
-        return {};
-    const std::size_t inicio = declaracion.find_first_of("\"'", clave);
-    if (inicio == std::string_view::npos)
-        return {};
-    const std::size_t fin = declaracion.find(declaracion[inicio], inicio + 1);
-    return Minusculas(declaracion.substr(inicio + 1, fin == std::string_view::npos ? fin : fin - inicio - 1));
+    pugi::xml_document declaracion;
+    const pugi::xml_parse_result leida =
+        declaracion.load_buffer(bytes.data(), fin + 2, pugi::parse_declaration, pugi::encoding_utf8);
+    if (leida.status == pugi::status_out_of_memory)
+        throw std::bad_alloc();
+    return Minusculas(declaracion.first_child().attribute("encoding").value());
 }
 
 bool UnoDe(std::string_view texto, std::initializer_list<std::string_view> nombres)
