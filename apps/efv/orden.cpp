@@ -11,6 +11,8 @@
 
 #include "anfitrion/suborden_rpc.h"
 #include "autoconsumo/suborden_autoconsumo.h"
+#include "ayuda/suborden_ayuda.h"
+#include "ayuda/suborden_completar.h"
 #include "cable/suborden_cable.h"
 #include "catalogo/suborden_catalogo.h"
 #include "clima/suborden_clima.h"
@@ -46,7 +48,7 @@ public:
     {
         m_raiz.formatter(FormatoEspanol());
         Castellanizar(m_raiz);
-        m_raiz.set_version_flag("--version", CadenaUtf8(Version()), "Muestra la versión y termina")
+        m_raiz.set_version_flag("-V,--version", CadenaUtf8(Version()), "Muestra la versión y termina")
             ->group("Opciones");
         m_raiz.footer(
             "Cada orden tiene su ayuda: efv ORDEN --help\n"
@@ -66,6 +68,8 @@ public:
         Anadir(CrearSubordenVenta());
         Anadir(CrearSubordenAutoconsumo());
         Anadir(CrearSubordenRpc());
+        Anadir(CrearSubordenAyuda());
+        Anadir(CrearSubordenCompletar());
         m_raiz.require_subcommand(0, 1);
     }
 
@@ -81,7 +85,7 @@ public:
             salida << version.what() << '\n';
             return 0;
         } catch (const CLI::ParseError& error) {
-            throw ErrorUso(fmt::format("{} (ayuda: {} --help)", TextoDeError(error), Nombre()));
+            throw ErrorUso(fmt::format("{} (ayuda: {} --help)", TextoDeError(m_raiz, error), NombreEntero()));
         }
         Suborden* orden = Elegida();
         if (orden == nullptr)
@@ -98,6 +102,17 @@ public:
     }
 
 private:
+    // With the orders of the order, "efv catalogo ver".
+    std::string NombreEntero() const
+    {
+        std::string nombre = m_raiz.get_name();
+        for (const CLI::App* linea = &m_raiz; !linea->get_subcommands().empty();) {
+            linea = linea->get_subcommands().front();
+            nombre += ' ' + linea->get_name();
+        }
+        return nombre;
+    }
+
     void Anadir(std::unique_ptr<Suborden> orden)
     {
         CLI::App& linea = orden->Declarar(m_raiz);

@@ -11,12 +11,11 @@
 #include "comun/consola.h"
 #include "comun/datos.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 
 namespace efv::orden {
 
 namespace {
-
-constexpr std::size_t kParecidos = 3;
 
 template <class Condicion>
 Modelos Filtrar(const Modelos& modelos, Condicion condicion)
@@ -111,12 +110,9 @@ CatalogoAbierto::CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta
 
 std::string CatalogoAbierto::Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const
 {
-    std::string texto;
-    for (const CString& csParecido : NombresParecidos(nombres, csBuscado, kParecidos))
-        texto += fmt::format("{}{}", texto.empty() ? "; parecidos: " : ", ", CadenaUtf8(csParecido));
     const bool bPrimero = m_tipo.Nombre() == TodosLosTipos().front();
-    return fmt::format("{} (todos: efv catalogo listar{}{})", texto, bPrimero ? "" : " --tipo ",
-                       bPrimero ? "" : m_tipo.Nombre());
+    return fmt::format("{} (todos: efv catalogo listar{}{})", Parecidos(nombres, CadenaUtf8(csBuscado)),
+                       bPrimero ? "" : " --tipo ", bPrimero ? "" : m_tipo.Nombre());
 }
 
 const CModelo& CatalogoAbierto::Buscar(const std::string& id) const

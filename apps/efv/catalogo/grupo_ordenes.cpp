@@ -34,7 +34,7 @@ void GrupoOrdenes::AnadirJson(CLI::App& orden)
 
 void GrupoOrdenes::AnadirFamilia(CLI::App& orden, const char* ayuda)
 {
-    orden.add_option("--familia", m_familia, ayuda)->type_name("NOMBRE");
+    orden.add_option("--familia", m_familia, ayuda)->type_name("FAMILIA");
 }
 
 const std::optional<std::string>& GrupoOrdenes::Familia() const

@@ -84,7 +84,7 @@ std::string PuntoPedido::Nombre() const
 
 void OpcionesServicio::Declarar(CLI::App& linea)
 {
-    linea.add_option("--lugar", m_lugar, "Lugar de «efv lugares»: da las coordenadas")->type_name("NOMBRE");
+    linea.add_option("--lugar", m_lugar, "Lugar de «efv lugares»: da las coordenadas")->type_name("LUGAR");
     linea.add_option("--lat", m_latitud, "Latitud, norte positiva (-90 a 90)")->type_name("GRADOS");
     linea.add_option("--lon", m_longitud, "Longitud, este positiva (-180 a 180)")->type_name("GRADOS");
     linea

@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
+#include "ayuda/linea.h"
 #include "comun/numeros.h"
 
 namespace efv::orden {
@@ -83,14 +84,14 @@ void Castellanizar(CLI::App& app)
     app.group("Órdenes");
 }
 
-std::string TextoDeError(const CLI::ParseError& error)
+std::string TextoDeError(const CLI::App& raiz, const CLI::ParseError& error)
 {
     const std::string texto = error.what();
     const auto es = [&]<class Error>(std::type_identity<Error>) {
         return dynamic_cast<const Error*>(&error) != nullptr;
     };
     if (es(std::type_identity<CLI::ExtrasError>()))
-        return "argumento inesperado: " + Despues(texto, "not expected: ");
+        return TextoInesperado(raiz);
     if (es(std::type_identity<CLI::ArgumentMismatch>()))
         return NumeroDeValores(texto);
     if (es(std::type_identity<CLI::ExcludesError>()))

@@ -19,7 +19,8 @@ std::shared_ptr<CLI::Formatter> FormatoEspanol();
 /// Names the help option and the headings of `app` in Spanish.
 void Castellanizar(CLI::App& app);
 
-/// What the parser found wrong, as one line without the command's name.
-std::string TextoDeError(const CLI::ParseError& error);
+/// What the parser of `raiz` found wrong, as one line without the command's name; names that a misspelt one may
+/// have meant.
+std::string TextoDeError(const CLI::App& raiz, const CLI::ParseError& error);
 
 }  // namespace efv::orden

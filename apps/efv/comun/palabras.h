@@ -18,6 +18,16 @@ namespace efv::orden {
 template <class T, std::size_t N>
 using Palabras = std::array<std::pair<const char*, T>, N>;
 
+/// "Wh|kWh", as the help and the completion of an option give its words.
+template <class T, std::size_t N>
+std::string TipoDe(const Palabras<T, N>& palabras)
+{
+    std::string tipo;
+    for (const auto& [palabra, valor] : palabras)
+        tipo += fmt::format("{}{}", tipo.empty() ? "" : "|", palabra);
+    return tipo;
+}
+
 /// What the word of an option stands for. @throws ErrorUso
 template <class T, std::size_t N>
 T Elegir(const char* opcion, const std::string& texto, const Palabras<T, N>& palabras)

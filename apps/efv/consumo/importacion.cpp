@@ -26,9 +26,9 @@ void ImportacionConsumo::Declarar(CLI::App& orden)
     orden
         .add_option("--unidad", m_unidad,
                     "Wh o kWh; si falta, Wh en una lista de valores, y lo que diga un fichero de contador")
-        ->type_name("UNIDAD");
+        ->type_name(TipoDe(kUnidades));
     orden.add_option("--tiempo", m_tiempo, "Lista de valores: horas que abarca cada uno, 1 o 1/4; si falta, 1")
-        ->type_name("HORAS");
+        ->type_name(TipoDe(kTiempos));
     orden
         .add_option("--periodo", m_periodo,
                     "Lista de valores: su mes, 1 a 12; si falta, el año. Las horas de los demás meses son 0")
@@ -44,13 +44,13 @@ void ImportacionConsumo::Declarar(CLI::App& orden)
     orden
         .add_option("--etiqueta", m_etiqueta,
                     "Contador: lo que dice una hora escrita como 13:00, inicio o final de su intervalo")
-        ->type_name("CUAL");
+        ->type_name(TipoDe(kEtiquetas));
     orden.add_option("--lugar", m_lugar, "Contador: lugar de «efv lugares», por su longitud y huso")
         ->type_name("LUGAR");
     orden.add_option("--longitud", m_longitud, "Contador: longitud, este positivo; si falta, -3,7")
         ->type_name("GRADOS");
     orden.add_option("--huso", m_huso, "Contador: peninsula o canarias; si falta, según la longitud")
-        ->type_name("HUSO");
+        ->type_name(TipoDe(kHusos));
     orden.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
     orden.footer(
         "Un fichero de contador tiene columnas de fecha, hora y consumo (CUPS;Fecha;Hora;Consumo_kWh…), con\n"

@@ -87,7 +87,7 @@ private:
         orden.add_option("--svg", m_svg, "Dibuja el consumo en el fichero, en lugar de escribirlo")
             ->type_name("FICHERO");
         orden.add_option("--vista", m_vista, "Lo que se dibuja: dia, semana o ano; si falta, ano")
-            ->type_name("VISTA");
+            ->type_name(TipoDe(kVistas));
         orden.add_option("--mes", m_mes, "Mes del día, o del primero de la semana, 1 a 12; si falta, enero")
             ->type_name("MES");
         orden.add_option("--dia", m_dia, "Día del mes, desde 1; si falta, el primero")->type_name("DIA");

@@ -6,11 +6,10 @@
 
 #include <fmt/format.h>
 
-#include <quorvel/localidades.h>
-
 #include "comun/consola.h"
 #include "comun/entrada.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 #include "rpc/valores.h"
 
 namespace efv::orden {
@@ -18,7 +17,6 @@ namespace efv::orden {
 namespace {
 
 constexpr std::size_t kFicheroMaximo = std::size_t{1} << 20;
-constexpr std::size_t kParecidos = 3;
 
 std::string Cita(const std::string& nombre)
 {
@@ -86,23 +84,6 @@ JsonLeido LeerFicheroJson(const std::string& ruta)
     } catch (const rpc::ErrorValor& error) {
         throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
     }
-}
-
-std::string Parecidos(const std::vector<std::string>& nombres, std::string_view buscado)
-{
-    // The nearness of names is the same for places and for anything else.
-    std::vector<Localidad> candidatos;
-    for (const std::string& nombre : nombres) {
-        Localidad& candidato = candidatos.emplace_back();
-        candidato.csNombre = CadenaDesdeUtf8(nombre);
-        const std::size_t almohadilla = candidato.csNombre.find(L'#');
-        if (almohadilla != CString::npos)
-            candidato.acsAlias.push_back(candidato.csNombre.substr(almohadilla + 1));
-    }
-    std::string texto;
-    for (const CString& csParecido : NombresParecidos(candidatos, CadenaDesdeUtf8(buscado), kParecidos))
-        texto += fmt::format("{}{}", texto.empty() ? "; parecidos: " : ", ", CadenaUtf8(csParecido));
-    return texto;
 }
 
 Objeto::Objeto(const JsonLeido& j) : m_objeto(j)

@@ -22,9 +22,6 @@ JsonLeido LeerFicheroJson(const std::string& ruta);
 /// twice, with its name
 JsonLeido AnalizarJson(std::string_view bytes);
 
-/// "; parecidos: a, b", empty without any.
-std::string Parecidos(const std::vector<std::string>& nombres, std::string_view buscado);
-
 /// An object whose members are asked for one by one.
 class Objeto {
 public:

@@ -6,6 +6,7 @@
 #include "comun/consola.h"
 #include "comun/datos.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 #include "diseno/lectura.h"
 
 namespace efv::orden {

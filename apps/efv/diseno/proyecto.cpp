@@ -11,6 +11,7 @@
 #include <quorvel/solar.h>
 
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 #include "lugares/busqueda.h"
 #include "rpc/valores.h"
 

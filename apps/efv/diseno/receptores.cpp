@@ -11,6 +11,7 @@
 
 #include "catalogo/acceso.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 #include "diseno/proyecto.h"
 #include "rpc/valores.h"
 

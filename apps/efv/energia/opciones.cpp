@@ -99,7 +99,7 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
 {
     static_assert(kOpciones.size() == kNumericas);
     linea.add_option("--lugar", m_lugar, "Lugar de la lista de «efv lugares», con sus radiaciones")
-        ->type_name("NOMBRE");
+        ->type_name("LUGAR");
     for (std::size_t i = 0; i < kNumericas; ++i) {
         linea.add_option(kOpciones[i].nombre, m_numericas[i], kOpciones[i].descripcion)
             ->type_name(kOpciones[i].unidad);
@@ -120,7 +120,7 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
             "Registro climático para la energía con la orientación; si falta, cielo despejado ajustado a las "
             "doce radiaciones")
         ->type_name("FICHERO");
-    linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")->type_name("METODO");
+    linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")->type_name("correlacion|tabla|ambos");
     CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON");
     CLI::Option* csv = linea.add_flag(
         "--csv", m_bCsv, "Escribe CSV con punto y coma y coma decimal, como lo leen las hojas de cálculo");

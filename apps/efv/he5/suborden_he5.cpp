@@ -133,7 +133,7 @@ public:
         CLI::App& linea = *raiz.add_subcommand("he5", "Potencia fotovoltaica mínima de un edificio, CTE HE5");
         Castellanizar(linea);
         linea.add_option("--zona", m_zona, "Zona climática, 1 a 5 o I a V")->type_name("ZONA");
-        linea.add_option("--lugar", m_lugar, "Lugar de «efv lugares», que da la zona")->type_name("NOMBRE");
+        linea.add_option("--lugar", m_lugar, "Lugar de «efv lugares», que da la zona")->type_name("LUGAR");
         linea
             .add_option("--uso", m_usos,
                         "Uso del edificio, por su número o nombre; hasta dos, cada uno con su superficie")

@@ -18,7 +18,7 @@ clima::SitioCielo SitioPedido::Cielo() const
 void OpcionesSitio::Declarar(CLI::App& linea)
 {
     linea.add_option("--lugar", m_lugar, "Lugar de «efv lugares»: da la latitud y la altitud")
-        ->type_name("NOMBRE");
+        ->type_name("LUGAR");
     linea.add_option("--lat", m_latitud, "Latitud, norte positiva (-90 a 90)")->type_name("GRADOS");
     linea.add_option("--altitud", m_altitud, "Altitud en m (-500 a 10000); si falta, la del lugar o 0")
         ->type_name("M");

@@ -7,12 +7,11 @@
 #include "comun/consola.h"
 #include "comun/datos.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 
 namespace efv::orden {
 
 namespace {
-
-constexpr std::size_t kParecidos = 3;
 
 std::string Enumeradas(const std::vector<const Localidad*>& lugares)
 {
@@ -44,10 +43,8 @@ Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos)
     if (!hallados.empty())
         throw ErrorEjecucion(
             fmt::format("hay {} lugares «{}»: {}", hallados.size(), nombre, Enumeradas(hallados)));
-    std::string parecidos;
-    for (const CString& parecido : NombresParecidos(lugares, csNombre, kParecidos))
-        parecidos += fmt::format("{}{}", parecidos.empty() ? "; parecidos: " : ", ", CadenaUtf8(parecido));
-    throw ErrorEjecucion(fmt::format("no hay ningún lugar «{}»{} (todos: efv lugares)", nombre, parecidos));
+    throw ErrorEjecucion(fmt::format("no hay ningún lugar «{}»{} (todos: efv lugares)", nombre,
+                                     Parecidos(NombresParecidos(lugares, csNombre, kParecidos))));
 }
 
 std::string TextoZonas(const Localidad& lugar)
