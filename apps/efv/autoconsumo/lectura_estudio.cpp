@@ -344,7 +344,9 @@ void LeerInversion(Lector& lector, ProyectoAutoconsumo& p)
     lector.Numero("variacionPrecio", {0.0, 100.0}, r.dVariacionPrecio, "Variación anual del precio", "%");
     lector.Numero("mantenimiento", {0.0, 1e7}, p.inversion.dMantenimiento, "Mantenimiento", "€/año");
     double dAnos = p.inversion.iAnos;
-    lector.Numero("anos", {1.0, 100.0}, dAnos, "Años del estudio", "");
+    // Studies written before the name had its ñ.
+    const bool bAntiguo = lector.Buscar("años") == nullptr && lector.Buscar("anos") != nullptr;
+    lector.Numero(bAntiguo ? "anos" : "años", {1.0, 100.0}, dAnos, "Años del estudio", "");
     p.inversion.iAnos = static_cast<int>(dAnos);
     const JsonLeido* prestamo = lector.Buscar("prestamo");
     if (prestamo == nullptr) {

@@ -39,7 +39,7 @@ JsonEscrito PuntoJson(const report::PuntoBarrido& p)
             {"cobertura", NumeroJson(p.dCobertura)},
             {"aprovechamiento", NumeroJson(p.dAprovechamiento)},
             {"ahorro", NumeroJson(p.dAhorro)},
-            {"recuperacion_anos", p.recuperacion.bViable ? NumeroJson(p.recuperacion.dAnos) : JsonEscrito()},
+            {"recuperacion_años", p.recuperacion.bViable ? NumeroJson(p.recuperacion.dAnos) : JsonEscrito()},
             {"tir", p.tasa.bHallada ? NumeroJson(p.tasa.dTIR) : JsonEscrito()}};
 }
 
@@ -74,7 +74,7 @@ JsonEscrito EstudioJson(const report::ProyectoAutoconsumo& proyecto, const repor
     JsonEscrito json = {{"tipo", "autoconsumo"},
                         {"titulo", proyecto.titulo},
                         {"lugar", LugarJson(proyecto.lugar)},
-                        {"ano", SumaJson(e.ano.total)},
+                        {"anual", SumaJson(e.ano.total)},
                         {"meses", std::move(meses)},
                         {"recortada_kWh", NumeroJson(e.dRecortada)},
                         {"valores", ValoresJson(CamposDeRegistro(e.registro))},

@@ -67,7 +67,7 @@ constexpr const char* kPie =
     "                      pago: compensacion o venta\n"
     "  coste               € de todo, o {\"fijo\", \"porKWp\", \"porKWhBateria\"}; subvencion, €\n"
     "  prestamo            {\"capitalInicial\", \"interes\", \"meses\"}; si falta, se paga al contado\n"
-    "  envejecimiento, variacionPrecio (% al año), mantenimiento (€ al año), anos del estudio (25)\n"
+    "  envejecimiento, variacionPrecio (% al año), mantenimiento (€ al año), años del estudio (25)\n"
     "  bateria             {\"capacidad\": 5, \"potencia\": 2.5, \"rendimiento\": 0.9, \"regla\": "
     "\"autoconsumo\" o\n"
     "                      \"arbitraje\", \"costeDegradacion\": 0}\n"

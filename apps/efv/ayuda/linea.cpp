@@ -54,7 +54,8 @@ const CLI::App* Orden(const CLI::App& linea, std::string_view nombre)
 
 std::vector<const CLI::Option*> Opciones(const CLI::App& linea)
 {
-    return linea.get_options([](const CLI::Option* opcion) { return !opcion->get_positional(); });
+    return linea.get_options(
+        [](const CLI::Option* opcion) { return !opcion->get_positional() && !opcion->get_group().empty(); });
 }
 
 std::vector<const CLI::Option*> Argumentos(const CLI::App& linea)

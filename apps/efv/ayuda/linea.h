@@ -19,7 +19,7 @@ std::vector<const CLI::App*> Ordenes(const CLI::App& linea);
 /// The order of that name; null without one.
 const CLI::App* Orden(const CLI::App& linea, std::string_view nombre);
 
-/// Options of `linea`, and what it takes without a name.
+/// Options of `linea` that its help shows, and what it takes without a name.
 std::vector<const CLI::Option*> Opciones(const CLI::App& linea);
 std::vector<const CLI::Option*> Argumentos(const CLI::App& linea);
 

@@ -24,7 +24,7 @@ namespace {
 constexpr double kPotenciaMaxima = 1e10;  // W
 constexpr double kEnergiaMaxima = 1e7;    // kWh a month and period
 
-constexpr Palabras<Vista, 3> kVistas = {{{"dia", Vista::dia}, {"semana", Vista::semana}, {"ano", Vista::ano}}};
+constexpr Palabras<Vista, 3> kVistas = {{{"dia", Vista::dia}, {"semana", Vista::semana}, {"año", Vista::ano}}};
 
 std::string PiePatrones()
 {
@@ -86,7 +86,7 @@ private:
             ->disable_flag_override();
         orden.add_option("--svg", m_svg, "Dibuja el consumo en el fichero, en lugar de escribirlo")
             ->type_name("FICHERO");
-        orden.add_option("--vista", m_vista, "Lo que se dibuja: dia, semana o ano; si falta, ano")
+        orden.add_option("--vista", m_vista, "Lo que se dibuja: dia, semana o año; si falta, año")
             ->type_name(TipoDe(kVistas));
         orden.add_option("--mes", m_mes, "Mes del día, o del primero de la semana, 1 a 12; si falta, enero")
             ->type_name("MES");
@@ -219,7 +219,8 @@ private:
         Salida como{Salidas({m_palabra})};
         if (m_svg)
             como.ficheros.Anadir("--svg", *m_svg);
-        como.vista = Elegir("--vista", m_vista.value_or("ano"), kVistas);
+        // "ano" for keyboards without ñ.
+        como.vista = m_vista == "ano" ? Vista::ano : Elegir("--vista", m_vista.value_or("año"), kVistas);
         como.iMes = LeerEntero("--mes", m_mes.value_or("1"), 1, 12) - 1;
         como.iDia = LeerEntero("--dia", m_dia.value_or("1"), 1, HorasDePeriodo(como.iMes).Horas() / 24) - 1;
         return como;

@@ -101,7 +101,7 @@ std::string InformeJson(const Estudio& estudio)
         {"pr", campo.dPR},
         {"factor", campo.dFactor},
         {"meses", meses},
-        {"ano", {{"correlacion", DelAno(estudio.correlacion)}, {"tabla", DelAno(estudio.tabla)}}},
+        {"anual", {{"correlacion", DelAno(estudio.correlacion)}, {"tabla", DelAno(estudio.tabla)}}},
         {"de_uso",
          {{"metodo", estudio.DeUso() == solar::Metodo::tabla ? "tabla" : "correlacion"},
           {"energia_kWh", Numero(estudio.AnoDeUso().Energia())}}},

@@ -120,7 +120,8 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
             "Registro climático para la energía con la orientación; si falta, cielo despejado ajustado a las "
             "doce radiaciones")
         ->type_name("FICHERO");
-    linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")->type_name("correlacion|tabla|ambos");
+    linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")
+        ->type_name("correlacion|tabla|ambos");
     CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON");
     CLI::Option* csv = linea.add_flag(
         "--csv", m_bCsv, "Escribe CSV con punto y coma y coma decimal, como lo leen las hojas de cálculo");

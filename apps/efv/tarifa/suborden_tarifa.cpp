@@ -77,7 +77,7 @@ std::string EnJson(const Precios& precios)
     Json periodos = Json::array();
     for (const int iPeriodo : precios.aiPeriodo)
         periodos.push_back(iPeriodo + 1);
-    return TextoJson({{"ano", precios.iAno},
+    return TextoJson({{"año", precios.iAno},
                       {"horas", precios.bSolar ? "solares" : "oficiales"},
                       {"impuestos", precios.tarifa.dImpuestos},
                       {"precio_medio", Media(precios.adConsumo)},
@@ -138,8 +138,11 @@ public:
             .add_option("--impuestos", m_impuestos,
                         "Factor de los impuestos sobre los dos precios; si falta, 1")
             ->type_name("FACTOR");
-        linea.add_option("--ano", m_ano, "Año de los días y festivos; si falta, el del reloj")
-            ->type_name("AÑO");
+        CLI::Option* ano =
+            linea.add_option("--año", m_ano, "Año de los días y festivos; si falta, el del reloj")
+                ->type_name("AÑO");
+        // For keyboards without ñ, and scripts that know it so.
+        linea.add_option("--ano", m_ano)->group("");
         linea
             .add_option("--festivos", m_pedido.festivos,
                         "Fichero de festivos (mes, dia); si falta, los nacionales")
@@ -163,7 +166,7 @@ public:
             "hora,\n"
             "periodo (P1 a P6) y, si importan, mes y zona: data/ejemplos/tarifa-seis-periodos.csv es uno.\n"
             "Ejemplo:\n"
-            "  efv tarifa --p1 0,197 --p2 0,128 --p3 0,093 --excedente 0,06 --impuestos 1,2719 --ano 2025");
+            "  efv tarifa --p1 0,197 --p2 0,128 --p3 0,093 --excedente 0,06 --impuestos 1,2719 --año 2025");
         return linea;
     }
 
@@ -212,7 +215,7 @@ private:
     {
         Precios precios;
         const auto ahora = LeerReloj();
-        precios.iAno = m_ano ? LeerEntero("--ano", *m_ano, 1990, 2100) : ahora ? ahora->iAno : 2025;
+        precios.iAno = m_ano ? LeerEntero("--año", *m_ano, 1990, 2100) : ahora ? ahora->iAno : 2025;
         precios.bSolar = !m_bReloj;
         economics::CalendarioTarifa calendario{economics::DiasDeUnAno(precios.iAno), precios.bSolar};
         if (m_lugar)

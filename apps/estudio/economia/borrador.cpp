@@ -67,6 +67,15 @@ void PonerLugar(Json& json, const CProyectoEstudio& proyecto)
     }
 }
 
+// The name that the years of the study had before.
+void ActualizarNombres(Json& json)
+{
+    if (json.is_object() && json.contains("anos") && !json.contains("años")) {
+        json["años"] = json["anos"];
+        json.erase("anos");
+    }
+}
+
 // The members that the pages write into are objects.
 bool TieneForma(const Json& json)
 {
@@ -103,6 +112,7 @@ Json Completar(Json json, const CProyectoEstudio& proyecto)
 
 BorradorAutoconsumo::BorradorAutoconsumo(const std::string& texto) : m_json(Json::parse(texto, nullptr, false))
 {
+    ActualizarNombres(m_json);
     if (!TieneForma(m_json))
         m_json = Nuevo();
 }
@@ -145,6 +155,7 @@ void BorradorAutoconsumo::Abrir(const std::string& ruta)
 {
     const RegistroDelProyecto despues;
     m_json = Json::parse(orden::TextoDeEstudio(ruta));
+    ActualizarNombres(m_json);
     m_apartado = Json::object();
 }
 

@@ -68,7 +68,7 @@ constexpr auto kCampos = std::to_array<Campo>({
     {"dPorKWhBateria", kCoste, "/coste", "porKWhBateria", L"Por k&Wh de batería (€):", {0.0, 1e6}, 0.0},
     {"dSubvencion", kCoste, "", "subvencion", L"&Subvención (€):", {0.0, 1e8}, 0.0},
     {"dMantenimiento", kCoste, "", "mantenimiento", L"&Mantenimiento (€ al año):", {0.0, 1e7}, 0.0},
-    {"dAnos", kCoste, "", "anos", L"A&ños del estudio:", {1.0, 100.0}, 25.0},
+    {"dAnos", kCoste, "", "años", L"A&ños del estudio:", {1.0, 100.0}, 25.0},
     {"dCapitalInicial", kPrestamo, "/prestamo", "capitalInicial", L"Capita&l inicial (€):", {0.0, 1e8}, 0.0},
     {"dInteres", kPrestamo, "/prestamo", "interes", L"&Interés (%):", {0.0, 100.0}, 0.0},
     {"dMeses", kPrestamo, "/prestamo", "meses", L"M&eses:", {1.0, 12000.0}, 60.0},

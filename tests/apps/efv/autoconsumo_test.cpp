@@ -43,15 +43,24 @@ TEST(Autoconsumo, LaCasaDelEjemploContraOtroPrograma)
     EstudioEjemplo estudio;
     estudio.json["bateria"]["regla"] = "autoconsumo";
     const Json con = estudio.Resultado();
-    EXPECT_NEAR(con["ano"]["autoconsumida_kWh"].get<double>(), 3009.821681464, 1e-8);
-    EXPECT_NEAR(con["ano"]["compra"].get<double>(), 84.533113138, 1e-8);
-    EXPECT_NEAR(con["ano"]["ahorro"].get<double>(), 597.930186923, 1e-8);
+    EXPECT_NEAR(con["anual"]["autoconsumida_kWh"].get<double>(), 3009.821681464, 1e-8);
+    EXPECT_NEAR(con["anual"]["compra"].get<double>(), 84.533113138, 1e-8);
+    EXPECT_NEAR(con["anual"]["ahorro"].get<double>(), 597.930186923, 1e-8);
     EXPECT_NEAR(con["valores"]["dAniosRecuperacion"].get<double>(), 13.4379119068, 1e-9);
     EXPECT_NEAR(con["valores"]["dTIR"].get<double>(), 6.4065, 1e-3);
+    // The years of the study under their old name too, but not under both.
+    estudio.json["años"] = 3;
+    const Json tres = estudio.Resultado()["flujos"];
+    estudio.json["anos"] = 3;
+    EXPECT_EQ(estudio.Correr().iEstado, 1);
+    estudio.json.erase("años");
+    EXPECT_EQ(estudio.Resultado()["flujos"], tres);
+    EXPECT_NE(con["flujos"], tres);
+    estudio.json.erase("anos");
     estudio.json.erase("bateria");
     const Json sin = estudio.Resultado();
-    EXPECT_NEAR(sin["ano"]["gasto_sin_instalacion"].get<double>(), 618.727754105, 1e-8);
-    EXPECT_NEAR(sin["ano"]["ahorro"].get<double>(), 529.787173213, 1e-8);
+    EXPECT_NEAR(sin["anual"]["gasto_sin_instalacion"].get<double>(), 618.727754105, 1e-8);
+    EXPECT_NEAR(sin["anual"]["ahorro"].get<double>(), 529.787173213, 1e-8);
     EXPECT_NEAR(sin["valores"]["dAniosRecuperacion"].get<double>(), 10.2890015414, 1e-9);
 }
 
@@ -63,8 +72,8 @@ TEST(Autoconsumo, UnBarridoPasaPorElEstudio)
     const Json& punto = json["barrido"][3];
     EXPECT_EQ(punto["potencia_kWp"], 4.2);
     EXPECT_EQ(punto["bateria_kWh"], 5.0);
-    EXPECT_NEAR(punto["ahorro"].get<double>(), json["ano"]["ahorro"].get<double>(), 1e-9);
-    EXPECT_NEAR(punto["recuperacion_anos"].get<double>(), json["valores"]["dAniosRecuperacion"].get<double>(),
+    EXPECT_NEAR(punto["ahorro"].get<double>(), json["anual"]["ahorro"].get<double>(), 1e-9);
+    EXPECT_NEAR(punto["recuperacion_años"].get<double>(), json["valores"]["dAniosRecuperacion"].get<double>(),
                 1e-9);
     // More panels cover no less.
     EXPECT_GE(json["barrido"][4]["cobertura"], json["barrido"][2]["cobertura"]);

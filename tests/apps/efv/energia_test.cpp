@@ -73,7 +73,7 @@ TEST_F(Energia, LaCorrelacionDaLoDelMetodoEnUnAnoDe365Dias)
     const Json json = Calcular(kCampo);
     EXPECT_NEAR(json["meses"][0]["correlacion"]["ri_kWh_m2_dia"].get<double>(), 3.464593662209625, 1e-9);
     EXPECT_NEAR(json["meses"][9]["correlacion"]["ri_kWh_m2_dia"].get<double>(), 3.8232280882574825, 1e-9);
-    EXPECT_NEAR(json["ano"]["correlacion"]["energia_kWh"].get<double>(), 6457.640007268944, 1e-6);
+    EXPECT_NEAR(json["anual"]["correlacion"]["energia_kWh"].get<double>(), 6457.640007268944, 1e-6);
 }
 
 // Factor at 40.4 between 1.2 and 1.4: 1.28. 10100 × 1.28 / 3600 = 3.591111; × 5 × 0.8 × 0.9 × 28 = 361.984.
@@ -84,14 +84,14 @@ TEST_F(Energia, LosDosMetodosLlevanPRFactorYLosMismosDias)
     EXPECT_NEAR(tabla["ri_kWh_m2_dia"].get<double>(), 3.591111111111111, 1e-12);
     EXPECT_NEAR(tabla["energia_kWh_mes"].get<double>(), 361.984, 1e-9);
     for (const char* metodo : {"correlacion", "tabla"}) {
-        const Json ano = json["ano"][metodo];
+        const Json ano = json["anual"][metodo];
         EXPECT_NEAR(ano["energia_kWh"].get<double>(),
                     ano["ri_media_kWh_m2_dia"].get<double>() * 5 * 0.8 * 0.9 * 365, 1e-9);
     }
     EXPECT_EQ(json["de_uso"]["metodo"], "tabla");
-    EXPECT_EQ(json["de_uso"]["energia_kWh"], json["ano"]["tabla"]["energia_kWh"]);
+    EXPECT_EQ(json["de_uso"]["energia_kWh"], json["anual"]["tabla"]["energia_kWh"]);
     const Json correlacion = Calcular(Mas(kCampo, {"--metodo", "correlacion"}));
-    EXPECT_EQ(correlacion["de_uso"]["energia_kWh"], json["ano"]["correlacion"]["energia_kWh"]);
+    EXPECT_EQ(correlacion["de_uso"]["energia_kWh"], json["anual"]["correlacion"]["energia_kWh"]);
     EXPECT_EQ(Calcular(Mas(kCampo, {"--metodo", "tabla"}))["meses"][1]["correlacion"], nullptr);
 }
 
@@ -122,8 +122,8 @@ TEST_F(Energia, LoQueNoTieneValorQuedaVacio)
     const Json json = Calcular(polar);
     EXPECT_EQ(json["meses"][5]["correlacion"]["energia_kWh_mes"], nullptr);
     EXPECT_TRUE(json["meses"][3]["correlacion"]["energia_kWh_mes"].is_number());
-    EXPECT_EQ(json["ano"]["correlacion"]["energia_kWh"], nullptr);
-    EXPECT_EQ(json["ano"]["tabla"], nullptr);
+    EXPECT_EQ(json["anual"]["correlacion"]["energia_kWh"], nullptr);
+    EXPECT_EQ(json["anual"]["tabla"], nullptr);
     EXPECT_NE(Correr(Mas({"energia"}, polar)).salida.find("—"), std::string::npos);
     const std::string csv = Correr(Mas({"energia", "--csv"}, polar)).salida;
     EXPECT_NE(csv.find("\nJunio;25000;6,944444444444445;;;;;;\n"), std::string::npos) << csv;
@@ -192,7 +192,7 @@ TEST_F(Energia, LosLugaresDistribuidosSeHallanPorSuNombre)
     const Json malaga = Calcular({"--lugar", "málaga"});
     EXPECT_EQ(malaga["latitud"], lugares[0]["latitud"]);
     EXPECT_EQ(malaga["meses"][11]["radiacion_kJ_m2_dia"], lugares[0]["radiacion_kJ_m2_dia"][11]);
-    EXPECT_TRUE(malaga["ano"]["tabla"]["energia_kWh"].is_number());
+    EXPECT_TRUE(malaga["anual"]["tabla"]["energia_kWh"].is_number());
     EsperarFallo({"energia", "--lugar", "Malga\n"}, 1, "Málaga");
     EsperarFallo({"lugares", "Atlántida"}, 1, "Atlántida");
 }
