@@ -211,9 +211,9 @@ enum class Limite {
 
 struct Comprobacion {
     Limite limite;
-    double dValor;                ///< not a number when the module's temperature coefficient isn't known
+    double dValor;                ///< not a number when a figure of the module that it hangs on isn't known
     double dLimite;               ///< 0 when the catalogue doesn't give it
-    std::optional<bool> bCumple;  ///< nothing when the catalogue doesn't give the limit or the coefficient
+    std::optional<bool> bCumple;  ///< nothing when the catalogue doesn't give the limit or those figures
 };
 
 struct ComprobacionCampo {
@@ -224,8 +224,9 @@ struct ComprobacionCampo {
 };
 
 /// Holds the field against the limits of module and inverter. The module's values at a temperature are
-/// those of phCalcValoresTipicos; of maximum power, the voltage follows the power and the current stays. A
-/// temperature coefficient of 0 counts as unknown: a limit that the values at 25 ºC keep to is then left open.
+/// those of phCalcValoresTipicos; of maximum power, the voltage follows the power and the current stays. What a
+/// model's file doesn't give (CModelo::uAusentes) and a 0 count as unknown, and leave what hangs on them open;
+/// of a temperature coefficient that is unknown, a limit that the values at 25 ºC keep to.
 EFV_API ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
                                     const CBaseInversorModelo& inversor);
 

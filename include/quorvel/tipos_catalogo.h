@@ -1,6 +1,7 @@
 // The six kinds of component in one shape, for tools that work on catalogues whatever they hold.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -22,7 +23,16 @@ struct CampoCatalogo {
     std::string_view nombre;
     std::wstring_view columna;  ///< heading in lists of models; empty: not shown there
     Clase clase;
+    std::uint64_t uMarca;  ///< its bit in CModelo::uAusentes
+    bool bCeroSinDato;     ///< a 0 says that the figure isn't known
+    bool bDerivable;       ///< without its attribute the value follows from the model's other fields
 };
+
+/// Whether the file doesn't give the model that field: the value in force isn't the model's own.
+inline bool Ausente(const CModelo& modelo, const CampoCatalogo& campo)
+{
+    return !campo.bDerivable && (modelo.uAusentes & campo.uMarca) != 0;
+}
 
 /// Models to be added to the family of that name.
 struct ModelosDeFamilia {
@@ -80,6 +90,15 @@ EFV_API const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre);
 /// The kind whose fields the attributes of a catalogue's first model are; null when the file can't be read, has
 /// no model or several kinds fit as well.
 EFV_API const TipoCatalogo* TipoDelCatalogo(const CString& csRuta);
+
+/// Whether the model's value of that field is a 0 that says that it isn't known.
+EFV_API bool Desconocido(const TipoCatalogo& tipo, const CModelo& modelo, std::size_t iCampo);
+
+/// The model that the value in force of an absent field is of; null when it is none's, but the initial 0 or
+/// empty.
+/// @param todos all models of the file, in order
+EFV_API const CModelo* HeredadoDe(std::span<const CModelo* const> todos, const CModelo& modelo,
+                                  const CampoCatalogo& campo);
 
 /// What is wrong with one model, as its dialog would say it.
 struct HallazgoModelo {

@@ -1,11 +1,16 @@
 // A field of panels against the limits of its inverter at the temperatures of the place.
 #include <algorithm>
 #include <functional>
+#include <initializer_list>
 #include <limits>
+#include <optional>
 
 #include <quorvel/assistants_calculo.h>
 
+#include "catalogues/format/ausencias.h"
 #include "catalogues/kinds/corrientes.h"
+#include "catalogues/kinds/inversor.h"
+#include "catalogues/kinds/panel_foto.h"
 #include "electrical/curvas.h"
 #include "platform/numero/tolerancia.h"
 
@@ -44,12 +49,21 @@ Comprobacion AlMenos(Limite limite, double dValor, double dLimite)
     return {limite, dValor, dLimite, numero::MayorIgual(dValor, dLimite)};
 }
 
-// What hangs on a coefficient that the catalogue doesn't give stays open, unless it is passed at 25 ºC already.
-Comprobacion SegunCoeficiente(double dCoeficiente, Comprobacion c)
+Comprobacion SinComprobar(const Comprobacion& c)
 {
-    if (dCoeficiente != 0.0 || c.bCumple == false)
-        return c;
     return {c.limite, std::numeric_limits<double>::quiet_NaN(), c.dLimite, std::nullopt};
+}
+
+// What hangs on figures that the catalogue doesn't give, by which it then is 0, stays open.
+Comprobacion SegunDatos(std::initializer_list<double> datos, const Comprobacion& c)
+{
+    return std::ranges::find(datos, 0.0) == datos.end() ? c : SinComprobar(c);
+}
+
+// The same of a coefficient, unless the limit is passed at 25 ºC already.
+Comprobacion SegunCoeficiente(double dCoeficiente, const Comprobacion& c)
+{
+    return dCoeficiente != 0.0 || c.bCumple == false ? c : SinComprobar(c);
 }
 
 // Strings on each of so many trackers, the busiest first.
@@ -86,11 +100,45 @@ std::vector<double> CorrientesMaximas(const CBaseInversorModelo& inversor)
 
 }  // namespace
 
-ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
-                            const CBaseInversorModelo& inversor)
+namespace {
+
+// The values that a check takes of a module, at the extremes of temperature.
+struct PanelExtremo {
+    const CBasePanelFotoModelo& panel;
+    electrical::ValoresTipicos frio, calor;
+
+    PanelExtremo(const CBasePanelFotoModelo& modelo, const CampoInversor& campo)
+        : panel(modelo),
+          frio(ATemperatura(modelo, campo.dTemperaturaMinima)),
+          calor(ATemperatura(modelo, campo.dTemperaturaMaxima))
+    {
+    }
+
+    double Imp() const { return std::max(frio.dImp, calor.dImp); }
+    double Isc() const { return std::max(frio.dIsc, calor.dIsc); }
+
+    // A check of that value, open without the figures that it hangs on.
+    Comprobacion DeVoc(const Comprobacion& c) const
+    {
+        return SegunDatos({panel.dVoc}, SegunCoeficiente(panel.dCTVoc, c));
+    }
+    Comprobacion DeVmp(const Comprobacion& c) const
+    {
+        return SegunDatos({panel.dVmpm, panel.dImpm, panel.dPmpm}, SegunCoeficiente(panel.dCTPmpm, c));
+    }
+    Comprobacion DeImp(const Comprobacion& c) const { return SegunDatos({panel.dImpm}, c); }
+    Comprobacion DeIsc(const Comprobacion& c) const
+    {
+        return SegunDatos({panel.dIsc}, SegunCoeficiente(panel.dCTIsc, c));
+    }
+    Comprobacion DePmpm(const Comprobacion& c) const { return SegunDatos({panel.dPmpm}, c); }
+};
+
+ComprobacionCampo ComprobarPropios(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
+                                   const CBaseInversorModelo& inversor)
 {
-    const auto frio = ATemperatura(panel, campo.dTemperaturaMinima);
-    const auto calor = ATemperatura(panel, campo.dTemperaturaMaxima);
+    const PanelExtremo extremo(panel, campo);
+    const auto& [modulo, frio, calor] = extremo;
     const double dSerie = campo.iPanelesSerie;
     const int iRamales = std::max(campo.iPanelesParalelo, 0);
     const double dPotencia = dSerie * iRamales * panel.dPmpm;
@@ -99,35 +147,61 @@ ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoMode
     // A stand-alone inverter keeps other things in these fields: the battery's voltages, its consumption.
     const auto deRed = [&](double d) { return inversor.iUsoPrincipal == 0 ? d : 0.0; };
     using enum Limite;
-    const auto conVoc = [&](const Comprobacion& c) { return SegunCoeficiente(panel.dCTVoc, c); };
-    const auto conPmpm = [&](const Comprobacion& c) { return SegunCoeficiente(panel.dCTPmpm, c); };
-    return {{conVoc(ComoMucho(tensionVacioInversor, dSerie * frio.dVoc, inversor.dVCCMax)),
-             conVoc(ComoMucho(tensionVacioModulo, dSerie * frio.dVoc, panel.dVsmax)),
-             conPmpm(ComoMucho(tensionMppMaxima, dSerie * frio.dVmp, deRed(inversor.dVMPPMax))),
-             conPmpm(AlMenos(tensionMppMinima, dSerie * calor.dVmp, deRed(inversor.dVMPPMin))),
-             EnSeguidores(corrienteMpp, iRamales, std::max(frio.dImp, calor.dImp), adMaximas),
-             SegunCoeficiente(panel.dCTIsc, EnSeguidores(corrienteCortocircuito, iRamales,
-                                                         std::max(frio.dIsc, calor.dIsc), adCortocircuito)),
-             ComoMucho(potenciaCC, dPotencia, deRed(inversor.dPCCMax)),
+    return {{extremo.DeVoc(ComoMucho(tensionVacioInversor, dSerie * frio.dVoc, inversor.dVCCMax)),
+             extremo.DeVoc(ComoMucho(tensionVacioModulo, dSerie * frio.dVoc, panel.dVsmax)),
+             extremo.DeVmp(ComoMucho(tensionMppMaxima, dSerie * frio.dVmp, deRed(inversor.dVMPPMax))),
+             extremo.DeVmp(AlMenos(tensionMppMinima, dSerie * calor.dVmp, deRed(inversor.dVMPPMin))),
+             extremo.DeImp(EnSeguidores(corrienteMpp, iRamales, extremo.Imp(), adMaximas)),
+             extremo.DeIsc(EnSeguidores(corrienteCortocircuito, iRamales, extremo.Isc(), adCortocircuito)),
+             extremo.DePmpm(ComoMucho(potenciaCC, dPotencia, deRed(inversor.dPCCMax))),
              ComoMucho(ramales, iRamales, inversor.iNumEntradas)},
             dPotencia / inversor.dPCANom};
+}
+
+ComprobacionCampo ComprobarPropios(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
+                                   const LimitesRegulador& regulador)
+{
+    const PanelExtremo extremo(panel, campo);
+    const auto& [modulo, frio, calor] = extremo;
+    const double dSerie = campo.iPanelesSerie, dRamales = campo.iPanelesParalelo;
+    using enum Limite;
+    return {
+        {extremo.DeVoc(ComoMucho(tensionVacioModulo, dSerie * frio.dVoc, panel.dVsmax)),
+         extremo.DeVoc(ComoMucho(tensionVacioRegulador, dSerie * frio.dVoc, regulador.dTensionMaxima)),
+         extremo.DeVmp(AlMenos(tensionMppRegulador, dSerie * calor.dVmp, regulador.dTensionMinima)),
+         extremo.DeIsc(ComoMucho(corrienteRegulador, dRamales * extremo.Isc(), regulador.dCorrienteMaxima))}};
+}
+
+// What a model has of its own, without a copy where that is all.
+template <class M>
+class Propio {
+public:
+    explicit Propio(const M& modelo) : m_modelo(&modelo)
+    {
+        if (modelo.uAusentes != 0)
+            m_modelo = &m_copia.emplace(catalogues::SinHeredar(modelo));
+    }
+    Propio(const Propio&) = delete;
+    Propio& operator=(const Propio&) = delete;
+    const M& operator*() const { return *m_modelo; }
+
+private:
+    std::optional<M> m_copia;
+    const M* m_modelo;
+};
+
+}  // namespace
+
+ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
+                            const CBaseInversorModelo& inversor)
+{
+    return ComprobarPropios(campo, *Propio(panel), *Propio(inversor));
 }
 
 ComprobacionCampo Comprobar(const CampoInversor& campo, const CBasePanelFotoModelo& panel,
                             const LimitesRegulador& regulador)
 {
-    const auto frio = ATemperatura(panel, campo.dTemperaturaMinima);
-    const auto calor = ATemperatura(panel, campo.dTemperaturaMaxima);
-    const double dSerie = campo.iPanelesSerie, dRamales = campo.iPanelesParalelo;
-    using enum Limite;
-    return {{SegunCoeficiente(panel.dCTVoc, ComoMucho(tensionVacioModulo, dSerie * frio.dVoc, panel.dVsmax)),
-             SegunCoeficiente(panel.dCTVoc,
-                              ComoMucho(tensionVacioRegulador, dSerie * frio.dVoc, regulador.dTensionMaxima)),
-             SegunCoeficiente(panel.dCTPmpm,
-                              AlMenos(tensionMppRegulador, dSerie * calor.dVmp, regulador.dTensionMinima)),
-             SegunCoeficiente(panel.dCTIsc,
-                              ComoMucho(corrienteRegulador, dRamales * std::max(frio.dIsc, calor.dIsc),
-                                        regulador.dCorrienteMaxima))}};
+    return ComprobarPropios(campo, *Propio(panel), regulador);
 }
 
 bool ComprobacionCampo::Incumple() const

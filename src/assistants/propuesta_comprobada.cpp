@@ -8,6 +8,9 @@
 
 #include <quorvel/assistants_calculo.h>
 
+#include "catalogues/format/ausencias.h"
+#include "catalogues/kinds/inversor.h"
+#include "catalogues/kinds/panel_foto.h"
 #include "platform/numero/tolerancia.h"
 
 namespace efv::assistants {
@@ -135,8 +138,12 @@ void Poner(Reparto reparto, int iInversores, double dPmpm, PropuestaComprobada& 
 }  // namespace
 
 PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& campo,
-                                       const CBasePanelFotoModelo& panel, const CBaseInversorModelo& inversor)
+                                       const CBasePanelFotoModelo& modelo,
+                                       const CBaseInversorModelo& modeloInversor)
 {
+    // What a check may not take no proposal rests on.
+    const CBasePanelFotoModelo panel = catalogues::SinHeredar(modelo);
+    const CBaseInversorModelo inversor = catalogues::SinHeredar(modeloInversor);
     PropuestaComprobada propuesta;
     const bool bTope = inversor.dVCCMax > 0.0 || inversor.dVMPPMax > 0.0 || panel.dVsmax > 0.0;
     const bool bDatos = bTope && HayCifras(dPotencia, panel) && inversor.dPCANom > 0.0;

@@ -1,11 +1,15 @@
+#include <algorithm>
 #include <cmath>
+#include <initializer_list>
 #include <optional>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
 #include <quorvel/assistants_calculo.h>
+#include <quorvel/tipos_catalogo.h>
 
 namespace {
 
@@ -120,6 +124,43 @@ TEST_F(ComprobacionCampoTest, SinCoeficienteNoHayVeredicto)
     Esperar(tensionVacioInversor, 17, 1, 629, 600, false);
     Esperar(tensionMppMinima, 4, 1, 120, 150, false);
     Esperar(corrienteMpp, 12, 2, 8, 10, true);
+}
+
+// A value that the model's file doesn't give, and that is therefore of another model, decides nothing.
+TEST_F(ComprobacionCampoTest, LoHeredadoNoEntraEnNingunaComprobacion)
+{
+    using enum Limite;
+    const auto falta = [](CModelo& modelo, std::string_view tipo,
+                          std::initializer_list<std::string_view> campos) {
+        modelo.uAusentes = 0;
+        for (const efv::CampoCatalogo& campo : efv::BuscarTipoCatalogo(tipo)->Campos())
+            if (std::ranges::find(campos, campo.nombre) != campos.end())
+                modelo.uAusentes |= campo.uMarca;
+    };
+    const auto abiertos = [&](const std::vector<Limite>& esperados) {
+        const auto campo = Comprobar({.iPanelesSerie = 12, .iPanelesParalelo = 2}, panel, inversor);
+        std::vector<Limite> hallados;
+        for (const Comprobacion& c : campo.limites)
+            if (!c.bCumple)
+                hallados.push_back(c.limite);
+        EXPECT_EQ(hallados, esperados);
+    };
+    abiertos({});
+    falta(inversor, "inversores", {"dVCCMax", "dIScMax"});
+    abiertos({tensionVacioInversor, corrienteCortocircuito});
+    falta(inversor, "inversores", {"dICCMax"});
+    abiertos({});  // the list is the model's own
+    falta(inversor, "inversores", {"dICCMax", "csICCMaxMPPT"});
+    abiertos({corrienteMpp});
+    falta(inversor, "inversores", {"iNumMPPT"});
+    abiertos({corrienteMpp, corrienteCortocircuito});
+    falta(inversor, "inversores", {});
+    falta(panel, "modulos", {"dVoc", "dImpm"});
+    abiertos({tensionVacioInversor, tensionVacioModulo, tensionMppMaxima, tensionMppMinima, corrienteMpp});
+    EXPECT_EQ(ProponerComprobada(5, {}, panel, inversor).falta, SinPropuesta::sinDatos);
+    falta(panel, "modulos", {});
+    panel.dIsc = 0;
+    abiertos({corrienteCortocircuito});
 }
 
 TEST_F(ComprobacionCampoTest, ElCampoDeUnReguladorSeMideConSusLimites)

@@ -1,6 +1,7 @@
 // What all catalogues share: the file in memory, families and models, lookups.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <unordered_map>
@@ -59,6 +60,10 @@ public:
     short nColor = 0;     ///< colour index, never shown
     CString csCodPrecio;  ///< price code
     HTREEITEM hItem = nullptr;
+    /// Fields that the file doesn't give this model, a bit a row of its kind's table: their values are those of
+    /// the model before it, or 0 and empty.
+    std::uint64_t uAusentes = 0;
+    bool bPropio = false;  ///< of the person's own catalogue, which lies over the shipped one
 };
 
 /// A model with its run-time class.

@@ -230,6 +230,8 @@ public:
     virtual int Nivel(int /*iFila*/) const { return 0; }
     /// Name of the picture before a row; empty for none.
     virtual std::wstring_view Imagen(int /*iFila*/) const { return {}; }
+    /// Name of the field that a cell shows; empty for none.
+    virtual std::string_view Campo(int /*iFila*/, int /*iColumna*/) const { return {}; }
     /// Tick before a row, only to be looked at; nothing where rows have none.
     virtual std::optional<bool> Marca(int /*iFila*/) const { return std::nullopt; }
 };

@@ -53,6 +53,12 @@ public:
     {
         return filas.at(static_cast<std::size_t>(iFila)).at(static_cast<std::size_t>(iColumna));
     }
+    // The one row of a lithium-ion battery shows the fields of the first regime.
+    std::string_view Campo(int iFila, int iColumna) const override
+    {
+        const Regimen& regimen = kRegimenes.at(static_cast<std::size_t>(iFila));
+        return ui::NombreDeCampo(iColumna == 1 ? regimen.capacidad : regimen.voltaje);
+    }
 };
 
 /// Makes the list the table of those rows.

@@ -1,6 +1,7 @@
 // A kind of component out of its catalogue's table.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <utility>
@@ -22,12 +23,15 @@ public:
     explicit TipoDe(std::string_view nombre, OrdenesModelo<M> ordenes = {})
         : m_nombre(nombre), m_ordenes(std::move(ordenes))
     {
+        std::uint64_t uMarca = 1;
         for (const auto& campo : FormatoCatalogo<M>::Campos()) {
             M modelo;
             AlMiembro(modelo, campo, [&](const auto& valor) {
-                m_campos.push_back({campo.atributo, campo.columna, ClaseDe(valor)});
+                m_campos.push_back({campo.atributo, campo.columna, ClaseDe(valor), uMarca,
+                                    campo.cero == Cero::sinDato, campo.omision == Omision::derivada});
                 m_filas.push_back(&campo);
             });
+            uMarca <<= 1U;
         }
     }
 

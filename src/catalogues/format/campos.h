@@ -16,11 +16,24 @@ namespace efv::catalogues {
 template <class M>
 using MiembroModelo = std::variant<std::monostate, int M::*, short M::*, double M::*, CString M::*>;
 
+/// What a 0 in a data sheet says.
+enum class Cero {
+    esValor,
+    sinDato,  ///< that the figure isn't known
+};
+
+enum class Omision {
+    falta,     ///< without its attribute the field has a value that isn't the model's
+    derivada,  ///< its value then follows from the model's other fields
+};
+
 template <class M>
 struct CampoModelo {
     const char* atributo;  ///< name in the file, and of the field
     MiembroModelo<M> miembro;
     std::wstring_view columna = {};  ///< heading in lists of models; empty: not shown there
+    Cero cero = Cero::esValor;
+    Omision omision = Omision::falta;
 };
 
 /// What a catalogue is called.
@@ -56,6 +69,8 @@ struct ReglasCatalogo {
     static void Sanear(M& /*leido*/) {}
     /// After an element of the document was read for editing.
     static void PrepararEdicion(M& /*modelo*/, bool /*bNuevo*/) {}
+    /// After all that the model's file doesn't give was set to 0.
+    static void SinHeredar(M& /*propio*/) {}
     /// Attributes that an accepted element gets when it lacks them.
     static std::span<const char* const> AnadirSiFaltan() { return {}; }
 };

@@ -1,6 +1,8 @@
 // One element of a document as a model, and a model as an element.
 #pragma once
 
+#include <cstdint>
+
 #include "catalogues/format/campos.h"
 #include "catalogues/format/elemento.h"
 #include "platform/xml/documento_editable.h"
@@ -46,9 +48,13 @@ template <class M>
 M ModeloDe(const CXMLElemento& elemento, bool bNuevo)
 {
     M modelo;
+    std::uint64_t uMarca = 1;
     for (const auto& campo : FormatoCatalogo<M>::Campos()) {
-        AlMiembro(modelo, campo,
-                  [&](auto& valor) { DeTexto(elemento.GetAtributo(NombreAncho(campo.atributo)), valor); });
+        const CString csNombre = NombreAncho(campo.atributo);
+        AlMiembro(modelo, campo, [&](auto& valor) { DeTexto(elemento.GetAtributo(csNombre), valor); });
+        if (elemento.BuscarAtributo(csNombre) == nullptr)
+            modelo.uAusentes |= uMarca;
+        uMarca <<= 1U;
     }
     if (bNuevo)
         modelo.csModelo.clear();

@@ -1,6 +1,7 @@
 // Reads a catalogue's file into families and models.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <variant>
 #include <vector>
@@ -21,6 +22,7 @@ class LectorCatalogo {
 public:
     explicit LectorCatalogo(CObArrayPropio<CObject>& destino) : m_destino(destino)
     {
+        static_assert(FormatoCatalogo<M>::kCampos.size() <= 64, "CModelo::uAusentes has a bit a field");
         Anular(m_retenido);
         FormatoCatalogo<M>::Preparar(m_retenido);
         for (const auto& campo : FormatoCatalogo<M>::Campos())
@@ -61,22 +63,30 @@ private:
     {
         FormatoCatalogo<M>::AntesDeModelo(m_retenido);
         xml::Atributos atributos(nodo);
-        for (const auto& campo : FormatoCatalogo<M>::Campos())
-            AlMiembro(m_retenido, campo, [&](auto& valor) { Leer(atributos, campo.atributo, valor); });
+        std::uint64_t uAusentes = 0, uMarca = 1;
+        for (const auto& campo : FormatoCatalogo<M>::Campos()) {
+            AlMiembro(m_retenido, campo, [&](auto& valor) {
+                if (!Leer(atributos, campo.atributo, valor))
+                    uAusentes |= uMarca;
+            });
+            uMarca <<= 1U;
+        }
+        m_retenido.uAusentes = uAusentes;
         FormatoCatalogo<M>::Sanear(m_retenido);
     }
 
     template <class T>
-    static void Leer(xml::Atributos& atributos, const char* nombre, T& valor)
+    static bool Leer(xml::Atributos& atributos, const char* nombre, T& valor)
     {
-        atributos.Leer(nombre, valor);
+        return atributos.Leer(nombre, valor);
     }
     // Kept to the low 16 bits of the integer.
-    static void Leer(xml::Atributos& atributos, const char* nombre, short& n)
+    static bool Leer(xml::Atributos& atributos, const char* nombre, short& n)
     {
         int i = n;
-        atributos.Leer(nombre, i);
+        const bool bHay = atributos.Leer(nombre, i);
         n = static_cast<short>(i);
+        return bHay;
     }
 
     static std::size_t Bytes(const CString& cs) { return cs.size() * sizeof(wchar_t); }

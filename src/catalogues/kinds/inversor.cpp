@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "catalogues/format/ausencias.h"
 #include "catalogues/format/catalogo.h"
 
 namespace efv::catalogues {
@@ -35,6 +36,18 @@ void FormatoCatalogo<M>::PrepararEdicion(M& modelo, bool bNuevo)
 {
     ReglasInversor::PrepararEdicion(modelo, bNuevo);
     NormalizarListas(modelo);
+}
+
+// A list out of a current that another model has, or for a count of trackers that another has, is none.
+void FormatoCatalogo<M>::SinHeredar(M& propio)
+{
+    const bool bSeguidores = !Omitido(propio, &M::iNumMPPT);
+    if (!bSeguidores)
+        propio.dICCMax = propio.dICCMin = propio.dIScMax = 0.0;
+    if (!bSeguidores || (Omitido(propio, &M::csICCMaxMPPT) && Omitido(propio, &M::dICCMax)))
+        propio.csICCMaxMPPT.clear();
+    if (!bSeguidores || (Omitido(propio, &M::csICCMinMPPT) && Omitido(propio, &M::dICCMin)))
+        propio.csICCMinMPPT.clear();
 }
 
 // Files from before the lists lack them.

@@ -17,22 +17,24 @@ struct FormatoCatalogo<CBaseInversorModelo> : ReglasInversor<CBaseInversorModelo
     static void AntesDeModelo(M& retenido);
     static void Sanear(M& leido);
     static void PrepararEdicion(M& modelo, bool bNuevo);
+    static void SinHeredar(M& propio);
     static std::span<const char* const> AnadirSiFaltan();
 
     static constexpr NombresCatalogo kNombres{
         "CBaseInversores", "CBaseInversorFamilia",         "CBaseInversorModelo",
         L"Inversores",     L"Base de Datos de Inversores", 20444,
         L"inversor"};
-    static constexpr auto kCampos = Unir(std::to_array<CampoModelo<M>>({
-                                             {"csModelo", &M::csModelo},
-                                             {"iUsoPrincipal", &M::iUsoPrincipal, L"Uso"},
-                                         }),
-                                         kCamposEntrada<M>,
-                                         std::to_array<CampoModelo<M>>({
-                                             {"csICCMaxMPPT", &M::csICCMaxMPPT},
-                                             {"csICCMinMPPT", &M::csICCMinMPPT},
-                                         }),
-                                         kCamposRestantes<M>);
+    static constexpr auto kCampos =
+        Unir(std::to_array<CampoModelo<M>>({
+                 {"csModelo", &M::csModelo},
+                 {"iUsoPrincipal", &M::iUsoPrincipal, L"Uso"},
+             }),
+             kCamposEntrada<M>,
+             std::to_array<CampoModelo<M>>({
+                 {"csICCMaxMPPT", &M::csICCMaxMPPT, {}, Cero::sinDato, Omision::derivada},
+                 {"csICCMinMPPT", &M::csICCMinMPPT, {}, Cero::esValor, Omision::derivada},
+             }),
+             kCamposRestantes<M>);
 };
 
 }  // namespace efv::catalogues

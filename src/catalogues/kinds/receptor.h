@@ -20,10 +20,10 @@ struct FormatoCatalogo<CBaseReceptorModelo> : ReglasCatalogo<CBaseReceptorModelo
         L"receptor"};
     static constexpr auto kCampos = std::to_array<CampoModelo<M>>({
         {"csModelo", &M::csModelo},
-        {"dP", &M::dP, L"P (W)"},
-        {"dVs", &M::dVs, L"Vs (V)"},
-        {"dVsMin", &M::dVsMin},
-        {"dRend", &M::dRend, L"Rend. (%)"},
+        {"dP", &M::dP, L"P (W)", Cero::sinDato},
+        {"dVs", &M::dVs, L"Vs (V)", Cero::sinDato},
+        {"dVsMin", &M::dVsMin, {}, Cero::sinDato},
+        {"dRend", &M::dRend, L"Rend. (%)", Cero::sinDato},
         {"iTipoRed", &M::iTipoRed, L"Red"},
         {"bIlum", &M::bIlum},
         {"nColor", &M::nColor},

@@ -29,22 +29,28 @@ public:
         return valor;
     }
 
-    // An absent attribute leaves the variable alone. A number is read from the start of the text, 0 when there
-    // is none.
-    void Leer(const char* nombre, CString& csValor)
+    // An absent attribute leaves the variable alone and gives false. A number is read from the start of the
+    // text, 0 when there is none.
+    bool Leer(const char* nombre, CString& csValor)
     {
-        if (const char* valor = Valor(nombre))
+        const char* valor = Valor(nombre);
+        if (valor != nullptr)
             texto::AsignarUtf8(csValor, valor);
+        return valor != nullptr;
     }
-    void Leer(const char* nombre, int& iValor)
+    bool Leer(const char* nombre, int& iValor)
     {
-        if (const char* valor = Valor(nombre))
+        const char* valor = Valor(nombre);
+        if (valor != nullptr)
             iValor = numero::LeerEntero(valor);
+        return valor != nullptr;
     }
-    void Leer(const char* nombre, double& dValor)
+    bool Leer(const char* nombre, double& dValor)
     {
-        if (const char* valor = Valor(nombre))
+        const char* valor = Valor(nombre);
+        if (valor != nullptr)
             dValor = numero::LeerDoble(valor);
+        return valor != nullptr;
     }
 
 private:
