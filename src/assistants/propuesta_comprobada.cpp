@@ -175,8 +175,9 @@ PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& ca
 }
 
 PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& campo,
-                                       const CBasePanelFotoModelo& panel, const LimitesRegulador& regulador)
+                                       const CBasePanelFotoModelo& modelo, const LimitesRegulador& regulador)
 {
+    const CBasePanelFotoModelo panel = catalogues::SinHeredar(modelo);
     PropuestaComprobada propuesta;
     if (!HayCifras(dPotencia, panel) || (regulador.dTensionMaxima <= 0.0 && panel.dVsmax <= 0.0)) {
         propuesta.falta = SinPropuesta::sinDatos;

@@ -1,6 +1,8 @@
 // A stand-alone design, calculated.
 #include <cmath>
 #include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include <quorvel/report/disenos.h>
@@ -61,6 +63,11 @@ ProyectoAislada ProyectoDe(const CSFVAsistenteAislada& diseno, const Catalogos& 
     proyecto.registro = diseno;
     proyecto.fijados = CamposFijos(proyecto.registro);
     proyecto.receptores = assistants::LeerReceptores(diseno, catalogos.receptores);
+    for (const auto& receptor : proyecto.receptores) {
+        const auto* modelo = catalogos.receptores.BuscarModelo(receptor->csModelo);
+        if (std::string nota = modelo != nullptr ? CarenciasDe(*modelo) : std::string(); !nota.empty())
+            proyecto.notas.push_back(std::move(nota));
+    }
     proyecto.acumulador = catalogos.acumuladores.BuscarModelo(diseno.csAcumulador);
     proyecto.panel = catalogos.paneles.BuscarModelo(diseno.csPanel);
     return proyecto;

@@ -6,6 +6,7 @@
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
 
+#include "report/carencias.h"
 #include "report/receptores.h"
 #include "report/secciones.h"
 
@@ -29,6 +30,8 @@ public:
     {
         DeResultados();
         AvisarDeLimites(m_estudio.comprobacion, *m_proyecto.panel, m_avisos);
+        AvisarDeCarencias(*m_proyecto.acumulador, m_avisos);
+        AvisarDeCarencias(*m_proyecto.panel, m_avisos);
         AvisarDeFilas(m_proyecto.lugar,
                       {m_v.iTotalPaneles, m_v.dPanelesPorFila, m_v.dDistanciaFilas, m_v.panel.dLargoPanel,
                        m_v.dInclinacion},

@@ -6,6 +6,7 @@
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
 
+#include "report/carencias.h"
 #include "report/secciones.h"
 
 namespace efv::report {
@@ -93,7 +94,7 @@ Seccion SeccionAcumuladores(const V& v)
         {"Tensión nominal del ramal", Con(v.iAcumuladoresSerie * v.acumulador.dVnom, 1, "V")},
         {"Energía útil", Con(dUtil / 1000, 2, "kWh")},
         {"Autonomía que resulta", Con(dUtil / v.dEnergiaDiaria, 1, "días")},
-        {"Peso del campo de acumuladores", Con(v.dPesoAcumuladores, 0, "kg")},
+        {"Peso del campo de acumuladores", Con(SinCero(v.dPesoAcumuladores), 0, "kg")},
     };
     seccion.datos[6].bFalta = v.dCapacidadNecesaria > v.dCapacidadResultante + kTolerancia;
     return seccion;
@@ -110,7 +111,7 @@ Seccion SeccionPaneles(const V& v)
         DatoDoble("Nº de paneles por ramal", v.iPanelesSerie, v.iPanelesSerieP),
         DatoDoble("Nº de ramales en paralelo", v.iPanelesParalelo, v.iPanelesParaleloP),
         {"Nº de paneles en total", std::to_string(v.iTotalPaneles)},
-        {"Peso del campo de paneles", Con(v.dPesoPaneles, 0, "kg")},
+        {"Peso del campo de paneles", Con(SinCero(v.dPesoPaneles), 0, "kg")},
     };
     seccion.datos[3].bFalta = v.dPotenciaMinima > v.dPotenciaInstalada + kTolerancia;
     return seccion;
@@ -150,8 +151,8 @@ Seccion SeccionGeometria(const V& v)
         {"Nº máximo de paneles por fila", Con(v.dPanelesPorFila, 0, "")},
         {"Distancia panel - panel", Con(v.dDistanciaPaneles, 0, "mm")},
         DatoDoble("Distancia fila - fila", v.dDistanciaFilas, v.dDistanciaFilasP, 0, "mm"),
-        {"Superficie solar total", Con(v.dSuperficieTotal, 2, "m²")},
-        {"Superficie solar proyectada", Con(v.dSuperficieProyectada, 2, "m²")},
+        {"Superficie solar total", Con(SinCero(v.dSuperficieTotal), 2, "m²")},
+        {"Superficie solar proyectada", Con(SinCero(v.dSuperficieProyectada), 2, "m²")},
     };
     return seccion;
 }

@@ -7,6 +7,8 @@
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
 
+#include "catalogues/format/ausencias.h"
+#include "catalogues/kinds/panel_foto.h"
 #include "report/secciones.h"
 
 namespace efv::report {
@@ -134,10 +136,11 @@ void AvisarDeLimites(const assistants::ComprobacionCampo& comprobacion, const CB
         avisos.push_back(std::move(aviso));
     }
     std::string faltan;
-    for (const auto& [dCoeficiente, nombre] : {std::pair(panel.dCTVoc, "tensión a circuito abierto"),
-                                               {panel.dCTPmpm, "potencia"},
-                                               {panel.dCTIsc, "corriente de cortocircuito"}}) {
-        if (dCoeficiente == 0.0)
+    using M = CBasePanelFotoModelo;
+    for (const auto& [coeficiente, nombre] : {std::pair(&M::dCTVoc, "tensión a circuito abierto"),
+                                              {&M::dCTPmpm, "potencia"},
+                                              {&M::dCTIsc, "corriente de cortocircuito"}}) {
+        if (panel.*coeficiente == 0.0 || catalogues::Omitido(panel, coeficiente))
             faltan += fmt::format("{}{}", faltan.empty() ? "" : ", ", nombre);
     }
     if (!faltan.empty()) {

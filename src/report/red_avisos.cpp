@@ -1,9 +1,12 @@
 // What a person must look at in a grid-connected design.
+#include <cmath>
+
 #include <fmt/format.h>
 
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
 
+#include "report/carencias.h"
 #include "report/secciones.h"
 
 namespace efv::report {
@@ -91,7 +94,12 @@ private:
     void DeTemperaturas()
     {
         AvisarDeLimites(m_estudio.comprobacion, *m_proyecto.panel, m_avisos);
+        AvisarDeCarencias(*m_proyecto.inversor, m_avisos);
+        AvisarDeCarencias(*m_proyecto.panel, m_avisos);
+        // Without the inverter's nominal output or the module's power there is none.
         const double dRatio = m_estudio.comprobacion.dRatioCCCA;
+        if (!std::isfinite(dRatio) || dRatio == 0.0)
+            return;
         if (dRatio < kRatioMinimo || dRatio > kRatioMaximo) {
             Nota(fmt::format(
                 "Relación entre la potencia de los paneles y la nominal del inversor: {}; lo habitual "

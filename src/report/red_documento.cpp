@@ -6,6 +6,7 @@
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
 
+#include "report/carencias.h"
 #include "report/secciones.h"
 
 namespace efv::report {
@@ -65,8 +66,9 @@ Seccion SeccionGeometria(const V& v)
         {"Nº máximo de paneles por fila", Con(v.dPanelesPorFila, 0, "")},
         {"Distancia panel - panel", Con(v.dDistanciaPaneles, 0, "mm")},
         DatoDoble("Distancia fila - fila", v.dDistanciaFilas, v.dDistanciaFilasP, 0, "mm"),
-        DatoDoble("Superficie solar total", v.dSuperficieTotal, v.dSuperficieTotalP, 2, "m²"),
-        DatoDoble("Superficie solar proyectada", v.dSuperficieProyectada, v.dSuperficieProyectadaP, 2, "m²"),
+        DatoDoble("Superficie solar total", SinCero(v.dSuperficieTotal), SinCero(v.dSuperficieTotalP), 2, "m²"),
+        DatoDoble("Superficie solar proyectada", SinCero(v.dSuperficieProyectada),
+                  SinCero(v.dSuperficieProyectadaP), 2, "m²"),
         {"Longitud cableado Generador - Inversor [L1]", Con(v.dLongitudL1, 2, "m")},
         {"Longitud cableado Inversor - Caja conexión [L2]", Con(v.dLongitudL2, 2, "m")},
         {"Longitud cableado Caja Conexión - Red [L3]", Con(v.dLongitudL3, 2, "m")},

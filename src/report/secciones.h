@@ -12,6 +12,10 @@
 #include <quorvel/report/ficha.h>
 
 #include "catalogues/dialogs/dialogo_modelo.h"
+#include "catalogues/format/ausencias.h"
+#include "catalogues/kinds/acumulador.h"
+#include "catalogues/kinds/inversor.h"
+#include "catalogues/kinds/panel_foto.h"
 
 namespace efv::report {
 
@@ -60,8 +64,11 @@ struct ModeloElegido {
 template <class M>
 ModeloElegido Elegido(std::string_view titulo, const M& modelo)
 {
+    std::vector<CampoSinDato> sinDato;
+    for (const auto& [campo, bAusente] : catalogues::CamposSinDato(modelo))
+        sinDato.push_back({std::string(campo), bAusente, {}});
     return {titulo, &modelo,
-            FilasDeFicha(*catalogues::CrearDialogo(modelo, true, catalogues::OrdenesModelo<M>()))};
+            FilasDeFicha(*catalogues::CrearDialogo(modelo, true, catalogues::OrdenesModelo<M>()), sinDato)};
 }
 Seccion SeccionModelos(std::initializer_list<ModeloElegido> modelos);
 

@@ -37,6 +37,8 @@ std::string DecimalExacto(double d)
 
 std::string Con(double d, int iDecimales, std::string_view unidad)
 {
+    if (!std::isfinite(d))
+        return Decimal(d, iDecimales);
     const bool bPegada = unidad.empty() || unidad == "°";
     return fmt::format("{}{}{}", Decimal(d, iDecimales), bPegada ? "" : " ", unidad);
 }

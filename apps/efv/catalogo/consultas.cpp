@@ -101,7 +101,8 @@ private:
             throw ErrorUso("falta el modelo, FAMILIA#MODELO (ayuda: efv catalogo ver --help)");
         const CatalogoAbierto catalogo = Abrir();
         const CModelo& modelo = catalogo.Buscar(m_id);
-        salida << (m_bJson ? TextoJson(FichaJson(Tipo(), modelo)) : FichaTexto(Tipo(), modelo));
+        salida << (m_bJson ? TextoJson(FichaJson(Tipo(), modelo, catalogo.Todos()))
+                           : FichaTexto(Tipo(), modelo, catalogo.Todos()));
         return 0;
     }
 

@@ -77,8 +77,12 @@ void EscribirModelosCsv(std::ostream& salida, const TipoCatalogo& tipo, const Mo
     csv.FinDeLinea();
     for (const CModelo* modelo : modelos) {
         csv.Valor(modelo->csFamilia);
-        for (std::size_t i = 0; i < campos.size(); ++i)
-            std::visit([&](const auto& valor) { csv.Valor(valor); }, tipo.Valor(*modelo, i));
+        for (std::size_t i = 0; i < campos.size(); ++i) {
+            if (Ausente(*modelo, campos[i]))
+                csv.Celda("");
+            else
+                std::visit([&](const auto& valor) { csv.Valor(valor); }, tipo.Valor(*modelo, i));
+        }
         csv.FinDeLinea();
     }
 }

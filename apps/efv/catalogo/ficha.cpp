@@ -22,7 +22,7 @@ using ui::Seleccion;
 class Columna {
 public:
     Columna(const ui::Dialogo& dialogo, const CampoCatalogo& campo, std::size_t iCampo)
-        : m_iCampo(iCampo), m_titulo(EnTerminal(CString(campo.columna)))
+        : m_iCampo(iCampo), m_campo(campo), m_titulo(EnTerminal(CString(campo.columna)))
     {
         for (const auto& control : dialogo.Controles()) {
             if (control->nombre != campo.nombre)
@@ -42,6 +42,8 @@ public:
     TablaTexto::Lado Lado() const { return m_lado; }
     std::string Celda(const TipoCatalogo& tipo, const CModelo& modelo) const
     {
+        if (Ausente(modelo, m_campo) || Desconocido(tipo, modelo, m_iCampo))
+            return "—";
         return std::visit([this](const auto& valor) { return this->Texto(valor); },
                           tipo.Valor(modelo, m_iCampo));
     }
@@ -57,6 +59,7 @@ private:
     }
 
     std::size_t m_iCampo;
+    CampoCatalogo m_campo;
     std::string m_titulo;
     TablaTexto::Lado m_lado = TablaTexto::Lado::izquierda;
     int m_iDecimales = 2;
@@ -87,6 +90,16 @@ Json Valor(double d)
 Json Valor(int i)
 {
     return i;
+}
+
+Json ValorJson(const TipoCatalogo& tipo, const CModelo& modelo, std::size_t iCampo)
+{
+    return std::visit([](const auto& valor) { return Valor(valor); }, tipo.Valor(modelo, iCampo));
+}
+
+std::string OrigenTexto(const CModelo* heredado)
+{
+    return heredado == nullptr ? "valor inicial" : "heredado de " + EnTerminal(Identificacion(*heredado));
 }
 
 }  // namespace
@@ -120,11 +133,20 @@ void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Mo
                           familias.size(), familias.size() == 1 ? "" : "s");
 }
 
-std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo)
+std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo, const Modelos& todos)
 {
+    std::vector<report::CampoSinDato> sinDato;
+    const auto campos = tipo.Campos();
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        std::string nombre(campos[i].nombre);
+        if (Ausente(modelo, campos[i]))
+            sinDato.push_back({std::move(nombre), true, OrigenTexto(HeredadoDe(todos, modelo, campos[i]))});
+        else if (Desconocido(tipo, modelo, i))
+            sinDato.push_back({std::move(nombre), false, {}});
+    }
     TablaTexto tabla({TablaTexto::Lado::izquierda, TablaTexto::Lado::izquierda});
     tabla.Fila({"Familia", EnTerminal(modelo.csFamilia)});
-    for (auto& [rotulo, texto] : report::FilasDeFicha(tipo, modelo))
+    for (auto& [rotulo, texto] : report::FilasDeFicha(tipo, modelo, sinDato))
         tabla.Fila({std::move(rotulo), std::move(texto)});
     return tabla.Texto();
 }
@@ -132,10 +154,36 @@ std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo)
 Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo)
 {
     Json ficha = {{"id", CadenaUtf8(Identificacion(modelo))}, {"csFamilia", CadenaUtf8(modelo.csFamilia)}};
+    Json ausentes = Json::array(), sinDato = Json::array();
     const auto campos = tipo.Campos();
-    for (std::size_t i = 0; i < campos.size(); ++i)
-        ficha[std::string(campos[i].nombre)] =
-            std::visit([](const auto& valor) { return Valor(valor); }, tipo.Valor(modelo, i));
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        const bool bAusente = Ausente(modelo, campos[i]), bNulo = !bAusente && Desconocido(tipo, modelo, i);
+        const std::string nombre(campos[i].nombre);
+        if (bAusente)
+            ausentes.push_back(nombre);
+        if (bNulo)
+            sinDato.push_back(nombre);
+        ficha[nombre] = bAusente || bNulo ? Json() : ValorJson(tipo, modelo, i);
+    }
+    if (!ausentes.empty())
+        ficha["ausentes"] = std::move(ausentes);
+    if (!sinDato.empty())
+        ficha["sin_dato"] = std::move(sinDato);
+    return ficha;
+}
+
+Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo, const Modelos& todos)
+{
+    Json ficha = FichaJson(tipo, modelo);
+    const auto campos = tipo.Campos();
+    for (std::size_t i = 0; i < campos.size(); ++i) {
+        if (!Ausente(modelo, campos[i]))
+            continue;
+        const CModelo* heredado = HeredadoDe(todos, modelo, campos[i]);
+        ficha["en_vigor"][std::string(campos[i].nombre)] = {
+            {"valor", ValorJson(tipo, modelo, i)},
+            {"heredado_de", heredado != nullptr ? Json(CadenaUtf8(Identificacion(*heredado))) : Json()}};
+    }
     return ficha;
 }
 

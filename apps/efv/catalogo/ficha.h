@@ -17,10 +17,14 @@ using Json = nlohmann::ordered_json;
 /// file admits is never held in memory as a whole.
 void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
 void EscribirListaJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
-/// What its dialog shows with the family, a line a caption.
-std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo);
-/// Every field by its name; what isn't finite is null.
+/// What its dialog shows with the family, a line a caption; "—" for what the file doesn't say, with where the
+/// value in force comes from. @param todos all models of its file, in order
+std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo, const Modelos& todos);
+/// Every field by its name; null for what isn't finite, isn't known ("sin_dato") or isn't in the file
+/// ("ausentes").
 Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo);
+/// The same with the values in force of what isn't in the file.
+Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo, const Modelos& todos);
 
 /// A JSON list, element by element, as TextoJson would write the whole.
 class EscritorListaJson {

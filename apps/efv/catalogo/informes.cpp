@@ -54,6 +54,21 @@ Json HallazgosJson(const std::vector<HallazgoModelo>& hallazgos)
     return lista;
 }
 
+// "falta dIsc en 2 modelos: A#b, C#d", empty when all have it.
+std::string AusenciasTexto(const CampoCatalogo& campo, const Modelos& modelos)
+{
+    constexpr std::size_t kCitados = 5;
+    std::size_t n = 0;
+    std::string citados;
+    for (const CModelo* modelo : modelos)
+        if (Ausente(*modelo, campo) && n++ < kCitados)
+            citados += (citados.empty() ? "" : ", ") + EnTerminal(Identificacion(*modelo));
+    if (n == 0)
+        return {};
+    return fmt::format("falta {} en {}: {}{}\n", campo.nombre, Cuantos(n, "modelo", "modelos"), citados,
+                       n > kCitados ? fmt::format(", … y {} más", n - kCitados) : "");
+}
+
 }  // namespace
 
 bool EscribirValidacionTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos)
@@ -63,6 +78,11 @@ bool EscribirValidacionTexto(std::ostream& salida, const TipoCatalogo& tipo, con
         const auto hallazgos = ValidarModelos(tipo, {&modelo, 1});
         bHallazgos = bHallazgos || !hallazgos.empty();
         salida << HallazgosTexto(hallazgos);
+    }
+    for (const CampoCatalogo& campo : tipo.Campos()) {
+        const std::string linea = AusenciasTexto(campo, modelos);
+        bHallazgos = bHallazgos || !linea.empty();
+        salida << linea;
     }
     if (!bHallazgos)
         salida << fmt::format("{} modelo{}, sin hallazgos\n", modelos.size(), modelos.size() == 1 ? "" : "s");
@@ -81,6 +101,19 @@ bool EscribirValidacionJson(std::ostream& salida, const TipoCatalogo& tipo, cons
         }
     }
     lista.Terminar();
+    salida << ",\n  \"ausentes\": ";
+    EscritorListaJson ausentes(salida, 2);
+    for (const CModelo* modelo : modelos) {
+        for (const CampoCatalogo& campo : tipo.Campos()) {
+            if (!Ausente(*modelo, campo))
+                continue;
+            bHallazgos = true;
+            ausentes.Anadir({{"atributo", campo.nombre},
+                             {"familia", CadenaUtf8(modelo->csFamilia)},
+                             {"modelo", CadenaUtf8(modelo->csModelo)}});
+        }
+    }
+    ausentes.Terminar();
     salida << "\n}\n";
     return bHallazgos;
 }

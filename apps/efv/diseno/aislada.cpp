@@ -63,7 +63,10 @@ void AnotarCargas(ProyectoAislada& proyecto, const CatalogoDatos& catalogo)
 {
     for (const auto& receptor : proyecto.receptores) {
         const std::string id = CadenaUtf8(receptor->csModelo);
-        const double dCatalogo = dynamic_cast<const CBaseReceptorModelo&>(catalogo.Buscar(id)).dP;
+        const auto& modelo = dynamic_cast<const CBaseReceptorModelo&>(catalogo.Buscar(id));
+        if (std::string carencias = report::CarenciasDe(modelo); !carencias.empty())
+            proyecto.notas.push_back(std::move(carencias));
+        const double dCatalogo = modelo.dP;
         if (receptor->dPotencia != dCatalogo) {
             proyecto.notas.push_back(
                 fmt::format("{}: se calcula con {}; el archivo no guarda la potencia, y quien lo "

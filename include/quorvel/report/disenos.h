@@ -146,6 +146,9 @@ EFV_API std::string LimiteDe(const assistants::Comprobacion& comprobacion);
 /// "cumple", "no cumple", "sin dato"
 EFV_API const char* ResultadoDe(const assistants::Comprobacion& comprobacion);
 
+/// What a design takes of a load's model and the model's file doesn't give, told; empty when it lacks nothing.
+EFV_API std::string CarenciasDe(const CBaseReceptorModelo& modelo);
+
 /// Why there is no checked proposal, or what it does besides passing the checks; may be empty.
 EFV_API std::string MotivoDe(const assistants::PropuestaComprobada& propuesta);
 

@@ -130,6 +130,45 @@ TEST_F(OrdenCatalogo, ValidarTerminaConUnoSiHayHallazgos)
     EXPECT_EQ(json["hallazgos"].size(), 1U);
 }
 
+// The second model lacks four attributes, which have the values of the one before, and doesn't know two.
+TEST_F(OrdenCatalogo, LoQueUnModeloNoTieneSeDice)
+{
+    m_carpeta.Crear("c.xml", "<Q><TablaFamilias><Familia nombre=\"A\">" + Modelo("uno") +
+                                 "<Modelo csModelo=\"dos\" dPmpm=\"400\" dVsmax=\"1500\" dVmpm=\"41\" "
+                                 "dImpm=\"9.8\" dVoc=\"51\" dCTVoc=\"0\" dCTIsc=\"4\" dCEf=\"3\" iNp=\"1\" "
+                                 "iNs=\"72\" dAcel=\"0\" dH=\"1956\" dB=\"992\" dA=\"40\" dP=\"22\" "
+                                 "nColor=\"0\" csCodPrecio=\"\"/></Familia></TablaFamilias></Q>");
+    const Corrida validar = Orden({"catalogo", "validar"});
+    EXPECT_EQ(validar.iEstado, 1);
+    EXPECT_EQ(validar.salida,
+              "falta dIsc en 1 modelo: A#dos\nfalta dCTPmpm en 1 modelo: A#dos\nfalta iTipoCelula en 1 modelo: "
+              "A#dos\n");
+    const Json faltas = OrdenJson({"catalogo", "validar"})["ausentes"];
+    ASSERT_EQ(faltas.size(), 3U);
+    EXPECT_EQ(faltas[1], (Json{{"atributo", "dCTPmpm"}, {"familia", "A"}, {"modelo", "dos"}}));
+
+    EXPECT_TRUE(Contiene(Orden({"catalogo", "ver", "dos"}).salida,
+                         {"— (en vigor 10,00, heredado de A#uno)\n", "(mm²)     — (sin dato)\n",
+                          "(mV/ºC)        — (sin dato)\n", "— (en vigor -0,250 %/ºC, heredado de A#uno)\n"}));
+    const Json ficha = OrdenJson({"catalogo", "ver", "dos"});
+    EXPECT_EQ(ficha["dIsc"], nullptr);
+    EXPECT_EQ(ficha["en_vigor"]["dIsc"], (Json{{"valor", 10.0}, {"heredado_de", "A#uno"}}));
+    EXPECT_EQ(ficha["sin_dato"], (Json{"dCTVoc", "dAcel"}));
+    const std::string lista = Orden({"catalogo", "listar"}).salida;
+    EXPECT_TRUE(Contiene(lista, {"A#uno     360,00     40,00      9,00  monocristalino\n",
+                                 "A#dos     400,00     41,00      9,80  —\n"}));
+    // Many of one kind are counted.
+    std::string muchos;
+    for (char c = 'a'; c <= 'g'; ++c)
+        muchos += std::string("<Modelo csModelo=\"") + c + "\" dPmpm=\"1\"/>";
+    m_carpeta.Crear("c.xml",
+                    "<Q><TablaFamilias><Familia nombre=\"A\">" + muchos + "</Familia></TablaFamilias></Q>");
+    EXPECT_TRUE(Contiene(Orden({"catalogo", "validar"}).salida,
+                         {"falta dVoc en 7 modelos: A#a, A#b, A#c, A#d, A#e, … y 2 más\n"}));
+    EXPECT_EQ(OrdenJson({"catalogo", "ver", "a"})["en_vigor"]["dVoc"],
+              (Json{{"valor", 0.0}, {"heredado_de", nullptr}}));
+}
+
 TEST_F(OrdenCatalogo, UnPanSeAnadeALaFamiliaDeSuFabricante)
 {
     const Corrida corrida = Orden({"catalogo", "importar-pan", m_carpeta.Crear("a.pan", Pan("Otra", "Nueva"))});

@@ -154,7 +154,7 @@ TEST_F(TiposDeCatalogo, UnOndSeAnadeCorregidoOComoElDialogo)
     EXPECT_NE(mala.salida.find("F#B: Factor de potencia: "), std::string::npos) << mala.salida;
     EXPECT_EQ(Leer(fichero), antes);
     m_carpeta.Crear("b.ond", Ond("B") + "EfficEuro=97\n");
-    EXPECT_EQ(EnJson(comoDialogo)["modelos"][0]["ficha"]["dPCANom"], 0);  // that of "PNomDC"
+    EXPECT_EQ(EnJson(comoDialogo)["modelos"][0]["ficha"]["sin_dato"][0], "dPCCMax");  // that of "PNomDC"
     EsperarFallo({"catalogo", "importar-ond", "--fichero", fichero}, 2, "OND");
 }
 
@@ -222,8 +222,8 @@ TEST_F(TiposDeCatalogo, ElCsvLoAbreUnaHojaDeCalculo)
     EXPECT_EQ(Correr(orden).salida,
               "\xEF\xBB\xBF"
               "csFamilia;csModelo;dP;dVs;dVsMin;dRend;iTipoRed;bIlum;nColor;csCodPrecio\r\n"
-              "F;'=1+1;0,1;-5;0;0;0;0;0;\"a;\"\"b\"\"\"\r\n"
-              "F;ñ, x;1e+300;12;0;0;0;0;0;'-3\r\n");
+              "F;'=1+1;0,1;-5;;;;;;\"a;\"\"b\"\"\"\r\n"
+              "F;ñ, x;1e+300;12;;;;;;'-3\r\n");
     Textos conComa = orden;
     const std::string salida = m_carpeta.Ruta().string() + "/s.csv";
     conComa.insert(conComa.end(), {"--separador", ",", "--salida", salida, "--familia", "f"});
@@ -231,8 +231,8 @@ TEST_F(TiposDeCatalogo, ElCsvLoAbreUnaHojaDeCalculo)
     EXPECT_EQ(Leer(salida),
               "\xEF\xBB\xBF"
               "csFamilia,csModelo,dP,dVs,dVsMin,dRend,iTipoRed,bIlum,nColor,csCodPrecio\r\n"
-              "F,'=1+1,0.1,-5,0,0,0,0,0,\"a;\"\"b\"\"\"\r\n"
-              "F,\"ñ, x\",1e+300,12,0,0,0,0,0,'-3\r\n");
+              "F,'=1+1,0.1,-5,,,,,,\"a;\"\"b\"\"\"\r\n"
+              "F,\"ñ, x\",1e+300,12,,,,,,'-3\r\n");
     EsperarFallo({"catalogo", "exportar", "--separador", "|"}, 2, "--separador");
     EsperarFallo({"catalogo", "exportar", "--salida", m_carpeta.Ruta()}, 1, "no se puede escribir");
 }

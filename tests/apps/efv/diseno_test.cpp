@@ -479,6 +479,37 @@ TEST_F(Diseno, LosDatosQueFaltanSeDicen)
     fallar("ZqInversorHE5.xml» no existe o no se puede leer");
 }
 
+// The same catalogues without what a module and an inverter need: the sizing goes on with what the models
+// before them have, the check doesn't, and the warnings say it.
+TEST_F(Diseno, UnModeloIncompletoSeAvisa)
+{
+    const std::filesystem::path enviados = kEjemplos / "..";
+    for (const auto& entrada : std::filesystem::directory_iterator(enviados))
+        if (entrada.is_regular_file())
+            std::filesystem::copy(entrada, m_carpeta.Ruta());
+    const auto quitar = [&](const char* fichero, const std::string& modelo, const std::string& atributo) {
+        std::string texto = LeerTodo(enviados / fichero);
+        const std::size_t nDesde = texto.find(' ' + atributo + "=\"", texto.find("csModelo=\"" + modelo + '"'));
+        texto.erase(nDesde, texto.find('"', nDesde + atributo.size() + 3) + 1 - nDesde);
+        m_carpeta.Crear(fichero, texto);
+    };
+    quitar("ZqInversorHE5.xml", "SB5.0-1AV-40", "dVCCMax");
+    quitar("ZqModFotoHE5.xml", "ET-M660285WW", "dCTVoc");
+    const Corrida corrida = Disenar("red", Cubierta(), {"--json", "--datos", m_carpeta.Ruta().string()});
+    EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
+    const Json json = Json::parse(corrida.salida);
+    EXPECT_EQ(json["valores"]["iPanelesSerieP"], 15);  // as with the whole catalogue: 600 V before it too
+    const Json& limites = json["comprobacion"]["limites"];
+    EXPECT_EQ(limites[0]["resultado"], "sin dato");
+    EXPECT_EQ(limites[1]["valor"], nullptr);
+    EXPECT_EQ(limites[2]["resultado"], "cumple");
+    const std::string avisos = json["avisos"].dump();
+    EXPECT_TRUE(
+        Contiene(avisos, {"Inversor SMA#SB5.0-1AV-40: el catálogo no da tensión de entrada máxima (en vigor ",
+                          "Módulo ET Solar#ET-M660285WW: el catálogo no da coeficiente de temperatura de Voc",
+                          "coeficientes de temperatura del módulo (tensión a circuito abierto)"}));
+}
+
 TEST_F(Diseno, LoEscritoQuedaEnteroYSeDice)
 {
     const std::string ruta = (m_carpeta.Ruta() / "r.bin").string();
