@@ -131,6 +131,7 @@ int main(int argc, char** argv)
     PrepararPantalla(argc, argv, pantalla);
     QApplication programa(argc, argv);
     QApplication::setApplicationName("efv-estudio");
+    QApplication::setDesktopFileName("efv-estudio");
     QApplication::setApplicationVersion(QString::fromStdWString(efv::Version()));
     // What Qt itself says, such as the menu of a text field.
     QTranslator espanol;
