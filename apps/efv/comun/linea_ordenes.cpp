@@ -38,6 +38,7 @@ std::string NumeroDeValores(const std::string& texto)
 
 constexpr std::size_t kColumna = 26;
 constexpr std::size_t kAnchura = 96;
+const std::string kMargen(kColumna, ' ');
 
 // `texto` in lines that fit right of the first column.
 std::string Partir(const std::string& texto)
@@ -57,6 +58,20 @@ std::string Partir(const std::string& texto)
 
 class FormatoPartido final : public CLI::Formatter {
 public:
+    // Columns by what a terminal shows, not by bytes.
+    std::string make_option(const CLI::Option* opcion, bool bArgumento) const override
+    {
+        const std::string nombre = "  " + make_option_name(opcion, bArgumento) + make_option_opts(opcion);
+        const bool bCabe = Anchura(nombre) < kColumna;
+        std::string texto = nombre + (bCabe ? std::string(kColumna - Anchura(nombre), ' ') : "\n" + kMargen);
+        for (const char c : make_option_desc(opcion)) {
+            texto += c;
+            if (c == '\n')
+                texto += kMargen;
+        }
+        return texto + '\n';
+    }
+
     std::string make_option_desc(const CLI::Option* opcion) const override
     {
         return Partir(opcion->get_description());

@@ -138,9 +138,8 @@ public:
             .add_option("--impuestos", m_impuestos,
                         "Factor de los impuestos sobre los dos precios; si falta, 1")
             ->type_name("FACTOR");
-        CLI::Option* ano =
-            linea.add_option("--año", m_ano, "Año de los días y festivos; si falta, el del reloj")
-                ->type_name("AÑO");
+        linea.add_option("--año", m_ano, "Año de los días y festivos; si falta, el del reloj")
+            ->type_name("AÑO");
         // For keyboards without ñ, and scripts that know it so.
         linea.add_option("--ano", m_ano)->group("");
         linea
