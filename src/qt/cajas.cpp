@@ -117,12 +117,18 @@ ui::Respuesta MostrarCaja(QWidget* padre, const ui::Mensaje& mensaje)
         caja.exec();
         return ui::Respuesta::aceptar;
     }
-    QPushButton* si = caja.addButton(QStringLiteral("&Sí"), QMessageBox::YesRole);
-    QPushButton* no = caja.addButton(QStringLiteral("&No"), QMessageBox::NoRole);
+    const auto boton = [&caja](const CString& csPropio, const char* comun, QMessageBox::ButtonRole papel) {
+        return caja.addButton(csPropio.empty() ? QString::fromUtf8(comun) : AQt(csPropio), papel);
+    };
+    QPushButton* si = boton(mensaje.csSi, "&Sí", QMessageBox::YesRole);
+    QPushButton* no = boton(mensaje.csNo, "&No", QMessageBox::NoRole);
     QPushButton* cancelar = mensaje.botones == ui::Botones::siNoCancelar
-                                ? caja.addButton(QStringLiteral("Cancelar"), QMessageBox::RejectRole)
+                                ? boton(mensaje.csCancelar, "Cancelar", QMessageBox::RejectRole)
                                 : nullptr;
-    caja.setDefaultButton(si);
+    // Yes of two deletes, replaces or goes on with something odd.
+    const ui::Respuesta intro =
+        mensaje.intro.value_or(cancelar != nullptr ? ui::Respuesta::si : ui::Respuesta::no);
+    caja.setDefaultButton(intro == ui::Respuesta::si ? si : intro == ui::Respuesta::no ? no : cancelar);
     caja.setEscapeButton(cancelar != nullptr ? cancelar : no);
     caja.exec();
     if (caja.clickedButton() == si)

@@ -38,7 +38,15 @@ std::unique_ptr<ProgresoTrabajo> Presentador::EmpezarTrabajo(const CString& /*cs
 
 Respuesta PresentadorNulo::MostrarMensaje(const Mensaje& mensaje)
 {
-    return mensaje.botones == Botones::aceptar ? Respuesta::aceptar : Respuesta::no;
+    switch (mensaje.botones) {
+        case Botones::siNo:
+            return Respuesta::no;
+        case Botones::siNoCancelar:
+            return Respuesta::cancelar;
+        case Botones::aceptar:
+            break;
+    }
+    return Respuesta::aceptar;
 }
 
 void PresentadorNulo::MostrarModal(Dialogo& dialogo)

@@ -427,6 +427,36 @@ TEST(Ventana, DentroDeUnaAccionSeAbrenOtrasYSeVuelve)
     EXPECT_EQ(respuesta, ui::Respuesta::cancelar);
 }
 
+// Yes of two answers deletes or replaces: neither Enter nor Escape gives it.
+TEST(Ventana, LasTeclasDeUnaCajaNoHacenDano)
+{
+    using ui::Botones;
+    using ui::Respuesta;
+    struct Caso {
+        ui::Mensaje mensaje;
+        Respuesta conIntro, conEscape;
+    };
+    const ui::Mensaje dos{L"T", L"¿?", ui::Icono::pregunta, Botones::siNo};
+    const ui::Mensaje tres{L"T", L"¿?", ui::Icono::pregunta, Botones::siNoCancelar, L"&Guardar"};
+    ui::Mensaje otra = tres;
+    otra.intro = Respuesta::cancelar;
+    qt::InstalarPresentadorQt();
+    for (const Caso& caso :
+         {Caso{dos, Respuesta::no, Respuesta::no}, Caso{tres, Respuesta::si, Respuesta::cancelar},
+          Caso{otra, Respuesta::cancelar, Respuesta::cancelar}}) {
+        for (const auto& [tecla, respuesta] :
+             {std::pair(Qt::Key_Return, caso.conIntro), std::pair(Qt::Key_Escape, caso.conEscape)}) {
+            CuandoSeAbra([&](QDialog& caja) {
+                EXPECT_EQ(caja.findChildren<QPushButton*>().at(0)->text(),
+                          caso.mensaje.csSi.empty() ? "&Sí" : "&Guardar");
+                QTest::keyClick(&caja, tecla);
+            });
+            EXPECT_EQ(ui::PresentadorActual().MostrarMensaje(caso.mensaje), respuesta);
+        }
+    }
+    ui::InstalarPresentador(nullptr);
+}
+
 TEST(Ventana, ElTemporizadorEsperaALaCaja)
 {
     class ConReloj : public Muestra {

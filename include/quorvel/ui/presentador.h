@@ -25,6 +25,10 @@ struct Mensaje {
     CString csTexto;
     Icono icono = Icono::informacion;
     Botones botones = Botones::aceptar;
+    /// Captions of the answers; empty: "Sí", "No", "Cancelar". Escape takes `cancelar`, else `no`.
+    CString csSi = {}, csNo = {}, csCancelar = {};
+    /// What Enter takes: nothing that throws something away. Nothing: `no` of two answers, `si` of three.
+    std::optional<Respuesta> intro = {};
 };
 
 /// One kind of file that a file chooser offers: "Archivo PAN (*.pan)" and "*.pan".
