@@ -48,8 +48,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* datos, std::size_t tam
     fs::remove(carpeta.Ajustes());
     std::ofstream(carpeta.Ajustes(), std::ios::binary)
         .write(reinterpret_cast<const char*>(datos), static_cast<std::streamsize>(tamano));
-    const auto recientes = efv::estudio::LeerRecientes();
-    efv::estudio::EscribirRecientes(recientes);
-    Exigir(efv::estudio::LeerRecientes() == recientes);
+    const auto almacen = efv::estudio::RecientesDeLaPersona();
+    const auto recientes = almacen.leer();
+    almacen.escribir(recientes);
+    Exigir(almacen.leer() == recientes);
     return 0;
 }

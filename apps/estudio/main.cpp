@@ -111,14 +111,12 @@ int Ejecutar(QApplication& programa)
     VentanaPrincipal ventana(Lugares(carpeta));
     efv::qt::InstalarPresentadorQt(&ventana);
     Sesion& sesion = ventana.LaSesion();
-    sesion.PonerRecientes(LeerRecientes());
+    sesion.PonerRecientes(RecientesDeLaPersona());
     ventana.show();
     AvisarDe(fallidas);
     if (const QStringList ficheros = orden.positionalArguments(); !ficheros.isEmpty())
         ventana.Atender([&] { sesion.Abrir(ficheros.constFirst().toStdWString()); });
-    const int iResultado = QApplication::exec();
-    EscribirRecientes(sesion.Recientes());
-    return iResultado;
+    return QApplication::exec();
 }
 
 }  // namespace

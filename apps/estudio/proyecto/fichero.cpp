@@ -1,5 +1,6 @@
 #include "proyecto/fichero.h"
 
+#include <cerrno>
 #include <stdexcept>
 #include <string_view>
 
@@ -68,6 +69,24 @@ ProyectoLeido LeerProyecto(const CString& csRuta)
     } catch (const std::runtime_error& fallo) {
         FallarAlAbrir(csRuta, fallo.what());
     }
+}
+
+std::optional<EstadoProyecto> MirarProyecto(const CString& csRuta)
+{
+    SistemaFicheros& sistema = *ElMundo().ficheros;
+    const std::string ruta = CadenaUtf8(csRuta);
+    DatosFichero datos;
+    if (sistema.Estado(ruta, datos) == -ENOENT)
+        return EstadoProyecto{};
+    try {
+        const LecturaFichero lectura = LeerFichero(sistema, ruta, kTamanoMaximo);
+        if (lectura.bytes)
+            return EstadoProyecto{efv::HuellaDe(*lectura.bytes)};
+    } catch (const CFileException&) {
+        // Another program holds it: the next look tells.
+        return std::nullopt;
+    }
+    return std::nullopt;
 }
 
 Huella HuellaDe(std::span<const std::byte> bytes)

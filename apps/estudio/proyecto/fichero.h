@@ -29,6 +29,13 @@ struct ProyectoLeido {
 /// unreadable, of another program, of a later version, cut off, damaged.
 ProyectoLeido LeerProyecto(const CString& csRuta);
 
+/// What stands under a project's name now.
+struct EstadoProyecto {
+    std::optional<Huella> huella;  ///< nothing: no file
+};
+/// Nothing when it can't be read at the moment.
+std::optional<EstadoProyecto> MirarProyecto(const CString& csRuta);
+
 /// Replaces the file, or makes it. At any moment either the old or the new content stands there whole.
 /// @throws std::runtime_error with a Spanish text when it can't be done; the old file is then untouched.
 void EscribirProyecto(std::span<const std::byte> bytes, const CString& csRuta);

@@ -296,22 +296,23 @@ struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
     void (*intercambiar)(CProyectoEstudio& proyecto, CArchive& ar);
+    std::wstring_view de;  ///< what a change of it is a change of
 };
 
 // In the order of the file. A new section goes to the end; one whose items change gets the next schema.
 constexpr auto kSecciones = std::to_array<ClaseSeccion>({
-    {L"proyecto", 1, &IntercambiarNombre},
-    {L"lugar", 1, &IntercambiarLugar},
-    {L"aislada", 1, &IntercambiarAislada},
-    {L"red", 1, &IntercambiarRed},
-    {L"consumo", 1, &IntercambiarConsumo},
-    {L"venta", 1, &IntercambiarVenta},
-    {L"autoconsumo", 1, &IntercambiarAutoconsumo},
-    {L"precios", 1, &IntercambiarPrecios},
-    {L"situacion", 1, &IntercambiarSituacion},
-    {L"planos", 1, &IntercambiarPlanos},
-    {L"elementos", 1, &IntercambiarElementos},
-    {L"autoconsumo guiado", 1, &IntercambiarAutoconsumoGuiado},
+    {L"proyecto", 1, &IntercambiarNombre, L"del nombre"},
+    {L"lugar", 1, &IntercambiarLugar, L"del lugar"},
+    {L"aislada", 1, &IntercambiarAislada, L"de la instalación aislada"},
+    {L"red", 1, &IntercambiarRed, L"de la conexión a red"},
+    {L"consumo", 1, &IntercambiarConsumo, L"del consumo"},
+    {L"venta", 1, &IntercambiarVenta, L"de la venta a la red"},
+    {L"autoconsumo", 1, &IntercambiarAutoconsumo, L"del autoconsumo"},
+    {L"precios", 1, &IntercambiarPrecios, L"de los precios"},
+    {L"situacion", 1, &IntercambiarSituacion, L"de la situación"},
+    {L"planos", 1, &IntercambiarPlanos, L"de los planos"},
+    {L"elementos", 1, &IntercambiarElementos, L"de los elementos"},
+    {L"autoconsumo guiado", 1, &IntercambiarAutoconsumoGuiado, L"del autoconsumo guiado"},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 
@@ -355,6 +356,16 @@ SeccionAjena LeerSeccion(CArchive& ar)
         b = std::byte{n};
     }
     return seccion;
+}
+
+std::vector<SeccionAjena> SeccionesEn(std::span<const std::byte> bytes)
+{
+    CArchive ar(bytes);
+    LeerCabecera(ar);
+    std::vector<SeccionAjena> secciones(ar.ReadCount());
+    for (SeccionAjena& seccion : secciones)
+        seccion = LeerSeccion(ar);
+    return secciones;
 }
 
 void LeerSecciones(CProyectoEstudio& proyecto, CArchive& ar)
@@ -407,6 +418,16 @@ Lugar LugarDe(const Localidad& localidad)
 Situacion SituacionDe(const Localidad& localidad)
 {
     return {localidad.dLongitud, localidad.dAltitud, {}};
+}
+
+CString QueCambia(std::span<const std::byte> antes, std::span<const std::byte> despues)
+{
+    const auto viejas = SeccionesEn(antes), nuevas = SeccionesEn(despues);
+    // All known sections stand there, in the order of the table.
+    for (std::size_t i = 0; i < kSecciones.size(); ++i)
+        if (viejas.at(i).bytes != nuevas.at(i).bytes)
+            return CString(kSecciones.at(i).de);
+    return {};
 }
 
 const CRuntimeClass& CProyectoEstudio::GetThisClass()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <vector>
 
 #include <QuorvelEFV.h>
@@ -101,5 +102,9 @@ public:
 
     static const CRuntimeClass& GetThisClass();
 };
+
+/// What a person calls the first section in which two projects differ: "del lugar". Empty when they don't.
+/// @param antes, despues what Serialize wrote of them
+CString QueCambia(std::span<const std::byte> antes, std::span<const std::byte> despues);
 
 }  // namespace efv::estudio

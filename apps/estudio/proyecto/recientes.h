@@ -1,13 +1,25 @@
-// The files last used, kept for the next run in the person's settings.
+// The files last used, kept in the person's settings, where other windows of the program see them too.
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <vector>
 
 #include <quorvel/framework/CString.h>
 
 namespace efv::estudio {
 
-std::vector<CString> LeerRecientes();
-void EscribirRecientes(const std::vector<CString>& recientes);
+inline constexpr std::size_t kRecientes = 8;
+
+/// Where the list is kept.
+struct AlmacenRecientes {
+    std::function<std::vector<CString>()> leer;
+    std::function<void(const std::vector<CString>&)> escribir;
+};
+
+/// One that lasts as long as the program.
+AlmacenRecientes RecientesEnMemoria();
+/// The person's settings.
+AlmacenRecientes RecientesDeLaPersona();
 
 }  // namespace efv::estudio

@@ -39,7 +39,7 @@ void MostrarFallo(const std::exception& fallo)
 
 Sesion::Sesion(Lugar lugar, Situacion situacion) : m_lugar(std::move(lugar)), m_situacion(std::move(situacion))
 {
-    Poner(Vacio(), {});
+    Poner(Vacio(), {}, {});
 }
 
 std::unique_ptr<CProyectoEstudio> Sesion::Vacio() const
@@ -59,23 +59,59 @@ CString Sesion::Titulo() const
     return csTitulo + L"[*] - " + CString(kPrograma);
 }
 
-void Sesion::Cambiado()
+void Sesion::Cambiado(std::wstring_view csPaso)
 {
-    m_bModificado = BytesDe(*m_proyecto) != m_guardado;
+    auto bytes = BytesDe(*m_proyecto);
+    if (bytes != m_actual) {
+        m_historial.Anadir(m_actual, bytes,
+                           csPaso.empty() ? L"cambio " + QueCambia(m_actual, bytes) : CString(csPaso));
+        m_actual = std::move(bytes);
+    }
     Avisar();
 }
 
-void Sesion::Poner(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta)
+// The project that the bytes say, in the place of the open one.
+void Sesion::Tomar(std::vector<std::byte> bytes)
 {
-    m_guardado = BytesDe(*proyecto);
+    m_proyecto = ProyectoDe(bytes);
+    m_actual = std::move(bytes);
+    Avisar();
+}
+
+void Sesion::Deshacer()
+{
+    if (!QueDeshacer().empty())
+        Tomar(m_historial.Deshacer(m_actual));
+}
+
+void Sesion::Rehacer()
+{
+    if (!QueRehacer().empty())
+        Tomar(m_historial.Rehacer(m_actual));
+}
+
+void Sesion::Poner(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta,
+                   std::optional<Huella> huella)
+{
+    m_guardado = m_actual = BytesDe(*proyecto);
     m_proyecto = std::move(proyecto);
+    m_historial.Vaciar();
     m_csRuta = csRuta;
-    m_bModificado = false;
+    m_huella = m_vista = huella;
     Avisar();
 }
 
-void Sesion::Avisar() const
+void Sesion::Recuperar(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta,
+                       std::optional<Huella> huella)
 {
+    Poner(std::move(proyecto), csRuta, huella);
+    m_guardado.clear();
+    Avisar();
+}
+
+void Sesion::Avisar()
+{
+    m_bModificado = m_actual != m_guardado;
     if (alCambiar)
         alCambiar();
 }
@@ -91,7 +127,7 @@ void Sesion::Nuevo(std::unique_ptr<CProyectoEstudio> proyecto)
         return;
     if (proyecto->lugar == m_lugar)
         proyecto->situacion = m_situacion;
-    Poner(std::move(proyecto), {});
+    Poner(std::move(proyecto), {}, {});
 }
 
 void Sesion::Abrir()
@@ -112,8 +148,7 @@ bool Sesion::Cargar(const CString& csRuta)
     try {
         auto [proyecto, huella] = LeerProyecto(csRuta);
         Recordar(csRuta);
-        m_huella = huella;
-        Poner(std::move(proyecto), csRuta);
+        Poner(std::move(proyecto), csRuta, huella);
         return true;
     } catch (const std::exception& fallo) {
         MostrarFallo(fallo);
@@ -134,28 +169,46 @@ bool Sesion::GuardarComo()
     return csRuta && GuardarEn(*csRuta);
 }
 
-bool Sesion::Escribir(std::span<const std::byte> bytes, const CString& csRuta) const
+Sesion::Escritura Sesion::Escribir(const CString& csRuta)
 {
     if (csRuta != m_csRuta) {
-        EscribirProyecto(bytes, csRuta);
-        return true;
+        EscribirProyecto(m_actual, csRuta);
+        return Escritura::hecha;
     }
     std::optional<Huella> conocida = m_huella;
-    while (!ActualizarProyecto(bytes, csRuta, conocida))
-        if (!ui::Preguntar(L"Otro programa ha cambiado el archivo <" + csRuta +
-                           L"> desde que se abrió. ¿Desea sustituirlo por el proyecto abierto?"))
-            return false;
-    return true;
+    while (!ActualizarProyecto(m_actual, csRuta, conocida)) {
+        // Where nothing stands any more, nothing is lost.
+        if (!conocida)
+            continue;
+        switch (ui::PresentadorActual().MostrarMensaje(
+            {CString(kPrograma),
+             L"Otro programa ha cambiado el archivo <" + csRuta +
+                 L"> desde que se abrió.\nAl sustituirlo se pierde lo que contiene ahora.",
+             ui::Icono::advertencia,
+             ui::Botones::siNoCancelar,
+             L"&Sustituirlo",
+             L"Guardar con &otro nombre…",
+             {},
+             ui::Respuesta::no})) {
+            case ui::Respuesta::si:
+                break;
+            case ui::Respuesta::no:
+                return GuardarComo() ? Escritura::enOtro : Escritura::ninguna;
+            default:
+                return Escritura::ninguna;
+        }
+    }
+    return Escritura::hecha;
 }
 
 bool Sesion::GuardarEn(const CString& csRuta)
 {
     try {
-        auto bytes = BytesDe(*m_proyecto);
-        if (!Escribir(bytes, csRuta))
-            return false;
-        m_huella = HuellaDe(bytes);
-        m_guardado = std::move(bytes);
+        Cambiado();
+        if (const Escritura escritura = Escribir(csRuta); escritura != Escritura::hecha)
+            return escritura == Escritura::enOtro;
+        m_huella = m_vista = HuellaDe(m_actual);
+        m_guardado = m_actual;
     } catch (const std::bad_alloc&) {
         ui::MostrarAviso(L"No se puede guardar «" + csRuta + L"».\nMemoria insuficiente.", ui::Icono::error);
         return false;
@@ -164,10 +217,54 @@ bool Sesion::GuardarEn(const CString& csRuta)
         return false;
     }
     m_csRuta = csRuta;
-    m_bModificado = false;
     Recordar(csRuta);
     Avisar();
     return true;
+}
+
+void Sesion::ComprobarFichero()
+{
+    if (m_csRuta.empty())
+        return;
+    const std::optional<EstadoProyecto> estado = MirarProyecto(m_csRuta);
+    // What can't be read now is looked at again.
+    if (!estado || estado->huella == m_vista)
+        return;
+    m_vista = estado->huella;
+    if (m_vista == m_huella)
+        return;
+    // Nothing that is open stands in the file any more.
+    const bool bConCambios = m_bModificado;
+    m_guardado.clear();
+    Avisar();
+    if (!m_vista) {
+        ui::MostrarAviso(
+            L"El archivo «" + m_csRuta +
+                L"» ya no está en su sitio.\nEl proyecto sigue abierto: guárdelo para no perderlo.",
+            ui::Icono::advertencia);
+        return;
+    }
+    CString csTexto = L"Otro programa ha cambiado el archivo «" + m_csRuta + L"».";
+    if (bConCambios)
+        csTexto += L"\nLos cambios sin guardar dejarán de verse al cargarlo; «Deshacer» los recupera.";
+    if (ui::PresentadorActual().MostrarMensaje({CString(kPrograma), csTexto, ui::Icono::pregunta,
+                                                ui::Botones::siNo, L"&Cargarlo de nuevo",
+                                                L"&Seguir con el mío"}) == ui::Respuesta::si)
+        CargarOtraVez();
+}
+
+// What was open stays within reach as the step before.
+void Sesion::CargarOtraVez()
+{
+    try {
+        auto [proyecto, huella] = LeerProyecto(m_csRuta);
+        m_guardado = BytesDe(*proyecto);
+        m_huella = m_vista = huella;
+        m_proyecto = std::move(proyecto);
+        Cambiado(L"carga del archivo");
+    } catch (const std::exception& fallo) {
+        MostrarFallo(fallo);
+    }
 }
 
 bool Sesion::PuedeCerrarse()
@@ -176,7 +273,7 @@ bool Sesion::PuedeCerrarse()
         return true;
     switch (ui::PresentadorActual().MostrarMensaje(
         {CString(kPrograma), L"El proyecto «" + m_proyecto->csNombre + L"» ha cambiado.\n¿Desea guardarlo?",
-         ui::Icono::pregunta, ui::Botones::siNoCancelar})) {
+         ui::Icono::pregunta, ui::Botones::siNoCancelar, L"&Guardar", L"&No guardar"})) {
         case ui::Respuesta::si:
             return Guardar();
         case ui::Respuesta::no:
@@ -186,19 +283,14 @@ bool Sesion::PuedeCerrarse()
     }
 }
 
-void Sesion::PonerRecientes(std::vector<CString> recientes)
-{
-    m_recientes = std::move(recientes);
-    m_recientes.resize(std::min(m_recientes.size(), kRecientes));
-    Avisar();
-}
-
 void Sesion::Recordar(const CString& csRuta)
 {
     const CString csEntera = CadenaDesdeUtf8(std::filesystem::absolute(RutaDe(csRuta)).string());
-    std::erase(m_recientes, csEntera);
-    m_recientes.insert(m_recientes.begin(), csEntera);
-    m_recientes.resize(std::min(m_recientes.size(), kRecientes));
+    std::vector<CString> recientes = m_recientes.leer();
+    std::erase(recientes, csEntera);
+    recientes.insert(recientes.begin(), csEntera);
+    recientes.resize(std::min(recientes.size(), kRecientes));
+    m_recientes.escribir(recientes);
 }
 
 }  // namespace efv::estudio

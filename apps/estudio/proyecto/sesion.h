@@ -1,18 +1,20 @@
-// The project that is open: new, open, save, and the question before anything is lost.
+// The project that is open: new, open, save, undo, and the question before anything is lost.
 #pragma once
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include <quorvel/ficheros.h>
 
+#include "proyecto/historial.h"
 #include "proyecto/proyecto.h"
+#include "proyecto/recientes.h"
 
 namespace efv::estudio {
-
-inline constexpr std::size_t kRecientes = 8;
 
 /// What fails is told to the person through the presenter; the open project then stays as it was.
 class Sesion {
@@ -31,7 +33,15 @@ public:
     /// "name[*] - program", with Qt's mark for what is unsaved.
     CString Titulo() const;
 
-    void Cambiado();
+    /// Whatever differs from the last time becomes one step that can be undone.
+    /// @param csPaso what it is called; empty: "cambio" and the part that differs
+    void Cambiado(std::wstring_view csPaso = {});
+
+    /// The step that goes next, "cambio del lugar"; empty when there is none.
+    CString QueDeshacer() const { return m_historial.QueDeshacer(); }
+    CString QueRehacer() const { return m_historial.QueRehacer(); }
+    void Deshacer();
+    void Rehacer();
 
     void Nuevo();
     /// The same with what a project holds from the start.
@@ -44,33 +54,49 @@ public:
     bool GuardarComo();
     /// Asks about unsaved changes. @return false when the person wants to stay.
     bool PuedeCerrarse();
+    /// Looks whether another program changed or removed the file, and tells it once, with the choice to load it
+    /// again. What then stays open counts as unsaved.
+    void ComprobarFichero();
+
+    /// The project as it would be saved, and what is known of its file.
+    std::span<const std::byte> Bytes() const { return m_actual; }
+    const std::optional<Huella>& HuellaDelFichero() const { return m_huella; }
+    /// Opens what was never saved, whatever is open now.
+    void Recuperar(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta,
+                   std::optional<Huella> huella);
 
     /// Files last opened or saved, the last one first.
-    const std::vector<CString>& Recientes() const { return m_recientes; }
-    void PonerRecientes(std::vector<CString> recientes);
+    std::vector<CString> Recientes() const { return m_recientes.leer(); }
+    void PonerRecientes(AlmacenRecientes recientes) { m_recientes = std::move(recientes); }
 
     /// Told when the project or anything of the above is another.
     std::function<void()> alCambiar;
 
 private:
     bool Cargar(const CString& csRuta);
-    void Poner(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta);
+    void Poner(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta, std::optional<Huella> huella);
+    void CargarOtraVez();
+    void Tomar(std::vector<std::byte> bytes);
     bool GuardarEn(const CString& csRuta);
-    /// False when the person doesn't want what another program wrote meanwhile to be replaced.
-    bool Escribir(std::span<const std::byte> bytes, const CString& csRuta) const;
+    enum class Escritura { hecha, enOtro, ninguna };
+    /// Asks before what another program wrote meanwhile is replaced.
+    Escritura Escribir(const CString& csRuta);
     void Recordar(const CString& csRuta);
-    void Avisar() const;
+    void Avisar();
 
     std::unique_ptr<CProyectoEstudio> Vacio() const;
 
     Lugar m_lugar;
     Situacion m_situacion;
     std::unique_ptr<CProyectoEstudio> m_proyecto;
-    std::vector<std::byte> m_guardado;  // as it was when new, opened or saved
-    Huella m_huella;                    // of the file as it was opened or saved
+    std::vector<std::byte> m_actual;    // as it was at the last change
+    std::vector<std::byte> m_guardado;  // as it was when new, opened or saved; empty: never like this
+    Historial m_historial;
+    std::optional<Huella> m_huella;  // of the file as it was opened or saved; nothing without one
+    std::optional<Huella> m_vista;   // of the file as it was last looked at; nothing: it wasn't there
     CString m_csRuta;
     bool m_bModificado = false;
-    std::vector<CString> m_recientes;
+    AlmacenRecientes m_recientes = RecientesEnMemoria();
 };
 
 }  // namespace efv::estudio

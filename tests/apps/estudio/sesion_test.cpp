@@ -119,14 +119,126 @@ TEST_F(SesionGuionizada, LoQueOtroProgramaEscribioSePregunta)
     otro.csNombre = L"De otro";
     EscribirProyecto(BytesDe(otro), EnCarpeta("uno.efvp"));
     Renombrar(L"Tres");
-    guion.presentador.respuestas = {Respuesta::no};
+    guion.presentador.respuestas = {Respuesta::cancelar};
     EXPECT_FALSE(sesion.Guardar());
+    guion.presentador.respuestas = {Respuesta::no};
+    guion.presentador.ficheros = {EnCarpeta("aparte.efvp")};
+    EXPECT_TRUE(sesion.Guardar());
+    EXPECT_EQ(LeerProyecto(EnCarpeta("aparte.efvp")).proyecto->csNombre, L"Tres");
     EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"De otro");
-    EXPECT_TRUE(sesion.Modificado());
+
+    ASSERT_TRUE(sesion.Abrir(EnCarpeta("uno.efvp")));
+    EscribirProyecto(BytesDe(*std::make_unique<CProyectoEstudio>()), EnCarpeta("uno.efvp"));
+    Renombrar(L"Cuatro");
     guion.presentador.respuestas = {Respuesta::si};
     EXPECT_TRUE(sesion.Guardar());
-    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"Tres");
-    EXPECT_EQ(guion.Mensajes().size(), 2U);
+    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"Cuatro");
+    EXPECT_EQ(guion.Mensajes().size(), 3U);
+}
+
+TEST_F(SesionGuionizada, LoQueCambiaFueraSeDiceUnaVez)
+{
+    guion.presentador.ficheros = {EnCarpeta("uno.efvp")};
+    Renombrar(L"Uno");
+    ASSERT_TRUE(sesion.Guardar());
+    sesion.ComprobarFichero();
+    EXPECT_TRUE(guion.Mensajes().empty());
+
+    CProyectoEstudio otro;
+    otro.csNombre = L"De otro";
+    EscribirProyecto(BytesDe(otro), EnCarpeta("uno.efvp"));
+    guion.presentador.respuestas = {Respuesta::no};
+    sesion.ComprobarFichero();
+    sesion.ComprobarFichero();
+    EXPECT_EQ(guion.Mensajes().size(), 1U);
+    EXPECT_EQ(sesion.Proyecto().csNombre, L"Uno");
+    EXPECT_TRUE(sesion.Modificado());  // what is open stands nowhere else any more
+
+    otro.csNombre = L"De otro más";
+    EscribirProyecto(BytesDe(otro), EnCarpeta("uno.efvp"));
+    guion.presentador.respuestas = {Respuesta::si};
+    sesion.ComprobarFichero();
+    EXPECT_EQ(sesion.Proyecto().csNombre, L"De otro más");
+    EXPECT_FALSE(sesion.Modificado());
+    sesion.Deshacer();
+    EXPECT_EQ(sesion.Proyecto().csNombre, L"Uno");
+    EXPECT_TRUE(sesion.Modificado());
+
+    // Removed: it is told, and saving makes it again without a question.
+    std::filesystem::remove(carpeta.Ruta() / "uno.efvp");
+    sesion.ComprobarFichero();
+    EXPECT_EQ(guion.Mensajes().size(), 3U);
+    EXPECT_TRUE(sesion.Guardar());
+    EXPECT_EQ(guion.Mensajes().size(), 3U);
+    EXPECT_EQ(LeerProyecto(EnCarpeta("uno.efvp")).proyecto->csNombre, L"Uno");
+}
+
+TEST_F(SesionGuionizada, LosCambiosSeDeshacenYSeRehacenPorSuNombre)
+{
+    const auto inicial = BytesDe(sesion.Proyecto());
+    EXPECT_TRUE(sesion.QueDeshacer().empty());
+    Renombrar(L"Uno");
+    guion.presentador.ficheros = {EnCarpeta("uno.efvp")};
+    ASSERT_TRUE(sesion.Guardar());
+    sesion.Proyecto().lugar.dLatitud = 12.5;
+    sesion.Cambiado();
+    sesion.Cambiado();  // nothing new: no step
+    sesion.Proyecto().consumo.adHoras[100] = 7.0;
+    sesion.Proyecto().planos = {{20.0, -90.0, 0.5}, {40.0, 90.0, 0.5}};
+    sesion.Cambiado(L"prueba");
+    const auto ultimo = BytesDe(sesion.Proyecto());
+
+    EXPECT_EQ(sesion.QueDeshacer(), L"prueba");
+    sesion.Deshacer();
+    EXPECT_TRUE(sesion.Proyecto().planos.empty());
+    EXPECT_EQ(sesion.Proyecto().lugar.dLatitud, 12.5);
+    EXPECT_EQ(sesion.QueDeshacer(), L"cambio del lugar");
+    EXPECT_EQ(sesion.QueRehacer(), L"prueba");
+    sesion.Deshacer();
+    EXPECT_FALSE(sesion.Modificado());  // as it was saved
+    EXPECT_EQ(sesion.QueDeshacer(), L"cambio del nombre");
+    sesion.Deshacer();
+    EXPECT_TRUE(sesion.Modificado());
+    EXPECT_EQ(BytesDe(sesion.Proyecto()), inicial);
+    sesion.Deshacer();  // nothing before it
+    EXPECT_EQ(BytesDe(sesion.Proyecto()), inicial);
+    for (int i = 0; i < 3; ++i)
+        sesion.Rehacer();
+    EXPECT_EQ(BytesDe(sesion.Proyecto()), ultimo);
+
+    sesion.Deshacer();
+    Renombrar(L"Otra rama");
+    EXPECT_TRUE(sesion.QueRehacer().empty());
+    EXPECT_EQ(sesion.QueDeshacer(), L"cambio del nombre");
+    sesion.Nuevo();  // answered with no: not saved
+    EXPECT_TRUE(sesion.QueDeshacer().empty());
+}
+
+TEST(Historial, LosPasosTienenLimites)
+{
+    const auto bytes = [](std::size_t nTamano, int iValor) {
+        return std::vector<std::byte>(nTamano, static_cast<std::byte>(iValor));
+    };
+    Historial pasos(3);
+    for (int i = 0; i < 5; ++i)
+        pasos.Anadir(bytes(10, i), bytes(12, i + 1), std::to_wstring(i));
+    EXPECT_EQ(pasos.Pasos(), 3U);
+    auto actual = bytes(12, 5);
+    for (int i = 4; i > 1; --i) {
+        EXPECT_EQ(pasos.QueDeshacer(), std::to_wstring(i));
+        actual = pasos.Deshacer(actual);
+        EXPECT_EQ(actual, bytes(10, i));
+        actual = bytes(12, i);
+    }
+    EXPECT_TRUE(pasos.QueDeshacer().empty());
+
+    // 100 bytes of each side of a step: two fit.
+    Historial ligero(Historial::kPasos, 450);
+    for (int i = 0; i < 4; ++i)
+        ligero.Anadir(bytes(100, i), bytes(100, i + 1), L"paso");
+    EXPECT_EQ(ligero.Pasos(), 2U);
+    ligero.Anadir(bytes(1000, 1), bytes(1000, 2), L"grande");
+    EXPECT_EQ(ligero.QueDeshacer(), L"grande");
 }
 
 }  // namespace
