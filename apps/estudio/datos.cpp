@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QStandardPaths>
 
 #include <QuorvelEFV.h>
@@ -67,6 +68,17 @@ fs::path CarpetaDeTrabajo(const std::string& opcion)
     if (!fs::is_directory(carpeta, fallo))
         throw std::runtime_error("No existe la carpeta de datos «" + carpeta.string() + "».");
     return fs::absolute(carpeta);
+}
+
+std::string CarpetaDeRecuperacion()
+{
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread, and nobody changes the environment
+    const char* estados = std::getenv("XDG_STATE_HOME");
+    // A relative one counts as none.
+    const fs::path carpeta = estados != nullptr && fs::path(estados).is_absolute()
+                                 ? fs::path(estados)
+                                 : fs::path(QDir::homePath().toStdString()) / ".local" / "state";
+    return (carpeta / "efv-estudio" / "recuperacion").string();
 }
 
 CString Ruta(const fs::path& carpeta, const char* archivo)

@@ -17,6 +17,9 @@ std::filesystem::path CarpetaDistribuida();
 /// @throws std::runtime_error with a Spanish text when it doesn't exist or can't be made.
 std::filesystem::path CarpetaDeTrabajo(const std::string& opcion);
 
+/// Where copies of unsaved work stand, in the person's folder of states; it may be missing.
+std::string CarpetaDeRecuperacion();
+
 /// Tells the library its paths and loads its catalogues.
 /// @return the files that couldn't be loaded.
 CStringArray PonerDatos(const std::filesystem::path& carpeta);

@@ -112,10 +112,12 @@ int Ejecutar(QApplication& programa)
     efv::qt::InstalarPresentadorQt(&ventana);
     Sesion& sesion = ventana.LaSesion();
     sesion.PonerRecientes(RecientesDeLaPersona());
+    ventana.CopiarEn(CarpetaDeRecuperacion());
     ventana.show();
     AvisarDe(fallidas);
     if (const QStringList ficheros = orden.positionalArguments(); !ficheros.isEmpty())
         ventana.Atender([&] { sesion.Abrir(ficheros.constFirst().toStdWString()); });
+    ventana.Atender([&] { ventana.OfrecerCopias(false); });
     return QApplication::exec();
 }
 

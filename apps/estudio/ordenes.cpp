@@ -4,6 +4,7 @@
 #include <set>
 
 #include <QDir>
+#include <QFileInfo>
 #include <QMenu>
 
 #include <QuorvelEFV.h>
@@ -24,6 +25,7 @@ constexpr int kEditar = 0;
 constexpr double kPasoAmpliar = 1.25;
 
 constexpr const char* kArchivo = "&Archivo";
+constexpr const char* kEdicion = "&Edición";
 constexpr const char* kDiseno = "&Diseño";
 constexpr const char* kEconomia = "Econo&mía";
 constexpr const char* kEsquema = "&Esquema";
@@ -35,9 +37,16 @@ using Ventana = VentanaPrincipal;
 
 void LlenarRecientes(Ventana& ventana, QMenu& menu)
 {
-    for (const CString& csRuta : ventana.LaSesion().Recientes())
-        menu.addAction(QDir::toNativeSeparators(QString::fromStdWString(csRuta)).replace('&', "&&"), &ventana,
-                       [&ventana, csRuta] { ventana.Atender([&] { ventana.LaSesion().Abrir(csRuta); }); });
+    for (const CString& csRuta : ventana.LaSesion().Recientes()) {
+        const QString ruta = QString::fromStdWString(csRuta);
+        const bool bEsta = QFileInfo::exists(ruta);
+        QString texto = QDir::toNativeSeparators(ruta).replace('&', "&&");
+        if (!bEsta)
+            texto += " (no se encuentra)";
+        menu.addAction(texto, &ventana,
+                       [&ventana, csRuta] { ventana.Atender([&] { ventana.LaSesion().Abrir(csRuta); }); })
+            ->setEnabled(bEsta);
+    }
     if (menu.isEmpty())
         menu.addAction("(ninguno)")->setEnabled(false);
 }
@@ -118,7 +127,13 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kArchivo, "&Guardar", "Ctrl+S", [](Ventana& v) { v.LaSesion().Guardar(); }},
     {kArchivo, "Guardar &como…", "Ctrl+Shift+S", [](Ventana& v) { v.LaSesion().GuardarComo(); }},
     {kArchivo, nullptr, nullptr, nullptr},
+    {kArchivo, "Copias de &recuperación…", nullptr, [](Ventana& v) { v.OfrecerCopias(true); }},
+    {kArchivo, nullptr, nullptr, nullptr},
     {kArchivo, "&Salir", "Ctrl+Q", [](Ventana& v) { v.close(); }},
+    {kEdicion, "&Deshacer", "Ctrl+Z", [](Ventana& v) { v.LaSesion().Deshacer(); }, nullptr,
+     [](const Ventana& v) { return v.LaSesion().QueDeshacer(); }},
+    {kEdicion, "&Rehacer", "Ctrl+Shift+Z", [](Ventana& v) { v.LaSesion().Rehacer(); }, nullptr,
+     [](const Ventana& v) { return v.LaSesion().QueRehacer(); }},
     {kDiseno, "&Elegir tipo de instalación…", "Ctrl+D", [](Ventana& v) { Disenar(v.LaSesion()); }},
     {kDiseno, nullptr, nullptr, nullptr},
     {kDiseno, "Instalación &aislada…", nullptr, [](Ventana& v) { DisenarAislada(v.LaSesion()); }},

@@ -3,6 +3,8 @@
 
 #include <span>
 
+#include <quorvel/framework/CString.h>
+
 class QMenu;
 
 namespace efv::estudio {
@@ -16,6 +18,8 @@ struct Orden {
     void (*funcion)(VentanaPrincipal&);
     /// Of a menu within the menu: what stands in it each time that it opens.
     void (*llenar)(VentanaPrincipal&, QMenu&) = nullptr;
+    /// Of a command that names what it does next: that, behind its text; empty when there is nothing to do.
+    CString (*que)(const VentanaPrincipal&) = nullptr;
 };
 
 /// In the order of the menus; a menu appears where its first command stands.

@@ -4,11 +4,15 @@
 #include <array>
 #include <exception>
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QMenuBar>
 #include <QScreen>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QTabWidget>
 #include <QVBoxLayout>
 
@@ -18,7 +22,6 @@
 #include "economia/estudios.h"
 #include "elementos/rotulos.h"
 #include "energia/planos.h"
-#include "ordenes.h"
 #include "proyecto/asistentes.h"
 
 namespace efv::estudio {
@@ -32,6 +35,7 @@ Sesion SesionInicial(const std::vector<Localidad>& localidades)
 }
 
 constexpr double kParteDePantalla = 0.95;  // the title bar takes some
+constexpr int kEntreCopias = 5000;         // ms
 constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270;
 
 // A widget with its layout's margin around it.
@@ -80,6 +84,7 @@ std::vector<const char*> VentanaPrincipal::Pestanas()
 
 VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     : m_sesion(SesionInicial(localidades)),
+      m_vigia([this] { MirarFichero(); }),
       m_lugar(m_sesion, localidades),
       m_energia(m_sesion.Proyecto().lugar, [this] { EditarPlanos(); }),
       m_aislada(
@@ -118,6 +123,10 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     centro->setChildrenCollapsible(false);
     setCentralWidget(centro);
     resize(QSize(kAncho, kAlto).boundedTo(screen()->availableSize() * kParteDePantalla));
+    m_copia.setSingleShot(true);
+    m_copia.setInterval(kEntreCopias);
+    connect(&m_copia, &QTimer::timeout, this, [this] { GuardarCopia(); });
+    qApp->installEventFilter(this);
     m_sesion.alCambiar = [this] { Actualizar(); };
     Actualizar();
 }
@@ -183,6 +192,8 @@ void VentanaPrincipal::CrearMenus()
                 menu->addAction(orden.texto, this, [this, &orden] { Atender([&] { orden.funcion(*this); }); });
             if (orden.atajo != nullptr)
                 accion->setShortcut(QKeySequence(QString::fromLatin1(orden.atajo)));
+            if (orden.que != nullptr)
+                m_conNombre.push_back({accion, &orden});
         }
     }
 }
@@ -215,6 +226,13 @@ void VentanaPrincipal::Actualizar()
     const CProyectoEstudio& proyecto = m_sesion.Proyecto();
     setWindowTitle(QString::fromStdWString(m_sesion.Titulo()));
     setWindowModified(m_sesion.Modificado());
+    ActualizarOrdenes();
+    m_vigia.Vigilar(m_sesion.Ruta());
+    // What is typed on and on is copied all the same.
+    if (!m_sesion.Modificado())
+        GuardarCopia();
+    else if (!m_copia.isActive())
+        m_copia.start();
     m_lugar.Actualizar();
     CargarRegistroDelProyecto(m_sesion);
     m_energia.Poner(proyecto.lugar, proyecto.situacion, proyecto.planos);
@@ -246,10 +264,86 @@ VistaEsquema* VentanaPrincipal::EsquemaALaVista() const
     return m_esquemas.at(static_cast<std::size_t>(m_pestanas->currentIndex()));
 }
 
+void VentanaPrincipal::ActualizarOrdenes()
+{
+    for (const auto& [accion, orden] : m_conNombre) {
+        const CString csQue = orden->que(*this);
+        accion->setText(QString(orden->texto) + ' ' + QString::fromStdWString(csQue).replace('&', "&&"));
+        accion->setEnabled(!csQue.empty());
+    }
+}
+
+// ---------------------------------------------------------------------------------------------------
+// What keeps the work
+// ---------------------------------------------------------------------------------------------------
+
+void VentanaPrincipal::CopiarEn(const std::string& carpeta)
+{
+    m_recuperacion.emplace(carpeta);
+}
+
+void VentanaPrincipal::GuardarCopia()
+{
+    m_copia.stop();
+    if (!m_recuperacion)
+        return;
+    try {
+        m_recuperacion->Seguir(m_sesion);
+    } catch (const std::exception& fallo) {
+        // No box in the middle of somebody's work; the next change tries again.
+        statusBar()->showMessage("Sin copia de recuperación. " + QString::fromUtf8(fallo.what()));
+    }
+}
+
+void VentanaPrincipal::OfrecerCopias(bool bAvisar)
+{
+    const bool bHabia = m_recuperacion && m_recuperacion->Ofrecer(m_sesion);
+    if (!bHabia && bAvisar)
+        ui::MostrarAviso(L"No hay copias de recuperación.", ui::Icono::informacion);
+}
+
+// Not while a dialog works on the project: the window comes back to the front when it closes.
+void VentanaPrincipal::MirarFichero()
+{
+    if (m_bMirando || !isActiveWindow() || QApplication::activeModalWidget() != nullptr)
+        return;
+    m_bMirando = true;
+    Atender([this] { m_sesion.ComprobarFichero(); });
+    m_bMirando = false;
+}
+
+void VentanaPrincipal::changeEvent(QEvent* evento)
+{
+    QMainWindow::changeEvent(evento);
+    if (evento->type() == QEvent::ActivationChange && isActiveWindow())
+        QTimer::singleShot(0, this, [this] { MirarFichero(); });
+}
+
+// A field has its own steps while there are some; then the keys are the project's.
+bool VentanaPrincipal::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (evento->type() != QEvent::ShortcutOverride)
+        return false;
+    const auto* linea = qobject_cast<QLineEdit*>(objeto);
+    if (linea == nullptr || linea->window() != this)
+        return false;
+    const auto* tecla = static_cast<QKeyEvent*>(evento);
+    if ((tecla->matches(QKeySequence::Undo) && !linea->isUndoAvailable()) ||
+        (tecla->matches(QKeySequence::Redo) && !linea->isRedoAvailable())) {
+        evento->ignore();
+        return true;
+    }
+    return false;
+}
+
 void VentanaPrincipal::closeEvent(QCloseEvent* evento)
 {
     bool bCerrar = false;
     Atender([&] { bCerrar = m_sesion.PuedeCerrarse(); });
+    if (bCerrar && m_recuperacion) {
+        m_copia.stop();
+        m_recuperacion->Retirar();
+    }
     evento->setAccepted(bCerrar);
 }
 

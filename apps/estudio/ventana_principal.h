@@ -5,17 +5,22 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
 #include <QMainWindow>
+#include <QTimer>
 
 #include "energia/panel_energia.h"
 #include "esquema/vista_esquema.h"
 #include "informe/informe.h"
+#include "ordenes.h"
 #include "paneles/panel_lugar.h"
 #include "paneles/panel_resumen.h"
+#include "proyecto/recuperacion.h"
 #include "proyecto/sesion.h"
+#include "proyecto/vigia.h"
 
 QT_BEGIN_NAMESPACE
 class QTabWidget;
@@ -29,6 +34,7 @@ public:
     ~VentanaPrincipal() override;
 
     Sesion& LaSesion() { return m_sesion; }
+    const Sesion& LaSesion() const { return m_sesion; }
     /// Names of the tabs, in their order.
     static std::vector<const char*> Pestanas();
     void MostrarPestana(std::string_view nombre);
@@ -40,11 +46,17 @@ public:
     void EstudiarInclinacion();
     /// The planes of the field, with the power of the energy's panel.
     void EditarPlanos();
+    /// From now on unsaved work is copied into the folder every few seconds.
+    void CopiarEn(const std::string& carpeta);
+    /// Offers what a run that died left there. @param bAvisar says so when there is nothing
+    void OfrecerCopias(bool bAvisar);
     /// Runs it and tells the person what went wrong: an exception must not pass through Qt's loop.
     void Atender(const std::function<void()>& accion);
 
 protected:
     void closeEvent(QCloseEvent* evento) override;
+    void changeEvent(QEvent* evento) override;
+    bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
     struct FilaPestana;
@@ -54,8 +66,20 @@ private:
     QWidget* CrearPanel(ui::Dialogo& dialogo, QWidget* padre);
     QWidget* CrearPestana(const FilaPestana& fila);
     void Actualizar();
+    void ActualizarOrdenes();
+    void GuardarCopia();
+    void MirarFichero();
 
     Sesion m_sesion;
+    VigiaFichero m_vigia;
+    std::optional<Recuperacion> m_recuperacion;
+    QTimer m_copia;  // to the next copy of unsaved work
+    struct OrdenConNombre {
+        QAction* accion;
+        const Orden* orden;
+    };
+    std::vector<OrdenConNombre> m_conNombre;
+    bool m_bMirando = false;
     PanelLugar m_lugar;
     PanelEnergia m_energia;
     PanelResumen m_aislada, m_red, m_consumo, m_venta, m_autoconsumo;

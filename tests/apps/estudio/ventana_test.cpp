@@ -7,6 +7,8 @@
 #include <iterator>
 
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 
 #include "anfitrion/simbolos.h"
 #include "apoyo.h"
@@ -16,6 +18,7 @@
 #include "ordenes.h"
 #include "proyecto/asistentes.h"
 #include "proyecto/ejemplo.h"
+#include "proyecto/fichero.h"
 #include "qt/muestra.h"
 
 namespace {
@@ -64,6 +67,71 @@ TEST_F(Ventanas, CerrarConCambiosPregunta)
     guion.presentador.respuestas = {Respuesta::no};
     EXPECT_TRUE(ventana.close());
     EXPECT_EQ(guion.Mensajes().size(), 2U);
+}
+
+QAction& Accion(VentanaPrincipal& ventana, const char* inicio)
+{
+    for (QAction* menu : ventana.menuBar()->actions())
+        for (QAction* accion : menu->menu()->actions())
+            if (accion->text().startsWith(inicio))
+                return *accion;
+    throw std::out_of_range(inicio);
+}
+
+TEST_F(Ventanas, DeshacerNombraElPasoYSusTeclasLleganDesdeUnCampo)
+{
+    ventana.show();
+    ventana.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+    QAction& deshacer = Accion(ventana, "&Deshacer");
+    EXPECT_FALSE(deshacer.isEnabled());
+    sesion.Proyecto().lugar.dLatitud = 38.0;
+    sesion.Proyecto().lugar.bPropio = 1;
+    sesion.Cambiado();
+    EXPECT_EQ(deshacer.text(), "&Deshacer cambio del lugar");
+    EXPECT_EQ(Hijo<QLineEdit>(ventana, "dLatitud").text(), "38,0000");
+    auto& linea = Hijo<QLineEdit>(ventana, "csProyecto");
+    linea.setFocus();
+    QTest::keyClick(&linea, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_NEAR(sesion.Proyecto().lugar.dLatitud, 40.4, 0.1);  // Madrid
+    EXPECT_FALSE(deshacer.isEnabled());
+    EXPECT_EQ(Accion(ventana, "&Rehacer").text(), "&Rehacer cambio del lugar");
+    QTest::keyClick(&linea, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(sesion.Proyecto().lugar.dLatitud, 38.0);
+}
+
+TEST_F(Ventanas, ElFicheroCambiadoFueraSeNota)
+{
+    const CarpetaTemporal carpeta;
+    guion.presentador.ficheros = {CadenaDesdeUtf8((carpeta.Ruta() / "p.efvp").string())};
+    ASSERT_TRUE(sesion.Guardar());
+    ventana.show();
+    ventana.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&ventana));
+    CProyectoEstudio otro;
+    otro.csNombre = L"De otro";
+    EscribirProyecto(BytesDe(otro), sesion.Ruta());
+    guion.presentador.respuestas = {Respuesta::si};
+    EXPECT_TRUE(QTest::qWaitFor([&] { return sesion.Proyecto().csNombre == L"De otro"; }));
+    EXPECT_FALSE(ventana.isWindowModified());
+    EXPECT_EQ(guion.Mensajes().size(), 1U);
+}
+
+TEST_F(Ventanas, LosRecientesSeVenEnseguidaYLosQueFaltanNoSeAbren)
+{
+    const CarpetaTemporal carpeta;
+    for (const char* nombre : {"uno.efvp", "dos.efvp"}) {
+        guion.presentador.ficheros.emplace_back(CadenaDesdeUtf8((carpeta.Ruta() / nombre).string()));
+        ASSERT_TRUE(sesion.GuardarComo());
+    }
+    std::filesystem::remove(carpeta.Ruta() / "uno.efvp");
+    QMenu& menu = *Accion(ventana, "Abrir &reciente").menu();
+    emit menu.aboutToShow();
+    ASSERT_EQ(menu.actions().size(), 2);
+    EXPECT_TRUE(menu.actions()[0]->text().endsWith("dos.efvp"));
+    EXPECT_TRUE(menu.actions()[0]->isEnabled());
+    EXPECT_TRUE(menu.actions()[1]->text().endsWith("uno.efvp (no se encuentra)"));
+    EXPECT_FALSE(menu.actions()[1]->isEnabled());
 }
 
 TEST_F(Ventanas, ElLugarEsDeLaListaODeCifrasPropias)
