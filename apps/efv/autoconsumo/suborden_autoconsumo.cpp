@@ -25,25 +25,12 @@ constexpr std::size_t kMaximoPuntos = 10'000;
 // "1..15", "1..15:0,5", "2;3,5;6".
 std::vector<double> LeerBarrido(const char* opcion, const std::string& texto, double dMinimo)
 {
-    constexpr double kMaximo = 1e6;
+    const auto leer = [&](const std::string& parte) { return LeerAcotado(opcion, parte, dMinimo, 1e6); };
+    if (auto intervalo = LeerIntervalo(opcion, texto, kMaximoPuntos, leer))
+        return std::move(*intervalo);
     std::vector<double> valores;
-    const std::size_t iHasta = texto.find("..");
-    if (iHasta == std::string::npos) {
-        for (const std::string& parte : SepararNumeros({texto}, 0))
-            valores.push_back(LeerAcotado(opcion, parte, dMinimo, kMaximo));
-    } else {
-        const std::size_t iPaso = std::min(texto.find(':', iHasta), texto.size());
-        const double dDesde = LeerAcotado(opcion, texto.substr(0, iHasta), dMinimo, kMaximo);
-        const double dHasta =
-            LeerAcotado(opcion, texto.substr(iHasta + 2, iPaso - iHasta - 2), dDesde, kMaximo);
-        const double dPaso =
-            iPaso == texto.size() ? 1.0 : LeerAcotado(opcion, texto.substr(iPaso + 1), 1e-3, kMaximo);
-        const double dPasos = std::floor((dHasta - dDesde) / dPaso + 1e-9);
-        if (dPasos >= static_cast<double>(kMaximoPuntos))
-            throw ErrorUso(fmt::format("{}: son más de {} valores", opcion, kMaximoPuntos));
-        for (int i = 0; i <= static_cast<int>(dPasos); ++i)
-            valores.push_back(dDesde + i * dPaso);
-    }
+    for (const std::string& parte : SepararNumeros({texto}, 0))
+        valores.push_back(leer(parte));
     if (valores.empty())
         throw ErrorUso(fmt::format("{}: no hay ningún valor en «{}»", opcion, EnUnaLinea(texto)));
     return valores;

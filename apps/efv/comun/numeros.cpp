@@ -75,6 +75,31 @@ double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, d
     return *d;
 }
 
+std::optional<std::vector<double>> LeerIntervalo(const char* opcion, const std::string& texto,
+                                                 std::size_t nMaximo,
+                                                 const std::function<double(const std::string&)>& leer)
+{
+    const std::size_t iHasta = texto.find("..");
+    if (iHasta == std::string::npos)
+        return std::nullopt;
+    const std::size_t iPaso = std::min(texto.find(':', iHasta), texto.size());
+    const double dDesde = leer(texto.substr(0, iHasta));
+    const double dHasta = leer(texto.substr(iHasta + 2, iPaso - iHasta - 2));
+    constexpr double kPasoMinimo = 1e-3, kPasoMaximo = 1e6;
+    const double dPaso =
+        iPaso == texto.size() ? 1.0 : LeerAcotado(opcion, texto.substr(iPaso + 1), kPasoMinimo, kPasoMaximo);
+    if (dHasta < dDesde)
+        throw ErrorUso(fmt::format("{}: «{}» va de mayor a menor", opcion, EnUnaLinea(texto)));
+    // The last value is reached in spite of what the step's binary fraction lacks.
+    const double dPasos = std::floor((dHasta - dDesde) / dPaso + 1e-9);
+    if (dPasos >= static_cast<double>(nMaximo))
+        throw ErrorUso(fmt::format("{}: son más de {} valores", opcion, nMaximo));
+    std::vector<double> valores;
+    for (int i = 0; i <= static_cast<int>(dPasos); ++i)
+        valores.push_back(dDesde + i * dPaso);
+    return valores;
+}
+
 std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras, std::size_t cuantos)
 {
     std::string todo;

@@ -1,6 +1,7 @@
 // Numbers and texts as people write and read them: decimal comma out, comma or point in.
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,6 +17,13 @@ std::optional<double> LeerNumero(std::string_view texto);
 
 /// The number of an option. @throws ErrorUso when it is none or lies outside
 double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, double dMaximo);
+
+/// The values of an interval, "1..15" or "1..6:0,5" with its step; nothing when the text is none. The step is 1
+/// if it isn't given. @param leer reads a bound, and throws ErrorUso @throws ErrorUso for a step of 0, bounds
+/// in the wrong order or more than `nMaximo` values
+std::optional<std::vector<double>> LeerIntervalo(const char* opcion, const std::string& texto,
+                                                 std::size_t nMaximo,
+                                                 const std::function<double(const std::string&)>& leer);
 
 /// The parts of a list of `cuantos` numbers, separated by blanks, commas or semicolons: a comma is a decimal
 /// mark where another separator makes that many.

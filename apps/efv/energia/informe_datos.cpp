@@ -70,8 +70,6 @@ std::string Celdas(bool bPedido, const std::optional<solar::AnoEnergia>& resulta
 {
     if (!resultado)
         return bPedido ? ";;;" : "";
-    if (iMes == kMeses)
-        return fmt::format(";;;{}", DecimalExacto(resultado->Energia()));
     const solar::MesEnergia& mes = resultado->meses[iMes];
     return fmt::format(";{};{};{}", DecimalExacto(mes.dPlano), DecimalExacto(mes.dEnergiaDia),
                        DecimalExacto(mes.dEnergiaMes));
@@ -79,7 +77,9 @@ std::string Celdas(bool bPedido, const std::optional<solar::AnoEnergia>& resulta
 
 }  // namespace
 
-std::string InformeJson(const Estudio& estudio)
+namespace {
+
+Json Documento(const Estudio& estudio)
 {
     const Campo& campo = estudio.encargo.campo;
     Json meses = Json::array();
@@ -90,7 +90,7 @@ std::string InformeJson(const Estudio& estudio)
                          {"correlacion", DelMes(estudio.correlacion, m)},
                          {"tabla", DelMes(estudio.tabla, m)}});
     }
-    const Json documento{
+    return {
         {"lugar", DelLugar(estudio.encargo.lugar)},
         {"latitud", campo.dLatitud},
         {"hemisferio", campo.bNorte ? "norte" : "sur"},
@@ -108,7 +108,41 @@ std::string InformeJson(const Estudio& estudio)
         {"orientada", DeLosPlanos(estudio.orientada)},
         {"notas", estudio.notas},
     };
+}
+
+std::string Texto(const Json& documento)
+{
     return documento.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
+}
+
+}  // namespace
+
+std::string InformeJson(const Estudio& estudio)
+{
+    return Texto(Documento(estudio));
+}
+
+std::string ComparacionJson(std::span<const Estudio> casos)
+{
+    Json lista = Json::array();
+    for (const Estudio& caso : casos)
+        lista.push_back(Documento(caso));
+    return Texto({{"casos", std::move(lista)}});
+}
+
+std::string ComparacionCsv(std::span<const Estudio> casos)
+{
+    std::string texto =
+        "inclinacion_grados;orientacion_grados;potencia_kWp;energia_kWh;energia_kWh_kWp;orientada_kWh\n";
+    for (const Estudio& caso : casos) {
+        const Campo& campo = caso.encargo.campo;
+        const double dEnergia = caso.AnoDeUso().Energia();
+        texto += fmt::format("{};{};{};{};{};{}\n", DecimalExacto(campo.dInclinacion),
+                             DecimalExacto(campo.dOrientacion), DecimalExacto(campo.dPotencia),
+                             DecimalExacto(dEnergia), DecimalExacto(dEnergia / campo.dPotencia),
+                             DecimalExacto(caso.orientada.Energia()));
+    }
+    return texto;
 }
 
 std::string InformeCsv(const Estudio& estudio)
@@ -128,7 +162,7 @@ std::string InformeCsv(const Estudio& estudio)
         texto += fmt::format("{};{};{}{}\n", NombreMes(m), DecimalExacto(dRad),
                              DecimalExacto(dRad / solar::kKJporKWh), celdas(m));
     }
-    return texto + "Total;;" + celdas(kMeses) + '\n';
+    return texto;
 }
 
 }  // namespace efv::orden

@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include <fmt/format.h>
@@ -15,10 +16,9 @@ std::string Coordenada(double d, const char* positiva, const char* negativa)
     return fmt::format("{}° {}", Decimal(std::abs(d), 2), d < 0.0 ? negativa : positiva);
 }
 
-std::string Cabecera(const Estudio& estudio)
+std::string LineasDelLugar(const Estudio& estudio)
 {
-    const Campo& campo = estudio.encargo.campo;
-    std::string texto = "Energía mensual de un campo fotovoltaico\n";
+    std::string texto;
     if (const auto& lugar = estudio.encargo.lugar) {
         const std::string provincia = lugar->csProvincia.empty() ? "" : CadenaUtf8(lugar->csProvincia) + ", ";
         texto += fmt::format("Lugar: {} ({}{}), {}, {}, {} m\n", CadenaUtf8(lugar->csNombre), provincia,
@@ -28,8 +28,15 @@ std::string Cabecera(const Estudio& estudio)
         if (const std::string zonas = TextoZonas(*lugar); !zonas.empty())
             texto += fmt::format("Zonas: {}\n", zonas);
     } else {
-        texto += fmt::format("Lugar: latitud {}\n", Coordenada(campo.dLatitud, "N", "S"));
+        texto += fmt::format("Lugar: latitud {}\n", Coordenada(estudio.encargo.campo.dLatitud, "N", "S"));
     }
+    return texto;
+}
+
+std::string Cabecera(const Estudio& estudio)
+{
+    const Campo& campo = estudio.encargo.campo;
+    std::string texto = "Energía mensual de un campo fotovoltaico\n" + LineasDelLugar(estudio);
     texto +=
         fmt::format("Campo: {} kWp, inclinación {}°, PR {}, factor {}\n\n", DecimalExacto(campo.dPotencia),
                     DecimalExacto(campo.dInclinacion), DecimalExacto(campo.dPR), DecimalExacto(campo.dFactor));
@@ -135,6 +142,37 @@ std::string InformeTexto(const Estudio& estudio)
     for (const std::string& nota : estudio.notas)
         texto += "· " + nota + '\n';
     return texto;
+}
+
+std::string ComparacionTexto(std::span<const Estudio> casos)
+{
+    const Estudio& primero = casos.front();
+    std::string texto = "Energía anual de varios campos fotovoltaicos\n" + LineasDelLugar(primero);
+    texto += fmt::format("Campos: PR {}, factor {}\n\n", DecimalExacto(primero.encargo.campo.dPR),
+                         DecimalExacto(primero.encargo.campo.dFactor));
+    TablaTexto tabla(std::vector(7, TablaTexto::Lado::derecha));
+    tabla.Grupos({{"", 3}, {"Hacia el ecuador", 2}, {"Con la orientación", 2}});
+    tabla.Fila({"Inclinación °", "Orientación °", "kWp", "kWh/año", "kWh/kWp", "kWh/año", "kWh/kWp"});
+    tabla.Raya();
+    const auto porKWp = [](const Estudio& caso) {
+        return caso.orientada.Energia() / caso.encargo.campo.dPotencia;
+    };
+    for (const Estudio& caso : casos) {
+        const Campo& campo = caso.encargo.campo;
+        const double dEnergia = caso.AnoDeUso().Energia();
+        tabla.Fila({DecimalExacto(campo.dInclinacion), DecimalExacto(campo.dOrientacion),
+                    DecimalExacto(campo.dPotencia), Decimal(dEnergia, 1),
+                    Decimal(dEnergia / campo.dPotencia, 1), Decimal(caso.orientada.Energia(), 1),
+                    Decimal(porKWp(caso), 1)});
+    }
+    const Estudio& mejor = *std::ranges::max_element(casos, {}, porKWp);
+    texto += tabla.Texto() +
+             fmt::format("\nEl que más da por kWp con su orientación: {}° hacia {}°, {} kWh/kWp ({}).\n",
+                         DecimalExacto(mejor.encargo.campo.dInclinacion),
+                         DecimalExacto(mejor.encargo.campo.dOrientacion), Decimal(porKWp(mejor), 1),
+                         solar::NombreDeOrigen(mejor.orientada.origen));
+    return texto + fmt::format("· Hacia el ecuador: por la {}, la misma de los diseños.\n",
+                               mejor.tabla ? "tabla de factores K" : "correlación");
 }
 
 }  // namespace efv::orden

@@ -27,26 +27,34 @@ struct OpcionNumerica {
     bool bSinMinimo;  ///< the least value itself is refused
     const char* descripcion;
     const char* consejo;  ///< added to the refusal
+    bool bVarios;         ///< takes several values, a case each
 };
 
 // The latitude stands first: defaults of others depend on it.
 constexpr std::size_t kLatitud = 0;
 constexpr std::size_t kInclinacion = 1;
 constexpr std::size_t kOrientacion = 2;
+constexpr std::size_t kPotencia = 3;
+constexpr std::size_t kMaximoCasos = 1000;
 
 constexpr auto kOpciones = std::to_array<OpcionNumerica>({
-    {"--lat", "GRADOS", &Campo::dLatitud, -90, 90, false, "Latitud del campo, norte positiva (-90 a 90)", ""},
+    {"--lat", "GRADOS", &Campo::dLatitud, -90, 90, false, "Latitud del campo, norte positiva (-90 a 90)", "",
+     false},
     {"--inclinacion", "GRADOS", &Campo::dInclinacion, 0, 90, false,
-     "Inclinación de los paneles hacia el ecuador (0 a 90); si falta, la latitud sin signo, redondeada", ""},
+     "Inclinación de los paneles hacia el ecuador (0 a 90); si falta, la latitud sin signo, redondeada. "
+     "Varias, "
+     "como 20..40:5 o 20;30, se comparan",
+     "", true},
     {"--orientacion", "GRADOS", &Campo::dOrientacion, -180, 180, false,
      "Orientación, 0 sur, este negativa (-180 a 180); si falta, hacia el ecuador. Los dos métodos "
-     "calculan un campo orientado al ecuador; la energía con la orientación se da aparte",
-     ""},
-    {"--potencia", "KWP", &Campo::dPotencia, 0, 1e6, true, "Potencia pico del campo en kWp; si falta, 1", ""},
+     "calculan un campo orientado al ecuador; la energía con la orientación se da aparte. También varias",
+     "", true},
+    {"--potencia", "KWP", &Campo::dPotencia, 0, 1e6, true,
+     "Potencia pico del campo en kWp; si falta, 1. También varias", "", true},
     {"--pr", "FRACCION", &Campo::dPR, 0, 1, true,
-     "Rendimiento global (PR), mayor que 0 y hasta 1; si falta, 0,8", "; es una fracción: 0,8 y no 80"},
+     "Rendimiento global (PR), mayor que 0 y hasta 1; si falta, 0,8", "; es una fracción: 0,8 y no 80", false},
     {"--factor", "FRACCION", &Campo::dFactor, 0, 10, true,
-     "Otro factor sobre la energía, hasta 10; si falta, 1", ""},
+     "Otro factor sobre la energía, hasta 10; si falta, 1", "", false},
 });
 
 constexpr const char* kAyudaRadiacion =
@@ -65,6 +73,18 @@ double LeerAcotada(const OpcionNumerica& opcion, const std::string& texto)
                                    opcion.consejo));
     }
     return *d;
+}
+
+// "30", "20;30;40", "20..40:5".
+std::vector<double> LeerVarios(const OpcionNumerica& opcion, const std::string& texto)
+{
+    const auto leer = [&](const std::string& parte) { return LeerAcotada(opcion, parte); };
+    if (auto intervalo = LeerIntervalo(opcion.nombre, texto, kMaximoCasos, leer))
+        return std::move(*intervalo);
+    std::vector<double> valores;
+    for (const std::string& parte : CLI::detail::split(texto, ';'))
+        valores.push_back(leer(parte));
+    return valores;
 }
 
 }  // namespace
@@ -130,7 +150,7 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
     linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
 }
 
-Encargo OpcionesEnergia::Leer() const
+std::vector<Encargo> OpcionesEnergia::Leer() const
 {
     Encargo encargo;
     encargo.csDatos = m_datos;
@@ -139,17 +159,45 @@ Encargo OpcionesEnergia::Leer() const
     encargo.bTabla = m_metodo != "correlacion";
     if (m_metodo != "tabla" && m_metodo != "correlacion" && m_metodo != "ambos")
         throw ErrorUso(fmt::format("--metodo: se esperaba correlacion, tabla o ambos, llegó «{}»", m_metodo));
-    LeerNumericas(encargo);
+    Valores valores = LeerNumericas();
+    for (std::size_t i = 0; i < kNumericas; ++i)
+        if (!valores[i].empty())
+            encargo.campo.*kOpciones[i].valor = valores[i].front();
     LeerLugar(encargo);
     Campo& campo = encargo.campo;
     campo.bNorte = campo.dLatitud >= 0.0;
-    encargo.bInclinacionPropia = !m_numericas[kInclinacion];
+    encargo.bInclinacionPropia = valores[kInclinacion].empty();
     if (encargo.bInclinacionPropia)
         campo.dInclinacion = std::round(std::abs(campo.dLatitud));
-    if (!m_numericas[kOrientacion])
+    if (valores[kOrientacion].empty())
         campo.dOrientacion = campo.OrientacionEcuador();
     LeerPlanos(encargo);
-    return encargo;
+    for (const std::size_t i : {kInclinacion, kOrientacion, kPotencia})
+        if (valores[i].empty())
+            valores[i] = {campo.*kOpciones[i].valor};
+    return Casos(encargo, valores[kInclinacion], valores[kOrientacion], valores[kPotencia]);
+}
+
+std::vector<Encargo> OpcionesEnergia::Casos(const Encargo& encargo, const std::vector<double>& inclinaciones,
+                                            const std::vector<double>& orientaciones,
+                                            const std::vector<double>& potencias) const
+{
+    if (inclinaciones.size() * orientaciones.size() * potencias.size() > kMaximoCasos)
+        throw ErrorUso(fmt::format("son más de {} casos que comparar", kMaximoCasos));
+    std::vector<Encargo> casos;
+    for (const double dInclinacion : inclinaciones) {
+        for (const double dOrientacion : orientaciones) {
+            for (const double dPotencia : potencias) {
+                Encargo& caso = casos.emplace_back(encargo);
+                caso.campo.dInclinacion = dInclinacion;
+                caso.campo.dOrientacion = dOrientacion;
+                caso.campo.dPotencia = dPotencia;
+                if (m_planos.empty())
+                    caso.planos = {{dInclinacion, dOrientacion, 1.0}};
+            }
+        }
+    }
+    return casos;
 }
 
 void OpcionesEnergia::LeerPlanos(Encargo& encargo) const
@@ -176,11 +224,16 @@ void OpcionesEnergia::LeerPlanos(Encargo& encargo) const
         encargo.origen = solar::OrigenHoras::registro;
 }
 
-void OpcionesEnergia::LeerNumericas(Encargo& encargo) const
+OpcionesEnergia::Valores OpcionesEnergia::LeerNumericas() const
 {
-    for (std::size_t i = 0; i < kNumericas; ++i)
-        if (m_numericas[i])
-            encargo.campo.*kOpciones[i].valor = LeerAcotada(kOpciones[i], *m_numericas[i]);
+    Valores valores;
+    for (std::size_t i = 0; i < kNumericas; ++i) {
+        if (!m_numericas[i])
+            continue;
+        valores[i] = kOpciones[i].bVarios ? LeerVarios(kOpciones[i], *m_numericas[i])
+                                          : std::vector{LeerAcotada(kOpciones[i], *m_numericas[i])};
+    }
+    return valores;
 }
 
 void OpcionesEnergia::LeerLugar(Encargo& encargo) const

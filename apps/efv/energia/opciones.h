@@ -36,14 +36,21 @@ class OpcionesEnergia {
 public:
     void Declarar(CLI::App& linea);
 
-    /// Checks all options and looks the place up. @throws ErrorUso, ErrorEjecucion, CFileException
-    Encargo Leer() const;
+    /// Checks all options and looks the place up: one case for each tilt, orientation and power of those given,
+    /// in that order. @throws ErrorUso, ErrorEjecucion, CFileException
+    std::vector<Encargo> Leer() const;
 
 private:
     static constexpr std::size_t kNumericas = 6;
 
+    using Valores =
+        std::array<std::vector<double>, kNumericas>;  ///< those of each option; none when it wasn't given
+
+    Valores LeerNumericas() const;
+    std::vector<Encargo> Casos(const Encargo& encargo, const std::vector<double>& inclinaciones,
+                               const std::vector<double>& orientaciones,
+                               const std::vector<double>& potencias) const;
     void LeerLugar(Encargo& encargo) const;
-    void LeerNumericas(Encargo& encargo) const;
     void LeerPlanos(Encargo& encargo) const;
 
     std::optional<std::string> m_lugar;

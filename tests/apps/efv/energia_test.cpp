@@ -115,6 +115,26 @@ TEST_F(Energia, LaInclinacionPropiaEsLaLatitudSinSigno)
     EXPECT_EQ(Calcular({"--lat", "40.4", "--radiacion", kNorte})["inclinacion"], 40.0);
 }
 
+// Each case is the one that is asked for alone; energy goes with the power.
+TEST_F(Energia, VariosCasosSeComparan)
+{
+    const std::vector<std::string> campo = {"--lat", "40.4", "--radiacion", kNorte};
+    const Json casos = Calcular(
+        Mas(campo, {"--inclinacion", "20..30:5", "--orientacion", "-30;0", "--potencia", "2;4"}))["casos"];
+    ASSERT_EQ(casos.size(), 12U);
+    EXPECT_EQ(casos[5],
+              Calcular(Mas(campo, {"--inclinacion", "25", "--orientacion", "-30", "--potencia", "4"})));
+    EXPECT_EQ(casos[11]["orientada"]["planos"][0]["orientacion"], 0.0);
+    EXPECT_NEAR(casos[11]["de_uso"]["energia_kWh"].get<double>(),
+                2 * casos[10]["de_uso"]["energia_kWh"].get<double>(), 1e-9);
+    const std::string csv = Correr(Mas({"energia", "--csv", "--inclinacion", "20;30"}, campo)).salida;
+    EXPECT_EQ(std::ranges::count(csv, '\n'), 3);
+    EXPECT_TRUE(Contiene(Correr(Mas({"energia", "--inclinacion", "20;30"}, campo)).salida,
+                         {"kWh/kWp", "El que más da por kWp"}));
+    for (const char* mal : {"30..20", "20..30:0", "0..90:0,01", "20;;30", "80..95"})
+        EXPECT_EQ(Correr(Mas({"energia", "--inclinacion", mal}, campo)).iEstado, 2) << mal;
+}
+
 TEST_F(Energia, LoQueNoTieneValorQuedaVacio)
 {
     // At 70° north the sun doesn't set in June nor rise in December; the table ends at 41°.
