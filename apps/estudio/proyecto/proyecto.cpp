@@ -292,6 +292,16 @@ void IntercambiarAutoconsumoGuiado(CProyectoEstudio& proyecto, CArchive& ar)
     dato(proyecto.economia.csGuiado);
 }
 
+void IntercambiarAceptadaAislada(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambiar(proyecto.aceptadaAislada, ar);
+}
+
+void IntercambiarAceptadaRed(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambiar(proyecto.aceptadaRed, ar);
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -313,6 +323,8 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"planos", 1, &IntercambiarPlanos, L"de los planos"},
     {L"elementos", 1, &IntercambiarElementos, L"de los elementos"},
     {L"autoconsumo guiado", 1, &IntercambiarAutoconsumoGuiado, L"del autoconsumo guiado"},
+    {L"aceptada aislada", 1, &IntercambiarAceptadaAislada, L"de la instalación aislada"},
+    {L"aceptada red", 1, &IntercambiarAceptadaRed, L"de la conexión a red"},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <vector>
 
 #include <QuorvelEFV.h>
 
+#include "proyecto/aceptacion.h"
 #include "proyecto/elementos.h"
 
 namespace efv::estudio {
@@ -90,6 +92,9 @@ public:
     /// Where the panels look, at most kPlanosMaximo; empty: as each design says.
     std::vector<solar::PlanoCampo> planos;
     Elementos elementos;
+    /// What the designs were accepted with; nothing: never, or by a program that didn't take it down.
+    std::optional<Aceptacion<CSFVAsistenteAislada>> aceptadaAislada;
+    std::optional<Aceptacion<CSFVAsistenteRed>> aceptadaRed;
     std::vector<SeccionAjena> ajenas;
 
     const CRuntimeClass& GetRuntimeClass() const override;

@@ -1,0 +1,54 @@
+// What a design was accepted with: place, record and the data of its models.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include <QuorvelEFV.h>
+
+namespace efv::estudio {
+
+/// A model as its catalogue had it.
+struct ModeloGuardado {
+    struct Campo {
+        CString csNombre;
+        ValorCampo valor;
+        bool operator==(const Campo&) const = default;
+    };
+
+    CString csTipo;  ///< kind of catalogue, as TipoCatalogo names it
+    CString csFamilia;
+    std::vector<Campo> campos;
+
+    /// Its name alone.
+    CString Nombre() const;
+};
+
+/// Of the place, what designs depend on.
+struct LugarAceptado {
+    double dLatitud = 0.0;  ///< degrees
+    int iHemisferio = 1;
+    std::array<double, 12> adRadHorizontal{};  ///< kJ/m²·day
+
+    bool operator==(const LugarAceptado&) const = default;
+};
+
+template <class DISENO>
+struct Aceptacion {
+    LugarAceptado lugar;
+    DISENO diseno;
+    std::vector<ModeloGuardado> modelos;
+    std::vector<CString> acsPropios;  ///< fields in which the person overruled the proposal
+
+    void Serialize(CArchive& ar);
+};
+
+/// A flag, then the acceptance if there is one. Reading throws std::runtime_error at what can't be.
+template <class DISENO>
+void Intercambiar(std::optional<Aceptacion<DISENO>>& aceptada, CArchive& ar);
+
+extern template void Intercambiar(std::optional<Aceptacion<CSFVAsistenteAislada>>&, CArchive&);
+extern template void Intercambiar(std::optional<Aceptacion<CSFVAsistenteRed>>&, CArchive&);
+
+}  // namespace efv::estudio
