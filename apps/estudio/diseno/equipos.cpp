@@ -1,10 +1,12 @@
 #include "diseno/equipos.h"
 
+#include "diseno/modelos.h"
+
 namespace efv::estudio {
 
 report::Catalogos CatalogosDelModulo()
 {
-    return {phGetBasePanelFoto(), phGetBaseAcumuladores(), phGetBaseInversores(), phGetBaseReceptores()};
+    return CatalogosConGuardados();
 }
 
 report::Cableado CableadoDe(const CSFVAsistenteRed& diseno)

@@ -12,7 +12,7 @@ using report::GrupoInversores;
 using report::HayDiseno;
 using Carga = report::CargaDiseno;
 
-/// The module's catalogues.
+/// The module's catalogues, and what the open project keeps where they lack a model of it.
 report::Catalogos CatalogosDelModulo();
 
 template <class DISENO>

@@ -41,7 +41,10 @@ struct Origen {
         return EsAislada() ? proyecto.elementos.csIdSalida : proyecto.red.csInversor;
     }
     /// Null when the catalogue doesn't have it.
-    const CBaseInversorModelo* Inversor() const { return phGetBaseInversores().BuscarModelo(IdInversor()); }
+    const CBaseInversorModelo* Inversor() const
+    {
+        return CatalogosDelModulo().inversores.BuscarModelo(IdInversor());
+    }
     bool Trifasica() const
     {
         return (EsAislada() ? proyecto.aislada.iTipoSalidaCA : proyecto.red.iTipoSalida) != 0;

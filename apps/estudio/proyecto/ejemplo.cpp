@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "proyecto/receptores.h"
+
 namespace efv::estudio {
 
 namespace {
@@ -41,29 +43,17 @@ private:
 void PonerCargas(CProyectoEstudio& proyecto)
 {
     for (const CargaEjemplo& ejemplo : kCargas) {
-        auto receptor = std::make_unique<CSFVDataReceptor>();
-        receptor->csModelo = ejemplo.csId;
-        receptor->iCantidad = ejemplo.iCantidad;
-        int bLuminaria = 0;
-        if (phGetDataReceptor(ejemplo.csId, receptor->csFabricante, receptor->dPotencia, receptor->dVoltaje,
-                              receptor->dVoltajeMinimo, receptor->dRendimiento, receptor->iTipoRed,
-                              bLuminaria) == 0)
+        auto receptor = NuevoReceptor(ejemplo.csId);
+        if (receptor == nullptr)
             continue;
-        receptor->iLuminaria = bLuminaria;
+        receptor->iCantidad = ejemplo.iCantidad;
         for (auto& mes : receptor->dHorario)
             for (auto& dia : mes)
                 std::ranges::copy(ejemplo.adFranjas, dia);
         receptor->GetNHdia(0, 0);
-        CSFVAsistenteAislada& aislada = proyecto.aislada;
-        aislada.adCantidad.Add(receptor->iCantidad);
-        aislada.acsModelo.Add(receptor->csModelo);
-        aislada.adHorasDia.Add(receptor->dHorasDia);
-        for (const auto& mes : receptor->dHorario)
-            for (const auto& dia : mes)
-                for (const double dMinuto : dia)
-                    aislada.adHorario.Add(dMinuto);
         proyecto.consumo.lReceptores.Add(std::move(receptor));
     }
+    ReceptoresALaAislada(proyecto);
 }
 
 // Prices dearer by day, a roof of 1,200 € a kWp on a loan of ten years.

@@ -5,6 +5,7 @@
 #include <new>
 
 #include "proyecto/fichero.h"
+#include "proyecto/vigencia.h"
 
 namespace efv::estudio {
 
@@ -93,6 +94,7 @@ void Sesion::Rehacer()
 void Sesion::Poner(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta,
                    std::optional<Huella> huella)
 {
+    AnotarLoQueFalte(*proyecto);
     m_guardado = m_actual = BytesDe(*proyecto);
     m_proyecto = std::move(proyecto);
     m_historial.Vaciar();
@@ -112,6 +114,7 @@ void Sesion::Recuperar(std::unique_ptr<CProyectoEstudio> proyecto, const CString
 void Sesion::Avisar()
 {
     m_bModificado = m_actual != m_guardado;
+    UsarModelosDe(*m_proyecto);
     if (alCambiar)
         alCambiar();
 }
@@ -258,6 +261,7 @@ void Sesion::CargarOtraVez()
 {
     try {
         auto [proyecto, huella] = LeerProyecto(m_csRuta);
+        AnotarLoQueFalte(*proyecto);
         m_guardado = BytesDe(*proyecto);
         m_huella = m_vista = huella;
         m_proyecto = std::move(proyecto);
