@@ -23,6 +23,7 @@
 #include "elementos/rotulos.h"
 #include "energia/planos.h"
 #include "proyecto/asistentes.h"
+#include "proyecto/vigencia.h"
 
 namespace efv::estudio {
 
@@ -45,6 +46,17 @@ QWidget* ConMargen(QWidget* dentro)
     auto* pila = new QVBoxLayout(marco);
     pila->addWidget(dentro);
     return marco;
+}
+
+// A design's summary with what keeps it from being up to date.
+PanelResumen::Contenido ConAviso(PanelResumen::Contenido contenido, const CProyectoEstudio& proyecto,
+                                 Diseno diseno)
+{
+    for (const CString& csNombre : ModelosSoloDelProyecto(proyecto, diseno))
+        contenido.lineas.push_back({L"No está en el catálogo", csNombre + L" (datos del proyecto)"});
+    for (const CString& csDesfase : Desfases(proyecto, diseno))
+        contenido.csAviso += (contenido.csAviso.empty() ? L"Desactualizado:\n" : L"\n") + csDesfase;
+    return contenido;
 }
 
 }  // namespace
@@ -89,12 +101,17 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
       m_energia(m_sesion.Proyecto().lugar, [this] { EditarPlanos(); }),
       m_aislada(
           "PanelAislada", L"Asistente de &instalación aislada…",
-          [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto(), Diseno::aislada)}; },
-          [this] { DisenarAislada(m_sesion); }),
+          [this] {
+              return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::aislada)}, m_sesion.Proyecto(),
+                              Diseno::aislada);
+          },
+          [this] { DisenarAislada(m_sesion); }, [this] { RecalcularDiseno(m_sesion, Diseno::aislada); }),
       m_red(
           "PanelRed", L"Asistente de c&onexión a red…",
-          [this]() -> PanelResumen::Contenido { return {ResumenDe(m_sesion.Proyecto(), Diseno::red)}; },
-          [this] { DisenarRed(m_sesion); }),
+          [this] {
+              return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::red)}, m_sesion.Proyecto(), Diseno::red);
+          },
+          [this] { DisenarRed(m_sesion); }, [this] { RecalcularDiseno(m_sesion, Diseno::red); }),
       m_consumo(
           "PanelConsumo", L"Dat&os del consumo…",
           [this]() -> PanelResumen::Contenido {
@@ -240,9 +257,24 @@ void VentanaPrincipal::Actualizar()
         panel->Actualizar();
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)
         if (const FilaPestana& fila = FilasPestanas()[i]; fila.diseno)
-            m_esquemas[i]->Poner(Dibujar(EsquemaDe(proyecto, *fila.diseno)), fila.sinLamina);
+            MostrarDiseno(static_cast<int>(i), *fila.diseno);
     for (QWidget* panel : m_paneles)
         qt::RefrescarVentana(panel);
+}
+
+// The drawing, and on it and on its tab whether the design is out of date.
+void VentanaPrincipal::MostrarDiseno(int iPestana, Diseno diseno)
+{
+    const CProyectoEstudio& proyecto = m_sesion.Proyecto();
+    const FilaPestana& fila = FilasPestanas()[static_cast<std::size_t>(iPestana)];
+    const CString csAviso = AvisoDeDesfase(proyecto, diseno);
+    Esquema esquema = EsquemaDe(proyecto, diseno);
+    if (!csAviso.empty())
+        esquema.acsNotas.insert(esquema.acsNotas.begin(), csAviso);
+    m_esquemas[static_cast<std::size_t>(iPestana)]->Poner(Dibujar(esquema), fila.sinLamina);
+    m_pestanas->setTabText(iPestana,
+                           QString(fila.rotulo) + QString(csAviso.empty() ? "" : " (desactualizada)"));
+    m_pestanas->setTabToolTip(iPestana, QString::fromStdWString(csAviso));
 }
 
 void VentanaPrincipal::MostrarPestana(std::string_view nombre)

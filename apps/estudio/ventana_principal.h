@@ -67,6 +67,7 @@ private:
     QWidget* CrearPestana(const FilaPestana& fila);
     void Actualizar();
     void ActualizarOrdenes();
+    void MostrarDiseno(int iPestana, Diseno diseno);
     void GuardarCopia();
     void MirarFichero();
 

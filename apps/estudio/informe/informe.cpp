@@ -5,6 +5,7 @@
 #include "diseno/equipos.h"
 #include "energia/planos.h"
 #include "guardar.h"
+#include "proyecto/vigencia.h"
 
 namespace efv::estudio {
 
@@ -24,12 +25,22 @@ report::LugarDiseno LugarDelInforme(const Lugar& lugar)
     return del;
 }
 
-template <class DISENO>
-std::string Informe(const CProyectoEstudio& origen, const DISENO& diseno)
+// Figures that don't go with the project any more don't leave the program unmarked.
+void MarcarDesfase(report::Documento& documento, const CString& csDesfase)
 {
-    return report::DocumentoHtml(
-        report::InformeDe(diseno, PortadaDe(origen), CatalogosDelModulo(), phGetBaseFactorK()),
-        report::FechaDeHoy());
+    if (csDesfase.empty())
+        return;
+    documento.titulo += " (desactualizado)";
+    documento.avisos.insert(documento.avisos.begin(), {true, CadenaUtf8(csDesfase)});
+}
+
+template <class DISENO>
+std::string Informe(const CProyectoEstudio& origen, const DISENO& diseno, const CString& csDesfase)
+{
+    report::Documento documento =
+        report::InformeDe(diseno, PortadaDe(origen), CatalogosDelModulo(), phGetBaseFactorK());
+    MarcarDesfase(documento, csDesfase);
+    return report::DocumentoHtml(documento, report::FechaDeHoy());
 }
 
 }  // namespace
@@ -44,7 +55,9 @@ report::Portada PortadaDe(const CProyectoEstudio& proyecto)
 
 std::string InformeHtml(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    return diseno == Diseno::aislada ? Informe(proyecto, proyecto.aislada) : Informe(proyecto, proyecto.red);
+    const CString csDesfase = AvisoDeDesfase(proyecto, diseno);
+    return diseno == Diseno::aislada ? Informe(proyecto, proyecto.aislada, csDesfase)
+                                     : Informe(proyecto, proyecto.red, csDesfase);
 }
 
 void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno)

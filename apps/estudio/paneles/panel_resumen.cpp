@@ -24,13 +24,23 @@ private:
 }  // namespace
 
 PanelResumen::PanelResumen(std::string_view nombreClase, std::wstring_view csBoton,
-                           std::function<Contenido()> leer, std::function<void()> accion)
+                           std::function<Contenido()> leer, std::function<void()> accion,
+                           std::function<void()> recalcular)
     : Dialogo(nombreClase, L"Resumen"),
       m_leer(std::move(leer)),
       m_lineas(std::make_shared<std::vector<LineaResumen>>())
 {
     bAceptarVisible = false;
-    Anadir<ui::Boton>("asistente", csBoton).alPulsar = std::move(accion);
+    auto& asistente = Anadir<ui::Boton>("asistente", csBoton);
+    asistente.alPulsar = std::move(accion);
+    if (recalcular) {
+        m_recalcular = &Anadir<ui::Boton>("recalcular", L"Recalcular");
+        m_recalcular->colocacion.junto = &asistente;
+        m_recalcular->csIndicacion = L"Repite el diseño con los datos de ahora y dice qué cambia";
+        m_recalcular->alPulsar = std::move(recalcular);
+        m_aviso = &Anadir<ui::TextoFijo>("aviso", L"");
+        m_aviso->color = ui::kRojo;
+    }
     m_tabla = &Anadir<ui::Lista>("resumen", L"", ui::Lista::Forma::tabla);
     m_tabla->acsColumnas = {L"Concepto", L"Valor"};
     m_tabla->alineaciones = {ui::Alineacion::izquierda, ui::Alineacion::derecha};
@@ -47,6 +57,10 @@ void PanelResumen::Actualizar()
     Contenido contenido = m_leer();
     *m_lineas = std::move(contenido.lineas);
     ++m_tabla->uVersion;
+    if (m_recalcular != nullptr) {
+        m_aviso->csTexto = contenido.csAviso;
+        m_aviso->bVisible = m_recalcular->bVisible = !contenido.csAviso.empty();
+    }
     if (m_grafica != nullptr && contenido.grafica)
         m_grafica->datos = std::move(*contenido.grafica);
 }

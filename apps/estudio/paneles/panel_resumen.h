@@ -14,11 +14,13 @@ public:
     struct Contenido {
         std::vector<LineaResumen> lineas;
         std::optional<CCtrlCurva2D> grafica = {};
+        CString csAviso = {};  ///< why it has to be worked out again; empty: it hasn't
     };
 
     /// @param leer what to show now; a panel with a chart has one from the start
+    /// @param recalcular what the button beside a warning does; none: there are no warnings
     PanelResumen(std::string_view nombreClase, std::wstring_view csBoton, std::function<Contenido()> leer,
-                 std::function<void()> accion);
+                 std::function<void()> accion, std::function<void()> recalcular = {});
 
     void Actualizar();
     const std::vector<LineaResumen>& Lineas() const { return *m_lineas; }
@@ -27,6 +29,8 @@ private:
     std::function<Contenido()> m_leer;
     std::shared_ptr<std::vector<LineaResumen>> m_lineas;
     ui::Lista* m_tabla = nullptr;
+    ui::TextoFijo* m_aviso = nullptr;
+    ui::Boton* m_recalcular = nullptr;
     ui::Grafica* m_grafica = nullptr;
 };
 
