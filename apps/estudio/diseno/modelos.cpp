@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <memory>
 #include <set>
 
@@ -41,7 +42,8 @@ ModeloGuardado Guardado(const TipoCatalogo& tipo, const CModelo& modelo)
     const auto campos = tipo.Campos();
     guardado.campos.reserve(campos.size());
     for (std::size_t i = 0; i < campos.size(); ++i)
-        guardado.campos.push_back({CadenaDesdeUtf8(std::string(campos[i].nombre)), tipo.Valor(modelo, i)});
+        guardado.campos.push_back({CadenaDesdeUtf8(std::string(campos[i].nombre)), tipo.Valor(modelo, i),
+                                   (modelo.uAusentes & campos[i].uMarca) != 0 ? 1 : 0});
     return guardado;
 }
 
@@ -50,10 +52,10 @@ template <class ACCION>
 void PorCampos(const TipoCatalogo& tipo, const ModeloGuardado& guardado, const ACCION& accion)
 {
     const auto campos = tipo.Campos();
-    for (const auto& [csNombre, valor] : guardado.campos) {
-        const auto campo = std::ranges::find(campos, CadenaUtf8(csNombre), &CampoCatalogo::nombre);
+    for (const ModeloGuardado::Campo& suyo : guardado.campos) {
+        const auto campo = std::ranges::find(campos, CadenaUtf8(suyo.csNombre), &CampoCatalogo::nombre);
         if (campo != campos.end())
-            accion(static_cast<std::size_t>(campo - campos.begin()), *campo, valor);
+            accion(static_cast<std::size_t>(campo - campos.begin()), *campo, suyo);
     }
 }
 
@@ -62,11 +64,16 @@ std::unique_ptr<CModelo> Modelo(const TipoCatalogo& tipo, const ModeloGuardado& 
 {
     auto modelo = tipo.CrearModelo();
     modelo->csFamilia = guardado.csFamilia;
-    PorCampos(tipo, guardado, [&](std::size_t i, const CampoCatalogo& /*campo*/, const ValorCampo& valor) {
-        // A field may have become one of another kind since.
-        if (tipo.Valor(*modelo, i).index() == valor.index())
-            tipo.Poner(*modelo, i, valor);
-    });
+    std::uint64_t uAusentes = 0;
+    PorCampos(tipo, guardado,
+              [&](std::size_t i, const CampoCatalogo& campo, const ModeloGuardado::Campo& suyo) {
+                  // A field may have become one of another kind since.
+                  if (tipo.Valor(*modelo, i).index() == suyo.valor.index())
+                      tipo.Poner(*modelo, i, suyo.valor);
+                  if (suyo.bAusente != 0)
+                      uAusentes |= campo.uMarca;
+              });
+    modelo->uAusentes = uAusentes;
     return modelo;
 }
 
@@ -183,14 +190,16 @@ CString CamposCambiados(const ModeloGuardado& guardado)
     const TipoCatalogo& tipo = *BuscarTipoCatalogo(CadenaUtf8(guardado.csTipo));
     CString csCampos;
     std::size_t nCambiados = 0;
-    PorCampos(tipo, guardado, [&](std::size_t i, const CampoCatalogo& campo, const ValorCampo& valor) {
-        if (std::ranges::find(kSinEfecto, campo.nombre) != kSinEfecto.end() || tipo.Valor(*modelo, i) == valor)
-            return;
-        if (++nCambiados <= kCamposDichos)
-            csCampos += (csCampos.empty() ? L"" : L", ") + CadenaDesdeUtf8(std::string(campo.nombre));
-        else if (nCambiados == kCamposDichos + 1)
-            csCampos += L"…";
-    });
+    PorCampos(tipo, guardado,
+              [&](std::size_t i, const CampoCatalogo& campo, const ModeloGuardado::Campo& suyo) {
+                  if (std::ranges::find(kSinEfecto, campo.nombre) != kSinEfecto.end() ||
+                      tipo.Valor(*modelo, i) == suyo.valor)
+                      return;
+                  if (++nCambiados <= kCamposDichos)
+                      csCampos += (csCampos.empty() ? L"" : L", ") + CadenaDesdeUtf8(std::string(campo.nombre));
+                  else if (nCambiados == kCamposDichos + 1)
+                      csCampos += L"…";
+              });
     return csCampos;
 }
 

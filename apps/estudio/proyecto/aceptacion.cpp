@@ -70,18 +70,20 @@ void IntercambiarModelos(std::vector<ModeloGuardado>& modelos, CArchive& ar)
         ar << modelo.csTipo;
         ar << modelo.csFamilia;
         ar.WriteCount(modelo.campos.size());
-        for (const auto& [csNombre, valor] : modelo.campos) {
+        for (const auto& [csNombre, valor, bAusente] : modelo.campos) {
             ar << csNombre;
             Escribir(valor, ar);
+            ar << bAusente;
         }
     };
     const auto leer = [&ar](ModeloGuardado& modelo) {
         ar >> modelo.csTipo;
         ar >> modelo.csFamilia;
         for (std::size_t n = ar.ReadCount(); n > 0; --n) {
-            auto& [csNombre, valor] = modelo.campos.emplace_back();
+            auto& [csNombre, valor, bAusente] = modelo.campos.emplace_back();
             ar >> csNombre;
             Leer(valor, ar);
+            ar >> bAusente;
         }
     };
     Lista(modelos, ar, escribir, leer);

@@ -14,6 +14,7 @@ struct ModeloGuardado {
     struct Campo {
         CString csNombre;
         ValorCampo valor;
+        int bAusente = 0;  ///< not 0: the catalogue's file didn't give it
         bool operator==(const Campo&) const = default;
     };
 
