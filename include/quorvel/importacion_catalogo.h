@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <string>
 #include <vector>
 
 #include <quorvel/exportar.h>
@@ -20,6 +21,10 @@ struct ModeloImportado {
 /// "VMaxUL" that of "VMaxIEC" is taken, and said.
 /// @throws CFileException when the file can't be read or has none of the keys.
 EFV_API ModeloImportado LeerPan(const CString& csFichero);
+/// The same of its bytes. @param csFichero its name in messages
+EFV_API ModeloImportado LeerPan(const CString& csFichero, const std::string& bytes);
+/// Largest PAN or OND file read, bytes.
+inline constexpr std::size_t kMaximoImportado = std::size_t{16} << 20;
 
 enum class ModoOnd {
     corregido,   ///< units, currents and dimensions as the file means them; every correction is said
@@ -30,6 +35,8 @@ enum class ModoOnd {
 /// @throws CFileException when the file can't be read or has none of the keys.
 /// @throws std::invalid_argument for any other kind.
 EFV_API ModeloImportado LeerOnd(const CString& csFichero, const TipoCatalogo& tipo, ModoOnd modo);
+EFV_API ModeloImportado LeerOnd(const CString& csFichero, const std::string& bytes, const TipoCatalogo& tipo,
+                                ModoOnd modo);
 
 // ---------------------------------------------------------------------------------------------------
 // The public CEC libraries of modules and inverters, as CSV
@@ -60,5 +67,8 @@ struct BibliotecaCec {
 /// Reads one of the libraries. A model that stands in the result passes the checks of its dialog.
 /// @throws CFileException when the file can't be read or has neither header.
 EFV_API BibliotecaCec LeerCec(const CString& csFichero, const OpcionesCec& opciones);
+EFV_API BibliotecaCec LeerCec(const CString& csFichero, std::string bytes, const OpcionesCec& opciones);
+/// Largest library read, bytes.
+inline constexpr std::size_t kMaximoCec = std::size_t{64} << 20;
 
 }  // namespace efv

@@ -75,8 +75,9 @@ public:
     /// it, a missing file is made. All else in the file stays as it was; it is read once, and replaced as a
     /// whole or not at all.
     /// @return the models left out, in order: none when `modo` is estricta
-    /// @throws CFileException when the file can't be opened or written, or when in estricta a family
-    /// already has a model of one of the names
+    /// A file with a layer of one's own (<quorvel/catalogos_propios.h>) stays: the layer takes the models.
+    /// @throws CFileException when the file can't be opened or written, is of another kind, or when in estricta
+    /// a family already has a model of one of the names
     virtual std::vector<const CModelo*> Anadir(const CString& csFichero,
                                                std::span<const ModelosDeFamilia> familias,
                                                Adicion modo = Adicion::estricta) const = 0;
@@ -87,8 +88,8 @@ EFV_API std::span<const TipoCatalogo* const> TiposDeCatalogo();
 /// The kind of that name; null when there is none.
 EFV_API const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre);
 
-/// The kind whose fields the attributes of a catalogue's first model are; null when the file can't be read, has
-/// no model or several kinds fit as well.
+/// The kind whose fields the attributes of a catalogue file's models are; null when the file can't be read, has
+/// no model or several kinds fit alike.
 EFV_API const TipoCatalogo* TipoDelCatalogo(const CString& csRuta);
 
 /// Whether the model's value of that field is a 0 that says that it isn't known.

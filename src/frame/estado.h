@@ -9,6 +9,8 @@ struct EstadoModulo {
     CString csPathApp;
     CString csPathModHE5;
     CString csPathHE5BD;           ///< with its trailing separator
+    CString csCatalogosEnviados;   ///< folder whose catalogues have a layer of the person's own; empty: none
+    CString csCatalogosPropios;    ///< folder of the layers, with its trailing separator
     IBIMCtrl* pBIMCtrl = nullptr;  ///< the host's, not owned
 };
 

@@ -2,12 +2,13 @@
 #include <algorithm>
 #include <array>
 #include <string>
-#include <vector>
+#include <utility>
 
 #include <quorvel/framework/CException.h>
 #include <quorvel/importacion_catalogo.h>
 
 #include "catalogues/dialogs/tipo_de.h"
+#include "catalogues/format/clase_documento.h"
 #include "catalogues/import/biblioteca_cec.h"
 #include "catalogues/kinds/acumulador.h"
 #include "catalogues/kinds/convertidor.h"
@@ -41,52 +42,21 @@ const TipoCatalogo* BuscarTipoCatalogo(std::string_view nombre)
     return hallado != tipos.end() ? *hallado : nullptr;
 }
 
-namespace {
-
-// Names of the attributes of the first model.
-std::vector<std::string> AtributosDelPrimero(const xml::DocumentoEditable& documento)
-{
-    for (const xml::NodoEditable tabla : documento.Superiores()) {
-        for (const xml::NodoEditable familia : documento.Hijos(tabla, "Familia")) {
-            const auto modelos = documento.Hijos(familia, "Modelo");
-            if (modelos.empty())
-                continue;
-            std::vector<std::string> nombres;
-            for (const auto& [csNombre, csValor] : documento.LeerAtributos(modelos.front()))
-                nombres.push_back(CadenaUtf8(csNombre));
-            return nombres;
-        }
-    }
-    return {};
-}
-
-}  // namespace
-
 const TipoCatalogo* TipoDelCatalogo(const CString& csRuta)
 {
     const auto documento = xml::DocumentoEditable::Abrir(csRuta);
-    if (!documento)
-        return nullptr;
-    const std::vector<std::string> nombres = AtributosDelPrimero(*documento);
-    const TipoCatalogo* mejor = nullptr;
-    std::ptrdiff_t nMejor = 0;
-    for (const TipoCatalogo* tipo : TiposDeCatalogo()) {
-        const auto campos = tipo->Campos();
-        const auto n = std::ranges::count_if(nombres, [&](const std::string& nombre) {
-            return std::ranges::find(campos, nombre, &CampoCatalogo::nombre) != campos.end();
-        });
-        if (n > nMejor)
-            mejor = tipo;
-        else if (n == nMejor)
-            mejor = nullptr;
-        nMejor = std::max(n, nMejor);
-    }
-    return mejor;
+    return documento ? catalogues::TipoDeDocumento(*documento) : nullptr;
 }
 
 BibliotecaCec LeerCec(const CString& csFichero, const OpcionesCec& opciones)
 {
-    auto biblioteca = catalogues::LeerCecDe(catalogues::TextoCec(csFichero), opciones, TiposDeCatalogo());
+    return LeerCec(csFichero, catalogues::BytesCec(csFichero), opciones);
+}
+
+BibliotecaCec LeerCec(const CString& csFichero, std::string bytes, const OpcionesCec& opciones)
+{
+    auto biblioteca =
+        catalogues::LeerCecDe(catalogues::TextoCec(std::move(bytes)), opciones, TiposDeCatalogo());
     if (!biblioteca) {
         throw CFileException(
             CFileException::generica,

@@ -102,7 +102,7 @@ public:
     std::vector<const CModelo*> Anadir(const CString& csFichero, std::span<const ModelosDeFamilia> familias,
                                        Adicion modo) const override
     {
-        return AnadirModelos(csFichero, familias, modo,
+        return AnadirModelos(*this, csFichero, familias, modo,
                              [](const CModelo& modelo) { return AtributosDe(Propio(modelo)); });
     }
 

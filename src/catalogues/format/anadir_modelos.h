@@ -15,7 +15,8 @@ namespace efv::catalogues {
 using AtributosDeModelo = std::function<xml::DocumentoEditable::Atributos(const CModelo&)>;
 
 /// TipoCatalogo::Anadir for any kind.
-std::vector<const CModelo*> AnadirModelos(const CString& csFichero, std::span<const ModelosDeFamilia> familias,
-                                          Adicion modo, const AtributosDeModelo& atributosDe);
+std::vector<const CModelo*> AnadirModelos(const TipoCatalogo& tipo, const CString& csFichero,
+                                          std::span<const ModelosDeFamilia> familias, Adicion modo,
+                                          const AtributosDeModelo& atributosDe);
 
 }  // namespace efv::catalogues

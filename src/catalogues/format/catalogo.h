@@ -11,6 +11,7 @@
 #include "catalogues/format/campos.h"
 #include "catalogues/format/identificacion.h"
 #include "catalogues/format/lector_catalogo.h"
+#include "catalogues/own/superposicion.h"
 #include "platform/framework/registro_clases.h"
 #include "platform/xml/xml.h"
 
@@ -104,20 +105,42 @@ void CBaseCatalogo<M>::Vaciar()
     CBaseXML::Vaciar();
 }
 
+namespace efv::catalogues {
+
+/// The document's families and models into the empty catalogue. @return 0 when it isn't to be read
 template <class M>
-int CBaseCatalogo<M>::LeerArchivo(const CString& csPath)
+int LeerDocumento(const xml::Documento& documento, CBaseCatalogo<M>& base)
 {
-    const efv::xml::Documento documento(csPath);
     if (!documento)
         return 0;
-    efv::catalogues::LectorCatalogo<M> lector(aFamilias);
-    for (efv::xml::Nodo nodo : documento.Superiores()) {
-        if (efv::xml::SeLlama(nodo, "TablaFamilias") && !lector.LeerTabla(nodo)) {
-            Vaciar();
+    LectorCatalogo<M> lector(base.aFamilias);
+    for (xml::Nodo nodo : documento.Superiores()) {
+        if (xml::SeLlama(nodo, "TablaFamilias") && !lector.LeerTabla(nodo)) {
+            base.Vaciar();
             return 0;
         }
     }
     return 1;
+}
+
+}  // namespace efv::catalogues
+
+template <class M>
+int CBaseCatalogo<M>::LeerArchivo(const CString& csPath)
+{
+    using namespace efv::catalogues;
+    if (!HayCapaPropia(csPath))
+        return LeerDocumento(efv::xml::Documento(csPath), *this);
+    const auto vigente = AbrirSuperpuesto(csPath);
+    if (!vigente)
+        return 0;
+    const int iLeido = LeerDocumento(efv::xml::Documento::DeTexto(vigente->documento.Texto()), *this);
+    for (const auto& objeto : aFamilias) {
+        const auto& familia = static_cast<const Familia&>(*objeto);
+        for (const auto& modelo : familia.aModelos)
+            modelo->bPropio = vigente->propios.contains({familia.csNombre, modelo->csModelo});
+    }
+    return iLeido;
 }
 
 template <class M>

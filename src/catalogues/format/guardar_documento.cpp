@@ -8,6 +8,13 @@
 
 namespace efv::catalogues {
 
+xml::DocumentoEditable CatalogoVacio()
+{
+    return xml::DocumentoEditable::Leer(
+               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<QuorvelEFV>\n<TablaFamilias/>\n</QuorvelEFV>\n")
+        .value();
+}
+
 std::string TextoDeFichero(const xml::DocumentoEditable& documento, const CString& csRuta)
 {
     std::string texto = documento.Texto();

@@ -9,6 +9,9 @@
 
 namespace efv::catalogues {
 
+/// A catalogue's document without families.
+xml::DocumentoEditable CatalogoVacio();
+
 /// The document as its file is to hold it.
 /// @throws CFileException when nobody could read a file of that size afterwards
 std::string TextoDeFichero(const xml::DocumentoEditable& documento, const CString& csRuta);

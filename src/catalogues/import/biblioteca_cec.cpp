@@ -20,7 +20,6 @@ namespace efv::catalogues {
 namespace {
 
 // The libraries have some megabytes.
-constexpr std::size_t kMaximo = std::size_t{64} << 20;
 
 /// A library: how its header is known and its rows become models.
 struct Biblioteca {
@@ -133,18 +132,23 @@ std::optional<BibliotecaCec> LeerCecDe(std::string_view utf8, const OpcionesCec&
     return LectorCec(*biblioteca, tipo, opciones).Leer(csv, cabecera);
 }
 
-std::string TextoCec(const CString& csFichero)
+std::string BytesCec(const CString& csFichero)
 {
     const std::string ruta = CadenaUtf8(csFichero);
-    auto [bytes, motivo] = LeerFichero(*ElMundo().ficheros, ruta, kMaximo);
+    auto [bytes, motivo] = LeerFichero(*ElMundo().ficheros, ruta, kMaximoCec);
     if (!bytes)
         throw CFileException(CFileException::generica, ruta + ": " + motivo);
-    if (!texto::EsUtf8(*bytes))
-        bytes = texto::Windows1252AUtf8(*bytes);
-    constexpr std::string_view kMarca = "\xEF\xBB\xBF";
-    if (bytes->starts_with(kMarca))
-        bytes->erase(0, kMarca.size());
     return std::move(*bytes);
+}
+
+std::string TextoCec(std::string bytes)
+{
+    if (!texto::EsUtf8(bytes))
+        bytes = texto::Windows1252AUtf8(bytes);
+    constexpr std::string_view kMarca = "\xEF\xBB\xBF";
+    if (bytes.starts_with(kMarca))
+        bytes.erase(0, kMarca.size());
+    return bytes;
 }
 
 }  // namespace efv::catalogues

@@ -10,8 +10,10 @@
 
 namespace efv::catalogues {
 
-/// The text of a library's file as UTF-8. @throws CFileException when it can't be read
-std::string TextoCec(const CString& csFichero);
+/// The bytes of a library's file. @throws CFileException when it can't be read
+std::string BytesCec(const CString& csFichero);
+/// Their text as UTF-8.
+std::string TextoCec(std::string bytes);
 
 /// @param tipos the kinds of component, all of them
 /// @return nothing when the first line is the header of neither library

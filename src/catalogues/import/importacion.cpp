@@ -49,15 +49,20 @@ int EnteroImportado(const CString& csValor)
     return numero::LeerEntero(CadenaUtf8(csValor));
 }
 
-CString TextoImportado(const CString& csFichero)
+std::string BytesImportados(const CString& csFichero)
 {
     const std::string ruta = CadenaUtf8(csFichero);
-    const LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, ruta, fichero::kMaximoTexto);
+    LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, ruta, fichero::kMaximoTexto);
     if (!lectura.bytes)
         throw CFileException(CFileException::generica, ruta + ": " + lectura.motivo);
-    std::optional<CString> csTexto = fichero::TextoDeBytes(*lectura.bytes);
+    return std::move(*lectura.bytes);
+}
+
+CString TextoImportado(const CString& csFichero, const std::string& bytes)
+{
+    std::optional<CString> csTexto = fichero::TextoDeBytes(bytes);
     if (!csTexto)
-        throw CFileException(CFileException::generica, ruta + ": no es texto");
+        throw CFileException(CFileException::generica, CadenaUtf8(csFichero) + ": no es texto");
     return std::move(*csTexto);
 }
 

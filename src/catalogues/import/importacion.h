@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <variant>
 #include <vector>
@@ -75,8 +76,10 @@ enum class ClaseImportada { modulo, inversor };
 /// @throws CFileException, with the import that would take it
 void ExigirClase(const CString& csFichero, std::wstring_view texto, ClaseImportada clase);
 
-/// The text of a file. @throws CFileException when it can't be read.
-CString TextoImportado(const CString& csFichero);
+/// The bytes of a file. @throws CFileException when it can't be read.
+std::string BytesImportados(const CString& csFichero);
+/// Their text. @param csFichero for messages @throws CFileException when they are none
+CString TextoImportado(const CString& csFichero, const std::string& bytes);
 [[noreturn]] void FallarSinClaves(const CString& csFichero, const char* que);
 
 struct TextoConAusentes {
@@ -85,12 +88,12 @@ struct TextoConAusentes {
 };
 
 /// The text of a file to be imported and the keys that it lacks.
-/// @throws CFileException when it can't be read or has none of them. @param que kind of file
+/// @throws CFileException when it is no text or has none of them. @param que kind of file
 template <class M>
-TextoConAusentes AbrirImportado(const CString& csFichero, std::span<const ClaveImportada<M>> claves,
-                                const char* que)
+TextoConAusentes AbrirImportado(const CString& csFichero, const std::string& bytes,
+                                std::span<const ClaveImportada<M>> claves, const char* que)
 {
-    TextoConAusentes abierto{TextoImportado(csFichero), {}};
+    TextoConAusentes abierto{TextoImportado(csFichero, bytes), {}};
     if (std::ranges::none_of(claves, [&](const auto& c) { return TieneClave(abierto.csTexto, c.clave); }))
         FallarSinClaves(csFichero, que);
     abierto.ausentes = ClavesAusentes<M>(abierto.csTexto, claves);

@@ -34,9 +34,9 @@ ModeloImportado Importado(const TextoConAusentes& abierto, M& modelo, ModoOnd mo
 }
 
 template <class M>
-ModeloImportado Leer(const CString& csFichero, M& modelo, ModoOnd modo)
+ModeloImportado Leer(const CString& csFichero, const std::string& bytes, M& modelo, ModoOnd modo)
 {
-    const TextoConAusentes abierto = AbrirImportado<M>(csFichero, kClavesOnd<M>, "OND");
+    const TextoConAusentes abierto = AbrirImportado<M>(csFichero, bytes, kClavesOnd<M>, "OND");
     ExigirClase(csFichero, abierto.csTexto, ClaseImportada::inversor);
     return Importado(abierto, modelo, modo);
 }
@@ -45,12 +45,18 @@ ModeloImportado Leer(const CString& csFichero, M& modelo, ModoOnd modo)
 
 ModeloImportado LeerOnd(const CString& csFichero, const TipoCatalogo& tipo, ModoOnd modo)
 {
+    return LeerOnd(csFichero, BytesImportados(csFichero), tipo, modo);
+}
+
+ModeloImportado LeerOnd(const CString& csFichero, const std::string& bytes, const TipoCatalogo& tipo,
+                        ModoOnd modo)
+{
     std::unique_ptr<CModelo> modelo = tipo.CrearModelo();
     ModeloImportado importado;
     if (auto* inversor = dynamic_cast<CBaseInversorModelo*>(modelo.get()))
-        importado = Leer(csFichero, *inversor, modo);
+        importado = Leer(csFichero, bytes, *inversor, modo);
     else if (auto* micro = dynamic_cast<CBaseMicroInversorModelo*>(modelo.get()))
-        importado = Leer(csFichero, *micro, modo);
+        importado = Leer(csFichero, bytes, *micro, modo);
     else
         throw std::invalid_argument("LeerOnd: not a kind of inverter");
     importado.modelo = std::move(modelo);

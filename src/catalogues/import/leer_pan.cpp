@@ -112,7 +112,12 @@ private:
 
 ModeloImportado LeerPan(const CString& csFichero)
 {
-    auto [csTexto, ausentes] = AbrirImportado(csFichero, ClavesPan(), "PAN");
+    return LeerPan(csFichero, BytesImportados(csFichero));
+}
+
+ModeloImportado LeerPan(const CString& csFichero, const std::string& bytes)
+{
+    auto [csTexto, ausentes] = AbrirImportado(csFichero, bytes, ClavesPan(), "PAN");
     ExigirClase(csFichero, csTexto, ClaseImportada::modulo);
     auto modelo = std::make_unique<CBasePanelFotoModelo>();
     ImportarPan(csTexto, *modelo);

@@ -8,7 +8,9 @@
 #include <quorvel/ui/presentador.h>
 
 #include "catalogues/dialogs/dialogo_modelo.h"
+#include "catalogues/format/ausencias.h"
 #include "catalogues/format/elementos_modelo.h"
+#include "catalogues/viewer/faltas.h"
 #include "catalogues/viewer/visor.h"
 #include "frame/recursos.h"
 
@@ -57,6 +59,12 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, const AperturaElementos
     }
     peticion.editar = [apertura](CXMLElemento* e) { return EditarElemento<M>(e, false, apertura); };
     peticion.rellenar = [apertura](CXMLElemento* e) { return EditarElemento<M>(e, true, apertura); };
+    peticion.faltas = [](const CXMLElemento& elemento) {
+        const M modelo = ModeloDe<M>(elemento, false);
+        const std::vector<SinDato> campos = CamposSinDato(modelo);
+        return campos.empty() ? CString()
+                              : TextoDeFaltas(*CrearDialogo(modelo, true, OrdenesModelo<M>()), campos);
+    };
     return peticion;
 }
 

@@ -24,10 +24,13 @@ struct PeticionVisor {
     std::vector<bool> abNumerico;        ///< whether the attribute of that place is a number
     std::function<Edicion(CXMLElemento*)> editar;    ///< lets the person edit an existing element
     std::function<Edicion(CXMLElemento*)> rellenar;  ///< the same for a new one
+    std::function<CString(const CXMLElemento&)>
+        faltas;  ///< what a model's data sheet doesn't say; may be empty
 };
 
-/// Runs the viewer on the file's own document; `csSeleccion` is the identification to show first, and
-/// then the one chosen ("family#model", or a family's name).
+/// Runs the viewer on the file's own document, or, where a layer of the person's own lies over it, on both, of
+/// which the layer is saved. A file of another kind than `titulo` says isn't opened. `csSeleccion` is the
+/// identification to show first, and then the one chosen ("family#model", or a family's name).
 /// @return 1 accepted (and saved, when anything was changed), 0 the document couldn't be opened, 2
 /// cancelled.
 int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion);

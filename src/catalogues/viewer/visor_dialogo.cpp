@@ -4,11 +4,14 @@
 #include <new>
 #include <utility>
 
+#include <quorvel/catalogos_propios.h>
 #include <quorvel/framework/CException.h>
 #include <quorvel/mundo.h>
 #include <quorvel/ui/presentador.h>
 
+#include "catalogues/format/clase_documento.h"
 #include "catalogues/format/guardar_documento.h"
+#include "catalogues/own/superposicion.h"
 #include "catalogues/viewer/nombre_dialogo.h"
 #include "platform/fichero/fichero.h"
 #include "platform/xml/xml.h"
@@ -34,14 +37,17 @@ CString Ancho(const char* texto)
 
 }  // namespace
 
-CDlgVisorXML::CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion, xml::DocumentoEditable documento,
-                           efv::Huella huella, const CString& csSeleccion)
+CDlgVisorXML::CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion,
+                           efv::catalogues::DocumentoAbierto abierto, const CString& csSeleccion)
     : Dialogo("CDlgVisorXML", peticion.titulo),
       m_peticion(peticion),
-      m_edicion(std::move(documento)),
-      m_huella(huella),
+      m_edicion(std::move(abierto.documento)),
+      m_csDestino(std::move(abierto.csDestino)),
+      m_huella(abierto.huella),
+      m_enviado(std::move(abierto.enviado)),
       m_buscar(Anadir<ui::Edicion>("csBuscar", L"&Buscar:")),
-      m_arbol(Anadir<ui::Lista>("arbol", peticion.rotulo, ui::Lista::Forma::arbol))
+      m_arbol(Anadir<ui::Lista>("arbol", peticion.rotulo, ui::Lista::Forma::arbol)),
+      m_nota(Anadir<ui::TextoFijo>("csNota", L""))
 {
     bMaximizable = true;
     m_buscar.alCambiar = [this] { AlBuscar(); };
@@ -109,6 +115,30 @@ void CDlgVisorXML::Activar()
     // A family has nothing to edit but its name.
     m_deFila.front()->bHabilitado = fila != nullptr && fila->bModelo;
     m_deshacer->bHabilitado = m_edicion.Modificado();
+    Anotar();
+}
+
+bool CDlgVisorXML::EsPropio(const FilaArbol& fila) const
+{
+    if (!m_enviado)
+        return false;
+    const auto& documento = m_edicion.Documento();
+    const CString csFamilia = documento.Atributo(documento.Padre(fila.elemento), "nombre");
+    const auto enviado = efv::catalogues::BuscarElemento(*m_enviado, csFamilia, fila.csNombre);
+    return !enviado || m_enviado->LeerAtributos(enviado) != documento.LeerAtributos(fila.elemento);
+}
+
+// What the person can't see in the data sheet of the row.
+void CDlgVisorXML::Anotar()
+{
+    const FilaArbol* fila = FilaActual();
+    m_nota.csTexto.clear();
+    if (fila == nullptr || !fila->bModelo)
+        return;
+    if (EsPropio(*fila))
+        m_nota.csTexto = L"Modelo propio. ";
+    if (m_peticion.faltas)
+        m_nota.csTexto += m_peticion.faltas(m_edicion.Leer(fila->elemento));
 }
 
 void CDlgVisorXML::AlBuscar()
@@ -215,13 +245,21 @@ void CDlgVisorXML::Deshacer()
     Releer(elemento);
 }
 
+std::string CDlgVisorXML::TextoQueGuardar() const
+{
+    const std::string texto = efv::catalogues::TextoDeFichero(m_edicion.Documento(), m_csDestino);
+    return m_enviado ? efv::catalogues::Diferencia(*m_enviado, m_edicion.Documento()).Texto() : texto;
+}
+
 bool CDlgVisorXML::Guardar()
 {
-    const CString& csRuta = m_peticion.csRuta;
-    const std::string texto = efv::catalogues::TextoDeFichero(m_edicion.Documento(), csRuta);
+    const CString& csRuta = m_csDestino;
+    const std::string texto = TextoQueGuardar();
     std::optional<efv::Huella> conocida = m_huella;
     const auto escribir = [&] {
         const ui::Espera espera;
+        if (m_enviado)
+            efv::catalogues::PrepararCarpetaPropia(csRuta);
         return efv::ReemplazarSiSigue(*efv::ElMundo().ficheros, efv::CadenaUtf8(csRuta), texto, conocida,
                                       xml::kMaximoFichero);
     };
@@ -245,23 +283,62 @@ bool CDlgVisorXML::AlAceptar()
     } catch (const CFileException& error) {
         avisar(efv::CadenaDesdeUtf8(error.what()));
     } catch (const std::bad_alloc&) {
-        avisar(m_peticion.csRuta + L": memoria insuficiente");
+        avisar(m_csDestino + L": memoria insuficiente");
     }
     return false;
 }
 
 namespace efv::catalogues {
 
-int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion)
+namespace {
+
+std::optional<DocumentoAbierto> AbrirSolo(const CString& csRuta)
 {
-    auto bytes = fichero::LeerFichero(peticion.csRuta, xml::kMaximoFichero);
+    auto bytes = fichero::LeerFichero(csRuta, xml::kMaximoFichero);
     if (!bytes)
-        return 0;
+        return std::nullopt;
     const Huella huella = HuellaDe(*bytes);
     auto documento = xml::DocumentoEditable::DeBytes(std::move(*bytes));
     if (!documento)
+        return std::nullopt;
+    return DocumentoAbierto{std::move(*documento), csRuta, huella, std::nullopt};
+}
+
+// Shipped catalogue and layer; of both none may be missing.
+std::optional<DocumentoAbierto> AbrirConCapa(const CString& csRuta, const CString& csPropio)
+{
+    auto bytes = fichero::LeerFichero(csPropio, xml::kMaximoFichero);
+    const bool bCapa = HayCapaPropia(csRuta);
+    if (bCapa && !bytes)
+        return std::nullopt;
+    auto enviado = bCapa ? AbrirEnviado(csRuta) : xml::DocumentoEditable::Abrir(csRuta);
+    if (!enviado)
+        return std::nullopt;
+    DocumentoAbierto abierto{xml::DocumentoEditable::Leer(enviado->Texto()).value(), csPropio, std::nullopt,
+                             std::nullopt};
+    abierto.enviado = std::move(enviado);
+    if (!bytes)
+        return abierto;
+    abierto.huella = HuellaDe(*bytes);
+    const auto propio = xml::DocumentoEditable::DeBytes(std::move(*bytes));
+    if (!propio)
+        return std::nullopt;
+    Superponer(abierto.documento, *propio);
+    return abierto;
+}
+
+}  // namespace
+
+int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion)
+{
+    const CString csPropio = FicheroPropioDe(peticion.csRuta);
+    auto abierto = csPropio.empty() ? AbrirSolo(peticion.csRuta) : AbrirConCapa(peticion.csRuta, csPropio);
+    if (!abierto)
         return 0;
-    CDlgVisorXML dialogo(peticion, std::move(*documento), huella, csSeleccion);
+    const TipoCatalogo* tipo = TipoDeDocumento(abierto->documento);
+    if (tipo != nullptr && tipo->Titulo() != peticion.titulo)
+        return 0;
+    CDlgVisorXML dialogo(peticion, std::move(*abierto), csSeleccion);
     if (dialogo.Mostrar() != ui::Dialogo::ok)
         return ui::Dialogo::cancelado;
     csSeleccion = dialogo.Seleccion();

@@ -3,6 +3,7 @@
 
 #include <memory>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include <quorvel/ficheros.h>
@@ -12,11 +13,23 @@
 #include "catalogues/viewer/edicion_documento.h"
 #include "catalogues/viewer/visor.h"
 
+namespace efv::catalogues {
+
+/// A catalogue as it was opened, and where its changes go.
+struct DocumentoAbierto {
+    xml::DocumentoEditable documento;
+    CString csDestino;
+    std::optional<Huella>
+        huella;  ///< of that file, to notice that somebody else changed it; none: it is missing
+    std::optional<xml::DocumentoEditable> enviado;  ///< what stays as it is, and only what differs is saved
+};
+
+}  // namespace efv::catalogues
+
 class CDlgVisorXML : public efv::ui::Dialogo {
 public:
-    /// `huella` is of the file as it was opened, to notice that somebody else changed it.
-    CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion, efv::xml::DocumentoEditable documento,
-                 efv::Huella huella, const CString& csSeleccion);
+    CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion, efv::catalogues::DocumentoAbierto abierto,
+                 const CString& csSeleccion);
 
     /// Identification of the row that the person stands on; empty for none.
     CString Seleccion() const;
@@ -37,16 +50,23 @@ private:
     void Renombrar();
     void Eliminar();
     void Deshacer();
+    /// Whether the row's model isn't as the shipped catalogue has it.
+    bool EsPropio(const efv::catalogues::FilaArbol& fila) const;
+    void Anotar();
+    std::string TextoQueGuardar() const;
     bool Guardar();
     bool AlAceptar() override;
 
     const efv::catalogues::PeticionVisor& m_peticion;
     efv::catalogues::EdicionDocumento m_edicion;
-    efv::Huella m_huella;
+    CString m_csDestino;
+    std::optional<efv::Huella> m_huella;
+    std::optional<efv::xml::DocumentoEditable> m_enviado;
     std::shared_ptr<const std::vector<efv::catalogues::FilaArbol>> m_filas;
     std::shared_ptr<const efv::catalogues::FilasVisibles> m_visibles;
     efv::ui::Edicion& m_buscar;
     efv::ui::Lista& m_arbol;
+    efv::ui::TextoFijo& m_nota;
     std::vector<efv::ui::Boton*> m_deFila;  // need a row
     efv::ui::Boton* m_nuevo = nullptr;      // needs a family, a row's own or it
     efv::ui::Boton* m_deshacer = nullptr;

@@ -51,9 +51,10 @@ struct Documento::Interior {
     pugi::xml_document arbol;
 };
 
-Documento::Documento(const CString& csRuta)
+Documento::Documento(const CString& csRuta) : Documento(LeerComoUtf8(csRuta)) {}
+
+Documento::Documento(std::optional<std::string> utf8)
 {
-    std::optional<std::string> utf8 = LeerComoUtf8(csRuta);
     if (!utf8)
         return;
     auto interior = std::make_unique<Interior>();

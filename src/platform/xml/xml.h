@@ -6,6 +6,9 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
+#include <string>
+#include <utility>
 
 #include <quorvel/framework/CString.h>
 
@@ -61,6 +64,8 @@ public:
     /// its declared encoding or not well formed.
     /// @throws CFileException with the sharing cause while another process holds it; std::bad_alloc.
     explicit Documento(const CString& csRuta);
+    /// Of a document's text, in UTF-8.
+    static Documento DeTexto(std::string utf8) { return Documento(std::optional(std::move(utf8))); }
     ~Documento();
     Documento(const Documento&) = delete;
     Documento& operator=(const Documento&) = delete;
@@ -72,6 +77,8 @@ public:
     Hijos Superiores() const;
 
 private:
+    explicit Documento(std::optional<std::string> utf8);
+
     struct Interior;
     std::unique_ptr<const Interior> m_interior;
 };
