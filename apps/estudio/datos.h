@@ -12,17 +12,21 @@ namespace efv::estudio {
 /// The folder of shipped data: beside the installed program, else that of the source tree.
 std::filesystem::path CarpetaDistribuida();
 
-/// The folder to work on: `opcion`, else the environment's EFV_DATOS, else the person's own, into which
-/// shipped files that it lacks are copied, so that editing a catalogue changes no installed file.
-/// @throws std::runtime_error with a Spanish text when it doesn't exist or can't be made.
-std::filesystem::path CarpetaDeTrabajo(const std::string& opcion);
+/// Where the data stand, and where the person's own go; none of the first is ever written.
+struct Carpetas {
+    std::filesystem::path datos;    ///< catalogues, table of factors K, places
+    std::filesystem::path propios;  ///< the person's own places, and their catalogues in a folder there
+};
 
 /// Where copies of unsaved work stand, in the person's folder of states; it may be missing.
 std::string CarpetaDeRecuperacion();
 
-/// Tells the library its paths and loads its catalogues.
-/// @return the files that couldn't be loaded.
-CStringArray PonerDatos(const std::filesystem::path& carpeta);
+/// Both are `opcion`, else the environment's EFV_DATOS; else the shipped data and the person's own folder.
+/// @throws std::runtime_error with a Spanish text when the data's doesn't exist
+Carpetas CarpetasDeTrabajo(const std::string& opcion);
+
+/// Tells the library its paths and loads its catalogues. @return the files that couldn't be loaded
+CStringArray PonerDatos(const Carpetas& carpetas);
 
 /// A file of the folder, as the library takes it.
 CString Ruta(const std::filesystem::path& carpeta, const char* archivo);

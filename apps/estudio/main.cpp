@@ -46,12 +46,12 @@ void PrepararPantalla(int argc, char** argv, PantallaDeCapturas& pantalla)
         qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
-std::vector<efv::Localidad> Lugares(const std::filesystem::path& datos)
+std::vector<efv::Localidad> Lugares(const Carpetas& carpetas)
 {
-    return efv::LeerLugares(Ruta(datos, ""), Ruta(datos, ""));
+    return efv::LeerLugares(Ruta(carpetas.datos, ""), Ruta(carpetas.propios, ""));
 }
 
-int Capturar(const std::filesystem::path& datos, const std::filesystem::path& carpeta)
+int Capturar(const Carpetas& datos, const std::filesystem::path& carpeta)
 {
     std::filesystem::create_directories(carpeta);
     VentanaPrincipal ventana(Lugares(datos));
@@ -103,12 +103,12 @@ int Ejecutar(QApplication& programa)
     const bool bCapturas = orden.isSet(capturas);
     // Pictures show the shipped data, whatever the person has made of their own.
     const std::string opcion = orden.value(datos).toStdString();
-    const std::filesystem::path carpeta =
-        bCapturas && opcion.empty() ? CarpetaDistribuida() : CarpetaDeTrabajo(opcion);
-    const CStringArray fallidas = PonerDatos(carpeta);
+    const Carpetas carpetas = bCapturas && opcion.empty() ? Carpetas{CarpetaDistribuida(), CarpetaDistribuida()}
+                                                          : CarpetasDeTrabajo(opcion);
+    const CStringArray fallidas = PonerDatos(carpetas);
     if (bCapturas)
-        return Capturar(carpeta, orden.value(capturas).toStdString());
-    VentanaPrincipal ventana(Lugares(carpeta));
+        return Capturar(carpetas, orden.value(capturas).toStdString());
+    VentanaPrincipal ventana(Lugares(carpetas));
     efv::qt::InstalarPresentadorQt(&ventana);
     Sesion& sesion = ventana.LaSesion();
     sesion.PonerRecientes(RecientesDeLaPersona());

@@ -127,8 +127,9 @@ private:
             return;
         const std::string fichero = m_contexto.Valor("--fichero");
         const CatalogoAbierto catalogo(
-            *tipo, fichero.empty() ? RutaDatos(m_contexto.Valor("--datos"), CadenaUtf8(tipo->Fichero()).c_str())
-                                   : CadenaDesdeUtf8(fichero));
+            *tipo, fichero.empty()
+                       ? RutaCatalogo(m_contexto.Valor("--datos"), CadenaUtf8(tipo->Fichero()).c_str())
+                       : CadenaDesdeUtf8(fichero));
         std::string anterior;
         for (const CModelo* modelo : catalogo.Todos()) {
             const CString csTexto = bModelos ? Identificacion(*modelo) : modelo->csFamilia;

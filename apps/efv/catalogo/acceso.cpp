@@ -6,6 +6,7 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
+#include <quorvel/catalogos_propios.h>
 #include <quorvel/ficheros.h>
 
 #include "comun/consola.h"
@@ -69,41 +70,60 @@ const TipoCatalogo& OpcionesCatalogo::Tipo(std::span<const std::string_view> tip
 
 CString OpcionesCatalogo::Ruta(const TipoCatalogo& tipo) const
 {
-    return m_fichero.empty() ? RutaDatos(m_datos, CadenaUtf8(tipo.Fichero()).c_str())
-                             : CadenaDesdeUtf8(m_fichero);
+    if (m_fichero.empty())
+        return RutaCatalogo(m_datos, CadenaUtf8(tipo.Fichero()).c_str());
+    SuperponerCatalogos({}, {});
+    return CadenaDesdeUtf8(m_fichero);
 }
 
-void ExigirTipo(const TipoCatalogo& tipo, const Modelos& modelos, const std::string& ruta)
+CString OpcionesCatalogo::RutaQueCrece(const TipoCatalogo& tipo) const
 {
-    if (modelos.empty())
-        return;
-    // A look at the file's own attributes costs a second reading: only where hardly anything was found.
-    std::size_t nNumeros = 0, nNulos = 0;
-    for (std::size_t i = 0; i < tipo.Campos().size(); ++i) {
-        const ValorCampo valor = tipo.Valor(*modelos.front(), i);
-        const double* d = std::get_if<double>(&valor);
-        nNumeros += d != nullptr ? 1U : 0U;
-        nNulos += d != nullptr && *d == 0.0 ? 1U : 0U;
+    CString csRuta = Ruta(tipo);
+    if (m_fichero.empty() && FicheroPropioDe(csRuta).empty())
+        throw ErrorEjecucion("no hay carpeta personal para los catálogos propios: indique uno con --fichero");
+    return csRuta;
+}
+
+void ExigirTipo(const TipoCatalogo& tipo, const CString& csRuta)
+{
+    for (const CString& csFichero : {csRuta, FicheroPropioDe(csRuta)}) {
+        const TipoCatalogo* otro = csFichero.empty() ? nullptr : TipoDelCatalogo(csFichero);
+        if (otro != nullptr && otro != &tipo)
+            throw ErrorEjecucion(fmt::format("«{}» es un catálogo de {}, no de {}", CadenaUtf8(csFichero),
+                                             otro->Nombre(), tipo.Nombre()));
     }
-    if (2 * nNulos < nNumeros)
-        return;
-    const TipoCatalogo* otro = TipoDelCatalogo(CadenaDesdeUtf8(ruta));
-    if (otro != nullptr && otro != &tipo)
-        throw ErrorEjecucion(
-            fmt::format("«{}» es un catálogo de {}, no de {}", ruta, otro->Nombre(), tipo.Nombre()));
+}
+
+std::string TextoIlegible(const CString& csRuta)
+{
+    // Of the shipped file and the person's own, the one that is at fault.
+    const CString csPropio = FicheroPropioDe(csRuta);
+    std::error_code fallo;
+    const bool bPropio = !csPropio.empty() && std::filesystem::exists(CadenaUtf8(csPropio), fallo) &&
+                         TipoDelCatalogo(csPropio) == nullptr && TipoDelCatalogo(csRuta) != nullptr;
+    const CString& csMalo = bPropio ? csPropio : csRuta;
+    return fmt::format("el catálogo «{}» no se puede leer: {}", CadenaUtf8(csMalo),
+                       MotivoDocumentoIlegible(csMalo));
+}
+
+CString DondeSeAnade(const CString& csRuta)
+{
+    CString csPropio = FicheroPropioDe(csRuta);
+    return csPropio.empty() ? csRuta : csPropio;
 }
 
 CatalogoAbierto::CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta)
     : m_tipo(tipo), m_ruta(CadenaUtf8(csRuta)), m_base(tipo.CrearBase())
 {
     std::error_code fallo;
-    if (!std::filesystem::exists(m_ruta, fallo))
+    if (!std::filesystem::exists(m_ruta, fallo) &&
+        !std::filesystem::exists(CadenaUtf8(DondeSeAnade(csRuta)), fallo))
         throw ErrorEjecucion(fmt::format("no existe el catálogo «{}»", m_ruta));
+    // Before the models are in memory: the look takes as much.
+    ExigirTipo(tipo, csRuta);
     if (m_base->Cargar(csRuta) == 0)
-        throw ErrorEjecucion(
-            fmt::format("el catálogo «{}» no se puede leer: {}", m_ruta, MotivoDocumentoIlegible(csRuta)));
+        throw ErrorEjecucion(TextoIlegible(csRuta));
     m_modelos = tipo.Modelos(*m_base);
-    ExigirTipo(tipo, m_modelos, m_ruta);
     if (m_modelos.empty())
         throw ErrorEjecucion(fmt::format("el catálogo «{}» no tiene ningún modelo", m_ruta));
 }

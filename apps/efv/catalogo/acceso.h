@@ -28,9 +28,13 @@ public:
     bool ConTipo() const { return m_tipo.has_value(); }
     /// The kind given, else the first of `tipos`. @throws ErrorUso when it is none of them
     const TipoCatalogo& Tipo(std::span<const std::string_view> tipos) const;
-    /// The file given, else the kind's in the folder of the data.
+    /// The file given, as it stands; else the kind's in the folder of the data, with the person's own over it.
     /// @throws ErrorEjecucion when that folder is needed and missing
     CString Ruta(const TipoCatalogo& tipo) const;
+    /// The same for what adds to it: without a file given it is the person's own that grows.
+    /// @throws ErrorEjecucion also when the person has no folder of their own
+    CString RutaQueCrece(const TipoCatalogo& tipo) const;
+    bool ConFichero() const { return !m_fichero.empty(); }
 
 private:
     std::string m_fichero;
@@ -49,8 +53,12 @@ CString Identificacion(const CModelo& modelo);
 /// The models of that identification, or of that name alone; when nothing has the very name those that differ
 /// from it in case and accents. One identification twice in a file counts as its first model.
 Modelos ModelosDeNombre(const Modelos& modelos, const CString& csId);
-/// @throws ErrorEjecucion when the models of that file are of another kind
-void ExigirTipo(const TipoCatalogo& tipo, const Modelos& modelos, const std::string& ruta);
+/// @throws ErrorEjecucion when that catalogue file, or the person's own over it, is of another kind
+void ExigirTipo(const TipoCatalogo& tipo, const CString& csRuta);
+/// Why that catalogue can't be read, as a line.
+std::string TextoIlegible(const CString& csRuta);
+/// The file that takes what is added: the catalogue itself, or the person's own over it.
+CString DondeSeAnade(const CString& csRuta);
 /// Identifications, ", " between them.
 std::string Enumerar(const Modelos& modelos);
 

@@ -1,5 +1,6 @@
 #include "catalogo/ficha.h"
 
+#include <algorithm>
 #include <cmath>
 #include <set>
 #include <utility>
@@ -113,10 +114,17 @@ void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Mo
         lados.push_back(columna.Lado());
         titulos.push_back(columna.Titulo());
     }
+    const bool bPropios = std::ranges::any_of(modelos, &CModelo::bPropio);
+    if (bPropios) {
+        lados.push_back(TablaTexto::Lado::izquierda);
+        titulos.emplace_back("Catálogo");
+    }
     const auto fila = [&](const CModelo& modelo) {
         std::vector<std::string> celdas = {EnTerminal(Identificacion(modelo))};
         for (const Columna& columna : columnas)
             celdas.push_back(columna.Celda(tipo, modelo));
+        if (bPropios)
+            celdas.emplace_back(modelo.bPropio ? "propio" : "");
         return celdas;
     };
     report::ColumnasTexto tabla(std::move(lados));
@@ -146,6 +154,8 @@ std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo, const Mo
     }
     TablaTexto tabla({TablaTexto::Lado::izquierda, TablaTexto::Lado::izquierda});
     tabla.Fila({"Familia", EnTerminal(modelo.csFamilia)});
+    if (modelo.bPropio)
+        tabla.Fila({"Catálogo", "propio"});
     for (auto& [rotulo, texto] : report::FilasDeFicha(tipo, modelo, sinDato))
         tabla.Fila({std::move(rotulo), std::move(texto)});
     return tabla.Texto();
@@ -154,6 +164,8 @@ std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo, const Mo
 Json FichaJson(const TipoCatalogo& tipo, const CModelo& modelo)
 {
     Json ficha = {{"id", CadenaUtf8(Identificacion(modelo))}, {"csFamilia", CadenaUtf8(modelo.csFamilia)}};
+    if (modelo.bPropio)
+        ficha["propio"] = true;
     Json ausentes = Json::array(), sinDato = Json::array();
     const auto campos = tipo.Campos();
     for (std::size_t i = 0; i < campos.size(); ++i) {

@@ -57,5 +57,7 @@ private:
 std::unique_ptr<GrupoOrdenes> CrearConsultas();
 /// importar-pan, importar-ond, importar-cec
 std::unique_ptr<GrupoOrdenes> CrearImportaciones();
+/// restaurar
+std::unique_ptr<GrupoOrdenes> CrearRestauracion();
 
 }  // namespace efv::orden

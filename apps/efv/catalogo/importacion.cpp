@@ -57,11 +57,11 @@ Importacion LeerModelos(const TipoCatalogo& tipo, const std::vector<std::string>
 
 void AvisarDeNombres(const TipoCatalogo& tipo, const CString& csCatalogo, Importacion& importacion)
 {
+    ExigirTipo(tipo, csCatalogo);
     const auto base = tipo.CrearBase();
     if (base->Cargar(csCatalogo) == 0)
         return;
     const Modelos estan = tipo.Modelos(*base);
-    ExigirTipo(tipo, estan, CadenaUtf8(csCatalogo));
     for (auto& leido : importacion.modelos) {
         const CModelo& nuevo = *leido.importado.modelo;
         for (const CModelo* modelo : estan)

@@ -9,6 +9,7 @@
 #include "catalogo/importacion_cec.h"
 #include "catalogo/informes.h"
 #include "comun/consola.h"
+#include "comun/entrada.h"
 #include "comun/numeros.h"
 
 namespace efv::orden {
@@ -46,7 +47,7 @@ private:
         CLI::App& pan = Orden(linea, "importar-pan", "Añade los modelos de archivos PAN, todos o ninguno",
                               kModulos, [this](std::ostream& salida) { return ImportarPan(salida); });
         AnadirJson(pan);
-        pan.add_option("FICHERO", m_palabras, "Archivos PAN")->option_text(" ");
+        pan.add_option("FICHERO", m_palabras, "Archivos PAN; «-», la entrada del programa")->option_text(" ");
         AnadirFamilia(pan, kAyudaFamilia);
     }
 
@@ -55,7 +56,7 @@ private:
         CLI::App& ond = Orden(linea, "importar-ond", "Añade los modelos de archivos OND, todos o ninguno",
                               kInversores, [this](std::ostream& salida) { return ImportarOnd(salida); });
         AnadirJson(ond);
-        ond.add_option("FICHERO", m_palabras, "Archivos OND")->option_text(" ");
+        ond.add_option("FICHERO", m_palabras, "Archivos OND; «-», la entrada del programa")->option_text(" ");
         AnadirFamilia(ond, kAyudaFamilia);
         ond.add_flag("--como-dialogo", m_bComoDialogo,
                      "Toma lo mismo que el botón de importar de la ficha, sin corregir unidades, corrientes, "
@@ -71,7 +72,8 @@ private:
             kInversores, [this](std::ostream& salida) { return ImportarCec(salida); },
             "Los de una biblioteca de inversores son ");
         AnadirJson(cec);
-        cec.add_option("FICHERO", m_palabras, "Biblioteca CSV; su cabecera dice si es de módulos")
+        cec.add_option("FICHERO", m_palabras,
+                       "Biblioteca CSV; su cabecera dice si es de módulos; «-», la entrada del programa")
             ->option_text(" ");
         AnadirFamilia(cec, "Familia a la que se añaden; si falta, su fabricante");
         cec.add_option("--solo", m_solo,
@@ -92,7 +94,9 @@ private:
     {
         if (m_palabras.empty())
             throw ErrorUso("faltan los archivos PAN (ayuda: efv catalogo importar-pan --help)");
-        return Importar(salida, m_catalogo.Tipo(kModulos), LeerPan);
+        return Importar(salida, m_catalogo.Tipo(kModulos), [](const CString& csFichero) {
+            return LeerPan(csFichero, LeerEntrada(CadenaUtf8(csFichero), kMaximoImportado));
+        });
     }
 
     int ImportarOnd(std::ostream& salida) const
@@ -101,19 +105,22 @@ private:
             throw ErrorUso("faltan los archivos OND (ayuda: efv catalogo importar-ond --help)");
         const TipoCatalogo& tipo = m_catalogo.Tipo(kInversores);
         const ModoOnd modo = m_bComoDialogo ? ModoOnd::comoDialogo : ModoOnd::corregido;
-        return Importar(salida, tipo, [&](const CString& csFichero) { return LeerOnd(csFichero, tipo, modo); });
+        return Importar(salida, tipo, [&](const CString& csFichero) {
+            return LeerOnd(csFichero, LeerEntrada(CadenaUtf8(csFichero), kMaximoImportado), tipo, modo);
+        });
     }
 
     int Importar(std::ostream& salida, const TipoCatalogo& tipo, const LectorModelo& leer) const
     {
         const std::optional<std::string>& familia = Familia();
-        const CString csCatalogo = m_catalogo.Ruta(tipo);
+        const CString csCatalogo = m_catalogo.RutaQueCrece(tipo);
+        const std::string destino = CadenaUtf8(DondeSeAnade(csCatalogo));
         Importacion importacion = LeerModelos(tipo, m_palabras, leer, familia);
         AvisarDeNombres(tipo, csCatalogo, importacion);
         if (importacion.Hallazgos() == 0)
             Anadir(tipo, importacion, csCatalogo);
-        salida << (m_bJson ? TextoJson(ImportacionJson(tipo, importacion, CadenaUtf8(csCatalogo)))
-                           : ImportacionTexto(importacion, CadenaUtf8(csCatalogo)));
+        salida << (m_bJson ? TextoJson(ImportacionJson(tipo, importacion, destino))
+                           : ImportacionTexto(importacion, destino));
         return importacion.Hallazgos() == 0 ? 0 : kConHallazgos;
     }
 
@@ -122,16 +129,18 @@ private:
         if (m_palabras.size() != 1)
             throw ErrorUso("se espera una biblioteca CSV (ayuda: efv catalogo importar-cec --help)");
         const OpcionesCec opciones = LeerOpcionesCec();
-        const BibliotecaCec biblioteca = LeerCec(CadenaDesdeUtf8(m_palabras.front()), opciones);
+        const BibliotecaCec biblioteca =
+            LeerCec(CadenaDesdeUtf8(m_palabras.front()), LeerEntrada(m_palabras.front(), kMaximoCec), opciones);
         if (m_catalogo.ConTipo() && biblioteca.tipo != &m_catalogo.Tipo(kInversores))
             throw ErrorEjecucion("la biblioteca es de módulos, y --tipo dice otra cosa");
         if (biblioteca.filas.empty())
             throw ErrorEjecucion(m_solo.empty() ? "la biblioteca no tiene ninguna fila"
                                                 : fmt::format("ninguna fila contiene «{}»", m_solo));
-        const CString csCatalogo = m_catalogo.Ruta(*biblioteca.tipo);
+        const CString csCatalogo = m_catalogo.RutaQueCrece(*biblioteca.tipo);
+        const std::string destino = CadenaUtf8(DondeSeAnade(csCatalogo));
         const ResultadoCec resultado = Anadir(biblioteca, csCatalogo);
-        salida << (m_bJson ? TextoJson(CecJson(resultado, opciones, CadenaUtf8(csCatalogo)))
-                           : CecTexto(resultado, opciones, CadenaUtf8(csCatalogo)));
+        salida << (m_bJson ? TextoJson(CecJson(resultado, opciones, destino))
+                           : CecTexto(resultado, opciones, destino));
         return resultado.sinModelo.size() < biblioteca.filas.size() ? 0 : kConHallazgos;
     }
 

@@ -32,12 +32,14 @@ public:
             if (const std::optional<int> iEstado = grupo->Ejecutar(salida))
                 return *iEstado;
         throw ErrorUso(
-            "falta la orden: listar, buscar, ver, validar, exportar, importar-pan, importar-ond o importar-cec "
+            "falta la orden: listar, buscar, ver, validar, exportar, importar-pan, importar-ond, importar-cec "
+            "o restaurar "
             "(ayuda: efv catalogo --help)");
     }
 
 private:
-    std::array<std::unique_ptr<GrupoOrdenes>, 2> m_grupos = {CrearConsultas(), CrearImportaciones()};
+    std::array<std::unique_ptr<GrupoOrdenes>, 3> m_grupos = {CrearConsultas(), CrearImportaciones(),
+                                                             CrearRestauracion()};
 };
 
 }  // namespace

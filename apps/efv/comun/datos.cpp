@@ -5,6 +5,8 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/catalogos_propios.h>
+
 #include "comun/consola.h"
 
 namespace efv::orden {
@@ -49,6 +51,15 @@ CString CarpetaPropia(const std::string& opcion)
         carpeta = personal.empty() ? personal : personal + "/efv-estudio";
     }
     return carpeta.empty() ? CString() : CadenaDesdeUtf8(carpeta + '/');
+}
+
+CString RutaCatalogo(const std::string& opcion, const char* archivo)
+{
+    CString csRuta = RutaDatos(opcion, archivo);
+    const CString csPropia = CarpetaPropia(opcion);
+    SuperponerCatalogos(csRuta.substr(0, csRuta.rfind(L'/') + 1),
+                        csPropia.empty() ? csPropia : csPropia + CString(kCarpetaCatalogosPropios));
+    return csRuta;
 }
 
 CString RutaDatos(const std::string& opcion, const char* archivo)

@@ -15,6 +15,10 @@ inline constexpr const char* kAyudaDatos =
 /// EFV_DATOS, else the installed folder, else the source tree's. @throws ErrorEjecucion when it is no folder
 CString RutaDatos(const std::string& opcion, const char* archivo);
 
+/// The same of a catalogue, over which that of the person's own lies from now on: in the folder "propios" of
+/// CarpetaPropia. @throws ErrorEjecucion
+CString RutaCatalogo(const std::string& opcion, const char* archivo);
+
 /// The folder of the person's own files, with its trailing separator: `opcion`, else EFV_DATOS, else the one of
 /// efv-estudio among the person's data. It may not exist yet; empty when the person has none.
 CString CarpetaPropia(const std::string& opcion);

@@ -14,7 +14,8 @@ namespace efv::orden {
 CatalogoDatos::CatalogoDatos(std::string_view tipo, const std::string& csDatos)
     : m_tipo(BuscarTipoCatalogo(tipo)), m_base(m_tipo->CrearBase())
 {
-    const CString csRuta = RutaDatos(csDatos, CadenaUtf8(m_tipo->Fichero()).c_str());
+    const CString csRuta = RutaCatalogo(csDatos, CadenaUtf8(m_tipo->Fichero()).c_str());
+    ExigirTipo(*m_tipo, csRuta);
     if (m_base->Cargar(csRuta) == 0)
         throw ErrorEjecucion(fmt::format("el catálogo «{}» no existe o no se puede leer", CadenaUtf8(csRuta)));
     m_modelos = m_tipo->Modelos(*m_base);

@@ -1,4 +1,4 @@
-// The shipped catalogues as the designs reach them.
+// The catalogues as the designs reach them: the shipped ones with the person's own over them.
 #pragma once
 
 #include <memory>

@@ -1,7 +1,10 @@
 // The catalogues of every kind through the command: data sheets, imports, CSV.
 #include <algorithm>
+#include <iostream>
 #include <iterator>
 #include <map>
+
+#include <quorvel/tipos_catalogo.h>
 
 #include "apoyo.h"
 
@@ -235,6 +238,71 @@ TEST_F(TiposDeCatalogo, ElCsvLoAbreUnaHojaDeCalculo)
               "F,\"ñ, x\",1e+300,12,,,,,,'-3\r\n");
     EsperarFallo({"catalogo", "exportar", "--separador", "|"}, 2, "--separador");
     EsperarFallo({"catalogo", "exportar", "--salida", m_carpeta.Ruta()}, 1, "no se puede escribir");
+}
+
+// Shipped data in one folder; what an order adds without being told a file goes to the person's own.
+TEST_F(TiposDeCatalogo, LosPropiosEstanSobreLosDistribuidosYSeRestauran)
+{
+    const std::string datos = m_carpeta.Ruta().string();
+    const std::string ond = m_carpeta.Crear("a.ond", Ond("A"));
+    const auto orden = [&](Textos argumentos) {
+        argumentos.insert(argumentos.begin(), "catalogo");
+        argumentos.insert(argumentos.end(), {"--tipo", "inversores", "--datos", datos});
+        return argumentos;
+    };
+    const std::string enviado = m_carpeta.Crear(
+        "ZqInversorHE5.xml", Catalogo("<Modelo csModelo=\"Z\" iUsoPrincipal=\"0\" dPCANom=\"5000\" "
+                                      "csICCMaxMPPT=\"9\" csICCMinMPPT=\"0\" dIScMax=\"12\"/>"));
+    const std::string antes = Leer(enviado), propio = datos + "/propios/ZqInversorHE5.xml";
+    EXPECT_EQ(EnJson(orden({"importar-ond", ond}))["catalogo"], propio);
+    EXPECT_EQ(Leer(enviado), antes);
+    const Json lista = EnJson(orden({"listar"}));
+    ASSERT_EQ(lista.size(), 2U);
+    EXPECT_EQ(lista[0]["id"], "F#Z");
+    EXPECT_FALSE(lista[0].contains("propio"));
+    EXPECT_EQ(lista[1]["id"], "F#A");
+    EXPECT_EQ(lista[1]["propio"], true);
+    EXPECT_EQ(Ficha(orden({"ver", "A"}))["Catálogo"], "propio");
+    EXPECT_TRUE(Contiene(Correr(orden({"listar"})).salida, {"Catálogo\n", "propio\n"}));
+    EsperarFallo(orden({"importar-ond", ond}), 1, "ya tiene el modelo A");
+    // A file that is given is read as it stands.
+    EXPECT_EQ(EnJson({"catalogo", "listar", "--tipo", "inversores", "--fichero", enviado}).size(), 1U);
+
+    EsperarFallo({"catalogo", "restaurar", "--datos", datos}, 2, "--todos");
+    EsperarFallo({"catalogo", "restaurar", "--todos", "--fichero", enviado}, 2, "--fichero");
+    const Corrida sinSi = Correr({"catalogo", "restaurar", "--todos", "--datos", datos});
+    EXPECT_EQ(sinSi.iEstado, 2);
+    EXPECT_EQ(sinSi.salida, "inversores:\n  añadido F#A\n");
+    EXPECT_TRUE(fs::exists(propio));
+    const Json hecho = EnJson(orden({"restaurar", "--si"}));
+    EXPECT_EQ(hecho[0]["cambios"][0], (Json{{"cambio", "añadido"}, {"familia", "F"}, {"modelo", "A"}}));
+    EXPECT_TRUE(fs::exists(hecho[0]["copia"].get<std::string>()));
+    EXPECT_FALSE(fs::exists(propio));
+    EXPECT_EQ(EnJson(orden({"listar"})).size(), 1U);
+    EXPECT_EQ(Correr(orden({"restaurar", "--si"})).salida, "no hay ningún cambio propio que retirar\n");
+
+    // From the standard input.
+    std::istringstream entrada(Ond("E"));
+    std::streambuf* const otra = std::cin.rdbuf(entrada.rdbuf());
+    const Corrida deEntrada = Correr(orden({"importar-ond", "-"}));
+    std::cin.rdbuf(otra);
+    EXPECT_TRUE(deEntrada.salida.starts_with("-: F#E\n")) << deEntrada.salida << deEntrada.errores;
+}
+
+// Whatever kind a catalogue is opened as, another's is refused.
+TEST_F(TiposDeCatalogo, UnCatalogoDeOtraClaseSeRechaza)
+{
+    for (const std::string& suyo : kTipos) {
+        const std::string fichero =
+            std::string(EFV_CARPETA_PRUEBAS) + "/../data/" + CadenaUtf8(BuscarTipoCatalogo(suyo)->Fichero());
+        for (const std::string& tipo : kTipos) {
+            const Corrida corrida = Correr({"catalogo", "listar", "--tipo", tipo, "--fichero", fichero});
+            EXPECT_EQ(corrida.iEstado, suyo == tipo ? 0 : 1) << suyo << " " << tipo;
+            if (suyo != tipo) {
+                EXPECT_TRUE(Contiene(corrida.errores, {"es un catálogo de " + suyo + ", no de " + tipo}));
+            }
+        }
+    }
 }
 
 }  // namespace
