@@ -40,7 +40,7 @@ public:
         DeReceptores();
         AvisarDelCableado(m_estudio.cableado, m_avisos);
         for (const std::string& nota : m_proyecto.notas)
-            Nota(nota);
+            m_avisos.push_back({false, nota, std::string()});
         return std::move(m_avisos);
     }
 
@@ -126,7 +126,10 @@ private:
                                   nombre, Con(dHoras, 2, "h"), Con(dMas, 2, "h")));
         }
         if (dPotenciaCA > 0.0 && m_v.bSalidaCA == 0)
-            Falta("Hay receptores de corriente alterna y la instalación no tiene salida en CA («bSalidaCA»).");
+            m_avisos.push_back(
+                {true,
+                 "Hay receptores de corriente alterna y la instalación no tiene salida en CA («bSalidaCA»).",
+                 "Hay receptores de corriente alterna y la instalación no tiene salida en CA."});
         else if (dPotenciaCA > m_proyecto.registro.dPotenciaSalidaCA + kTolerancia) {
             Nota(fmt::format(
                 "Los receptores de alterna suman {}, más que la salida en CA, {}: no pueden funcionar "

@@ -16,12 +16,19 @@ namespace {
 using V = assistants::ValoresAislada;
 
 constexpr double kTolerancia = 1e-6;
+constexpr const char *kTituloReceptores = "Receptores", *kTituloBalance = "Balance de energía";
+
+bool FaltaPotencia(const V& v)
+{
+    return v.dPotenciaMinima > v.dPotenciaInstalada + kTolerancia;
+}
 
 Seccion SeccionReceptores(const ProyectoAislada& proyecto)
 {
-    Seccion seccion("Receptores");
+    Seccion seccion(kTituloReceptores);
     Cuadro& cuadro = seccion.cuadros.emplace_back();
     cuadro.titulo = "Receptores y su consumo diario";
+    cuadro.bModelos = true;
     cuadro.bTotal = true;
     cuadro.columnas = {{"Modelo", false},      {"Cant.", true}, {"Red", false},
                        {"Potencia (W)", true}, {"h/día", true}, {"Consumo (Wh)", true}};
@@ -57,7 +64,7 @@ struct Balance {
 
 Seccion SeccionEnergia(const V& v)
 {
-    Seccion seccion("Balance de energía");
+    Seccion seccion(kTituloBalance);
     const Balance balance(v);
     const auto perdida = [](double dPorcentaje, double dEnergia) {
         return fmt::format("{} %, {}", Decimal(dPorcentaje, 2), Con(dEnergia, 0, "Wh/día"));
@@ -80,7 +87,7 @@ Seccion SeccionAcumuladores(const V& v)
     Seccion seccion("Acumuladores");
     const double dUtil = v.dCapacidadResultante * v.dTensionSistema * v.dProfundidadDescarga / 100;
     seccion.datos = {
-        {"Acumulador", CadenaUtf8(v.csAcumulador)},
+        DatoModelo("Acumulador", v.csAcumulador),
         {"Capacidad y tensión nominal",
          fmt::format("{}, {}", Con(v.dCapacidadAcumulador, 1, "Ah"), Con(v.acumulador.dVnom, 1, "V"))},
         {"Días de autonomía", Con(v.dDiasAutonomia, 2, "")},
@@ -104,7 +111,7 @@ Seccion SeccionPaneles(const V& v)
 {
     Seccion seccion("Paneles fotovoltaicos");
     seccion.datos = {
-        {"Panel", CadenaUtf8(v.csPanel)},
+        DatoModelo("Panel", v.csPanel),
         {"Potencia máxima", Con(v.panel.dPmpm, 1, "Wp")},
         DatoDoble("Potencia mínima necesaria", v.dPotenciaMinima, v.dPotenciaMinimaP, 0, "Wp"),
         DatoDoble("Potencia instalada", v.dPotenciaInstalada, v.dPotenciaInstaladaP, 0, "Wp"),
@@ -113,7 +120,7 @@ Seccion SeccionPaneles(const V& v)
         {"Nº de paneles en total", std::to_string(v.iTotalPaneles)},
         {"Peso del campo de paneles", Con(SinCero(v.dPesoPaneles), 0, "kg")},
     };
-    seccion.datos[3].bFalta = v.dPotenciaMinima > v.dPotenciaInstalada + kTolerancia;
+    seccion.datos[3].bFalta = FaltaPotencia(v);
     return seccion;
 }
 
@@ -157,6 +164,27 @@ Seccion SeccionGeometria(const V& v)
     return seccion;
 }
 
+// In the order of the terminal, with the section beside which pages say each.
+constexpr std::pair<const char*, const char*> kSupuestos[] = {
+    {"Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.",
+     ""},
+    {"El dimensionado toma las horas de uso de un lunes de enero; la energía necesaria de cada mes, las de "
+     "cada tipo de día.",
+     kTituloReceptores},
+    {"Los acumuladores se dimensionan con la energía de los receptores; los paneles, con la energía "
+     "necesaria antes de las pérdidas.",
+     kTituloBalance},
+    {"La radiación sobre el plano es la horizontal por el factor K de la tabla, para un campo orientado al "
+     "ecuador: la orientación no entra en esa fórmula y se cuenta aparte.",
+     kTituloMeses},
+    {"Cada pérdida es el tanto por ciento de lo que llega hasta ella: primero el acoplamiento, después el "
+     "cableado y el acumulador. Energía necesaria = receptores + pérdidas.",
+     kTituloBalance},
+    {"Energía producida de un mes: potencia instalada × horas de sol pico × (1 − pérdidas) × días. La que "
+     "sobra en un mes no pasa al siguiente.",
+     kTituloMeses},
+};
+
 std::vector<Dato> Resumen(const V& v)
 {
     return {{"Energía diaria", Con(v.dEnergiaDiaria / 1000, 2, "kWh")},
@@ -176,39 +204,29 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
     Documento documento;
     documento.titulo = "Instalación solar fotovoltaica aislada";
     documento.proyecto = proyecto.titulo;
+    documento.portada = proyecto.portada;
     documento.resumen = Resumen(v);
     documento.avisos = std::move(avisos);
-    documento.secciones = {SeccionLugar(proyecto.lugar),
-                           SeccionReceptores(proyecto),
-                           SeccionEnergia(v),
-                           SeccionAcumuladores(v),
-                           SeccionPaneles(v),
-                           SeccionRegulador(proyecto, v),
-                           SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion, estudio.propuesta),
-                           SeccionGeometria(v),
-                           SeccionCableado(estudio.cableado),
-                           SeccionMeses(estudio.ano, &estudio.adNecesaria),
-                           SeccionOrientacion(estudio.orientada),
-                           SeccionModelos({Elegido("Acumulador", *proyecto.acumulador),
-                                           Elegido("Panel fotovoltaico", *proyecto.panel)})};
-    documento.supuestos.emplace_back(
-        "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.");
-    documento.supuestos.emplace_back(
-        "El dimensionado toma las horas de uso de un lunes de enero; la energía necesaria de cada mes, las de "
-        "cada tipo de día.");
-    documento.supuestos.emplace_back(
-        "Los acumuladores se dimensionan con la energía de los receptores; los paneles, con la energía "
-        "necesaria antes de las pérdidas.");
-    documento.supuestos.emplace_back(
-        "La radiación sobre el plano es la horizontal por el factor K de la tabla, para un campo orientado al "
-        "ecuador: la orientación no entra en esa fórmula y se cuenta aparte.");
-    documento.supuestos.emplace_back(
-        "Cada pérdida es el tanto por ciento de lo que llega hasta ella: primero el acoplamiento, después el "
-        "cableado y el acumulador. Energía necesaria = receptores + pérdidas.");
-    documento.supuestos.emplace_back(
-        "Energía producida de un mes: potencia instalada × horas de sol pico × (1 − pérdidas) × días. La que "
-        "sobra en un mes no pasa al siguiente.");
-    documento.supuestos.push_back(SupuestoTemperaturas(proyecto.temperaturas));
+    documento.secciones = {
+        SeccionLugar(proyecto.lugar),
+        SeccionEsquema(EsquemaDe(proyecto, estudio)),
+        SeccionReceptores(proyecto),
+        SeccionEnergia(v),
+        SeccionAcumuladores(v),
+        SeccionPaneles(v),
+        SeccionRegulador(proyecto, v),
+        SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion, estudio.propuesta, !FaltaPotencia(v)),
+        SeccionGeometria(v),
+        SeccionCableado(estudio.cableado),
+        SeccionMeses(proyecto.lugar, estudio.ano, &estudio.adNecesaria),
+        SeccionOrientacion(estudio.orientada),
+        SeccionModelos(
+            {Elegido("Acumulador", *proyecto.acumulador), Elegido("Panel fotovoltaico", *proyecto.panel)})};
+    for (const auto& [texto, seccion] : kSupuestos) {
+        Supuesto supuesto{texto, seccion};
+        documento.supuestos.push_back(std::move(supuesto));
+    }
+    documento.supuestos.emplace_back(SupuestoTemperaturas(proyecto.temperaturas), kTituloComprobacion);
     return documento;
 }
 

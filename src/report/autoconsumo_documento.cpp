@@ -7,11 +7,15 @@
 #include <quorvel/report/autoconsumo.h>
 #include <quorvel/report/texto.h>
 
+#include "report/pagina.h"
 #include "report/secciones.h"
 
 namespace efv::report {
 
 namespace {
+
+constexpr const char *kTituloEnergia = "Energía mes a mes", *kTituloDinero = "Dinero del primer año",
+                     *kTituloRecuperacion = "Coste y recuperación", *kTituloBateria = "Batería";
 
 using economics::SumaAutoconsumo;
 
@@ -85,7 +89,7 @@ using Celda = std::pair<double, int>;
 
 Seccion SeccionEnergia(const EstudioAutoconsumo& e)
 {
-    Seccion seccion("Energía mes a mes");
+    Seccion seccion(kTituloEnergia);
     CCtrlCurva2D grafica = ui::GraficaDeMeses(L"Consumo y producción", L"Energía (kWh)");
     std::array<double, kMeses> adConsumo{}, adProduccion{}, adAutoconsumo{};
     for (std::size_t m = 0; m < kMeses; ++m) {
@@ -114,7 +118,7 @@ Seccion SeccionEnergia(const EstudioAutoconsumo& e)
 
 Seccion SeccionDinero(const ProyectoAutoconsumo& proyecto, const EstudioAutoconsumo& e)
 {
-    Seccion seccion("Dinero del primer año");
+    Seccion seccion(kTituloDinero);
     seccion.cuadros.push_back(
         CuadroDeMeses(e, "Término de energía e importes (€)",
                       {"Sin instalación", "Compra", "Excedentes", "Compensado", "Desgaste", "Ahorro"},
@@ -141,7 +145,7 @@ Seccion SeccionBateria(const ProyectoAutoconsumo& proyecto, const EstudioAutocon
     const SumaAutoconsumo& t = e.ano.total;
     const auto resumen =
         economics::ResumirBateria(e.horas.Horas(), e.operacion->Horas(proyecto.dCosteDegradacion));
-    Seccion seccion("Batería");
+    Seccion seccion(kTituloBateria);
     seccion.datos = {
         {"Capacidad útil", Con(b.dCapacidad, 2, "kWh")},
         {"Regla", proyecto.regla == economics::ReglaBateria::arbitraje ? "precios de las 24 horas siguientes"
@@ -182,8 +186,7 @@ CCtrlCurva2D GraficaAcumulado(const EstudioAutoconsumo& e)
 Seccion SeccionRentabilidad(const ProyectoAutoconsumo& proyecto, const EstudioAutoconsumo& e)
 {
     const CSFVCalculoEconomicoAuto& r = e.registro;
-    Seccion seccion("Coste y recuperación");
-    seccion.bPaginaNueva = true;
+    Seccion seccion(kTituloRecuperacion);
     seccion.datos = {
         {"Coste de la instalación", Euros(r.dCosteInstalacion)},
         {"Capital inicial aportado", Euros(r.dCapitalInicial)},
@@ -203,7 +206,6 @@ Seccion SeccionDias(const EstudioAutoconsumo& e)
 {
     Seccion seccion("Días típicos de cada estación");
     seccion.bSoloPagina = true;
-    seccion.bPaginaNueva = true;
     seccion.graficas = GraficasDiasTipicos(e);
     return seccion;
 }
@@ -217,7 +219,6 @@ bool VariaLaPotencia(std::span<const PuntoBarrido> puntos)
 Seccion SeccionBarrido(std::span<const PuntoBarrido> puntos)
 {
     Seccion seccion("Otros tamaños");
-    seccion.bPaginaNueva = true;
     Cuadro& cuadro = seccion.cuadros.emplace_back();
     cuadro.titulo = "Lo mismo con otra potencia o batería";
     for (const char* titulo : {"kWp", "Batería (kWh)", "Coste (€)", "Cubierto (%)", "Aprovechada (%)",
@@ -293,31 +294,48 @@ std::vector<CCtrlCurva2D> GraficasDiasTipicos(const EstudioAutoconsumo& e)
     return graficas;
 }
 
-std::vector<std::string> Supuestos(const ProyectoAutoconsumo& proyecto)
+namespace {
+
+std::vector<Supuesto> SupuestosConSeccion(const ProyectoAutoconsumo& proyecto)
 {
-    std::vector<std::string> supuestos;
-    const auto anadir = [&](std::string texto) { supuestos.push_back(std::move(texto)); };
+    std::vector<Supuesto> supuestos;
+    const auto anadir = [&](std::string texto, const char* seccion) {
+        Supuesto supuesto{std::move(texto), seccion};
+        supuestos.push_back(std::move(supuesto));
+    };
     anadir(fmt::format("Producción hora a hora: {}; radiación sobre cada plano × potencia × {} de rendimiento.",
-                       solar::NombreDeOrigen(proyecto.planos.origen), DecimalExacto(proyecto.dRendimiento)));
+                       solar::NombreDeOrigen(proyecto.planos.origen), DecimalExacto(proyecto.dRendimiento)),
+           kTituloEnergia);
     anadir(
         "Horas solares de un año de 365 días; producción, consumo y precios son los de la misma hora. Dentro "
-        "de una "
-        "hora lo producido y lo consumido se dan por simultáneos.");
+        "de una hora lo producido y lo consumido se dan por simultáneos.",
+        kTituloEnergia);
     anadir(
         "Solo cuenta el término de energía: el de potencia y los demás importes fijos de la factura no "
-        "cambian.");
+        "cambian.",
+        kTituloDinero);
     anadir(
         "Cada año el ahorro, quitado el mantenimiento, es el anterior por (1 − envejecimiento + variación del "
-        "precio).");
-    anadir("La tasa interna de retorno es la del coste entero con los ahorros del estudio, sin préstamo.");
+        "precio).",
+        kTituloRecuperacion);
+    anadir("La tasa interna de retorno es la del coste entero con los ahorros del estudio, sin préstamo.",
+           kTituloRecuperacion);
     if (proyecto.bateria) {
-        supuestos.emplace_back(
+        anadir(
             "La batería sigue una regla propia de este programa, con capacidad útil y rendimientos constantes "
-            "y sin "
-            "consumo en reposo.");
+            "y sin consumo en reposo.",
+            kTituloBateria);
     }
-    supuestos.insert(supuestos.end(), proyecto.fuentes.begin(), proyecto.fuentes.end());
+    for (const std::string& fuente : proyecto.fuentes)
+        anadir(fuente, "");
     return supuestos;
+}
+
+}  // namespace
+
+std::vector<std::string> Supuestos(const ProyectoAutoconsumo& proyecto)
+{
+    return TextosDe(SupuestosConSeccion(proyecto));
 }
 
 Documento EscribirDocumento(const ProyectoAutoconsumo& proyecto, const EstudioAutoconsumo& e,
@@ -326,6 +344,7 @@ Documento EscribirDocumento(const ProyectoAutoconsumo& proyecto, const EstudioAu
     Documento documento;
     documento.titulo = "Estudio de autoconsumo fotovoltaico";
     documento.proyecto = proyecto.titulo;
+    documento.portada = proyecto.portada;
     documento.resumen = Resumen(e);
     documento.avisos = std::move(avisos);
     documento.secciones.push_back(SeccionLugar(proyecto.lugar));
@@ -338,7 +357,7 @@ Documento EscribirDocumento(const ProyectoAutoconsumo& proyecto, const EstudioAu
     documento.secciones.push_back(SeccionDias(e));
     if (!barrido.empty())
         documento.secciones.push_back(SeccionBarrido(barrido));
-    documento.supuestos = Supuestos(proyecto);
+    documento.supuestos = SupuestosConSeccion(proyecto);
     return documento;
 }
 

@@ -14,6 +14,7 @@ namespace efv::report {
 namespace {
 
 constexpr const char* kSinDato = "—";
+constexpr double kMargenGeneradores = 25.0;  // %
 
 std::string Instalacion(const electrical::TramoCable& tramo)
 {
@@ -97,6 +98,8 @@ Seccion SeccionCableado(const Cableado& cableado)
         "caída en trifásica con el factor 1,739130435; conductor a la temperatura que admite su aislamiento. "
         "No cambia ningún resultado del dimensionado.",
         Con(dMargen, 1, "%")));
+    if (dMargen >= kMargenGeneradores)
+        seccion.fuentes.emplace_back("margen del 25 % sobre la corriente de lo que genera, ITC-BT-40.");
     return seccion;
 }
 

@@ -90,10 +90,10 @@ std::string TextoDe(const assistants::PropuestaComprobada& propuesta)
 
 Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
                             const assistants::ComprobacionCampo& comprobacion,
-                            const std::optional<assistants::PropuestaComprobada>& propuesta)
+                            const std::optional<assistants::PropuestaComprobada>& propuesta, bool bAlcanza)
 {
     const std::string minima = Decimal(temperaturas.Minima(), 0), maxima = Decimal(temperaturas.Maxima(), 0);
-    Seccion seccion("Comprobación a las temperaturas del lugar");
+    Seccion seccion(kTituloComprobacion);
     Cuadro& cuadro = seccion.cuadros.emplace_back();
     cuadro.titulo = fmt::format("Células de {} a {} ºC", minima, maxima);
     cuadro.columnas = {{"Comprobación", false}, {"Valor", true}, {"Límite", true}, {"Resultado", false}};
@@ -109,8 +109,12 @@ Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
     seccion.notas.push_back(std::move(nota));
     if (propuesta) {
         Dato comprobada{"Propuesta comprobada", TextoDe(*propuesta)};
+        // Beside a design that is in order it is one that wasn't taken.
+        if (bAlcanza && !comprobacion.Incumple())
+            comprobada.enPagina.emplace();
         seccion.datos.push_back(std::move(comprobada));
     }
+    seccion.fuentes.emplace_back("límites de los modelos elegidos, cuyos datos van en este informe.");
     return seccion;
 }
 

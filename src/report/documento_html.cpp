@@ -5,6 +5,7 @@
 #include <quorvel/report/documento.h>
 
 #include "report/marcado.h"
+#include "report/pagina.h"
 
 namespace efv::report {
 
@@ -18,15 +19,20 @@ body { margin: 0 auto; max-width: 60rem; padding: 1.5rem; color: var(--tinta); b
        font: 1rem/1.45 "Segoe UI", "Helvetica Neue", Arial, sans-serif; }
 header { border-bottom: 3px solid var(--azul); margin-bottom: 1.5rem; padding-bottom: .75rem; }
 h1 { font-size: 1.6rem; margin: 0; }
-header p { margin: .25rem 0 0; color: var(--tenue); }
+.portada { display: grid; grid-template-columns: max-content 1fr; gap: .3rem 1.5rem; margin: 1rem 0 0; }
+.portada dt { color: var(--tenue); }
+.portada dd { margin: 0; }
+.firma { width: 18rem; margin: 3.5rem 0 0; border-top: 1px solid var(--tinta); padding-top: .3rem; }
+nav ol { margin: 0; padding-left: 1.5rem; columns: 2; }
+nav a { color: inherit; text-decoration: none; }
 h2 { font-size: 1.15rem; color: var(--azul); border-bottom: 1px solid var(--linea); margin: 2rem 0 .75rem; padding-bottom: .25rem; }
 table { border-collapse: collapse; width: 100%; margin: .5rem 0 1rem; font-variant-numeric: tabular-nums; }
 caption { text-align: left; font-weight: 600; padding: .25rem 0; }
 th, td { padding: .3rem .6rem; border-bottom: 1px solid var(--linea); text-align: left; vertical-align: top; }
 thead th { background: var(--fondo); font-size: .85rem; color: var(--tenue); }
 tbody th { font-weight: 400; }
+.datos { width: 72%; }
 .n { text-align: right; white-space: nowrap; }
-.propuesta { color: var(--azul); }
 .total > * { font-weight: 600; border-top: 2px solid var(--linea); }
 .falta { color: var(--rojo); font-weight: 600; }
 .resumen { display: grid; grid-template-columns: repeat(auto-fit, minmax(11rem, 1fr)); gap: .75rem; margin: 0; }
@@ -37,19 +43,24 @@ tbody th { font-weight: 400; }
 .avisos.ninguno { border-left-color: var(--azul); }
 .avisos h2 { border: 0; margin: .5rem 0 .25rem; color: inherit; }
 .avisos ul { margin: 0; padding-left: 1.25rem; }
-.nota { color: var(--tenue); font-size: .9rem; }
+.nota, .supuestos { color: var(--tenue); font-size: .9rem; }
+.supuestos { border-left: 3px solid var(--linea); padding-left: .75rem; }
+.supuestos ul { margin: .2rem 0 0; padding-left: 1.1rem; }
 figure { margin: 1rem 0; }
 figure svg { max-width: 100%; height: auto; border: 1px solid var(--linea); }
 footer { margin-top: 2rem; border-top: 1px solid var(--linea); padding-top: .5rem; color: var(--tenue); font-size: .85rem; }
-@page { size: A4; margin: 14mm; }
+@page { size: A4; margin: 16mm 14mm; @bottom-right { content: "Página " counter(page) " de " counter(pages); } }
 @media print {
   html { font-size: 9pt; }
   body { max-width: none; padding: 0; line-height: 1.3; }
+  header { break-after: page; }
+  h1 { margin-top: 50mm; }
   h2 { break-after: avoid; margin: 1rem 0 .4rem; }
-  section:not(.pagina), tr, figure, li { break-inside: avoid; }
+  caption { break-after: avoid; }
+  tr, figure, li, .avisos, .resumen { break-inside: avoid; }
+  h2 + table, h2 + figure { break-before: avoid; }
   thead { display: table-header-group; }
-  .pagina { break-before: page; }
-  .pagina h2 { margin-top: 0; }
+  .datos { width: 100%; }
   th, td { padding: .12rem .5rem; }
   figure { margin: .5rem 0; }
   figure svg { max-height: 68mm; }
@@ -66,21 +77,13 @@ std::string Valor(const Dato& dato)
 
 std::string DatosHtml(const Seccion& seccion)
 {
-    bool bPropuestas = false;
-    for (const Dato& dato : seccion.datos)
-        bPropuestas = bPropuestas || !dato.propuesta.empty();
-    std::string html = "<table>\n";
-    if (bPropuestas)
-        html +=
-            "<thead><tr><th scope=\"col\">Magnitud</th><th scope=\"col\" class=\"n\">En vigor</th>"
-            "<th scope=\"col\" class=\"n\">Propuesta</th></tr></thead>\n";
-    html += "<tbody>\n";
-    for (const Dato& dato : seccion.datos) {
-        html += fmt::format("<tr><th scope=\"row\">{}</th><td class=\"n\">{}</td>", Escapado(dato.rotulo),
-                            Valor(dato));
-        if (bPropuestas)
-            html += fmt::format("<td class=\"n propuesta\">{}</td>", Escapado(dato.propuesta));
-        html += "</tr>\n";
+    const std::vector<Dato> datos = DatosEnPagina(seccion.datos);
+    if (datos.empty())
+        return {};
+    std::string html = "<table class=\"datos\">\n<tbody>\n";
+    for (const Dato& dato : datos) {
+        html += fmt::format("<tr><th scope=\"row\">{}</th><td class=\"n\">{}</td></tr>\n",
+                            Escapado(dato.rotulo), Valor(dato));
     }
     return html + "</tbody>\n</table>\n";
 }
@@ -93,7 +96,7 @@ std::string CuadroHtml(const Cuadro& cuadro)
     html += "</tr></thead>\n<tbody>\n";
     for (std::size_t f = 0; f < cuadro.filas.size(); ++f) {
         html += cuadro.bTotal && f + 1 == cuadro.filas.size() ? "<tr class=\"total\">" : "<tr>";
-        const auto& fila = cuadro.filas[f];
+        const std::vector<std::string> fila = FilaEnPagina(cuadro, cuadro.filas[f]);
         for (std::size_t c = 0; c < fila.size(); ++c) {
             const char* clase = c < cuadro.columnas.size() && cuadro.columnas[c].second ? " class=\"n\"" : "";
             html += c == 0 ? fmt::format("<th scope=\"row\"{}>{}</th>", clase, Escapado(fila[c]))
@@ -104,27 +107,10 @@ std::string CuadroHtml(const Cuadro& cuadro)
     return html + "</tbody>\n</table>\n";
 }
 
-std::string GraficaHtml(const CCtrlCurva2D& grafica)
+// Inside a page a picture stands without a document's first line.
+std::string FiguraHtml(const std::string& svg)
 {
-    // Inside a page the chart stands without a document's first line.
-    const std::string svg = ui::EscribirSvg(grafica, 760, 340);
     return fmt::format("<figure>\n{}</figure>\n", svg.substr(std::min(svg.find("<svg"), svg.size())));
-}
-
-std::string SeccionHtml(const Seccion& seccion, std::size_t iSeccion)
-{
-    std::string html =
-        fmt::format("<section aria-labelledby=\"s{0}\"{1}>\n<h2 id=\"s{0}\">{2}</h2>\n", iSeccion,
-                    seccion.bPaginaNueva ? " class=\"pagina\"" : "", Escapado(seccion.titulo));
-    if (!seccion.datos.empty())
-        html += DatosHtml(seccion);
-    for (const CCtrlCurva2D& grafica : seccion.graficas)
-        html += GraficaHtml(grafica);
-    for (const Cuadro& cuadro : seccion.cuadros)
-        html += CuadroHtml(cuadro);
-    for (const std::string& nota : seccion.notas)
-        html += fmt::format("<p class=\"nota\">{}</p>\n", Escapado(nota));
-    return html + "</section>\n";
 }
 
 std::string Lista(const std::vector<std::string>& textos)
@@ -135,11 +121,47 @@ std::string Lista(const std::vector<std::string>& textos)
     return html + "</ul>\n";
 }
 
+std::vector<std::string> Escapados(std::vector<std::string> textos)
+{
+    for (std::string& texto : textos)
+        texto = Escapado(texto);
+    return textos;
+}
+
+std::string SupuestosHtml(const Documento& documento, const Seccion& seccion)
+{
+    const std::vector<std::string> supuestos = SupuestosDe(documento, seccion);
+    std::string html;
+    if (!supuestos.empty())
+        html += "<div class=\"supuestos\">Se supone:\n" + Lista(Escapados(supuestos)) + "</div>\n";
+    for (const std::string& fuente : seccion.fuentes)
+        html += fmt::format("<p class=\"nota\">Fuente: {}</p>\n", Escapado(fuente));
+    return html;
+}
+
+std::string SeccionHtml(const Documento& documento, std::size_t iSeccion)
+{
+    constexpr int kAnchoGrafica = 760, kAltoGrafica = 340;
+    const Seccion& seccion = documento.secciones[iSeccion];
+    std::string html = fmt::format("<section aria-labelledby=\"s{0}\">\n<h2 id=\"s{0}\">{1}</h2>\n",
+                                   iSeccion + 1, Escapado(seccion.titulo));
+    for (const Lamina& lamina : seccion.laminas)
+        html += FiguraHtml(EscribirSvg(lamina));
+    html += DatosHtml(seccion);
+    for (const CCtrlCurva2D& grafica : seccion.graficas)
+        html += FiguraHtml(ui::EscribirSvg(grafica, kAnchoGrafica, kAltoGrafica));
+    for (const Cuadro& cuadro : seccion.cuadros)
+        html += CuadroHtml(cuadro);
+    for (const std::string& nota : seccion.notas)
+        html += fmt::format("<p class=\"nota\">{}</p>\n", Escapado(nota));
+    return html + SupuestosHtml(documento, seccion) + "</section>\n";
+}
+
 std::string AvisosHtml(const std::vector<Aviso>& avisos)
 {
     std::vector<std::string> textos;
     bool bFaltas = false;
-    for (const Aviso& aviso : avisos) {
+    for (const Aviso& aviso : AvisosEnPagina(avisos)) {
         bFaltas = bFaltas || aviso.bFalta;
         textos.push_back((aviso.bFalta ? "<strong class=\"falta\">Atención:</strong> " : "") +
                          Escapado(aviso.texto));
@@ -147,15 +169,38 @@ std::string AvisosHtml(const std::vector<Aviso>& avisos)
     return fmt::format(
         "<section class=\"avisos{}\" aria-labelledby=\"avisos\">\n<h2 "
         "id=\"avisos\">Avisos</h2>\n{}</section>\n",
-        bFaltas ? "" : " ninguno", avisos.empty() ? "<p>Ninguno.</p>\n" : Lista(textos));
+        bFaltas ? "" : " ninguno", textos.empty() ? "<p>Ninguno.</p>\n" : Lista(textos));
 }
 
 std::string ResumenHtml(const std::vector<Dato>& resumen)
 {
     std::string html = "<section aria-label=\"Resumen\">\n<dl class=\"resumen\">\n";
-    for (const Dato& dato : resumen)
+    for (const Dato& dato : DatosEnPagina(resumen))
         html += fmt::format("<div><dt>{}</dt><dd>{}</dd></div>\n", Escapado(dato.rotulo), Valor(dato));
     return html + "</dl>\n</section>\n";
+}
+
+std::string PortadaHtml(const Documento& documento, const std::string& fecha)
+{
+    std::string html =
+        fmt::format("<header>\n<h1>{}</h1>\n<dl class=\"portada\">\n", Escapado(documento.titulo));
+    for (const auto& [rotulo, texto] : DatosDePortada(documento, fecha))
+        html += fmt::format("<dt>{}</dt><dd>{}</dd>\n", rotulo, Escapado(texto));
+    html += "</dl>\n";
+    if (!documento.portada.firma.empty())
+        html += fmt::format("<p class=\"firma\">Firma: {}</p>\n", Escapado(documento.portada.firma));
+    return html + "</header>\n";
+}
+
+std::string IndiceHtml(const Documento& documento, bool bSupuestos)
+{
+    std::string html = "<nav aria-labelledby=\"indice\">\n<h2 id=\"indice\">Índice</h2>\n<ol>\n";
+    for (std::size_t i = 0; i < documento.secciones.size(); ++i)
+        html +=
+            fmt::format("<li><a href=\"#s{}\">{}</a></li>\n", i + 1, Escapado(documento.secciones[i].titulo));
+    if (bSupuestos)
+        html += "<li><a href=\"#supuestos\">Supuestos generales</a></li>\n";
+    return html + "</ol>\n</nav>\n";
 }
 
 }  // namespace
@@ -167,18 +212,18 @@ std::string DocumentoHtml(const Documento& documento, const std::string& fecha)
     std::string html = fmt::format(
         "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\"/>\n"
         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n<title>{}</title>\n"
-        "<style>{}</style>\n</head>\n<body>\n<header>\n<h1>{}</h1>\n<p>{}</p>\n</header>\n<main>\n",
-        Escapado(titulo), kEstilos, Escapado(documento.titulo),
-        Escapado(documento.proyecto + (documento.proyecto.empty() || fecha.empty() ? "" : " · ") + fecha));
+        "<style>{}</style>\n</head>\n<body>\n",
+        Escapado(titulo), kEstilos);
+    const std::vector<std::string> supuestos = Escapados(SupuestosSueltos(documento));
+    html += PortadaHtml(documento, fecha) + IndiceHtml(documento, !supuestos.empty()) + "<main>\n";
     html += ResumenHtml(documento.resumen) + AvisosHtml(documento.avisos);
     for (std::size_t i = 0; i < documento.secciones.size(); ++i)
-        html += SeccionHtml(documento.secciones[i], i + 1);
-    std::vector<std::string> supuestos;
-    for (const std::string& supuesto : documento.supuestos)
-        supuestos.push_back(Escapado(supuesto));
-    html += "<section aria-labelledby=\"supuestos\">\n<h2 id=\"supuestos\">Supuestos</h2>\n" +
-            Lista(supuestos) + "</section>\n</main>\n";
-    return html + "<footer>QuorvelEFV</footer>\n</body>\n</html>\n";
+        html += SeccionHtml(documento, i);
+    if (!supuestos.empty()) {
+        html += "<section aria-labelledby=\"supuestos\">\n<h2 id=\"supuestos\">Supuestos generales</h2>\n" +
+                Lista(supuestos) + "</section>\n";
+    }
+    return html + fmt::format("</main>\n<footer>{}</footer>\n</body>\n</html>\n", Programa());
 }
 
 }  // namespace efv::report

@@ -91,8 +91,8 @@ std::string DocumentoTexto(const Documento& documento)
     if (documento.avisos.empty())
         texto += "  Ninguno.\n";
     texto += "\nSupuestos\n";
-    for (const std::string& supuesto : documento.supuestos)
-        texto += Parrafo("  · ", supuesto);
+    for (const Supuesto& supuesto : documento.supuestos)
+        texto += Parrafo("  · ", supuesto.texto);
     return texto;
 }
 

@@ -3,12 +3,10 @@
 #include <algorithm>
 
 #include "assistants/equipos.h"
+#include "report/equipos_modelo.h"
 
 namespace efv::report {
 
-namespace {
-
-// Name and family, from the catalogue or, without the model, from the identification itself.
 void Identificar(Equipo& equipo, const CString& csId, const CModelo* modelo)
 {
     const std::size_t nMarca = csId.find(L'#');
@@ -19,10 +17,9 @@ void Identificar(Equipo& equipo, const CString& csId, const CModelo* modelo)
         equipo.csFamilia = modelo->csFamilia;
 }
 
-CampoPaneles Paneles(const CString& csPanel, int iSerie, int iParalelo, const CBasePanelFoto& base)
+CampoPaneles CampoDe(const CString& csPanel, int iSerie, int iParalelo, const CBasePanelFotoModelo* modelo)
 {
     CampoPaneles campo;
-    const CBasePanelFotoModelo* modelo = base.BuscarModelo(csPanel);
     Identificar(campo, csPanel, modelo);
     campo.iSerie = iSerie;
     campo.iParalelo = iParalelo;
@@ -35,22 +32,26 @@ CampoPaneles Paneles(const CString& csPanel, int iSerie, int iParalelo, const CB
     return campo;
 }
 
-}  // namespace
-
 CampoPaneles PanelesDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos)
 {
-    return Paneles(diseno.csPanel, diseno.iPanelesSerie, diseno.iPanelesParalelo, catalogos.paneles);
+    return CampoDe(diseno.csPanel, diseno.iPanelesSerie, diseno.iPanelesParalelo,
+                   catalogos.paneles.BuscarModelo(diseno.csPanel));
 }
 
 CampoPaneles PanelesDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos)
 {
-    return Paneles(diseno.csPanel, diseno.iPanelesSerie, diseno.iPanelesParalelo, catalogos.paneles);
+    return CampoDe(diseno.csPanel, diseno.iPanelesSerie, diseno.iPanelesParalelo,
+                   catalogos.paneles.BuscarModelo(diseno.csPanel));
 }
 
 BancoAcumuladores AcumuladoresDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos)
 {
+    return BancoDe(diseno, catalogos.acumuladores.BuscarModelo(diseno.csAcumulador));
+}
+
+BancoAcumuladores BancoDe(const CSFVAsistenteAislada& diseno, const CBaseAcumuladorModelo* modelo)
+{
     BancoAcumuladores banco;
-    const CBaseAcumuladorModelo* modelo = catalogos.acumuladores.BuscarModelo(diseno.csAcumulador);
     Identificar(banco, diseno.csAcumulador, modelo);
     banco.iSerie = diseno.iAcumuladoresSerie;
     banco.iParalelo = diseno.iAcumuladoresParalelo;
@@ -66,8 +67,12 @@ BancoAcumuladores AcumuladoresDe(const CSFVAsistenteAislada& diseno, const Catal
 
 GrupoInversores InversoresDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos)
 {
+    return GrupoDe(diseno, catalogos.inversores.BuscarModelo(diseno.csInversor));
+}
+
+GrupoInversores GrupoDe(const CSFVAsistenteRed& diseno, const CBaseInversorModelo* modelo)
+{
     GrupoInversores grupo;
-    const CBaseInversorModelo* modelo = catalogos.inversores.BuscarModelo(diseno.csInversor);
     Identificar(grupo, diseno.csInversor, modelo);
     grupo.iCuantos = diseno.iInversores;
     grupo.iTipoSalida = diseno.iTipoSalida;

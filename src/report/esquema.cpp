@@ -1,6 +1,9 @@
 #include <quorvel/report/esquema.h>
 
+#include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
+
+#include "report/equipos_modelo.h"
 
 namespace efv::report {
 
@@ -236,19 +239,20 @@ int Elemento::ColorDeString(int iString) const
     return i < aiColores.size() ? aiColores[i] : ui::kColorPorCapa;
 }
 
-Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos, const Cableado& cableado,
-                  EsUnifilar esUnifilar)
+namespace {
+
+Esquema Trazar(const CSFVAsistenteAislada& diseno, const CampoPaneles& campo, const BancoAcumuladores& banco,
+               const std::vector<CargaDiseno>& cargas, const Cableado& cableado, EsUnifilar esUnifilar)
 {
     if (!HayDiseno(diseno))
         return {};
-    const CampoPaneles campo = PanelesDe(diseno, catalogos);
     const SimbolosUnifilares unifilar{esUnifilar};
     Trazador trazador;
     trazador.esquema.csTitulo = L"Instalación aislada";
     const std::size_t nPaneles = trazador.Poner(DePaneles(campo, unifilar(diseno.iSimboloPanel)), 0, 0);
     const std::size_t nRegulador = trazador.Poner(DeRegulador(diseno), 1, 0);
-    const std::size_t nAcumuladores = trazador.Poner(
-        DeAcumuladores(AcumuladoresDe(diseno, catalogos), unifilar(diseno.iSimboloAcumulador)), 1, 1);
+    const std::size_t nAcumuladores =
+        trazador.Poner(DeAcumuladores(banco, unifilar(diseno.iSimboloAcumulador)), 1, 1);
     trazador.Unir({nPaneles,
                    nRegulador,
                    TensionYCorriente(campo.Tension(), campo.Corriente()),
@@ -261,17 +265,15 @@ Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos
                    {},
                    false,
                    DeCable(cableado, "acumuladores")});
-    PonerCargas(trazador, diseno, CargasDe(diseno, catalogos), cableado, nRegulador);
+    PonerCargas(trazador, diseno, cargas, cableado, nRegulador);
     return std::move(trazador.esquema);
 }
 
-Esquema EsquemaDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos, const Cableado& cableado,
-                  EsUnifilar esUnifilar)
+Esquema Trazar(const CSFVAsistenteRed& diseno, const CampoPaneles& campo, const GrupoInversores& inversores,
+               const Cableado& cableado, EsUnifilar esUnifilar)
 {
     if (!HayDiseno(diseno))
         return {};
-    const CampoPaneles campo = PanelesDe(diseno, catalogos);
-    const GrupoInversores inversores = InversoresDe(diseno, catalogos);
     const SimbolosUnifilares unifilar{esUnifilar};
     const double dCampos = campo.Potencia() * inversores.iCuantos;
     const bool bTrifasica = inversores.iTipoSalida != 0;
@@ -312,6 +314,45 @@ Esquema EsquemaDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos, co
     trazador.Unir({nCaja, nRed, Potencia(inversores.Potencia(), L"W"), Longitud(L"L3", diseno.dLongitudL3),
                    true, DeCable(cableado, "L3")});
     return std::move(trazador.esquema);
+}
+
+}  // namespace
+
+Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos, const Cableado& cableado,
+                  EsUnifilar esUnifilar)
+{
+    return Trazar(diseno, PanelesDe(diseno, catalogos), AcumuladoresDe(diseno, catalogos),
+                  CargasDe(diseno, catalogos), cableado, esUnifilar);
+}
+
+Esquema EsquemaDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos, const Cableado& cableado,
+                  EsUnifilar esUnifilar)
+{
+    return Trazar(diseno, PanelesDe(diseno, catalogos), InversoresDe(diseno, catalogos), cableado, esUnifilar);
+}
+
+Esquema EsquemaDe(const ProyectoAislada& proyecto, const EstudioAislada& estudio)
+{
+    const auto& v = estudio.v;
+    std::vector<CargaDiseno> cargas;
+    for (const auto& receptor : proyecto.receptores) {
+        CargaDiseno& carga = cargas.emplace_back();
+        Identificar(carga, receptor->csModelo, nullptr);
+        carga.bHallado = true;
+        carga.dCantidad = receptor->iCantidad;
+        carga.dHorasDia = receptor->dHorasDia;
+        carga.dPotencia = receptor->dPotencia;
+        carga.bAlterna = receptor->iTipoRed != 0;
+    }
+    return Trazar(v, CampoDe(v.csPanel, v.iPanelesSerie, v.iPanelesParalelo, proyecto.panel),
+                  BancoDe(v, proyecto.acumulador), cargas, estudio.cableado, nullptr);
+}
+
+Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio)
+{
+    const auto& v = estudio.v;
+    return Trazar(v, CampoDe(v.csPanel, v.iPanelesSerie, v.iPanelesParalelo, proyecto.panel),
+                  GrupoDe(v, proyecto.inversor), estudio.cableado, nullptr);
 }
 
 }  // namespace efv::report

@@ -33,6 +33,7 @@ auto ProyectoCon(const DISENO& diseno, const Portada& portada, const Catalogos& 
     proyecto.lugar = portada.lugar;
     proyecto.planos = portada.planos;
     proyecto.temperaturas = portada.temperaturas;
+    proyecto.portada = portada.datos;
     return proyecto;
 }
 

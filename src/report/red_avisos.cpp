@@ -118,7 +118,7 @@ private:
         if (m_estudio.orientada)
             AvisarDeOrientacion(*m_estudio.orientada, m_avisos);
         for (const std::string& nota : m_proyecto.notas)
-            Nota(nota);
+            m_avisos.push_back({false, nota, std::string()});
     }
 
     const ProyectoRed& m_proyecto;

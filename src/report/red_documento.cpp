@@ -15,12 +15,18 @@ namespace {
 
 using V = assistants::ValoresRed;
 
+bool FaltaPotencia(const V& v)
+{
+    constexpr double kTolerancia = 1e-6;  // kW
+    return v.dPotenciaTotal < v.dPotenciaObjetivo - kTolerancia;
+}
+
 Seccion SeccionEquipos(const V& v)
 {
     Seccion seccion("Objetivo y equipos");
     seccion.datos = {
         {"Potencia mínima instalada", Con(v.dPotenciaObjetivo, 2, "kW")},
-        {"Inversor", CadenaUtf8(v.csInversor)},
+        DatoModelo("Inversor", v.csInversor),
         {"Potencia Nominal", Con(v.inversor.dPCANom, 0, "W")},
         {"Salida", v.inversor.iTipoSalida == 0 ? "Monofasico" : "Trifasico"},
         {"Rango tensiones MPPT (máx./min.)",
@@ -28,7 +34,7 @@ Seccion SeccionEquipos(const V& v)
         {"Tensión máxima de entrada", Con(v.inversor.dVCCMax, 0, "V")},
         {"Corriente máxima de un seguidor", Con(v.inversor.dIMaxEntrada, 2, "A")},
         {"Seguidores y entradas", fmt::format("{} y {}", v.inversor.iNumMPPT, v.inversor.iNumEntradas)},
-        {"Panel", CadenaUtf8(v.csPanel)},
+        DatoModelo("Panel", v.csPanel),
         {"Potencia máxima", Con(v.panel.dPmpm, 1, "Wp")},
         {"Tensión y corriente en máxima potencia",
          fmt::format("{}, {}", Con(v.panel.dVmpm, 2, "V"), Con(v.panel.dImpm, 2, "A"))},
@@ -52,7 +58,7 @@ Seccion SeccionCampo(const V& v)
         DatoDoble("Potencia total instalada", v.dPotenciaTotal, v.dPotenciaTotalP, 2, "kW"),
         DatoDoble("Potencia total de inversores", v.dPotenciaInversores, v.dPotenciaInversoresP, 2, "kW"),
     };
-    seccion.datos[7].bFalta = v.dPotenciaTotal < v.dPotenciaObjetivo - 1e-6;
+    seccion.datos[7].bFalta = FaltaPotencia(v);
     return seccion;
 }
 
@@ -78,7 +84,8 @@ Seccion SeccionGeometria(const V& v)
 
 Seccion SeccionComprobacion(const ProyectoRed& proyecto, const EstudioRed& estudio)
 {
-    Seccion seccion = SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion, estudio.propuesta);
+    Seccion seccion = SeccionComprobacion(proyecto.temperaturas, estudio.comprobacion, estudio.propuesta,
+                                          !FaltaPotencia(estudio.v));
     seccion.cuadros.front().filas.push_back({"Potencia de los paneles / nominal del inversor (CC/CA)",
                                              Decimal(estudio.comprobacion.dRatioCCCA, 2), "", ""});
     return seccion;
@@ -104,26 +111,37 @@ std::vector<Dato> Resumen(const EstudioRed& estudio)
     return resumen;
 }
 
-std::vector<std::string> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
+std::vector<Supuesto> Supuestos(const ProyectoRed& proyecto, bool bEnergia)
 {
     const char* rendimiento = proyecto.dRendimiento ? "" : " (valor por defecto)";
-    std::vector<std::string> supuestos = {
+    std::vector<Supuesto> supuestos;
+    const auto anadir = [&](std::string texto, const char* seccion) {
+        Supuesto supuesto{std::move(texto), seccion};
+        supuestos.push_back(std::move(supuesto));
+    };
+    anadir(
         "Predimensionado en condiciones STC (G de 1000 W/m², AM 1.5 y Tª cel. 25ºC) y sin simulación horaria.",
-        SupuestoTemperaturas(proyecto.temperaturas),
+        "");
+    anadir(SupuestoTemperaturas(proyecto.temperaturas), kTituloComprobacion);
+    anadir(
         "Tensión a circuito abierto y corriente de cortocircuito a una temperatura: por los coeficientes del "
         "módulo. Tensión en máxima potencia: la potencia a esa temperatura entre la corriente, que no cambia "
         "con ella.",
+        kTituloComprobacion);
+    anadir(
         "Los ramales se reparten entre los seguidores del inversor lo más igual posible. La corriente de "
         "cortocircuito no lleva margen por irradiancias superiores a 1000 W/m².",
-    };
+        kTituloComprobacion);
     if (bEnergia) {
-        supuestos.push_back(fmt::format(
-            "Energía de un mes: potencia instalada × horas de sol pico × rendimiento {}{} × días. La radiación "
-            "sobre "
-            "el plano es la horizontal por el factor K de la tabla, para un campo orientado al ecuador: la "
-            "orientación no entra en esa fórmula y se cuenta aparte. Sin sombras y sin recorte por la potencia "
-            "del inversor.",
-            Decimal(proyecto.Rendimiento(), 2), rendimiento));
+        anadir(fmt::format("Energía de un mes: potencia instalada × horas de sol pico × rendimiento {}{} × "
+                           "días. La radiación "
+                           "sobre el plano es la horizontal por el factor K de la tabla, para un campo "
+                           "orientado al ecuador: la "
+                           "orientación no entra en esa fórmula y se cuenta aparte. Sin sombras y sin recorte "
+                           "por la potencia "
+                           "del inversor.",
+                           Decimal(proyecto.Rendimiento(), 2), rendimiento),
+               kTituloMeses);
     }
     return supuestos;
 }
@@ -136,16 +154,18 @@ Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estud
     Documento documento;
     documento.titulo = "Instalación solar fotovoltaica conectada a red";
     documento.proyecto = proyecto.titulo;
+    documento.portada = proyecto.portada;
     documento.resumen = Resumen(estudio);
     documento.avisos = std::move(avisos);
     documento.secciones = {SeccionLugar(proyecto.lugar),
+                           SeccionEsquema(EsquemaDe(proyecto, estudio)),
                            SeccionEquipos(v),
                            SeccionCampo(v),
                            SeccionGeometria(v),
                            SeccionComprobacion(proyecto, estudio),
                            SeccionCableado(estudio.cableado)};
     if (estudio.ano)
-        documento.secciones.push_back(SeccionMeses(*estudio.ano, nullptr));
+        documento.secciones.push_back(SeccionMeses(proyecto.lugar, *estudio.ano, nullptr));
     if (estudio.orientada)
         documento.secciones.push_back(SeccionOrientacion(*estudio.orientada));
     documento.secciones.push_back(SeccionModelos(

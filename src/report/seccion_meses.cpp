@@ -36,13 +36,19 @@ std::vector<CCtrlCurva2D> Graficas(const solar::AnoEnergia& ano, const solar::Do
     return {std::move(radiacion), std::move(energia)};
 }
 
+std::string FuenteDe(const LugarDiseno& lugar)
+{
+    return lugar.localidad ? CadenaUtf8(lugar.localidad->csFuente) : "la del proyecto";
+}
+
 }  // namespace
 
-Seccion SeccionMeses(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria)
+Seccion SeccionMeses(const LugarDiseno& lugar, const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria)
 {
-    Seccion seccion("Radiación y energía mensual");
+    Seccion seccion(kTituloMeses);
+    seccion.fuentes.push_back("radiación sobre la horizontal, " + FuenteDe(lugar) +
+                              "; factores K, tabla del programa.");
     seccion.graficas = Graficas(ano, necesaria);
-    seccion.bPaginaNueva = true;
     Cuadro& cuadro = seccion.cuadros.emplace_back();
     cuadro.titulo = "Radiación diaria media y energía de cada mes";
     cuadro.bTotal = true;

@@ -8,6 +8,7 @@
 #include <quorvel/report/ficha.h>
 #include <quorvel/report/texto.h>
 
+#include "report/pagina.h"
 #include "solar/calendario.h"
 #include "solar/filas.h"
 
@@ -20,6 +21,12 @@ constexpr double kHolguraFilas = 1.0;  // mm
 std::string Coordenada(double d, const char* positiva, const char* negativa)
 {
     return fmt::format("{}° {}", Decimal(std::abs(d), 2), d < 0.0 ? negativa : positiva);
+}
+
+// A coefficient says its unit itself; the caption's own is that of another.
+std::string RotuloDeFicha(const std::string& rotulo, const std::string& texto)
+{
+    return texto.ends_with("/ºC") ? rotulo.substr(0, rotulo.find(": (")) : rotulo;
 }
 
 }  // namespace
@@ -37,6 +44,21 @@ Dato DatoDoble(std::string rotulo, double dEnVigor, double dPropuesta, int iDeci
 Dato DatoDoble(std::string rotulo, int iEnVigor, int iPropuesta)
 {
     return {std::move(rotulo), std::to_string(iEnVigor), std::to_string(iPropuesta)};
+}
+
+Dato DatoModelo(std::string rotulo, const CString& csId)
+{
+    Dato dato{std::move(rotulo), CadenaUtf8(csId)};
+    dato.enPagina = SinMarca(dato.valor);
+    return dato;
+}
+
+Seccion SeccionEsquema(const Esquema& esquema)
+{
+    Seccion seccion("Esquema de la instalación");
+    seccion.bSoloPagina = true;
+    seccion.laminas.push_back(Dibujar(esquema));
+    return seccion;
 }
 
 Seccion SeccionLugar(const LugarDiseno& lugar)
@@ -64,16 +86,17 @@ Seccion SeccionModelos(std::initializer_list<ModeloElegido> modelos)
 {
     Seccion seccion("Datos de los modelos elegidos");
     seccion.bSoloPagina = true;
-    seccion.bPaginaNueva = true;
     for (const ModeloElegido& elegido : modelos) {
         Cuadro& cuadro = seccion.cuadros.emplace_back();
-        cuadro.titulo = fmt::format("{}: {}#{}", elegido.titulo, CadenaUtf8(elegido.modelo->csFamilia),
+        cuadro.titulo = fmt::format("{}: {} {}", elegido.titulo, CadenaUtf8(elegido.modelo->csFamilia),
                                     CadenaUtf8(elegido.modelo->csModelo));
         cuadro.columnas = {{"Dato", false}, {"Valor", true}};
         for (const auto& [rotulo, texto] : elegido.ficha)
             if (!texto.empty())
-                cuadro.filas.push_back({rotulo, texto});
+                cuadro.filas.push_back({RotuloDeFicha(rotulo, texto), texto});
     }
+    seccion.fuentes.emplace_back(
+        "catálogo de modelos del programa; prevalece la hoja de datos del fabricante.");
     return seccion;
 }
 
@@ -85,9 +108,13 @@ void AvisarDelPlano(const LugarDiseno& lugar, bool bPlano, double dInclinacion, 
                                "sobre el plano.",
                                Decimal(lugar.dLatitud, 2))});
     } else if (dInclinacion < 0.0 || dInclinacion > 90.0) {
-        avisos.push_back({true, fmt::format("La inclinación en vigor, {}°, está fuera de 0° a 90°: la tabla de "
-                                            "factores K no da radiación sobre ese plano. Fije «dInclinacion».",
-                                            Decimal(dInclinacion, 2))});
+        Aviso aviso{true, std::string()};
+        aviso.enPagina = fmt::format(
+            "La inclinación en vigor, {}°, está fuera de 0° a 90°: la tabla de "
+            "factores K no da radiación sobre ese plano.",
+            Decimal(dInclinacion, 2));
+        aviso.texto = *aviso.enPagina + " Fije «dInclinacion».";
+        avisos.push_back(std::move(aviso));
     }
 }
 

@@ -9,6 +9,7 @@
 
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/documento.h>
+#include <quorvel/report/esquema.h>
 #include <quorvel/report/ficha.h>
 
 #include "catalogues/dialogs/dialogo_modelo.h"
@@ -26,16 +27,26 @@ std::string NombreMes(int iMes);
 Dato DatoDoble(std::string rotulo, double dEnVigor, double dPropuesta, int iDecimales, std::string_view unidad);
 Dato DatoDoble(std::string rotulo, int iEnVigor, int iPropuesta);
 
+/// A model by its identification; pages say maker and model.
+Dato DatoModelo(std::string rotulo, const CString& csId);
+
 /// Where the place stands and where its radiation comes from.
 Seccion SeccionLugar(const LugarDiseno& lugar);
 
+inline constexpr const char* kTituloMeses = "Radiación y energía mensual";
+inline constexpr const char* kTituloComprobacion = "Comprobación a las temperaturas del lugar";
+
 /// Table and charts of a year. @param necesaria kWh of each month; null without loads
-Seccion SeccionMeses(const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
+Seccion SeccionMeses(const LugarDiseno& lugar, const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
+
+/// The schematic, for pages.
+Seccion SeccionEsquema(const Esquema& esquema);
 
 /// The limits that the field was held against, and what keeps to them instead of the assistant's proposal.
+/// @param bAlcanza whether the design reaches the power that is asked for
 Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
                             const assistants::ComprobacionCampo& comprobacion,
-                            const std::optional<assistants::PropuestaComprobada>& propuesta);
+                            const std::optional<assistants::PropuestaComprobada>& propuesta, bool bAlcanza);
 /// Which temperatures those are.
 std::string SupuestoTemperaturas(const TemperaturasCelulas& temperaturas);
 /// What is said of a limit that is passed, and of coefficients that the module lacks.

@@ -105,7 +105,7 @@ std::vector<Aviso> Avisos(const ProyectoVenta& proyecto, const EstudioVenta& res
     faltaSi(!resultado.iAnoRecuperado && !e.aAcumulado.IsEmpty(),
             "El flujo de caja acumulado acaba el estudio por debajo de cero: la venta no paga el préstamo.");
     for (const std::string& nota : proyecto.notas)
-        avisos.push_back({false, nota});
+        avisos.push_back({false, nota, std::string()});
     return avisos;
 }
 

@@ -6,11 +6,14 @@
 #include <quorvel/report/texto.h>
 #include <quorvel/report/venta.h>
 
+#include "report/pagina.h"
 #include "report/secciones.h"
 
 namespace efv::report {
 
 namespace {
+
+constexpr const char *kTituloEnergia = "Energía y precio", *kTituloAnos = "Año a año";
 
 using R = CSFVCalculoEconomico;
 
@@ -73,7 +76,7 @@ std::string Recuperado(const EstudioVenta& resultado)
 
 Seccion SeccionEnergia(const R& e)
 {
-    Seccion seccion("Energía y precio");
+    Seccion seccion(kTituloEnergia);
     seccion.datos = {
         {"Potencia del generador", Con(e.dPotenciaGenerador, 0, "W")},
         {"Energía anual antes del performance ratio", Con(e.dEnergiaBase, 2, "kWh")},
@@ -113,8 +116,7 @@ Seccion SeccionFinanciacion(const R& e)
 Seccion SeccionAnos(const EstudioVenta& resultado)
 {
     const R& e = resultado.estudio;
-    Seccion seccion("Año a año");
-    seccion.bPaginaNueva = true;
+    Seccion seccion(kTituloAnos);
     seccion.datos = {
         {"Años del estudio", Decimal(e.dAniosEstudio, 2)},
         {"Tasa interna de retorno", Tasa(resultado)},
@@ -173,25 +175,41 @@ std::vector<Dato> Resumen(const EstudioVenta& resultado)
 
 }  // namespace
 
-std::vector<std::string> Supuestos(const ProyectoVenta& proyecto, const EstudioVenta& resultado)
+namespace {
+
+std::vector<Supuesto> SupuestosConSeccion(const ProyectoVenta& proyecto, const R& e)
 {
-    std::vector<std::string> supuestos = {
+    std::vector<Supuesto> supuestos;
+    const auto anadir = [&](std::string texto, const char* seccion) {
+        Supuesto supuesto{std::move(texto), seccion};
+        supuestos.push_back(std::move(supuesto));
+    };
+    anadir(
         "El coste entero es el desembolso del año 0 y las cuotas del préstamo restan además de cada flujo: la "
         "tasa interna de retorno cuenta dos veces lo financiado y queda por debajo de la del proyecto.",
+        kTituloAnos);
+    anadir(
         "Cada año la energía es la del anterior menos el envejecimiento y el precio el del anterior más su "
         "variación. Sin impuestos ni inflación.",
-    };
-    if (proyecto.EnergiaDada())
-        supuestos.emplace_back("La energía del año es la que da el fichero.");
-    else {
-        supuestos.emplace_back(
+        kTituloAnos);
+    if (proyecto.EnergiaDada()) {
+        anadir("La energía del año es la que da el fichero.", kTituloEnergia);
+    } else {
+        anadir(
             "Energía del año: radiación sobre el plano por el factor K de la tabla × potencia, en un año de "
-            "365 "
-            "días, para un campo orientado al ecuador y sin sombras; después, el performance ratio.");
+            "365 días, para un campo orientado al ecuador y sin sombras; después, el performance ratio.",
+            kTituloEnergia);
     }
-    if (const std::string porDefecto = PorDefecto(proyecto, resultado.estudio); !porDefecto.empty())
-        supuestos.push_back("Valores por defecto: " + porDefecto + ".");
+    if (const std::string porDefecto = PorDefecto(proyecto, e); !porDefecto.empty())
+        anadir("Valores por defecto: " + porDefecto + ".", "");
     return supuestos;
+}
+
+}  // namespace
+
+std::vector<std::string> Supuestos(const ProyectoVenta& proyecto, const EstudioVenta& resultado)
+{
+    return TextosDe(SupuestosConSeccion(proyecto, resultado.estudio));
 }
 
 Documento EscribirDocumento(const ProyectoVenta& proyecto, const EstudioVenta& resultado,
@@ -201,6 +219,7 @@ Documento EscribirDocumento(const ProyectoVenta& proyecto, const EstudioVenta& r
     Documento documento;
     documento.titulo = "Venta a la red de una instalación solar fotovoltaica";
     documento.proyecto = proyecto.titulo;
+    documento.portada = proyecto.portada;
     documento.resumen = Resumen(resultado);
     documento.avisos = std::move(avisos);
     if (proyecto.lugar)
@@ -210,7 +229,7 @@ Documento EscribirDocumento(const ProyectoVenta& proyecto, const EstudioVenta& r
     documento.secciones.push_back(SeccionAnos(resultado));
     if (!e.aEnergiaMes.IsEmpty())
         documento.secciones.push_back(SeccionMesesVenta(e));
-    documento.supuestos = Supuestos(proyecto, resultado);
+    documento.supuestos = SupuestosConSeccion(proyecto, e);
     return documento;
 }
 

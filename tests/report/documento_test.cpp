@@ -40,7 +40,7 @@ Documento Ejemplo()
     Seccion pagina("Fichas");
     pagina.bSoloPagina = true;
     documento.secciones.push_back(pagina);
-    documento.supuestos = {"Se supone."};
+    documento.supuestos.emplace_back("Se supone.");
     return documento;
 }
 
@@ -62,12 +62,40 @@ TEST(DocumentoHtml, EsUnaPaginaConSusPartes)
 {
     const std::string html = DocumentoHtml(Ejemplo(), "1-2-2028");
     for (const char* parte :
-         {"<title>&lt;proyecto&gt; · Título</title>", "<p>&lt;proyecto&gt; · 1-2-2028</p>",
+         {"<title>&lt;proyecto&gt; · Título</title>",
+          "<dt>Proyecto</dt><dd>&lt;proyecto&gt;</dd>\n<dt>Fecha</dt><dd>1-2-2028</dd>",
           "<div><dt>Potencia</dt><dd>5 kWp</dd></div>",
           "<li><strong class=\"falta\">Atención:</strong> Falta algo.</li>\n<li>Se sabe.</li>",
           "<td class=\"n\"><span class=\"falta\">700 V (fuera)</span></td>",
           "<tr class=\"total\"><th scope=\"row\">Total</th><td class=\"n\">10,0</td></tr>", "Fichas</h2>"})
         EXPECT_NE(html.find(parte), std::string::npos) << parte;
+}
+
+// For a customer: neither what wasn't taken nor how the program calls things.
+TEST(DocumentoHtml, CallaLoQueEsDelAutor)
+{
+    Documento documento = Ejemplo();
+    documento.avisos.push_back({false, "Fije «dInclinacion».", std::string()});
+    Seccion& seccion = documento.secciones.front();
+    seccion.datos.push_back({"Panel", "Marca#Modelo"});
+    seccion.datos.back().enPagina = "Marca Modelo";
+    seccion.datos.push_back({"Otra", "2 × 9"});
+    seccion.datos.back().enPagina.emplace();
+    seccion.cuadros.front().bModelos = true;
+    seccion.cuadros.front().filas.front() = {"Familia#Lámpara", "1234567,5"};
+    documento.supuestos.emplace_back("Se cuenta así.", "Datos");
+    const std::string html = DocumentoHtml(documento, "");
+    for (const char* callado : {"35°", "Propuesta", "dInclinacion", "Marca#", "Familia", "Otra", "2 × 9"})
+        EXPECT_EQ(html.find(callado), std::string::npos) << callado;
+    const std::size_t iDatos = html.find("<h2 id=\"s1\">Datos"), iFichas = html.find("<h2 id=\"s2\">Fichas");
+    const std::size_t iSupuesto = html.find("Se cuenta así."), iSuelto = html.find("Se supone.");
+    EXPECT_LT(iDatos, iSupuesto);
+    EXPECT_LT(iSupuesto, iFichas);
+    EXPECT_LT(iFichas, iSuelto);
+    EXPECT_NE(html.find(">1\u00A0234\u00A0567,5<"), std::string::npos);
+    const std::string texto = DocumentoTexto(documento);
+    for (const char* dicho : {"propuesta 35°", "Fije «dInclinacion».", "Marca#Modelo", "2 × 9", "1234567,5"})
+        EXPECT_NE(texto.find(dicho), std::string::npos) << dicho;
 }
 
 }  // namespace

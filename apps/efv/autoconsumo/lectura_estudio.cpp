@@ -33,6 +33,15 @@ constexpr double kMucho = 1e9;
 /// Spain lies between the Canary and the Balearic Islands, degrees of longitude.
 constexpr double kOesteDeEspana = -19.0, kEsteDeEspana = 5.0;
 
+// A text that names a file, without its folders.
+std::string SinCarpeta(std::string texto, const std::string& ruta)
+{
+    const std::size_t i = ruta.empty() ? std::string::npos : texto.find(ruta);
+    if (i != std::string::npos)
+        texto.replace(i, ruta.size(), std::filesystem::path(ruta).filename().string());
+    return texto;
+}
+
 std::string RutaJunto(const std::string& estudio, const std::string& fichero)
 {
     if (fichero == "-" || fs::path(fichero).is_absolute())
@@ -86,12 +95,23 @@ public:
         return texto;
     }
 
-    /// @param nombre of the member that says it; null for what nobody said
+    /// @param nombre of the member that says it, which pages don't tell; null for what nobody said
     void Anotar(const std::string& rotulo, const std::string& valor, const char* nombre)
     {
         const std::string origen =
             nombre != nullptr ? fmt::format("{}{}", m_prefijo, nombre) : std::string("por defecto");
-        m_proyecto.entradas.emplace_back(rotulo, fmt::format("{} ({})", valor, origen));
+        report::Dato dato(rotulo, fmt::format("{} ({})", valor, origen));
+        if (nombre != nullptr)
+            dato.enPagina = valor;
+        m_proyecto.entradas.push_back(std::move(dato));
+    }
+    /// The same of a text that names a file; pages name it without its folders.
+    void AnotarDeFichero(const std::string& rotulo, const std::string& valor, const std::string& ruta,
+                         const char* nombre)
+    {
+        Anotar(rotulo, valor, nombre);
+        if (nombre != nullptr)
+            m_proyecto.entradas.back().enPagina = SinCarpeta(valor, ruta);
     }
 
 private:
@@ -137,8 +157,8 @@ void LeerCampo(Lector& lector, ProyectoAutoconsumo& p)
                 double d = 0.0;
                 EnObjeto(perdida.key().c_str(), [&] { d = LeerNumero(perdida.value(), {0.0, 99.0}); });
                 p.dRendimiento *= 1.0 - d / 100.0;
-                p.entradas.emplace_back(fmt::format("Pérdida: {}", EnUnaLinea(perdida.key())),
-                                        fmt::format("{} % (perdidas)", DecimalExacto(d)));
+                lector.Anotar(fmt::format("Pérdida: {}", EnUnaLinea(perdida.key())), DecimalExacto(d) + " %",
+                              "perdidas");
             }
         });
     } else {
@@ -192,8 +212,10 @@ AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const 
     Lector lector(json, "consumo.", p);
     AnoConsumo ano;
     const char* origen = nullptr;
+    std::string ruta;
     if (const auto fichero = lector.Texto("fichero")) {
-        ano = ConsumoDeFichero(lector, RutaJunto(estudio, *fichero), opciones);
+        ruta = RutaJunto(estudio, *fichero);
+        ano = ConsumoDeFichero(lector, ruta, opciones);
         origen = "fichero";
     } else if (lector.Buscar("patron") != nullptr) {
         double dPatron = 0.0;
@@ -202,7 +224,8 @@ AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const 
         ano = AnoDePatron(static_cast<int>(dPatron), dPotencia);
         origen = "patron";
     } else if (const auto receptores = lector.Texto("receptores")) {
-        ano = AnoDeListaDeReceptores(RutaJunto(estudio, *receptores));
+        ruta = RutaJunto(estudio, *receptores);
+        ano = AnoDeListaDeReceptores(ruta);
         origen = "receptores";
     } else if (const JsonLeido* horas = lector.Buscar("horas"); horas != nullptr) {
         EnObjeto("horas", [&] {
@@ -227,7 +250,8 @@ AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const 
             d *= dPedida / dEnergia;
     }
     lector.ElObjeto().Terminar();
-    lector.Anotar("Consumo", fmt::format("{}, {} kWh", EnUnaLinea(ano.origen), Decimal(dEnergia, 1)), origen);
+    lector.AnotarDeFichero("Consumo", fmt::format("{}, {} kWh", EnUnaLinea(ano.origen), Decimal(dEnergia, 1)),
+                           ruta, origen);
     if (!ano.contador)
         return economics::DiasDeUnAno(kAnoDeReferencia);
     p.notas.insert(p.notas.end(), ano.contador->notas.begin(), ano.contador->notas.end());
@@ -239,7 +263,7 @@ void LeerExcedente(Lector& lector, const std::string& estudio, PedidoTarifa& ped
     const JsonLeido* excedente = lector.Buscar("excedente");
     if (excedente != nullptr && excedente->is_string()) {
         pedido.excedentes = RutaJunto(estudio, excedente->get<std::string>());
-        lector.Anotar("Precio del excedente", pedido.excedentes, "excedente");
+        lector.AnotarDeFichero("Precio del excedente", pedido.excedentes, pedido.excedentes, "excedente");
         return;
     }
     pedido.dExcedente = 0.0;
@@ -256,7 +280,7 @@ void LeerPrecios(const JsonLeido& json, const std::string& estudio,
     PedidoTarifa pedido;
     const auto tarifa = lector.Texto("tarifa");
     pedido.tarifa = tarifa.value_or(pedido.tarifa);
-    lector.Anotar("Tarifa", pedido.tarifa, tarifa ? "tarifa" : nullptr);
+    lector.AnotarDeFichero("Tarifa", pedido.tarifa, pedido.tarifa, tarifa ? "tarifa" : nullptr);
     if (!EsTarifaPropia(pedido.tarifa))
         pedido.tarifa = RutaJunto(estudio, pedido.tarifa);
     pedido.zona = lector.Texto("zona").value_or(pedido.zona);
@@ -422,6 +446,7 @@ EstudioLeido LeerEstudio(const JsonLeido& json, const std::string& ruta, const s
     ProyectoAutoconsumo& p = leido.proyecto;
     Lector lector(json, "", p);
     LeerCabecera(lector.ElObjeto(), "autoconsumo", p.titulo);
+    p.portada = LeerPortada(lector.ElObjeto());
     p.lugar = LeerLugar(lector.ElObjeto(), csDatos, true);
     const OpcionesAno reloj = LeerRelojDelLugar(lector, p);
     LeerCampo(lector, p);

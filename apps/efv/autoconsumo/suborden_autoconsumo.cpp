@@ -59,6 +59,8 @@ constexpr const char* kPie =
     "\"autoconsumo\" o\n"
     "                      \"arbitraje\", \"costeDegradacion\": 0}\n"
     "  titulo              nombre del estudio en el informe\n"
+    "  portada             {\"cliente\", \"direccion\", \"autor\", \"firma\"} de su portada; lo que falta no "
+    "sale\n"
     "Ejemplos:\n"
     "  efv autoconsumo casa-autoconsumo.json --informe casa.html\n"
     "  efv autoconsumo casa-autoconsumo.json --barrido 1..15 --svg barrido.svg";

@@ -96,6 +96,7 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
     Objeto objeto(j);
     ProyectoAislada proyecto;
     LeerCabecera(objeto, "aislada", proyecto.titulo);
+    proyecto.portada = LeerPortada(objeto);
     proyecto.lugar = LeerLugar(objeto, csDatos, true);
     proyecto.planos = LeerPlanos(objeto);
     proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);

@@ -205,6 +205,28 @@ void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo)
         rpc::NombrarLugar([] { return "tipo"; }, [&] { rpc::Esperaba(fmt::format("\"{}\"", tipo), *j); });
 }
 
+report::DatosPortada LeerPortada(Objeto& proyecto)
+{
+    report::DatosPortada portada;
+    const JsonLeido* j = proyecto.Buscar("portada");
+    if (j == nullptr)
+        return portada;
+    rpc::NombrarLugar([] { return "portada"; },
+                      [&] {
+                          Objeto objeto(*j);
+                          for (const auto& [nombre, texto] : {std::pair("cliente", &portada.cliente),
+                                                              {"direccion", &portada.direccion},
+                                                              {"autor", &portada.autor},
+                                                              {"firma", &portada.firma}}) {
+                              if (const JsonLeido* valor = objeto.Buscar(nombre))
+                                  rpc::NombrarLugar([&] { return nombre; },
+                                                    [&] { *texto = LeerTexto(*valor); });
+                          }
+                          objeto.Terminar();
+                      });
+    return portada;
+}
+
 int LeerMes(const JsonLeido& j, int iUltimo)
 {
     if (j.is_number())

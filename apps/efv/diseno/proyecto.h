@@ -46,6 +46,10 @@ std::set<std::string> LeerCampos(Objeto& objeto, CObject& registro, std::span<co
 /// What every project has: `titulo`, and `tipo`, which must be that of the command when it is there.
 void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo);
 
+/// `portada`, {"cliente", "direccion", "autor", "firma"} of the report's cover, each one optional.
+/// @throws rpc::ErrorValor
+report::DatosPortada LeerPortada(Objeto& proyecto);
+
 /// The model that the project names, its full identification written into `csId`.
 template <class M>
 const M& ElegirModelo(Objeto& proyecto, std::string_view campo, const CatalogoDatos& catalogo, CString& csId)

@@ -37,6 +37,7 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     Objeto objeto(j);
     ProyectoRed proyecto;
     LeerCabecera(objeto, "red", proyecto.titulo);
+    proyecto.portada = LeerPortada(objeto);
     proyecto.lugar = LeerLugar(objeto, csDatos, false);
     proyecto.planos = LeerPlanos(objeto);
     proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);

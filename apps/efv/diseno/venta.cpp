@@ -66,6 +66,7 @@ ProyectoVenta LeerProyecto(const JsonLeido& j, const std::string& csDatos)
     Objeto objeto(j);
     ProyectoVenta proyecto;
     LeerCabecera(objeto, "venta", proyecto.titulo);
+    proyecto.portada = LeerPortada(objeto);
     proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);
     if (objeto.Buscar("lugar") != nullptr || objeto.Buscar("latitud") != nullptr || !proyecto.EnergiaDada())
         proyecto.lugar = LeerLugar(objeto, csDatos, !proyecto.EnergiaDada());

@@ -25,6 +25,7 @@ struct EFV_API CosteAutoconsumo {
 
 struct ProyectoAutoconsumo {
     std::string titulo;
+    DatosPortada portada;
     LugarDiseno lugar;
     PlanosDiseno planos;              ///< at least one
     double dPotencia = 0.0;           ///< kWp

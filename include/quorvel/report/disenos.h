@@ -15,6 +15,7 @@
 #include <quorvel/report/cableado.h>
 #include <quorvel/report/documento.h>
 #include <quorvel/report/equipos.h>
+#include <quorvel/report/esquema.h>
 #include <quorvel/solar/energia.h>
 #include <quorvel/solar/planos.h>
 
@@ -53,11 +54,12 @@ struct TemperaturasCelulas {
 
 struct ProyectoAislada {
     std::string titulo;
+    DatosPortada portada;
     LugarDiseno lugar;
     CSFVAsistenteAislada registro;
     std::set<std::string> fijados;  ///< fields of the record that the project gives
     CObArrayPropio<CSFVDataReceptor> receptores;
-    std::vector<std::string> notas;  ///< what must be known of the project besides
+    std::vector<std::string> notas;  ///< what must be known of the project's file; not on pages
     CriteriosCableado cableado;
     PlanosDiseno planos;
     // Catalogue models, which outlive it.
@@ -88,6 +90,9 @@ EFV_API EstudioAislada Calcular(ProyectoAislada& proyecto, const CBaseFactorK& t
 /// Where a value in force falls short or a limit is passed, and what else must be known.
 EFV_API std::vector<Aviso> Avisos(const ProyectoAislada& proyecto, const EstudioAislada& estudio);
 
+/// The schematic of the values in force.
+EFV_API Esquema EsquemaDe(const ProyectoAislada& proyecto, const EstudioAislada& estudio);
+
 EFV_API Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislada& estudio,
                                     std::vector<Aviso> avisos);
 
@@ -97,10 +102,11 @@ EFV_API Documento EscribirDocumento(const ProyectoAislada& proyecto, const Estud
 
 struct ProyectoRed {
     std::string titulo;
+    DatosPortada portada;
     LugarDiseno lugar;
     CSFVAsistenteRed registro;
     std::set<std::string> fijados;   ///< fields of the record that the project gives
-    std::vector<std::string> notas;  ///< what must be known of the project besides
+    std::vector<std::string> notas;  ///< what must be known of the project's file; not on pages
     CriteriosCableado cableado;
     PlanosDiseno planos;
     // Catalogue models, which outlive it.
@@ -127,6 +133,7 @@ EFV_API ProyectoRed ProyectoDe(const CSFVAsistenteRed& diseno, const Catalogos& 
 
 EFV_API EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla);
 EFV_API std::vector<Aviso> Avisos(const ProyectoRed& proyecto, const EstudioRed& estudio);
+EFV_API Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio);
 EFV_API Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estudio,
                                     std::vector<Aviso> avisos);
 

@@ -1,11 +1,15 @@
-// A design or study told as a document, for the terminal and as a page: one text, two forms.
+// A design or study told as a document: for the terminal, where its author works, and as pages for whoever it
+// is made for. Pages leave out what only the author needs: proposals not taken, names of fields, marks of
+// models.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include <quorvel/exportar.h>
+#include <quorvel/report/lamina.h>
 #include <quorvel/ui/grafica.h>
 
 namespace efv::report {
@@ -16,6 +20,8 @@ struct Dato {
     std::string valor;      ///< in force, with its unit
     std::string propuesta;  ///< empty when there is none
     bool bFalta = false;    ///< the value in force falls short or goes too far
+    /// What pages say in the value's place; empty: they leave the row out.
+    std::optional<std::string> enPagina = {};
 
     Dato(std::string csRotulo, std::string csValor, std::string csPropuesta = {}, bool bFueraDeLimite = false)
         : rotulo(std::move(csRotulo)),
@@ -30,17 +36,19 @@ struct Cuadro {
     std::string titulo;
     std::vector<std::pair<std::string, bool>> columnas;  ///< heading; whether it holds numbers
     std::vector<std::vector<std::string>> filas;
-    bool bTotal = false;  ///< the last row sums the others up
+    bool bTotal = false;    ///< the last row sums the others up
+    bool bModelos = false;  ///< the first column holds identifications of models
 };
 
 struct Seccion {
     std::string titulo;
     std::vector<Dato> datos;
     std::vector<Cuadro> cuadros;
-    std::vector<CCtrlCurva2D> graficas;  ///< on the page only
+    std::vector<CCtrlCurva2D> graficas;  ///< on pages only
+    std::vector<Lamina> laminas;         ///< on pages only
     std::vector<std::string> notas;
-    bool bSoloPagina = false;  ///< too long for a terminal
-    bool bPaginaNueva = false;
+    std::vector<std::string> fuentes;  ///< where its figures come from; on pages only
+    bool bSoloPagina = false;          ///< too long for a terminal
 
     explicit Seccion(std::string csTitulo) : titulo(std::move(csTitulo)) {}
 };
@@ -48,19 +56,42 @@ struct Seccion {
 struct Aviso {
     bool bFalta;  ///< else something to know
     std::string texto;
+    std::optional<std::string> enPagina = {};  ///< what pages say in its place; empty: they leave it out
+};
+
+/// What is taken for granted.
+struct Supuesto {
+    std::string texto;
+    std::string seccion = {};  ///< title of the section beside whose figures pages say it; empty: by itself
+
+    /// @param csSeccion a title, or empty
+    Supuesto(std::string csTexto, std::string csSeccion = {})
+        : texto(std::move(csTexto)), seccion(std::move(csSeccion))
+    {
+    }
+};
+
+/// What a cover says besides the title; what is empty is left out.
+struct DatosPortada {
+    std::string cliente, direccion, autor;
+    std::string firma;  ///< who signs, e.g. with their number of the college
+
+    bool operator==(const DatosPortada&) const = default;
 };
 
 struct Documento {
     std::string titulo;
     std::string proyecto;  ///< as its author calls it; may be empty
+    DatosPortada portada;
     std::vector<Dato> resumen;
     std::vector<Aviso> avisos;
     std::vector<Seccion> secciones;
-    std::vector<std::string> supuestos;
+    std::vector<Supuesto> supuestos;
 };
 
 EFV_API std::string DocumentoTexto(const Documento& documento);
-/// A page of its own: styles and charts stand in it, and it prints on A4. @param fecha e.g. "3-2-2028"
+/// A page of its own: styles, charts and drawings stand in it, and it prints on A4 with a cover. @param fecha
+/// e.g. "3-2-2028"
 EFV_API std::string DocumentoHtml(const Documento& documento, const std::string& fecha);
 
 }  // namespace efv::report

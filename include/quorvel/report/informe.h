@@ -14,6 +14,7 @@ struct Portada {
     LugarDiseno lugar;
     PlanosDiseno planos = {};
     TemperaturasCelulas temperaturas = {};
+    DatosPortada datos = {};
 };
 
 /// The report of an accepted design: its document, warnings included.

@@ -14,11 +14,12 @@ namespace efv::report {
 
 struct ProyectoVenta {
     std::string titulo;
+    DatosPortada portada;
     std::optional<LugarDiseno> lugar;    ///< needed unless the energy is given
     std::optional<double> dInclinacion;  ///< of the panels toward the equator, degrees
     CSFVCalculoEconomico registro;       ///< its `dEnergiaBase` counts when it is among those fixed
     std::set<std::string> fijados;       ///< fields of the record that the project gives
-    std::vector<std::string> notas;      ///< what must be known of the project besides
+    std::vector<std::string> notas;      ///< what must be known of the project's file; not on pages
 
     double Inclinacion() const { return dInclinacion.value_or(30.0); }
     bool EnergiaDada() const { return fijados.contains("dEnergiaBase"); }
