@@ -9,6 +9,7 @@
 #include <quorvel/report/equipos.h>
 #include <quorvel/report/esquema.h>
 #include <quorvel/report/ficha.h>
+#include <quorvel/report/hojas.h>
 #include <quorvel/report/informe.h>
 #include <quorvel/report/lamina.h>
 #include <quorvel/report/texto.h>

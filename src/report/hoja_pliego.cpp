@@ -1,0 +1,51 @@
+#include "report/hoja_pliego.h"
+
+#include "report/hoja_dibujo.h"
+
+namespace efv::report {
+
+MedidorLetra::~MedidorLetra() = default;
+
+void Pliego::Saltar()
+{
+    impreso.hojas.emplace_back();
+    y = papel::kArriba;
+}
+
+void Pliego::Escribir(double x, double dBase, double dAncho, const CString& cs, Letra letra, ui::Color color,
+                      Lado lado)
+{
+    if (cs.empty())
+        return;
+    const double dParte = lado == Lado::izquierda ? 0.0 : lado == Lado::centro ? 0.5 : 1.0;
+    const double dLibre =
+        dParte == 0.0 ? 0.0 : dParte * (dAncho - medidor.Ancho(cs, letra.dCuerpo, letra.bNegrita));
+    Piezas().emplace_back(hoja::Texto{{x + dLibre, dBase}, cs, letra.dCuerpo, color, letra.bNegrita});
+}
+
+void Pliego::Raya(double x, double dAltura, double dAncho, ui::Color color, double dGrueso)
+{
+    Piezas().emplace_back(hoja::Forma{{{x, dAltura}, {x + dAncho, dAltura}}, std::nullopt, color, dGrueso});
+}
+
+void Pliego::Fondo(double x, double dArriba, double dAncho, double dAlto, ui::Color color)
+{
+    Piezas().emplace_back(hoja::Forma{Rectangulo({x, dArriba}, dAncho, dAlto), color, std::nullopt});
+}
+
+void Colocar(const Bloques& bloques, Pliego& pliego)
+{
+    for (std::size_t i = 0; i < bloques.size(); ++i) {
+        double dHace = 0.0;
+        for (std::size_t j = i; j < bloques.size(); ++j) {
+            dHace += bloques[j]->Minimo(pliego.Resto() - dHace);
+            if (!bloques[j]->ConElSiguiente())
+                break;
+        }
+        if (dHace > pliego.Resto() && pliego.y > papel::kArriba)
+            pliego.Saltar();
+        bloques[i]->Poner(pliego);
+    }
+}
+
+}  // namespace efv::report

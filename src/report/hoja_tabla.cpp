@@ -1,0 +1,172 @@
+#include "report/hoja_tabla.h"
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+
+namespace efv::report {
+
+namespace {
+
+constexpr std::array kCuerpos = {8.0, 7.5, 7.0, 6.5, 6.0, 5.5};
+constexpr double kEntreLineas = 1.28, kLado = 3.5, kAlto = 2.4;  // padding of a cell
+constexpr double kCuerpoTitulo = 8.5, kAltoTitulo = 15.0, kDetras = 9.0;
+constexpr double kParteEstrecha = 0.72;  // of the sheet, for captions with a value
+constexpr wchar_t kFijo = L'\xA0';
+
+bool EsNegrita(const FilaHoja& fila)
+{
+    return fila.bTotal || fila.bFalta;
+}
+
+}  // namespace
+
+BloqueTabla::BloqueTabla(TablaHoja tabla, const MedidorLetra& medidor) : m_tabla(std::move(tabla))
+{
+    // A number stays with its unit.
+    for (FilaHoja& fila : m_tabla.filas) {
+        fila.celdas.resize(m_tabla.columnas.size());
+        if (m_tabla.bCabecera) {
+            for (std::size_t c = 0; c < fila.celdas.size(); ++c)
+                if (m_tabla.columnas[c].bNumero)
+                    std::ranges::replace(fila.celdas[c], L' ', kFijo);
+        }
+    }
+    for (const double dCuerpo : kCuerpos)
+        if (Repartir(dCuerpo, medidor))
+            break;
+    if (m_tabla.bCabecera) {
+        std::vector<CString> rotulos;
+        for (const ColumnaHoja& columna : m_tabla.columnas)
+            rotulos.push_back(columna.csRotulo);
+        m_cabecera = Partir(rotulos, true, medidor);
+    }
+    m_filas.reserve(m_tabla.filas.size());
+    for (const FilaHoja& fila : m_tabla.filas)
+        m_filas.push_back(Partir(fila.celdas, EsNegrita(fila), medidor));
+}
+
+// Every column its longest word; what is left goes where whole cells ask for more, then to all alike. False
+// when the words alone are too wide.
+bool BloqueTabla::Repartir(double dCuerpo, const MedidorLetra& medidor)
+{
+    const std::size_t n = m_tabla.columnas.size();
+    m_dCuerpo = dCuerpo;
+    std::vector<double> minimos(n, 0.0), deseados(n, 0.0);
+    const auto contar = [&](std::size_t c, const CString& cs, bool bNegrita, bool bEntera) {
+        minimos[c] = std::max(minimos[c], AnchoDePalabra(cs, {dCuerpo, bNegrita}, medidor));
+        if (bEntera)
+            deseados[c] = std::max(deseados[c], medidor.Ancho(cs, dCuerpo, bNegrita));
+    };
+    for (std::size_t c = 0; c < n; ++c) {
+        if (m_tabla.bCabecera)
+            contar(c, m_tabla.columnas[c].csRotulo, true, false);
+        for (const FilaHoja& fila : m_tabla.filas)
+            contar(c, fila.celdas[c], EsNegrita(fila), true);
+        deseados[c] = std::max(deseados[c], minimos[c]);
+    }
+    const double dTotal = m_tabla.bCabecera ? papel::kAncho : kParteEstrecha * papel::kAncho;
+    const double dLibre = dTotal - 2 * kLado * static_cast<double>(n);
+    const double dMinimo = std::accumulate(minimos.begin(), minimos.end(), 0.0);
+    const double dDeseado = std::accumulate(deseados.begin(), deseados.end(), 0.0);
+    const bool bCabe = dMinimo <= dLibre;
+    const double dParte =
+        dDeseado <= dMinimo ? 0.0 : std::clamp((dLibre - dMinimo) / (dDeseado - dMinimo), 0.0, 1.0);
+    const double dReparto = std::max(0.0, dLibre - dDeseado) / static_cast<double>(std::max<std::size_t>(n, 1));
+    m_columnas.assign(n, {});
+    double x = papel::kIzquierda;
+    for (std::size_t c = 0; c < n; ++c) {
+        // Words too wide even for the smallest letters are broken.
+        const double dTexto =
+            bCabe ? minimos[c] + dParte * (deseados[c] - minimos[c]) + dReparto : minimos[c] * dLibre / dMinimo;
+        m_columnas[c] = {x, dTexto + 2 * kLado};
+        x += m_columnas[c].dAncho;
+    }
+    return bCabe;
+}
+
+BloqueTabla::Celdas BloqueTabla::Partir(const std::vector<CString>& celdas, bool bNegrita,
+                                        const MedidorLetra& medidor) const
+{
+    constexpr double kHolgura = 0.01;  // of sums of widths
+    Celdas partidas;
+    std::size_t nLineas = 1;
+    for (std::size_t c = 0; c < celdas.size(); ++c) {
+        partidas.lineas.push_back(
+            EnLineas(celdas[c], {m_dCuerpo, bNegrita}, m_columnas[c].dAncho - 2 * kLado + kHolgura, medidor));
+        nLineas = std::max(nLineas, partidas.lineas.back().size());
+    }
+    partidas.dAlto = 2 * kAlto + static_cast<double>(nLineas) * m_dCuerpo * kEntreLineas;
+    return partidas;
+}
+
+double BloqueTabla::AltoCabecera() const
+{
+    return (m_tabla.csTitulo.empty() ? 0.0 : kAltoTitulo) + (m_tabla.bCabecera ? m_cabecera.dAlto : 0.0);
+}
+
+// The last row doesn't stand alone on a sheet.
+double BloqueTabla::AltoConLaSiguiente(std::size_t nFila) const
+{
+    return m_filas[nFila].dAlto + (nFila + 2 == m_filas.size() ? m_filas.back().dAlto : 0.0);
+}
+
+double BloqueTabla::Minimo(double /*dResto*/) const
+{
+    constexpr std::size_t kFilasJuntas = 3;
+    double dAlto = AltoCabecera();
+    for (std::size_t f = 0; f < std::min(kFilasJuntas, m_filas.size()); ++f)
+        dAlto += f + 1 == kFilasJuntas ? AltoConLaSiguiente(f) : m_filas[f].dAlto;
+    return dAlto;
+}
+
+void BloqueTabla::PonerCabecera(Pliego& pliego, bool bContinua) const
+{
+    if (!m_tabla.csTitulo.empty()) {
+        pliego.Escribir(papel::kIzquierda, pliego.y + kCuerpoTitulo + 1.0, papel::kAncho,
+                        bContinua ? m_tabla.csTitulo + L" (continuación)" : m_tabla.csTitulo,
+                        {kCuerpoTitulo, true}, papel::kTinta);
+        pliego.Bajar(kAltoTitulo);
+    }
+    if (!m_tabla.bCabecera)
+        return;
+    pliego.Fondo(papel::kIzquierda, pliego.y, papel::kAncho, m_cabecera.dAlto, papel::kFondo);
+    PonerFila(pliego, m_cabecera, {m_dCuerpo, true}, papel::kTenue);
+}
+
+void BloqueTabla::PonerFila(Pliego& pliego, const Celdas& celdas, Letra letra, ui::Color color) const
+{
+    for (std::size_t c = 0; c < celdas.lineas.size(); ++c) {
+        double dBase = pliego.y + kAlto + m_dCuerpo * 0.95;
+        for (const CString& csLinea : celdas.lineas[c]) {
+            pliego.Escribir(m_columnas[c].x + kLado, dBase, m_columnas[c].dAncho - 2 * kLado, csLinea, letra,
+                            color,
+                            m_tabla.columnas[c].bNumero ? Pliego::Lado::derecha : Pliego::Lado::izquierda);
+            dBase += m_dCuerpo * kEntreLineas;
+        }
+    }
+    pliego.Bajar(celdas.dAlto);
+    const Columna& ultima = m_columnas.back();
+    pliego.Raya(papel::kIzquierda, pliego.y, ultima.x + ultima.dAncho - papel::kIzquierda, papel::kRaya);
+}
+
+void BloqueTabla::Poner(Pliego& pliego) const
+{
+    PonerCabecera(pliego, false);
+    for (std::size_t f = 0; f < m_filas.size(); ++f) {
+        if (f > 0 && AltoConLaSiguiente(f) > pliego.Resto()) {
+            pliego.Saltar();
+            PonerCabecera(pliego, true);
+        }
+        const FilaHoja& fila = m_tabla.filas[f];
+        if (fila.bTotal) {
+            const Columna& ultima = m_columnas.back();
+            pliego.Raya(papel::kIzquierda, pliego.y, ultima.x + ultima.dAncho - papel::kIzquierda,
+                        papel::kTenue, 0.9);
+        }
+        PonerFila(pliego, m_filas[f], {m_dCuerpo, EsNegrita(fila)}, fila.bFalta ? papel::kRojo : papel::kTinta);
+    }
+    pliego.Bajar(kDetras);
+}
+
+}  // namespace efv::report
