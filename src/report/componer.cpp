@@ -1,0 +1,278 @@
+// A document laid out on sheets.
+#include <quorvel/report/hojas.h>
+
+#include <fmt/format.h>
+
+#include "report/hoja_bloques.h"
+#include "report/hoja_tabla.h"
+#include "report/pagina.h"
+
+namespace efv::report {
+
+namespace {
+
+using Lado = Pliego::Lado;
+
+constexpr double kCuerpoPie = 7.5, kAlturaCabecera = 44.0, kAlturaPie = kAltoHoja - 36.0;
+constexpr double kCuerpoNota = 8.0;
+
+// ---------------------------------------------------------------------------------------------------
+// Cover and contents
+// ---------------------------------------------------------------------------------------------------
+
+// The cover has room for four lines of each.
+std::vector<CString> Primeras(std::vector<CString> lineas)
+{
+    constexpr std::size_t kLineas = 4;
+    if (lineas.size() > kLineas) {
+        lineas.resize(kLineas);
+        lineas.back() += L'…';
+    }
+    return lineas;
+}
+
+void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& pliego)
+{
+    constexpr double kCuerpoTitulo = 25.0, kRenglonTitulo = 31.0, kCuerpoDato = 10.5, kRenglonDato = 15.0;
+    constexpr double kAlturaTitulo = 215.0, kRotulos = 85.0, kAnchoFirma = 230.0, kAlturaFirma = 690.0;
+    pliego.y = kAlturaTitulo;
+    pliego.Fondo(papel::kIzquierda, pliego.y - kRenglonTitulo - 14.0, 64.0, 4.0, papel::kAzul);
+    for (const CString& csLinea :
+         EnLineas(EnHoja(documento.titulo), {kCuerpoTitulo, true}, papel::kAncho, pliego.medidor)) {
+        pliego.Escribir(papel::kIzquierda, pliego.y, papel::kAncho, csLinea, {kCuerpoTitulo, true},
+                        papel::kTinta);
+        pliego.Bajar(kRenglonTitulo);
+    }
+    pliego.Bajar(kRenglonTitulo);
+    for (const auto& [rotulo, texto] : DatosDePortada(documento, fecha)) {
+        pliego.Escribir(papel::kIzquierda, pliego.y, kRotulos, EnHoja(rotulo), {kCuerpoDato}, papel::kTenue);
+        for (const CString& csLinea :
+             Primeras(EnLineas(EnHoja(texto), {kCuerpoDato}, papel::kAncho - kRotulos, pliego.medidor))) {
+            pliego.Escribir(papel::kIzquierda + kRotulos, pliego.y, papel::kAncho, csLinea, {kCuerpoDato},
+                            papel::kTinta);
+            pliego.Bajar(kRenglonDato);
+        }
+        pliego.Bajar(4.0);
+    }
+    if (documento.portada.firma.empty())
+        return;
+    pliego.Raya(papel::kIzquierda, kAlturaFirma, kAnchoFirma, papel::kTinta, 0.7);
+    double dBase = kAlturaFirma + kRenglonDato;
+    for (const CString& csLinea : Primeras(EnLineas(EnHoja("Firma: " + documento.portada.firma), {kCuerpoDato},
+                                                    kAnchoFirma, pliego.medidor))) {
+        pliego.Escribir(papel::kIzquierda, dBase, kAnchoFirma, csLinea, {kCuerpoDato}, papel::kTinta);
+        dBase += kRenglonDato;
+    }
+}
+
+/// The contents: their lines stand before anybody knows the pages.
+class Indice {
+public:
+    Indice(std::size_t nLineas, Pliego& pliego)
+    {
+        constexpr double kTitular = 30.0;
+        pliego.Escribir(papel::kIzquierda, pliego.y + 14.0, papel::kAncho, L"Índice", {14.0, true},
+                        papel::kAzul);
+        pliego.Bajar(kTitular);
+        for (std::size_t i = 0; i < nLineas; ++i) {
+            if (kRenglon > pliego.Resto())
+                pliego.Saltar();
+            m_lineas.push_back({pliego.Numero(), pliego.y});
+            pliego.Bajar(kRenglon);
+        }
+        pliego.Bajar(kRenglon);
+    }
+
+    void Rellenar(Pliego& pliego) const
+    {
+        for (std::size_t i = 0; i < m_lineas.size(); ++i)
+            Rellenar(m_lineas[i], i, pliego);
+    }
+
+private:
+    static constexpr double kRenglon = 15.5;
+    struct Linea {
+        std::size_t nHoja;
+        double y;
+    };
+
+    static void Rellenar(const Linea& linea, std::size_t nTitular, Pliego& pliego)
+    {
+        const Titular& titular = pliego.impreso.titulares[nTitular];
+        const CString csTexto = EnHoja(titular.texto), csPagina = std::to_wstring(titular.nHoja + 1);
+        const double dBase = linea.y + papel::kCuerpo, dDerecha = papel::kIzquierda + papel::kAncho;
+        const double dDesde = papel::kIzquierda + pliego.medidor.Ancho(csTexto, papel::kCuerpo, false) + 5.0;
+        const double dPagina = dDerecha - pliego.medidor.Ancho(csPagina, papel::kCuerpo, false);
+        std::vector<Pieza>& piezas = pliego.impreso.hojas[linea.nHoja].piezas;
+        piezas.emplace_back(hoja::Texto{{papel::kIzquierda, dBase}, csTexto, papel::kCuerpo, papel::kTinta});
+        piezas.emplace_back(hoja::Texto{{dPagina, dBase}, csPagina, papel::kCuerpo, papel::kTinta});
+        if (dPagina - 5.0 > dDesde) {
+            piezas.emplace_back(hoja::Forma{
+                {{dDesde, dBase}, {dPagina - 5.0, dBase}}, std::nullopt, papel::kTenue, 0.5, {1.0, 3.0}});
+        }
+        piezas.emplace_back(
+            hoja::Enlace{{papel::kIzquierda, linea.y - 2.0}, papel::kAncho, kRenglon, nTitular});
+    }
+
+    std::vector<Linea> m_lineas;
+};
+
+// ---------------------------------------------------------------------------------------------------
+// Sections
+// ---------------------------------------------------------------------------------------------------
+
+template <class B, class... ARGUMENTOS>
+void Anadir(Bloques& bloques, ARGUMENTOS&&... argumentos)
+{
+    bloques.push_back(std::make_unique<B>(std::forward<ARGUMENTOS>(argumentos)...));
+}
+
+TablaHoja TablaDe(const std::vector<Dato>& datos)
+{
+    TablaHoja tabla;
+    tabla.bCabecera = false;
+    tabla.columnas = {{CString(), false}, {CString(), true}};
+    for (const Dato& dato : DatosEnPagina(datos)) {
+        FilaHoja fila;
+        fila.celdas = {EnHoja(dato.rotulo), EnHoja(dato.bFalta ? dato.valor + " (fuera)" : dato.valor)};
+        fila.bFalta = dato.bFalta;
+        tabla.filas.push_back(std::move(fila));
+    }
+    return tabla;
+}
+
+TablaHoja TablaDe(const Cuadro& cuadro)
+{
+    TablaHoja tabla;
+    tabla.csTitulo = EnHoja(cuadro.titulo);
+    for (const auto& [titulo, bNumero] : cuadro.columnas)
+        tabla.columnas.push_back({EnHoja(titulo), bNumero});
+    for (std::size_t f = 0; f < cuadro.filas.size(); ++f) {
+        FilaHoja& fila = tabla.filas.emplace_back();
+        for (const std::string& celda : FilaEnPagina(cuadro, cuadro.filas[f]))
+            fila.celdas.push_back(EnHoja(celda));
+        fila.bTotal = cuadro.bTotal && f + 1 == cuadro.filas.size();
+    }
+    return tabla;
+}
+
+BloqueParrafo::Aspecto Nota()
+{
+    return {.color = papel::kTenue, .dCuerpo = kCuerpoNota};
+}
+
+BloqueParrafo::Aspecto Punto(ui::Color color, double dCuerpo)
+{
+    return {.dSangria = 10.0, .csMarca = L"·", .color = color, .dCuerpo = dCuerpo};
+}
+
+void AnadirSeccion(const Documento& documento, const Seccion& seccion, const MedidorLetra& medidor,
+                   Bloques& bloques)
+{
+    Anadir<BloqueTitular>(bloques, seccion.titulo);
+    for (const Lamina& lamina : seccion.laminas)
+        Anadir<BloqueLamina>(bloques, lamina);
+    if (TablaHoja datos = TablaDe(seccion.datos); !datos.filas.empty())
+        Anadir<BloqueTabla>(bloques, std::move(datos), medidor);
+    for (const CCtrlCurva2D& grafica : seccion.graficas)
+        Anadir<BloqueGrafica>(bloques, grafica);
+    for (const Cuadro& cuadro : seccion.cuadros)
+        Anadir<BloqueTabla>(bloques, TablaDe(cuadro), medidor);
+    for (const std::string& nota : seccion.notas)
+        Anadir<BloqueParrafo>(bloques, nota, Nota(), medidor);
+    for (const std::string& supuesto : SupuestosDe(documento, seccion))
+        Anadir<BloqueParrafo>(bloques, "Se supone: " + supuesto, Nota(), medidor);
+    for (const std::string& fuente : seccion.fuentes)
+        Anadir<BloqueParrafo>(bloques, "Fuente: " + fuente, Nota(), medidor);
+}
+
+void AnadirAvisos(const Documento& documento, const MedidorLetra& medidor, Bloques& bloques)
+{
+    Anadir<BloqueTitular>(bloques, "Avisos");
+    const std::vector<Aviso> avisos = AvisosEnPagina(documento.avisos);
+    for (const Aviso& aviso : avisos) {
+        Anadir<BloqueParrafo>(bloques, (aviso.bFalta ? "Atención: " : "") + aviso.texto,
+                              Punto(aviso.bFalta ? papel::kRojo : papel::kTinta, papel::kCuerpo), medidor);
+    }
+    if (avisos.empty())
+        Anadir<BloqueParrafo>(bloques, "Ninguno.", BloqueParrafo::Aspecto{}, medidor);
+}
+
+Bloques BloquesDe(const Documento& documento, const MedidorLetra& medidor)
+{
+    Bloques bloques;
+    if (!documento.resumen.empty()) {
+        Anadir<BloqueTitular>(bloques, "Resumen");
+        Anadir<BloqueResumen>(bloques, DatosEnPagina(documento.resumen), medidor);
+    }
+    AnadirAvisos(documento, medidor, bloques);
+    for (const Seccion& seccion : documento.secciones)
+        AnadirSeccion(documento, seccion, medidor, bloques);
+    const std::vector<std::string> supuestos = SupuestosSueltos(documento);
+    if (!supuestos.empty())
+        Anadir<BloqueTitular>(bloques, "Supuestos generales");
+    for (const std::string& supuesto : supuestos)
+        Anadir<BloqueParrafo>(bloques, supuesto, Punto(papel::kTinta, papel::kCuerpo), medidor);
+    return bloques;
+}
+
+std::size_t CuantosTitulares(const Documento& documento)
+{
+    return (documento.resumen.empty() ? 0 : 1) + 1 + documento.secciones.size() +
+           (SupuestosSueltos(documento).empty() ? 0 : 1);
+}
+
+// ---------------------------------------------------------------------------------------------------
+// Head and foot
+// ---------------------------------------------------------------------------------------------------
+
+// The first line of what may be long.
+CString Corto(const std::string& texto, double dAncho, const MedidorLetra& medidor)
+{
+    const std::vector<CString> lineas = EnLineas(EnHoja(texto), {kCuerpoPie}, dAncho, medidor);
+    return lineas.size() > 1 ? lineas.front() + L"…" : lineas.front();
+}
+
+void PonerCabeceras(const Documento& documento, const std::string& fecha, Impreso& impreso,
+                    const MedidorLetra& medidor)
+{
+    constexpr double kMedia = papel::kAncho / 2 - 10.0;
+    const CString csTitulo = Corto(documento.titulo, kMedia, medidor);
+    const CString csProyecto = Corto(documento.proyecto, kMedia, medidor);
+    const CString csPie = EnHoja(Programa() + (fecha.empty() ? "" : " · " + fecha));
+    const double dDerecha = papel::kIzquierda + papel::kAncho;
+    for (std::size_t i = 1; i < impreso.hojas.size(); ++i) {
+        std::vector<Pieza>& piezas = impreso.hojas[i].piezas;
+        const auto escribir = [&](const CString& cs, double dBase, bool bDerecha) {
+            const double x = bDerecha ? dDerecha - medidor.Ancho(cs, kCuerpoPie, false) : papel::kIzquierda;
+            piezas.emplace_back(hoja::Texto{{x, dBase}, cs, kCuerpoPie, papel::kTenue});
+        };
+        escribir(csTitulo, kAlturaCabecera, false);
+        escribir(csProyecto, kAlturaCabecera, true);
+        piezas.emplace_back(
+            hoja::Forma{{{papel::kIzquierda, kAlturaCabecera + 5.0}, {dDerecha, kAlturaCabecera + 5.0}},
+                        std::nullopt,
+                        papel::kRaya});
+        escribir(csPie, kAlturaPie, false);
+        escribir(EnHoja(fmt::format("Página {} de {}", i + 1, impreso.hojas.size())), kAlturaPie, true);
+    }
+}
+
+}  // namespace
+
+Impreso Componer(const Documento& documento, const std::string& fecha, const MedidorLetra& medidor)
+{
+    Pliego pliego(medidor);
+    pliego.impreso.titulo =
+        documento.proyecto.empty() ? documento.titulo : documento.proyecto + " · " + documento.titulo;
+    pliego.impreso.autor = documento.portada.autor;
+    PonerPortada(documento, fecha, pliego);
+    pliego.Saltar();
+    const Indice indice(CuantosTitulares(documento), pliego);
+    Colocar(BloquesDe(documento, medidor), pliego);
+    indice.Rellenar(pliego);
+    PonerCabeceras(documento, fecha, pliego.impreso, medidor);
+    return std::move(pliego.impreso);
+}
+
+}  // namespace efv::report

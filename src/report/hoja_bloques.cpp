@@ -1,0 +1,148 @@
+#include "report/hoja_bloques.h"
+
+#include <algorithm>
+
+#include "report/hoja_dibujo.h"
+
+namespace efv::report {
+
+namespace {
+
+constexpr double kAntesTitular = 12.0, kCuerpoTitular = 13.0, kAltoTitular = 26.0;
+constexpr double kAltoGrafica = 185.0, kAltoGraficaMinimo = 140.0, kTrasFigura = 10.0;
+constexpr double kPuntosPorPixel = 0.75, kAltoLaminaMaximo = 430.0, kMenguaLamina = 0.92;
+constexpr std::size_t kFichasPorFila = 3;
+constexpr double kEntreFichas = 8.0, kCuerpoRotulo = 7.5, kCuerpoValor = 11.0, kLadoFicha = 8.0;
+constexpr double kAnchoFicha = (papel::kAncho - static_cast<double>(kFichasPorFila - 1) * kEntreFichas) /
+                               static_cast<double>(kFichasPorFila);
+
+}  // namespace
+
+double BloqueTitular::Minimo(double /*dResto*/) const
+{
+    return kAntesTitular + kAltoTitular;
+}
+
+void BloqueTitular::Poner(Pliego& pliego) const
+{
+    if (pliego.y > papel::kArriba)
+        pliego.Bajar(kAntesTitular);
+    pliego.impreso.titulares.push_back({m_texto, pliego.Numero(), pliego.y});
+    pliego.Escribir(papel::kIzquierda, pliego.y + kCuerpoTitular, papel::kAncho, EnHoja(m_texto),
+                    {kCuerpoTitular, true}, papel::kAzul);
+    pliego.Raya(papel::kIzquierda, pliego.y + kAltoTitular - 7.0, papel::kAncho, papel::kRaya, 0.8);
+    pliego.Bajar(kAltoTitular);
+}
+
+BloqueParrafo::BloqueParrafo(const std::string& texto, Aspecto aspecto, const MedidorLetra& medidor)
+    : m_aspecto(std::move(aspecto)),
+      m_lineas(EnLineas(EnHoja(texto), {m_aspecto.dCuerpo}, papel::kAncho - m_aspecto.dSangria, medidor))
+{
+}
+
+double BloqueParrafo::Renglon() const
+{
+    return papel::kRenglon * m_aspecto.dCuerpo / papel::kCuerpo;
+}
+
+double BloqueParrafo::Minimo(double /*dResto*/) const
+{
+    constexpr std::size_t kJuntas = 6;
+    return static_cast<double>(std::min(kJuntas, m_lineas.size())) * Renglon();
+}
+
+void BloqueParrafo::Poner(Pliego& pliego) const
+{
+    for (std::size_t i = 0; i < m_lineas.size(); ++i) {
+        if (Renglon() > pliego.Resto())
+            pliego.Saltar();
+        const double dBase = pliego.y + m_aspecto.dCuerpo;
+        if (i == 0)
+            pliego.Escribir(papel::kIzquierda, dBase, papel::kAncho, m_aspecto.csMarca, {m_aspecto.dCuerpo},
+                            m_aspecto.color);
+        pliego.Escribir(papel::kIzquierda + m_aspecto.dSangria, dBase, papel::kAncho, m_lineas[i],
+                        {m_aspecto.dCuerpo}, m_aspecto.color);
+        pliego.Bajar(Renglon());
+    }
+    pliego.Bajar(m_aspecto.dDetras);
+}
+
+double BloqueGrafica::Minimo(double dResto) const
+{
+    return dResto >= kAltoGraficaMinimo ? std::min(dResto, kAltoGrafica) : kAltoGrafica;
+}
+
+void BloqueGrafica::Poner(Pliego& pliego) const
+{
+    const double dAlto = std::min(pliego.Resto(), kAltoGrafica);
+    PonerGrafica(pliego.Piezas(), m_grafica, {papel::kIzquierda, pliego.y}, papel::kAncho, dAlto,
+                 pliego.medidor);
+    pliego.Bajar(dAlto + kTrasFigura);
+}
+
+BloqueLamina::BloqueLamina(const Lamina& lamina)
+    : m_lamina(lamina),
+      m_dEscala(
+          lamina.dAncho > 0.0 && lamina.dAlto > 0.0
+              ? std::min({kPuntosPorPixel, papel::kAncho / lamina.dAncho, kAltoLaminaMaximo / lamina.dAlto})
+              : 0.0)
+{
+}
+
+double BloqueLamina::Minimo(double dResto) const
+{
+    const double dAlto = m_lamina.dAlto * m_dEscala;
+    return dResto >= kMenguaLamina * dAlto ? std::min(dResto, dAlto) : dAlto;
+}
+
+void BloqueLamina::Poner(Pliego& pliego) const
+{
+    if (m_dEscala <= 0.0)
+        return;
+    const double dEscala = std::min(m_dEscala, pliego.Resto() / m_lamina.dAlto);
+    const double dLibre = papel::kAncho - m_lamina.dAncho * dEscala;
+    PonerLamina(pliego.Piezas(), m_lamina, {papel::kIzquierda + dLibre / 2, pliego.y}, dEscala, pliego.medidor);
+    pliego.Bajar(m_lamina.dAlto * dEscala + kTrasFigura);
+}
+
+BloqueResumen::BloqueResumen(const std::vector<Dato>& datos, const MedidorLetra& medidor)
+{
+    std::size_t nLineas = 1;
+    for (const Dato& dato : datos) {
+        Ficha ficha{EnHoja(dato.rotulo), {}, dato.bFalta};
+        ficha.valor = EnLineas(EnHoja(dato.bFalta ? dato.valor + " (fuera)" : dato.valor), {kCuerpoValor, true},
+                               kAnchoFicha - 2 * kLadoFicha, medidor);
+        nLineas = std::max(nLineas, ficha.valor.size());
+        m_fichas.push_back(std::move(ficha));
+    }
+    m_dAlto = 20.0 + static_cast<double>(nLineas) * kCuerpoValor * 1.3;
+}
+
+double BloqueResumen::Minimo(double /*dResto*/) const
+{
+    const std::size_t nFilas = (m_fichas.size() + kFichasPorFila - 1) / kFichasPorFila;
+    return static_cast<double>(nFilas) * (m_dAlto + kEntreFichas);
+}
+
+void BloqueResumen::Poner(Pliego& pliego) const
+{
+    for (std::size_t i = 0; i < m_fichas.size(); ++i) {
+        const Ficha& ficha = m_fichas[i];
+        const double x =
+            papel::kIzquierda + static_cast<double>(i % kFichasPorFila) * (kAnchoFicha + kEntreFichas);
+        pliego.Fondo(x, pliego.y, kAnchoFicha, m_dAlto, papel::kFondo);
+        pliego.Fondo(x, pliego.y, 3.0, m_dAlto, papel::kAzul);
+        pliego.Escribir(x + kLadoFicha, pliego.y + 12.0, kAnchoFicha, ficha.csRotulo, {kCuerpoRotulo},
+                        papel::kTenue);
+        double dBase = pliego.y + 12.0 + kCuerpoValor * 1.25;
+        for (const CString& csLinea : ficha.valor) {
+            pliego.Escribir(x + kLadoFicha, dBase, kAnchoFicha, csLinea, {kCuerpoValor, true},
+                            ficha.bFalta ? papel::kRojo : papel::kTinta);
+            dBase += kCuerpoValor * 1.3;
+        }
+        if (i % kFichasPorFila + 1 == kFichasPorFila || i + 1 == m_fichas.size())
+            pliego.Bajar(m_dAlto + kEntreFichas);
+    }
+}
+
+}  // namespace efv::report

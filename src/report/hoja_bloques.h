@@ -1,0 +1,90 @@
+// What sheets are made of besides tables.
+#pragma once
+
+#include <quorvel/report/lamina.h>
+
+#include "report/hoja_pliego.h"
+
+namespace efv::report {
+
+/// A heading of the contents.
+class BloqueTitular final : public Bloque {
+public:
+    explicit BloqueTitular(std::string texto) : m_texto(std::move(texto)) {}
+
+    double Minimo(double dResto) const override;
+    void Poner(Pliego& pliego) const override;
+    bool ConElSiguiente() const override { return true; }
+
+private:
+    std::string m_texto;
+};
+
+/// A text in lines, short ones on one sheet.
+class BloqueParrafo final : public Bloque {
+public:
+    struct Aspecto {
+        double dSangria = 0.0;  ///< points
+        CString csMarca = {};   ///< stands before the first line, in the indent
+        ui::Color color = papel::kTinta;
+        double dCuerpo = papel::kCuerpo;
+        double dDetras = 3.0;  ///< room below, points
+    };
+
+    BloqueParrafo(const std::string& texto, Aspecto aspecto, const MedidorLetra& medidor);
+
+    double Minimo(double dResto) const override;
+    void Poner(Pliego& pliego) const override;
+
+private:
+    double Renglon() const;
+
+    Aspecto m_aspecto;
+    std::vector<CString> m_lineas;
+};
+
+/// A chart, whole; where little room is left, somewhat lower.
+class BloqueGrafica final : public Bloque {
+public:
+    explicit BloqueGrafica(const CCtrlCurva2D& grafica) : m_grafica(grafica) {}
+
+    double Minimo(double dResto) const override;
+    void Poner(Pliego& pliego) const override;
+
+private:
+    const CCtrlCurva2D& m_grafica;
+};
+
+/// A schematic, whole; where little room is left, somewhat smaller.
+class BloqueLamina final : public Bloque {
+public:
+    explicit BloqueLamina(const Lamina& lamina);
+
+    double Minimo(double dResto) const override;
+    void Poner(Pliego& pliego) const override;
+
+private:
+    const Lamina& m_lamina;
+    double m_dEscala;
+};
+
+/// The figures that count, a few a row.
+class BloqueResumen final : public Bloque {
+public:
+    BloqueResumen(const std::vector<Dato>& datos, const MedidorLetra& medidor);
+
+    double Minimo(double dResto) const override;
+    void Poner(Pliego& pliego) const override;
+
+private:
+    struct Ficha {
+        CString csRotulo;
+        std::vector<CString> valor;
+        bool bFalta;
+    };
+
+    std::vector<Ficha> m_fichas;
+    double m_dAlto = 0.0;  ///< of a row of them
+};
+
+}  // namespace efv::report
