@@ -15,6 +15,7 @@
 #include "comun/numeros.h"
 #include "comun/palabras.h"
 #include "comun/salidas.h"
+#include "diseno/informe.h"
 
 namespace efv::orden {
 
@@ -84,7 +85,8 @@ public:
                                const char* tipo) { linea.add_option(nombre, valor, ayuda)->type_name(tipo); };
         texto("--barrido", m_barrido, "Lo mismo con otras potencias, kWp: 1..15, 1..6:0,5 o 2;3;4", "kWp");
         texto("--baterias", m_baterias, "Y con otras capacidades de batería, kWh; 0, sin ella", "kWh");
-        texto("--informe", m_informe, "Escribe un informe para imprimir, una página HTML", "FICHERO");
+        texto("--informe", m_informe,
+              "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF", "FICHERO");
         texto("--svg", m_svg, "Dibuja el barrido", "FICHERO");
         texto("--guardar", m_guardar,
               "Guarda el registro del estudio como archivo, que los diálogos y otro programa pueden abrir",
@@ -161,7 +163,7 @@ private:
             contenidos.emplace_back(reinterpret_cast<const char*>(bytes.data()), bytes.size());
         }
         if (m_informe)
-            contenidos.push_back(report::DocumentoHtml(documento, report::FechaDeHoy()));
+            contenidos.push_back(Informe(documento, *m_informe));
         if (m_svg)
             contenidos.push_back(ui::EscribirSvg(report::GraficaBarrido(barrido)));
         const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);

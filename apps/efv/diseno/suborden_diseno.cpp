@@ -15,6 +15,7 @@
 #include "comun/salidas.h"
 #include "diseno/ayuda_campos.h"
 #include "diseno/diseno.h"
+#include "diseno/informe.h"
 
 namespace efv::orden {
 
@@ -146,7 +147,9 @@ public:
                 "--guardar", m_guardar,
                 fmt::format("Guarda {} como archivo del registro, que otro programa puede abrir", m_clase.que))
             ->type_name("FICHERO");
-        linea.add_option("--informe", m_informe, "Escribe un informe para imprimir, una página HTML")
+        linea
+            .add_option("--informe", m_informe,
+                        "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF")
             ->type_name("FICHERO");
         linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         linea.footer(AyudaDeCampos(m_clase.registro()) + "\n\n" + m_clase.pie);
@@ -165,7 +168,7 @@ public:
             contenidos.emplace_back(reinterpret_cast<const char*>(diseno.archivo.data()),
                                     diseno.archivo.size());
         if (m_informe)
-            contenidos.push_back(report::DocumentoHtml(diseno.documento, report::FechaDeHoy()));
+            contenidos.push_back(Informe(diseno.documento, *m_informe));
         const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
         if (!salidas.EnLaSalida())
             Contar(diseno, escritos, salida);
