@@ -13,6 +13,8 @@
 #include "economia/dialogo_autoconsumo.h"
 #include "economia/estudios.h"
 #include "esquema/exportar.h"
+#include "informe/imprimir.h"
+#include "informe/portada.h"
 #include "proyecto/asistentes.h"
 #include "proyecto/ejemplo.h"
 #include "ventana_principal.h"
@@ -97,10 +99,10 @@ void GuardarEsquema(Ventana& ventana)
         GuardarLamina(*lamina, *csRuta);
 }
 
-void GuardarInformeALaVista(Ventana& ventana)
+void ConDisenoALaVista(Ventana& ventana, void (*hacer)(const CProyectoEstudio&, Diseno))
 {
     if (const auto diseno = ventana.DisenoALaVista())
-        GuardarInforme(ventana.LaSesion().Proyecto(), *diseno);
+        hacer(ventana.LaSesion().Proyecto(), *diseno);
     else
         ui::MostrarAviso(L"No hay ningún diseño a la vista.", ui::Icono::informacion);
 }
@@ -141,7 +143,9 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, "&Consumo…", nullptr, [](Ventana& v) { EditarConsumo(v.LaSesion()); }},
     {kDiseno, "&Planos del campo…", nullptr, [](Ventana& v) { v.EditarPlanos(); }},
     {kDiseno, nullptr, nullptr, nullptr},
-    {kDiseno, "I&nforme…", "Ctrl+I", &GuardarInformeALaVista},
+    {kDiseno, "Por&tada del informe…", nullptr, [](Ventana& v) { EditarPortada(v.LaSesion()); }},
+    {kDiseno, "I&nforme…", "Ctrl+I", [](Ventana& v) { ConDisenoALaVista(v, &GuardarInforme); }},
+    {kDiseno, "Imprimir in&forme…", "Ctrl+P", [](Ventana& v) { ConDisenoALaVista(v, &ImprimirInforme); }},
     {kEconomia, "&Venta a la red…", nullptr, [](Ventana& v) { EstudiarVenta(v.LaSesion()); }},
     {kEconomia, "&Autoconsumo…", nullptr, [](Ventana& v) { EstudiarAutoconsumo(v.LaSesion()); }},
     {kEconomia, "Autoconsumo &guiado…", nullptr, [](Ventana& v) { EstudiarAutoconsumoGuiado(v.LaSesion()); }},

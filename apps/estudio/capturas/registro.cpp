@@ -13,6 +13,7 @@
 #include "clima/estudios.h"
 #include "economia/dialogo_autoconsumo.h"
 #include "energia/planos.h"
+#include "informe/portada.h"
 #include "proyecto/asistentes.h"
 
 namespace efv::estudio {
@@ -325,6 +326,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          [&sesion] { AbrirInclinacion(sesion); },
          [](ui::Dialogo& dialogo) { ElegirEntrada(dialogo, "iOpcion", 1); }},
         {"planos", {"DialogoPlanos"}, [&sesion] { AbrirPlanos(sesion); }, {}},
+        {"portada", {"DialogoPortada"}, [&sesion] { EditarPortada(sesion); }, {}},
         {"potencia-minima", {"DialogoHE5"}, [&sesion] { CalcularPotenciaMinima(sesion); }, {}},
         {"mapa-zonas", {"CDlgMapaZonas"}, [] { phShowMapaZonaHE5(); }, {}},
         {"red", {"CDlgAsistenteSFVRed"}, [&sesion] { DisenarRed(sesion); }, &Recorrer},

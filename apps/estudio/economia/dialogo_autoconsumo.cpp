@@ -16,6 +16,7 @@
 #include "comun/numeros.h"
 #include "economia/borrador.h"
 #include "guardar.h"
+#include "informe/informe.h"
 
 namespace efv::estudio {
 
@@ -519,11 +520,9 @@ void DialogoAutoconsumo::GuardarInforme()
         return;
     const auto adPotencias = PotenciasDelBarrido();
     const ResultadoAutoconsumo r = m_borrador->Calcular(m_proyecto, adPotencias);
-    const std::string html = report::DocumentoHtml(
-        report::EscribirDocumento(r.proyecto, r.estudio, r.avisos, r.barrido), report::FechaDeHoy());
-    if (const auto csRuta = ui::PresentadorActual().ElegirFichero(
-            {L"Guardar informe", {{L"Página HTML (*.html)", L"*.html"}}, true, L"autoconsumo.html"}))
-        GuardarFichero(*csRuta, html);
+    report::Documento documento = report::EscribirDocumento(r.proyecto, r.estudio, r.avisos, r.barrido);
+    documento.portada = PortadaDe(m_proyecto).datos;
+    GuardarDocumento(documento, L"autoconsumo");
 }
 
 // ---------------------------------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include "diseno/equipos.h"
 #include "energia/planos.h"
 #include "guardar.h"
+#include "pdf/pdf.h"
 #include "proyecto/vigencia.h"
 
 namespace efv::estudio {
@@ -34,15 +35,6 @@ void MarcarDesfase(report::Documento& documento, const CString& csDesfase)
     documento.avisos.insert(documento.avisos.begin(), {true, CadenaUtf8(csDesfase)});
 }
 
-template <class DISENO>
-std::string Informe(const CProyectoEstudio& origen, const DISENO& diseno, const CString& csDesfase)
-{
-    report::Documento documento =
-        report::InformeDe(diseno, PortadaDe(origen), CatalogosDelModulo(), phGetBaseFactorK());
-    MarcarDesfase(documento, csDesfase);
-    return report::DocumentoHtml(documento, report::FechaDeHoy());
-}
-
 }  // namespace
 
 report::Portada PortadaDe(const CProyectoEstudio& proyecto)
@@ -50,24 +42,39 @@ report::Portada PortadaDe(const CProyectoEstudio& proyecto)
     report::Portada portada{
         CadenaUtf8(proyecto.csNombre), LugarDelInforme(proyecto.lugar), {proyecto.planos, OrigenDeLasHoras()}};
     portada.lugar.dAltitud = proyecto.situacion.dAltitud;
+    const PortadaProyecto& datos = proyecto.portada;
+    portada.datos = {CadenaUtf8(datos.csCliente), CadenaUtf8(datos.csDireccion), CadenaUtf8(datos.csAutor),
+                     CadenaUtf8(datos.csFirma)};
     return portada;
 }
 
-std::string InformeHtml(const CProyectoEstudio& proyecto, Diseno diseno)
+report::Documento DocumentoDe(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    const CString csDesfase = AvisoDeDesfase(proyecto, diseno);
-    return diseno == Diseno::aislada ? Informe(proyecto, proyecto.aislada, csDesfase)
-                                     : Informe(proyecto, proyecto.red, csDesfase);
+    const auto informe = [&](const auto& registro) {
+        return report::InformeDe(registro, PortadaDe(proyecto), CatalogosDelModulo(), phGetBaseFactorK());
+    };
+    report::Documento documento = diseno == Diseno::aislada ? informe(proyecto.aislada) : informe(proyecto.red);
+    MarcarDesfase(documento, AvisoDeDesfase(proyecto, diseno));
+    return documento;
 }
 
 void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    const std::string html = InformeHtml(proyecto, diseno);
+    GuardarDocumento(DocumentoDe(proyecto, diseno), L"informe");
+}
+
+void GuardarDocumento(const report::Documento& documento, const CString& csNombre)
+{
     const auto csRuta = ui::PresentadorActual().ElegirFichero(
-        {L"Guardar informe", {{L"Página HTML (*.html)", L"*.html"}}, true, L"informe.html"});
+        {L"Guardar informe",
+         {{L"Documento PDF (*.pdf)", L"*.pdf"}, {L"Página HTML (*.html)", L"*.html"}},
+         true,
+         csNombre + L".pdf"});
     if (!csRuta)
         return;
-    GuardarFichero(*csRuta, html);
+    const std::string fecha = report::FechaDeHoy();
+    GuardarFichero(*csRuta, pdf::EsPdf(CadenaUtf8(*csRuta)) ? pdf::InformePdf(documento, fecha)
+                                                            : report::DocumentoHtml(documento, fecha));
 }
 
 }  // namespace efv::estudio

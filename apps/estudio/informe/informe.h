@@ -14,12 +14,16 @@ enum class Diseno { aislada, red };
 /// The project's name, place and planes, as its designs take them.
 report::Portada PortadaDe(const CProyectoEstudio& proyecto);
 
-/// A page of its own, HTML.
+/// The report of a design.
 /// @throws std::runtime_error with a Spanish text when the assistant hasn't been accepted or a model isn't in
 /// its catalogue
-std::string InformeHtml(const CProyectoEstudio& proyecto, Diseno diseno);
+report::Documento DocumentoDe(const CProyectoEstudio& proyecto, Diseno diseno);
 
 /// Asks for a file and writes the report into it. @throws std::runtime_error with a Spanish text
 void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno);
+
+/// Asks for a file, an HTML page or a PDF, and writes a document into it. @param csNombre proposed, without its
+/// ending @throws std::runtime_error with a Spanish text
+void GuardarDocumento(const report::Documento& documento, const CString& csNombre);
 
 }  // namespace efv::estudio

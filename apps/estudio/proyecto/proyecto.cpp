@@ -302,6 +302,14 @@ void IntercambiarAceptadaRed(CProyectoEstudio& proyecto, CArchive& ar)
     Intercambiar(proyecto.aceptadaRed, ar);
 }
 
+void IntercambiarPortada(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    PortadaProyecto& portada = proyecto.portada;
+    for (CString* cs : {&portada.csCliente, &portada.csDireccion, &portada.csAutor, &portada.csFirma})
+        dato(*cs);
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -325,6 +333,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"autoconsumo guiado", 1, &IntercambiarAutoconsumoGuiado, L"del autoconsumo guiado"},
     {L"aceptada aislada", 1, &IntercambiarAceptadaAislada, L"de la instalación aislada"},
     {L"aceptada red", 1, &IntercambiarAceptadaRed, L"de la conexión a red"},
+    {L"portada", 1, &IntercambiarPortada, L"de la portada del informe"},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

@@ -39,6 +39,13 @@ struct Situacion {
     bool operator==(const Situacion&) const = default;
 };
 
+/// What the cover of a report says besides the project's name; what is empty is left out.
+struct PortadaProyecto {
+    CString csCliente, csDireccion, csAutor, csFirma;
+
+    bool operator==(const PortadaProyecto&) const = default;
+};
+
 /// The consumption element, as its dialog takes it.
 struct Consumo {
     CString csReferencia = L"Consumo";
@@ -95,6 +102,7 @@ public:
     /// What the designs were accepted with; nothing: never, or by a program that didn't take it down.
     std::optional<Aceptacion<CSFVAsistenteAislada>> aceptadaAislada;
     std::optional<Aceptacion<CSFVAsistenteRed>> aceptadaRed;
+    PortadaProyecto portada;
     std::vector<SeccionAjena> ajenas;
 
     const CRuntimeClass& GetRuntimeClass() const override;

@@ -189,7 +189,7 @@ TEST_F(Clima, ElResumenPoneLosPlanosJuntoALaCifraDelAsistente)
     proyecto.red = DisenoRed(2);
     proyecto.planos = {{30.0, 90.0, 0.5}, {30.0, -90.0, 0.5}};
     const auto lineas = ResumenDe(proyecto, Diseno::red);
-    const std::string html = InformeHtml(proyecto, Diseno::red);
+    const std::string html = report::DocumentoHtml(DocumentoDe(proyecto, Diseno::red), "");
     ASSERT_EQ(lineas.size(), ResumenDe(proyecto.red).size() + 4);
     EXPECT_EQ(lineas[0].csConcepto, L"Energía del asistente, hacia el ecuador");
     EXPECT_EQ(lineas[1].csConcepto, L"Energía de los planos (cielo despejado ajustado a las doce radiaciones)");

@@ -66,6 +66,7 @@ std::unique_ptr<CProyectoEstudio> Lleno()
     elementos.inversor.entradas[3].nColor = 1;
     elementos.inversor.iNumEntradas = 4;
     elementos.red.csReferencia = L"RED";
+    proyecto->portada = {L"Ana", L"Calle 1", L"Elena", L"Elena, n.º 3"};
     return proyecto;
 }
 
@@ -98,6 +99,7 @@ TEST(Proyecto, LoGuardadoVuelveEntero)
     const auto despues = LeerProyecto(csRuta).proyecto;
     EXPECT_EQ(BytesDe(*despues), BytesDe(*antes));
     EXPECT_EQ(despues->csNombre, antes->csNombre);
+    EXPECT_EQ(despues->portada, antes->portada);
     EXPECT_EQ(despues->lugar, antes->lugar);
     EXPECT_EQ(despues->aislada.adHorario, antes->aislada.adHorario);
     EXPECT_EQ(despues->aislada.iAcumuladoresSerie, 24);

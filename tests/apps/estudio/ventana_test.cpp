@@ -6,15 +6,18 @@
 #include <fstream>
 #include <iterator>
 
+#include <QBuffer>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPdfWriter>
 
 #include "anfitrion/simbolos.h"
 #include "apoyo.h"
 #include "comun/ficheros.h"
 #include "comun/guion.h"
 #include "esquema/pintura.h"
+#include "informe/imprimir.h"
 #include "ordenes.h"
 #include "proyecto/asistentes.h"
 #include "proyecto/ejemplo.h"
@@ -43,6 +46,12 @@ protected:
     VentanaPrincipal ventana{Localidades()};
     Sesion& sesion = ventana.LaSesion();
 };
+
+std::string LeerTodo(const std::filesystem::path& ruta)
+{
+    std::ifstream fichero(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(fichero), {}};
+}
 
 void Escribir(QWidget& ventana, const char* campo, const QString& texto)
 {
@@ -346,6 +355,7 @@ TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
     ASSERT_EQ(guion.Mensajes().size(), 2U);  // no design on view, none accepted
 
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    sesion.Proyecto().portada.csCliente = L"Cooperativa";
     for (const auto& [pestana, textos] :
          {std::pair("red", std::array{"conectada a red", "4 · 20,00 kW", "SB5.0-1AV-40"}),
           std::pair("aislada", std::array{"aislada", "(24 × ", "6 OPzS 420"})}) {
@@ -353,10 +363,30 @@ TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
         guion.presentador.ficheros.emplace_back(ruta.wstring());
         ventana.MostrarPestana(pestana);
         orden->funcion(ventana);
-        std::ifstream fichero(ruta, std::ios::binary);
-        const std::string html{std::istreambuf_iterator<char>(fichero), {}};
-        for (const char* texto : {textos[0], textos[1], textos[2], "Casa de labor", "Madrid", "Supuestos"})
+        const std::string html = LeerTodo(ruta);
+        for (const char* texto :
+             {textos[0], textos[1], textos[2], "Casa de labor", "Madrid", "Supuestos", "Cooperativa"})
             EXPECT_NE(html.find(texto), std::string::npos) << texto;
+        const std::filesystem::path pdf = carpeta.Ruta() / "informe.pdf";
+        guion.presentador.ficheros.emplace_back(pdf.wstring());
+        orden->funcion(ventana);
+        EXPECT_EQ(LeerTodo(pdf).substr(0, 5), "%PDF-");
+    }
+}
+
+// As many pages on paper as the sheets chosen, whatever the printer.
+TEST_F(Ventanas, ElInformeSeImprimeHojaAHoja)
+{
+    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
+    const report::Impreso impreso = HojasDe(sesion.Proyecto(), Diseno::red);
+    for (const auto& [nDesde, nHasta] : {std::pair<std::size_t, std::size_t>{0, 99}, {2, 3}}) {
+        QByteArray bytes;
+        QBuffer salida(&bytes);
+        salida.open(QIODevice::WriteOnly);
+        QPdfWriter papel(&salida);
+        PintarHojas(impreso, papel, nDesde, nHasta);
+        const std::size_t nHojas = nHasta == 3 ? 2 : impreso.hojas.size();
+        EXPECT_EQ(static_cast<std::size_t>(bytes.count("/Type /Page\n")), nHojas);
     }
 }
 

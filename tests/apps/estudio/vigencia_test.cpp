@@ -122,7 +122,8 @@ TEST_F(Vigencia, ElProyectoGuardaLosDatosDeSusModelos)
     EXPECT_EQ(PanelesDe(Proyecto().red).Potencia(), dAntes);
     EXPECT_TRUE(De(Diseno::red).empty());
     EXPECT_EQ(ModelosSoloDelProyecto(Proyecto(), Diseno::red), std::vector<CString>{L"CS3U-350P"});
-    EXPECT_NE(InformeHtml(Proyecto(), Diseno::red).find("CS3U-350P"), std::string::npos);
+    EXPECT_NE(report::DocumentoHtml(DocumentoDe(Proyecto(), Diseno::red), "").find("CS3U-350P"),
+              std::string::npos);
     Proyecto().lugar.dLatitud = 28.0;
     EXPECT_NO_THROW(Recalcular(Proyecto(), Diseno::red));
     // Another project doesn't have it.

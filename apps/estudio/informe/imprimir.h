@@ -1,0 +1,27 @@
+// Reports on paper: the sheets of the PDF, painted.
+#pragma once
+
+#include <QtGlobal>
+
+#include <quorvel/report/hojas.h>
+
+#include "informe/informe.h"
+
+QT_BEGIN_NAMESPACE
+class QPagedPaintDevice;
+QT_END_NAMESPACE
+
+namespace efv::estudio {
+
+/// The report of a design on sheets. @throws std::runtime_error with a Spanish text
+report::Impreso HojasDe(const CProyectoEstudio& proyecto, Diseno diseno);
+
+/// Paints the sheets `nDesde` to `nHasta`, from 0, on A4 pages one after the other.
+/// @throws std::runtime_error with a Spanish text
+void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel, std::size_t nDesde,
+                 std::size_t nHasta);
+
+/// Asks for the printer and prints the report of a design. @throws std::runtime_error with a Spanish text
+void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno);
+
+}  // namespace efv::estudio
