@@ -5,6 +5,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QEvent>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -20,6 +21,7 @@
 #include <quorvel/ui/presentador.h>
 
 #include "qt/cajas.h"
+#include "qt/relleno.h"
 #include "qt/texto.h"
 
 namespace efv::qt {
@@ -281,8 +283,30 @@ void VentanaDialogo::reject()
     Actuar([](ui::Dialogo& dialogo) { dialogo.Cancelar(); });
 }
 
+// The Cancel button says what it does; Escape and the window's own button are hit by mistake too.
+bool VentanaDialogo::PuedeDejarse()
+{
+    if (m_marco == Marco::panel || m_dialogo.Terminado() || !m_dialogo.bAceptarVisible ||
+        LoRellenado(m_dialogo) == m_alMostrar)
+        return true;
+    return MostrarCaja(this, {m_dialogo.csTitulo, L"Hay cambios sin aceptar.", ui::Icono::pregunta,
+                              ui::Botones::siNo, L"&Descartar", L"&Seguir"}) == ui::Respuesta::si;
+}
+
+void VentanaDialogo::closeEvent(QCloseEvent* evento)
+{
+    if (PuedeDejarse())
+        QDialog::closeEvent(evento);
+    else
+        evento->ignore();
+}
+
 void VentanaDialogo::keyPressEvent(QKeyEvent* evento)
 {
+    if (evento->matches(QKeySequence::Cancel) && !PuedeDejarse()) {
+        evento->accept();
+        return;
+    }
     if (m_marco == Marco::panel)
         evento->ignore();
     else
@@ -367,8 +391,10 @@ void VentanaDialogo::EnfocarPrimera()
 void VentanaDialogo::showEvent(QShowEvent* evento)
 {
     QDialog::showEvent(evento);
-    if (!std::exchange(m_bMostrada, true) && m_marco == Marco::ventana)
+    if (!std::exchange(m_bMostrada, true) && m_marco == Marco::ventana) {
+        m_alMostrar = LoRellenado(m_dialogo);
         EnfocarPrimera();
+    }
 }
 
 void VentanaDialogo::changeEvent(QEvent* evento)

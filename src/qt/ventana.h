@@ -41,6 +41,7 @@ public:
 protected:
     void reject() override;
     void keyPressEvent(QKeyEvent* evento) override;
+    void closeEvent(QCloseEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
     void changeEvent(QEvent* evento) override;
 
@@ -60,6 +61,7 @@ private:
     Vista* VistaDe(const ui::Control* control) const;
     Vista* VistaDe(const QWidget* w) const;
     void EnfocarPrimera();
+    bool PuedeDejarse();
 
     ui::Dialogo& m_dialogo;
     Marco m_marco;
@@ -77,6 +79,7 @@ private:
     ui::Edicion* m_porSalir = nullptr;  // left, and the dialog not told yet
     ui::Control* m_focoPedido = nullptr;
     bool m_bMostrada = false;
+    std::vector<CString> m_alMostrar;  // what was filled in when it came up
 };
 
 }  // namespace efv::qt

@@ -276,6 +276,7 @@ TEST(Ventana, IntroAceptaLoTecleadoYEscapeCancela)
         EXPECT_EQ(Mostrar(d,
                           [&](QDialog& v) {
                               QTest::keyClicks(&Hijo<QLineEdit>(v, "csNombre"), "X");
+                              ResponderCaja("Descartar");
                               QTest::keyClick(&Hijo<QLineEdit>(v, "csNombre"), Qt::Key_Escape);
                           }),
                   ui::Dialogo::cancelado);
@@ -378,7 +379,12 @@ TEST(Ventana, LoQueSeHaceEnOtroSitioDejaElCampoUnaVez)
         {"another field", [&](QDialog& v) { clic(v, "dPotencia"); }, 1},
         {"Enter", [&](QDialog& v) { QTest::keyClick(&Hijo<QLineEdit>(v, "csNombre"), Qt::Key_Return); }, 1},
         {"OK", [&](QDialog& v) { clic(v, "aceptar"); }, 1},
-        {"Escape", [&](QDialog& v) { QTest::keyClick(&Hijo<QLineEdit>(v, "csNombre"), Qt::Key_Escape); }, 0},
+        {"Escape",
+         [&](QDialog& v) {
+             ResponderCaja("Descartar");
+             QTest::keyClick(&Hijo<QLineEdit>(v, "csNombre"), Qt::Key_Escape);
+         },
+         0},
         {"Cancel", [&](QDialog& v) { clic(v, "cancelar"); }, 0},
     };
     for (const Accion& accion : acciones) {
@@ -425,6 +431,32 @@ TEST(Ventana, DentroDeUnaAccionSeAbrenOtrasYSeVuelve)
         EXPECT_EQ(Hijo<QLineEdit>(v, "csNombre").text(), "interior");
     });
     EXPECT_EQ(respuesta, ui::Respuesta::cancelar);
+}
+
+// Escape and the window's button ask before anything that was filled in goes; the Cancel button doesn't.
+TEST(Ventana, EscapePreguntaSiHayCambios)
+{
+    const auto cerrar = [](QDialog& v) { v.close(); };
+    const auto escape = [](QDialog& v) { QTest::keyClick(&v, Qt::Key_Escape); };
+    for (const std::function<void(QDialog&)>& salir : {std::function<void(QDialog&)>(cerrar), {escape}}) {
+        Muestra sinCambios;
+        EXPECT_EQ(Mostrar(sinCambios, salir), ui::Dialogo::cancelado);
+
+        Muestra d;
+        EXPECT_EQ(Mostrar(d,
+                          [&](QDialog& v) {
+                              Hijo<QCheckBox>(v, "iActivo").click();
+                              ResponderCaja("Seguir");
+                              salir(v);
+                              EXPECT_FALSE(d.Terminado());
+                              EXPECT_TRUE(v.isVisible());
+                              // Back to what it was: nothing to lose.
+                              Hijo<QCheckBox>(v, "iActivo").click();
+                              salir(v);
+                              EXPECT_TRUE(d.Terminado());
+                          }),
+                  ui::Dialogo::cancelado);
+    }
 }
 
 // Yes of two answers deletes or replaces: neither Enter nor Escape gives it.
