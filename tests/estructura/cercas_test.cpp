@@ -33,13 +33,15 @@ std::string Leer(const fs::path& ruta)
     return {std::istreambuf_iterator<char>(entrada), {}};
 }
 
-// Every file below the folders; those that build, not code, are told by name.
+// Every file below the folders; those that build or that the desktop reads, not code, are told by name.
 std::vector<Fichero> FicherosDelProyecto()
 {
     std::vector<Fichero> ficheros;
     for (const char* carpeta : {"include", "src", "apps"}) {
         for (const auto& entrada : fs::recursive_directory_iterator(kRaiz / carpeta)) {
-            if (entrada.is_regular_file() && entrada.path().filename() != "CMakeLists.txt")
+            const fs::path& ruta = entrada.path();
+            if (entrada.is_regular_file() && ruta.filename() != "CMakeLists.txt" &&
+                ruta.parent_path().filename() != "escritorio")
                 ficheros.push_back(
                     {fs::relative(entrada.path(), kRaiz).generic_string(), Leer(entrada.path())});
         }

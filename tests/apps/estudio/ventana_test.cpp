@@ -335,7 +335,7 @@ TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
 {
     ventana.MostrarPestana("energia");
     for (const Orden& orden : Ordenes())
-        if (std::string_view(orden.menu) == "&Esquema" && orden.funcion != nullptr)
+        if (std::string_view(orden.menu) == "Es&quema" && orden.funcion != nullptr)
             orden.funcion(ventana);
     EXPECT_EQ(guion.Mensajes().size(), 2U);  // copy and save
 }
