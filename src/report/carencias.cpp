@@ -7,9 +7,11 @@
 #include <string>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
+#include <quorvel/report/carencias.h>
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
 
@@ -99,65 +101,138 @@ std::string EnVigor(const CString& cs, const char* /*unidad*/)
 }
 
 template <class M>
-void Enumerar(const M& modelo, std::span<const Uso<M>> usos, std::string& lista)
+void Enumerar(const M& modelo, std::span<const Uso<M>> usos, std::vector<std::string>& lista)
 {
     for (const auto& [miembro, nombre, unidad] : usos) {
         if (!catalogues::Omitido(modelo, miembro))
             continue;
         const catalogues::CampoModelo<M> campo{"", miembro};
         catalogues::AlMiembro(modelo, campo, [&, n = nombre, u = unidad](const auto& valor) {
-            lista += fmt::format("{}{} (en vigor {})", lista.empty() ? "" : ", ", n, EnVigor(valor, u));
+            lista.push_back(fmt::format("{} (en vigor {})", n, EnVigor(valor, u)));
         });
     }
 }
 
-std::string Texto(std::string_view clase, const CModelo& modelo, const std::string& lista)
+std::string Nombre(std::string_view clase, const CModelo& modelo)
 {
+    return fmt::format("{} {}#{}", clase, CadenaUtf8(modelo.csFamilia), CadenaUtf8(modelo.csModelo));
+}
+
+// Of a kind of model: what it is called, and what it lacks.
+std::vector<std::string> Lista(const Panel& panel)
+{
+    std::vector<std::string> lista;
+    Enumerar<Panel>(panel, kDelPanel, lista);
+    return lista;
+}
+std::vector<std::string> Lista(const Inversor& inversor)
+{
+    std::vector<std::string> lista;
+    Enumerar<Inversor>(inversor, kDelInversor, lista);
+    if (catalogues::Omitido(inversor, &Inversor::csICCMaxMPPT))
+        Enumerar<Inversor>(inversor, std::span(&kCorriente, 1), lista);
+    return lista;
+}
+std::vector<std::string> Lista(const Acumulador& acumulador)
+{
+    std::vector<std::string> lista;
+    Enumerar<Acumulador>(acumulador, kDelAcumulador, lista);
+    return lista;
+}
+std::vector<std::string> Lista(const Receptor& receptor)
+{
+    std::vector<std::string> lista;
+    Enumerar<Receptor>(receptor, kDelReceptor, lista);
+    return lista;
+}
+
+constexpr const char* Clase(const Panel& /*modelo*/)
+{
+    return "Módulo";
+}
+constexpr const char* Clase(const Inversor& /*modelo*/)
+{
+    return "Inversor";
+}
+constexpr const char* Clase(const Acumulador& /*modelo*/)
+{
+    return "Acumulador";
+}
+constexpr const char* Clase(const Receptor& /*modelo*/)
+{
+    return "Receptor";
+}
+
+// A warning; empty when the model lacks nothing.
+template <class M>
+std::string Texto(const M& modelo)
+{
+    const std::vector<std::string> lista = Lista(modelo);
+    if (lista.empty())
+        return {};
     return fmt::format(
-        "{} {}#{}: el catálogo no da {}. El dimensionado toma lo que está en vigor, que no es de ese modelo; "
-        "la comprobación lo deja sin dato.",
-        clase, CadenaUtf8(modelo.csFamilia), CadenaUtf8(modelo.csModelo), lista);
+        "{}: el catálogo no da {}. El dimensionado toma lo que está en vigor, que no es de ese modelo; la "
+        "comprobación lo deja sin dato.",
+        Nombre(Clase(modelo), modelo), fmt::join(lista, ", "));
 }
 
 template <class M>
-void Avisar(std::string_view clase, const M& modelo, const std::string& lista, std::vector<Aviso>& avisos)
+void Avisar(const M& modelo, std::vector<Aviso>& avisos)
 {
-    if (lista.empty())
+    Aviso aviso{false, Texto(modelo)};
+    if (!aviso.texto.empty())
+        avisos.push_back(std::move(aviso));
+}
+
+template <class M>
+void Contar(const M* modelo, std::vector<Carencia>& carencias)
+{
+    if (modelo == nullptr)
         return;
-    Aviso aviso{false, Texto(clase, modelo, lista)};
-    avisos.push_back(std::move(aviso));
+    for (std::string& campo : Lista(*modelo)) {
+        Carencia carencia{Clase(*modelo), std::move(campo)};
+        carencias.push_back(std::move(carencia));
+    }
 }
 
 }  // namespace
 
 void AvisarDeCarencias(const Panel& panel, std::vector<Aviso>& avisos)
 {
-    std::string lista;
-    Enumerar<Panel>(panel, kDelPanel, lista);
-    Avisar("Módulo", panel, lista, avisos);
+    Avisar(panel, avisos);
 }
 
 void AvisarDeCarencias(const Inversor& inversor, std::vector<Aviso>& avisos)
 {
-    std::string lista;
-    Enumerar<Inversor>(inversor, kDelInversor, lista);
-    if (catalogues::Omitido(inversor, &Inversor::csICCMaxMPPT))
-        Enumerar<Inversor>(inversor, std::span(&kCorriente, 1), lista);
-    Avisar("Inversor", inversor, lista, avisos);
+    Avisar(inversor, avisos);
 }
 
 void AvisarDeCarencias(const Acumulador& acumulador, std::vector<Aviso>& avisos)
 {
-    std::string lista;
-    Enumerar<Acumulador>(acumulador, kDelAcumulador, lista);
-    Avisar("Acumulador", acumulador, lista, avisos);
+    Avisar(acumulador, avisos);
 }
 
 std::string CarenciasDe(const Receptor& receptor)
 {
-    std::string lista;
-    Enumerar<Receptor>(receptor, kDelReceptor, lista);
-    return lista.empty() ? lista : Texto("Receptor", receptor, lista);
+    return Texto(receptor);
+}
+
+std::vector<Carencia> CarenciasDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos)
+{
+    std::vector<Carencia> carencias;
+    Contar(catalogos.acumuladores.BuscarModelo(diseno.csAcumulador), carencias);
+    Contar(catalogos.paneles.BuscarModelo(diseno.csPanel), carencias);
+    for (const CString& csReceptor : diseno.acsModelo)
+        Contar(catalogos.receptores.BuscarModelo(csReceptor), carencias);
+    return carencias;
+}
+
+std::vector<Carencia> CarenciasDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos)
+{
+    std::vector<Carencia> carencias;
+    Contar(catalogos.inversores.BuscarModelo(diseno.csInversor), carencias);
+    Contar(catalogos.paneles.BuscarModelo(diseno.csPanel), carencias);
+    return carencias;
 }
 
 double SinCero(double d)

@@ -5,6 +5,8 @@
 #include <memory>
 #include <numeric>
 
+#include <quorvel/report/carencias.h>
+
 #include "comun/numeros.h"
 #include "diseno/equipos.h"
 
@@ -74,6 +76,9 @@ std::vector<LineaResumen> ConEnergia(const CProyectoEstudio& proyecto, const DIS
         report::EnergiaDe(diseno, PortadaDe(proyecto), CatalogosDelModulo(), phGetBaseFactorK());
     auto lineas = energia ? LineasDeEnergia(*energia) : std::vector<LineaResumen>();
     std::ranges::move(ResumenDe(diseno), std::back_inserter(lineas));
+    if (HayDiseno(diseno))
+        for (const auto& [clase, campo] : report::CarenciasDe(diseno, CatalogosDelModulo()))
+            lineas.push_back({CadenaDesdeUtf8(clase) + L": el catálogo no da", CadenaDesdeUtf8(campo)});
     return lineas;
 }
 
