@@ -214,14 +214,15 @@ report::DatosPortada LeerPortada(Objeto& proyecto)
     rpc::NombrarLugar([] { return "portada"; },
                       [&] {
                           Objeto objeto(*j);
-                          for (const auto& [nombre, texto] : {std::pair("cliente", &portada.cliente),
-                                                              {"direccion", &portada.direccion},
-                                                              {"autor", &portada.autor},
-                                                              {"firma", &portada.firma}}) {
-                              if (const JsonLeido* valor = objeto.Buscar(nombre))
-                                  rpc::NombrarLugar([&] { return nombre; },
-                                                    [&] { *texto = LeerTexto(*valor); });
-                          }
+                          const auto leer = [&](const char* nombre, std::string& texto) {
+                              if (const JsonLeido* valor = objeto.Buscar(nombre)) {
+                                  rpc::NombrarLugar([&] { return nombre; }, [&] { texto = LeerTexto(*valor); });
+                              }
+                          };
+                          leer("cliente", portada.cliente);
+                          leer("direccion", portada.direccion);
+                          leer("autor", portada.autor);
+                          leer("firma", portada.firma);
                           objeto.Terminar();
                       });
     return portada;
