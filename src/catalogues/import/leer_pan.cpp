@@ -54,10 +54,12 @@ public:
             Dicho(ausentes, L"muISC", L"el coeficiente de la corriente queda sin dato");
         if (!m_claves.Falta(L"CellArea"))
             m_modelo.dAcel = m_claves.Numero(L"CellArea") * 100.0;  // from cm²
-        if (m_claves.Falta(L"RelEffic200"))
-            Dicho(ausentes, L"RelEffic200", fmt::format(L"se toma una reducción de {} %", m_modelo.dCEf));
-        else
+        if (m_claves.Falta(L"RelEffic200")) {
+            Dicho(ausentes, L"RelEffic200",
+                  L"se toma una reducción de " + numero::nuConvertFltToIntlStr(m_modelo.dCEf, 1) + L" %");
+        } else {
             m_modelo.dCEf = std::max(-m_claves.Numero(L"RelEffic200"), 0.0);
+        }
         for (const CString& csClave : ausentes)
             m_avisos.push_back(L"falta " + csClave);
         return std::move(m_avisos);
@@ -99,7 +101,7 @@ private:
         if (!bDiodo)
             m_modelo.dCTVoc = m_modelo.dVoc * tecnologia.dVocTipico * 10.0;  // %/ºC of Voc in mV/ºC
         Dicho(ausentes, L"muVocSpec",
-              fmt::format(L"se toma {:.1f} mV/ºC, {}", m_modelo.dCTVoc,
+              fmt::format(L"se toma {} mV/ºC, {}", numero::nuConvertFltToIntlStr(m_modelo.dCTVoc, 1),
                           bDiodo ? L"por el modelo de un diodo" : L"típico de la tecnología"));
     }
 
