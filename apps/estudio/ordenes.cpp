@@ -37,6 +37,14 @@ constexpr const char* kAyuda = "A&yuda";
 
 using Ventana = VentanaPrincipal;
 
+// What is on view may be of a model that is another now.
+template <auto EDITAR>
+void EditarCatalogo(Ventana& ventana)
+{
+    EDITAR(kEditar);
+    ventana.LaSesion().Cambiado();
+}
+
 void LlenarRecientes(Ventana& ventana, QMenu& menu)
 {
     for (const CString& csRuta : ventana.LaSesion().Recientes()) {
@@ -164,13 +172,12 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kClima, "&Descargar año típico de PVGIS…", nullptr, [](Ventana& v) { DescargarRegistro(v.LaSesion()); }},
     {kClima, "&Registro climático…", nullptr, [](Ventana& v) { ElegirRegistro(v.LaSesion()); }},
     {kClima, "&Quitar el registro climático", nullptr, [](Ventana& v) { QuitarRegistro(v.LaSesion()); }},
-    {kCatalogos, "&Paneles fotovoltaicos…", nullptr,
-     [](Ventana&) { phEditarBasePanelesFotovoltaicos(kEditar); }},
-    {kCatalogos, "&Acumuladores…", nullptr, [](Ventana&) { phEditarBaseAcumuladores(kEditar); }},
-    {kCatalogos, "&Inversores…", nullptr, [](Ventana&) { phEditarBaseInversores(kEditar); }},
-    {kCatalogos, "&Microinversores…", nullptr, [](Ventana&) { phEditarBaseMicroInversores(kEditar); }},
-    {kCatalogos, "&Convertidores de CC…", nullptr, [](Ventana&) { phEditarBaseConvertidorCC(kEditar); }},
-    {kCatalogos, "&Receptores…", nullptr, [](Ventana&) { phEditarBaseReceptores(kEditar); }},
+    {kCatalogos, "&Paneles fotovoltaicos…", nullptr, &EditarCatalogo<&phEditarBasePanelesFotovoltaicos>},
+    {kCatalogos, "&Acumuladores…", nullptr, &EditarCatalogo<&phEditarBaseAcumuladores>},
+    {kCatalogos, "&Inversores…", nullptr, &EditarCatalogo<&phEditarBaseInversores>},
+    {kCatalogos, "&Microinversores…", nullptr, &EditarCatalogo<&phEditarBaseMicroInversores>},
+    {kCatalogos, "&Convertidores de CC…", nullptr, &EditarCatalogo<&phEditarBaseConvertidorCC>},
+    {kCatalogos, "&Receptores…", nullptr, &EditarCatalogo<&phEditarBaseReceptores>},
     {kAyuda, "&Versión…", nullptr, [](Ventana&) { phShowVersion(); }},
 });
 

@@ -59,6 +59,14 @@ PanelResumen::Contenido ConAviso(PanelResumen::Contenido contenido, const CProye
     return contenido;
 }
 
+// What a study takes from the grid-connected design holds as far as that does.
+PanelResumen::Contenido ConMarca(PanelResumen::Contenido contenido, const CProyectoEstudio& proyecto)
+{
+    if (!contenido.lineas.empty() && !Desfases(proyecto, Diseno::red).empty())
+        contenido.lineas.insert(contenido.lineas.begin(), {L"Diseño de la conexión a red", L"desactualizado"});
+    return contenido;
+}
+
 }  // namespace
 
 struct VentanaPrincipal::FilaPestana {
@@ -121,10 +129,12 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
           },
           [this] { EditarConsumo(m_sesion); }),
       m_venta(
-          "PanelVenta", L"Estudio de venta a la red…", [this] { return VentaDe(m_sesion.Proyecto()); },
+          "PanelVenta", L"Estudio de venta a la red…",
+          [this] { return ConMarca(VentaDe(m_sesion.Proyecto()), m_sesion.Proyecto()); },
           [this] { EstudiarVenta(m_sesion); }),
       m_autoconsumo(
-          "PanelAutoconsumo", L"Estudio de autoconsumo…", [this] { return AutoconsumoDe(m_sesion.Proyecto()); },
+          "PanelAutoconsumo", L"Estudio de autoconsumo…",
+          [this] { return ConMarca(AutoconsumoDe(m_sesion.Proyecto()), m_sesion.Proyecto()); },
           [this] { EstudiarAutoconsumo(m_sesion); })
 {
     CrearMenus();

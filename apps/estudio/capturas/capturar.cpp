@@ -190,6 +190,13 @@ ResultadoCapturas CapturarPrograma(VentanaPrincipal& ventana, const std::filesys
         CapturarVentana(ventana, carpeta, std::string("ventana-") + nombre, resultado);
     }
     CapturarPresentador(carpeta, resultado);
+    // Somewhere else the designs don't hold.
+    Sesion& sesion = ventana.LaSesion();
+    sesion.Proyecto().lugar.dLatitud -= 1.0;
+    sesion.Cambiado();
+    ventana.MostrarPestana("aislada");
+    CapturarVentana(ventana, carpeta, "ventana-desactualizada", resultado);
+    sesion.Deshacer();
     const CProyectoEstudio& proyecto = ventana.LaSesion().Proyecto();
     CapturarEsquema(Dibujar(EsquemaDe(proyecto, Diseno::aislada)), carpeta, "esquema-aislada", resultado);
     CapturarEsquema(Dibujar(EsquemaDe(proyecto, Diseno::red)), carpeta, "esquema-red", resultado);
