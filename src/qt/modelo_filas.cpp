@@ -5,6 +5,9 @@
 #include <QApplication>
 #include <QPalette>
 
+#include <quorvel/ui/filas.h>
+
+#include "qt/colores.h"
 #include "qt/iconos.h"
 #include "qt/texto.h"
 
@@ -127,6 +130,15 @@ QVariant ModeloLista::data(const QModelIndex& indice, int papel) const
         return Celda(iFila, indice.column());
     if (papel == Qt::TextAlignmentRole)
         return Alineacion(indice.column());
+    // What doesn't fit its column is read whole.
+    if (papel == Qt::ToolTipRole)
+        return Celda(iFila, indice.column());
+    if (papel == Qt::ForegroundRole) {
+        const auto* conColor = dynamic_cast<const ui::FilasConColor*>(m_filas.get());
+        const ui::Color color = conColor != nullptr ? conColor->ColorDeFila(iFila) : ui::kNegro;
+        if (color != ui::kNegro && m_lista.bHabilitado)
+            return Legible(DeColor(color), QApplication::palette().color(QPalette::Base));
+    }
     if (papel == Qt::CheckStateRole && indice.column() == 0) {
         if (const auto bMarca = m_filas->Marca(iFila))
             return *bMarca ? Qt::Checked : Qt::Unchecked;

@@ -301,8 +301,30 @@ void VentanaDialogo::closeEvent(QCloseEvent* evento)
         evento->ignore();
 }
 
+// Where nobody accepts, Enter takes the field that it is pressed in, if it minds being left.
+bool VentanaDialogo::DejarConRetorno()
+{
+    if (m_nAcciones > 0 || m_dialogo.Terminado() || m_dialogo.bAceptarVisible)
+        return false;
+    Vista* conFoco = VistaDe(focusWidget());
+    auto* edicion = conFoco == nullptr ? nullptr : dynamic_cast<ui::Edicion*>(&conFoco->control);
+    if (edicion == nullptr || edicion->bSoloLectura || edicion->bVariasLineas || !edicion->alSalir)
+        return false;
+    const QPointer<VentanaDialogo> yo(this);
+    m_porSalir = edicion;
+    Actuar([](ui::Dialogo&) {});
+    // The focus stays there.
+    if (yo && !m_dialogo.Terminado() && m_dialogo.foco == nullptr)
+        m_dialogo.foco = edicion;
+    return true;
+}
+
 void VentanaDialogo::keyPressEvent(QKeyEvent* evento)
 {
+    if ((evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) && DejarConRetorno()) {
+        evento->accept();
+        return;
+    }
     if (evento->matches(QKeySequence::Cancel) && !PuedeDejarse()) {
         evento->accept();
         return;

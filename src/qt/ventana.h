@@ -53,6 +53,7 @@ private:
     void CrearBotones(QVBoxLayout& pila);
     void DarTamano(QVBoxLayout& pila, QWidget* controles);
 
+    bool DejarConRetorno();
     void Ejecutar(const std::function<void(ui::Dialogo&)>& accion);
     void Aceptar();
     void PonerFoco(bool bSeAviso);

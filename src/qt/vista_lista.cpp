@@ -9,6 +9,7 @@
 
 #include "qt/celdas_menu.h"
 #include "qt/modelo_filas.h"
+#include "qt/texto.h"
 #include "qt/vistas_familias.h"
 
 namespace efv::qt {
@@ -110,6 +111,19 @@ public:
     }
 
 private:
+    // A table without a caption goes by its columns.
+    QString NombreHablado() const override
+    {
+        const QString hablado = Vista::NombreHablado();
+        if (!hablado.isEmpty())
+            return hablado;
+        QStringList columnas;
+        for (const CString& csColumna : m_lista.acsColumnas)
+            if (!csColumna.empty())
+                columnas << AQt(csColumna).replace('\n', ' ');
+        return columnas.isEmpty() ? QStringLiteral("Lista") : columnas.join(QStringLiteral(", "));
+    }
+
     QAbstractItemView& Rejas() const { return static_cast<QAbstractItemView&>(*widget); }
     QTreeView* Arbol() const
     {

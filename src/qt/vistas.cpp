@@ -20,12 +20,15 @@ bool SeLee(const CString& csTexto)
                                [](wchar_t c) { return QChar::isLetterOrNumber(static_cast<uint>(c)); });
 }
 
-// A control without a caption of its own goes by that of the one on whose line it stands.
+// A control without a caption of its own goes by that of the one on whose line it stands; the program's value
+// for a field has the field's name with a P.
 QString RotuloHablado(const ui::Control& control)
 {
-    if (SeLee(control.csRotulo) || control.colocacion.junto == nullptr)
+    const ui::Control* junto = control.colocacion.junto;
+    if (SeLee(control.csRotulo) || junto == nullptr)
         return SinMnemonico(control.csRotulo);
-    return RotuloHablado(*control.colocacion.junto);
+    const bool bPropuesta = control.bSoloLectura && control.nombre == junto->nombre + 'P';
+    return (bPropuesta ? QStringLiteral("Propuesta: ") : QString()) + RotuloHablado(*junto);
 }
 
 }  // namespace
@@ -41,7 +44,12 @@ Vista::~Vista() = default;
 
 QString Vista::NombreHablado() const
 {
-    return RotuloHablado(control);
+    const QString hablado = RotuloHablado(control);
+    if (!hablado.isEmpty() || dynamic_cast<const ui::Edicion*>(&control) == nullptr)
+        return hablado;
+    // A text that fills its group goes by it.
+    const QString grupo = SinMnemonico(CString(control.colocacion.grupo));
+    return grupo.isEmpty() ? QStringLiteral("Texto") : grupo;
 }
 
 void Vista::Refrescar()

@@ -12,7 +12,8 @@ namespace {
 
 class VistaGrafica final : public Vista {
 public:
-    VistaGrafica(ui::Grafica& grafica, QWidget* padre) : Vista(grafica, new WidgetGrafica(grafica.datos, padre))
+    VistaGrafica(ui::Grafica& grafica, QWidget* padre)
+        : Vista(grafica, new WidgetGrafica(grafica.datos, padre)), m_grafica(grafica)
     {
     }
 
@@ -20,7 +21,43 @@ public:
     bool QuiereSitio() const override { return true; }
 
 private:
-    void RefrescarContenido() override { widget->update(); }
+    QString NombreHablado() const override
+    {
+        const QString hablado = Vista::NombreHablado();
+        if (!hablado.isEmpty())
+            return hablado;
+        return m_grafica.datos.csTitulo.empty() ? QStringLiteral("Gráfica") : AQt(m_grafica.datos.csTitulo);
+    }
+
+    // Axes, series and extent, for who can't see them.
+    QString Descripcion() const
+    {
+        const CCtrlCurva2D& datos = m_grafica.datos;
+        QStringList series;
+        for (const ui::SerieCurva& serie : datos.aSeries)
+            if (!serie.csNombre.empty())
+                series << AQt(serie.csNombre);
+        const ui::Extension extension = ui::ExtensionDe(datos);
+        QStringList partes;
+        if (!datos.csTituloX.empty())
+            partes << QStringLiteral("Eje horizontal: ") + AQt(datos.csTituloX);
+        if (!datos.csTituloY.empty())
+            partes << QStringLiteral("Eje vertical: ") + AQt(datos.csTituloY);
+        if (!datos.aSeries.empty())
+            partes << QStringLiteral("De %1 a %2").arg(extension.dMinY).arg(extension.dMaxY);
+        if (!series.isEmpty())
+            partes << QStringLiteral("Series: ") + series.join(QStringLiteral(", "));
+        return partes.join(QStringLiteral(". "));
+    }
+
+    void RefrescarContenido() override
+    {
+        if (const QString descripcion = Descripcion(); widget->accessibleDescription() != descripcion)
+            widget->setAccessibleDescription(descripcion);
+        widget->update();
+    }
+
+    const ui::Grafica& m_grafica;
 };
 
 class VistaImagen final : public Vista {

@@ -1,5 +1,6 @@
 // Texts: fixed ones, and fields of one line or of several.
 #include <algorithm>
+#include <utility>
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -7,6 +8,7 @@
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
+#include "qt/colores.h"
 #include "qt/texto.h"
 #include "qt/vistas_familias.h"
 
@@ -113,9 +115,28 @@ private:
 
     static constexpr int kMarcoDeLinea = 16;  // and the cursor
 
+    // What can be written and is red has something wrong: a thick frame tells it without its colour.
+    void RefrescarMarco()
+    {
+        const bool bFalta = m_edicion.color == ui::kRojo && !m_edicion.bSoloLectura;
+        const QPalette paleta = Campo().parentWidget()->palette();
+        const qint64 marco = bFalta ? paleta.cacheKey() : 0;
+        if (std::exchange(m_marco, marco) == marco)
+            return;
+        const QColor fondo = paleta.color(QPalette::Base);
+        const QColor rojo = Legible(DeColor(ui::kRojo), fondo);
+        // A style sheet goes before the palette: it has the theme's colours too.
+        Campo().setStyleSheet(
+            bFalta ? QStringLiteral("QLineEdit { border: 2px solid %1; color: %1; background: %2; }")
+                         .arg(rojo.name(), fondo.name())
+                   : QString());
+        Campo().setAccessibleDescription(bFalta ? QStringLiteral("Valor no válido") : QString());
+    }
+
     void RefrescarContenido() override
     {
         Campo().setReadOnly(m_edicion.bSoloLectura);
+        RefrescarMarco();
         // What a line can't show, such as the end of a line, would never compare equal.
         if (m_edicion.csTexto == m_csMostrado && Campo().text() == m_mostrado)
             return;
@@ -131,6 +152,7 @@ private:
 
     const ui::Edicion& m_edicion;
     CString m_csMostrado;
+    qint64 m_marco = 0;  // theme of the frame; 0: none
     QString m_mostrado;
 };
 

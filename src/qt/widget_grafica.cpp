@@ -25,6 +25,7 @@ namespace efv::qt {
 namespace {
 
 constexpr double kEscalaPng = 2.0;
+constexpr double kOpacidadInhabilitada = 0.35;
 
 class LienzoQt final : public ui::Lienzo {
 public:
@@ -154,6 +155,8 @@ WidgetGrafica::WidgetGrafica(const CCtrlCurva2D& datos, QWidget* padre) : QWidge
 void WidgetGrafica::paintEvent(QPaintEvent* /*evento*/)
 {
     QPainter pintor(this);
+    // What doesn't hold now is faint.
+    pintor.setOpacity(isEnabled() ? 1.0 : kOpacidadInhabilitada);
     Pintar(pintor, true);
     pintor.setPen(palette().color(QPalette::Mid));
     pintor.setBrush(Qt::NoBrush);

@@ -1,5 +1,7 @@
 #include <quorvel/report/esquema.h>
 
+#include <fmt/format.h>
+
 #include <quorvel/report/disenos.h>
 #include <quorvel/report/texto.h>
 
@@ -13,6 +15,7 @@ using Clase = Elemento::Clase;
 
 constexpr double kMil = 1000.0;
 constexpr std::size_t kCargasEscritas = 4;
+constexpr std::wstring_view kNoCumple = L"NO CUMPLE";
 
 CString Cifra(double d, int iDecimales)
 {
@@ -98,7 +101,7 @@ CString DeCable(const Cableado& cableado, std::string_view clave)
         if (tramo.clave != clave)
             continue;
         if (!tramo.Cumple())
-            return L"NO CUMPLE";
+            return CString(kNoCumple);
         const CString csSeccion =
             CadenaDesdeUtf8(report::TextoSeccion(tramo.calculo.dSeccion, tramo.tramo.iConductoresFase));
         return tramo.bDatos && tramo.bLongitud ? csSeccion + L" · " + Cifra(tramo.calculo.dCaidaPct, 2) + L" %"
@@ -145,6 +148,22 @@ struct GrupoCargas {
     }
 };
 
+// The element whose limit it is.
+Clase ClaseDe(assistants::Limite limite)
+{
+    using assistants::Limite;
+    switch (limite) {
+        case Limite::tensionVacioModulo:
+            return Clase::paneles;
+        case Limite::tensionVacioRegulador:
+        case Limite::tensionMppRegulador:
+        case Limite::corrienteRegulador:
+            return Clase::regulador;
+        default:
+            return Clase::inversor;
+    }
+}
+
 class Trazador {
 public:
     std::size_t Poner(Elemento elemento, int iColumna, int iFila)
@@ -157,7 +176,11 @@ public:
         esquema.elementos.push_back(std::move(elemento));
         return esquema.elementos.size() - 1;
     }
-    void Unir(Conexion conexion) { esquema.conexiones.push_back(std::move(conexion)); }
+    void Unir(Conexion conexion)
+    {
+        conexion.bFalla = conexion.csCable == kNoCumple;
+        esquema.conexiones.push_back(std::move(conexion));
+    }
 
     Esquema esquema;
 };
@@ -344,15 +367,36 @@ Esquema EsquemaDe(const ProyectoAislada& proyecto, const EstudioAislada& estudio
         carga.dPotencia = receptor->dPotencia;
         carga.bAlterna = receptor->iTipoRed != 0;
     }
-    return Trazar(v, CampoDe(v.csPanel, v.iPanelesSerie, v.iPanelesParalelo, proyecto.panel),
-                  BancoDe(v, proyecto.acumulador), cargas, estudio.cableado, nullptr);
+    Esquema esquema = Trazar(v, CampoDe(v.csPanel, v.iPanelesSerie, v.iPanelesParalelo, proyecto.panel),
+                             BancoDe(v, proyecto.acumulador), cargas, estudio.cableado, nullptr);
+    MarcarFallos(esquema, estudio.comprobacion);
+    return esquema;
 }
 
 Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio)
 {
     const auto& v = estudio.v;
-    return Trazar(v, CampoDe(v.csPanel, v.iPanelesSerie, v.iPanelesParalelo, proyecto.panel),
-                  GrupoDe(v, proyecto.inversor), estudio.cableado, nullptr);
+    Esquema esquema = Trazar(v, CampoDe(v.csPanel, v.iPanelesSerie, v.iPanelesParalelo, proyecto.panel),
+                             GrupoDe(v, proyecto.inversor), estudio.cableado, nullptr);
+    MarcarFallos(esquema, estudio.comprobacion);
+    return esquema;
+}
+
+void MarcarFallos(Esquema& esquema, const assistants::ComprobacionCampo& comprobacion)
+{
+    for (const assistants::Comprobacion& c : comprobacion.limites) {
+        if (c.bCumple != false)
+            continue;
+        const TextoLimite& texto = TextoDe(c.limite);
+        const std::string cifras =
+            fmt::format("NO CUMPLE: {}, {}", Con(c.dValor, texto.iDecimales, texto.unidad), LimiteDe(c));
+        for (Elemento& elemento : esquema.elementos) {
+            if (elemento.clase != ClaseDe(c.limite))
+                continue;
+            elemento.acsFallos.push_back(CadenaDesdeUtf8(texto.rotulo));
+            elemento.acsFallos.push_back(CadenaDesdeUtf8(cifras));
+        }
+    }
 }
 
 }  // namespace efv::report

@@ -23,7 +23,8 @@ constexpr std::size_t kLetrasMaximo = 42, kLetrasRotulo = 64;
 constexpr int kColorNegro = 7;  // of the palette: black on paper, white on a dark screen
 constexpr double kAltoSimbolo = 58.0;
 constexpr int kSerieDibujada = 8, kParaleloDibujado = 4;
-constexpr double kCodo = 16.0;  // of a connection, from its element
+constexpr double kMarcoFallo = 4.0;  // around the card of an element that fails
+constexpr double kCodo = 16.0;       // of a connection, from its element
 
 CString Acortar(const CString& cs, std::size_t nLetras = kLetrasMaximo)
 {
@@ -62,7 +63,7 @@ double AltoDe(const Elemento& elemento)
         return 2 * kRenglon;
     return 2 * kAlmohada + AltoRejilla(elemento) + 8.0 + kTitulo +
            kRenglon * static_cast<double>(elemento.acsDatos.size()) +
-           kRenglonRotulo * static_cast<double>(elemento.acsRotulos.size());
+           kRenglonRotulo * static_cast<double>(elemento.acsRotulos.size() + elemento.acsFallos.size());
 }
 
 double AnchoDe(const Elemento& elemento)
@@ -73,8 +74,9 @@ double AnchoDe(const Elemento& elemento)
     double dAncho = AnchoDe(elemento.csTitulo, kTitulo);
     for (const CString& cs : elemento.acsDatos)
         dAncho = std::max(dAncho, AnchoDe(cs, kLetra));
-    for (const CString& cs : elemento.acsRotulos)
-        dAncho = std::max(dAncho, AnchoDe(cs, kLetraPequena, kLetrasRotulo));
+    for (const auto* acs : {&elemento.acsRotulos, &elemento.acsFallos})
+        for (const CString& cs : *acs)
+            dAncho = std::max(dAncho, AnchoDe(cs, kLetraPequena, kLetrasRotulo));
     return std::max(kAnchoMinimo, dAncho + 2 * kAlmohada);
 }
 
@@ -240,7 +242,10 @@ public:
         for (std::size_t i = 0; i < m_tarjetas.size(); ++i) {
             const Tarjeta& t = m_tarjetas[i];
             const Elemento& elemento = m_esquema.elementos[i];
-            m_lamina.zonas.push_back({elemento.clase, elemento.csTitulo, t.x, t.y, t.dAncho, t.dAlto});
+            Zona zona{elemento.clase, elemento.csTitulo, t.x, t.y, t.dAncho, t.dAlto};
+            for (const CString& cs : elemento.acsFallos)
+                zona.csIndicacion += (zona.csIndicacion.empty() ? L"" : L"\n") + cs;
+            m_lamina.zonas.push_back(std::move(zona));
         }
         double y = m_lamina.dAlto;
         for (const CString& csNota : m_esquema.acsNotas) {
@@ -291,8 +296,18 @@ private:
                              Texto::Lado::centro});
         }
         const double dSimbolo = AltoRejilla(elemento);
+        const bool bAviso = elemento.bFalta || !elemento.acsFallos.empty();
+        // A second frame tells it without its colour.
+        if (!elemento.acsFallos.empty()) {
+            m_lamina.trazos.emplace_back(trazo::Caja{{t.x - kMarcoFallo, t.y - kMarcoFallo},
+                                                     t.dAncho + 2 * kMarcoFallo,
+                                                     t.dAlto + 2 * kMarcoFallo,
+                                                     Tinta::aviso,
+                                                     Tinta::ninguna,
+                                                     8.0});
+        }
         m_lamina.trazos.emplace_back(trazo::Caja{
-            {t.x, t.y}, t.dAncho, t.dAlto, elemento.bFalta ? Tinta::aviso : Tinta::tenue, Tinta::tarjeta, 6.0});
+            {t.x, t.y}, t.dAncho, t.dAlto, bAviso ? Tinta::aviso : Tinta::tenue, Tinta::tarjeta, 6.0});
         Simbolos(m_lamina.trazos, t, dSimbolo).Pintar(elemento);
         double y = t.y + kAlmohada + dSimbolo + 8.0 + kTitulo;
         Escribir({{dCentro, y}, Acortar(elemento.csTitulo), kTitulo, Tinta::texto, Texto::Lado::centro, true});
@@ -303,6 +318,13 @@ private:
                       Acortar(cs, kLetrasRotulo),
                       kLetraPequena,
                       Tinta::alterna,
+                      Texto::Lado::centro});
+        }
+        for (const CString& cs : elemento.acsFallos) {
+            Escribir({{dCentro, y += kRenglonRotulo},
+                      Acortar(cs, kLetrasRotulo),
+                      kLetraPequena,
+                      Tinta::aviso,
                       Texto::Lado::centro});
         }
     }
@@ -318,12 +340,13 @@ private:
         const Tarjeta& desde = m_tarjetas[conexion.nDesde];
         const Tarjeta& hasta = m_tarjetas[conexion.nHasta];
         const Tinta tinta = conexion.bAlterna ? Tinta::alterna : Tinta::linea;
+        const Tinta tintaCable = conexion.bFalla ? Tinta::aviso : Tinta::tenue;
         if (desde.x == hasta.x) {
             const double x = desde.x + desde.dAncho / 2;
             m_lamina.trazos.emplace_back(trazo::Linea{{{x, desde.y + desde.dAlto}, {x, hasta.y}}, tinta, 2.0});
             const double y = (desde.y + desde.dAlto + hasta.y) / 2;
             Escribir({{x + 8, y - 3}, conexion.csRotulo, kLetraPequena, Tinta::texto});
-            return Escribir({{x + 8, y + 11}, conexion.csCable, kLetraPequena, Tinta::tenue});
+            return Escribir({{x + 8, y + 11}, conexion.csCable, kLetraPequena, tintaCable});
         }
         const Punto a = desde.Derecha(), b = hasta.Izquierda();
         const bool bJuntan = SeJuntan(conexion.nHasta);
@@ -335,9 +358,11 @@ private:
         Escribir(
             {{centro.x, centro.y - 6}, Acortar(conexion.csRotulo), kLetraPequena, Tinta::texto, Lado::centro});
         double y = centro.y;
-        for (const CString* csDebajo : {&conexion.csDetalle, &conexion.csCable})
-            if (!csDebajo->empty())
-                Escribir({{centro.x, y += 15}, Acortar(*csDebajo), kLetraPequena, Tinta::tenue, Lado::centro});
+        if (!conexion.csDetalle.empty())
+            Escribir(
+                {{centro.x, y += 15}, Acortar(conexion.csDetalle), kLetraPequena, Tinta::tenue, Lado::centro});
+        if (!conexion.csCable.empty())
+            Escribir({{centro.x, y += 15}, Acortar(conexion.csCable), kLetraPequena, tintaCable, Lado::centro});
     }
 
     const Esquema& m_esquema;

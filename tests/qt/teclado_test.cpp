@@ -5,6 +5,7 @@
 #include <string>
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
@@ -87,6 +88,23 @@ void ElOrdenEsElDeLaLectura(const ui::Dialogo& dialogo, const QWidget& ventana)
     }
 }
 
+// Whoever hears the screen learns what each control is that the keyboard reaches.
+void TodosTienenNombre(QWidget& ventana, const std::string& nombre)
+{
+    for (QWidget* hijo : ventana.findChildren<QWidget*>()) {
+        const bool bAparte = hijo->window() != &ventana || !hijo->isVisibleTo(&ventana);
+        if (bAparte || (hijo->focusPolicy() & Qt::TabFocus) == 0 || hijo->objectName().startsWith("qt_") ||
+            qobject_cast<QTabBar*>(hijo) != nullptr || qobject_cast<QTabWidget*>(hijo) != nullptr ||
+            hijo->metaObject()->className() == QByteArray("QWidget"))  // the ground of a view
+            continue;
+        const QAccessibleInterface* accesible = QAccessible::queryAccessibleInterface(hijo);
+        ASSERT_NE(accesible, nullptr);
+        EXPECT_FALSE(accesible->text(QAccessible::Name).isEmpty())
+            << nombre << ": " << hijo->objectName().toStdString() << " (" << hijo->metaObject()->className()
+            << ')';
+    }
+}
+
 // Looks at each dialog that opens in place of a person.
 class PresentadorQueMira final : public ui::PresentadorNulo {
 public:
@@ -110,6 +128,7 @@ public:
             qt::RefrescarVentana(ventana.get());
             UnaTeclaUnControl(*ventana, dialogo.clase);
             ElOrdenEsElDeLaLectura(dialogo, *ventana);
+            TodosTienenNombre(*ventana, dialogo.clase);
         }
         ElTabuladorPasaPorTodos(*ventana, dialogo.clase);
         if (m_pantalla.recorrer)
@@ -150,6 +169,7 @@ TEST_F(Teclado, TambienEnLaVentanaDelPrograma)
     for (const char* nombre : VentanaPrincipal::Pestanas()) {
         ventana.MostrarPestana(nombre);
         UnaTeclaUnControl(ventana, nombre);
+        TodosTienenNombre(ventana, nombre);
     }
 }
 

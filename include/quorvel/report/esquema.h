@@ -5,6 +5,7 @@
 #include <vector>
 
 #include <quorvel/assistants.h>
+#include <quorvel/assistants_calculo.h>
 #include <quorvel/exportar.h>
 #include <quorvel/report/cableado.h>
 #include <quorvel/report/equipos.h>
@@ -28,6 +29,7 @@ struct EFV_API Elemento {
     CString csTitulo;
     std::vector<CString> acsDatos = {};    ///< its figures, one a line
     std::vector<CString> acsRotulos = {};  ///< what the person wants beside it, below them
+    std::vector<CString> acsFallos = {};   ///< checks that it fails, one a line; it has a red box then
     int iColumna = 0, iFila = 0;
     int iCuantos = 1;
     int iSerie = 0, iParalelo = 0;    ///< of panels and batteries
@@ -47,6 +49,7 @@ struct Conexion {
     CString csDetalle = {};  ///< below the line
     bool bAlterna = false;
     CString csCable = {};  ///< section and drop, below that
+    bool bFalla = false;   ///< no section is enough
 };
 
 struct Esquema {
@@ -61,6 +64,9 @@ inline constexpr int kInversoresDibujados = 3;
 
 /// Whether a host's symbol stands for a whole field instead of a piece.
 using EsUnifilar = bool (*)(int iSimbolo);
+
+/// Tells each element which of the limits it is passed.
+EFV_API void MarcarFallos(Esquema& esquema, const assistants::ComprobacionCampo& comprobacion);
 
 /// Empty while there is no accepted design. @param esUnifilar null: drawn piece by piece
 EFV_API Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos,

@@ -59,6 +59,7 @@ struct Zona {
     Elemento::Clase clase;
     CString csTitulo;
     double x, y, dAncho, dAlto;
+    CString csIndicacion = {};  ///< what is to be said of it, such as the checks that it fails; several lines
 
     bool Contiene(Punto p) const { return p.x >= x && p.x < x + dAncho && p.y >= y && p.y < y + dAlto; }
     bool operator==(const Zona&) const = default;
