@@ -21,6 +21,7 @@ constexpr const wchar_t* kNada = L"—";
 struct Origen {
     const CProyectoEstudio& proyecto;
     Diseno diseno;
+    const std::optional<DisenoCalculado>& calculado;
 
     bool EsAislada() const { return diseno == Diseno::aislada; }
     CampoPaneles Paneles() const { return EsAislada() ? PanelesDe(proyecto.aislada) : PanelesDe(proyecto.red); }
@@ -52,9 +53,8 @@ struct Origen {
     /// Of the grid-connected design in a year, kWh.
     std::optional<double> Energia() const
     {
-        const auto energia =
-            report::EnergiaDe(proyecto.red, PortadaDe(proyecto), CatalogosDelModulo(), phGetBaseFactorK());
-        return energia ? std::optional(energia->orientada.Energia()) : std::nullopt;
+        return calculado && calculado->energia ? std::optional(calculado->energia->orientada.Energia())
+                                               : std::nullopt;
     }
 };
 
@@ -239,9 +239,10 @@ void PonerColores(Elemento& elemento, const Origen& origen)
 
 }  // namespace
 
-Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno)
+Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno,
+                  const std::optional<DisenoCalculado>& calculado)
 {
-    const Origen origen{proyecto, diseno};
+    const Origen origen{proyecto, diseno, calculado};
     Esquema esquema = origen.EsAislada() ? EsquemaDe(proyecto.aislada) : EsquemaDe(proyecto.red);
     std::map<Clase, std::vector<CString>> rotulos;  // those of a class are alike, and some take time
     for (Elemento& elemento : esquema.elementos) {
@@ -252,6 +253,8 @@ Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno)
         if (elemento.clase == Clase::paneles)
             PonerColores(elemento, origen);
     }
+    if (calculado)
+        MarcarFallos(esquema, calculado->comprobacion);
     return esquema;
 }
 

@@ -2,11 +2,20 @@
 // colours.
 #pragma once
 
+#include <optional>
+
+#include "diseno/comprobaciones.h"
 #include "elementos/dialogos.h"
 
 namespace efv::estudio {
 
-/// The schematic of a design of the project. Empty while there is no accepted one.
-Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno);
+/// The schematic of a design of the project, with the checks that fail. Empty while there is no accepted one.
+/// @param calculado of the same design
+Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno,
+                  const std::optional<DisenoCalculado>& calculado);
+inline Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno)
+{
+    return EsquemaDe(proyecto, diseno, CalcularDiseno(proyecto, diseno));
+}
 
 }  // namespace efv::estudio

@@ -14,6 +14,8 @@ using report::Elemento;
 using report::Esquema;
 using report::kInversoresDibujados;
 
+using report::MarcarFallos;
+
 /// Empty while there is no accepted design.
 template <class DISENO>
 Esquema EsquemaDe(const DISENO& diseno)

@@ -5,8 +5,10 @@
 
 #include <QContextMenuEvent>
 #include <QGraphicsScene>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QMouseEvent>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include "esquema/pintura.h"
@@ -103,6 +105,17 @@ void VistaEsquema::mouseDoubleClickEvent(QMouseEvent* evento)
         return QGraphicsView::mouseDoubleClickEvent(evento);
     evento->accept();
     alAbrir(zona->clase);
+}
+
+bool VistaEsquema::viewportEvent(QEvent* evento)
+{
+    if (evento->type() != QEvent::ToolTip)
+        return QGraphicsView::viewportEvent(evento);
+    const auto* ayuda = static_cast<QHelpEvent*>(evento);
+    const Zona* zona = ZonaEn(ayuda->pos());
+    QToolTip::showText(ayuda->globalPos(),
+                       zona == nullptr ? QString() : QString::fromStdWString(zona->csIndicacion), viewport());
+    return true;
 }
 
 void VistaEsquema::contextMenuEvent(QContextMenuEvent* evento)

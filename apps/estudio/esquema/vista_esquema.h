@@ -35,6 +35,7 @@ protected:
     void resizeEvent(QResizeEvent* evento) override;
     void wheelEvent(QWheelEvent* evento) override;
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
+    bool viewportEvent(QEvent* evento) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void drawBackground(QPainter* pintor, const QRectF& zona) override;
