@@ -109,6 +109,8 @@ void GuardarEsquema(Ventana& ventana)
 
 void ConDisenoALaVista(Ventana& ventana, void (*hacer)(const CProyectoEstudio&, Diseno))
 {
+    if (!ventana.CamposValidos())
+        return;
     if (const auto diseno = ventana.DisenoALaVista())
         hacer(ventana.LaSesion().Proyecto(), *diseno);
     else

@@ -39,6 +39,15 @@ constexpr double kParteDePantalla = 0.95;  // the title bar takes some
 constexpr int kEntreCopias = 5000;         // ms
 constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270;
 
+constexpr int kComprobaciones = 1;  // tab below a schematic, behind the summary
+
+// How the checks went, behind their title.
+CString MarcaDe(const std::vector<LineaComprobacion>& lineas)
+{
+    const auto n = std::ranges::count(lineas, std::optional(false), &LineaComprobacion::bCumple);
+    return lineas.empty() ? L"" : n == 0 ? L" ✓" : L": ✗ " + std::to_wstring(n);
+}
+
 // A widget with its layout's margin around it.
 QWidget* ConMargen(QWidget* dentro)
 {
@@ -110,14 +119,15 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
       m_aislada(
           "PanelAislada", L"Asistente de &instalación aislada…",
           [this] {
-              return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::aislada)}, m_sesion.Proyecto(),
-                              Diseno::aislada);
+              return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::aislada, Calculado(Diseno::aislada))},
+                              m_sesion.Proyecto(), Diseno::aislada);
           },
           [this] { DisenarAislada(m_sesion); }, [this] { RecalcularDiseno(m_sesion, Diseno::aislada); }),
       m_red(
           "PanelRed", L"Asistente de c&onexión a red…",
           [this] {
-              return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::red)}, m_sesion.Proyecto(), Diseno::red);
+              return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::red, Calculado(Diseno::red))},
+                              m_sesion.Proyecto(), Diseno::red);
           },
           [this] { DisenarRed(m_sesion); }, [this] { RecalcularDiseno(m_sesion, Diseno::red); }),
       m_consumo(
@@ -155,6 +165,7 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     connect(&m_copia, &QTimer::timeout, this, [this] { GuardarCopia(); });
     qApp->installEventFilter(this);
     m_sesion.alCambiar = [this] { Actualizar(); };
+    m_sesion.puedeGuardarse = [this] { return CamposValidos(); };
     Actualizar();
 }
 
@@ -192,7 +203,13 @@ QWidget* VentanaPrincipal::CrearPestana(const FilaPestana& fila)
         return !ClaseDeDialogo(m_sesion.Proyecto(), {diseno, clase}).empty();
     };
     partes->addWidget(esquema);
-    partes->addWidget(ConMargen(CrearPanel(fila.panel(*this), partes)));
+    auto* cuentas = new QTabWidget(partes);
+    cuentas->setDocumentMode(true);
+    cuentas->addTab(ConMargen(CrearPanel(fila.panel(*this), cuentas)), "Resumen");
+    const auto iDiseno = static_cast<std::size_t>(diseno);
+    cuentas->addTab(ConMargen(CrearPanel(m_comprobaciones.at(iDiseno), cuentas)), "Comprobaciones");
+    m_cuentas.at(iDiseno) = cuentas;
+    partes->addWidget(cuentas);
     partes->setStretchFactor(0, 1);
     partes->setSizes({kAlto - kAltoResumen, kAltoResumen});
     partes->setChildrenCollapsible(false);
@@ -215,8 +232,10 @@ void VentanaPrincipal::CrearMenus()
                 orden.llenar(*this, *dentro);
             });
         } else {
-            QAction* accion =
-                menu->addAction(orden.texto, this, [this, &orden] { Atender([&] { orden.funcion(*this); }); });
+            QAction* accion = menu->addAction(orden.texto, this, [this, &orden] {
+                TomarLoEscrito();
+                Atender([&] { orden.funcion(*this); });
+            });
             if (orden.atajo != nullptr)
                 accion->setShortcut(QKeySequence(QString::fromLatin1(orden.atajo)));
             if (orden.que != nullptr)
@@ -237,6 +256,40 @@ void VentanaPrincipal::EstudiarInclinacion()
 void VentanaPrincipal::EditarPlanos()
 {
     estudio::EditarPlanos(m_sesion, m_energia.Campo());
+}
+
+std::array<VentanaPrincipal::PanelDeCampos, 2> VentanaPrincipal::PanelesDeCampos()
+{
+    return {PanelDeCampos{m_lugar, m_lugar.Campos(), {}},
+            PanelDeCampos{m_energia, m_energia.Campos(), "energia"}};
+}
+
+// A command of the menu takes the focus from nobody.
+void VentanaPrincipal::TomarLoEscrito()
+{
+    for (const PanelDeCampos& panel : PanelesDeCampos())
+        panel.campos.Tomar();
+    for (QWidget* panel : m_paneles)
+        qt::RefrescarVentana(panel);
+}
+
+bool VentanaPrincipal::CamposValidos()
+{
+    TomarLoEscrito();
+    for (const auto& [dialogo, campos, pestana] : PanelesDeCampos()) {
+        const ui::Edicion* falta = campos.Falta();
+        if (falta == nullptr)
+            continue;
+        if (!pestana.empty())
+            MostrarPestana(pestana);
+        campos.Avisar(dialogo);
+        for (QWidget* panel : m_paneles)
+            if (panel->objectName() == QString::fromStdString(dialogo.clase))
+                if (auto* campo = panel->findChild<QWidget*>(QString::fromStdString(falta->nombre)))
+                    campo->setFocus();
+        return false;
+    }
+    return true;
 }
 
 void VentanaPrincipal::Atender(const std::function<void()>& accion)
@@ -263,8 +316,18 @@ void VentanaPrincipal::Actualizar()
     m_lugar.Actualizar();
     CargarRegistroDelProyecto(m_sesion);
     m_energia.Poner(proyecto.lugar, proyecto.situacion, proyecto.planos);
+    const bool bVigente = m_lugar.Campos().Falta() == nullptr;
+    m_energia.PonerVigente(bVigente);
+    for (const Diseno diseno : {Diseno::aislada, Diseno::red}) {
+        const auto i = static_cast<std::size_t>(diseno);
+        m_calculados.at(i) = CalcularDiseno(proyecto, diseno);
+        m_comprobaciones.at(i).Poner(m_calculados.at(i), bVigente);
+        m_cuentas.at(i)->setTabText(
+            kComprobaciones,
+            QString::fromStdWString(L"Comprobaciones" + MarcaDe(m_comprobaciones.at(i).Lineas())));
+    }
     for (PanelResumen* panel : {&m_aislada, &m_red, &m_consumo, &m_venta, &m_autoconsumo})
-        panel->Actualizar();
+        panel->Actualizar(bVigente);
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)
         if (const FilaPestana& fila = FilasPestanas()[i]; fila.diseno)
             MostrarDiseno(static_cast<int>(i), *fila.diseno);
@@ -278,7 +341,7 @@ void VentanaPrincipal::MostrarDiseno(int iPestana, Diseno diseno)
     const CProyectoEstudio& proyecto = m_sesion.Proyecto();
     const FilaPestana& fila = FilasPestanas()[static_cast<std::size_t>(iPestana)];
     const CString csAviso = AvisoDeDesfase(proyecto, diseno);
-    Esquema esquema = EsquemaDe(proyecto, diseno);
+    Esquema esquema = EsquemaDe(proyecto, diseno, Calculado(diseno));
     if (!csAviso.empty())
         esquema.acsNotas.insert(esquema.acsNotas.begin(), csAviso);
     m_esquemas[static_cast<std::size_t>(iPestana)]->Poner(Dibujar(esquema), fila.sinLamina);
@@ -294,6 +357,12 @@ void VentanaPrincipal::MostrarPestana(std::string_view nombre)
         std::ranges::find(filas, nombre, [](const FilaPestana& f) { return std::string_view(f.nombre); });
     if (fila != filas.end())
         m_pestanas->setCurrentIndex(static_cast<int>(fila - filas.begin()));
+}
+
+void VentanaPrincipal::MostrarComprobaciones(bool bMostrar)
+{
+    for (QTabWidget* cuentas : m_cuentas)
+        cuentas->setCurrentIndex(bMostrar ? kComprobaciones : 0);
 }
 
 std::optional<Diseno> VentanaPrincipal::DisenoALaVista() const

@@ -2,6 +2,7 @@
 // economic studies at the other.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <optional>
 #include <span>
@@ -16,6 +17,7 @@
 #include "esquema/vista_esquema.h"
 #include "informe/informe.h"
 #include "ordenes.h"
+#include "paneles/panel_comprobaciones.h"
 #include "paneles/panel_lugar.h"
 #include "paneles/panel_resumen.h"
 #include "proyecto/recuperacion.h"
@@ -38,6 +40,8 @@ public:
     /// Names of the tabs, in their order.
     static std::vector<const char*> Pestanas();
     void MostrarPestana(std::string_view nombre);
+    /// Brings the checks of the designs before their summaries, or these.
+    void MostrarComprobaciones(bool bMostrar);
     /// The schematic of the tab on view; null when it has none.
     VistaEsquema* EsquemaALaVista() const;
     /// The design of the tab on view; nothing when it has none.
@@ -50,6 +54,10 @@ public:
     void CopiarEn(const std::string& carpeta);
     /// Offers what a run that died left there. @param bAvisar says so when there is nothing
     void OfrecerCopias(bool bAvisar);
+    /// Takes what is being written in a panel.
+    void TomarLoEscrito();
+    /// The same. False when a field is at fault: the person is told which, and the focus is there.
+    bool CamposValidos();
     /// Runs it and tells the person what went wrong: an exception must not pass through Qt's loop.
     void Atender(const std::function<void()>& accion);
 
@@ -70,6 +78,17 @@ private:
     void MostrarDiseno(int iPestana, Diseno diseno);
     void GuardarCopia();
     void MirarFichero();
+    /// Panels of fields, and the tab that each stands in; empty outside them.
+    struct PanelDeCampos {
+        ui::Dialogo& dialogo;
+        CamposQueSeDejan& campos;
+        std::string_view pestana;
+    };
+    std::array<PanelDeCampos, 2> PanelesDeCampos();
+    const std::optional<DisenoCalculado>& Calculado(Diseno diseno) const
+    {
+        return m_calculados.at(static_cast<std::size_t>(diseno));
+    }
 
     Sesion m_sesion;
     VigiaFichero m_vigia;
@@ -83,9 +102,13 @@ private:
     bool m_bMirando = false;
     PanelLugar m_lugar;
     PanelEnergia m_energia;
+    // By design, in its order.
+    std::array<std::optional<DisenoCalculado>, 2> m_calculados;
+    std::array<PanelComprobaciones, 2> m_comprobaciones;
     PanelResumen m_aislada, m_red, m_consumo, m_venta, m_autoconsumo;
     QTabWidget* m_pestanas = nullptr;
-    std::vector<VistaEsquema*> m_esquemas;  // by tab; null for one without
+    std::array<QTabWidget*, 2> m_cuentas{};  // below the schematics, by design
+    std::vector<VistaEsquema*> m_esquemas;   // by tab; null for one without
     std::vector<QWidget*> m_paneles;
 };
 

@@ -3,9 +3,11 @@
 #include <algorithm>
 #include <array>
 #include <stdexcept>
+#include <utility>
 
 #include <QApplication>
 #include <QDialog>
+#include <QLineEdit>
 #include <QPalette>
 #include <QScreen>
 #include <QScrollBar>
@@ -166,6 +168,44 @@ private:
     std::vector<std::string> m_abiertas;
 };
 
+// More panels in series than the inverter bears in the cold.
+void CapturarDisenoQueFalla(VentanaPrincipal& ventana, const std::filesystem::path& carpeta,
+                            ResultadoCapturas& resultado)
+{
+    constexpr int kDeMas = 13;
+    Sesion& sesion = ventana.LaSesion();
+    const int iAntes = std::exchange(sesion.Proyecto().red.iPanelesSerie, kDeMas);
+    sesion.Cambiado();
+    ventana.MostrarPestana("red");
+    ventana.MostrarComprobaciones(true);
+    CapturarVentana(ventana, carpeta, "ventana-red-no-cumple", resultado);
+    ventana.MostrarComprobaciones(false);
+    CapturarEsquema(Dibujar(EsquemaDe(sesion.Proyecto(), Diseno::red)), carpeta, "esquema-red-no-cumple",
+                    resultado);
+    sesion.Proyecto().red.iPanelesSerie = iAntes;
+    sesion.Cambiado();
+}
+
+void CapturarCampoConFalta(VentanaPrincipal& ventana, const std::filesystem::path& carpeta,
+                           ResultadoCapturas& resultado)
+{
+    ventana.MostrarPestana("energia");
+    auto* campo = ventana.findChild<QLineEdit*>(QStringLiteral("dPR"));
+    if (campo == nullptr) {
+        resultado.faltas.emplace_back("La ventana no tiene el campo «dPR».");
+        return;
+    }
+    const auto escribir = [&](const QString& texto) {
+        campo->setText(texto);
+        emit campo->textEdited(texto);
+        ventana.TomarLoEscrito();
+    };
+    const QString antes = campo->text();
+    escribir(QStringLiteral("1,5"));
+    CapturarVentana(ventana, carpeta, "ventana-campo-con-falta", resultado);
+    escribir(antes);
+}
+
 }  // namespace
 
 ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta)
@@ -189,6 +229,8 @@ ResultadoCapturas CapturarPrograma(VentanaPrincipal& ventana, const std::filesys
         ventana.MostrarPestana(nombre);
         CapturarVentana(ventana, carpeta, std::string("ventana-") + nombre, resultado);
     }
+    CapturarDisenoQueFalla(ventana, carpeta, resultado);
+    CapturarCampoConFalta(ventana, carpeta, resultado);
     CapturarPresentador(carpeta, resultado);
     // Somewhere else the designs don't hold.
     Sesion& sesion = ventana.LaSesion();

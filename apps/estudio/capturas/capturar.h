@@ -24,7 +24,7 @@ struct ResultadoCapturas {
 ResultadoCapturas Capturar(const std::vector<Pantalla>& pantallas, const std::filesystem::path& carpeta);
 
 /// The same of the program's window with each of its tabs, of the presenter's own windows and of both
-/// schematics.
+/// schematics; of a design that fails its checks and of a field at fault.
 ResultadoCapturas CapturarPrograma(VentanaPrincipal& ventana, const std::filesystem::path& carpeta);
 
 }  // namespace efv::estudio

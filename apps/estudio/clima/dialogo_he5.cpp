@@ -15,7 +15,8 @@ constexpr double kSuperficieMaxima = 1e8;  // m²
 
 }  // namespace
 
-DialogoHE5::DialogoHE5(const Lugar& lugar) : Dialogo("DialogoHE5", L"Potencia fotovoltaica mínima (CTE HE5)")
+DialogoHE5::DialogoHE5(const Lugar& lugar)
+    : Dialogo("DialogoHE5", L"Potencia fotovoltaica mínima (CTE HE5)"), m_campos([this] { Calcular(); })
 {
     bAceptarVisible = false;
     csCancelar = L"&Cerrar";
@@ -62,16 +63,16 @@ ui::Edicion& DialogoHE5::AnadirSuperficie(const char* nombre, const wchar_t* csR
     auto& edicion = Anadir<ui::Edicion>(nombre, csRotulo);
     edicion.destino = &dSuperficie;
     edicion.limites = ui::Intervalo{0.0, kSuperficieMaxima};
-    edicion.alCambiar = [this] { Calcular(); };
+    m_campos.Anadir(edicion);
     return edicion;
 }
 
 void DialogoHE5::Calcular()
 {
-    const auto rechazo = Recoger();
-    m_resultado->color = rechazo ? ui::kRojo : ui::kNegro;
-    if (rechazo) {
-        m_resultado->csTexto = rechazo->csTexto;
+    const bool bFalta = m_campos.Falta() != nullptr;
+    m_resultado->color = bFalta ? ui::kRojo : ui::kNegro;
+    if (bFalta) {
+        m_resultado->csTexto = m_campos.TextoFalta();
         return;
     }
     m_edificio.iZona = m_zona->iSeleccion + 1;

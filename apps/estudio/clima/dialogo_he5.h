@@ -3,6 +3,7 @@
 
 #include <quorvel/solar/he5.h>
 
+#include "comun/campos.h"
 #include "proyecto/proyecto.h"
 
 namespace efv::estudio {
@@ -17,6 +18,7 @@ private:
     ui::Edicion& AnadirSuperficie(const char* nombre, const wchar_t* csRotulo, double& dSuperficie);
     void Calcular();
 
+    CamposQueSeDejan m_campos;
     solar::EdificioHE5 m_edificio;
     double m_dCubierta = 0.0;
     ui::Seleccion *m_zona = nullptr, *m_uso1 = nullptr, *m_uso2 = nullptr;

@@ -70,24 +70,25 @@ std::vector<LineaResumen> LineasDeEnergia(const report::EnergiaDiseno& energia)
 }
 
 template <class DISENO>
-std::vector<LineaResumen> ConEnergia(const CProyectoEstudio& proyecto, const DISENO& diseno)
+std::vector<LineaResumen> ConEnergia(const DISENO& diseno, const std::optional<DisenoCalculado>& calculado)
 {
-    const auto energia =
-        report::EnergiaDe(diseno, PortadaDe(proyecto), CatalogosDelModulo(), phGetBaseFactorK());
-    auto lineas = energia ? LineasDeEnergia(*energia) : std::vector<LineaResumen>();
+    auto lineas =
+        calculado && calculado->energia ? LineasDeEnergia(*calculado->energia) : std::vector<LineaResumen>();
     std::ranges::move(ResumenDe(diseno), std::back_inserter(lineas));
-    if (HayDiseno(diseno))
+    if (HayDiseno(diseno)) {
         for (const auto& [clase, campo] : report::CarenciasDe(diseno, CatalogosDelModulo()))
             lineas.push_back({CadenaDesdeUtf8(clase) + L": el catálogo no da", CadenaDesdeUtf8(campo)});
+    }
     return lineas;
 }
 
 }  // namespace
 
-std::vector<LineaResumen> ResumenDe(const CProyectoEstudio& proyecto, Diseno diseno)
+std::vector<LineaResumen> ResumenDe(const CProyectoEstudio& proyecto, Diseno diseno,
+                                    const std::optional<DisenoCalculado>& calculado)
 {
-    return diseno == Diseno::aislada ? ConEnergia(proyecto, proyecto.aislada)
-                                     : ConEnergia(proyecto, proyecto.red);
+    return diseno == Diseno::aislada ? ConEnergia(proyecto.aislada, calculado)
+                                     : ConEnergia(proyecto.red, calculado);
 }
 
 std::vector<LineaResumen> ResumenDe(const CSFVAsistenteAislada& diseno)

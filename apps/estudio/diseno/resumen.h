@@ -2,9 +2,10 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <vector>
 
-#include "informe/informe.h"
+#include "diseno/comprobaciones.h"
 #include "proyecto/proyecto.h"
 
 namespace efv::estudio {
@@ -19,7 +20,9 @@ std::vector<LineaResumen> ResumenDe(const CSFVAsistenteAislada& diseno);
 std::vector<LineaResumen> ResumenDe(const CSFVAsistenteRed& diseno);
 
 /// The same behind the yearly energy: the assistant's figure and, beside it, what the planes give as they look.
-std::vector<LineaResumen> ResumenDe(const CProyectoEstudio& proyecto, Diseno diseno);
+/// @param calculado of that design
+std::vector<LineaResumen> ResumenDe(const CProyectoEstudio& proyecto, Diseno diseno,
+                                    const std::optional<DisenoCalculado>& calculado);
 
 /// The year of a consumption element, of hours or of loads; zeros when it is left out of the calculation.
 struct AnoDeConsumo {

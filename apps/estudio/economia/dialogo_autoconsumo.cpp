@@ -174,6 +174,7 @@ void DialogoAutoconsumo::AnadirCampos(ui::Pagina& pagina, const wchar_t* csGrupo
         auto& edicion = pagina.Anadir<ui::Edicion>(campo.nombre, campo.csRotulo);
         m_campos.push_back({i, campo.dSinEl, campo.dSinEl, &edicion});
         edicion.destino = &m_campos.back().d;
+        m_escritos.Anadir(edicion);
         edicion.limites = campo.limites;
         edicion.iDecimales = 15;
         edicion.iDecimalesMinimos = 1;
@@ -289,6 +290,7 @@ void DialogoAutoconsumo::HacerTamanos()
                                              {"dPaso", L"Cada (&kWp):", &m_dPaso}}) {
         auto& edicion = pagina.Anadir<ui::Edicion>(nombre, csRotulo);
         edicion.destino = destino;
+        m_escritos.Anadir(edicion);
         edicion.limites = ui::Intervalo{0.01, 1e6};
         edicion.iDecimalesMinimos = 1;
         if (primero != nullptr)
@@ -340,6 +342,7 @@ void DialogoAutoconsumo::MostrarBorrador()
     m_bateria->bMarcada = b.Tiene("/bateria");
     m_prestamo->bMarcada = b.Tiene("/prestamo");
     m_lugar->bMarcada = !b.LugarPropio();
+    m_escritos.Olvidar();
     Volcar();
     Habilitar();
     ContarConsumo();
@@ -391,6 +394,10 @@ void DialogoAutoconsumo::ContarConsumo()
 
 bool DialogoAutoconsumo::Tomar()
 {
+    if (!m_escritos.Tomar()) {
+        m_escritos.Avisar(*this);
+        return false;
+    }
     if (!RecogerAvisando())
         return false;
     TomarLoBueno();
@@ -615,6 +622,7 @@ void EstudiarAutoconsumoGuiado(Sesion& sesion)
     DialogoAutoconsumo dialogo(sesion.Proyecto());
     const CString csAntes = dialogo.Texto();
     dialogo.Mostrar();
+    dialogo.AvisarDeFalta();
     CString csTexto = dialogo.Texto();
     if (csTexto == csAntes)
         return;

@@ -4,6 +4,7 @@
 #include <memory>
 #include <vector>
 
+#include "comun/campos.h"
 #include "proyecto/sesion.h"
 
 namespace efv::estudio {
@@ -19,6 +20,8 @@ public:
 
     /// What the pages hold, as the project keeps it; a field at fault has its last value.
     CString Texto();
+    /// Tells of a field that was left at fault.
+    void AvisarDeFalta() { m_escritos.Avisar(*this); }
 
 private:
     struct CampoPuesto {
@@ -58,6 +61,7 @@ private:
     const CProyectoEstudio& m_proyecto;
     std::unique_ptr<BorradorAutoconsumo> m_borrador;
     std::vector<CampoPuesto> m_campos;
+    CamposQueSeDejan m_escritos{[] {}};
     CString m_csFichero, m_csCups;
     double m_dDesde = 1.0, m_dHasta = 10.0, m_dPaso = 1.0;
 

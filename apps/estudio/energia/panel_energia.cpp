@@ -1,6 +1,7 @@
 #include "energia/panel_energia.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "comun/numeros.h"
 #include "energia/planos.h"
@@ -59,6 +60,7 @@ double AlEcuador(const Lugar& lugar)
 
 PanelEnergia::PanelEnergia(Lugar lugarInicial, std::function<void()> editarPlanos)
     : Dialogo("PanelEnergia", L"Energía de un campo"),
+      m_campos([this] { AlCambiar(); }),
       m_lugar(std::move(lugarInicial)),
       m_dOrientacion(AlEcuador(m_lugar)),
       m_filas(std::make_shared<std::vector<FilaEnergia>>())
@@ -72,7 +74,7 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial, std::function<void()> editarPlano
         edicion.limites = limites;
         edicion.iDecimales = iDecimales;
         edicion.colocacion.iColumna = iColumna;
-        edicion.alCambiar = [this] { AlCambiar(); };
+        m_campos.Anadir(edicion);
         return edicion;
     };
     m_inclinacion = &campo("dInclinacion", L"&Inclinación (º):", m_dInclinacion, kInclinaciones, 1, 0);
@@ -108,7 +110,7 @@ void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion,
     // What faced the equator does so in the other hemisphere too.
     if (otro.iHemisferio != m_lugar.iHemisferio && m_dOrientacion == AlEcuador(m_lugar)) {
         m_dOrientacion = AlEcuador(otro);
-        Volcar();
+        m_campos.Olvidar(*m_orientacion);
     }
     m_lugar = otro;
     m_situacion = otraSituacion;
@@ -117,19 +119,27 @@ void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion,
     AlCambiar();
 }
 
+void PanelEnergia::PonerVigente(bool bVigente)
+{
+    if (std::exchange(m_bVigente, bVigente) != bVigente)
+        AlCambiar();
+}
+
 void PanelEnergia::PonerInclinacion(double dInclinacion)
 {
     m_dInclinacion = dInclinacion;
-    Volcar();
+    m_campos.Olvidar(*m_inclinacion);
     AlCambiar();
 }
 
 void PanelEnergia::AlCambiar()
 {
-    const auto rechazo = Recoger();
-    m_nota->color = rechazo ? ui::kRojo : ui::kNegro;
-    if (rechazo) {
-        m_nota->csTexto = rechazo->csTexto;
+    const bool bFalta = m_campos.Falta() != nullptr;
+    m_nota->color = bFalta ? ui::kRojo : ui::kNegro;
+    m_tabla->bHabilitado = m_grafica->bHabilitado = m_bVigente && !bFalta;
+    m_nota->bHabilitado = m_bVigente;
+    if (bFalta) {
+        m_nota->csTexto = m_campos.TextoFalta();
         return;
     }
     m_nota->csTexto = CString(Calcular() ? kNota : kNotaSinTabla) + L"\n" + Orientada();

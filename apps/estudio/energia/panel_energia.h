@@ -9,6 +9,7 @@
 #include <quorvel/solar/energia.h>
 #include <quorvel/solar/planos.h>
 
+#include "comun/campos.h"
 #include "proyecto/proyecto.h"
 
 namespace efv::estudio {
@@ -34,6 +35,10 @@ public:
     void Poner(const Lugar& otro, const Situacion& otraSituacion,
                const std::vector<solar::PlanoCampo>& otrosPlanos = {});
 
+    /// @param bVigente false: what the project says of the place is at fault
+    void PonerVigente(bool bVigente);
+    CamposQueSeDejan& Campos() { return m_campos; }
+
     double Inclinacion() const { return m_dInclinacion; }
     double Orientacion() const { return m_dOrientacion; }
     void PonerInclinacion(double dInclinacion);
@@ -49,6 +54,8 @@ private:
 
     CString Orientada() const;
 
+    CamposQueSeDejan m_campos;
+    bool m_bVigente = true;
     Lugar m_lugar;
     Situacion m_situacion;
     std::vector<solar::PlanoCampo> m_planos;  // of the project; empty: one of the figures below

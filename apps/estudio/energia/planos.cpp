@@ -50,7 +50,8 @@ DialogoPlanos::DialogoPlanos(std::vector<solar::PlanoCampo> iniciales, const sol
       planos(std::move(iniciales)),
       m_campo(campo),
       m_dAltitud(dAltitud),
-      m_filas(std::make_shared<std::vector<std::vector<CString>>>())
+      m_filas(std::make_shared<std::vector<std::vector<CString>>>()),
+      m_escritos([this] { AlDejar(); })
 {
     m_lista = &Anadir<ui::Lista>("planos", L"", ui::Lista::Forma::tabla);
     m_lista->acsColumnas = {L"Plano",     L"Inclinación (º)", L"Orientación (º)",
@@ -82,31 +83,42 @@ ui::Edicion& DialogoPlanos::AnadirCampo(const char* nombre, const wchar_t* csRot
     // A third of the power keeps its place within what the shares may miss together.
     edicion.iDecimales = 4;
     edicion.iDecimalesMinimos = 1;
-    edicion.alCambiar = [this] { AlTeclear(); };
+    m_escritos.Anadir(edicion);
     m_campos.push_back(&edicion);
     return edicion;
 }
 
 void DialogoPlanos::AlElegir()
 {
-    IrAFila(m_lista->iSeleccion);
+    if (PuedeDejarse())
+        IrAFila(m_lista->iSeleccion);
+    else
+        m_lista->iSeleccion = m_iFila;
 }
 
-void DialogoPlanos::AlTeclear()
+bool DialogoPlanos::PuedeDejarse()
 {
-    if (const auto rechazo = Recoger()) {
+    m_escritos.Avisar(*this);
+    return m_escritos.Falta() == nullptr;
+}
+
+void DialogoPlanos::AlDejar()
+{
+    m_lista->bHabilitado = m_escritos.Falta() == nullptr;
+    if (!m_lista->bHabilitado) {
         m_nota->color = ui::kRojo;
-        m_nota->csTexto = rechazo->csTexto;
+        m_nota->csTexto = m_escritos.TextoFalta();
         return;
     }
-    planos.at(static_cast<std::size_t>(m_lista->iSeleccion)) = {m_dInclinacion, m_dOrientacion,
-                                                                m_dParte / kCiento};
+    planos.at(static_cast<std::size_t>(m_iFila)) = {m_dInclinacion, m_dOrientacion, m_dParte / kCiento};
     Refrescar();
 }
 
 // It looks as the one before it and takes the share that is left.
 void DialogoPlanos::AnadirPlano()
 {
+    if (!PuedeDejarse())
+        return;
     solar::PlanoCampo nuevo{m_campo.dInclinacion, 0.0, 1.0};
     if (!planos.empty()) {
         nuevo = planos.back();
@@ -118,13 +130,13 @@ void DialogoPlanos::AnadirPlano()
 
 void DialogoPlanos::QuitarPlano()
 {
-    planos.erase(planos.begin() + m_lista->iSeleccion);
-    IrAFila(std::min<std::ptrdiff_t>(m_lista->iSeleccion, std::ssize(planos) - 1));
+    planos.erase(planos.begin() + m_iFila);
+    IrAFila(std::min<std::ptrdiff_t>(m_iFila, std::ssize(planos) - 1));
 }
 
 void DialogoPlanos::IrAFila(std::ptrdiff_t iFila)
 {
-    m_lista->iSeleccion = static_cast<int>(iFila);
+    m_lista->iSeleccion = m_iFila = static_cast<int>(iFila);
     if (iFila >= 0) {
         const solar::PlanoCampo& plano = planos.at(static_cast<std::size_t>(iFila));
         m_dInclinacion = plano.dInclinacion;
@@ -135,6 +147,8 @@ void DialogoPlanos::IrAFila(std::ptrdiff_t iFila)
         campo->bHabilitado = iFila >= 0;
     m_quitar->bHabilitado = iFila >= 0;
     m_anadir->bHabilitado = planos.size() < kPlanosMaximo;
+    m_lista->bHabilitado = true;
+    m_escritos.Olvidar();
     Volcar();
     Refrescar();
 }
@@ -159,6 +173,8 @@ void DialogoPlanos::Refrescar()
 
 bool DialogoPlanos::AlAceptar()
 {
+    if (!PuedeDejarse())
+        return false;
     if (planos.empty() || solar::LleganAlTotal(planos))
         return true;
     foco = m_campos.back();

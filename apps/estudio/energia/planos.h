@@ -7,6 +7,7 @@
 
 #include <quorvel/solar/planos.h>
 
+#include "comun/campos.h"
 #include "proyecto/sesion.h"
 
 namespace efv::estudio {
@@ -27,7 +28,9 @@ public:
 private:
     ui::Edicion& AnadirCampo(const char* nombre, const wchar_t* csRotulo, double& d, ui::Intervalo limites);
     void AlElegir();
-    void AlTeclear();
+    void AlDejar();
+    /// Whether the row may be left; else its field at fault is told.
+    bool PuedeDejarse();
     void AnadirPlano();
     void QuitarPlano();
     /// Shows the plane of row `iFila`, or none.
@@ -39,7 +42,9 @@ private:
     double m_dAltitud;
     double m_dInclinacion = 0.0, m_dOrientacion = 0.0, m_dParte = 0.0;  // of the row; the share in per cent
     std::shared_ptr<std::vector<std::vector<CString>>> m_filas;
+    int m_iFila = -1;  // whose fields are shown
     ui::Lista* m_lista = nullptr;
+    CamposQueSeDejan m_escritos;
     std::vector<ui::Edicion*> m_campos;
     ui::Boton *m_anadir = nullptr, *m_quitar = nullptr;
     ui::TextoFijo* m_nota = nullptr;

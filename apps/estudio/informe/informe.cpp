@@ -45,6 +45,11 @@ report::Portada PortadaDe(const CProyectoEstudio& proyecto)
     const PortadaProyecto& datos = proyecto.portada;
     portada.datos = {CadenaUtf8(datos.csCliente), CadenaUtf8(datos.csDireccion), CadenaUtf8(datos.csAutor),
                      CadenaUtf8(datos.csFirma)};
+    const Celulas porDefecto;
+    if (proyecto.celulas.dMinima != porDefecto.dMinima)
+        portada.temperaturas.dMinima = proyecto.celulas.dMinima;
+    if (proyecto.celulas.dMaxima != porDefecto.dMaxima)
+        portada.temperaturas.dMaxima = proyecto.celulas.dMaxima;
     return portada;
 }
 

@@ -2,8 +2,10 @@
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 #include <quorvel/solar/energia.h>
+#include <quorvel/ui/campo.h>
 
 #include "clima/pvgis.h"
 
@@ -13,6 +15,7 @@ namespace {
 
 constexpr std::wstring_view kGrupoRadiacion = L"Radiación horizontal (kJ/m²·día)";
 constexpr std::wstring_view kGrupoLugar = L"Lugar";
+constexpr std::wstring_view kGrupoCelulas = L"Temperatura de las células (ºC)";
 
 // As many as a person looks through.
 constexpr std::size_t kOfrecidas = 200;
@@ -27,21 +30,22 @@ bool Responde(const Localidad& localidad, const CString& csBuscado)
 }  // namespace
 
 PanelLugar::PanelLugar(Sesion& sesion, std::vector<Localidad> localidades)
-    : Dialogo("PanelLugar", L"Lugar"), m_sesion(sesion), m_localidades(std::move(localidades))
+    : Dialogo("PanelLugar", L"Lugar"),
+      m_sesion(sesion),
+      m_campos([this] { AlCambiar(); }),
+      m_localidades(std::move(localidades))
 {
     bAceptarVisible = false;
     std::ranges::sort(m_localidades, {}, [](const Localidad& l) { return PlegarTexto(l.csNombre); });
     auto& proyecto = Anadir<ui::Edicion>("csProyecto", L"&Proyecto:");
     proyecto.destino = &m_csProyecto;
-    proyecto.alCambiar = [this] { AlCambiar(); };
+    m_campos.Anadir(proyecto);
     AnadirLugar();
+    AnadirCelulas();
     AnadirRadiaciones();
     m_nota = &Anadir<ui::TextoFijo>("csNota", L"");
     m_nota->color = ui::kRojo;
-    m_csProyecto = m_sesion.Proyecto().csNombre;
-    m_lugar = m_sesion.Proyecto().lugar;
-    m_situacion = m_delProyecto = m_sesion.Proyecto().situacion;
-    Mostrar();
+    Actualizar();
 }
 
 void PanelLugar::AnadirLugar()
@@ -62,21 +66,21 @@ void PanelLugar::AnadirLugar()
         auto& edicion = Anadir<ui::Edicion>(nombre, csRotulo);
         edicion.colocacion.grupo = kGrupoLugar;
         edicion.destino = destino;
-        edicion.alCambiar = [this] { AlCambiar(); };
+        m_campos.Anadir(edicion);
         m_figuras.push_back(&edicion);
         return edicion;
     };
     campo("csNombre", L"&Nombre:", &m_lugar.csNombre);
     campo("csDetalle", L"P&rovincia o país:", &m_lugar.csDetalle);
-    auto& latitud = campo("dLatitud", L"Latit&ud (º):", &m_lugar.dLatitud);
-    latitud.limites = ui::Intervalo{-90.0, 90.0};
-    latitud.iDecimales = 4;
+    m_latitud = &campo("dLatitud", L"Latit&ud (º):", &m_lugar.dLatitud);
+    m_latitud->limites = ui::Intervalo{-90.0, 90.0};
+    m_latitud->iDecimales = 4;
     // Its entries are the assistants' numbers.
     m_hemisferio = &Anadir<ui::Seleccion>("iHemisferio", L"&Hemisferio:", ui::Seleccion::Forma::combo);
     m_hemisferio->colocacion.grupo = kGrupoLugar;
     m_hemisferio->acsEntradas = {L"Sur", L"Norte"};
     m_hemisferio->destino = &m_lugar.iHemisferio;
-    m_hemisferio->alElegir = [this] { AlCambiar(); };
+    m_hemisferio->alElegir = [this] { AlElegirHemisferio(); };
     auto& longitud = campo("dLongitud", L"Longitud (º):", &m_situacion.dLongitud);
     longitud.limites = ui::Intervalo{-180.0, 180.0};
     longitud.iDecimales = 4;
@@ -85,6 +89,22 @@ void PanelLugar::AnadirLugar()
     altitud.iDecimales = 0;
     m_zona = &Anadir<ui::TextoFijo>("csZona", L"");
     m_zona->colocacion.grupo = kGrupoLugar;
+}
+
+void PanelLugar::AnadirCelulas()
+{
+    const auto campo = [this](const char* nombre, const wchar_t* csRotulo, double& d,
+                              ui::Intervalo limites) -> ui::Edicion& {
+        auto& edicion = Anadir<ui::Edicion>(nombre, csRotulo);
+        edicion.colocacion.grupo = kGrupoCelulas;
+        edicion.destino = &d;
+        edicion.limites = limites;
+        edicion.iDecimales = 1;
+        m_campos.Anadir(edicion);
+        return edicion;
+    };
+    campo("dCelulasMinima", L"Mínima:", m_celulas.dMinima, kCelulasMinimas);
+    campo("dCelulasMaxima", L"Máxima:", m_celulas.dMaxima, kCelulasMaximas).colocacion.iColumna = 1;
 }
 
 void PanelLugar::AnadirRadiaciones()
@@ -99,7 +119,7 @@ void PanelLugar::AnadirRadiaciones()
         edicion.destino = &m_lugar.adRadHorizontal[m];
         edicion.limites = ui::Intervalo{0.0, solar::kRadiacionMaxima};
         edicion.iDecimales = 1;
-        edicion.alCambiar = [this] { AlCambiar(); };
+        m_campos.Anadir(edicion);
         m_figuras.push_back(&edicion);
     }
     auto& pvgis = Anadir<ui::Boton>("PVGIS", L"Radiación de PVGIS…");
@@ -141,8 +161,8 @@ void PanelLugar::Situar(const Localidad& localidad)
 
 void PanelLugar::PedirRadiacion()
 {
-    if (!RecogerAvisando())
-        return;
+    if (!m_campos.Tomar())
+        return m_campos.Avisar(*this);
     const auto radiacion = estudio::PedirRadiacion(m_lugar.dLatitud, m_situacion.dLongitud);
     if (!radiacion)
         return;
@@ -166,17 +186,32 @@ void PanelLugar::AlElegir()
     AlCambiar();
 }
 
+// A latitude has the sign of its hemisphere, whichever of both was given.
+void PanelLugar::AlElegirHemisferio()
+{
+    Recoger(*m_hemisferio);
+    if (m_lugar.dLatitud != 0.0 && (m_lugar.dLatitud < 0.0) == (m_lugar.iHemisferio == 1)) {
+        m_lugar.dLatitud = -m_lugar.dLatitud;
+        ui::VolcarCampo(*m_latitud);
+    }
+    AlCambiar();
+}
+
+// What is at fault keeps what the project has.
 void PanelLugar::AlCambiar()
 {
-    const auto rechazo = Recoger();
-    m_nota->csTexto = rechazo ? rechazo->csTexto : CString();
-    if (rechazo)
-        return;
+    CProyectoEstudio& proyecto = m_sesion.Proyecto();
+    if (m_lugar.dLatitud != proyecto.lugar.dLatitud && m_lugar.dLatitud != 0.0) {
+        m_lugar.iHemisferio = m_lugar.dLatitud < 0.0 ? 0 : 1;
+        ui::VolcarCampo(*m_hemisferio);
+    }
+    m_nota->csTexto = m_campos.TextoFalta();
     if (m_iLugar == 0)
         m_lugar.bPropio = 1;
-    m_sesion.Proyecto().csNombre = m_csProyecto;
-    m_sesion.Proyecto().lugar = m_lugar;
-    m_sesion.Proyecto().situacion = m_delProyecto = m_situacion;
+    proyecto.csNombre = m_csProyecto;
+    proyecto.lugar = m_lugar;
+    proyecto.situacion = m_delProyecto = m_situacion;
+    proyecto.celulas = m_celulas;
     m_sesion.Cambiado();
 }
 
@@ -185,11 +220,14 @@ void PanelLugar::Actualizar()
     const CProyectoEstudio& proyecto = m_sesion.Proyecto();
     m_situacion.csRegistro = proyecto.situacion.csRegistro;
     m_delProyecto.csRegistro = proyecto.situacion.csRegistro;
-    if (proyecto.csNombre == m_csProyecto && proyecto.lugar == m_lugar && proyecto.situacion == m_delProyecto)
+    const bool bMismas = proyecto.csNombre == m_csProyecto && proyecto.lugar == m_lugar &&
+                         proyecto.situacion == m_delProyecto && proyecto.celulas == m_celulas;
+    if (std::exchange(m_mostrado, &proyecto) == &proyecto && bMismas)
         return;
     m_csProyecto = proyecto.csNombre;
     m_lugar = proyecto.lugar;
     m_situacion = m_delProyecto = proyecto.situacion;
+    m_celulas = proyecto.celulas;
     Mostrar();
 }
 
@@ -215,6 +253,7 @@ void PanelLugar::Mostrar()
     }
     m_hemisferio->bHabilitado = m_iLugar == 0;
     m_nota->csTexto.clear();
+    m_campos.Olvidar();
     Volcar();
 }
 

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "comun/campos.h"
 #include "proyecto/sesion.h"
 
 namespace efv::estudio {
@@ -13,6 +14,8 @@ public:
 
     /// Shows the session's project; what the person is typing stays when it says the same.
     void Actualizar();
+    /// Its fields; what is at fault there isn't in the project.
+    CamposQueSeDejan& Campos() { return m_campos; }
 
 private:
     void AnadirLugar();
@@ -20,16 +23,21 @@ private:
     void Ofrecer();
     void Situar(const Localidad& localidad);
     void PedirRadiacion();
+    void AnadirCelulas();
     void AlElegir();
+    void AlElegirHemisferio();
     void AlCambiar();
     void Mostrar();
 
     Sesion& m_sesion;
+    CamposQueSeDejan m_campos;
     std::vector<Localidad> m_localidades;
     CString m_csProyecto;
     Lugar m_lugar;
     Situacion m_situacion;
     Situacion m_delProyecto;  // as the project said it last
+    Celulas m_celulas;
+    const CProyectoEstudio* m_mostrado = nullptr;  // the project whose figures these are
     CString m_csBuscar;
     std::vector<const Localidad*> m_ofrecidas;  // entries of the choice behind one's own figures
     int m_iLugar = 0;                           // 0: own figures; then the places that are offered
@@ -37,6 +45,7 @@ private:
     ui::Edicion* m_buscar = nullptr;
     ui::Seleccion* m_seleccion = nullptr;
     ui::Seleccion* m_hemisferio = nullptr;
+    ui::Edicion* m_latitud = nullptr;
     std::vector<ui::Edicion*> m_figuras;  // what can be written of a place of one's own
     ui::TextoFijo* m_zona = nullptr;
     ui::TextoFijo* m_nota = nullptr;

@@ -52,8 +52,11 @@ PanelResumen::PanelResumen(std::string_view nombreClase, std::wstring_view csBot
     Actualizar();
 }
 
-void PanelResumen::Actualizar()
+void PanelResumen::Actualizar(bool bVigente)
 {
+    m_tabla->bHabilitado = bVigente;
+    if (m_grafica != nullptr)
+        m_grafica->bHabilitado = bVigente;
     Contenido contenido = m_leer();
     *m_lineas = std::move(contenido.lineas);
     ++m_tabla->uVersion;

@@ -22,7 +22,8 @@ public:
     PanelResumen(std::string_view nombreClase, std::wstring_view csBoton, std::function<Contenido()> leer,
                  std::function<void()> accion, std::function<void()> recalcular = {});
 
-    void Actualizar();
+    /// @param bVigente false: a field that it depends on is at fault
+    void Actualizar(bool bVigente = true);
     const std::vector<LineaResumen>& Lineas() const { return *m_lineas; }
 
 private:

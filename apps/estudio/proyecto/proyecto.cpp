@@ -123,6 +123,10 @@ void Comprobar(const CProyectoEstudio& proyecto)
     Exigir(std::abs(lugar.dLatitud) <= 90.0, "la latitud no está entre -90 y 90");
     Exigir(std::abs(proyecto.situacion.dLongitud) <= 180.0 && std::isfinite(proyecto.situacion.dAltitud),
            "la longitud o la altitud no es posible");
+    Exigir(proyecto.celulas.dMinima >= kCelulasMinimas.dMinimo &&
+               proyecto.celulas.dMinima < proyecto.celulas.dMaxima &&
+               proyecto.celulas.dMaxima <= kCelulasMaximas.dMaximo,
+           "las temperaturas de las células no son posibles");
     Exigir(std::ranges::all_of(lugar.adRadHorizontal, [](double d) { return std::isfinite(d) && d >= 0.0; }),
            "una radiación no es posible");
     const CSFVAsistenteAislada& aislada = proyecto.aislada;
@@ -231,6 +235,13 @@ void IntercambiarPlanos(CProyectoEstudio& proyecto, CArchive& ar)
     }
 }
 
+void IntercambiarCelulas(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    dato(proyecto.celulas.dMinima);
+    dato(proyecto.celulas.dMaxima);
+}
+
 void IntercambiarComun(Intercambio& dato, DatosElemento& elemento)
 {
     dato(elemento.csReferencia);
@@ -334,6 +345,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"aceptada aislada", 1, &IntercambiarAceptadaAislada, L"de la instalación aislada"},
     {L"aceptada red", 1, &IntercambiarAceptadaRed, L"de la conexión a red"},
     {L"portada", 1, &IntercambiarPortada, L"de la portada del informe"},
+    {L"celulas", 1, &IntercambiarCelulas, L"de las células"},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

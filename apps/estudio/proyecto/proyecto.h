@@ -46,6 +46,13 @@ struct PortadaProyecto {
     bool operator==(const PortadaProyecto&) const = default;
 };
 
+/// Extremes of the cells' temperature at the place, at which strings are checked, ºC.
+struct Celulas {
+    double dMinima = report::TemperaturasCelulas().Minima(), dMaxima = report::TemperaturasCelulas().Maxima();
+
+    bool operator==(const Celulas&) const = default;
+};
+
 /// The consumption element, as its dialog takes it.
 struct Consumo {
     CString csReferencia = L"Consumo";
@@ -78,6 +85,8 @@ struct Economia {
 inline constexpr std::size_t kPlanosMaximo = 20;
 inline constexpr ui::Intervalo kInclinaciones{0.0, 90.0}, kOrientaciones{-180.0, 180.0};  // degrees
 
+inline constexpr ui::Intervalo kCelulasMinimas{-60.0, 60.0}, kCelulasMaximas{0.0, 120.0};  // ºC
+
 /// A section of the file that this program doesn't know, kept for the one that does.
 struct SeccionAjena {
     CString csNombre;
@@ -92,6 +101,7 @@ public:
     CString csNombre = L"Proyecto";
     Lugar lugar;
     Situacion situacion;
+    Celulas celulas;
     CSFVAsistenteAislada aislada;
     CSFVAsistenteRed red;
     Consumo consumo;

@@ -161,11 +161,15 @@ bool Sesion::Cargar(const CString& csRuta)
 
 bool Sesion::Guardar()
 {
-    return m_csRuta.empty() ? GuardarComo() : GuardarEn(m_csRuta);
+    if (m_csRuta.empty())
+        return GuardarComo();
+    return (!puedeGuardarse || puedeGuardarse()) && GuardarEn(m_csRuta);
 }
 
 bool Sesion::GuardarComo()
 {
+    if (puedeGuardarse && !puedeGuardarse())
+        return false;
     ui::PeticionFichero peticion = Peticion(L"Guardar proyecto", true);
     peticion.csPropuesto = m_csRuta.empty() ? FicheroPara(m_proyecto->csNombre) : m_csRuta;
     const auto csRuta = ui::PresentadorActual().ElegirFichero(peticion);

@@ -69,6 +69,8 @@ public:
     std::vector<CString> Recientes() const { return m_recientes.leer(); }
     void PonerRecientes(AlmacenRecientes recientes) { m_recientes = std::move(recientes); }
 
+    /// Asked before the project is saved; false, and the person has been told why: not now.
+    std::function<bool()> puedeGuardarse;
     /// Told when the project or anything of the above is another.
     std::function<void()> alCambiar;
 

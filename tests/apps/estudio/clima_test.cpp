@@ -129,6 +129,7 @@ TEST_F(Clima, LaOrientacionSeVeJuntoALaEnergia)
     const auto nota = [&] { return De<ui::TextoFijo>(panel, "csNota").csTexto; };
     const CString csSur = nota();
     panel.Teclear(De<ui::Edicion>(panel, "dOrientacion"), L"180");
+    panel.Salir(De<ui::Edicion>(panel, "dOrientacion"));
     EXPECT_NE(nota(), csSur);
     EXPECT_NE(nota().find(L"hacia el ecuador"), CString::npos);
     guion.Dialogo("CDlgCalculoInclinacionPanel",
@@ -185,10 +186,10 @@ TEST_F(Clima, LosPlanosSonDelProyecto)
 TEST_F(Clima, ElResumenPoneLosPlanosJuntoALaCifraDelAsistente)
 {
     CProyectoEstudio& proyecto = sesion.Proyecto();
-    EXPECT_TRUE(ResumenDe(proyecto, Diseno::red).empty());
+    EXPECT_TRUE(ResumenDe(proyecto, Diseno::red, CalcularDiseno(proyecto, Diseno::red)).empty());
     proyecto.red = DisenoRed(2);
     proyecto.planos = {{30.0, 90.0, 0.5}, {30.0, -90.0, 0.5}};
-    const auto lineas = ResumenDe(proyecto, Diseno::red);
+    const auto lineas = ResumenDe(proyecto, Diseno::red, CalcularDiseno(proyecto, Diseno::red));
     const std::string html = report::DocumentoHtml(DocumentoDe(proyecto, Diseno::red), "");
     ASSERT_EQ(lineas.size(), ResumenDe(proyecto.red).size() + 4);
     EXPECT_EQ(lineas[0].csConcepto, L"Energía del asistente, hacia el ecuador");
@@ -196,7 +197,8 @@ TEST_F(Clima, ElResumenPoneLosPlanosJuntoALaCifraDelAsistente)
     EXPECT_EQ(lineas[3].csConcepto, L"  30,0º hacia -90,0º, 50,0 %");
     EXPECT_NE(html.find("Energía con la orientación de los paneles"), std::string::npos);
     proyecto.red.csPanel = L"Nadie#Nada";
-    EXPECT_EQ(ResumenDe(proyecto, Diseno::red).size(), ResumenDe(proyecto.red).size());
+    EXPECT_EQ(ResumenDe(proyecto, Diseno::red, CalcularDiseno(proyecto, Diseno::red)).size(),
+              ResumenDe(proyecto.red).size());
 }
 
 TEST_F(Clima, PotenciaMinima)
@@ -208,9 +210,11 @@ TEST_F(Clima, PotenciaMinima)
         texto().starts_with(L"CTE de 2006, por los usos: 7,49 kW\nCTE de 2006, por la superficie: 6,00 kW"));
     dialogo.Elegir(De<ui::Seleccion>(dialogo, "iUso2"), 6);  // hospitals: 1.2·3.29 more
     dialogo.Teclear(De<ui::Edicion>(dialogo, "dCubierta"), L"800");
+    dialogo.Salir(De<ui::Edicion>(dialogo, "dCubierta"));
     EXPECT_TRUE(texto().starts_with(L"CTE de 2006, por los usos: 11,44 kW"));
     EXPECT_NE(texto().find(L"CTE de 2022: 40,00 kW"), CString::npos);
     dialogo.Teclear(De<ui::Edicion>(dialogo, "dSuperficie1"), L"-1");
+    dialogo.Salir(De<ui::Edicion>(dialogo, "dSuperficie1"));
     EXPECT_EQ(De<ui::TextoFijo>(dialogo, "csResultado").color, ui::kRojo);
 }
 

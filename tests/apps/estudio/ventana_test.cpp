@@ -11,6 +11,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPdfWriter>
+#include <QTableView>
 
 #include "anfitrion/simbolos.h"
 #include "apoyo.h"
@@ -59,6 +60,7 @@ void Escribir(QWidget& ventana, const char* campo, const QString& texto)
     linea.setFocus();
     linea.selectAll();
     QTest::keyClicks(&linea, texto);
+    QTest::keyClick(&linea, Qt::Key_Return);
 }
 
 TEST_F(Ventanas, CerrarConCambiosPregunta)
@@ -168,12 +170,35 @@ TEST_F(Ventanas, ElLugarEsDeLaListaODeCifrasPropias)
     EXPECT_FALSE(latitud.isReadOnly());
     EXPECT_EQ(latitud.text(), "36,8389");
     Escribir(ventana, "dLatitud", "91");
-    EXPECT_EQ(sesion.Proyecto().lugar.dLatitud, 9.0);  // the last that was possible on the way
+    EXPECT_NEAR(sesion.Proyecto().lugar.dLatitud, 36.83892, 1e-9);
+    EXPECT_FALSE(latitud.styleSheet().isEmpty());
+    EXPECT_FALSE(Hijo<QTableView>(ventana, "tabla").isEnabled());
     Escribir(ventana, "dLatitud", "-33,5");
     EXPECT_EQ(latitud.text(), "-33,5");
     EXPECT_EQ(sesion.Proyecto().lugar.dLatitud, -33.5);
+    EXPECT_TRUE(latitud.styleSheet().isEmpty());
+    EXPECT_TRUE(Hijo<QTableView>(ventana, "tabla").isEnabled());
     Escribir(ventana, "adRadHorizontal11", "25000");
     EXPECT_EQ(sesion.Proyecto().lugar.adRadHorizontal[11], 25000.0);
+}
+
+// What is still being written counts as left.
+TEST_F(Ventanas, ConUnCampoMaloNoSeGuarda)
+{
+    const CarpetaTemporal carpeta;
+    ventana.show();
+    ventana.MostrarPestana("consumo");
+    auto& pr = Hijo<QLineEdit>(ventana, "dPR");
+    pr.selectAll();
+    QTest::keyClicks(&pr, "2");
+    EXPECT_FALSE(sesion.GuardarComo());
+    EXPECT_EQ(guion.Mensajes(), std::vector<CString>{L"«PR [0-1]»: Introduzca un número entre 0 y 1."});
+    EXPECT_TRUE(pr.isVisible());
+    EXPECT_EQ(ventana.focusWidget(), &pr);
+    pr.selectAll();
+    QTest::keyClicks(&pr, "0,9");
+    guion.presentador.ficheros = {(carpeta.Ruta() / "p.efvp").wstring()};
+    EXPECT_TRUE(sesion.GuardarComo());
 }
 
 // Typing elsewhere doesn't touch figures that a field shows with fewer decimals than they have.
