@@ -51,9 +51,9 @@ TEST_F(Capturas, CadaDialogoDeLaBibliotecaTieneLaSuyaYCabeEnUnaPantallaPequena)
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
     ventana.show();
     const ResultadoCapturas programa = CapturarPrograma(ventana, carpeta.Ruta());
-    // Each tab, a design that fails with its schematic, a field at fault, the palette, long work, both
-    // schematics; each in both themes.
-    EXPECT_EQ(programa.nCapturas, 2 * (static_cast<int>(VentanaPrincipal::Pestanas().size()) + 7));
+    // Each tab, a design that fails with its schematic, a field at fault, designs out of date, the palette,
+    // long work, both schematics; each in both themes.
+    EXPECT_EQ(programa.nCapturas, 2 * (static_cast<int>(VentanaPrincipal::Pestanas().size()) + 8));
     const ResultadoCapturas resultado = Capturar(Pantallas(sesion), carpeta.Ruta());
     for (const auto& faltas : {programa.faltas, resultado.faltas})
         for (const std::string& falta : faltas)
