@@ -163,6 +163,8 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     m_copia.setSingleShot(true);
     m_copia.setInterval(kEntreCopias);
     connect(&m_copia, &QTimer::timeout, this, [this] { GuardarCopia(); });
+    m_frente.setSingleShot(true);
+    connect(&m_frente, &QTimer::timeout, this, [this] { MirarFichero(); });
     qApp->installEventFilter(this);
     m_sesion.alCambiar = [this] { Actualizar(); };
     m_sesion.puedeGuardarse = [this] { return CamposValidos(); };
@@ -427,7 +429,7 @@ void VentanaPrincipal::changeEvent(QEvent* evento)
 {
     QMainWindow::changeEvent(evento);
     if (evento->type() == QEvent::ActivationChange && isActiveWindow())
-        QTimer::singleShot(0, this, [this] { MirarFichero(); });
+        m_frente.start(0);
 }
 
 // A field has its own steps while there are some; then the keys are the project's.

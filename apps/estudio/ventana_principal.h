@@ -93,7 +93,8 @@ private:
     Sesion m_sesion;
     VigiaFichero m_vigia;
     std::optional<Recuperacion> m_recuperacion;
-    QTimer m_copia;  // to the next copy of unsaved work
+    QTimer m_copia;   // to the next copy of unsaved work
+    QTimer m_frente;  // to the next turn of the loop, after the window came to the front
     struct OrdenConNombre {
         QAction* accion;
         const Orden* orden;
