@@ -114,7 +114,7 @@ private:
     // A table without a caption goes by its columns.
     QString NombreHablado() const override
     {
-        const QString hablado = Vista::NombreHablado();
+        QString hablado = Vista::NombreHablado();
         if (!hablado.isEmpty())
             return hablado;
         QStringList columnas;

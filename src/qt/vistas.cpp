@@ -44,11 +44,11 @@ Vista::~Vista() = default;
 
 QString Vista::NombreHablado() const
 {
-    const QString hablado = RotuloHablado(control);
+    QString hablado = RotuloHablado(control);
     if (!hablado.isEmpty() || dynamic_cast<const ui::Edicion*>(&control) == nullptr)
         return hablado;
     // A text that fills its group goes by it.
-    const QString grupo = SinMnemonico(CString(control.colocacion.grupo));
+    QString grupo = SinMnemonico(CString(control.colocacion.grupo));
     return grupo.isEmpty() ? QStringLiteral("Texto") : grupo;
 }
 

@@ -23,7 +23,7 @@ public:
 private:
     QString NombreHablado() const override
     {
-        const QString hablado = Vista::NombreHablado();
+        QString hablado = Vista::NombreHablado();
         if (!hablado.isEmpty())
             return hablado;
         return m_grafica.datos.csTitulo.empty() ? QStringLiteral("Gráfica") : AQt(m_grafica.datos.csTitulo);
