@@ -6,10 +6,12 @@
 #include <stdexcept>
 #include <vector>
 
+#include "diseno/comprobaciones.h"
 #include "diseno/resumen.h"
 #include "elementos/rotulos.h"
 #include "esquema/lamina.h"
 #include "proyecto/fichero.h"
+#include "proyecto/vigencia.h"
 
 using namespace efv::estudio;
 
@@ -19,9 +21,12 @@ namespace {
 // offset. Inputs are shorter than a year of hours: they stand for what comes before it.
 constexpr std::size_t kCola = 4 + 4 + 8 + (8760 + 12 * 6) * 8 + 24 * 4 + 4 + 4 + 8;
 
-void Dibujarlo(const CProyectoEstudio& proyecto, Diseno diseno)
+void Mostrarlo(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    const Lamina dibujo = Dibujar(EsquemaDe(proyecto, diseno));
+    const auto calculado = CalcularDiseno(proyecto, diseno);
+    ResumenDe(proyecto, diseno, calculado);
+    AvisoDeDesfase(proyecto, diseno);
+    const Lamina dibujo = Dibujar(EsquemaDe(proyecto, diseno, calculado));
     if (dibujo.trazos.size() > 1000 || !(dibujo.dAncho < 5000.0) || !(dibujo.dAlto < 5000.0))
         std::abort();
 }
@@ -37,10 +42,8 @@ void Recorrer(std::span<const std::uint8_t> entero)
     const auto bytes = BytesDe(*proyecto);
     if (BytesDe(*ProyectoDe(bytes)) != bytes)
         std::abort();
-    ResumenDe(*proyecto, Diseno::aislada);
-    ResumenDe(*proyecto, Diseno::red);
-    Dibujarlo(*proyecto, Diseno::aislada);
-    Dibujarlo(*proyecto, Diseno::red);
+    Mostrarlo(*proyecto, Diseno::aislada);
+    Mostrarlo(*proyecto, Diseno::red);
     ResumenDe(proyecto->consumo, AnoDe(proyecto->consumo));
 }
 
