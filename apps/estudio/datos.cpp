@@ -3,12 +3,14 @@
 #include <cstdlib>
 #include <stdexcept>
 
+#include <fmt/format.h>
 #include <QCoreApplication>
 #include <QDir>
 #include <QStandardPaths>
 
 #include <QuorvelEFV.h>
 #include <quorvel/catalogos_propios.h>
+#include <quorvel/framework/CException.h>
 #include <quorvel/tipos_catalogo.h>
 
 namespace efv::estudio {
@@ -71,9 +73,27 @@ void RechazarOtrasClases(const fs::path& carpeta, CStringArray& fallidas)
     }
 }
 
+// Whole copies that earlier programs made of the shipped catalogues, with what the person changed in them.
+void AdoptarCopias(const Carpetas& carpetas, DatosPuestos& puestos)
+{
+    if (carpetas.datos == carpetas.propios)
+        return;
+    for (const TipoCatalogo* tipo : TiposDeCatalogo()) {
+        const std::string fichero = CadenaUtf8(tipo->Fichero());
+        const CString csCopia = Ruta(carpetas.propios, fichero.c_str());
+        try {
+            if (const std::size_t n = AdoptarCopia(Ruta(carpetas.datos, fichero.c_str()), csCopia); n > 0)
+                puestos.adoptadas.push_back(CadenaDesdeUtf8(
+                    fmt::format("{}: {} {}", tipo->Nombre(), n, n == 1 ? "modelo" : "modelos")));
+        } catch (const CFileException&) {
+            puestos.fallidas.Add(csCopia);
+        }
+    }
+}
+
 }  // namespace
 
-CStringArray PonerDatos(const Carpetas& carpetas)
+DatosPuestos PonerDatos(const Carpetas& carpetas)
 {
     phSetPathApp(CadenaDesdeUtf8(QCoreApplication::applicationDirPath().toStdString()).c_str());
     phSetPathModHE5(CadenaDesdeUtf8(QCoreApplication::applicationDirPath().toStdString()).c_str());
@@ -81,10 +101,11 @@ CStringArray PonerDatos(const Carpetas& carpetas)
     const CString csDatos = Ruta(carpetas.datos, "");
     SuperponerCatalogos(csDatos, Ruta(carpetas.propios, "") + CString(kCarpetaCatalogosPropios));
     phSetPathHE5BD(csDatos.c_str());
-    CStringArray fallidas;
-    phCargarBasesHE5(fallidas);
-    RechazarOtrasClases(carpetas.datos, fallidas);
-    return fallidas;
+    DatosPuestos puestos;
+    AdoptarCopias(carpetas, puestos);
+    phCargarBasesHE5(puestos.fallidas);
+    RechazarOtrasClases(carpetas.datos, puestos.fallidas);
+    return puestos;
 }
 
 }  // namespace efv::estudio

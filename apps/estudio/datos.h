@@ -3,6 +3,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 #include <quorvel/framework/CArray.h>
 #include <quorvel/framework/CString.h>
@@ -25,8 +26,15 @@ std::string CarpetaDeRecuperacion();
 /// @throws std::runtime_error with a Spanish text when the data's doesn't exist
 Carpetas CarpetasDeTrabajo(const std::string& opcion);
 
-/// Tells the library its paths and loads its catalogues. @return the files that couldn't be loaded
-CStringArray PonerDatos(const Carpetas& carpetas);
+/// What putting the data in use came to.
+struct DatosPuestos {
+    CStringArray fallidas;  ///< files that couldn't be loaded
+    std::vector<CString>
+        adoptadas;  ///< catalogues whose former copy went over to the person's own, a line each
+};
+
+/// Tells the library its paths and loads its catalogues.
+DatosPuestos PonerDatos(const Carpetas& carpetas);
 
 /// A file of the folder, as the library takes it.
 CString Ruta(const std::filesystem::path& carpeta, const char* archivo);

@@ -76,6 +76,18 @@ void AvisarDe(const CStringArray& fallidas)
         efv::ui::MostrarAviso(csTexto, efv::ui::Icono::advertencia);
 }
 
+void AvisarDeAdoptadas(const std::vector<CString>& adoptadas)
+{
+    CString csTexto =
+        L"Lo que había en sus copias de los catálogos está ahora en sus catálogos propios, sobre los "
+        L"distribuidos:\n";
+    for (const CString& csCatalogo : adoptadas)
+        csTexto += L"\n" + csCatalogo;
+    if (!adoptadas.empty())
+        efv::ui::MostrarAviso(csTexto + L"\n\nLas copias se guardan, con otro nombre, en la misma carpeta.",
+                              efv::ui::Icono::informacion);
+}
+
 int Ejecutar(QApplication& programa)
 {
     QCommandLineParser orden;
@@ -105,7 +117,7 @@ int Ejecutar(QApplication& programa)
     const std::string opcion = orden.value(datos).toStdString();
     const Carpetas carpetas = bCapturas && opcion.empty() ? Carpetas{CarpetaDistribuida(), CarpetaDistribuida()}
                                                           : CarpetasDeTrabajo(opcion);
-    const CStringArray fallidas = PonerDatos(carpetas);
+    const DatosPuestos puestos = PonerDatos(carpetas);
     if (bCapturas)
         return Capturar(carpetas, orden.value(capturas).toStdString());
     VentanaPrincipal ventana(Lugares(carpetas));
@@ -114,7 +126,8 @@ int Ejecutar(QApplication& programa)
     sesion.PonerRecientes(RecientesDeLaPersona());
     ventana.CopiarEn(CarpetaDeRecuperacion());
     ventana.show();
-    AvisarDe(fallidas);
+    AvisarDe(puestos.fallidas);
+    AvisarDeAdoptadas(puestos.adoptadas);
     if (const QStringList ficheros = orden.positionalArguments(); !ficheros.isEmpty())
         ventana.Atender([&] { sesion.Abrir(ficheros.constFirst().toStdWString()); });
     ventana.Atender([&] { ventana.OfrecerCopias(false); });

@@ -1,6 +1,7 @@
 // Catalogues of one's own: a layer over the shipped ones, which nothing overwrites.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,5 +40,13 @@ EFV_API std::vector<CambioPropio> CambiosPropios(const CString& csRuta);
 /// Takes the layer over a catalogue file away, but for a copy beside it.
 /// @return the copy's path; empty when there was none @throws CFileException, the layer then stays
 EFV_API std::string RestaurarCatalogo(const CString& csRuta);
+
+/// Takes what a whole copy of a catalogue has more than the shipped one, or has otherwise, into the layer:
+/// programs kept such copies before there were layers. What the copy lacks stays, for nobody can tell it from
+/// what was shipped since. The copy stays beside under another name. Nothing happens to one over which a layer
+/// lies already.
+/// @param csRuta the shipped file @return how many models were taken
+/// @throws CFileException when one of the files can't be read or written; the copy then stays as it is
+EFV_API std::size_t AdoptarCopia(const CString& csRuta, const CString& csCopia);
 
 }  // namespace efv

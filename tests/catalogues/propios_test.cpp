@@ -181,6 +181,26 @@ TEST_F(CatalogosPropios, RestaurarDejaLosEnviadosYUnaCopia)
 }
 
 // Nothing of one kind enters a catalogue of another, and none is opened as another.
+// What the copy has otherwise or besides is the person's; what it lacks may have been shipped since.
+TEST_F(CatalogosPropios, UnaCopiaEnteraDeAntesPasaALaCapa)
+{
+    const std::string texto = "<Q><TablaFamilias><Familia nombre=\"A\">" + Receptor("a1", 11) +
+                              Receptor("a3", 40) + "</Familia></TablaFamilias></Q>";
+    const CString csCopia = CadenaDesdeUtf8(m_carpeta.Crear("copia.xml", texto));
+    EXPECT_EQ(AdoptarCopia(Ruta(), csCopia), 2U);
+    EXPECT_EQ(Vigentes(), Ids({"A#a1=11*", "A#a2=20", "A#a3=40*", "B#b1=30"}));
+    EXPECT_EQ(Leer(m_carpeta.Ruta() / "copia.xml.anterior-1"), texto);
+    EXPECT_FALSE(fs::exists(m_carpeta.Ruta() / "copia.xml"));
+    // Where a layer lies already, the copy stays and counts for nothing; one that can't be read stays too.
+    m_carpeta.Crear("copia.xml", texto);
+    EXPECT_EQ(AdoptarCopia(Ruta(), csCopia), 0U);
+    EXPECT_EQ(Leer(m_carpeta.Ruta() / "copia.xml"), texto);
+    fs::remove(Propio());
+    m_carpeta.Crear("copia.xml", "<Q>");
+    EXPECT_THROW(AdoptarCopia(Ruta(), csCopia), CFileException);
+    EXPECT_EQ(Leer(m_carpeta.Ruta() / "copia.xml"), "<Q>");
+}
+
 TEST_F(CatalogosPropios, UnCatalogoEsDeSuClase)
 {
     for (const TipoCatalogo* tipo : TiposDeCatalogo()) {
