@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
+#include <vector>
 
 #include "proyecto/receptores.h"
 
@@ -23,12 +25,13 @@ constexpr auto kCargas = std::to_array<CargaEjemplo>({
     {L"Vivienda#Lavadora", 1, {720, 765, 0, 0, 0, 0}},
 });
 
-// Presses OK in the dialog of that class, whatever else is asked.
+// Takes the steps in the dialog of that class and presses OK, whatever else is asked.
 class Aceptante {
 public:
-    explicit Aceptante(const char* clase) : m_antes(ui::PresentadorActual())
+    explicit Aceptante(const char* clase, std::vector<ui::Paso> pasos = {}) : m_antes(ui::PresentadorActual())
     {
-        m_guion.guiones.push_back({clase, {ui::paso::Pulsar{"OK"}}});
+        pasos.emplace_back(ui::paso::Pulsar{"OK"});
+        m_guion.guiones.push_back({clase, std::move(pasos)});
         ui::InstalarPresentador(&m_guion);
     }
     ~Aceptante() { ui::InstalarPresentador(&m_antes); }
@@ -109,7 +112,7 @@ std::unique_ptr<CProyectoEstudio> ProyectoDeEjemplo(const Lugar& lugar)
     aislada.csAcumulador = L"TAB#6 OPzS 420";
     aislada.csPanel = L"Canadian Solar#CS3U-350P";
     aislada.dTensionSistema = 48.0;
-    aislada.dTensionMaxFV = 150.0;
+    aislada.dTensionMaxFV = 180.0;
     aislada.dProfundidadDescarga = 70.0;
     aislada.bSalidaCA = 1;
     CSFVAsistenteRed& red = proyecto->red;
@@ -120,7 +123,10 @@ std::unique_ptr<CProyectoEstudio> ProyectoDeEjemplo(const Lugar& lugar)
         const Aceptante aceptante("CDlgAsistenteSFVAislada");
         phAsistenteSFVAislada(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, lugar.adRadHorizontal, aislada);
     }
-    const Aceptante aceptante("CDlgAsistenteSFVRed");
+    // What keeps to the limits in the cold; the assistant's own proposal works at 25 ºC.
+    const Aceptante aceptante("CDlgAsistenteSFVRed",
+                              {ui::paso::Poner{"iInversores", L"5"}, ui::paso::Poner{"iPanelesSerie", L"6"},
+                               ui::paso::Poner{"iPanelesParalelo", L"2"}});
     phAsistenteSFVRed(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, red);
     PonerEconomia(proyecto->economia);
     PonerElementos(red, proyecto->elementos);

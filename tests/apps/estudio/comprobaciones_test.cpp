@@ -6,6 +6,7 @@
 #include "apoyo.h"
 #include "elementos/rotulos.h"
 #include "esquema/lamina.h"
+#include "proyecto/ejemplo.h"
 
 namespace {
 
@@ -102,6 +103,22 @@ TEST_F(ComprobacionesDelDiseno, ElEsquemaEnmarcaLoQueFalla)
               std::string::npos);
     proyecto.red.iPanelesSerie = 7;
     EXPECT_EQ(fallos(Elemento::Clase::inversor), L"");
+}
+
+TEST_F(ComprobacionesDelDiseno, ElProyectoDeEjemploCumple)
+{
+    Lugar lugar;
+    lugar.dLatitud = 40.4;
+    std::ranges::fill(lugar.adRadHorizontal, 15000.0);
+    const auto ejemplo = ProyectoDeEjemplo(lugar);
+    for (const Diseno diseno : {Diseno::aislada, Diseno::red}) {
+        const auto calculado = CalcularDiseno(*ejemplo, diseno);
+        ASSERT_TRUE(calculado);
+        const auto lineas = ComprobacionesDe(calculado->comprobacion);
+        EXPECT_GE(lineas.size(), 4U);
+        for (const LineaComprobacion& linea : lineas)
+            EXPECT_NE(linea.bCumple, false) << CadenaUtf8(linea.csNombre + L": " + linea.csValor);
+    }
 }
 
 }  // namespace

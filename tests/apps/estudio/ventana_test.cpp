@@ -264,7 +264,7 @@ TEST_F(Ventanas, ElEjemploTieneLosDosDisenosYConsumo)
         EXPECT_FALSE(esquema.elementos.empty());
         EXPECT_TRUE(esquema.acsNotas.empty());
     }
-    EXPECT_EQ(proyecto.red.iInversores, 4);              // 20 kW over inverters of 5 kW
+    EXPECT_EQ(proyecto.red.iInversores, 5);              // 20 kW of panels, 12 an inverter
     EXPECT_EQ(proyecto.aislada.iAcumuladoresSerie, 24);  // 48 V of 2 V each
     EXPECT_GT(AnoDe(proyecto.consumo).Energia(), 0.0);
     EXPECT_EQ(&ui::PresentadorActual(), &guion.presentador);
@@ -312,7 +312,7 @@ TEST_F(Ventanas, UnDobleClicAbreElDialogoDelElemento)
     EXPECT_EQ(proyecto.elementos.caja.csReferencia, L"REF");
     EXPECT_EQ(proyecto.elementos.inversor.entradas.GetSize(), 4);  // of the SB5.0
     EXPECT_EQ(proyecto.red.csInversor, L"SMA#SB5.0-1AV-40");
-    EXPECT_EQ(proyecto.red.iInversores, 4);
+    EXPECT_EQ(proyecto.red.iInversores, 5);
     guion.Dialogo("CDlgDatosAcumulador", {paso::Poner{"nParalelo", L"3"}, paso::Pulsar{"OK"}});
     ventana.MostrarPestana("aislada");
     DobleClic(*ventana.EsquemaALaVista(), Clase::acumuladores);
@@ -340,7 +340,7 @@ TEST_F(Ventanas, ElEsquemaLlevaLosRotulosYLosColoresDeLaPersona)
     vista.alRotular(Elemento::Clase::caja);
     EXPECT_EQ(elementos.caja.iRotulos, 5);
     EXPECT_TRUE(SeLee(vista.Mostrado(), L"Referencia: CX-1"));
-    EXPECT_TRUE(SeLee(vista.Mostrado(), L"Corriente máxima: 88,0 A"));  // 4 inverters of 22 A
+    EXPECT_TRUE(SeLee(vista.Mostrado(), L"Corriente máxima: 110,0 A"));  // 5 inverters of 22 A
 
     const auto rojas = [&] {
         return std::ranges::count_if(vista.Mostrado().trazos, [](const Trazo& t) {
@@ -382,7 +382,7 @@ TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
     sesion.Proyecto().portada.csCliente = L"Cooperativa";
     for (const auto& [pestana, textos] :
-         {std::pair("red", std::array{"conectada a red", "4 · 20,00 kW", "SB5.0-1AV-40"}),
+         {std::pair("red", std::array{"conectada a red", "5 · 25,00 kW", "SB5.0-1AV-40"}),
           std::pair("aislada", std::array{"aislada", "(24 × ", "6 OPzS 420"})}) {
         const std::filesystem::path ruta = carpeta.Ruta() / "informe.html";
         guion.presentador.ficheros.emplace_back(ruta.wstring());
