@@ -32,7 +32,12 @@ public:
             control.forma != ui::Seleccion::Forma::menu)
             contenidos.push_back(std::to_wstring(control.iSeleccion));
     }
-    void Ver(ui::Boton& /*control*/) override {}
+    void Ver(ui::Boton& control) override
+    {
+        // Changes that no control shows, as those of a catalogue: while they can be undone, there are some.
+        if (control.nombre == "Deshacer")
+            contenidos.emplace_back(control.bHabilitado ? L"1" : L"0");
+    }
     void Ver(ui::BotonColor& control) override { contenidos.push_back(std::to_wstring(control.iColor)); }
     void Ver(ui::Hora& control) override { contenidos.push_back(std::to_wstring(control.iMinutos)); }
     void Ver(ui::Lista& control) override

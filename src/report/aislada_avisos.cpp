@@ -125,12 +125,12 @@ private:
                 Falta(fmt::format("{}: el cálculo toma las horas de un lunes de enero, {}, y hay días de {}.",
                                   nombre, Con(dHoras, 2, "h"), Con(dMas, 2, "h")));
         }
-        if (dPotenciaCA > 0.0 && m_v.bSalidaCA == 0)
+        if (dPotenciaCA > 0.0 && m_v.bSalidaCA == 0) {
             m_avisos.push_back(
                 {true,
                  "Hay receptores de corriente alterna y la instalación no tiene salida en CA («bSalidaCA»).",
                  "Hay receptores de corriente alterna y la instalación no tiene salida en CA."});
-        else if (dPotenciaCA > m_proyecto.registro.dPotenciaSalidaCA + kTolerancia) {
+        } else if (dPotenciaCA > m_proyecto.registro.dPotenciaSalidaCA + kTolerancia) {
             Nota(fmt::format(
                 "Los receptores de alterna suman {}, más que la salida en CA, {}: no pueden funcionar "
                 "todos a la vez.",

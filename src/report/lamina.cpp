@@ -362,7 +362,7 @@ private:
             Escribir(
                 {{centro.x, y += 15}, Acortar(conexion.csDetalle), kLetraPequena, Tinta::tenue, Lado::centro});
         if (!conexion.csCable.empty())
-            Escribir({{centro.x, y += 15}, Acortar(conexion.csCable), kLetraPequena, tintaCable, Lado::centro});
+            Escribir({{centro.x, y + 15}, Acortar(conexion.csCable), kLetraPequena, tintaCable, Lado::centro});
     }
 
     const Esquema& m_esquema;

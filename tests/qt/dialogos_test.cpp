@@ -459,6 +459,29 @@ TEST(Ventana, EscapePreguntaSiHayCambios)
     }
 }
 
+// What a catalogue's viewer has changed stands in no field.
+TEST(Ventana, EscapePreguntaSiHayAlgoQueDeshacer)
+{
+    struct ConDeshacer : ui::Dialogo {
+        ConDeshacer() : Dialogo("ConDeshacer", L"Prueba"), deshacer(Anadir<ui::Boton>("Deshacer", L"De&shacer"))
+        {
+            deshacer.bHabilitado = false;
+        }
+        ui::Boton& deshacer;
+    } d;
+    EXPECT_EQ(Mostrar(d,
+                      [&](QDialog& v) {
+                          d.deshacer.bHabilitado = true;
+                          ResponderCaja("Seguir");
+                          v.close();
+                          EXPECT_FALSE(d.Terminado());
+                          d.deshacer.bHabilitado = false;
+                          v.close();
+                          EXPECT_TRUE(d.Terminado());
+                      }),
+              ui::Dialogo::cancelado);
+}
+
 // Yes of two answers deletes or replaces: neither Enter nor Escape gives it.
 TEST(Ventana, LasTeclasDeUnaCajaNoHacenDano)
 {
@@ -478,7 +501,7 @@ TEST(Ventana, LasTeclasDeUnaCajaNoHacenDano)
           Caso{otra, Respuesta::cancelar, Respuesta::cancelar}}) {
         for (const auto& [tecla, respuesta] :
              {std::pair(Qt::Key_Return, caso.conIntro), std::pair(Qt::Key_Escape, caso.conEscape)}) {
-            CuandoSeAbra([&](QDialog& caja) {
+            CuandoSeAbra([&, tecla = tecla](QDialog& caja) {
                 EXPECT_EQ(caja.findChildren<QPushButton*>().at(0)->text(),
                           caso.mensaje.csSi.empty() ? "&Sí" : "&Guardar");
                 QTest::keyClick(&caja, tecla);
