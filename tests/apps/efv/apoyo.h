@@ -1,7 +1,10 @@
 // What the tests of the command share.
 #pragma once
 
+#include <filesystem>
+#include <fstream>
 #include <initializer_list>
+#include <iterator>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -34,6 +37,15 @@ inline testing::AssertionResult Contiene(const std::string& texto,
         if (texto.find(parte) == std::string::npos)
             return testing::AssertionFailure() << "«" << parte << "» no está en\n" << texto;
     return testing::AssertionSuccess();
+}
+
+/// The projects and studies that are shipped.
+inline const std::filesystem::path kEjemplos = std::filesystem::path(EFV_CARPETA_PRUEBAS) / "../data/ejemplos";
+
+inline std::string LeerTodo(const std::filesystem::path& ruta)
+{
+    std::ifstream fichero(ruta, std::ios::binary);
+    return {std::istreambuf_iterator<char>(fichero), {}};
 }
 
 /// Runs the command in this process.

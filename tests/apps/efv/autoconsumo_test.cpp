@@ -5,15 +5,13 @@
 namespace efv::orden::pruebas {
 namespace {
 
-constexpr const char* kEjemplos = EFV_CARPETA_PRUEBAS "/../data/ejemplos/";
-
 /// The shipped study, to be changed, with the shipped meter's file beside it.
 class EstudioEjemplo {
 public:
     EstudioEjemplo()
     {
-        json = Json::parse(std::ifstream(std::string(kEjemplos) + "casa-autoconsumo.json"));
-        json["consumo"]["fichero"] = std::string(kEjemplos) + "contador-casa.csv";
+        json = Json::parse(std::ifstream(kEjemplos / "casa-autoconsumo.json"));
+        json["consumo"]["fichero"] = (kEjemplos / "contador-casa.csv").string();
     }
 
     Corrida Correr(std::vector<std::string> argumentos = {}) const
@@ -126,7 +124,7 @@ TEST(Autoconsumo, LoQueNoValeSeDiceEnUnaLinea)
           {"--barrido", "1..9:0"},
           {"--barrido", "x"},
           {"--svg", "a.svg"},
-          {"--informe", std::string(kEjemplos) + "contador-casa.csv"}})
+          {"--informe", (kEjemplos / "contador-casa.csv").string()}})
         EXPECT_EQ(estudio.Correr(argumentos).iEstado, 2) << argumentos.back();
 }
 

@@ -1,6 +1,5 @@
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 
 #include <quorvel/reloj.h>
 
@@ -8,14 +7,6 @@
 
 namespace efv::orden::pruebas {
 namespace {
-
-const std::filesystem::path kEjemplos = std::filesystem::path(EFV_CARPETA_PRUEBAS) / "../data/ejemplos";
-
-std::string LeerTodo(const std::filesystem::path& ruta)
-{
-    std::ifstream fichero(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(fichero), {}};
-}
 
 Json Ejemplo(const char* nombre)
 {

@@ -1,7 +1,6 @@
 // Reports as PDF: bytes that repeat, what the library refuses told in Spanish.
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
 
 #include <quorvel/reloj.h>
 
@@ -10,14 +9,6 @@
 
 namespace efv::orden::pruebas {
 namespace {
-
-const std::filesystem::path kEjemplos = std::filesystem::path(EFV_CARPETA_PRUEBAS) / "../data/ejemplos";
-
-std::string LeerTodo(const std::filesystem::path& ruta)
-{
-    std::ifstream fichero(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(fichero), {}};
-}
 
 std::size_t Veces(const std::string& texto, std::string_view que)
 {

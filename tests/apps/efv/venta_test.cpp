@@ -2,7 +2,6 @@
 #include <algorithm>
 #include <cmath>
 #include <fstream>
-#include <iterator>
 
 #include <quorvel/framework/CArchive.h>
 
@@ -11,12 +10,6 @@
 
 namespace efv::orden::pruebas {
 namespace {
-
-std::string LeerTodo(const std::filesystem::path& ruta)
-{
-    std::ifstream fichero(ruta, std::ios::binary);
-    return {std::istreambuf_iterator<char>(fichero), {}};
-}
 
 class Venta : public testing::Test {
 protected:
