@@ -16,6 +16,7 @@
 #include "anfitrion/simbolos.h"
 #include "capturas/capturar.h"
 #include "capturas/pantalla.h"
+#include "comun/ajustes.h"
 #include "datos.h"
 #include "proyecto/ejemplo.h"
 #include "proyecto/recientes.h"
@@ -120,7 +121,10 @@ int Ejecutar(QApplication& programa)
     const DatosPuestos puestos = PonerDatos(carpetas);
     if (bCapturas)
         return Capturar(carpetas, orden.value(capturas).toStdString());
+    Ajustes ajustes;
+    efv::qt::RecordarVentanas(&ajustes);
     VentanaPrincipal ventana(Lugares(carpetas));
+    efv::qt::RestaurarVentana(ventana);
     efv::qt::InstalarPresentadorQt(&ventana);
     Sesion& sesion = ventana.LaSesion();
     sesion.PonerRecientes(RecientesDeLaPersona());

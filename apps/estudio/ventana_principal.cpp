@@ -14,7 +14,6 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
-#include <QVBoxLayout>
 
 #include <quorvel/qt.h>
 
@@ -22,6 +21,7 @@
 #include "economia/estudios.h"
 #include "elementos/rotulos.h"
 #include "energia/planos.h"
+#include "paneles/rollo.h"
 #include "proyecto/asistentes.h"
 #include "proyecto/vigencia.h"
 
@@ -35,9 +35,12 @@ Sesion SesionInicial(const std::vector<Localidad>& localidades)
     return madrid != nullptr ? Sesion(LugarDe(*madrid), SituacionDe(*madrid)) : Sesion();
 }
 
-constexpr double kParteDePantalla = 0.95;  // the title bar takes some
+constexpr double kParteDePantalla = 0.93;  // the title bar takes some
 constexpr int kEntreCopias = 5000;         // ms
 constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270;
+
+// Of the screen's width, before a panel scrolls sideways.
+constexpr double kParteLugar = 0.35, kPartePestanas = 0.5;
 
 constexpr int kComprobaciones = 1;  // tab below a schematic, behind the summary
 
@@ -46,15 +49,6 @@ CString MarcaDe(const std::vector<LineaComprobacion>& lineas)
 {
     const auto n = std::ranges::count(lineas, std::optional(false), &LineaComprobacion::bCumple);
     return lineas.empty() ? L"" : n == 0 ? L" ✓" : L": ✗ " + std::to_wstring(n);
-}
-
-// A widget with its layout's margin around it.
-QWidget* ConMargen(QWidget* dentro)
-{
-    auto* marco = new QWidget;
-    auto* pila = new QVBoxLayout(marco);
-    pila->addWidget(dentro);
-    return marco;
 }
 
 // A design's summary with what keeps it from being up to date.
@@ -147,9 +141,11 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
           [this] { return ConMarca(AutoconsumoDe(m_sesion.Proyecto()), m_sesion.Proyecto()); },
           [this] { EstudiarAutoconsumo(m_sesion); })
 {
+    setObjectName("ventana");
     CrearMenus();
     auto* centro = new QSplitter(this);
-    centro->addWidget(ConMargen(CrearPanel(m_lugar, centro)));
+    centro->setObjectName("centro");
+    centro->addWidget(new Rollo(CrearPanel(m_lugar, centro), kParteLugar));
     m_pestanas = new QTabWidget(centro);
     m_pestanas->setObjectName("pestanas");
     for (const FilaPestana& fila : FilasPestanas())
@@ -189,9 +185,10 @@ QWidget* VentanaPrincipal::CrearPestana(const FilaPestana& fila)
 {
     if (!fila.diseno) {
         m_esquemas.push_back(nullptr);
-        return ConMargen(CrearPanel(fila.panel(*this), m_pestanas));
+        return new Rollo(CrearPanel(fila.panel(*this), m_pestanas), kPartePestanas);
     }
     auto* partes = new QSplitter(Qt::Vertical);
+    partes->setObjectName(QString("partes-") + fila.nombre);
     auto* esquema = new VistaEsquema;
     m_esquemas.push_back(esquema);
     const Diseno diseno = *fila.diseno;
@@ -207,9 +204,10 @@ QWidget* VentanaPrincipal::CrearPestana(const FilaPestana& fila)
     partes->addWidget(esquema);
     auto* cuentas = new QTabWidget(partes);
     cuentas->setDocumentMode(true);
-    cuentas->addTab(ConMargen(CrearPanel(fila.panel(*this), cuentas)), "Resumen");
+    cuentas->addTab(new Rollo(CrearPanel(fila.panel(*this), cuentas), kPartePestanas), "Resumen");
     const auto iDiseno = static_cast<std::size_t>(diseno);
-    cuentas->addTab(ConMargen(CrearPanel(m_comprobaciones.at(iDiseno), cuentas)), "Comprobaciones");
+    cuentas->addTab(new Rollo(CrearPanel(m_comprobaciones.at(iDiseno), cuentas), kPartePestanas),
+                    "Comprobaciones");
     m_cuentas.at(iDiseno) = cuentas;
     partes->addWidget(cuentas);
     partes->setStretchFactor(0, 1);
@@ -457,6 +455,8 @@ void VentanaPrincipal::closeEvent(QCloseEvent* evento)
         m_copia.stop();
         m_recuperacion->Retirar();
     }
+    if (bCerrar)
+        qt::GuardarVentana(*this);
     evento->setAccepted(bCerrar);
 }
 

@@ -15,6 +15,7 @@ QT_BEGIN_NAMESPACE
 class QDialog;
 class QIcon;
 class QPalette;
+class QSettings;
 class QString;
 class QWidget;
 QT_END_NAMESPACE
@@ -43,6 +44,16 @@ EFV_QT_API QDialog* CrearVentana(ui::Dialogo& dialogo, QWidget* padre = nullptr)
 /// `dialogo` as a part of the host's own window: its controls without OK and Cancel, and without the keys
 /// that end a dialog. Ownership as above.
 EFV_QT_API QWidget* CrearPanel(ui::Dialogo& dialogo, QWidget* padre = nullptr);
+
+/// From now on dialogs open as large and where the person left them, by their class's names, with the columns
+/// of their lists as wide; null, as at the start: as they are made. `ajustes` belongs to the host, and may go
+/// first.
+EFV_QT_API void RecordarVentanas(QSettings* ajustes);
+
+/// The same for a window of the host's own, by its object name: its place, whether it is maximised, its
+/// dividers that have an object name. Never off the screen, nor larger.
+EFV_QT_API void RestaurarVentana(QWidget& ventana);
+EFV_QT_API void GuardarVentana(const QWidget& ventana);
 
 /// Redraws a window or panel of these after its dialog changed by other ways than the person's actions.
 EFV_QT_API void RefrescarVentana(QWidget* ventana);

@@ -17,10 +17,12 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <quorvel/qt.h>
 #include <quorvel/ui/como.h>
 #include <quorvel/ui/presentador.h>
 
 #include "qt/cajas.h"
+#include "qt/geometria.h"
 #include "qt/relleno.h"
 #include "qt/texto.h"
 
@@ -35,7 +37,7 @@ std::vector<VentanaDialogo*>& Abiertas()
     return abiertas;
 }
 
-constexpr double kParteDePantalla = 0.92;
+constexpr double kParteDeAncho = 0.985, kParteDeAlto = 0.92;  // of the screen; title and frame take the rest
 constexpr QSize kTamanoMinimo(300, 0);
 constexpr QSize kTamanoMaximizable(760, 540);  // of what is meant to be looked at large
 constexpr int kMargenDeBarra = 6;              // between the controls and the bar that scrolls them
@@ -90,8 +92,11 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     connect(qApp, &QApplication::focusChanged, this,
             [this](QWidget* /*antes*/, QWidget* ahora) { AtenderFoco(ahora); });
     Refrescar();
-    if (marco == Marco::ventana)
+    if (marco == Marco::ventana) {
         DarTamano(*pila, controles);
+        RestaurarVentana(*this);
+    }
+    RecordarColumnas(*this);
 }
 
 VentanaDialogo::~VentanaDialogo()
@@ -157,7 +162,9 @@ void VentanaDialogo::CrearBotones(QVBoxLayout& pila)
 // Room for the controls and the title; on a screen too small for them the controls scroll.
 void VentanaDialogo::DarTamano(QVBoxLayout& pila, QWidget* controles)
 {
-    const QSize sitio = screen()->availableSize() * kParteDePantalla;
+    const QSize pantalla = screen()->availableSize();
+    const QSize sitio(static_cast<int>(pantalla.width() * kParteDeAncho),
+                      static_cast<int>(pantalla.height() * kParteDeAlto));
     QSize pedido = sizeHint();
     const QSize necesario = minimumSizeHint();
     if (necesario.width() > sitio.width() || necesario.height() > sitio.height()) {
@@ -414,9 +421,17 @@ void VentanaDialogo::showEvent(QShowEvent* evento)
 {
     QDialog::showEvent(evento);
     if (!std::exchange(m_bMostrada, true) && m_marco == Marco::ventana) {
+        AnotarSitio(*this);
         m_alMostrar = LoRellenado(m_dialogo);
         EnfocarPrimera();
     }
+}
+
+void VentanaDialogo::hideEvent(QHideEvent* evento)
+{
+    if (m_marco == Marco::ventana && !evento->spontaneous())
+        GuardarVentana(*this);
+    QDialog::hideEvent(evento);
 }
 
 void VentanaDialogo::changeEvent(QEvent* evento)

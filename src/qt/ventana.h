@@ -43,6 +43,7 @@ protected:
     void keyPressEvent(QKeyEvent* evento) override;
     void closeEvent(QCloseEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
+    void hideEvent(QHideEvent* evento) override;
     void changeEvent(QEvent* evento) override;
 
 private:

@@ -29,6 +29,8 @@ public:
         Combo().setMaxVisibleItems(20);
         // A long entry widens the open list, not the form.
         Combo().setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        // Where there is little room it shows the beginning of what is chosen.
+        Combo().setMinimumWidth(Combo().fontMetrics().averageCharWidth() * kLetrasImprescindibles);
         new SinRueda(widget);
         QObject::connect(&Combo(), &QComboBox::activated, &Combo(), [&](int iEntrada) {
             accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iEntrada); });
@@ -36,6 +38,7 @@ public:
     }
 
 private:
+    static constexpr int kLetrasImprescindibles = 14;
     QComboBox& Combo() const { return static_cast<QComboBox&>(*widget); }
     bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
 

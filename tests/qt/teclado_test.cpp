@@ -11,12 +11,7 @@
 #include <QMenuBar>
 #include <QTabBar>
 
-#include "anfitrion/simbolos.h"
-#include "apps/estudio/apoyo.h"
-#include "capturas/registro.h"
-#include "muestra.h"
-#include "proyecto/ejemplo.h"
-#include "ventana_principal.h"
+#include "recorrido.h"
 
 namespace {
 
@@ -105,60 +100,17 @@ void TodosTienenNombre(QWidget& ventana, const std::string& nombre)
     }
 }
 
-// Looks at each dialog that opens in place of a person.
-class PresentadorQueMira final : public ui::PresentadorNulo {
-public:
-    explicit PresentadorQueMira(const Pantalla& pantalla) : m_pantalla(pantalla)
-    {
-        ui::InstalarPresentador(this);
-    }
-    ~PresentadorQueMira() override { ui::InstalarPresentador(nullptr); }
-    int nVistos = 0;
-
-    void MostrarModal(ui::Dialogo& dialogo) override
-    {
-        ++nVistos;
-        const std::unique_ptr<QDialog> ventana(qt::CrearVentana(dialogo));
-        ventana->show();
-        ui::Seleccion* const paginas = dialogo.Pestanas();
-        const int nPaginas = paginas != nullptr ? static_cast<int>(paginas->acsEntradas.size()) : 1;
-        for (int i = 0; i < nPaginas; ++i) {
-            if (paginas != nullptr)
-                dialogo.Elegir(*paginas, i);
-            qt::RefrescarVentana(ventana.get());
-            UnaTeclaUnControl(*ventana, dialogo.clase);
-            ElOrdenEsElDeLaLectura(dialogo, *ventana);
-            TodosTienenNombre(*ventana, dialogo.clase);
-        }
-        ElTabuladorPasaPorTodos(*ventana, dialogo.clase);
-        if (m_pantalla.recorrer)
-            m_pantalla.recorrer(dialogo);
-        if (!dialogo.Terminado())
-            dialogo.Cancelar();
-    }
-
-private:
-    const Pantalla& m_pantalla;
-};
-
-class Teclado : public ConCatalogos {
-protected:
-    Teclado() { phSetQuorvelBIMCtrl(control); }
-
-    static inline ControlAnfitrion control;  // the module keeps it for good
-    VentanaPrincipal ventana{LeerLocalidades(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/localidades.xml"))};
-    Sesion& sesion = ventana.LaSesion();
-};
+class Teclado : public ConPantallas {};
 
 TEST_F(Teclado, CadaTeclaEsDeUnSoloControlYElTabuladorPasaPorTodos)
 {
-    sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
-    int nVistos = 0;
-    for (const Pantalla& pantalla : Pantallas(sesion)) {
-        PresentadorQueMira presentador(pantalla);
-        pantalla.abrir();
-        nVistos += presentador.nVistos;
-    }
+    const int nVistos = Recorrer(
+        [](ui::Dialogo& dialogo, QDialog& vista) {
+            UnaTeclaUnControl(vista, dialogo.clase);
+            ElOrdenEsElDeLaLectura(dialogo, vista);
+            TodosTienenNombre(vista, dialogo.clase);
+        },
+        [](ui::Dialogo& dialogo, QDialog& vista) { ElTabuladorPasaPorTodos(vista, dialogo.clase); });
     EXPECT_GT(nVistos, 25);
 }
 

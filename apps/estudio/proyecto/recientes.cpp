@@ -2,23 +2,15 @@
 
 #include <memory>
 
-#include <QSettings>
 #include <QStringList>
+
+#include "comun/ajustes.h"
 
 namespace efv::estudio {
 
 namespace {
 
 constexpr const char* kClave = "proyecto/recientes";
-
-class Ajustes final : public QSettings {
-public:
-    Ajustes()
-        : QSettings(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("QuorvelEFV"),
-                    QStringLiteral("efv-estudio"))
-    {
-    }
-};
 
 std::vector<CString> Leer()
 {

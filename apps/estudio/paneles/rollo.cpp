@@ -1,0 +1,58 @@
+#include "paneles/rollo.h"
+
+#include <algorithm>
+
+#include <QEvent>
+#include <QScreen>
+#include <QScrollBar>
+#include <QVBoxLayout>
+
+namespace efv::estudio {
+
+namespace {
+
+constexpr int kLineasALaVista = 7;  // at least
+
+}  // namespace
+
+Rollo::Rollo(QWidget* dentro, double dParte) : m_dParte(dParte)
+{
+    auto* marco = new QWidget;
+    auto* pila = new QVBoxLayout(marco);
+    pila->addWidget(dentro);
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setFocusPolicy(Qt::NoFocus);
+    setWidget(marco);
+    // As what it lies on, which the ground of a scroll area isn't.
+    viewport()->setAutoFillBackground(false);
+    marco->setAutoFillBackground(false);
+    marco->installEventFilter(this);
+}
+
+int Rollo::AnchoDeBarra() const
+{
+    return verticalScrollBar()->sizeHint().width();
+}
+
+QSize Rollo::minimumSizeHint() const
+{
+    const int iPermitido = static_cast<int>(screen()->availableSize().width() * m_dParte);
+    return {std::min(widget()->minimumSizeHint().width() + AnchoDeBarra(), iPermitido),
+            kLineasALaVista * fontMetrics().lineSpacing()};
+}
+
+QSize Rollo::sizeHint() const
+{
+    return widget()->sizeHint() + QSize(AnchoDeBarra(), 0);
+}
+
+// What is inside needs more room than it did, or less.
+bool Rollo::eventFilter(QObject* objeto, QEvent* evento)
+{
+    if (objeto == widget() && evento->type() == QEvent::LayoutRequest)
+        updateGeometry();
+    return QScrollArea::eventFilter(objeto, evento);
+}
+
+}  // namespace efv::estudio

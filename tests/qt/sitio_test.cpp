@@ -1,0 +1,132 @@
+// Room on the screen: what is small enough for it, and what is remembered of the windows.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QFont>
+#include <QHeaderView>
+#include <QScreen>
+#include <QSettings>
+#include <QTableView>
+#include <QTemporaryDir>
+
+#include "muestra.h"
+#include "recorrido.h"
+
+namespace {
+
+using namespace efv;
+using namespace efv::estudio;
+using namespace efv::pruebas;
+
+// A small screen without its bar of tasks.
+constexpr QSize kPantallaPequena(1366, 728);
+
+void Cabe(const QWidget& ventana, const std::string& nombre)
+{
+    const QSize minimo = ventana.minimumSizeHint();
+    EXPECT_TRUE(minimo.boundedTo(kPantallaPequena) == minimo)
+        << nombre << ": " << minimo.width() << " x " << minimo.height();
+    EXPECT_TRUE(ventana.size().boundedTo(kPantallaPequena) == ventana.size())
+        << nombre << ": " << ventana.width() << " x " << ventana.height();
+}
+
+// OK and Cancel are in sight however little there is to see of the rest.
+void SusBotonesSeVen(const QWidget& ventana, const std::string& nombre)
+{
+    for (const char* boton : {"aceptar", "cancelar"}) {
+        const auto* w = ventana.findChild<QAbstractButton*>(boton, Qt::FindDirectChildrenOnly);
+        ASSERT_NE(w, nullptr) << nombre;
+        EXPECT_TRUE(w->isHidden() || ventana.rect().contains(w->geometry())) << nombre << ": " << boton;
+    }
+}
+
+class ConLetras : public ConPantallas, public testing::WithParamInterface<double> {
+protected:
+    ConLetras()
+    {
+        QFont letras = m_antes;
+        letras.setPointSizeF(GetParam());
+        QApplication::setFont(letras);
+    }
+    ~ConLetras() override { QApplication::setFont(m_antes); }
+
+private:
+    QFont m_antes = QApplication::font();
+};
+
+TEST_P(ConLetras, TodoCabeEnUnaPantallaPequena)
+{
+    Recorrer([](ui::Dialogo& dialogo, QDialog& vista) {
+        Cabe(vista, dialogo.clase);
+        SusBotonesSeVen(vista, dialogo.clase);
+    });
+    VentanaPrincipal otra(LeerLocalidades(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/localidades.xml")));
+    otra.LaSesion().Nuevo(ProyectoDeEjemplo(otra.LaSesion().LugarInicial()));
+    otra.show();
+    for (const char* nombre : VentanaPrincipal::Pestanas()) {
+        otra.MostrarPestana(nombre);
+        QApplication::processEvents();
+        Cabe(otra, nombre);
+    }
+}
+INSTANTIATE_TEST_SUITE_P(Letras, ConLetras, testing::Values(9.0, 14.0));
+
+// Settings of their own while it lives.
+class Geometria : public testing::Test {
+protected:
+    Geometria() { qt::RecordarVentanas(&ajustes); }
+    ~Geometria() override { qt::RecordarVentanas(nullptr); }
+
+    static void Abrir(const std::function<void(QDialog&)>& mirar)
+    {
+        Muestra muestra;
+        const std::unique_ptr<QDialog> ventana(qt::CrearVentana(muestra));
+        ventana->show();
+        mirar(*ventana);
+        ventana->hide();
+    }
+
+    const QTemporaryDir carpeta;
+    QSettings ajustes{carpeta.filePath("ajustes.ini"), QSettings::IniFormat};
+};
+
+TEST_F(Geometria, NadaSeAbreFueraDeLaPantalla)
+{
+    const QRect sitio = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize tamano(800, 680);
+    const QPoint abajo(sitio.width() - tamano.width(), sitio.height() - tamano.height());
+    for (const auto& [pedido, puesto] : {
+             std::pair(QPoint(100, 50), QPoint(100, 50)),  // as it was
+             std::pair(QPoint(-300, 50), QPoint(0, 50)),   // an edge
+             std::pair(QPoint(5000, 5000), abajo),         // a screen that is gone
+         }) {
+        ajustes.setValue("ventanas/Muestra/sitio", QRect(pedido, tamano));
+        Abrir([&](const QDialog& ventana) { EXPECT_EQ(ventana.geometry(), QRect(puesto, tamano)); });
+    }
+    ajustes.setValue("ventanas/Muestra/sitio", QRect(0, 0, 3000, 2000));
+    Abrir([&](const QDialog& ventana) { EXPECT_EQ(ventana.size(), sitio.size()); });
+}
+
+TEST_F(Geometria, LoQueLaPersonaMueveSeRecuerdaPorSuClase)
+{
+    const QRect elegido(120, 60, 900, 680);
+    Abrir([](QDialog&) {});
+    EXPECT_TRUE(ajustes.allKeys().isEmpty());  // left alone
+    QList<int> anchos;
+    Abrir([&](QDialog& ventana) {
+        ventana.setGeometry(elegido);
+        auto& cabecera = *Hijo<QTableView>(ventana, "tabla").horizontalHeader();
+        const QPoint borde(cabecera.sectionPosition(1) - 1, cabecera.height() / 2);
+        QTest::mousePress(cabecera.viewport(), Qt::LeftButton, {}, borde);
+        cabecera.resizeSection(0, cabecera.sectionSize(0) + 37);
+        QTest::mouseRelease(cabecera.viewport(), Qt::LeftButton, {}, borde);
+        QApplication::processEvents();
+        anchos = {cabecera.sectionSize(0), cabecera.sectionSize(1)};
+    });
+    Abrir([&](QDialog& ventana) {
+        EXPECT_EQ(ventana.geometry(), elegido);
+        const auto& cabecera = *Hijo<QTableView>(ventana, "tabla").horizontalHeader();
+        EXPECT_EQ((QList<int>{cabecera.sectionSize(0), cabecera.sectionSize(1)}), anchos);
+    });
+}
+
+}  // namespace
