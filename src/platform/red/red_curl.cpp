@@ -7,11 +7,12 @@
 #include <new>
 #include <string_view>
 
-#include <curl/curl.h>
 #include <fmt/format.h>
 
 #include <quorvel/ficheros.h>
 #include <quorvel/mundo.h>
+
+#include "platform/red/libcurl.h"
 
 namespace efv {
 
@@ -27,13 +28,13 @@ constexpr std::chrono::milliseconds kVuelta{100};
 
 // For libcurl both kinds of handle are void.
 struct CierreTransferencia {
-    void operator()(CURL* c) const { curl_easy_cleanup(c); }
+    void operator()(CURL* c) const { Curl().easy_cleanup(c); }
 };
 struct CierreConjunto {
-    void operator()(CURLM* m) const { curl_multi_cleanup(m); }
+    void operator()(CURLM* m) const { Curl().multi_cleanup(m); }
 };
 struct CierreLista {
-    void operator()(curl_slist* l) const { curl_slist_free_all(l); }
+    void operator()(curl_slist* l) const { Curl().slist_free_all(l); }
 };
 using Transferencia = std::unique_ptr<CURL, CierreTransferencia>;
 using Conjunto = std::unique_ptr<CURLM, CierreConjunto>;
@@ -41,12 +42,12 @@ using Lista = std::unique_ptr<curl_slist, CierreLista>;
 
 bool EsSegura(std::string_view url)
 {
-    return url.size() > 8 && curl_strnequal(url.data(), "https://", 8) != 0;
+    return url.size() > 8 && Curl().strnequal(url.data(), "https://", 8) != 0;
 }
 
 bool EsDeRed(std::string_view url)
 {
-    return EsSegura(url) || (url.size() > 7 && curl_strnequal(url.data(), "http://", 7) != 0);
+    return EsSegura(url) || (url.size() > 7 && Curl().strnequal(url.data(), "http://", 7) != 0);
 }
 
 /// What comes in, with the moment of its last byte.
@@ -97,7 +98,7 @@ FalloRed Fallo(Causa causa, std::string texto)
 FalloRed FalloDe(CURLcode codigo, const std::string& url, const char* detalle)
 {
     const std::string_view motivo =
-        *detalle != '\0' ? std::string_view(detalle) : std::string_view(curl_easy_strerror(codigo));
+        *detalle != '\0' ? std::string_view(detalle) : std::string_view(Curl().easy_strerror(codigo));
     switch (codigo) {
         case CURLE_PEER_FAILED_VERIFICATION:
         case CURLE_SSL_CONNECT_ERROR:
@@ -122,7 +123,7 @@ FalloRed FalloDe(CURLcode codigo, const std::string& url, const char* detalle)
 bool LeerAutoridades(const std::string& ruta, std::string& pem)
 {
     SistemaFicheros& sistema = *ElMundo().ficheros;
-    const curl_version_info_data* version = curl_version_info(CURLVERSION_NOW);
+    const curl_version_info_data* version = Curl().version_info(CURLVERSION_NOW);
     if (version->age >= CURLVERSION_SEVENTH && version->cainfo != nullptr)
         pem = LeerFichero(sistema, version->cainfo, kMaximoAutoridades).bytes.value_or("");
     const LecturaFichero otras = LeerFichero(sistema, ruta, kMaximoAutoridades);
@@ -139,14 +140,14 @@ public:
     Peticion(const OpcionesDescarga& opciones, const AvanceRed& avance, const std::string& autoridades)
         : m_opciones(opciones),
           m_avance(avance),
-          m_transferencia(curl_easy_init()),
-          m_conjunto(curl_multi_init())
+          m_transferencia(Curl().easy_init()),
+          m_conjunto(Curl().multi_init())
     {
         if (!m_transferencia || !m_conjunto)
             throw std::bad_alloc();
         Preparar(autoridades);
     }
-    ~Peticion() { curl_multi_remove_handle(m_conjunto.get(), m_transferencia.get()); }
+    ~Peticion() { Curl().multi_remove_handle(m_conjunto.get(), m_transferencia.get()); }
     Peticion(const Peticion&) = delete;
     Peticion& operator=(const Peticion&) = delete;
 
@@ -160,11 +161,11 @@ public:
         Recogida recogida(m_opciones.maximo);
         CURL* const c = m_transferencia.get();
         m_detalle[0] = '\0';
-        curl_easy_setopt(c, CURLOPT_URL, url.c_str());
-        curl_easy_setopt(c, CURLOPT_WRITEDATA, &recogida);
-        curl_easy_setopt(c, CURLOPT_HEADERDATA, &recogida);
-        curl_multi_remove_handle(m_conjunto.get(), c);
-        curl_multi_add_handle(m_conjunto.get(), c);
+        Curl().easy_setopt(c, CURLOPT_URL, url.c_str());
+        Curl().easy_setopt(c, CURLOPT_WRITEDATA, &recogida);
+        Curl().easy_setopt(c, CURLOPT_HEADERDATA, &recogida);
+        Curl().multi_remove_handle(m_conjunto.get(), c);
+        Curl().multi_add_handle(m_conjunto.get(), c);
         const auto codigo = Esperar(recogida);
         if (const auto* fallo = std::get_if<Causa>(&codigo))
             return FalloPropio(*fallo, url);
@@ -177,34 +178,34 @@ private:
     void Preparar(const std::string& autoridades)
     {
         CURL* const c = m_transferencia.get();
-        curl_easy_setopt(c, CURLOPT_NOSIGNAL, 1L);
-        curl_easy_setopt(c, CURLOPT_ERRORBUFFER, m_detalle.data());
-        curl_easy_setopt(c, CURLOPT_PROTOCOLS_STR, "http,https");
-        curl_easy_setopt(c, CURLOPT_FOLLOWLOCATION, 0L);
-        curl_easy_setopt(c, CURLOPT_SSL_VERIFYPEER, 1L);
-        curl_easy_setopt(c, CURLOPT_SSL_VERIFYHOST, 2L);
-        curl_easy_setopt(c, CURLOPT_WRITEFUNCTION, &AlRecibir);
-        curl_easy_setopt(c, CURLOPT_HEADERFUNCTION, &AlRecibirCabecera);
-        curl_easy_setopt(c, CURLOPT_FRESH_CONNECT, 1L);
+        Curl().easy_setopt(c, CURLOPT_NOSIGNAL, 1L);
+        Curl().easy_setopt(c, CURLOPT_ERRORBUFFER, m_detalle.data());
+        Curl().easy_setopt(c, CURLOPT_PROTOCOLS_STR, "http,https");
+        Curl().easy_setopt(c, CURLOPT_FOLLOWLOCATION, 0L);
+        Curl().easy_setopt(c, CURLOPT_SSL_VERIFYPEER, 1L);
+        Curl().easy_setopt(c, CURLOPT_SSL_VERIFYHOST, 2L);
+        Curl().easy_setopt(c, CURLOPT_WRITEFUNCTION, &AlRecibir);
+        Curl().easy_setopt(c, CURLOPT_HEADERFUNCTION, &AlRecibirCabecera);
+        Curl().easy_setopt(c, CURLOPT_FRESH_CONNECT, 1L);
         if (!autoridades.empty()) {
             curl_blob bloque{const_cast<char*>(autoridades.data()), autoridades.size(), CURL_BLOB_COPY};
-            curl_easy_setopt(c, CURLOPT_CAINFO_BLOB, &bloque);
+            Curl().easy_setopt(c, CURLOPT_CAINFO_BLOB, &bloque);
         }
         // This machine itself is never reached through another.
         // NOLINTNEXTLINE(concurrency-mt-unsafe): one thread, and nobody changes the environment
         const char* sinProxy = std::getenv("no_proxy");
-        curl_easy_setopt(
+        Curl().easy_setopt(
             c, CURLOPT_NOPROXY,
             fmt::format("{},localhost,127.0.0.1,::1", sinProxy != nullptr ? sinProxy : "").c_str());
         for (const auto& [nombre, valor] : m_opciones.cabeceras) {
             curl_slist* const mas =
-                curl_slist_append(m_cabeceras.get(), fmt::format("{}: {}", nombre, valor).c_str());
+                Curl().slist_append(m_cabeceras.get(), fmt::format("{}: {}", nombre, valor).c_str());
             if (mas == nullptr)
                 throw std::bad_alloc();
             static_cast<void>(m_cabeceras.release());
             m_cabeceras.reset(mas);
         }
-        curl_easy_setopt(c, CURLOPT_HTTPHEADER, m_cabeceras.get());
+        Curl().easy_setopt(c, CURLOPT_HTTPHEADER, m_cabeceras.get());
     }
 
     std::variant<CURLcode, Causa> Esperar(Recogida& recogida)
@@ -212,12 +213,12 @@ private:
         CURLM* const m = m_conjunto.get();
         for (;;) {
             int nVivas = 0;
-            if (curl_multi_perform(m, &nVivas) != CURLM_OK)
+            if (Curl().multi_perform(m, &nVivas) != CURLM_OK)
                 return CURLE_FAILED_INIT;
             if (recogida.fallo)
                 return *recogida.fallo;
             int nMensajes = 0;
-            while (const CURLMsg* mensaje = curl_multi_info_read(m, &nMensajes))
+            while (const CURLMsg* mensaje = Curl().multi_info_read(m, &nMensajes))
                 if (mensaje->msg == CURLMSG_DONE)
                     return mensaje->data.result;
             if (!Avisar(recogida))
@@ -227,7 +228,7 @@ private:
             if (quieto >= m_opciones.espera)
                 return Causa::tiempoAgotado;
             const auto vuelta = std::min(kVuelta, m_opciones.espera - quieto);
-            curl_multi_poll(m, nullptr, 0, static_cast<int>(vuelta.count()), nullptr);
+            Curl().multi_poll(m, nullptr, 0, static_cast<int>(vuelta.count()), nullptr);
         }
     }
 
@@ -236,7 +237,7 @@ private:
         if (!m_avance)
             return true;
         curl_off_t total = -1;
-        curl_easy_getinfo(m_transferencia.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &total);
+        Curl().easy_getinfo(m_transferencia.get(), CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &total);
         return m_avance(recogida.cuerpo.size(),
                         total > 0 ? std::optional(static_cast<std::uint64_t>(total)) : std::nullopt);
     }
@@ -262,8 +263,8 @@ private:
         Resultado resultado;
         long nEstado = 0;
         const char* salto = nullptr;
-        curl_easy_getinfo(m_transferencia.get(), CURLINFO_RESPONSE_CODE, &nEstado);
-        curl_easy_getinfo(m_transferencia.get(), CURLINFO_REDIRECT_URL, &salto);
+        Curl().easy_getinfo(m_transferencia.get(), CURLINFO_RESPONSE_CODE, &nEstado);
+        Curl().easy_getinfo(m_transferencia.get(), CURLINFO_REDIRECT_URL, &salto);
         if (salto != nullptr)
             resultado.salto = salto;
         resultado.respuesta = {static_cast<int>(nEstado), std::move(recogida.cuerpo)};
@@ -283,7 +284,9 @@ private:
 std::variant<RespuestaRed, FalloRed> RedCurl::Obtener(const std::string& url, const OpcionesDescarga& opciones,
                                                       const AvanceRed& avance)
 {
-    static const CURLcode inicio = curl_global_init(CURL_GLOBAL_DEFAULT);
+    if (!CargarCurl())
+        return Fallo(Causa::sinRed, "No se puede preparar la red: falta libcurl en el sistema.");
+    static const CURLcode inicio = Curl().global_init(CURL_GLOBAL_DEFAULT);
     if (inicio != CURLE_OK)
         return Fallo(Causa::sinRed, "No se puede preparar la red.");
     std::string autoridades;

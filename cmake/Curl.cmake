@@ -1,0 +1,17 @@
+# How libcurl comes into the process. On Linux the library fetches it at the first download (src/platform/red/libcurl.h):
+# EFV_LIBCURL is the name that the system knows it by. Elsewhere, or where that name can't be told, it is linked.
+set(EFV_ENLACE_CURL CURL::libcurl)
+set(EFV_LIBCURL "")
+if(CMAKE_SYSTEM_NAME STREQUAL "Linux")
+    foreach(biblioteca ${CURL_LIBRARY_RELEASE} ${CURL_LIBRARIES})
+        if(EXISTS "${biblioteca}")
+            file(REAL_PATH "${biblioteca}" real)
+            get_filename_component(nombre "${real}" NAME)
+            if(nombre MATCHES "^(lib.*\\.so\\.[0-9]+)")
+                set(EFV_LIBCURL "${CMAKE_MATCH_1}")
+                set(EFV_ENLACE_CURL ${CMAKE_DL_LIBS})
+                break()
+            endif()
+        endif()
+    endforeach()
+endif()
