@@ -1,8 +1,11 @@
 #include "orden.h"
 
 #include <algorithm>
+#include <array>
 #include <memory>
 #include <new>
+#include <stdexcept>
+#include <string_view>
 
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
@@ -42,9 +45,44 @@ struct Declarada {
     CLI::App* linea;
 };
 
+struct OrdenConocida {
+    std::string_view nombre;
+    std::unique_ptr<Suborden> (*crear)();
+    bool bVeTodas = false;  // help and completion speak of all the others
+};
+
+constexpr auto kOrdenes = std::to_array<OrdenConocida>({
+    {"energia", &CrearSubordenEnergia},
+    {"lugares", &CrearSubordenLugares},
+    {"clima", &CrearSubordenClima},
+    {"inclinacion", &CrearSubordenInclinacion},
+    {"he5", &CrearSubordenHE5},
+    {"catalogo", &CrearSubordenCatalogo},
+    {"curvas", &CrearSubordenCurvas},
+    {"cable", &CrearSubordenCable},
+    {"consumo", &CrearSubordenConsumo},
+    {"tarifa", &CrearSubordenTarifa},
+    {"aislada", &CrearSubordenAislada},
+    {"red", &CrearSubordenRed},
+    {"venta", &CrearSubordenVenta},
+    {"autoconsumo", &CrearSubordenAutoconsumo},
+    {"rpc", &CrearSubordenRpc},
+    {"ayuda", &CrearSubordenAyuda, true},
+    {"completar", &CrearSubordenCompletar, true},
+});
+
+/// The order that the arguments begin with, when it runs without the others being declared: most of the start
+/// of the command would be theirs.
+const OrdenConocida* OrdenSola(const std::vector<std::string>& argumentos)
+{
+    const auto orden = argumentos.empty() ? kOrdenes.end()
+                                          : std::ranges::find(kOrdenes, argumentos[0], &OrdenConocida::nombre);
+    return orden == kOrdenes.end() || orden->bVeTodas ? nullptr : &*orden;
+}
+
 class LineaOrdenes {
 public:
-    LineaOrdenes()
+    explicit LineaOrdenes(const std::vector<std::string>& argumentos)
     {
         m_raiz.formatter(FormatoEspanol());
         Castellanizar(m_raiz);
@@ -53,23 +91,12 @@ public:
         m_raiz.footer(
             "Cada orden tiene su ayuda: efv ORDEN --help\n"
             "La variable de entorno EFV_AHORA (2028-02-01T12:00:00) sustituye al reloj.");
-        Anadir(CrearSubordenEnergia());
-        Anadir(CrearSubordenLugares());
-        Anadir(CrearSubordenClima());
-        Anadir(CrearSubordenInclinacion());
-        Anadir(CrearSubordenHE5());
-        Anadir(CrearSubordenCatalogo());
-        Anadir(CrearSubordenCurvas());
-        Anadir(CrearSubordenCable());
-        Anadir(CrearSubordenConsumo());
-        Anadir(CrearSubordenTarifa());
-        Anadir(CrearSubordenAislada());
-        Anadir(CrearSubordenRed());
-        Anadir(CrearSubordenVenta());
-        Anadir(CrearSubordenAutoconsumo());
-        Anadir(CrearSubordenRpc());
-        Anadir(CrearSubordenAyuda());
-        Anadir(CrearSubordenCompletar());
+        if (const OrdenConocida* sola = OrdenSola(argumentos)) {
+            Anadir(*sola);
+        } else {
+            for (const OrdenConocida& orden : kOrdenes)
+                Anadir(orden);
+        }
         m_raiz.require_subcommand(0, 1);
     }
 
@@ -113,9 +140,12 @@ private:
         return nombre;
     }
 
-    void Anadir(std::unique_ptr<Suborden> orden)
+    void Anadir(const OrdenConocida& conocida)
     {
+        auto orden = conocida.crear();
         CLI::App& linea = orden->Declarar(m_raiz);
+        if (linea.get_name() != conocida.nombre)
+            throw std::logic_error(fmt::format("la orden {} se declara {}", conocida.nombre, linea.get_name()));
         linea.group("Órdenes");
         m_ordenes.push_back({std::move(orden), &linea});
     }
@@ -136,7 +166,7 @@ private:
 
 int Ejecutar(const std::vector<std::string>& argumentos, Consola consola)
 {
-    LineaOrdenes linea;
+    LineaOrdenes linea(argumentos);
     SalidaLimpia limpia(*consola.salida.rdbuf());
     std::ostream salida(&limpia);
     const auto fallar = [&](std::string_view texto, int iEstado) {
