@@ -50,6 +50,25 @@ TEST(Municipios, ElMismoNombreEnDosProvincias)
     EXPECT_EQ(BuscarLocalidades(Enviados(), L"Saus, Camallera i Llampaies").size(), 1U);
 }
 
+// Reading for one name is the search among all: whole names, halves, provinces, other letters, none.
+TEST(Municipios, LeidosParaUnNombreSonLosQueSeHallanEntreTodos)
+{
+    const CString csFichero = CadenaDesdeUtf8(EFV_CARPETA_DATOS "/municipios.txt");
+    for (const wchar_t* nombre : {L"Moya", L"moya (CUENCA)", L"torrent, girona", L"ayala", L" Aiara ", L"Ávila",
+                                  L"Saus, Camallera i Llampaies", L"ninguno", L"", L","}) {
+        const CString csNombre = nombre;
+        const auto leidos = efv::LeerMunicipios(csFichero, &csNombre);
+        const auto entrePocos = BuscarLocalidades(leidos, nombre);
+        const auto entreTodos = BuscarLocalidades(Enviados(), nombre);
+        ASSERT_EQ(entrePocos.size(), entreTodos.size()) << efv::CadenaUtf8(nombre);
+        EXPECT_LE(leidos.size(), 20U);
+        for (std::size_t i = 0; i < entrePocos.size(); ++i) {
+            EXPECT_EQ(NombreConProvincia(*entrePocos[i]), NombreConProvincia(*entreTodos[i]));
+            EXPECT_EQ(entrePocos[i]->adRadHorizontal, entreTodos[i]->adRadHorizontal);
+        }
+    }
+}
+
 TEST(Municipios, UnFicheroDanadoSeNombraConSuLinea)
 {
     const efv::pruebas::CarpetaTemporal carpeta;

@@ -35,8 +35,8 @@ std::vector<Localidad> LeerLugaresMayores(const std::string& csDatos)
 
 Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos)
 {
-    const std::vector<Localidad> lugares = LeerLugares(csDatos);
     const CString csNombre = CadenaDesdeUtf8(nombre);
+    const auto lugares = LeerLugaresLlamados(RutaDatos(csDatos, ""), CarpetaPropia(csDatos), csNombre);
     const auto hallados = BuscarLocalidades(lugares, csNombre);
     if (hallados.size() == 1 || (!hallados.empty() && hallados.front()->bMayor))
         return *hallados.front();
@@ -44,7 +44,7 @@ Localidad BuscarLugar(const std::string& nombre, const std::string& csDatos)
         throw ErrorEjecucion(
             fmt::format("hay {} lugares «{}»: {}", hallados.size(), nombre, Enumeradas(hallados)));
     throw ErrorEjecucion(fmt::format("no hay ningún lugar «{}»{} (todos: efv lugares)", nombre,
-                                     Parecidos(NombresParecidos(lugares, csNombre, kParecidos))));
+                                     Parecidos(NombresParecidos(LeerLugares(csDatos), csNombre, kParecidos))));
 }
 
 std::string TextoZonas(const Localidad& lugar)

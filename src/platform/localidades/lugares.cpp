@@ -83,10 +83,8 @@ void Comprobar(const CString& csArchivo, const Localidad& l)
         Fallar(csArchivo, "las doce radiaciones no están completas");
 }
 
-}  // namespace
-
-std::vector<Localidad> LeerLugares(const CString& csCarpeta, const CString& csCarpetaPropios,
-                                   AlcanceLugares alcance)
+// The person's own and those of the file of places.
+std::vector<Localidad> LeerMayores(const CString& csCarpeta, const CString& csCarpetaPropios)
 {
     std::vector<Localidad> lugares;
     const CString csPropios = csCarpetaPropios + CadenaDesdeUtf8(kLugaresPropios);
@@ -95,10 +93,31 @@ std::vector<Localidad> LeerLugares(const CString& csCarpeta, const CString& csCa
     for (Localidad& propia : lugares)
         propia.bPropia = true;
     Anadir(lugares, LeerLocalidades(csCarpeta + L"localidades.xml"));
-    const CString csMunicipios = csCarpeta + L"municipios.txt";
-    if (alcance == AlcanceLugares::todos && Existe(csMunicipios))
-        Anadir(lugares, LeerMunicipios(csMunicipios));
     return lugares;
+}
+
+std::vector<Localidad> ConMunicipios(std::vector<Localidad> lugares, const CString& csCarpeta,
+                                     const CString* csNombre)
+{
+    const CString csMunicipios = csCarpeta + L"municipios.txt";
+    if (Existe(csMunicipios))
+        Anadir(lugares, LeerMunicipios(csMunicipios, csNombre));
+    return lugares;
+}
+
+}  // namespace
+
+std::vector<Localidad> LeerLugares(const CString& csCarpeta, const CString& csCarpetaPropios,
+                                   AlcanceLugares alcance)
+{
+    auto lugares = LeerMayores(csCarpeta, csCarpetaPropios);
+    return alcance == AlcanceLugares::todos ? ConMunicipios(std::move(lugares), csCarpeta, nullptr) : lugares;
+}
+
+std::vector<Localidad> LeerLugaresLlamados(const CString& csCarpeta, const CString& csCarpetaPropios,
+                                           const CString& csNombre)
+{
+    return ConMunicipios(LeerMayores(csCarpeta, csCarpetaPropios), csCarpeta, &csNombre);
 }
 
 void AnadirLocalidad(const CString& csArchivo, const Localidad& localidad)

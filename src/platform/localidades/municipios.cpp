@@ -2,7 +2,6 @@
 #include <quorvel/localidades.h>
 
 #include <algorithm>
-#include <charconv>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -11,6 +10,7 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/mundo.h>
 
+#include "platform/numero/conversion.h"
 #include "platform/texto/texto.h"
 
 namespace efv {
@@ -33,16 +33,87 @@ std::vector<CString> Mitades(const CString& csNombre)
     return {csNombre.substr(0, i), csNombre.substr(i + 1)};
 }
 
+/// What a search asks for, without accents and case.
+struct Busqueda {
+    CString csNombre, csProvincia;
+};
+
+CString SinBlancos(std::wstring_view texto)
+{
+    const std::size_t iPrimero = texto.find_first_not_of(L' ');
+    if (iPrimero == texto.npos)
+        return {};
+    return CString(texto.substr(iPrimero, texto.find_last_not_of(L' ') - iPrimero + 1));
+}
+
+// "Moya (Cuenca)", "Moya, Cuenca"; nothing without a province.
+std::optional<Busqueda> ConProvincia(const CString& csPlegado)
+{
+    const bool bParentesis = csPlegado.ends_with(L')');
+    const std::size_t i = bParentesis ? csPlegado.rfind(L'(') : csPlegado.rfind(L',');
+    if (i == csPlegado.npos || i == 0)
+        return std::nullopt;
+    const std::size_t iFin = csPlegado.size() - (bParentesis ? 1 : 0);
+    return Busqueda{SinBlancos(std::wstring_view(csPlegado).substr(0, i)),
+                    SinBlancos(std::wstring_view(csPlegado).substr(i + 1, iFin - i - 1))};
+}
+
+// A double name answers to the whole and to each half.
+bool EsAlguno(const CString& csDoble, const CString& csBuscado)
+{
+    const CString csPlegado = texto::Plegar(csDoble);
+    const auto mitades = Mitades(csPlegado);
+    return csPlegado == csBuscado || std::ranges::find(mitades, csBuscado) != mitades.end();
+}
+
+bool Responde(const Localidad& l, const CString& csBuscado)
+{
+    return EsAlguno(l.csNombre, csBuscado) ||
+           std::ranges::any_of(l.acsAlias, [&](const CString& a) { return texto::Plegar(a) == csBuscado; });
+}
+
+/// The names under which a search may find a place, and whether a municipality's is one of them.
+class NombresBuscados {
+public:
+    explicit NombresBuscados(const CString& csNombre) : m_csNombre(SinBlancos(texto::Plegar(csNombre)))
+    {
+        if (const auto partida = ConProvincia(m_csNombre))
+            m_csSinProvincia = partida->csNombre;
+    }
+
+    bool Admiten(std::string_view nombre)
+    {
+        texto::AsignarUtf8(m_csLeido, nombre);
+        texto::PlegarEnSuSitio(m_csLeido);
+        const std::wstring_view leido = m_csLeido;
+        const std::size_t i = leido.find(L'/');
+        return Es(leido) || (i != leido.npos && (Es(leido.substr(0, i)) || Es(leido.substr(i + 1))));
+    }
+
+private:
+    bool Es(std::wstring_view nombre) const
+    {
+        return nombre == m_csNombre || (!m_csSinProvincia.empty() && nombre == m_csSinProvincia);
+    }
+
+    CString m_csNombre, m_csSinProvincia;
+    CString m_csLeido;
+};
+
 /// Reads the file line by line.
 class LectorMunicipios {
 public:
-    LectorMunicipios(const CString& csFichero, std::string_view texto) : m_csFichero(csFichero), m_texto(texto)
+    /// @param buscados makes the municipalities of these names only; the others are checked all the same. May
+    /// be null
+    LectorMunicipios(const CString& csFichero, std::string_view texto, NombresBuscados* buscados)
+        : m_csFichero(csFichero), m_texto(texto), m_buscados(buscados)
     {
     }
 
     std::vector<Localidad> Leer()
     {
-        m_localidades.reserve(m_texto.size() / 60);
+        if (m_buscados == nullptr)
+            m_localidades.reserve(m_texto.size() / 60);
         while (!m_texto.empty()) {
             ++m_iLinea;
             const std::size_t iFin = std::min(m_texto.find('\n'), m_texto.size());
@@ -53,7 +124,7 @@ public:
             if (!m_linea.empty() && !m_linea.starts_with('#'))
                 LeerLinea();
         }
-        if (m_localidades.empty())
+        if (!m_bHay)
             Fallar("no hay ningún municipio");
         return std::move(m_localidades);
     }
@@ -77,8 +148,7 @@ private:
     {
         const std::string_view campo = Campo();
         double d = 0.0;
-        const auto [fin, error] = std::from_chars(campo.data(), campo.data() + campo.size(), d);
-        if (error != std::errc{} || fin != campo.data() + campo.size() || !(d >= dMinimo && d <= dMaximo))
+        if (!numero::LeerExacto(campo, d) || !(d >= dMinimo && d <= dMaximo))
             Fallar("«" + std::string(campo.substr(0, 40)) + "» no es un número válido");
         return d;
     }
@@ -120,89 +190,57 @@ private:
     void LeerMunicipio()
     {
         const std::string_view codigo = Campo();
-        Localidad l;
-        l.csNombre = CadenaDesdeUtf8(Campo());
-        if (l.csNombre.empty())
+        const std::string_view nombre = Campo();
+        if (nombre.empty())
             Fallar("falta el nombre");
-        l.acsAlias = Mitades(l.csNombre);
         const auto provincia = m_provincias.find(codigo.substr(0, 2));
         if (provincia == m_provincias.end())
             Fallar("provincia desconocida");
-        l.csProvincia = provincia->second;
-        l.csPais = L"España";
-        l.dLatitud = Numero(-90.0, 90.0);
-        l.dLongitud = Numero(-180.0, 180.0);
-        l.dAltitud = Numero(-500.0, 10000.0);
+        const double dLatitud = Numero(-90.0, 90.0);
+        const double dLongitud = Numero(-180.0, 180.0);
+        const double dAltitud = Numero(-500.0, 10000.0);
         const auto clima = m_climas.find(Campo());
         if (clima == m_climas.end())
             Fallar("clima desconocido");
+        m_bHay = true;
+        if (m_buscados != nullptr && !m_buscados->Admiten(nombre))
+            return;
+        Localidad& l = m_localidades.emplace_back();
+        l.csNombre = CadenaDesdeUtf8(nombre);
+        l.acsAlias = Mitades(l.csNombre);
+        l.csProvincia = provincia->second;
+        l.csPais = L"España";
+        l.dLatitud = dLatitud;
+        l.dLongitud = dLongitud;
+        l.dAltitud = dAltitud;
         l.csZonaHE1 = clima->second.csZonaHE1;
         l.csZonaHE5 = clima->second.csZonaHE5;
         l.csFuente = clima->second.csFuente;
         l.adRadHorizontal = clima->second.adRadHorizontal;
-        m_localidades.push_back(std::move(l));
     }
 
     const CString& m_csFichero;
     std::string_view m_texto, m_linea;
+    NombresBuscados* m_buscados;
+    bool m_bHay = false;
     int m_iLinea = 0;
     std::map<std::string, Clima, std::less<>> m_climas;
     std::map<std::string, CString, std::less<>> m_provincias;
     std::vector<Localidad> m_localidades;
 };
 
-// ---------------------------------------------------------------------------------------------------
-// Places by name and province
-// ---------------------------------------------------------------------------------------------------
-
-/// What a search asks for, without accents and case.
-struct Busqueda {
-    CString csNombre, csProvincia;
-};
-
-CString SinBlancos(std::wstring_view texto)
-{
-    const std::size_t iPrimero = texto.find_first_not_of(L' ');
-    if (iPrimero == texto.npos)
-        return {};
-    return CString(texto.substr(iPrimero, texto.find_last_not_of(L' ') - iPrimero + 1));
-}
-
-// "Moya (Cuenca)", "Moya, Cuenca"; nothing without a province.
-std::optional<Busqueda> ConProvincia(const CString& csPlegado)
-{
-    const bool bParentesis = csPlegado.ends_with(L')');
-    const std::size_t i = bParentesis ? csPlegado.rfind(L'(') : csPlegado.rfind(L',');
-    if (i == csPlegado.npos || i == 0)
-        return std::nullopt;
-    const std::size_t iFin = csPlegado.size() - (bParentesis ? 1 : 0);
-    return Busqueda{SinBlancos(std::wstring_view(csPlegado).substr(0, i)),
-                    SinBlancos(std::wstring_view(csPlegado).substr(i + 1, iFin - i - 1))};
-}
-
-// A double name answers to the whole and to each half.
-bool EsAlguno(const CString& csDoble, const CString& csBuscado)
-{
-    const CString csPlegado = texto::Plegar(csDoble);
-    const auto mitades = Mitades(csPlegado);
-    return csPlegado == csBuscado || std::ranges::find(mitades, csBuscado) != mitades.end();
-}
-
-bool Responde(const Localidad& l, const CString& csBuscado)
-{
-    return EsAlguno(l.csNombre, csBuscado) ||
-           std::ranges::any_of(l.acsAlias, [&](const CString& a) { return texto::Plegar(a) == csBuscado; });
-}
-
 }  // namespace
 
-std::vector<Localidad> LeerMunicipios(const CString& csFichero)
+std::vector<Localidad> LeerMunicipios(const CString& csFichero, const CString* csNombre)
 {
     const std::string ruta = CadenaUtf8(csFichero);
     const LecturaFichero lectura = LeerFichero(*ElMundo().ficheros, ruta, kMaximoFichero);
     if (!lectura.bytes)
         throw CFileException(CFileException::generica, ruta + ": " + lectura.motivo);
-    return LectorMunicipios(csFichero, *lectura.bytes).Leer();
+    std::optional<NombresBuscados> buscados;
+    if (csNombre != nullptr)
+        buscados.emplace(*csNombre);
+    return LectorMunicipios(csFichero, *lectura.bytes, buscados ? &*buscados : nullptr).Leer();
 }
 
 CString NombreConProvincia(const Localidad& localidad)

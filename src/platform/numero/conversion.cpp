@@ -127,6 +127,17 @@ NumeroLeido LeerPrefijo(std::string_view texto)
 
 }  // namespace
 
+bool LeerExacto(std::string_view texto, double& d)
+{
+    const char* const fin = texto.data() + texto.size();
+    if (const auto sencillo = LeerSencillo<char>(texto.data(), fin, kEsPunto); sencillo.fin == fin) {
+        d = sencillo.d;
+        return !texto.empty();
+    }
+    const auto [hasta, error] = std::from_chars(texto.data(), fin, d);
+    return error == std::errc{} && hasta == fin;
+}
+
 double LeerDoble(std::string_view texto)
 {
     if (const auto sencillo = LeerSencillo<char>(texto.data(), texto.data() + texto.size(), kEsPunto);

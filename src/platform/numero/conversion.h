@@ -14,6 +14,10 @@ double LeerDoble(std::string_view texto);
 double LeerDoble(std::wstring_view texto);
 double LeerDoble(const char* texto);  ///< up to its zero
 
+/// The decimal number that `texto` is from end to end, as std::from_chars reads it.
+/// @return false, with `d` unspecified, when it isn't one
+bool LeerExacto(std::string_view texto, double& d);
+
 /// The whole number at the start of `texto`; 0 when there is none. Saturates at the limits of int.
 int LeerEntero(std::string_view texto);
 

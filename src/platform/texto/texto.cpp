@@ -247,9 +247,14 @@ wchar_t PlegarLetra(wchar_t c)
 CString Plegar(std::wstring_view texto)
 {
     CString plegado(texto);
-    for (wchar_t& c : plegado)
-        c = PlegarLetra(c);
+    PlegarEnSuSitio(plegado);
     return plegado;
+}
+
+void PlegarEnSuSitio(CString& texto)
+{
+    for (wchar_t& c : texto)
+        c = PlegarLetra(c);
 }
 
 }  // namespace texto

@@ -30,5 +30,6 @@ std::string Latin1AUtf8(std::string_view bytes);
 /// Lower case without accents, letter by letter, for searches: "Ávila" and "AVILA" give "avila". Covers
 /// the Latin letters of western Europe; other characters stay.
 CString Plegar(std::wstring_view texto);
+void PlegarEnSuSitio(CString& texto);
 
 }  // namespace efv::texto
