@@ -19,7 +19,7 @@ namespace {
 
 bool Empieza(const CString& csTexto, const CString& csPlegado)
 {
-    return Plegar(csTexto).starts_with(csPlegado);
+    return PlegarTexto(csTexto).starts_with(csPlegado);
 }
 
 // What the words before the last say.
@@ -66,7 +66,7 @@ void Leer(Contexto& contexto, const std::string& palabra)
 class Buscador {
 public:
     Buscador(const Contexto& contexto, const std::string& palabra)
-        : m_contexto(contexto), m_csPlegado(Plegar(CadenaDesdeUtf8(palabra)))
+        : m_contexto(contexto), m_csPlegado(PlegarTexto(CadenaDesdeUtf8(palabra)))
     {
     }
 

@@ -52,7 +52,7 @@ void PonerConductores(P& p, const C& campo, const std::string& texto)
 
 void PonerTrifasico(P& p, const C& /*campo*/, const std::string& texto)
 {
-    const CString csTexto = Plegar(CadenaDesdeUtf8(texto));
+    const CString csTexto = PlegarTexto(CadenaDesdeUtf8(texto));
     const auto es = [&](std::initializer_list<const wchar_t*> palabras) {
         return std::ranges::find(palabras, csTexto) != palabras.end();
     };
@@ -79,12 +79,12 @@ void PonerSeccion(P& p, const C& /*campo*/, const std::string& texto)
 // The index of a short name or of itself as a number.
 int Indice(const std::string& texto, const wchar_t* (*nombrar)(int, CString&), int iCuantos)
 {
-    const CString csTexto = Plegar(CadenaDesdeUtf8(texto));
+    const CString csTexto = PlegarTexto(CadenaDesdeUtf8(texto));
     std::string nombres;
     for (int i = 0; i < iCuantos; ++i) {
         CString csNombre;
         nombrar(i, csNombre);
-        if (csTexto == Plegar(csNombre) || csTexto == std::to_wstring(i))
+        if (csTexto == PlegarTexto(csNombre) || csTexto == std::to_wstring(i))
             return i;
         nombres += (i == 0 ? "" : ", ") + CadenaUtf8(csNombre);
     }
@@ -103,7 +103,7 @@ void PonerAislante(P& p, const C& /*campo*/, const std::string& texto)
 
 void PonerMaterial(P& p, const C& /*campo*/, const std::string& texto)
 {
-    const CString csTexto = Plegar(CadenaDesdeUtf8(texto));
+    const CString csTexto = PlegarTexto(CadenaDesdeUtf8(texto));
     p.tramo.iMaterial = csTexto == L"cobre"      ? 0
                         : csTexto == L"aluminio" ? 1
                                                  : Indice(texto, phGetCsTipoMatCable, 2);
@@ -143,7 +143,7 @@ constexpr auto kCampos = std::to_array<C>({
 // Names of columns may have blanks or underscores for hyphens.
 CString NombreLlano(const std::string& nombre)
 {
-    CString csNombre = Plegar(CadenaDesdeUtf8(nombre));
+    CString csNombre = PlegarTexto(CadenaDesdeUtf8(nombre));
     std::ranges::replace(csNombre, L' ', L'-');
     std::ranges::replace(csNombre, L'_', L'-');
     return csNombre;

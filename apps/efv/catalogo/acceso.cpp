@@ -152,8 +152,9 @@ const CModelo& CatalogoAbierto::Buscar(const std::string& id) const
 
 Modelos CatalogoAbierto::DeFamilia(const std::string& nombre) const
 {
-    const CString csPlegado = Plegar(CadenaDesdeUtf8(nombre));
-    Modelos hallados = Filtrar(m_modelos, [&](const CModelo& m) { return Plegar(m.csFamilia) == csPlegado; });
+    const CString csPlegado = PlegarTexto(CadenaDesdeUtf8(nombre));
+    Modelos hallados =
+        Filtrar(m_modelos, [&](const CModelo& m) { return PlegarTexto(m.csFamilia) == csPlegado; });
     if (hallados.empty()) {
         std::vector<NombreBuscable> nombres;
         for (const CModelo* m : m_modelos)
@@ -175,9 +176,9 @@ Modelos ModelosDeNombre(const Modelos& modelos, const CString& csId)
     Modelos hallados =
         Filtrar(modelos, [&](const CModelo& m) { return m.csModelo == csId || Identificacion(m) == csId; });
     if (hallados.empty()) {
-        const CString csPlegado = Plegar(csId);
+        const CString csPlegado = PlegarTexto(csId);
         hallados = Filtrar(modelos, [&](const CModelo& m) {
-            return Plegar(m.csModelo) == csPlegado || Plegar(Identificacion(m)) == csPlegado;
+            return PlegarTexto(m.csModelo) == csPlegado || PlegarTexto(Identificacion(m)) == csPlegado;
         });
     }
     Modelos distintos;

@@ -82,8 +82,10 @@ private:
         const std::string texto = fmt::format("{}", fmt::join(m_palabras, " "));
         if (texto.empty())
             throw ErrorUso("falta el texto que se busca (ayuda: efv catalogo buscar --help)");
-        const CString csPlegado = Plegar(CadenaDesdeUtf8(texto));
-        const auto contiene = [&](const CString& cs) { return Plegar(cs).find(csPlegado) != CString::npos; };
+        const CString csPlegado = PlegarTexto(CadenaDesdeUtf8(texto));
+        const auto contiene = [&](const CString& cs) {
+            return PlegarTexto(cs).find(csPlegado) != CString::npos;
+        };
         const CatalogoAbierto catalogo = Abrir();
         Modelos hallados;
         std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados), [&](const auto* modelo) {

@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cmath>
-#include <cwctype>
 
 #include <fmt/format.h>
 
@@ -13,29 +12,6 @@
 namespace efv::orden {
 
 namespace {
-
-struct Acentos {
-    wchar_t base;
-    std::wstring_view formas;
-};
-
-constexpr std::array<Acentos, 7> kAcentos{{
-    {L'a', L"áàâäãåÁÀÂÄÃÅ"},
-    {L'c', L"çÇ"},
-    {L'e', L"éèêëÉÈÊË"},
-    {L'i', L"íìîïÍÌÎÏ"},
-    {L'n', L"ñÑ"},
-    {L'o', L"óòôöõÓÒÔÖÕ"},
-    {L'u', L"úùûüÚÙÛÜ"},
-}};
-
-wchar_t PlegarLetra(wchar_t c)
-{
-    for (const auto& [base, formas] : kAcentos)
-        if (formas.find(c) != std::wstring_view::npos)
-            return base;
-    return c < 0x80 ? static_cast<wchar_t>(std::towlower(static_cast<std::wint_t>(c))) : c;
-}
 
 std::vector<std::string> Partir(const std::string& texto, std::string_view separadores)
 {
@@ -107,13 +83,6 @@ std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras
         todo += palabra + ' ';
     std::vector<std::string> partes = Partir(todo, "; ");
     return partes.size() == cuantos ? partes : Partir(todo, ",; ");
-}
-
-CString Plegar(const CString& texto)
-{
-    CString plegado = texto;
-    std::ranges::transform(plegado, plegado.begin(), PlegarLetra);
-    return plegado;
 }
 
 }  // namespace efv::orden

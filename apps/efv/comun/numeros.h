@@ -35,7 +35,4 @@ using report::DecimalExacto;
 using report::EnUnaLinea;
 using report::TablaTexto;
 
-/// Lower case without accents, for searching.
-CString Plegar(const CString& texto);
-
 }  // namespace efv::orden

@@ -46,7 +46,7 @@ bool LeerHemisferio(const JsonLeido& j)
 {
     if (j.is_number())
         return LeerEntero(j, {0.0, 1.0}) == 1;
-    const CString csTexto = Plegar(CadenaDesdeUtf8(j.is_string() ? LeerTexto(j) : std::string()));
+    const CString csTexto = PlegarTexto(CadenaDesdeUtf8(j.is_string() ? LeerTexto(j) : std::string()));
     if (csTexto != L"n" && csTexto != L"norte" && csTexto != L"s" && csTexto != L"sur")
         rpc::Esperaba("\"N\" o \"S\"", j);
     return csTexto.front() == L'n';
@@ -232,13 +232,13 @@ int LeerMes(const JsonLeido& j, int iUltimo)
 {
     if (j.is_number())
         return LeerEntero(j, {0.0, static_cast<double>(iUltimo)});
-    const CString csBuscado = Plegar(CadenaDesdeUtf8(LeerTexto(j)));
+    const CString csBuscado = PlegarTexto(CadenaDesdeUtf8(LeerTexto(j)));
     std::vector<std::string> nombres;
     for (int m = 0; m <= iUltimo; ++m) {
         CString csNombre, csCorto;
         phGetNombreMes(m, csNombre);
         phGetNombreMesLT(m, csCorto);
-        if (!csBuscado.empty() && (Plegar(csNombre) == csBuscado || Plegar(csCorto) == csBuscado))
+        if (!csBuscado.empty() && (PlegarTexto(csNombre) == csBuscado || PlegarTexto(csCorto) == csBuscado))
             return m;
         nombres.push_back(CadenaUtf8(csNombre));
     }

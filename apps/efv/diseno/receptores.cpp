@@ -85,7 +85,7 @@ Dia LeerFranjas(const JsonLeido& j)
 std::vector<int> LeerDias(const JsonLeido& j)
 {
     const std::string& texto = LeerTexto(j);
-    const CString csBuscado = Plegar(CadenaDesdeUtf8(texto));
+    const CString csBuscado = PlegarTexto(CadenaDesdeUtf8(texto));
     if (csBuscado == L"laborables")
         return {0, 1, 2, 3, 4};
     if (csBuscado == L"fin de semana")
@@ -94,7 +94,7 @@ std::vector<int> LeerDias(const JsonLeido& j)
     for (int d = 0; d < kDias; ++d) {
         CString csNombre;
         phGetNombreDiaSemana(csNombre, d);
-        if (Plegar(csNombre) == csBuscado)
+        if (PlegarTexto(csNombre) == csBuscado)
             return {d};
         nombres.push_back(CadenaUtf8(csNombre));
     }

@@ -42,12 +42,12 @@ std::string ListaDeUsos()
 // A use by its number or by any part of its name that no other has.
 int LeerUso(const std::string& texto)
 {
-    const CString csBuscado = Plegar(CadenaDesdeUtf8(texto));
+    const CString csBuscado = PlegarTexto(CadenaDesdeUtf8(texto));
     std::vector<int> hallados;
     for (int i = 0; i < solar::kUsosHE5 && !csBuscado.empty(); ++i) {
         if (texto == std::to_string(i))
             return i;
-        if (Plegar(CadenaDesdeUtf8(NombreUso(i))).find(csBuscado) != CString::npos)
+        if (PlegarTexto(CadenaDesdeUtf8(NombreUso(i))).find(csBuscado) != CString::npos)
             hallados.push_back(i);
     }
     if (hallados.size() != 1)

@@ -27,7 +27,9 @@ using Json = nlohmann::ordered_json;
 
 bool Contiene(const Localidad& lugar, const CString& csPlegado)
 {
-    const auto aparece = [&](const CString& texto) { return Plegar(texto).find(csPlegado) != CString::npos; };
+    const auto aparece = [&](const CString& texto) {
+        return PlegarTexto(texto).find(csPlegado) != CString::npos;
+    };
     // A province or a country of municipalities would be hundreds of rows.
     const bool bPorRegion = lugar.bMayor && (aparece(lugar.csProvincia) || aparece(lugar.csPais));
     return bPorRegion || aparece(lugar.csNombre) || std::ranges::any_of(lugar.acsAlias, aparece);
@@ -186,7 +188,7 @@ public:
 private:
     std::vector<Localidad> Buscar(const CString& csTexto) const
     {
-        const CString csPlegado = Plegar(csTexto);
+        const CString csPlegado = PlegarTexto(csTexto);
         if (csPlegado.empty())
             return LeerLugaresMayores(m_datos);
         std::vector<Localidad> lugares = LeerLugares(m_datos);
