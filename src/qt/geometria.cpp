@@ -66,9 +66,9 @@ QString ClaveDeColumnas(const QWidget& lista)
 // Widths change for many reasons; between press and release of a button it was the person.
 class GuardaDeAnchos final : public QObject {
 public:
-    explicit GuardaDeAnchos(QHeaderView& cabecera) : QObject(&cabecera), m_cabecera(cabecera)
+    explicit GuardaDeAnchos(QHeaderView* cabecera) : QObject(cabecera), m_cabecera(*cabecera)
     {
-        cabecera.viewport()->installEventFilter(this);
+        cabecera->viewport()->installEventFilter(this);
     }
 
     bool eventFilter(QObject* /*objeto*/, QEvent* evento) override
@@ -121,7 +121,7 @@ void RecordarColumnas(QWidget& ventana)
         if (anchos.size() == cabecera->count())
             for (int i = 0; i < cabecera->count(); ++i)
                 cabecera->resizeSection(i, anchos[i]);
-        new GuardaDeAnchos(*cabecera);
+        new GuardaDeAnchos(cabecera);  // NOLINT(*-NewDeleteLeaks): the header's own
     }
 }
 

@@ -18,6 +18,7 @@
 #include <QVBoxLayout>
 
 #include <quorvel/qt.h>
+#include <quorvel/ui/campo.h>
 #include <quorvel/ui/como.h>
 #include <quorvel/ui/presentador.h>
 
@@ -326,8 +327,30 @@ bool VentanaDialogo::DejarConRetorno()
     return true;
 }
 
+// That of the field that has the focus, or the proposal itself.
+bool VentanaDialogo::UsarPropuesta()
+{
+    const Vista* conFoco = VistaDe(focusWidget());
+    if (conFoco == nullptr)
+        return false;
+    for (const auto& vista : m_vistas) {
+        const auto* propuesta = dynamic_cast<const ui::Edicion*>(&vista->control);
+        if (propuesta == nullptr || !ui::PuedeUsarse(*propuesta))
+            continue;
+        if (vista.get() == conFoco || ui::CampoDeLaPropuesta(*propuesta) == &conFoco->control) {
+            Actuar([propuesta](ui::Dialogo& dialogo) { ui::UsarPropuesta(dialogo, *propuesta); });
+            return true;
+        }
+    }
+    return false;
+}
+
 void VentanaDialogo::keyPressEvent(QKeyEvent* evento)
 {
+    if (evento->key() == Qt::Key_F9 && UsarPropuesta()) {
+        evento->accept();
+        return;
+    }
     if ((evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter) && DejarConRetorno()) {
         evento->accept();
         return;

@@ -55,6 +55,7 @@ private:
     void DarTamano(QVBoxLayout& pila, QWidget* controles);
 
     bool DejarConRetorno();
+    bool UsarPropuesta();
     void Ejecutar(const std::function<void(ui::Dialogo&)>& accion);
     void Aceptar();
     void PonerFoco(bool bSeAviso);

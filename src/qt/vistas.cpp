@@ -7,6 +7,8 @@
 #include <QPalette>
 #include <QStyle>
 
+#include <quorvel/ui/campo.h>
+
 #include "qt/colores.h"
 #include "qt/texto.h"
 
@@ -20,14 +22,13 @@ bool SeLee(const CString& csTexto)
                                [](wchar_t c) { return QChar::isLetterOrNumber(static_cast<uint>(c)); });
 }
 
-// A control without a caption of its own goes by that of the one on whose line it stands; the program's value
-// for a field has the field's name with a P.
+// A control without a caption of its own goes by that of the one on whose line it stands.
 QString RotuloHablado(const ui::Control& control)
 {
     const ui::Control* junto = control.colocacion.junto;
     if (SeLee(control.csRotulo) || junto == nullptr)
         return SinMnemonico(control.csRotulo);
-    const bool bPropuesta = control.bSoloLectura && control.nombre == junto->nombre + 'P';
+    const bool bPropuesta = ui::CampoDeLaPropuesta(control) != nullptr;
     return (bPropuesta ? QStringLiteral("Propuesta: ") : QString()) + RotuloHablado(*junto);
 }
 
@@ -69,6 +70,8 @@ void Vista::Refrescar()
         rotulo->buddy() != nullptr ? ConMnemonico(control.csRotulo) : SinMnemonico(control.csRotulo);
     if (rotulo->text() != texto)
         rotulo->setText(texto);
+    if (rotulo->toolTip() != widget->toolTip())
+        rotulo->setToolTip(widget->toolTip());
     rotulo->setEnabled(control.bHabilitado);
     rotulo->setVisible(control.bVisible);
 }

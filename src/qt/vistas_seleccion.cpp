@@ -58,6 +58,9 @@ private:
             Combo().view()->setMinimumWidth(std::min(Combo().view()->sizeHintForColumn(0) + 24, 600));
         }
         Combo().setCurrentIndex(m_seleccion.iSeleccion);
+        // What is longer than the form lets it be read.
+        if (const QString elegida = Indicacion(DeQt(Combo().currentText())); Combo().toolTip() != elegida)
+            Combo().setToolTip(elegida);
     }
 
     const ui::Seleccion& m_seleccion;

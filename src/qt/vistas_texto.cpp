@@ -2,13 +2,17 @@
 #include <algorithm>
 #include <utility>
 
+#include <QAction>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QSignalBlocker>
 
+#include <quorvel/ui/campo.h>
+
 #include "qt/colores.h"
+#include "qt/iconos.h"
 #include "qt/texto.h"
 #include "qt/vistas_familias.h"
 
@@ -92,6 +96,7 @@ public:
             accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Teclear(edicion, DeQt(texto)); });
         });
         new GuardaDeFoco(widget, [&] { accionador.HaSalido(edicion); });
+        OfrecerPropuesta(accionador);
     }
 
     void Enfocar() override
@@ -102,6 +107,36 @@ public:
 
 private:
     QLineEdit& Campo() const { return static_cast<QLineEdit&>(*widget); }
+
+    // A proposal has its button inside, on the side of its field.
+    void OfrecerPropuesta(Accionador& accionador)
+    {
+        const ui::Control* campo = ui::CampoDeLaPropuesta(m_edicion);
+        if (dynamic_cast<const ui::Edicion*>(campo) == nullptr || campo->bSoloLectura)
+            return;
+        m_usar = Campo().addAction(IconoDe(L"usar-propuesta", widget->palette()), QLineEdit::LeadingPosition);
+        m_usar->setText(QStringLiteral("Usar propuesta"));
+        m_usar->setToolTip(QStringLiteral("Usar propuesta (F9)"));
+        Campo().setMinimumWidth(AnchoMinimo() + Campo().fontMetrics().height());
+        QObject::connect(m_usar, &QAction::triggered, &Campo(), [this, &accionador] {
+            accionador.Actuar([this](ui::Dialogo& dialogo) { ui::UsarPropuesta(dialogo, m_edicion); });
+        });
+    }
+
+    // What a person hears or reads of the field, with what is wrong with it.
+    void RefrescarIndicacion(bool bFalta)
+    {
+        const QString indicacion = AQt(ui::IndicacionDeCampo(m_edicion));
+        if (const QString texto = Indicacion(DeQt(indicacion)); Campo().toolTip() != texto)
+            Campo().setToolTip(texto);
+        QString descripcion = indicacion.section('\n', 1).replace('\n', QStringLiteral(". "));
+        if (bFalta)
+            descripcion = QStringLiteral("Valor no válido. ") + descripcion;
+        if (Campo().accessibleDescription() != descripcion)
+            Campo().setAccessibleDescription(descripcion);
+        if (m_usar != nullptr)
+            m_usar->setVisible(ui::PuedeUsarse(m_edicion));
+    }
 
     // A text that it opens with is read whole, unless it is long.
     int AnchoMinimo() const
@@ -119,6 +154,7 @@ private:
     void RefrescarMarco()
     {
         const bool bFalta = m_edicion.color == ui::kRojo && !m_edicion.bSoloLectura;
+        RefrescarIndicacion(bFalta);
         const QPalette paleta = Campo().parentWidget()->palette();
         const qint64 marco = bFalta ? paleta.cacheKey() : 0;
         if (std::exchange(m_marco, marco) == marco)
@@ -130,7 +166,6 @@ private:
             bFalta ? QStringLiteral("QLineEdit { border: 2px solid %1; color: %1; background: %2; }")
                          .arg(rojo.name(), fondo.name())
                    : QString());
-        Campo().setAccessibleDescription(bFalta ? QStringLiteral("Valor no válido") : QString());
     }
 
     void RefrescarContenido() override
@@ -152,7 +187,8 @@ private:
 
     const ui::Edicion& m_edicion;
     CString m_csMostrado;
-    qint64 m_marco = 0;  // theme of the frame; 0: none
+    QAction* m_usar = nullptr;  // of a proposal whose field can be typed into
+    qint64 m_marco = 0;         // theme of the frame; 0: none
     QString m_mostrado;
 };
 

@@ -36,6 +36,8 @@ inline constexpr auto kImagenes = std::to_array<Imagen>({
      "O 6 8 8;"
      "M 8 1 L 8 8 M 1 8 L 15 8;"
      "#D0402F M 8 8 L 8 15 M 6 12 L 8 15 L 10 12"},
+    // A proposal into the field at its left
+    {L"usar-propuesta", "#2F74C0 M 14 8 L 3 8 M 7 4 L 3 8 L 7 12"},
     // Rows of the catalogues
     {L"familia", "#D9A441 relleno M 1 13 L 1 3 L 6 3 L 7 5 L 15 5 L 15 13 Z"},
     {L"panel", "#2F74C0 M 2 3 L 14 3 L 14 13 L 2 13 Z M 6 3 L 6 13 M 10 3 L 10 13 M 2 8 L 14 8"},

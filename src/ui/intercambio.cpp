@@ -137,7 +137,7 @@ private:
         d = DelUsuario(c, d);
         const auto limites = c.bVisible ? c.limites.Ahora() : std::nullopt;
         if (limites && !Dentro(d, *limites)) {
-            csFalta = MensajeDeLimites({AlUsuario(c, limites->dMinimo), AlUsuario(c, limites->dMaximo)});
+            csFalta = MensajeDeLimites(*LimitesAlUsuario(c));
             return std::nullopt;
         }
         return d;
@@ -200,7 +200,20 @@ private:
 
 CString MensajeDeLimites(const Intervalo& limites)
 {
-    return L"Introduzca un número entre " + Breve(limites.dMinimo) + L" y " + Breve(limites.dMaximo) + L".";
+    return L"Introduzca un número entre " + TextoDeLimites(limites) + L".";
+}
+
+CString TextoDeLimites(const Intervalo& limites)
+{
+    return Breve(limites.dMinimo) + L" y " + Breve(limites.dMaximo);
+}
+
+std::optional<Intervalo> LimitesAlUsuario(const Edicion& campo)
+{
+    const auto limites = campo.limites.Ahora();
+    if (!limites)
+        return std::nullopt;
+    return Intervalo{AlUsuario(campo, limites->dMinimo), AlUsuario(campo, limites->dMaximo)};
 }
 
 std::optional<CString> Recoger(Control& control)

@@ -22,6 +22,12 @@ void Habilitar(Edicion& campo, bool bHabilitado);
 /// Lets a field be typed into or not. One that isn't shows its variable, unchecked and never taken back.
 void DejarEscribir(Edicion& campo, bool bEscribible);
 
+/// What holds for the field at the moment, in the person's unit; nothing when any number passes.
+std::optional<Intervalo> LimitesAlUsuario(const Edicion& campo);
+
+/// "0 y 15000": two limits as the person writes them.
+CString TextoDeLimites(const Intervalo& limites);
+
 /// "Introduzca un número entre … y ….", with the limits as the person writes them.
 CString MensajeDeLimites(const Intervalo& limites);
 

@@ -15,6 +15,9 @@
 #include <QTableView>
 #include <QTimeEdit>
 
+#include <quorvel/ui/campo.h>
+#include <quorvel/unidades.h>
+
 namespace {
 
 using namespace efv;
@@ -323,6 +326,61 @@ TEST(Trabajo, LoQueNoSeCancelaNoSeCierraYEsperaElCursor)
     EXPECT_TRUE(bVisto);
     EXPECT_EQ(QApplication::overrideCursor(), nullptr);
     ui::InstalarPresentador(nullptr);
+}
+
+// A value with its proposal beside it, as the assistants have them.
+class ConPropuesta : public ui::Dialogo {
+public:
+    ConPropuesta() : Dialogo("ConPropuesta", L"Propuesta")
+    {
+        valor.limites = ui::Intervalo{0, 90};
+        valor.destino = &dValor;
+        valor.alSalir = [this] { Recoger(valor); };
+        propuesta.colocacion = ui::JuntoA(valor);
+        propuesta.bSoloLectura = true;
+        propuesta.csTexto = L"30,41";
+        superficie.destino = &dSuperficie;
+        superficie.magnitud = L"Superficie";
+        superficie.limites = ui::Intervalo{0, 1};
+        Volcar();
+    }
+
+    double dValor = 12, dSuperficie = 0.5;
+    ui::Edicion& valor = Anadir<ui::Edicion>("dInclinacion", L"&Inclinación (º):");
+    ui::Edicion& propuesta = Anadir<ui::Edicion>("dInclinacionP", L"");
+    ui::Edicion& superficie = Anadir<ui::Edicion>("dSuperficie", L"Superficie (cm²):");
+};
+
+TEST(Propuestas, SeUsanConSuBotonYConUnaTecla)
+{
+    ConPropuesta dialogo;
+    Mostrar(dialogo, [&](QDialog& ventana) {
+        auto& valor = Hijo<QLineEdit>(ventana, "dInclinacion");
+        auto& propuesta = Hijo<QLineEdit>(ventana, "dInclinacionP");
+        ASSERT_EQ(propuesta.actions().size(), 1);
+        EXPECT_TRUE(propuesta.actions().constFirst()->isVisible());
+        propuesta.actions().constFirst()->trigger();
+        EXPECT_EQ(valor.text(), "30,41");
+        EXPECT_EQ(dialogo.dValor, 30.41);
+        valor.setFocus();
+        valor.selectAll();
+        QTest::keyClicks(&valor, "7");
+        QTest::keyClick(&valor, Qt::Key_F9);
+        EXPECT_EQ(dialogo.dValor, 30.41);
+        dialogo.valor.bSoloLectura = true;
+        qt::RefrescarVentana(&ventana);
+        EXPECT_FALSE(propuesta.actions().constFirst()->isVisible());
+    });
+}
+
+TEST(Indicaciones, DicenUnidadYLimitesEnLaUnidadDeLaPersona)
+{
+    ElegirUnidad(L"Superficie", L"cm²");
+    ConPropuesta dialogo;
+    EXPECT_EQ(ui::IndicacionDeCampo(dialogo.valor), L"Inclinación\nUnidad: º\nEntre 0 y 90");
+    EXPECT_EQ(ui::IndicacionDeCampo(dialogo.propuesta), L"Propuesta: Inclinación\nUnidad: º");
+    EXPECT_EQ(ui::IndicacionDeCampo(dialogo.superficie), L"Superficie\nUnidad: cm²\nEntre 0 y 10000");
+    ElegirUnidad(L"Superficie", L"m²");
 }
 
 }  // namespace

@@ -94,13 +94,13 @@ TEST_F(Geometria, NadaSeAbreFueraDeLaPantalla)
     const QRect sitio = QGuiApplication::primaryScreen()->availableGeometry();
     const QSize tamano(800, 680);
     const QPoint abajo(sitio.width() - tamano.width(), sitio.height() - tamano.height());
-    for (const auto& [pedido, puesto] : {
+    for (const auto& caso : {
              std::pair(QPoint(100, 50), QPoint(100, 50)),  // as it was
              std::pair(QPoint(-300, 50), QPoint(0, 50)),   // an edge
              std::pair(QPoint(5000, 5000), abajo),         // a screen that is gone
          }) {
-        ajustes.setValue("ventanas/Muestra/sitio", QRect(pedido, tamano));
-        Abrir([&](const QDialog& ventana) { EXPECT_EQ(ventana.geometry(), QRect(puesto, tamano)); });
+        ajustes.setValue("ventanas/Muestra/sitio", QRect(caso.first, tamano));
+        Abrir([&](const QDialog& ventana) { EXPECT_EQ(ventana.geometry(), QRect(caso.second, tamano)); });
     }
     ajustes.setValue("ventanas/Muestra/sitio", QRect(0, 0, 3000, 2000));
     Abrir([&](const QDialog& ventana) { EXPECT_EQ(ventana.size(), sitio.size()); });
