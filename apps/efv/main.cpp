@@ -1,3 +1,5 @@
+#include <unistd.h>
+
 #include <algorithm>
 #include <csignal>
 #include <iostream>
@@ -5,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "comun/terminal.h"
 #include "orden.h"
 
 int main(int argc, char** argv)
@@ -13,7 +16,8 @@ int main(int argc, char** argv)
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         const std::vector<std::string> argumentos(argv + std::min(argc, 1), argv + argc);
-        return efv::orden::Ejecutar(argumentos, {std::cout, std::cerr});
+        return efv::orden::Ejecutar(argumentos,
+                                    {std::cout, std::cerr, efv::orden::FormaDeSalida(STDOUT_FILENO)});
     } catch (const std::bad_alloc&) {
         std::cerr << "efv: memoria insuficiente" << std::endl;
         return 1;

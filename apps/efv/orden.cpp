@@ -24,6 +24,7 @@
 #include "comun/reloj.h"
 #include "comun/salida_limpia.h"
 #include "comun/suborden.h"
+#include "comun/terminal.h"
 #include "consumo/suborden_consumo.h"
 #include "curvas/suborden_curvas.h"
 #include "diseno/suborden_diseno.h"
@@ -106,7 +107,7 @@ public:
         try {
             m_raiz.parse(std::vector(argumentos.rbegin(), argumentos.rend()));
         } catch (const CLI::CallForHelp&) {
-            salida << m_raiz.help();
+            salida << Prosa(m_raiz.help());
             return 0;
         } catch (const CLI::CallForVersion& version) {
             salida << version.what() << '\n';
@@ -166,8 +167,9 @@ private:
 
 int Ejecutar(const std::vector<std::string>& argumentos, Consola consola)
 {
+    Forma() = consola.forma;
     LineaOrdenes linea(argumentos);
-    SalidaLimpia limpia(*consola.salida.rdbuf());
+    SalidaLimpia limpia(*consola.salida.rdbuf(), consola.forma.bColor);
     std::ostream salida(&limpia);
     const auto fallar = [&](std::string_view texto, int iEstado) {
         consola.errores << linea.Nombre() << ": " << EnUnaLinea(texto) << std::endl;

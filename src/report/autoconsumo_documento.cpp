@@ -65,14 +65,17 @@ Seccion SeccionEntradas(const ProyectoAutoconsumo& proyecto)
 // A table of twelve months and the year.
 template <class F>
 Cuadro CuadroDeMeses(const EstudioAutoconsumo& e, std::string titulo, const std::vector<std::string>& columnas,
-                     F celdas)
+                     const char* unidad, F celdas)
 {
     Cuadro cuadro;
     cuadro.titulo = std::move(titulo);
     cuadro.bTotal = true;
     cuadro.columnas.emplace_back("Mes", false);
-    for (const std::string& columna : columnas)
+    cuadro.unidades.emplace_back();
+    for (const std::string& columna : columnas) {
         cuadro.columnas.emplace_back(columna, true);
+        cuadro.unidades.emplace_back(columna.find('(') == std::string::npos ? unidad : "");
+    }
     const auto fila = [&](std::string nombre, const SumaAutoconsumo& suma) {
         auto& destino = cuadro.filas.emplace_back();
         destino.push_back(std::move(nombre));
@@ -103,7 +106,7 @@ Seccion SeccionEnergia(const EstudioAutoconsumo& e)
     seccion.graficas.push_back(std::move(grafica));
     seccion.cuadros.push_back(CuadroDeMeses(
         e, "Energía (kWh)",
-        {"Consumo", "Producción", "Autoconsumo", "Vertido", "Compra", "Cubierto (%)", "Aprovechada (%)"},
+        {"Consumo", "Producción", "Autoconsumo", "Vertido", "Compra", "Cubierto (%)", "Aprovechada (%)"}, "kWh",
         [](const SumaAutoconsumo& s) {
             return std::array<Celda, 7>{{{s.dConsumida, 1},
                                          {s.dProducida, 1},
@@ -121,7 +124,7 @@ Seccion SeccionDinero(const ProyectoAutoconsumo& proyecto, const EstudioAutocons
     Seccion seccion(kTituloDinero);
     seccion.cuadros.push_back(
         CuadroDeMeses(e, "Término de energía e importes (€)",
-                      {"Sin instalación", "Compra", "Excedentes", "Compensado", "Desgaste", "Ahorro"},
+                      {"Sin instalación", "Compra", "Excedentes", "Compensado", "Desgaste", "Ahorro"}, "€",
                       [](const SumaAutoconsumo& s) {
                           return std::array<Celda, 6>{{{s.dGastoSin, 2},
                                                        {s.dCompra, 2},

@@ -100,7 +100,7 @@ Seccion SeccionComprobacion(const TemperaturasCelulas& temperaturas,
     for (const auto& c : comprobacion.limites) {
         const TextoLimite& texto = TextoDe(c.limite);
         cuadro.filas.push_back({texto.rotulo, Con(c.dValor, texto.iDecimales, texto.unidad), LimiteDe(c),
-                                c.bCumple == false ? "NO CUMPLE" : ResultadoDe(c)});
+                                c.bCumple == false ? kNoCumple : ResultadoDe(c)});
     }
     std::string nota = fmt::format(
         "Frío: células a {} ºC; calor: a {} ºC; 1000 W/m². No cambia ningún resultado del dimensionado, que "

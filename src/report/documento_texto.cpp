@@ -12,47 +12,40 @@ namespace {
 constexpr std::size_t kAnchura = 100;
 
 // Words in lines of the terminal's width, the ones after the first under the text.
-std::string Parrafo(const std::string& marca, const std::string& texto)
+std::string Parrafo(const std::string& marca, const std::string& texto, const FormaTexto& forma)
 {
     const std::string sangria(Anchura(marca), ' ');
-    std::string resultado = marca;
-    std::size_t nLinea = sangria.size();
-    for (std::size_t i = 0; i < texto.size();) {
-        const std::size_t fin = std::min(texto.find(' ', i), texto.size());
-        const std::string palabra = texto.substr(i, fin - i);
-        const bool bPrimera = nLinea == sangria.size();
-        if (!bPrimera && nLinea + 1 + Anchura(palabra) > kAnchura) {
-            resultado += '\n' + sangria;
-            nLinea = sangria.size();
-        } else if (!bPrimera) {
-            resultado += ' ';
-            ++nLinea;
-        }
-        resultado += palabra;
-        nLinea += Anchura(palabra);
-        i = fin + 1;
-    }
-    return resultado + '\n';
+    const std::size_t nAnchura = forma.nAnchura > 0 ? std::min(forma.nAnchura, kAnchura) : kAnchura;
+    std::string resultado;
+    for (const std::string& linea : EnLineas(texto, nAnchura - sangria.size(), forma.nAnchura > 0))
+        resultado += (resultado.empty() ? marca : sangria) + linea + '\n';
+    return resultado;
 }
 
-std::string DatosTexto(const std::vector<Dato>& datos)
+std::string DatosTexto(const std::vector<Dato>& datos, const FormaTexto& forma)
 {
     using enum ColumnasTexto::Lado;
     TablaTexto tabla({izquierda, izquierda, izquierda, izquierda});
-    for (const Dato& dato : datos)
-        tabla.Fila({"  " + dato.rotulo, EnUnaLinea(dato.valor),
-                    dato.propuesta.empty() ? "" : "propuesta " + dato.propuesta,
-                    dato.bFalta ? "<< fuera" : ""});
-    return datos.empty() ? std::string() : tabla.Texto();
+    const auto cifra = [&](const std::string& texto) { return forma.bMiles ? ConMiles(texto) : texto; };
+    for (const Dato& dato : datos) {
+        const std::string propuesta = dato.propuesta.empty() ? "" : "propuesta " + dato.propuesta;
+        tabla.Fila({"  " + dato.rotulo, cifra(EnUnaLinea(dato.valor)), cifra(propuesta),
+                    dato.bFalta ? "<< fuera" : ""},
+                   dato.bFalta);
+    }
+    return datos.empty() ? std::string() : tabla.Texto(forma);
 }
 
-std::string CuadroTexto(const Cuadro& cuadro)
+std::string CuadroTexto(const Cuadro& cuadro, const FormaTexto& forma)
 {
     std::vector<TablaTexto::Lado> lados;
     std::vector<std::string> titulos;
     for (const auto& [titulo, bNumero] : cuadro.columnas) {
+        const std::size_t c = titulos.size();
         lados.push_back(bNumero ? TablaTexto::Lado::derecha : TablaTexto::Lado::izquierda);
         titulos.push_back((titulos.empty() ? "  " : "") + titulo);
+        if (forma.bMiles && c < cuadro.unidades.size() && !cuadro.unidades[c].empty())
+            titulos.back() += " (" + cuadro.unidades[c] + ")";
     }
     TablaTexto tabla(std::move(lados));
     tabla.Fila(std::move(titulos));
@@ -63,36 +56,52 @@ std::string CuadroTexto(const Cuadro& cuadro)
             celdas.push_back((celdas.empty() ? "  " : "") + EnUnaLinea(celda));
         if (cuadro.bTotal && f + 1 == cuadro.filas.size())
             tabla.Raya();
-        tabla.Fila(std::move(celdas));
+        const bool bFalta = std::ranges::any_of(
+            celdas, [](const std::string& celda) { return celda.find(kNoCumple) != std::string::npos; });
+        tabla.Fila(std::move(celdas), bFalta);
     }
-    return tabla.Texto();
+    return tabla.Texto(forma);
+}
+
+// Of a result alone, only what falls short.
+std::string AvisosTexto(const std::vector<Aviso>& avisos, const FormaTexto& forma)
+{
+    std::string texto;
+    for (const Aviso& aviso : avisos) {
+        if (aviso.bFalta || !forma.bSoloResultado)
+            texto += EnRojo(Parrafo(aviso.bFalta ? "  ! " : "  · ", EnUnaLinea(aviso.texto), forma),
+                            forma.bColor && aviso.bFalta);
+    }
+    if (texto.empty() && !forma.bSoloResultado)
+        texto = "  Ninguno.\n";
+    return texto.empty() ? texto : "\nAvisos\n" + texto;
 }
 
 }  // namespace
 
-std::string DocumentoTexto(const Documento& documento)
+std::string DocumentoTexto(const Documento& documento, const FormaTexto& forma)
 {
     std::string texto = documento.titulo + '\n';
     if (!documento.proyecto.empty())
-        texto += EnUnaLinea(documento.proyecto) + '\n';
+        texto += forma.nAnchura > 0 ? Parrafo("", EnUnaLinea(documento.proyecto), forma)
+                                    : EnUnaLinea(documento.proyecto) + '\n';
     for (const Seccion& seccion : documento.secciones) {
         if (seccion.bSoloPagina)
             continue;
         texto += '\n' + seccion.titulo + '\n';
-        texto += DatosTexto(seccion.datos);
+        texto += DatosTexto(seccion.datos, forma);
         for (const Cuadro& cuadro : seccion.cuadros)
-            texto += CuadroTexto(cuadro);
-        for (const std::string& nota : seccion.notas)
-            texto += Parrafo("  ", nota);
+            texto += CuadroTexto(cuadro, forma);
+        if (!forma.bSoloResultado)
+            for (const std::string& nota : seccion.notas)
+                texto += Parrafo("  ", nota, forma);
     }
-    texto += "\nAvisos\n";
-    for (const Aviso& aviso : documento.avisos)
-        texto += Parrafo(aviso.bFalta ? "  ! " : "  · ", EnUnaLinea(aviso.texto));
-    if (documento.avisos.empty())
-        texto += "  Ninguno.\n";
+    texto += AvisosTexto(documento.avisos, forma);
+    if (forma.bSoloResultado)
+        return texto;
     texto += "\nSupuestos\n";
     for (const Supuesto& supuesto : documento.supuestos)
-        texto += Parrafo("  · ", supuesto.texto);
+        texto += Parrafo("  · ", supuesto.texto, forma);
     return texto;
 }
 

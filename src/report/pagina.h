@@ -7,12 +7,9 @@
 #include <vector>
 
 #include <quorvel/report/documento.h>
+#include <quorvel/report/texto.h>
 
 namespace efv::report {
-
-/// Numbers of five digits and more in groups of three, parted by a blank that doesn't break: "12 345,60".
-/// Digits within a word stay as they are.
-std::string ConMiles(std::string_view texto);
 
 /// "Maker Model" of "Maker#Model".
 std::string SinMarca(std::string_view identificacion);

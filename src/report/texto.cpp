@@ -59,4 +59,66 @@ std::size_t Anchura(std::string_view utf8)
         std::ranges::count_if(utf8, [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
+std::string EnRojo(std::string texto, bool bColor)
+{
+    if (!bColor)
+        return texto;
+    std::string rojo;
+    std::size_t i = 0;
+    while (i < texto.size()) {
+        const std::size_t fin = std::min(texto.find('\n', i), texto.size());
+        const std::string_view linea = std::string_view(texto).substr(i, fin - i);
+        rojo += linea.empty() ? linea : kColorRojo;
+        rojo += linea;
+        rojo += linea.empty() ? linea : kColorPropio;
+        rojo += fin < texto.size() ? "\n" : "";
+        i = fin + 1;
+    }
+    return rojo;
+}
+
+namespace {
+
+// Bytes of the first `n` characters.
+std::size_t Bytes(std::string_view utf8, std::size_t n)
+{
+    std::size_t i = 0;
+    while (i < utf8.size() && Anchura(utf8.substr(0, i + 1)) <= n)
+        ++i;
+    return i;
+}
+
+}  // namespace
+
+std::vector<std::string> EnLineas(std::string_view texto, std::size_t nAnchura, bool bPartirPalabras)
+{
+    const std::size_t nSangria = std::min(texto.find_first_not_of(' '), texto.size());
+    // Where the blanks leave no room they don't count.
+    const std::string sangria(nSangria < nAnchura / 2 ? nSangria : 0, ' ');
+    texto.remove_prefix(nSangria);
+    const std::size_t nHueco = std::max<std::size_t>(nAnchura, sangria.size() + 1) - sangria.size();
+    std::vector<std::string> lineas;
+    std::string linea;
+    const auto cerrar = [&] {
+        lineas.push_back(sangria + linea);
+        linea.clear();
+    };
+    while (!texto.empty()) {
+        const std::size_t fin = std::min(texto.find(' '), texto.size());
+        std::string_view palabra = texto.substr(0, fin);
+        if (!linea.empty() && Anchura(linea) + 1 + Anchura(palabra) > nHueco)
+            cerrar();
+        for (; bPartirPalabras && Anchura(palabra) > nHueco; palabra.remove_prefix(Bytes(palabra, nHueco))) {
+            linea = palabra.substr(0, Bytes(palabra, nHueco));
+            cerrar();
+        }
+        linea += linea.empty() ? "" : " ";
+        linea += palabra;
+        texto.remove_prefix(std::min(fin + 1, texto.size()));
+    }
+    if (!linea.empty() || lineas.empty())
+        cerrar();
+    return lineas;
+}
+
 }  // namespace efv::report

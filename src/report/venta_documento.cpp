@@ -132,6 +132,7 @@ Seccion SeccionAnos(const EstudioVenta& resultado)
     cuadro.titulo = "Energía (kWh), prima (€/kWh) e importes (€) de cada año";
     for (const std::wstring_view titulo : economics::TitulosVenta())
         cuadro.columnas.emplace_back(CadenaUtf8(CString(titulo)), true);
+    cuadro.unidades = {"", "kWh", "€/kWh", "€", "€", "€", "€", "€", "€"};
     for (const economics::FilaVenta& fila : economics::FilasVenta(e)) {
         auto& celdas = cuadro.filas.emplace_back();
         for (const CString& csCelda : fila)

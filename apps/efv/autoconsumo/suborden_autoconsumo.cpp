@@ -176,9 +176,9 @@ private:
         } else if (m_bCsv) {
             salida << HorasCsv(estudio);
         } else {
-            salida << report::DocumentoTexto(documento);
+            salida << report::DocumentoTexto(documento, Forma());
             for (std::size_t i = 0; i < escritos.size(); ++i)
-                salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
+                salida << Nota((i == 0 ? "\nEscrito: " : "Escrito: ") + EnUnaLinea(escritos[i]) + '\n');
         }
     }
 

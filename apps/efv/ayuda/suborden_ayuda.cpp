@@ -11,6 +11,7 @@
 #include "ayuda/pagina_man.h"
 #include "comun/linea_ordenes.h"
 #include "comun/parecidos.h"
+#include "comun/terminal.h"
 
 namespace efv::orden {
 
@@ -54,7 +55,7 @@ public:
             linea = orden;
         }
         // The order being run is this one: help of the root would lead back here.
-        salida << (linea == m_raiz ? AyudaDeLaRaiz() : linea->help(camino));
+        salida << Prosa(linea == m_raiz ? AyudaDeLaRaiz() : linea->help(camino));
         return 0;
     }
 

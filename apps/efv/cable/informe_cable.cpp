@@ -10,6 +10,7 @@
 
 #include <quorvel/cables.h>
 #include <quorvel/report/cableado.h>
+#include <quorvel/report/documento.h>
 
 #include "comun/numeros.h"
 
@@ -188,29 +189,32 @@ std::string TramoTexto(const TramoEscrito& e)
     fila("Corriente de reserva", c.dAdmisible > 0.0 ? Amperios(c.dReserva) : "—");
     std::string texto = tabla.Texto();
     if (const std::string motivo = Motivo(e); !motivo.empty())
-        texto += "\nNO CUMPLE: " + motivo + ".\n";
-    return texto;
+        texto += report::EnRojo(Prosa(fmt::format("\n{}: {}.\n", report::kNoCumple, motivo)), Forma().bColor);
+    return Prosa(texto);
 }
 
 std::string ListaTexto(const std::vector<TramoEscrito>& tramos)
 {
     using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({derecha, izquierda, derecha, derecha, derecha, derecha, derecha, derecha, izquierda});
-    tabla.Fila({"Línea", "Referencia", "I (A)", "Por I", "Por caída", "Sección", "Caída", "Reserva (A)", ""});
+    tabla.Fila({"Línea", "Referencia", "I (A)", "Por I (mm²)", "Por caída (mm²)", "Sección (mm²)",
+                "Caída (V, %)", "Reserva (A)", ""});
     tabla.Raya();
     for (const TramoEscrito& e : tramos) {
         const std::string linea = std::to_string(e.iLinea), referencia = EnUnaLinea(e.pedido.referencia);
         const auto& c = e.calculo;
         const int n = e.tramo.iConductoresFase;
         if (!e.error.empty()) {
-            tabla.Fila({linea, referencia, "—", "—", "—", "—", "—", "—", "ERROR: " + EnUnaLinea(e.error)});
+            tabla.Fila({linea, referencia, "—", "—", "—", "—", "—", "—", "ERROR: " + EnUnaLinea(e.error)},
+                       true);
         } else {
-            tabla.Fila({linea, referencia, Decimal(e.tramo.dCorriente, 2),
-                        report::TextoSeccion(c.dPorCorriente, n),
-                        e.pedido.dLongitud ? report::TextoSeccion(c.dPorCaida, n) : "—",
-                        report::TextoSeccion(c.dSeccion, n), Caida(e),
-                        c.dAdmisible > 0.0 ? Decimal(c.dReserva, 2) : "—",
-                        c.Cumple() ? "" : "NO CUMPLE: " + Motivo(e)});
+            tabla.Fila(
+                {linea, referencia, Decimal(e.tramo.dCorriente, 2), report::TextoSeccion(c.dPorCorriente, n),
+                 e.pedido.dLongitud ? report::TextoSeccion(c.dPorCaida, n) : "—",
+                 report::TextoSeccion(c.dSeccion, n), Caida(e),
+                 c.dAdmisible > 0.0 ? Decimal(c.dReserva, 2) : "—",
+                 c.Cumple() ? "" : fmt::format("{}: {}", report::kNoCumple, Motivo(e))},
+                !c.Cumple());
         }
     }
     return tabla.Texto();
@@ -303,9 +307,9 @@ std::string EscribirTabla(const electrical::TramoCable& tramo, FormatoCable form
                       {"factor_temperatura", calculo.dFactor},
                       {"corrientes", std::move(json)}});
     }
-    return fmt::format("{}\n{} (factor {}); la tabla es para 30 ºC de aire y 20 ºC de suelo.\n\n{}",
-                       DeTabla(tramo), Grados(calculo.dTemperatura), Decimal(calculo.dFactor, 3),
-                       tabla.Texto());
+    return Prosa(fmt::format("{}\n{} (factor {}); la tabla es para 30 ºC de aire y 20 ºC de suelo.\n\n{}",
+                             DeTabla(tramo), Grados(calculo.dTemperatura), Decimal(calculo.dFactor, 3),
+                             tabla.Texto()));
 }
 
 }  // namespace efv::orden

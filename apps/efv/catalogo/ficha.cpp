@@ -127,18 +127,20 @@ void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Mo
             celdas.emplace_back(modelo.bPropio ? "propio" : "");
         return celdas;
     };
-    report::ColumnasTexto tabla(std::move(lados));
-    tabla.Medir(titulos);
+    report::ColumnasTexto tabla(std::move(lados), Forma());
+    tabla.MedirTitulos(titulos);
     std::set<std::wstring_view> familias;
     for (const CModelo* m : modelos) {
         tabla.Medir(fila(*m));
         familias.insert(m->csFamilia);
     }
+    tabla.DisponerPlegada();
     salida << tabla.Linea(titulos) << tabla.Raya();
     for (const CModelo* m : modelos)
         salida << tabla.Linea(fila(*m));
-    salida << fmt::format("\n{} modelo{} de {} familia{}\n", modelos.size(), modelos.size() == 1 ? "" : "s",
-                          familias.size(), familias.size() == 1 ? "" : "s");
+    salida << Nota(fmt::format("\n{} modelo{} de {} familia{}\n", modelos.size(),
+                               modelos.size() == 1 ? "" : "s", familias.size(),
+                               familias.size() == 1 ? "" : "s"));
 }
 
 std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo, const Modelos& todos)

@@ -72,7 +72,8 @@ std::array<double, 13> SumasDe(const AnoHoras& ad)
 
 std::string TablaDeMeses(const std::vector<std::pair<std::string, std::array<double, 13>>>& columnas)
 {
-    TablaTexto tabla(std::vector(columnas.size() + 1, TablaTexto::Lado::derecha));
+    std::vector<TablaTexto::Lado> lados(columnas.size() + 1, TablaTexto::Lado::derecha);
+    TablaTexto tabla(std::move(lados));
     std::vector<std::string> fila{"Mes"};
     for (const auto& columna : columnas)
         fila.push_back(columna.first);
@@ -234,7 +235,7 @@ private:
             throw ErrorEjecucion("la respuesta de PVGIS no es un fichero EPW");
         }
         salidas.Escribir({std::move(contenido)}, salida);
-        return salidas.EnLaSalida() ? std::string() : texto;
+        return salidas.EnLaSalida() ? std::string() : Nota(Prosa(texto));
     }
 
     std::string Mensual(std::ostream& /*salida*/)
@@ -276,10 +277,11 @@ private:
                        .dump(2) +
                    '\n';
         }
-        return fmt::format("Registro climático {}\nLatitud {}°, longitud {}°\n\n{}", EnUnaLinea(m_fichero),
-                           Decimal(datos->dLatitud, 4), Decimal(datos->dLongitud, 4),
-                           TablaDeMeses({{"Horizontal kWh/m²", sumas}})) +
-               (std::abs(datos->dLongitud) >= solar::kLongitudSinDesfase ? kDesfase : "");
+        const bool bDesfase = std::abs(datos->dLongitud) >= solar::kLongitudSinDesfase;
+        return Prosa(fmt::format("Registro climático {}\nLatitud {}°, longitud {}°\n\n{}",
+                                 EnUnaLinea(m_fichero), Decimal(datos->dLatitud, 4),
+                                 Decimal(datos->dLongitud, 4), TablaDeMeses({{"Horizontal kWh/m²", sumas}})) +
+                     Nota(bDesfase ? kDesfase : ""));
     }
 
     std::string Plano(std::ostream& /*salida*/)

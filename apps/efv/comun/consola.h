@@ -4,11 +4,14 @@
 #include <ostream>
 #include <stdexcept>
 
+#include <quorvel/report/texto.h>
+
 namespace efv::orden {
 
 struct Consola {
     std::ostream& salida;
     std::ostream& errores;
+    report::FormaTexto forma{.bMiles = true};  ///< of the texts on `salida`
 };
 
 /// The command was called wrongly: exit status 2.

@@ -1,5 +1,6 @@
 #include "comun/linea_ordenes.h"
 
+#include <algorithm>
 #include <string_view>
 #include <type_traits>
 
@@ -43,10 +44,11 @@ const std::string kMargen(kColumna, ' ');
 // `texto` in lines that fit right of the first column.
 std::string Partir(const std::string& texto)
 {
+    const std::size_t nAnchura = Forma().nAnchura > 0 ? std::min(Forma().nAnchura, kAnchura) : kAnchura;
     std::string resultado;
     std::size_t nLinea = 0;
     for (const std::string& palabra : CLI::detail::split(texto, ' ')) {
-        if (nLinea > 0 && kColumna + nLinea + 1 + Anchura(palabra) > kAnchura) {
+        if (nLinea > 0 && kColumna + nLinea + 1 + Anchura(palabra) > nAnchura) {
             resultado += '\n';
             nLinea = 0;
         }
@@ -96,6 +98,9 @@ void Castellanizar(CLI::App& app)
 {
     app.set_help_flag("-h,--help", "Muestra esta ayuda y termina")->group("Opciones");
     app.option_defaults()->group("Opciones");
+    app.add_flag("--callado", Forma().bSoloResultado, "Escribe solo el resultado, sin notas")
+        ->option_text(" ")
+        ->disable_flag_override();
     app.group("Órdenes");
 }
 

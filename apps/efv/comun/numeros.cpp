@@ -85,4 +85,9 @@ std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras
     return partes.size() == cuantos ? partes : Partir(todo, ",; ");
 }
 
+std::string Cifra(double d, int iDecimales)
+{
+    return report::ConMiles(Decimal(d, iDecimales));
+}
+
 }  // namespace efv::orden

@@ -10,6 +10,8 @@
 #include <quorvel/framework/CString.h>
 #include <quorvel/report/texto.h>
 
+#include "comun/terminal.h"
+
 namespace efv::orden {
 
 /// The finite number that `texto` is, wholly; comma or point as decimal mark.
@@ -29,10 +31,12 @@ std::optional<std::vector<double>> LeerIntervalo(const char* opcion, const std::
 /// mark where another separator makes that many.
 std::vector<std::string> SepararNumeros(const std::vector<std::string>& palabras, std::size_t cuantos);
 
+/// `d` as tables have it, thousands parted.
+std::string Cifra(double d, int iDecimales);
+
 using report::Anchura;
 using report::Decimal;
 using report::DecimalExacto;
 using report::EnUnaLinea;
-using report::TablaTexto;
 
 }  // namespace efv::orden

@@ -1,5 +1,9 @@
 #include "comun/salida_limpia.h"
 
+#include <algorithm>
+
+#include <quorvel/report/texto.h>
+
 #include "comun/consola.h"
 
 namespace efv::orden {
@@ -14,7 +18,11 @@ SalidaLimpia::int_type SalidaLimpia::overflow(int_type c)
 
 std::streamsize SalidaLimpia::xsputn(const char* texto, std::streamsize n)
 {
-    m_depurador.Pasar({texto, static_cast<std::size_t>(n)}, m_limpio);
+    const std::string_view trozo(texto, static_cast<std::size_t>(n));
+    if (m_bColor)
+        PasarColores(trozo);
+    else
+        m_depurador.Pasar(trozo, m_limpio);
     return Escribir() ? n : 0;
 }
 
@@ -28,6 +36,22 @@ bool SalidaLimpia::EscribirSinFiltro(std::string_view bytes)
 {
     const auto n = static_cast<std::streamsize>(bytes.size());
     return sync() >= 0 && m_destino.sputn(bytes.data(), n) == n;
+}
+
+void SalidaLimpia::PasarColores(std::string_view texto)
+{
+    while (!texto.empty()) {
+        const std::size_t iRojo = texto.find(report::kColorRojo), iPropio = texto.find(report::kColorPropio);
+        const std::size_t iMarca = std::min({iRojo, iPropio, texto.size()});
+        m_depurador.Pasar(texto.substr(0, iMarca), m_limpio);
+        texto.remove_prefix(iMarca);
+        if (texto.empty())
+            return;
+        const std::string_view marca = iMarca == iRojo ? report::kColorRojo : report::kColorPropio;
+        m_depurador.Terminar(m_limpio);
+        m_limpio += marca;
+        texto.remove_prefix(marca.size());
+    }
 }
 
 bool SalidaLimpia::Escribir()

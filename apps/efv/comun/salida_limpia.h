@@ -13,7 +13,10 @@ namespace efv::orden {
 /// Writes to another buffer what a Depurador lets through.
 class SalidaLimpia final : public std::streambuf {
 public:
-    explicit SalidaLimpia(std::streambuf& destino) : m_destino(destino) {}
+    /// @param bColor the two marks of colour that texts are written with pass
+    explicit SalidaLimpia(std::streambuf& destino, bool bColor = false) : m_destino(destino), m_bColor(bColor)
+    {
+    }
 
     /// Bytes that aren't for a terminal, as they are. @return whether they could be written
     bool EscribirSinFiltro(std::string_view bytes);
@@ -25,8 +28,10 @@ protected:
 
 private:
     bool Escribir();
+    void PasarColores(std::string_view texto);
 
     std::streambuf& m_destino;
+    bool m_bColor;
     Depurador m_depurador;
     std::string m_limpio;
 };

@@ -90,10 +90,10 @@ std::string InformeTexto(const AnoConsumo& ano)
     tabla.Raya();
     fila("Año", kAno);
     std::string texto = fmt::format("{}\n\n{}\nMayor consumo de una hora: {} kWh\n", EnUnaLinea(ano.origen),
-                                    tabla.Texto(), Decimal(ano.dPotMaxima / kWhPorKWh, 2));
+                                    tabla.Texto(), Cifra(ano.dPotMaxima / kWhPorKWh, 2));
     for (const std::string& nota : ano.contador->notas)
-        texto += fmt::format("{}\n", EnUnaLinea(nota));
-    return texto;
+        texto += Nota(fmt::format("{}\n", EnUnaLinea(nota)));
+    return Prosa(texto);
 }
 
 }  // namespace efv::orden

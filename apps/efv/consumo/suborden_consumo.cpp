@@ -243,9 +243,9 @@ private:
         }
         como.ficheros.Escribir({DibujarAno(ano, como.vista, como.iMes, como.iDia)}, salida);
         if (!como.ficheros.EnLaSalida())
-            salida << fmt::format("{}\nEnergía del año: {} kWh\nGráfica escrita: {}\n", EnUnaLinea(ano.origen),
-                                  Decimal(SumaDeHoras(*ano.horas, HorasDePeriodo(12)) / 1000.0, 2),
-                                  EnUnaLinea(*m_svg));
+            salida << Prosa(fmt::format("{}\nEnergía del año: {} kWh\n", EnUnaLinea(ano.origen),
+                                        Cifra(SumaDeHoras(*ano.horas, HorasDePeriodo(12)) / 1000.0, 2)) +
+                            Nota(fmt::format("Gráfica escrita: {}\n", EnUnaLinea(*m_svg))));
     }
 
     std::vector<std::pair<CLI::App*, Calculo>> m_ordenes;

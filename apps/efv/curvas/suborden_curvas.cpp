@@ -181,9 +181,9 @@ private:
     static std::string InformeTexto(const CBasePanelFotoModelo& modelo,
                                     const std::vector<std::string>& escritos)
     {
-        std::string texto = ValoresTexto(modelo) + "\nGráficas escritas:\n";
+        std::string texto = ValoresTexto(modelo) + Nota("\nGráficas escritas:\n");
         for (const auto& ruta : escritos)
-            texto += fmt::format("  {}\n", EnUnaLinea(ruta));
+            texto += Nota(fmt::format("  {}\n", EnUnaLinea(ruta)));
         return texto;
     }
 

@@ -184,9 +184,9 @@ private:
         } else if (m_bCsv) {
             salida << diseno.csv;
         } else {
-            salida << report::DocumentoTexto(diseno.documento);
+            salida << report::DocumentoTexto(diseno.documento, Forma());
             for (std::size_t i = 0; i < escritos.size(); ++i)
-                salida << (i == 0 ? "\n" : "") << "Escrito: " << EnUnaLinea(escritos[i]) << '\n';
+                salida << Nota((i == 0 ? "\nEscrito: " : "Escrito: ") + EnUnaLinea(escritos[i]) + '\n');
         }
     }
 

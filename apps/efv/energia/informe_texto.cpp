@@ -84,7 +84,7 @@ std::string Cuadro(const Estudio& estudio)
     std::vector<std::string> titulos{"Mes", "kJ/m²·día", "kWh/m²·día"};
     const auto anadir = [&](const char* metodo) {
         grupos.emplace_back(metodo, 3);
-        titulos.insert(titulos.end(), {"RI", "kWh/día", "kWh/mes"});
+        titulos.insert(titulos.end(), {"RI kWh/m²·día", "kWh/día", "kWh/mes"});
     };
     if (estudio.correlacion)
         anadir("Correlación");
@@ -110,8 +110,8 @@ std::string Orientada(const solar::EnergiaPlanos& energia)
 {
     std::string texto =
         fmt::format("Con la orientación: {} kWh al año ({}); los mismos planos hacia el ecuador, {} kWh",
-                    Decimal(energia.Energia(), 2), solar::NombreDeOrigen(energia.origen),
-                    Decimal(energia.EnergiaAlEcuador(), 2));
+                    Cifra(energia.Energia(), 2), solar::NombreDeOrigen(energia.origen),
+                    Cifra(energia.EnergiaAlEcuador(), 2));
     const double dPerdida = energia.Perdida() * 100.0;
     texto += std::isfinite(dPerdida) ? fmt::format(": la orientación quita el {} %.\n", Decimal(dPerdida, 1))
                                      : ".\n";
@@ -119,7 +119,7 @@ std::string Orientada(const solar::EnergiaPlanos& energia)
         for (const auto& [plano, ano, alEcuador] : energia.planos) {
             texto += fmt::format("  {}° hacia {}°, {} % de la potencia: {} kWh\n",
                                  DecimalExacto(plano.dInclinacion), DecimalExacto(plano.dOrientacion),
-                                 DecimalExacto(plano.dParte * 100.0), Decimal(ano.Energia(), 2));
+                                 DecimalExacto(plano.dParte * 100.0), Cifra(ano.Energia(), 2));
         }
     }
     return texto;
@@ -130,18 +130,19 @@ std::string Orientada(const solar::EnergiaPlanos& energia)
 std::string InformeTexto(const Estudio& estudio)
 {
     std::string texto =
-        Cabecera(estudio) + Cuadro(estudio) +
-        "\nRI: radiación sobre el plano inclinado, kWh/m²·día. Año: medias diarias y, en kWh/mes, "
-        "el total.\n";
+        Cabecera(estudio) + Cuadro(estudio) + '\n' +
+        Nota(
+            "RI: radiación sobre el plano inclinado, kWh/m²·día. Año: medias diarias y, en kWh/mes, "
+            "el total.\n");
     if (estudio.correlacion && estudio.tabla)
-        texto += "Dif. RI: lo que la RI de la tabla pasa de la de la correlación, en tanto por ciento.\n";
+        texto += Nota("Dif. RI: lo que la RI de la tabla pasa de la de la correlación, en tanto por ciento.\n");
     texto +=
-        fmt::format("Cifra que se usa: {} kWh al año, por la {}.\n", Decimal(estudio.AnoDeUso().Energia(), 2),
+        fmt::format("Cifra que se usa: {} kWh al año, por la {}.\n", Cifra(estudio.AnoDeUso().Energia(), 2),
                     estudio.tabla ? "tabla de factores K" : "correlación");
     texto += Orientada(estudio.orientada);
     for (const std::string& nota : estudio.notas)
-        texto += "· " + nota + '\n';
-    return texto;
+        texto += Nota("· " + nota + '\n');
+    return Prosa(texto);
 }
 
 std::string ComparacionTexto(std::span<const Estudio> casos)
@@ -151,6 +152,7 @@ std::string ComparacionTexto(std::span<const Estudio> casos)
     texto += fmt::format("Campos: PR {}, factor {}\n\n", DecimalExacto(primero.encargo.campo.dPR),
                          DecimalExacto(primero.encargo.campo.dFactor));
     TablaTexto tabla(std::vector(7, TablaTexto::Lado::derecha));
+    tabla.Claves(3);
     tabla.Grupos({{"", 3}, {"Hacia el ecuador", 2}, {"Con la orientación", 2}});
     tabla.Fila({"Inclinación °", "Orientación °", "kWp", "kWh/año", "kWh/kWp", "kWh/año", "kWh/kWp"});
     tabla.Raya();
@@ -171,8 +173,8 @@ std::string ComparacionTexto(std::span<const Estudio> casos)
                          DecimalExacto(mejor.encargo.campo.dInclinacion),
                          DecimalExacto(mejor.encargo.campo.dOrientacion), Decimal(porKWp(mejor), 1),
                          solar::NombreDeOrigen(mejor.orientada.origen));
-    return texto + fmt::format("· Hacia el ecuador: por la {}, la misma de los diseños.\n",
-                               mejor.tabla ? "tabla de factores K" : "correlación");
+    return Prosa(texto + Nota(fmt::format("· Hacia el ecuador: por la {}, la misma de los diseños.\n",
+                                          mejor.tabla ? "tabla de factores K" : "correlación")));
 }
 
 }  // namespace efv::orden

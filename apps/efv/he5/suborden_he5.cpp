@@ -79,7 +79,7 @@ std::string InformeTexto(const Encargo& encargo, const solar::PotenciaHE5& poten
                          Decimal(phGetCoefC(e.iZona), 1));
     using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({izquierda, derecha, derecha, derecha, derecha});
-    tabla.Fila({"Uso", "Superficie (m²)", "A", "B", "kW"});
+    tabla.Fila({"Uso", "Superficie (m²)", "A (kW/m²)", "B (kW)", "kW"});
     tabla.Raya();
     for (std::size_t i = 0; i < e.aiUso.size(); ++i) {
         if (e.aiUso[i] != solar::kSinUso)
@@ -95,12 +95,12 @@ std::string InformeTexto(const Encargo& encargo, const solar::PotenciaHE5& poten
     if (potencia.d2022)
         texto += fmt::format("Informativo, por el CTE de 2022:          {} kW\n", Decimal(*potencia.d2022, 2));
     else if (e.dCubierta)
-        texto += "Informativo: el CTE de 2022 no pide nada hasta 1.000 m² construidos.\n";
+        texto += "Informativo: el CTE de 2022 no pide nada hasta 1000 m² construidos.\n";
     else
-        texto += "Informativo: con --cubierta se calcula también la potencia por el CTE de 2022.\n";
+        texto += Nota("Informativo: con --cubierta se calcula también la potencia por el CTE de 2022.\n");
     if (encargo.lugar)
-        texto += fmt::format("· {}\n", kReservaZonas);
-    return texto;
+        texto += Nota(fmt::format("· {}\n", kReservaZonas));
+    return Prosa(texto);
 }
 
 std::string InformeJson(const Encargo& encargo, const solar::PotenciaHE5& potencia)

@@ -100,12 +100,12 @@ std::string InformeTexto(const Resultado& r)
             r.filas->regla, Decimal(r.filas->dDistanciaFilas, 3), Decimal(r.filas->dDistanciaLibre, 3),
             Decimal(r.filas->dAlturaFila, 3), Decimal(r.filas->dAlturaPanel, 3));
     }
-    texto +=
+    texto += Nota(
         "\n· La búsqueda va de 0° a la latitud en pasos de 0,5° (a 10° cerca del ecuador): la óptima nunca la "
-        "pasa.\n";
+        "pasa.\n");
     if (!r.svg.empty())
-        texto += fmt::format("Escrito: {}\n", EnUnaLinea(r.svg));
-    return texto;
+        texto += Nota(fmt::format("Escrito: {}\n", EnUnaLinea(r.svg)));
+    return Prosa(texto);
 }
 
 std::string InformeJson(const Resultado& r)

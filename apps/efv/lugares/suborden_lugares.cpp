@@ -40,8 +40,8 @@ std::string ListaTexto(const std::vector<Localidad>& lugares)
     using enum report::ColumnasTexto::Lado;
     TablaTexto tabla(
         {izquierda, izquierda, izquierda, derecha, derecha, derecha, izquierda, izquierda, derecha});
-    tabla.Fila(
-        {"Lugar", "Provincia", "País", "Latitud", "Longitud", "Altitud (m)", "HE1", "HE5", "kWh/m²·día"});
+    tabla.Fila({"Lugar", "Provincia", "País", "Latitud (°)", "Longitud (°)", "Altitud (m)", "HE1", "HE5",
+                "kWh/m²·día"});
     tabla.Raya();
     for (const Localidad& lugar : lugares) {
         tabla.Fila({CadenaUtf8(lugar.csNombre), CadenaUtf8(lugar.csProvincia), CadenaUtf8(lugar.csPais),
@@ -49,11 +49,12 @@ std::string ListaTexto(const std::vector<Localidad>& lugares)
                     CadenaUtf8(lugar.csZonaHE1), CadenaUtf8(lugar.csZonaHE5),
                     Decimal(solar::MediaAnual(lugar.adRadHorizontal) / solar::kKJporKWh, 2)});
     }
-    return tabla.Texto() +
-           fmt::format(
-               "\nNorte y este positivos. kWh/m²·día: radiación global sobre la horizontal, media del año.\n"
-               "{}\n",
-               kReservaZonas);
+    return Prosa(
+        tabla.Texto() +
+        Nota(fmt::format(
+            "\nNorte y este positivos. kWh/m²·día: radiación global sobre la horizontal, media del año.\n"
+            "{}\n",
+            kReservaZonas)));
 }
 
 std::string ListaJson(const std::vector<Localidad>& lugares)

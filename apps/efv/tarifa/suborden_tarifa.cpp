@@ -45,7 +45,7 @@ std::string Texto(const Precios& precios)
 {
     TablaTexto tabla({TablaTexto::Lado::izquierda, TablaTexto::Lado::derecha, TablaTexto::Lado::derecha,
                       TablaTexto::Lado::derecha});
-    tabla.Fila({"Período", "Horas", "€/kWh", "Con impuestos"});
+    tabla.Fila({"Período", "Horas", "€/kWh", "Con impuestos (€/kWh)"});
     tabla.Raya();
     for (std::size_t p = 0; p < precios.tarifa.periodos.nPeriodos; ++p) {
         const auto nHoras = std::ranges::count(precios.aiPeriodo, static_cast<int>(p));
@@ -188,7 +188,7 @@ public:
         if (!salidas.EnLaSalida())
             salida << (m_bJson ? EnJson(precios) : m_bCsv ? Csv(precios) : Texto(precios));
         if (m_svg && !salidas.EnLaSalida() && !m_bJson && !m_bCsv)
-            salida << fmt::format("Gráfica escrita: {}\n", EnUnaLinea(*m_svg));
+            salida << Nota(fmt::format("Gráfica escrita: {}\n", EnUnaLinea(*m_svg)));
         return 0;
     }
 

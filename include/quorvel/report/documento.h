@@ -10,6 +10,7 @@
 
 #include <quorvel/exportar.h>
 #include <quorvel/report/lamina.h>
+#include <quorvel/report/texto.h>
 #include <quorvel/ui/grafica.h>
 
 namespace efv::report {
@@ -32,12 +33,17 @@ struct Dato {
     }
 };
 
+/// What a table's cell says of a limit that isn't kept.
+inline constexpr const char* kNoCumple = "NO CUMPLE";
+
 struct Cuadro {
     std::string titulo;
     std::vector<std::pair<std::string, bool>> columnas;  ///< heading; whether it holds numbers
     std::vector<std::vector<std::string>> filas;
     bool bTotal = false;    ///< the last row sums the others up
     bool bModelos = false;  ///< the first column holds identifications of models
+    /// Of the columns whose heading doesn't say it, because the title does; a terminal has no title.
+    std::vector<std::string> unidades = {};
 };
 
 struct Seccion {
@@ -89,7 +95,7 @@ struct Documento {
     std::vector<Supuesto> supuestos;
 };
 
-EFV_API std::string DocumentoTexto(const Documento& documento);
+EFV_API std::string DocumentoTexto(const Documento& documento, const FormaTexto& forma = {});
 /// A page of its own: styles, charts and drawings stand in it, and it prints on A4 with a cover. @param fecha
 /// e.g. "3-2-2028"
 EFV_API std::string DocumentoHtml(const Documento& documento, const std::string& fecha);

@@ -1,6 +1,7 @@
 // Numbers and tables as people read them, UTF-8.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -25,23 +26,82 @@ EFV_API std::string EnUnaLinea(std::string_view texto);
 /// Number of characters, for alignment. @param utf8 without combining or double-width characters
 EFV_API std::size_t Anchura(std::string_view utf8);
 
-/// Columns as wide as their widest cell, of rows that nobody keeps: each is measured first, then written.
+/// Numbers of five digits and more in groups of three, parted by a blank that doesn't break: "12 345,60".
+/// Digits within a word stay as they are.
+EFV_API std::string ConMiles(std::string_view texto);
+
+/// How text is set for whoever reads it: by default as a file has it, as wide as it comes.
+struct FormaTexto {
+    std::size_t nAnchura = 0;     ///< columns of the terminal; 0: no end
+    bool bColor = false;          ///< what fails in red
+    bool bMiles = false;          ///< ConMiles in columns of numbers
+    bool bSoloResultado = false;  ///< without notes
+};
+
+/// What `texto` becomes in red. @param bColor false: stays as it is
+EFV_API std::string EnRojo(std::string texto, bool bColor);
+inline constexpr std::string_view kColorRojo = "\x1B[31m", kColorPropio = "\x1B[0m";
+
+/// `texto` in lines of at most `nAnchura` characters, broken at blanks, within a word where it is longer
+/// (unless they stay whole). Blanks that it begins with stand before each line.
+EFV_API std::vector<std::string> EnLineas(std::string_view texto, std::size_t nAnchura,
+                                          bool bPartirPalabras = true);
+
+/// Columns as wide as their widest cell, of rows that nobody keeps: each is measured first, then written. Where
+/// they are wider than the terminal, titles and then texts are broken at blanks; what still doesn't fit goes
+/// into further bands, each with the first columns again.
 class EFV_API ColumnasTexto {
 public:
     enum class Lado { izquierda, derecha };
+    using Celdas = std::vector<std::string>;
 
-    explicit ColumnasTexto(std::vector<Lado> lados) : m_lados(std::move(lados)), m_anchos(m_lados.size()) {}
+    /// Columns side by side.
+    struct Banda {
+        std::vector<std::size_t> columnas, anchos;
+    };
 
-    void Medir(const std::vector<std::string>& celdas);
-    const std::vector<std::size_t>& Anchos() const { return m_anchos; }
-    /// A row in one line with its end; missing cells at its end stay empty.
-    std::string Linea(const std::vector<std::string>& celdas) const;
+    explicit ColumnasTexto(std::vector<Lado> lados, const FormaTexto& forma = {})
+        : m_lados(std::move(lados)), m_forma(forma), m_celdas(m_lados.size()), m_titulos(m_lados.size())
+    {
+    }
+
+    void MedirTitulos(const Celdas& titulos);
+    void Medir(const Celdas& celdas);
+    /// Columns that stay side by side while they can: how many each group has. None: each by itself.
+    void Agrupar(std::vector<std::size_t> grupos) { m_grupos = std::move(grupos); }
+    /// After the last cell is measured. @param nClaves columns that each band begins with
+    void Disponer(std::size_t nClaves);
+    /// The same for rows written one by one, each over several lines: only the first of them has the keys.
+    void DisponerPlegada();
+
+    const std::vector<Banda>& Bandas() const { return m_bandas; }
+    /// A row with its end, a band below the other; missing cells at its end stay empty.
+    std::string Linea(const Celdas& celdas) const;
+    std::string Linea(const Banda& banda, const Celdas& celdas) const;
     /// A rule over the whole width.
     std::string Raya() const;
+    std::string Raya(const Banda& banda) const;
+    /// As it is written: thousands in columns of numbers.
+    std::string Celda(std::size_t iColumna, const std::string& celda) const;
 
 private:
+    /// Lengths of what a column holds.
+    struct Medida {
+        std::size_t nEntero = 0, nPalabra = 0;
+    };
+
+    std::size_t Suelo(std::size_t iColumna, bool bPartirTextos) const;
+    bool Encoger(std::vector<std::size_t>& anchos, bool bPartirTextos) const;
+    bool DisponerEntera(std::vector<std::size_t>& anchos);
+    void Repartir(const std::vector<std::size_t>& anchos, Banda claves, std::size_t nSangria);
+    std::size_t FinDeGrupo(std::size_t iColumna) const;
+    std::string Renglones(const Banda& banda, const std::vector<Celdas>& lineas) const;
+
     std::vector<Lado> m_lados;
-    std::vector<std::size_t> m_anchos;
+    FormaTexto m_forma;
+    std::vector<Medida> m_celdas, m_titulos;
+    std::vector<std::size_t> m_grupos;
+    std::vector<Banda> m_bandas;
 };
 
 /// A table for the terminal.
@@ -53,19 +113,33 @@ public:
 
     /// Titles over several columns each, centred: text and number of columns.
     void Grupos(std::vector<std::pair<std::string, std::size_t>> grupos) { m_grupos = std::move(grupos); }
-    /// A row; missing cells at its end stay empty.
-    void Fila(std::vector<std::string> celdas) { m_filas.push_back(std::move(celdas)); }
+    /// How many columns tell one row from the other: they stand before every part of a table that is too wide.
+    void Claves(std::size_t nClaves) { m_nClaves = nClaves; }
+    /// A row; missing cells at its end stay empty. The first one with a rule below it holds the titles.
+    /// @param bFalta it tells of something that fails
+    void Fila(std::vector<std::string> celdas, bool bFalta = false)
+    {
+        m_filas.push_back({std::move(celdas), bFalta});
+    }
     /// A rule over the whole width.
     void Raya() { m_filas.emplace_back(); }
 
-    std::string Texto() const;
+    std::string Texto(const FormaTexto& forma = {}) const;
 
 private:
-    std::string LineaDeGrupos(const std::vector<std::size_t>& anchos) const;
+    struct FilaTabla {
+        std::vector<std::string> celdas;  ///< none: a rule
+        bool bFalta = false;
+    };
+
+    bool ConTitulos() const { return m_filas.size() > 1 && m_filas[1].celdas.empty(); }
+    std::string LineaDeGrupos(const ColumnasTexto::Banda& banda) const;
+    std::string TextoDe(const ColumnasTexto& columnas, const ColumnasTexto::Banda* banda, bool bColor) const;
 
     std::vector<Lado> m_columnas;
     std::vector<std::pair<std::string, std::size_t>> m_grupos;
-    std::vector<std::vector<std::string>> m_filas;  ///< an empty one is a rule
+    std::vector<FilaTabla> m_filas;
+    std::size_t m_nClaves = 1;
 };
 
 }  // namespace efv::report

@@ -48,11 +48,12 @@ inline std::string LeerTodo(const std::filesystem::path& ruta)
     return {std::istreambuf_iterator<char>(fichero), {}};
 }
 
-/// Runs the command in this process.
-inline Corrida Correr(const std::vector<std::string>& argumentos)
+/// Runs the command in this process. @param forma of its output, as a file's if it isn't given
+inline Corrida Correr(const std::vector<std::string>& argumentos,
+                      const report::FormaTexto& forma = {.bMiles = true})
 {
     std::ostringstream salida, errores;
-    const int iEstado = Ejecutar(argumentos, {salida, errores});
+    const int iEstado = Ejecutar(argumentos, {salida, errores, forma});
     return {iEstado, salida.str(), errores.str()};
 }
 
