@@ -117,7 +117,7 @@ TEST_F(Lugares, PotenciaMinimaPorLasTresReglas)
     const Corrida madrid =
         Con({"he5", "--lugar", "Madrid", "--uso", "0", "--superficie", "900", "--cubierta", "1"});
     EXPECT_NE(madrid.salida.find("Zona climática: III (C = 1,2)"), std::string::npos);
-    EXPECT_NE(madrid.salida.find("no pide nada hasta 1.000 m²"), std::string::npos);
+    EXPECT_NE(madrid.salida.find("no pide nada hasta 1000 m²"), std::string::npos);
     for (const std::vector<std::string>& mal :
          std::vector<std::vector<std::string>>{{"he5"},
                                                {"he5", "--zona", "6", "--uso", "0", "--superficie", "1"},
