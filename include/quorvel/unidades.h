@@ -26,7 +26,8 @@ struct Magnitud {
 };
 
 /// All magnitudes: "Dimensiones" (mm), "Masa" (kg), "Temperatura" (ºC), "Radiación solar" (kJ, of a
-/// square metre: texts add "/m²"), "Grados" (º), "Longitud" (m), "Superficie" (m²).
+/// square metre: texts add "/m²"), "Grados" (º), "Longitud" (m), "Superficie" (m²),
+/// "Energía" (kWh).
 EFV_API std::span<const Magnitud> Magnitudes();
 
 /// From now on the magnitude is shown in the unit of that symbol.

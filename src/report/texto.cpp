@@ -6,15 +6,16 @@
 #include <fmt/format.h>
 
 #include <quorvel/framework/CString.h>
+#include <quorvel/marca_decimal.h>
 #include <quorvel/terminal.h>
 
 namespace efv::report {
 
 namespace {
 
-std::string ConComa(std::string texto)
+std::string ConMarca(std::string texto)
 {
-    std::ranges::replace(texto, '.', ',');
+    std::ranges::replace(texto, '.', static_cast<char>(MarcaDecimal()));
     return texto;
 }
 
@@ -27,12 +28,12 @@ std::string Decimal(double d, int iDecimales)
     std::string texto = fmt::format("{:.{}f}", d, iDecimales);
     if (texto.starts_with('-') && texto.find_first_of("123456789") == std::string::npos)
         texto.erase(0, 1);
-    return ConComa(std::move(texto));
+    return ConMarca(std::move(texto));
 }
 
 std::string DecimalExacto(double d)
 {
-    return std::isfinite(d) ? ConComa(fmt::format("{}", d)) : std::string();
+    return std::isfinite(d) ? ConMarca(fmt::format("{}", d)) : std::string();
 }
 
 std::string Con(double d, int iDecimales, std::string_view unidad)

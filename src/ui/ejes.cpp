@@ -6,6 +6,7 @@
 #include <cmath>
 #include <utility>
 
+#include "platform/numero/conversion.h"
 #include "ui/ejes_calendario.h"
 
 namespace efv::ui {
@@ -36,10 +37,10 @@ double PasoRedondo(double dBruto)
     return 10.0 * dPotencia;
 }
 
-CString ConComa(std::string_view texto)
+CString ConMarca(std::string_view texto)
 {
     CString ancho(texto.begin(), texto.end());
-    std::ranges::replace(ancho, L'.', L',');
+    numero::PonerMarca(ancho);
     return ancho;
 }
 
@@ -57,7 +58,7 @@ CString RotuloNumero(const Eje& eje, double d)
     if (dMayor >= kMayorLlano || eje.dPaso < kPasoLlano)
         return RotuloValor(std::abs(d) < kHolgura * eje.dPaso ? 0.0 : d);
     const int iDecimales = std::max(0, -static_cast<int>(std::floor(std::log10(eje.dPaso) + kHolgura)));
-    return ConComa(Cifras(d, std::chars_format::fixed, iDecimales));
+    return ConMarca(Cifras(d, std::chars_format::fixed, iDecimales));
 }
 
 }  // namespace
@@ -92,7 +93,7 @@ Eje CalcularEje(double dMin, double dMax, int iDivisiones, bool bAmpliar)
 
 CString RotuloValor(double d)
 {
-    return ConComa(Cifras(d, std::chars_format::general, 6));
+    return ConMarca(Cifras(d, std::chars_format::general, 6));
 }
 
 Eje CalcularEje(ClaseEje clase, double dMin, double dMax, int iDivisiones)

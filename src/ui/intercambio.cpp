@@ -18,14 +18,15 @@ namespace {
 
 constexpr std::wstring_view kNoEsNumero = L"Introduzca un número.";
 
-// As few digits as the number needs, with a decimal comma: "0", "15000", "0,5".
+// As few digits as the number needs: "0", "15000", "0,5".
 CString Breve(double d)
 {
     std::string texto = fmt::format("{}", d);
     if (texto.ends_with(".0"))
         texto.resize(texto.size() - 2);
-    std::ranges::replace(texto, '.', ',');
-    return {texto.begin(), texto.end()};
+    CString csTexto(texto.begin(), texto.end());
+    numero::PonerMarca(csTexto);
+    return csTexto;
 }
 
 bool Dentro(double d, const Intervalo& limites)

@@ -11,6 +11,8 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/marca_decimal.h>
+
 namespace efv::numero {
 
 namespace {
@@ -189,8 +191,14 @@ CString nuConvertFltToIntlStr(double d, int iDecimales)
     if (std::isnan(d))
         return L"nan";  // whatever the sign bit that a division happened to leave
     std::string texto = fmt::format("{:.{}f}", d, std::clamp(iDecimales, 0, 15));
-    std::ranges::replace(texto, '.', ',');
-    return {texto.begin(), texto.end()};
+    CString csTexto(texto.begin(), texto.end());
+    PonerMarca(csTexto);
+    return csTexto;
+}
+
+void PonerMarca(CString& csTexto)
+{
+    std::ranges::replace(csTexto, L'.', MarcaDecimal());
 }
 
 bool nuConvertIntlStrToFlt(std::wstring_view texto, double& d)

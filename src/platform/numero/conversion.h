@@ -24,7 +24,10 @@ int LeerEntero(std::string_view texto);
 /// `d` without its fraction; saturates at the limits of int, not-a-number gives 0.
 int Entero(double d);
 
-/// `d` with `iDecimales` decimals (0 to 15) and a decimal comma, as the user reads it.
+/// The point of a number's digits becomes the decimal mark that is shown.
+void PonerMarca(CString& csTexto);
+
+/// `d` with `iDecimales` decimals (0 to 15) and the decimal mark, a comma at first, as the user reads it.
 CString nuConvertFltToIntlStr(double d, int iDecimales);
 
 /// The number that the user typed, with comma or point as decimal mark, blanks around it ignored.

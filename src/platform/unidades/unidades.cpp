@@ -22,6 +22,8 @@ constexpr auto kLongitud = std::to_array<Unidad>({{L"m"}, {L"cm", 100}, {L"km", 
 constexpr auto kSuperficie =
     std::to_array<Unidad>({{L"m²"}, {L"cm²", 1e4}, {L"ha", 1e-4}, {L"ft²", 1 / (0.3048 * 0.3048)}});
 
+constexpr auto kEnergia = std::to_array<Unidad>({{L"kWh"}, {L"MJ", 3.6}, {L"Wh", 1000}, {L"kJ", 3600}});
+
 constexpr auto kMagnitudes = std::to_array<Magnitud>({
     {L"Dimensiones", L"~DIM~", kDimensiones},
     {L"Masa", L"~MASA~", kMasa},
@@ -30,6 +32,7 @@ constexpr auto kMagnitudes = std::to_array<Magnitud>({
     {L"Grados", L"~GRAD~", kGrados},
     {L"Longitud", L"~LONG~", kLongitud},
     {L"Superficie", L"~SUP~", kSuperficie},
+    {L"Energía", L"~ENER~", kEnergia},
 });
 
 // Index of the unit in use, for each magnitude.
