@@ -25,6 +25,14 @@ fs::path CarpetaDistribuida()
     return fs::is_directory(instalada, fallo) ? instalada.lexically_normal() : fs::path(EFV_DATOS_FUENTE);
 }
 
+fs::path CarpetaDeAyuda()
+{
+    const fs::path datos = CarpetaDistribuida();
+    std::error_code fallo;
+    // Installed they stand among the data, in the source tree beside them.
+    return fs::is_directory(datos / "docs", fallo) ? datos / "docs" : datos.parent_path() / "docs";
+}
+
 Carpetas CarpetasDeTrabajo(const std::string& opcion)
 {
     fs::path carpeta = opcion;

@@ -13,6 +13,9 @@ namespace efv::estudio {
 /// The folder of shipped data: beside the installed program, else that of the source tree.
 std::filesystem::path CarpetaDistribuida();
 
+/// The folder of the manual's pages: beside those data.
+std::filesystem::path CarpetaDeAyuda();
+
 /// Where the data stand, and where the person's own go; none of the first is ever written.
 struct Carpetas {
     std::filesystem::path datos;    ///< catalogues, table of factors K, places

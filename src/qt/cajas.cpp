@@ -8,6 +8,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -106,10 +107,16 @@ void PonerTexto(QMessageBox& caja, const QString& texto)
 
 }  // namespace
 
+QString TituloDeCaja(std::wstring_view csTitulo)
+{
+    return csTitulo == ui::kTituloModulo ? QGuiApplication::applicationDisplayName() : AQt(csTitulo);
+}
+
 ui::Respuesta MostrarCaja(QWidget* padre, const ui::Mensaje& mensaje)
 {
     ContarCaja();
-    QMessageBox caja(IconoDeCaja(mensaje.icono), AQt(mensaje.csTitulo), {}, QMessageBox::NoButton, padre);
+    QMessageBox caja(IconoDeCaja(mensaje.icono), TituloDeCaja(mensaje.csTitulo), {}, QMessageBox::NoButton,
+                     padre);
     PonerTexto(caja, AQt(mensaje.csTexto));
     caja.setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (mensaje.botones == ui::Botones::aceptar) {
@@ -158,6 +165,8 @@ std::optional<CString> ElegirFichero(QWidget* padre, const ui::PeticionFichero& 
     selector.setFileMode(peticion.bGuardar ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     // Asked below, once the extension is known and in Spanish.
     selector.setOption(QFileDialog::DontConfirmOverwrite);
+    // The system's own would speak its language.
+    selector.setOption(QFileDialog::DontUseNativeDialog, QLocale::system().language() != QLocale().language());
     selector.setLabelText(QFileDialog::LookIn, QStringLiteral("Buscar en:"));
     selector.setLabelText(QFileDialog::FileName, QStringLiteral("Nombre:"));
     selector.setLabelText(QFileDialog::FileType, QStringLiteral("Tipo:"));

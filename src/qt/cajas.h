@@ -10,6 +10,9 @@ namespace efv::qt {
 /// The window over which the next one opens: the innermost dialog that is open, else `padre`.
 QWidget* PadreActual(QWidget* padre);
 
+/// Title of a box: what the module says for itself goes by the program's name.
+QString TituloDeCaja(std::wstring_view csTitulo);
+
 ui::Respuesta MostrarCaja(QWidget* padre, const ui::Mensaje& mensaje);
 
 /// An error box; throws nothing.

@@ -11,6 +11,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "qt/cajas.h"
 #include "qt/texto.h"
 
 namespace efv::qt {
@@ -29,7 +30,7 @@ public:
     VentanaTrabajo(QWidget* padre, const CString& csTexto, bool bCancelable) : QDialog(padre)
     {
         setObjectName("trabajo");
-        setWindowTitle(AQt(ui::kTituloModulo));
+        setWindowTitle(TituloDeCaja(ui::kTituloModulo));
         setModal(true);
         setWindowFlag(Qt::WindowCloseButtonHint, bCancelable);
         setMinimumWidth(kAncho);
