@@ -7,8 +7,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QLibraryInfo>
-#include <QTranslator>
 
 #include <QuorvelEFV.h>
 #include <quorvel/qt.h>
@@ -18,6 +16,7 @@
 #include "capturas/pantalla.h"
 #include "comun/ajustes.h"
 #include "datos.h"
+#include "idioma.h"
 #include "proyecto/ejemplo.h"
 #include "proyecto/recientes.h"
 #include "ventana_principal.h"
@@ -128,6 +127,8 @@ int Ejecutar(QApplication& programa)
     efv::qt::InstalarPresentadorQt(&ventana);
     Sesion& sesion = ventana.LaSesion();
     sesion.PonerRecientes(RecientesDeLaPersona());
+    ventana.PonerPreferencias(LeerPreferencias(ajustes));
+    ventana.alPreferir = [&ajustes](const Preferencias& elegidas) { EscribirPreferencias(ajustes, elegidas); };
     ventana.CopiarEn(CarpetaDeRecuperacion());
     ventana.show();
     AvisarDe(puestos.fallidas);
@@ -150,10 +151,7 @@ int main(int argc, char** argv)
     QApplication::setApplicationName("efv-estudio");
     QApplication::setDesktopFileName("efv-estudio");
     QApplication::setApplicationVersion(QString::fromStdWString(efv::Version()));
-    // What Qt itself says, such as the menu of a text field.
-    QTranslator espanol;
-    if (espanol.load("qtbase_es", QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QApplication::installTranslator(&espanol);
+    PonerEspanol();
     try {
         return Ejecutar(programa);
     } catch (const std::exception& fallo) {

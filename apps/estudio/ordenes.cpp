@@ -9,6 +9,8 @@
 
 #include <QuorvelEFV.h>
 
+#include "ayuda/apartados.h"
+#include "ayuda/ventana_ayuda.h"
 #include "clima/estudios.h"
 #include "economia/dialogo_autoconsumo.h"
 #include "economia/estudios.h"
@@ -146,10 +148,14 @@ constexpr auto kOrdenes = std::to_array<Orden>({
      [](const Ventana& v) { return v.LaSesion().QueDeshacer(); }},
     {kEdicion, "&Rehacer", "Ctrl+Shift+Z", [](Ventana& v) { v.LaSesion().Rehacer(); }, nullptr,
      [](const Ventana& v) { return v.LaSesion().QueRehacer(); }},
-    {kDiseno, "&Elegir tipo de instalación…", "Ctrl+D", [](Ventana& v) { Disenar(v.LaSesion()); }},
+    {kEdicion, nullptr, nullptr, nullptr},
+    {kEdicion, "&Preferencias…", nullptr, [](Ventana& v) { v.EditarPreferencias(); }},
+    {kDiseno, "&Elegir tipo de instalación…", "Ctrl+D",
+     [](Ventana& v) { v.MostrarDisenado(Disenar(v.LaSesion())); }},
     {kDiseno, nullptr, nullptr, nullptr},
-    {kDiseno, "Instalación &aislada…", nullptr, [](Ventana& v) { DisenarAislada(v.LaSesion()); }},
-    {kDiseno, "Conexión a &red…", nullptr, [](Ventana& v) { DisenarRed(v.LaSesion()); }},
+    {kDiseno, "Instalación &aislada…", nullptr,
+     [](Ventana& v) { v.MostrarDisenado(DisenarAislada(v.LaSesion())); }},
+    {kDiseno, "Conexión a &red…", nullptr, [](Ventana& v) { v.MostrarDisenado(DisenarRed(v.LaSesion())); }},
     {kDiseno, "&Consumo…", nullptr, [](Ventana& v) { EditarConsumo(v.LaSesion()); }},
     {kDiseno, "&Planos del campo…", nullptr, [](Ventana& v) { v.EditarPlanos(); }},
     {kDiseno, nullptr, nullptr, nullptr},
@@ -180,6 +186,10 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kCatalogos, "&Microinversores…", nullptr, &EditarCatalogo<&phEditarBaseMicroInversores>},
     {kCatalogos, "&Convertidores de CC…", nullptr, &EditarCatalogo<&phEditarBaseConvertidorCC>},
     {kCatalogos, "&Receptores…", nullptr, &EditarCatalogo<&phEditarBaseReceptores>},
+    {kAyuda, "Ayuda de esta &pantalla", "F1", [](Ventana& v) { v.Ayudar(); }},
+    {kAyuda, "&Manual de uso", nullptr, [](Ventana& v) { MostrarAyuda(&v, kManual); }},
+    {kAyuda, "Primeros pa&sos", nullptr, [](Ventana& v) { v.MostrarPestana("inicio"); }},
+    {kAyuda, nullptr, nullptr, nullptr},
     {kAyuda, "&Versión…", nullptr, [](Ventana&) { phShowVersion(); }},
 });
 

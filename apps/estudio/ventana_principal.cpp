@@ -17,7 +17,9 @@
 
 #include <quorvel/qt.h>
 
+#include "ayuda/ventana_ayuda.h"
 #include "clima/estudios.h"
+#include "diseno/estado.h"
 #include "economia/estudios.h"
 #include "elementos/rotulos.h"
 #include "energia/planos.h"
@@ -43,13 +45,6 @@ constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270;
 constexpr double kParteLugar = 0.35, kPartePestanas = 0.5;
 
 constexpr int kComprobaciones = 1;  // tab below a schematic, behind the summary
-
-// How the checks went, behind their title.
-CString MarcaDe(const std::vector<LineaComprobacion>& lineas)
-{
-    const auto n = std::ranges::count(lineas, std::optional(false), &LineaComprobacion::bCumple);
-    return lineas.empty() ? L"" : n == 0 ? L" ✓" : L": ✗ " + std::to_wstring(n);
-}
 
 // A design's summary with what keeps it from being up to date.
 PanelResumen::Contenido ConAviso(PanelResumen::Contenido contenido, const CProyectoEstudio& proyecto,
@@ -84,6 +79,8 @@ std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
 {
     using Ventana = VentanaPrincipal;
     static constexpr auto kFilas = std::to_array<FilaPestana>({
+        {"inicio", "Primeros pasos", [](Ventana& v) -> ui::Dialogo& { return v.m_inicio; }, nullptr,
+         std::nullopt},
         {"energia", "Ener&gía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, std::nullopt},
         {"aislada", "Ins&talación aislada", [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
          L"Todavía no hay diseño.\n«Asistente de instalación aislada…» lo propone.", Diseno::aislada},
@@ -108,6 +105,7 @@ std::vector<const char*> VentanaPrincipal::Pestanas()
 VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     : m_sesion(SesionInicial(localidades)),
       m_vigia([this] { MirarFichero(); }),
+      m_inicio(PrimerosPasos()),
       m_lugar(m_sesion, localidades),
       m_energia(m_sesion.Proyecto().lugar, [this] { EditarPlanos(); }),
       m_aislada(
@@ -116,14 +114,16 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
               return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::aislada, Calculado(Diseno::aislada))},
                               m_sesion.Proyecto(), Diseno::aislada);
           },
-          [this] { DisenarAislada(m_sesion); }, [this] { RecalcularDiseno(m_sesion, Diseno::aislada); }),
+          [this] { MostrarDisenado(DisenarAislada(m_sesion)); },
+          [this] { RecalcularDiseno(m_sesion, Diseno::aislada); }),
       m_red(
           "PanelRed", L"Asistente de c&onexión a red…",
           [this] {
               return ConAviso({ResumenDe(m_sesion.Proyecto(), Diseno::red, Calculado(Diseno::red))},
                               m_sesion.Proyecto(), Diseno::red);
           },
-          [this] { DisenarRed(m_sesion); }, [this] { RecalcularDiseno(m_sesion, Diseno::red); }),
+          [this] { MostrarDisenado(DisenarRed(m_sesion)); },
+          [this] { RecalcularDiseno(m_sesion, Diseno::red); }),
       m_consumo(
           "PanelConsumo", L"Dat&os del consumo…",
           [this]() -> PanelResumen::Contenido {
@@ -155,6 +155,8 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     centro->setSizes({kAnchoLugar, kAncho - kAnchoLugar});
     centro->setChildrenCollapsible(false);
     setCentralWidget(centro);
+    CrearEstado();
+    CrearTeclas();
     resize(QSize(kAncho, kAlto).boundedTo(screen()->availableSize() * kParteDePantalla));
     m_copia.setSingleShot(true);
     m_copia.setInterval(kEntreCopias);
@@ -331,8 +333,17 @@ void VentanaPrincipal::Actualizar()
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)
         if (const FilaPestana& fila = FilasPestanas()[i]; fila.diseno)
             MostrarDiseno(static_cast<int>(i), *fila.diseno);
+    m_inicio.Actualizar();
     for (QWidget* panel : m_paneles)
         qt::RefrescarVentana(panel);
+    ActualizarEstado();
+    // A project that isn't empty has nothing to begin with.
+    if (std::exchange(m_mostrado, &proyecto) != &proyecto && m_pestanas->currentIndex() == 0) {
+        if (!EquipoDe(proyecto, Diseno::red).empty())
+            MostrarPestana("red");
+        else if (!EquipoDe(proyecto, Diseno::aislada).empty())
+            MostrarPestana("aislada");
+    }
 }
 
 // The drawing, and on it and on its tab whether the design is out of date.
@@ -357,6 +368,12 @@ void VentanaPrincipal::MostrarPestana(std::string_view nombre)
         std::ranges::find(filas, nombre, [](const FilaPestana& f) { return std::string_view(f.nombre); });
     if (fila != filas.end())
         m_pestanas->setCurrentIndex(static_cast<int>(fila - filas.begin()));
+}
+
+void VentanaPrincipal::MostrarDisenado(std::optional<Diseno> diseno)
+{
+    if (diseno)
+        MostrarPestana(*diseno == Diseno::aislada ? "aislada" : "red");
 }
 
 void VentanaPrincipal::MostrarComprobaciones(bool bMostrar)
@@ -433,6 +450,12 @@ void VentanaPrincipal::changeEvent(QEvent* evento)
 // A field has its own steps while there are some; then the keys are the project's.
 bool VentanaPrincipal::eventFilter(QObject* objeto, QEvent* evento)
 {
+    // In dialogs, which the menu's keys don't reach.
+    if (evento->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(evento)->key() == Qt::Key_F1 &&
+        objeto->isWidgetType()) {
+        MostrarAyudaDe(static_cast<QWidget*>(objeto));
+        return true;
+    }
     if (evento->type() != QEvent::ShortcutOverride)
         return false;
     const auto* linea = qobject_cast<QLineEdit*>(objeto);

@@ -18,13 +18,16 @@
 #include "informe/informe.h"
 #include "ordenes.h"
 #include "paneles/panel_comprobaciones.h"
+#include "paneles/panel_inicio.h"
 #include "paneles/panel_lugar.h"
 #include "paneles/panel_resumen.h"
+#include "preferencias/preferencias.h"
 #include "proyecto/recuperacion.h"
 #include "proyecto/sesion.h"
 #include "proyecto/vigia.h"
 
 QT_BEGIN_NAMESPACE
+class QLabel;
 class QTabWidget;
 QT_END_NAMESPACE
 
@@ -40,12 +43,23 @@ public:
     /// Names of the tabs, in their order.
     static std::vector<const char*> Pestanas();
     void MostrarPestana(std::string_view nombre);
+    /// Brings the tab of a design that was accepted to the front.
+    void MostrarDisenado(std::optional<Diseno> diseno);
     /// Brings the checks of the designs before their summaries, or these.
     void MostrarComprobaciones(bool bMostrar);
     /// The schematic of the tab on view; null when it has none.
     VistaEsquema* EsquemaALaVista() const;
     /// The design of the tab on view; nothing when it has none.
     std::optional<Diseno> DisenoALaVista() const;
+    /// The help for the part that has the focus.
+    void Ayudar();
+    /// Units and decimal mark, in use from now on.
+    void PonerPreferencias(const Preferencias& preferencias);
+    void EditarPreferencias();
+    /// Told what the person prefers from now on.
+    std::function<void(const Preferencias&)> alPreferir;
+    /// To the next of the window's parts, or the one before: place, tab, summary.
+    void CambiarDeParte(bool bSiguiente);
     /// The study of the tilt on the plane of the energy's panel, which takes the tilt that is accepted.
     void EstudiarInclinacion();
     /// The planes of the field, with the power of the energy's panel.
@@ -71,6 +85,12 @@ private:
     static std::span<const FilaPestana> FilasPestanas();
 
     void CrearMenus();
+    void CrearEstado();
+    void CrearTeclas();
+    std::vector<PanelInicio::Paso> PrimerosPasos();
+    std::vector<QWidget*> Partes() const;
+    void ActualizarEstado();
+    void GuardarInformeDelDiseno();
     QWidget* CrearPanel(ui::Dialogo& dialogo, QWidget* padre);
     QWidget* CrearPestana(const FilaPestana& fila);
     void Actualizar();
@@ -101,6 +121,8 @@ private:
     };
     std::vector<OrdenConNombre> m_conNombre;
     bool m_bMirando = false;
+    Preferencias m_preferencias;
+    PanelInicio m_inicio;
     PanelLugar m_lugar;
     PanelEnergia m_energia;
     // By design, in its order.
@@ -111,6 +133,8 @@ private:
     std::array<QTabWidget*, 2> m_cuentas{};  // below the schematics, by design
     std::vector<VistaEsquema*> m_esquemas;   // by tab; null for one without
     std::vector<QWidget*> m_paneles;
+    QLabel *m_estado = nullptr, *m_ultima = nullptr;
+    const CProyectoEstudio* m_mostrado = nullptr;
 };
 
 }  // namespace efv::estudio

@@ -14,6 +14,7 @@
 #include "economia/dialogo_autoconsumo.h"
 #include "energia/planos.h"
 #include "informe/portada.h"
+#include "preferencias/preferencias.h"
 #include "proyecto/asistentes.h"
 
 namespace efv::estudio {
@@ -326,6 +327,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          [&sesion] { AbrirInclinacion(sesion); },
          [](ui::Dialogo& dialogo) { ElegirEntrada(dialogo, "iOpcion", 1); }},
         {"planos", {"DialogoPlanos"}, [&sesion] { AbrirPlanos(sesion); }, {}},
+        {"preferencias", {"DialogoPreferencias"}, [] { DialogoPreferencias(Preferencias{}).Mostrar(); }, {}},
         {"portada", {"DialogoPortada"}, [&sesion] { EditarPortada(sesion); }, {}},
         {"potencia-minima", {"DialogoHE5"}, [&sesion] { CalcularPotenciaMinima(sesion); }, {}},
         {"mapa-zonas", {"CDlgMapaZonas"}, [] { phShowMapaZonaHE5(); }, {}},

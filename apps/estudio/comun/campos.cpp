@@ -16,6 +16,16 @@ bool EsDeNumeros(const ui::Edicion& campo)
     return std::holds_alternative<double*>(campo.destino) || std::holds_alternative<int*>(campo.destino);
 }
 
+// In the person's unit, as what is written.
+std::optional<ui::Intervalo> LimitesDe(const ui::Edicion& campo)
+{
+    auto limites = campo.limites.Ahora();
+    if (limites && !campo.magnitud.empty())
+        limites = ui::Intervalo{AlUsuario(campo.magnitud, limites->dMinimo),
+                                AlUsuario(campo.magnitud, limites->dMaximo)};
+    return limites;
+}
+
 }  // namespace
 
 void CamposQueSeDejan::Anadir(ui::Edicion& campo)
@@ -44,7 +54,7 @@ void CamposQueSeDejan::Tomar(Puesto& puesto)
     puesto.bEscrito = false;
     ui::Edicion& campo = *puesto.campo;
     if (EsDeNumeros(campo)) {
-        auto csNumero = SinMillares(campo.csTexto, campo.limites.Ahora());
+        auto csNumero = SinMillares(campo.csTexto, LimitesDe(campo));
         if (!csNumero) {
             return Marcar(puesto, L"en «" + campo.csTexto +
                                       L"» el punto puede ser de millares o decimal. Escriba el número sin "

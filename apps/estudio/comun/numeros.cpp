@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include <quorvel/marca_decimal.h>
+
 namespace efv::estudio {
 
 CString Decimal(double d, int iDecimales)
@@ -18,8 +20,31 @@ CString Decimal(double d, int iDecimales)
         std::to_chars(tampon.data(), tampon.data() + tampon.size(), d, std::chars_format::fixed, iDecimales)
             .ptr;
     CString texto(tampon.data(), fin);
-    std::ranges::replace(texto, L'.', L',');
+    std::ranges::replace(texto, L'.', MarcaDecimal());
     return texto;
+}
+
+double AlUsuario(std::wstring_view magnitud, double d)
+{
+    const Unidad& unidad = UnidadActual(magnitud);
+    return d * unidad.dFactor + unidad.dOrigen;
+}
+
+// A unit a thousand times as large has three decimals more for the same figure.
+int DecimalesEn(std::wstring_view magnitud, int iDecimales)
+{
+    const double dFactor = UnidadActual(magnitud).dFactor;
+    return dFactor < 1.0 ? iDecimales + static_cast<int>(std::ceil(-std::log10(dFactor))) : iDecimales;
+}
+
+CString EnUnidad(std::wstring_view magnitud, double d, int iDecimales)
+{
+    return Decimal(AlUsuario(magnitud, d), DecimalesEn(magnitud, iDecimales)) + L" " + SimboloDe(magnitud);
+}
+
+CString SimboloDe(std::wstring_view magnitud)
+{
+    return CString(UnidadActual(magnitud).simbolo);
 }
 
 namespace {

@@ -49,7 +49,7 @@ CString Posicion(const DISENO& diseno)
 
 std::vector<LineaResumen> LineasDeEnergia(const report::EnergiaDiseno& energia)
 {
-    const auto alAno = [](double dEnergia) { return Decimal(dEnergia, 0) + L" kWh al año"; };
+    const auto alAno = [](double dEnergia) { return EnUnidad(kEnergia, dEnergia, 0) + L" al año"; };
     std::vector<LineaResumen> lineas;
     if (energia.dAsistente)
         lineas.push_back({L"Energía del asistente, hacia el ecuador", alAno(*energia.dAsistente)});
@@ -180,8 +180,8 @@ std::vector<LineaResumen> ResumenDe(const Consumo& consumo, const AnoDeConsumo& 
                                   ? CString(L"hora a hora")
                                   : std::to_wstring(consumo.lReceptores.GetSize()) + L" receptores"},
         {L"Potencia", Decimal(ano.dPotencia / kMil, 2) + L" kW"},
-        {L"Energía anual", Decimal(ano.Energia(), 0) + L" kWh"},
-        {L"Energía diaria media", Decimal(ano.Energia() / kDiasDelAno, 2) + L" kWh"},
+        {L"Energía anual", EnUnidad(kEnergia, ano.Energia(), 0)},
+        {L"Energía diaria media", EnUnidad(kEnergia, ano.Energia() / kDiasDelAno, 2)},
     };
     if (consumo.bExcluir != 0)
         lineas.push_back({L"Cálculo", L"excluido"});
@@ -190,8 +190,10 @@ std::vector<LineaResumen> ResumenDe(const Consumo& consumo, const AnoDeConsumo& 
 
 CCtrlCurva2D GraficaDe(const AnoDeConsumo& ano)
 {
-    CCtrlCurva2D datos = ui::GraficaDeMeses(L"Consumo de cada mes", L"Energía (kWh)");
-    datos.aSeries.push_back(ui::BarrasDeMeses(L"", kColorBarras, ano.adMes));
+    CCtrlCurva2D datos = ui::GraficaDeMeses(L"Consumo de cada mes", L"Energía (" + SimboloDe(kEnergia) + L")");
+    std::array<double, 12> adMes{};
+    std::ranges::transform(ano.adMes, adMes.begin(), [](double d) { return AlUsuario(kEnergia, d); });
+    datos.aSeries.push_back(ui::BarrasDeMeses(L"", kColorBarras, adMes));
     return datos;
 }
 

@@ -38,16 +38,22 @@ public:
             case 0:
                 return fila.csNombre;
             case 1:
-                return Decimal(fila.dHorizontal, 2);
+                return Cifra(fila.dHorizontal, 2);
             case 2:
             case 3:
-                return Decimal(fila.adRI[static_cast<std::size_t>(iColumna - 2)], 2);
+                return Cifra(fila.adRI[static_cast<std::size_t>(iColumna - 2)], 2);
             default:
-                return Decimal(fila.adEnergia[static_cast<std::size_t>(iColumna - 4)], 1);
+                return Cifra(fila.adEnergia[static_cast<std::size_t>(iColumna - 4)], 1);
         }
     }
 
 private:
+    // Without its unit, which stands above the column.
+    static CString Cifra(double d, int iDecimales)
+    {
+        return Decimal(AlUsuario(kEnergia, d), DecimalesEn(kEnergia, iDecimales));
+    }
+
     std::shared_ptr<const std::vector<FilaEnergia>> m_filas;
 };
 
@@ -87,19 +93,13 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial, std::function<void()> editarPlano
     planos.colocacion.iColumna = 1;
     m_nota = &Anadir<ui::TextoFijo>("csNota", L"");
     m_tabla = &Anadir<ui::Lista>("tabla", L"", ui::Lista::Forma::tabla);
-    m_tabla->acsColumnas = {L"Mes",
-                            L"Horizontal\nkWh/m²·día",
-                            L"Correlación\nkWh/m²·día",
-                            L"Tabla K\nkWh/m²·día",
-                            L"Correlación\nkWh",
-                            L"Tabla K\nkWh"};
     m_tabla->alineaciones = {ui::Alineacion::izquierda};
     m_tabla->otras = ui::Alineacion::derecha;
     m_tabla->modelo = std::make_shared<FilasEnergia>(m_filas);
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
     m_grafica->colocacion.bEstirar = true;
     Volcar();
-    AlCambiar();
+    PonerUnidades();
 }
 
 void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion,
@@ -116,6 +116,19 @@ void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion,
     m_situacion = otraSituacion;
     m_planos = otrosPlanos;
     m_orientacion->bHabilitado = m_planos.empty();
+    AlCambiar();
+}
+
+void PanelEnergia::PonerUnidades()
+{
+    const CString csEnergia = SimboloDe(kEnergia);
+    const CString csRadiacion = csEnergia + L"/m²·día";
+    m_tabla->acsColumnas = {L"Mes",
+                            L"Horizontal\n" + csRadiacion,
+                            L"Correlación\n" + csRadiacion,
+                            L"Tabla K\n" + csRadiacion,
+                            L"Correlación\n" + csEnergia,
+                            L"Tabla K\n" + csEnergia};
     AlCambiar();
 }
 
@@ -202,11 +215,11 @@ void PanelEnergia::Mostrar()
 {
     ++m_tabla->uVersion;
     CCtrlCurva2D& datos = m_grafica->datos;
-    datos = ui::GraficaDeMeses(L"Energía mensual", L"Energía (kWh)");
+    datos = ui::GraficaDeMeses(L"Energía mensual", L"Energía (" + SimboloDe(kEnergia) + L")");
     for (std::size_t i = 0; i < kMetodos.size(); ++i) {
         std::array<double, kMeses> adMeses{};
         for (std::size_t m = 0; m < kMeses; ++m)
-            adMeses[m] = (*m_filas)[m].adEnergia[i];
+            adMeses[m] = AlUsuario(kEnergia, (*m_filas)[m].adEnergia[i]);
         datos.aSeries.push_back(ui::BarrasDeMeses(kAspectos[i].csNombre, kAspectos[i].color, adMeses));
     }
 }

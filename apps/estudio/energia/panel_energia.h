@@ -42,6 +42,8 @@ public:
     double Inclinacion() const { return m_dInclinacion; }
     double Orientacion() const { return m_dOrientacion; }
     void PonerInclinacion(double dInclinacion);
+    /// Columns and figures in the units of now.
+    void PonerUnidades();
     solar::CampoSolar Campo() const;
 
     const std::vector<FilaEnergia>& Filas() const { return *m_filas; }

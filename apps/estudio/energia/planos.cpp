@@ -40,8 +40,8 @@ solar::OrigenHoras OrigenDeLasHoras()
 CString TextoDeEnergia(std::wstring_view csCon, const solar::EnergiaPlanos& energia)
 {
     return CString(csCon) + L" (" + CadenaDesdeUtf8(solar::NombreDeOrigen(energia.origen)) + L"): " +
-           Decimal(energia.Energia(), 1) + L" kWh al año; hacia el ecuador, " +
-           Decimal(energia.EnergiaAlEcuador(), 1) + L" kWh.";
+           EnUnidad(kEnergia, energia.Energia(), 1) + L" al año; hacia el ecuador, " +
+           EnUnidad(kEnergia, energia.EnergiaAlEcuador(), 1) + L".";
 }
 
 DialogoPlanos::DialogoPlanos(std::vector<solar::PlanoCampo> iniciales, const solar::CampoSolar& campo,

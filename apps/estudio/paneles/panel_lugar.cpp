@@ -8,14 +8,16 @@
 #include <quorvel/ui/campo.h>
 
 #include "clima/pvgis.h"
+#include "comun/numeros.h"
 
 namespace efv::estudio {
 
 namespace {
 
-constexpr std::wstring_view kGrupoRadiacion = L"Radiación horizontal (kJ/m²·día)";
+constexpr std::wstring_view kGrupoRadiacion = L"Radiación horizontal";
 constexpr std::wstring_view kGrupoLugar = L"Lugar";
-constexpr std::wstring_view kGrupoCelulas = L"Temperatura de las células (ºC)";
+constexpr std::wstring_view kGrupoCelulas = L"Temperatura de las células";
+constexpr std::wstring_view kLongitud = L"Longitud", kTemperatura = L"Temperatura";
 
 // As many as a person looks through.
 constexpr std::size_t kOfrecidas = 200;
@@ -45,7 +47,20 @@ PanelLugar::PanelLugar(Sesion& sesion, std::vector<Localidad> localidades)
     AnadirRadiaciones();
     m_nota = &Anadir<ui::TextoFijo>("csNota", L"");
     m_nota->color = ui::kRojo;
+    PonerUnidades();
     Actualizar();
+}
+
+void PanelLugar::PonerUnidades()
+{
+    TitularGrupo(kGrupoRadiacion, CString(kGrupoRadiacion) + L" (" + SimboloDe(kRadiacion) + L"/m²·día)");
+    TitularGrupo(kGrupoCelulas, CString(kGrupoCelulas) + L" (" + SimboloDe(kTemperatura) + L")");
+    m_altitud->csRotulo = L"Altitud (" + SimboloDe(kLongitud) + L"):";
+    m_altitud->iDecimales = DecimalesEn(kLongitud, 0);
+    for (ui::Edicion* radiacion : m_radiaciones)
+        radiacion->iDecimales = DecimalesEn(kRadiacion, 1);
+    m_campos.Olvidar();
+    Volcar();
 }
 
 void PanelLugar::AnadirLugar()
@@ -86,7 +101,8 @@ void PanelLugar::AnadirLugar()
     longitud.iDecimales = 4;
     auto& altitud = campo("dAltitud", L"Altitud (m):", &m_situacion.dAltitud);
     altitud.limites = ui::Intervalo{-500.0, 10000.0};
-    altitud.iDecimales = 0;
+    altitud.magnitud = kLongitud;
+    m_altitud = &altitud;
     m_zona = &Anadir<ui::TextoFijo>("csZona", L"");
     m_zona->colocacion.grupo = kGrupoLugar;
 }
@@ -100,6 +116,7 @@ void PanelLugar::AnadirCelulas()
         edicion.destino = &d;
         edicion.limites = limites;
         edicion.iDecimales = 1;
+        edicion.magnitud = kTemperatura;
         m_campos.Anadir(edicion);
         return edicion;
     };
@@ -118,9 +135,10 @@ void PanelLugar::AnadirRadiaciones()
         edicion.colocacion.iColumna = m < std::size(m_lugar.adRadHorizontal) / 2 ? 0 : 1;
         edicion.destino = &m_lugar.adRadHorizontal[m];
         edicion.limites = ui::Intervalo{0.0, solar::kRadiacionMaxima};
-        edicion.iDecimales = 1;
+        edicion.magnitud = kRadiacion;
         m_campos.Anadir(edicion);
         m_figuras.push_back(&edicion);
+        m_radiaciones.push_back(&edicion);
     }
     auto& pvgis = Anadir<ui::Boton>("PVGIS", L"Radiación de PVGIS…");
     pvgis.colocacion.grupo = kGrupoRadiacion;

@@ -14,6 +14,8 @@ public:
 
     /// Shows the session's project; what the person is typing stays when it says the same.
     void Actualizar();
+    /// Captions and figures in the units of now.
+    void PonerUnidades();
     /// Its fields; what is at fault there isn't in the project.
     CamposQueSeDejan& Campos() { return m_campos; }
 
@@ -45,7 +47,8 @@ private:
     ui::Edicion* m_buscar = nullptr;
     ui::Seleccion* m_seleccion = nullptr;
     ui::Seleccion* m_hemisferio = nullptr;
-    ui::Edicion* m_latitud = nullptr;
+    ui::Edicion *m_latitud = nullptr, *m_altitud = nullptr;
+    std::vector<ui::Edicion*> m_radiaciones;
     std::vector<ui::Edicion*> m_figuras;  // what can be written of a place of one's own
     ui::TextoFijo* m_zona = nullptr;
     ui::TextoFijo* m_nota = nullptr;

@@ -71,7 +71,7 @@ private:
 
 }  // namespace
 
-void Disenar(Sesion& sesion)
+std::optional<Diseno> Disenar(Sesion& sesion)
 {
     switch (phSeleccionAsistenteSFV()) {
         case kRed:
@@ -79,30 +79,35 @@ void Disenar(Sesion& sesion)
         case kAislada:
             return DisenarAislada(sesion);
         default:
-            return;
+            return std::nullopt;
     }
 }
 
-void DisenarAislada(Sesion& sesion)
+std::optional<Diseno> DisenarAislada(Sesion& sesion)
 {
     CProyectoEstudio& proyecto = sesion.Proyecto();
     const ListaComun lista(proyecto, ListaComun::Parte::aislada);
     const Lugar& lugar = proyecto.lugar;
-    if (phAsistenteSFVAislada(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, lugar.adRadHorizontal,
-                              proyecto.aislada) == kAceptado)
+    const bool bAceptado = phAsistenteSFVAislada(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio,
+                                                 lugar.adRadHorizontal, proyecto.aislada) == kAceptado;
+    if (bAceptado)
         AnotarAceptado(proyecto, Diseno::aislada);
     // A refused OK may have stored the loads even though the person cancelled in the end.
     lista.Extender();
     sesion.Cambiado();
+    return bAceptado ? std::optional(Diseno::aislada) : std::nullopt;
 }
 
-void DisenarRed(Sesion& sesion)
+std::optional<Diseno> DisenarRed(Sesion& sesion)
 {
     CProyectoEstudio& proyecto = sesion.Proyecto();
     const Lugar& lugar = proyecto.lugar;
-    if (phAsistenteSFVRed(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, proyecto.red) == kAceptado)
+    const bool bAceptado =
+        phAsistenteSFVRed(lugar.Texto(), lugar.dLatitud, lugar.iHemisferio, proyecto.red) == kAceptado;
+    if (bAceptado)
         AnotarAceptado(proyecto, Diseno::red);
     sesion.Cambiado();
+    return bAceptado ? std::optional(Diseno::red) : std::nullopt;
 }
 
 void EditarConsumo(Sesion& sesion)
