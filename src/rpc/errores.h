@@ -29,23 +29,52 @@ private:
     Codigo m_codigo;
 };
 
-/// A value that doesn't fit its place. Whoever knows the place puts its name before the text with
-/// `NombrarLugar`, from the inside out.
-class ErrorValor : public ErrorRpc {
+/// A place that is being read, within those that contain it; it lives as long as the reading. Because its text
+/// is wanted only of a value that doesn't fit, it is a function; and because every throw that passes through a
+/// place costs as much as answering a call, the places are asked when the error is made.
+class SitioQueSeLee {
 public:
-    explicit ErrorValor(const std::string& texto) : ErrorRpc(Codigo::argumentos, texto) {}
+    SitioQueSeLee(const SitioQueSeLee&) = delete;
+    SitioQueSeLee& operator=(const SitioQueSeLee&) = delete;
+
+    /// "a: b: ", from the outside in; empty outside every place.
+    static std::string Camino();
+
+protected:
+    using Nombrar = std::string (*)(const SitioQueSeLee&);
+
+    explicit SitioQueSeLee(Nombrar nombrar) : m_nombrar(nombrar), m_fuera(s_actual) { s_actual = this; }
+    ~SitioQueSeLee() { s_actual = m_fuera; }
+
+private:
+    Nombrar m_nombrar;
+    const SitioQueSeLee* m_fuera;
+    static thread_local const SitioQueSeLee* s_actual;
 };
 
-/// Runs `leer`; an ErrorValor of it goes on with `lugar()` before its text. The place is a function
-/// because its text is wanted only then.
+/// A value that doesn't fit its place, whose name stands before the text.
+class ErrorValor : public ErrorRpc {
+public:
+    explicit ErrorValor(const std::string& texto)
+        : ErrorRpc(Codigo::argumentos, SitioQueSeLee::Camino() + texto)
+    {
+    }
+};
+
+/// Runs `leer`; an ErrorValor made in it has `lugar()` before its text.
 template <class Sitio, class Leer>
 void NombrarLugar(Sitio&& lugar, Leer&& leer)
 {
-    try {
-        leer();
-    } catch (const ErrorValor& e) {
-        throw ErrorValor(std::string(lugar()) + ": " + e.what());
-    }
+    struct Este final : SitioQueSeLee {
+        explicit Este(Sitio& s) : SitioQueSeLee(&Texto), sitio(s) {}
+        static std::string Texto(const SitioQueSeLee& este)
+        {
+            return std::string(static_cast<const Este&>(este).sitio());
+        }
+        Sitio& sitio;
+    };
+    const Este este(lugar);
+    leer();
 }
 
 }  // namespace efv::rpc
