@@ -114,6 +114,8 @@ std::string LeerId(const Json& id)
 {
     if (!id.is_string() && !id.is_number() && !id.is_null())
         throw ErrorRpc(Codigo::noEsPeticion, "id debe ser un texto, un número o null");
+    if (const auto* n = id.get_ptr<const Json::number_unsigned_t*>())
+        return std::to_string(*n);
     return id.dump();
 }
 
@@ -249,25 +251,25 @@ void Servidor::Atender(const Json& peticion, std::string& salida, bool bHayLugar
     ConErrores(salida, id, [&] {
         if (!peticion.is_object())
             throw ErrorRpc(Codigo::noEsPeticion, "una petición es un objeto");
-        id = LeerId(Miembro(peticion, "id"));
-        LeerMetodo(peticion);
-        bCallar = !peticion.contains("id");
+        const Json& propio = Miembro(peticion, "id");
+        id = LeerId(propio);
+        const std::string_view metodo = LeerMetodo(peticion);
+        bCallar = propio.is_null() && !peticion.contains("id");
         if (!bHayLugar)
             throw ErrorRpc(Codigo::excepcion, fmt::format("sin atender: la respuesta del lote pasa de {} bytes",
                                                           kRespuestaDeLoteMaxima));
         salida += R"({"jsonrpc":"2.0","id":)";
         salida += id;
         salida += ",\"result\":";
-        Llamar(peticion, salida);
+        Llamar(metodo, peticion, salida);
         salida += '}';
     });
     if (bCallar)
         salida.resize(inicio);
 }
 
-void Servidor::Llamar(const Json& peticion, std::string& salida)
+void Servidor::Llamar(std::string_view metodo, const Json& peticion, std::string& salida)
 {
-    const std::string_view metodo = LeerMetodo(peticion);
     const Funcion* funcion =
         metodo == kAbrir ? &DialogoPedido(Lista(peticion, "params")) : BuscarFuncion(metodo);
     const MetodoPropio propio = funcion == nullptr ? BuscarMetodoPropio(metodo) : nullptr;

@@ -37,7 +37,7 @@ private:
     void AtenderLote(const Json& lote, std::string& salida);
     /// @param bHayLugar false: what would be carried out is refused for want of room in the answer
     void Atender(const Json& peticion, std::string& salida, bool bHayLugar = true);
-    void Llamar(const Json& peticion, std::string& salida);
+    void Llamar(std::string_view metodo, const Json& peticion, std::string& salida);
     void PrepararGuion(const Json& peticion);
     void EscribirMensajes(std::string& salida) const;
 
