@@ -8,6 +8,7 @@
 
 #include "ayuda/linea.h"
 #include "catalogo/acceso.h"
+#include "catalogo/pregunta.h"
 #include "comun/consola.h"
 #include "comun/datos.h"
 #include "comun/numeros.h"
@@ -66,7 +67,7 @@ void Leer(Contexto& contexto, const std::string& palabra)
 class Buscador {
 public:
     Buscador(const Contexto& contexto, const std::string& palabra)
-        : m_contexto(contexto), m_csPlegado(PlegarTexto(CadenaDesdeUtf8(palabra)))
+        : m_contexto(contexto), m_palabra(palabra), m_csPlegado(PlegarTexto(CadenaDesdeUtf8(palabra)))
     {
     }
 
@@ -86,6 +87,8 @@ public:
                 Anadir(std::string(nombre), {});
         else if (tipo == "ID" || tipo == "FAMILIA")
             AnadirModelos(tipo == "ID");
+        else if (tipo == "CAMPOS" || tipo == "CONDICION")
+            AnadirCampos();
         return std::move(m_completado);
     }
 
@@ -118,11 +121,31 @@ private:
                 m_completado.candidatos.push_back({CadenaUtf8(lugar.csNombre), CadenaUtf8(lugar.csProvincia)});
     }
 
+    const TipoCatalogo* TipoDado() const
+    {
+        const std::string tipo = m_contexto.Valor("--tipo");
+        return BuscarTipoCatalogo(tipo.empty() ? TodosLosTipos().front() : tipo);
+    }
+
+    // The last one of a list, "dPmpm,-dV"; what stands before it stays.
+    void AnadirCampos()
+    {
+        const TipoCatalogo* tipo = TipoDado();
+        if (tipo == nullptr)
+            return;
+        std::size_t iUltimo = m_palabra.rfind(',') + 1;
+        if (m_palabra.substr(iUltimo).starts_with('-'))
+            ++iUltimo;
+        const CString csCampo = PlegarTexto(CadenaDesdeUtf8(m_palabra.substr(iUltimo)));
+        for (const std::string& nombre : NombresDeCampos(*tipo))
+            if (Empieza(CadenaDesdeUtf8(nombre), csCampo))
+                m_completado.candidatos.push_back({m_palabra.substr(0, iUltimo) + nombre, {}});
+    }
+
     // A model is found by its own name too.
     void AnadirModelos(bool bModelos)
     {
-        const std::string tipoDado = m_contexto.Valor("--tipo");
-        const TipoCatalogo* tipo = BuscarTipoCatalogo(tipoDado.empty() ? TodosLosTipos().front() : tipoDado);
+        const TipoCatalogo* tipo = TipoDado();
         if (tipo == nullptr)
             return;
         const std::string fichero = m_contexto.Valor("--fichero");
@@ -144,6 +167,7 @@ private:
     }
 
     const Contexto& m_contexto;
+    std::string m_palabra;
     CString m_csPlegado;
     Completado m_completado;
 };

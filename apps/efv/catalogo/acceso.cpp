@@ -131,20 +131,30 @@ CatalogoAbierto::CatalogoAbierto(const TipoCatalogo& tipo, const CString& csRuta
 std::string CatalogoAbierto::Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const
 {
     const bool bPrimero = m_tipo.Nombre() == TodosLosTipos().front();
-    return fmt::format("{} (todos: efv catalogo listar{}{})", Parecidos(nombres, CadenaUtf8(csBuscado)),
+    return fmt::format("{} (todos: efv catalogo listar{}{})", orden::Parecidos(nombres, CadenaUtf8(csBuscado)),
                        bPrimero ? "" : " --tipo ", bPrimero ? "" : m_tipo.Nombre());
+}
+
+std::vector<NombreBuscable> CatalogoAbierto::Nombres() const
+{
+    std::vector<NombreBuscable> nombres;
+    nombres.reserve(m_modelos.size());
+    for (const CModelo* m : m_modelos)
+        nombres.push_back({Identificacion(*m), {m->csModelo}});
+    return nombres;
+}
+
+std::string CatalogoAbierto::Parecidos(const std::string& nombre) const
+{
+    return orden::Parecidos(Nombres(), nombre);
 }
 
 const CModelo& CatalogoAbierto::Buscar(const std::string& id) const
 {
     const CString csId = CadenaDesdeUtf8(id);
     const Modelos hallados = ModelosDeNombre(m_modelos, csId);
-    if (hallados.empty()) {
-        std::vector<NombreBuscable> nombres;
-        for (const CModelo* m : m_modelos)
-            nombres.push_back({Identificacion(*m), {m->csModelo}});
-        throw ErrorEjecucion(fmt::format("no hay ningún modelo «{}»{}", id, Ayuda(nombres, csId)));
-    }
+    if (hallados.empty())
+        throw ErrorEjecucion(fmt::format("no hay ningún modelo «{}»{}", id, Ayuda(Nombres(), csId)));
     if (hallados.size() > 1)
         throw ErrorEjecucion(fmt::format("«{}» puede ser {}", id, Enumerar(hallados)));
     return *hallados.front();

@@ -77,10 +77,13 @@ public:
     /// The one model of ModelosDeNombre. @throws ErrorEjecucion with names near `id`, or with the choices when
     /// several families have the name
     const CModelo& Buscar(const std::string& id) const;
+    /// "; parecidos: a, b": models whose name is near.
+    std::string Parecidos(const std::string& nombre) const;
     /// The models of a family, case and accents ignored. @throws ErrorEjecucion with names near
     Modelos DeFamilia(const std::string& nombre) const;
 
 private:
+    std::vector<NombreBuscable> Nombres() const;
     /// "; parecidos: a, b (todos: …)"
     std::string Ayuda(std::span<const NombreBuscable> nombres, const CString& csBuscado) const;
 

@@ -9,6 +9,7 @@
 #include "catalogo/ficha.h"
 #include "catalogo/grupo_ordenes.h"
 #include "catalogo/informes.h"
+#include "catalogo/pregunta.h"
 #include "comun/consola.h"
 #include "comun/numeros.h"
 #include "comun/salidas.h"
@@ -23,15 +24,29 @@ public:
     {
         CLI::App& listar = Consulta(linea, "listar", "Lista los modelos", &Consultas::Listar);
         AnadirFamilia(listar, "Solo los de la familia");
-        CLI::App& buscar = Consulta(
-            linea, "buscar", "Lista los modelos cuya familia o modelo contiene un texto", &Consultas::Buscar);
-        buscar.add_option("TEXTO", m_palabras, "Texto, sin distinguir mayúsculas ni acentos")->option_text(" ");
+        CLI::App& buscar =
+            Consulta(linea, "buscar", "Lista los modelos por palabras de su familia o nombre y por sus valores",
+                     &Consultas::Buscar);
+        buscar
+            .add_option("TEXTO", m_palabras,
+                        "Palabras, en cualquier orden, sin distinguir mayúsculas ni acentos")
+            ->option_text(" ");
+        for (CLI::App* orden : {&listar, &buscar}) {
+            m_pregunta.DeclararCondiciones(*orden);
+            m_pregunta.DeclararLista(*orden);
+        }
+        buscar.footer(
+            "Ejemplos:\n"
+            "  efv catalogo buscar mono --donde 'dPmpm>=495' --ordenar dPmpm --columnas dPmpm,dVoc,dIsc\n"
+            "  efv catalogo buscar --tipo inversores --donde 'dPCANom>=5000' --donde 'dPCANom<=8000'");
         CLI::App& ver = Consulta(linea, "ver", "Muestra la ficha de un modelo", &Consultas::Ver);
         ver.add_option("ID", m_id, "FAMILIA#MODELO, o el modelo solo")->option_text(" ");
         CLI::App& validar =
             Consulta(linea, "validar", "Comprueba todos los modelos; termina con 1 si hay hallazgos",
                      &Consultas::Validar);
-        for (CLI::App* orden : {&listar, &buscar, &ver, &validar})
+        CLI::App& campos = Consulta(linea, "campos", "Lista los campos de un tipo, con su nombre y su unidad",
+                                    &Consultas::Campos);
+        for (CLI::App* orden : {&listar, &buscar, &ver, &validar, &campos})
             AnadirJson(*orden);
         DeclararExportar(Consulta(linea, "exportar", "Escribe los modelos como CSV para una hoja de cálculo",
                                   &Consultas::Exportar));
@@ -48,6 +63,7 @@ private:
     void DeclararExportar(CLI::App& exportar)
     {
         AnadirFamilia(exportar, "Solo los de la familia");
+        m_pregunta.DeclararCondiciones(exportar);
         exportar.add_option("--salida", m_salida, "Fichero que se escribe; sin él, la salida del programa")
             ->type_name("FICHERO");
         exportar
@@ -61,14 +77,21 @@ private:
 
     const TipoCatalogo& Tipo() const { return m_catalogo.Tipo(TodosLosTipos()); }
     CatalogoAbierto Abrir() const { return {Tipo(), m_catalogo.Ruta(Tipo())}; }
-    // Those of the family that was given, else all.
+    // Those of the family that was given, else all, that keep to the conditions.
     Modelos Elegidos(const CatalogoAbierto& catalogo) const
     {
-        return Familia() ? catalogo.DeFamilia(*Familia()) : catalogo.Todos();
+        Modelos modelos =
+            m_pregunta.Responder(Tipo(), Familia() ? catalogo.DeFamilia(*Familia()) : catalogo.Todos());
+        if (modelos.empty())
+            throw ErrorEjecucion("ningún modelo cumple las condiciones");
+        return modelos;
     }
     void Escribir(std::ostream& salida, const Modelos& modelos) const
     {
-        (m_bJson ? EscribirListaJson : EscribirListaTexto)(salida, Tipo(), modelos);
+        if (m_bJson)
+            EscribirListaJson(salida, Tipo(), modelos, m_pregunta.Campos(Tipo()));
+        else
+            EscribirListaTexto(salida, modelos, m_pregunta.Columnas(Tipo()));
     }
 
     int Listar(std::ostream& salida) const
@@ -80,20 +103,42 @@ private:
     int Buscar(std::ostream& salida) const
     {
         const std::string texto = fmt::format("{}", fmt::join(m_palabras, " "));
-        if (texto.empty())
-            throw ErrorUso("falta el texto que se busca (ayuda: efv catalogo buscar --help)");
-        const CString csPlegado = PlegarTexto(CadenaDesdeUtf8(texto));
-        const auto contiene = [&](const CString& cs) {
-            return PlegarTexto(cs).find(csPlegado) != CString::npos;
-        };
+        const PalabrasBuscadas palabras(CadenaDesdeUtf8(texto));
+        if (palabras.Vacias() && !m_pregunta.ConCondiciones())
+            throw ErrorUso("falta el texto que se busca, o --donde (ayuda: efv catalogo buscar --help)");
         const CatalogoAbierto catalogo = Abrir();
         Modelos hallados;
-        std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados), [&](const auto* modelo) {
-            return contiene(modelo->csFamilia) || contiene(modelo->csModelo);
-        });
+        std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados),
+                             [&](const auto* modelo) { return palabras.Estan(*modelo); });
         if (hallados.empty())
-            throw ErrorEjecucion(fmt::format("ningún modelo contiene «{}»", texto));
+            throw ErrorEjecucion(
+                fmt::format("ningún modelo contiene «{}»{}", EnUnaLinea(texto), catalogo.Parecidos(texto)));
+        hallados = m_pregunta.Responder(Tipo(), hallados);
+        if (hallados.empty())
+            throw ErrorEjecucion("ningún modelo cumple las condiciones");
         Escribir(salida, hallados);
+        return 0;
+    }
+
+    int Campos(std::ostream& salida) const
+    {
+        std::vector<std::size_t> numeros{kCampoFamilia};
+        for (std::size_t i = 0; i < Tipo().Campos().size(); ++i)
+            numeros.push_back(i);
+        const std::vector<std::string> nombres = NombresDeCampos(Tipo());
+        using enum report::ColumnasTexto::Lado;
+        TablaTexto tabla({izquierda, izquierda, izquierda});
+        tabla.Fila({"Campo", "Qué es", "Valor"});
+        tabla.Raya();
+        Json json = Json::array();
+        for (const ColumnaCatalogo& columna : ColumnasDe(Tipo(), numeros)) {
+            const std::string& nombre = nombres[json.size()];
+            const std::string titulo = EnTerminal(columna.Titulo()),
+                              clase = columna.EsTexto() ? "texto" : "número";
+            tabla.Fila({nombre, titulo, clase});
+            json.push_back({{"campo", nombre}, {"titulo", titulo}, {"clase", clase}});
+        }
+        salida << (m_bJson ? TextoJson(json) : tabla.Texto());
         return 0;
     }
 
@@ -133,6 +178,7 @@ private:
         return 0;
     }
 
+    PreguntaCatalogo m_pregunta;
     std::string m_id;
     std::optional<std::string> m_salida;
     std::string m_separador = ";";

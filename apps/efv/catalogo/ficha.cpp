@@ -9,74 +9,12 @@
 #include <fmt/format.h>
 
 #include <quorvel/report/ficha.h>
-#include <quorvel/ui/como.h>
 
 #include "comun/numeros.h"
 
 namespace efv::orden {
 
 namespace {
-
-using ui::Seleccion;
-
-// How a column of a list writes its values: as the dialog's control of that field does.
-class Columna {
-public:
-    Columna(const ui::Dialogo& dialogo, const CampoCatalogo& campo, std::size_t iCampo)
-        : m_iCampo(iCampo), m_campo(campo), m_titulo(EnTerminal(CString(campo.columna)))
-    {
-        for (const auto& control : dialogo.Controles()) {
-            if (control->nombre != campo.nombre)
-                continue;
-            if (const auto* edicion = ui::Como<ui::Edicion>(*control))
-                m_iDecimales = edicion->iDecimales;
-            if (const auto* seleccion = ui::Como<Seleccion>(*control))
-                m_acsEntradas = seleccion->acsEntradas;
-            if (ui::Como<ui::Casilla>(*control) != nullptr)
-                m_acsEntradas = {L"No", L"Sí"};
-        }
-        const bool bTexto = campo.clase == CampoCatalogo::Clase::texto || !m_acsEntradas.empty();
-        m_lado = bTexto ? TablaTexto::Lado::izquierda : TablaTexto::Lado::derecha;
-    }
-
-    const std::string& Titulo() const { return m_titulo; }
-    TablaTexto::Lado Lado() const { return m_lado; }
-    std::string Celda(const TipoCatalogo& tipo, const CModelo& modelo) const
-    {
-        if (Ausente(modelo, m_campo) || Desconocido(tipo, modelo, m_iCampo))
-            return "—";
-        return std::visit([this](const auto& valor) { return this->Texto(valor); },
-                          tipo.Valor(modelo, m_iCampo));
-    }
-
-private:
-    static std::string Texto(const CString& cs) { return EnTerminal(cs); }
-    std::string Texto(double d) const { return Decimal(d, m_iDecimales); }
-    std::string Texto(int i) const
-    {
-        const auto iEntrada = static_cast<std::size_t>(i);
-        return i >= 0 && iEntrada < m_acsEntradas.size() ? EnTerminal(m_acsEntradas[iEntrada])
-                                                         : std::to_string(i);
-    }
-
-    std::size_t m_iCampo;
-    CampoCatalogo m_campo;
-    std::string m_titulo;
-    TablaTexto::Lado m_lado = TablaTexto::Lado::izquierda;
-    int m_iDecimales = 2;
-    std::vector<CString> m_acsEntradas;
-};
-
-std::vector<Columna> Columnas(const TipoCatalogo& tipo, const CModelo& modelo)
-{
-    const auto dialogo = tipo.CrearDialogo(modelo);
-    std::vector<Columna> columnas;
-    const auto campos = tipo.Campos();
-    for (std::size_t i = 0; i < campos.size(); ++i)
-        if (!campos[i].columna.empty())
-            columnas.emplace_back(*dialogo, campos[i], i);
-    return columnas;
-}
 
 Json Valor(const CString& cs)
 {
@@ -105,14 +43,14 @@ std::string OrigenTexto(const CModelo* heredado)
 
 }  // namespace
 
-void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos)
+void EscribirListaTexto(std::ostream& salida, const Modelos& modelos,
+                        const std::vector<ColumnaCatalogo>& columnas)
 {
-    const std::vector<Columna> columnas = Columnas(tipo, *modelos.front());
     std::vector<TablaTexto::Lado> lados = {TablaTexto::Lado::izquierda};
     std::vector<std::string> titulos = {"Modelo"};
-    for (const Columna& columna : columnas) {
-        lados.push_back(columna.Lado());
-        titulos.push_back(columna.Titulo());
+    for (const ColumnaCatalogo& columna : columnas) {
+        lados.push_back(columna.EsTexto() ? TablaTexto::Lado::izquierda : TablaTexto::Lado::derecha);
+        titulos.push_back(EnTerminal(columna.Titulo()));
     }
     const bool bPropios = std::ranges::any_of(modelos, &CModelo::bPropio);
     if (bPropios) {
@@ -121,8 +59,8 @@ void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Mo
     }
     const auto fila = [&](const CModelo& modelo) {
         std::vector<std::string> celdas = {EnTerminal(Identificacion(modelo))};
-        for (const Columna& columna : columnas)
-            celdas.push_back(columna.Celda(tipo, modelo));
+        for (const ColumnaCatalogo& columna : columnas)
+            celdas.push_back(EnTerminal(columna.Celda(modelo)));
         if (bPropios)
             celdas.emplace_back(modelo.bPropio ? "propio" : "");
         return celdas;
@@ -224,11 +162,21 @@ void EscritorListaJson::Terminar()
     m_salida << (m_bVacia ? "" : m_salto) << ']';
 }
 
-void EscribirListaJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos)
+void EscribirListaJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos,
+                       const std::optional<std::vector<std::string>>& campos)
 {
     EscritorListaJson lista(salida);
-    for (const CModelo* m : modelos)
-        lista.Anadir(FichaJson(tipo, *m));
+    for (const CModelo* m : modelos) {
+        const Json ficha = FichaJson(tipo, *m);
+        if (!campos) {
+            lista.Anadir(ficha);
+            continue;
+        }
+        Json elegidos = {{"id", ficha["id"]}};
+        for (const std::string& campo : *campos)
+            elegidos[campo] = ficha[campo];
+        lista.Anadir(elegidos);
+    }
     lista.Terminar();
     salida << '\n';
 }

@@ -1,11 +1,14 @@
 // The data sheet of a model for people and for programs.
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
 
 #include <nlohmann/json.hpp>
+
+#include <quorvel/catalogues/consulta.h>
 
 #include "catalogo/acceso.h"
 
@@ -13,10 +16,13 @@ namespace efv::orden {
 
 using Json = nlohmann::ordered_json;
 
-/// One line of a terminal each: identification and the columns that the kind's lists have. A list as long as a
+/// One line of a terminal each: identification and the columns. A list as long as a
 /// file admits is never held in memory as a whole.
-void EscribirListaTexto(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
-void EscribirListaJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos);
+void EscribirListaTexto(std::ostream& salida, const Modelos& modelos,
+                        const std::vector<ColumnaCatalogo>& columnas);
+/// @param campos names of those that are written; nothing: all
+void EscribirListaJson(std::ostream& salida, const TipoCatalogo& tipo, const Modelos& modelos,
+                       const std::optional<std::vector<std::string>>& campos);
 /// What its dialog shows with the family, a line a caption; "—" for what the file doesn't say, with where the
 /// value in force comes from. @param todos all models of its file, in order
 std::string FichaTexto(const TipoCatalogo& tipo, const CModelo& modelo, const Modelos& todos);

@@ -148,7 +148,7 @@ Json ImportacionJson(const TipoCatalogo& tipo, const Importacion& importacion, c
     }
     const bool bAnadidos = importacion.Hallazgos() == 0;
     return {
-        {"catalogo", catalogo}, {"anadidos", bAnadidos ? importacion.modelos.size() : 0}, {"modelos", modelos}};
+        {"catalogo", catalogo}, {"añadidos", bAnadidos ? importacion.modelos.size() : 0}, {"modelos", modelos}};
 }
 
 std::string CecTexto(const ResultadoCec& resultado, const OpcionesCec& opciones, const std::string& catalogo)
@@ -176,7 +176,7 @@ Json CecJson(const ResultadoCec& resultado, const OpcionesCec& opciones, const s
 {
     Json json = {{"catalogo", catalogo},
                  {"tipo", resultado.tipo->Nombre()},
-                 {"anadidos", resultado.nAnadidos},
+                 {"añadidos", resultado.nAnadidos},
                  {"ya_estaban", FilasJson(resultado.yaEstaban)},
                  {"no_sirven", FilasJson(resultado.sinModelo)}};
     if (SonModulos(resultado))
