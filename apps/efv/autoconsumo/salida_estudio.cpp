@@ -23,29 +23,29 @@ JsonEscrito SumaJson(const economics::SumaAutoconsumo& s)
             {"descarga_kWh", NumeroJson(s.dDescarga)},
             {"cobertura", NumeroJson(s.Cobertura())},
             {"aprovechamiento", NumeroJson(s.Aprovechamiento())},
-            {"gasto_sin_instalacion", NumeroJson(s.dGastoSin)},
-            {"compra", NumeroJson(s.dCompra)},
-            {"valor_vertido", NumeroJson(s.dValorVertido)},
-            {"compensado", NumeroJson(s.dCompensado)},
-            {"degradacion", NumeroJson(s.dDegradacion)},
-            {"ahorro", NumeroJson(s.dAhorro)}};
+            {"gasto_sin_instalacion_eur", NumeroJson(s.dGastoSin)},
+            {"compra_eur", NumeroJson(s.dCompra)},
+            {"valor_vertido_eur", NumeroJson(s.dValorVertido)},
+            {"compensado_eur", NumeroJson(s.dCompensado)},
+            {"degradacion_eur", NumeroJson(s.dDegradacion)},
+            {"ahorro_eur", NumeroJson(s.dAhorro)}};
 }
 
 JsonEscrito PuntoJson(const report::PuntoBarrido& p)
 {
     return {{"potencia_kWp", p.dPotencia},
             {"bateria_kWh", p.dCapacidad},
-            {"coste", NumeroJson(p.dCoste)},
+            {"coste_eur", NumeroJson(p.dCoste)},
             {"cobertura", NumeroJson(p.dCobertura)},
             {"aprovechamiento", NumeroJson(p.dAprovechamiento)},
-            {"ahorro", NumeroJson(p.dAhorro)},
+            {"ahorro_eur", NumeroJson(p.dAhorro)},
             {"recuperacion_años", p.recuperacion.bViable ? NumeroJson(p.recuperacion.dAnos) : JsonEscrito()},
-            {"tir", p.tasa.bHallada ? NumeroJson(p.tasa.dTIR) : JsonEscrito()}};
+            {"tir_pct", p.tasa.bHallada ? NumeroJson(p.tasa.dTIR) : JsonEscrito()}};
 }
 
 JsonEscrito DiasJson(const report::EstudioAutoconsumo& e)
 {
-    static constexpr std::array<const char*, 4> kNombres = {"invierno", "primavera", "verano", "otono"};
+    static constexpr std::array<const char*, 4> kNombres = {"invierno", "primavera", "verano", "otoño"};
     const auto dias = economics::DiasTipicos(e.horas.Horas(), e.operacion ? &*e.operacion : nullptr);
     JsonEscrito json = JsonEscrito::object();
     for (std::size_t i = 0; i < dias.size(); ++i) {
@@ -80,8 +80,8 @@ JsonEscrito EstudioJson(const report::ProyectoAutoconsumo& proyecto, const repor
                         {"valores", ValoresJson(CamposDeRegistro(e.registro))},
                         {"viable", e.rentabilidad.recuperacion.bViable},
                         {"tasa_hallada", e.rentabilidad.tasa.bHallada},
-                        {"flujos", e.rentabilidad.adFlujos},
-                        {"ganancia", NumeroJson(e.rentabilidad.dAcumulado)},
+                        {"flujos_eur", e.rentabilidad.adFlujos},
+                        {"ganancia_eur", NumeroJson(e.rentabilidad.dAcumulado)},
                         {"dias_tipicos", DiasJson(e)},
                         {"entradas", std::move(entradas)},
                         {"avisos", AvisosJson(avisos)},
@@ -102,8 +102,8 @@ std::string HorasCsv(const report::EstudioAutoconsumo& e)
     };
     anadir("produccion_kWh", e.horas.adProduccion);
     anadir("consumo_kWh", e.horas.adConsumo);
-    anadir("precio_consumo", e.horas.adPrecioConsumo);
-    anadir("precio_vertido", e.horas.adPrecioVertido);
+    anadir("precio_consumo_eur_kWh", e.horas.adPrecioConsumo);
+    anadir("precio_vertido_eur_kWh", e.horas.adPrecioVertido);
     if (e.operacion) {
         anadir("autoconsumo_kWh", e.operacion->adAutoconsumo);
         anadir("vertido_kWh", e.operacion->adVertido);

@@ -1,5 +1,6 @@
 #include "autoconsumo/suborden_autoconsumo.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -12,6 +13,7 @@
 #include "autoconsumo/salida_estudio.h"
 #include "comun/datos.h"
 #include "comun/linea_ordenes.h"
+#include "comun/lote.h"
 #include "comun/numeros.h"
 #include "comun/palabras.h"
 #include "comun/salidas.h"
@@ -74,7 +76,8 @@ public:
             "autoconsumo",
             "Estudia hora a hora una instalación de autoconsumo, del contador a la recuperación");
         Castellanizar(linea);
-        linea.add_option("ESTUDIO", m_estudio, "Fichero de estudio, JSON")->option_text(" ");
+        linea.add_option("ESTUDIO", m_estudios, "Ficheros de estudio, JSON: de cada uno su resultado")
+            ->option_text(" ");
         CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores");
         json->option_text(" ")->disable_flag_override();
         linea.add_flag("--csv", m_bCsv, "Escribe las 8760 horas como CSV con punto y coma y coma decimal")
@@ -98,28 +101,35 @@ public:
 
     int Ejecutar(std::ostream& salida) override
     {
-        if (m_estudio.empty())
+        if (m_estudios.empty())
             throw ErrorUso("falta el fichero de estudio (ayuda: efv autoconsumo --help)");
         if (m_svg && !m_barrido && !m_baterias)
             throw ErrorUso("--svg necesita --barrido o --baterias");
-        const JsonLeido json = LeerFicheroJson(m_estudio);
-        const Salidas salidas = LeerSalidas(json);
-        try {
-            Estudiar(json, salidas, salida);
-        } catch (const rpc::ErrorValor& error) {
-            throw ErrorEjecucion(fmt::format("«{}»: {}", m_estudio, error.what()));
-        }
-        return 0;
+        Lote lote(m_estudios);
+        const FormatoLote formato = m_bJson  ? FormatoLote::json
+                                    : m_bCsv ? FormatoLote::csv
+                                             : FormatoLote::texto;
+        return lote.Ejecutar(salida, formato, 0, [&](const std::string& fichero) {
+            const JsonLeido json = LeerFicheroJson(fichero);
+            const Salidas salidas = LeerSalidas(json, fichero, lote);
+            try {
+                return Estudiar(json, fichero, salidas, salida);
+            } catch (const rpc::ErrorValor& error) {
+                throw ErrorEjecucion(fmt::format("«{}»: {}", fichero, error.what()));
+            }
+        });
     }
 
 private:
-    Salidas LeerSalidas(const JsonLeido& json) const
+    Salidas LeerSalidas(const JsonLeido& json, const std::string& fichero, Lote& lote) const
     {
-        Salidas salidas(FicherosDelEstudio(json, m_estudio));
+        std::vector<std::string> entradas = FicherosDelEstudio(json, fichero);
+        entradas.insert(entradas.end(), m_estudios.begin(), m_estudios.end());
+        Salidas salidas(std::move(entradas));
         for (const auto& [opcion, ruta] :
              {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}, {"--svg", &m_svg}}) {
             if (*ruta)
-                salidas.Anadir(opcion, **ruta);
+                salidas.Anadir(opcion, lote.Ruta(opcion, **ruta, fichero));
         }
         if (salidas.EnLaSalida() && (m_bJson || m_bCsv))
             throw ErrorUso(fmt::format("{} y un fichero «-» se excluyen", m_bJson ? "--json" : "--csv"));
@@ -150,9 +160,10 @@ private:
         return report::Barrer(proyecto, potencias, baterias);
     }
 
-    void Estudiar(const JsonLeido& json, const Salidas& salidas, std::ostream& salida) const
+    ResultadoProyecto Estudiar(const JsonLeido& json, const std::string& fichero, const Salidas& salidas,
+                               std::ostream& salida) const
     {
-        EstudioLeido leido = LeerEstudio(json, m_estudio, m_datos);
+        EstudioLeido leido = LeerEstudio(json, fichero, m_datos);
         const std::vector<report::PuntoBarrido> barrido = Barrer(leido);
         report::EstudioAutoconsumo estudio = report::Calcular(leido.proyecto);
         const std::vector<report::Aviso> avisos = report::Avisos(leido.proyecto, estudio);
@@ -167,22 +178,23 @@ private:
         if (m_svg)
             contenidos.push_back(ui::EscribirSvg(report::GraficaBarrido(barrido)));
         const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
+        ResultadoProyecto resultado;
+        resultado.bCumple = std::ranges::none_of(avisos, &report::Aviso::bFalta);
         if (salidas.EnLaSalida())
-            return;
+            return resultado;
         if (m_bJson) {
-            JsonEscrito valores = EstudioJson(leido.proyecto, estudio, avisos, barrido);
-            valores["ficheros"] = escritos;
-            salida << valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
+            resultado.valores = EstudioJson(leido.proyecto, estudio, avisos, barrido);
+            resultado.valores["ficheros"] = escritos;
         } else if (m_bCsv) {
-            salida << HorasCsv(estudio);
+            resultado.texto = HorasCsv(estudio);
         } else {
-            salida << report::DocumentoTexto(documento, Forma());
-            for (std::size_t i = 0; i < escritos.size(); ++i)
-                salida << Nota((i == 0 ? "\nEscrito: " : "Escrito: ") + EnUnaLinea(escritos[i]) + '\n');
+            resultado.texto = report::DocumentoTexto(documento, Forma()) + Escritos(escritos);
         }
+        return resultado;
     }
 
-    std::string m_estudio, m_datos;
+    std::vector<std::string> m_estudios;
+    std::string m_datos;
     std::optional<std::string> m_barrido, m_baterias, m_informe, m_svg, m_guardar;
     bool m_bJson = false, m_bCsv = false;
 };

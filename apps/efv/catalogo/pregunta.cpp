@@ -122,9 +122,10 @@ Modelos PreguntaCatalogo::Responder(const TipoCatalogo& tipo, const Modelos& mod
     if (!m_orden)
         claves.clear();
     // The last key first: equal models stay as they stood.
-    for (auto clave = claves.rbegin(); clave != claves.rend(); ++clave) {
-        const bool bGuion = clave->starts_with('-');
-        OrdenarModelos(tipo, elegidos, Campo(tipo, "--ordenar", clave->substr(bGuion ? 1 : 0)),
+    std::ranges::reverse(claves);
+    for (const std::string& clave : claves) {
+        const bool bGuion = clave.starts_with('-');
+        OrdenarModelos(tipo, elegidos, Campo(tipo, "--ordenar", clave.substr(bGuion ? 1 : 0)),
                        bGuion != m_bDescendente ? Orden::descendente : Orden::ascendente);
     }
     return elegidos;

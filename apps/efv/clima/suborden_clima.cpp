@@ -107,8 +107,10 @@ public:
     double Orientacion() const { return LeerAcotado("--orientacion", m_orientacion, -180, 180); }
 
     /// One value a line, W/m², or the months.
-    std::string Texto(const AnoHoras& ad) const
+    std::string Texto(const AnoHoras& ad, bool bJson) const
     {
+        if (bJson)
+            return EnJson(ad);
         if (m_bMeses)
             return TablaDeMeses({{"kWh/m²", SumasDe(ad)}});
         std::string texto;
@@ -118,6 +120,18 @@ public:
     }
 
 private:
+    std::string EnJson(const AnoHoras& ad) const
+    {
+        const auto sumas = SumasDe(ad);
+        Json json{{"inclinacion_grados", Inclinacion()},
+                  {"orientacion_grados", Orientacion()},
+                  {"meses_kWh_m2", std::span(sumas).first(kMeses)},
+                  {"año_kWh_m2", sumas[12]}};
+        if (!m_bMeses)
+            json["horas_W_m2"] = ad;
+        return json.dump(2) + '\n';
+    }
+
     std::string m_inclinacion = "0", m_orientacion = "0";
     bool m_bMeses = false;
 };
@@ -194,11 +208,13 @@ private:
     {
         AnadirFichero(orden);
         m_plano.Declarar(orden);
+        AnadirJson(orden);
     }
     void DeclararCielo(CLI::App& orden)
     {
         m_sitio.Declarar(orden);
         m_plano.Declarar(orden);
+        AnadirJson(orden);
     }
     void AnadirJson(CLI::App& orden)
     {
@@ -254,7 +270,9 @@ private:
             lista += fmt::format("{}{:.1f}", lista.empty() ? "" : " ", d);
         }
         if (m_bJson)
-            return Json{{"latitud", punto.dLatitud}, {"longitud", punto.dLongitud}, {"radiacion", *radiacion}}
+            return Json{{"latitud_grados", punto.dLatitud},
+                        {"longitud_grados", punto.dLongitud},
+                        {"radiacion_kJ_m2_dia", *radiacion}}
                        .dump(2) +
                    '\n';
         return fmt::format(
@@ -270,10 +288,10 @@ private:
         const auto sumas = SumasDe(AnoDelRegistro(0.0, 0.0));
         const auto datos = clima::RegistroCargado();
         if (m_bJson) {
-            return Json{{"latitud", datos->dLatitud},
-                        {"longitud", datos->dLongitud},
+            return Json{{"latitud_grados", datos->dLatitud},
+                        {"longitud_grados", datos->dLongitud},
                         {"horizontal_kWh_m2", std::span(sumas).first(kMeses)},
-                        {"ano_kWh_m2", sumas[12]}}
+                        {"año_kWh_m2", sumas[12]}}
                        .dump(2) +
                    '\n';
         }
@@ -289,7 +307,7 @@ private:
         const double dInclinacion = m_plano.Inclinacion();
         const double dOrientacion = m_plano.Orientacion();
         CargarRegistro(m_fichero);
-        return m_plano.Texto(AnoDelRegistro(dInclinacion, dOrientacion));
+        return m_plano.Texto(AnoDelRegistro(dInclinacion, dOrientacion), m_bJson);
     }
 
     std::string Cielo(std::ostream& /*salida*/)
@@ -300,7 +318,7 @@ private:
         AnoHoras ad(kHorasAno);
         clima::BibliotecaActual().AnoDelPlano(sitio.Cielo(), dInclinacion, dOrientacion,
                                               std::span<double, kHorasAno>(ad));
-        return m_plano.Texto(ad);
+        return m_plano.Texto(ad, m_bJson);
     }
 
     std::vector<std::pair<CLI::App*, Trabajo>> m_trabajos;

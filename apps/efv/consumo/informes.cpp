@@ -69,7 +69,7 @@ std::string InformeJson(const AnoConsumo& ano)
         horas.push_back(Numero(d));
     Json json = {{"origen", ano.origen},
                  {"potencia_maxima_W", ano.dPotMaxima},
-                 {"energia_ano_Wh", Numero(SumaDeHoras(*ano.horas, HorasDePeriodo(kAno)))},
+                 {"energia_año_Wh", Numero(SumaDeHoras(*ano.horas, HorasDePeriodo(kAno)))},
                  {"energia_mes_Wh", meses}};
     if (ano.contador)
         json["contador"] = ContadorJson(*ano.contador);

@@ -141,8 +141,8 @@ JsonEscrito PlanosJson(const solar::EnergiaPlanos& energia)
 {
     JsonEscrito planos = JsonEscrito::array();
     for (const auto& [plano, ano, alEcuador] : energia.planos) {
-        planos.push_back({{"inclinacion", plano.dInclinacion},
-                          {"orientacion", plano.dOrientacion},
+        planos.push_back({{"inclinacion_grados", plano.dInclinacion},
+                          {"orientacion_grados", plano.dOrientacion},
                           {"parte", plano.dParte},
                           {"energia_kWh", NumeroJson(ano.Energia())},
                           {"hacia_el_ecuador_kWh", NumeroJson(alEcuador.Energia())},
@@ -156,7 +156,7 @@ JsonEscrito PlanosJson(const solar::EnergiaPlanos& energia)
 
 JsonEscrito LugarJson(const report::LugarDiseno& lugar)
 {
-    JsonEscrito json = {{"latitud", lugar.dLatitud}, {"hemisferio", lugar.bNorte ? "N" : "S"}};
+    JsonEscrito json = {{"latitud_grados", lugar.dLatitud}, {"hemisferio", lugar.bNorte ? "N" : "S"}};
     if (lugar.localidad)
         json["nombre"] = CadenaUtf8(lugar.localidad->csNombre);
     json["radiacion_kJ_m2_dia"] = lugar.adRadiacion ? ListaJson(*lugar.adRadiacion) : JsonEscrito();

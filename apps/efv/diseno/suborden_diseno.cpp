@@ -11,6 +11,7 @@
 
 #include "comun/datos.h"
 #include "comun/linea_ordenes.h"
+#include "comun/lote.h"
 #include "comun/numeros.h"
 #include "comun/salidas.h"
 #include "diseno/ayuda_campos.h"
@@ -122,7 +123,8 @@ public:
     {
         CLI::App& linea = *raiz.add_subcommand(m_clase.nombre, m_clase.descripcion);
         Castellanizar(linea);
-        linea.add_option("PROYECTO", m_proyecto, "Fichero de proyecto, JSON")->option_text(" ");
+        linea.add_option("PROYECTO", m_proyectos, "Ficheros de proyecto, JSON: de cada uno su resultado")
+            ->option_text(" ");
         CLI::Option* json =
             linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores por su nombre en el código");
         json->option_text(" ")->disable_flag_override();
@@ -158,11 +160,22 @@ public:
 
     int Ejecutar(std::ostream& salida) override
     {
-        if (m_proyecto.empty())
+        if (m_proyectos.empty())
             throw ErrorUso(fmt::format("falta el fichero de proyecto (ayuda: efv {} --help)", m_clase.nombre));
-        const JsonLeido proyecto = LeerFicheroJson(m_proyecto);
-        const Salidas salidas = LeerSalidas(proyecto);
-        Diseno diseno = Disenar(proyecto);
+        Lote lote(m_proyectos);
+        const FormatoLote formato = m_bJson  ? FormatoLote::json
+                                    : m_bCsv ? FormatoLote::csv
+                                             : FormatoLote::texto;
+        return lote.Ejecutar(salida, formato, m_bEstricto ? kFaltas : 0,
+                             [&](const std::string& fichero) { return Calcular(fichero, lote, salida); });
+    }
+
+private:
+    ResultadoProyecto Calcular(const std::string& fichero, Lote& lote, std::ostream& salida) const
+    {
+        const JsonLeido proyecto = LeerFicheroJson(fichero);
+        const Salidas salidas = LeerSalidas(proyecto, fichero, lote);
+        Diseno diseno = Disenar(proyecto, fichero);
         std::vector<std::string> contenidos;
         if (m_guardar)
             contenidos.emplace_back(reinterpret_cast<const char*>(diseno.archivo.data()),
@@ -170,52 +183,51 @@ public:
         if (m_informe)
             contenidos.push_back(Informe(diseno.documento, *m_informe));
         const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
+        ResultadoProyecto resultado{.bCumple = diseno.bCumple};
         if (!salidas.EnLaSalida())
-            Contar(diseno, escritos, salida);
-        return m_bEstricto && !diseno.bCumple ? kFaltas : 0;
+            Contar(diseno, escritos, resultado);
+        return resultado;
     }
 
-private:
-    void Contar(Diseno& diseno, const std::vector<std::string>& escritos, std::ostream& salida) const
+    void Contar(Diseno& diseno, const std::vector<std::string>& escritos, ResultadoProyecto& resultado) const
     {
         if (m_bJson) {
             diseno.valores["ficheros"] = escritos;
-            salida << diseno.valores.dump(2, ' ', false, JsonLeido::error_handler_t::replace) << '\n';
+            resultado.valores = std::move(diseno.valores);
         } else if (m_bCsv) {
-            salida << diseno.csv;
+            resultado.texto = std::move(diseno.csv);
         } else {
-            salida << report::DocumentoTexto(diseno.documento, Forma());
-            for (std::size_t i = 0; i < escritos.size(); ++i)
-                salida << Nota((i == 0 ? "\nEscrito: " : "Escrito: ") + EnUnaLinea(escritos[i]) + '\n');
+            resultado.texto = report::DocumentoTexto(diseno.documento, Forma()) + Escritos(escritos);
         }
     }
 
     // What the run reads may not be what it writes: the project, and the climate record that it names.
-    Salidas LeerSalidas(const JsonLeido& proyecto) const
+    Salidas LeerSalidas(const JsonLeido& proyecto, const std::string& fichero, Lote& lote) const
     {
-        std::vector<std::string> entradas{m_proyecto};
+        std::vector<std::string> entradas = m_proyectos;
         if (proyecto.is_object() && proyecto.contains("clima") && proyecto["clima"].is_string())
             entradas.push_back(proyecto["clima"].get<std::string>());
         Salidas salidas(std::move(entradas));
         for (const auto& [opcion, ruta] : {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}})
             if (*ruta)
-                salidas.Anadir(opcion, **ruta);
+                salidas.Anadir(opcion, lote.Ruta(opcion, **ruta, fichero));
         if (salidas.EnLaSalida() && (m_bJson || m_bCsv))
             throw ErrorUso(fmt::format("{} y un fichero «-» se excluyen", m_bJson ? "--json" : "--csv"));
         return salidas;
     }
 
-    Diseno Disenar(const JsonLeido& proyecto) const
+    Diseno Disenar(const JsonLeido& proyecto, const std::string& fichero) const
     {
         try {
             return m_clase.disenar(proyecto, m_datos);
         } catch (const rpc::ErrorValor& error) {
-            throw ErrorEjecucion(fmt::format("«{}»: {}", m_proyecto, error.what()));
+            throw ErrorEjecucion(fmt::format("«{}»: {}", fichero, error.what()));
         }
     }
 
     const Clase& m_clase;
-    std::string m_proyecto, m_datos;
+    std::vector<std::string> m_proyectos;
+    std::string m_datos;
     std::optional<std::string> m_guardar, m_informe;
     bool m_bJson = false, m_bCsv = false, m_bEstricto = false;
 };

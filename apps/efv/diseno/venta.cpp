@@ -8,6 +8,7 @@
 #include <quorvel/report/venta.h>
 #include <quorvel/solar.h>
 
+#include "comun/numeros.h"
 #include "comun/tabla_k.h"
 #include "diseno/diseno.h"
 #include "diseno/proyecto.h"
@@ -87,21 +88,37 @@ ProyectoVenta LeerProyecto(const JsonLeido& j, const std::string& csDatos)
     return proyecto;
 }
 
-// The years as a spreadsheet reads them.
+struct ColumnaCsv {
+    const char* nombre;
+    CArray<double, double&> CSFVCalculoEconomico::*valores;
+};
+constexpr auto kColumnasCsv = std::to_array<ColumnaCsv>({
+    {"año", &CSFVCalculoEconomico::aAnio},
+    {"energia_kWh", &CSFVCalculoEconomico::aEnergia},
+    {"prima_eur_kWh", &CSFVCalculoEconomico::aPrima},
+    {"ingresos_eur", &CSFVCalculoEconomico::aIngresos},
+    {"ingresos_acumulados_eur", &CSFVCalculoEconomico::aIngresosAcumulados},
+    {"capital_e_interes_eur", &CSFVCalculoEconomico::aCapitalInteres},
+    {"mantenimiento_eur", &CSFVCalculoEconomico::aMantenimiento},
+    {"flujo_eur", &CSFVCalculoEconomico::aCashFlow},
+    {"flujo_acumulado_eur", &CSFVCalculoEconomico::aAcumulado},
+});
+
+// The years as a spreadsheet reads them, in full precision.
 std::string Csv(const CSFVCalculoEconomico& estudio)
 {
     std::string texto;
-    const auto linea = [&](const auto& celdas) {
-        std::string_view separador;
-        for (const auto& celda : celdas) {
+    for (const ColumnaCsv& columna : kColumnasCsv)
+        texto += fmt::format("{}{}", texto.empty() ? "" : ";", columna.nombre);
+    texto += '\n';
+    for (std::ptrdiff_t i = 0; i < estudio.aAnio.GetSize(); ++i) {
+        const char* separador = "";
+        for (const ColumnaCsv& columna : kColumnasCsv) {
             texto += std::exchange(separador, ";");
-            texto += CadenaUtf8(CString(celda));
+            texto += DecimalExacto((estudio.*columna.valores)[i]);
         }
         texto += '\n';
-    };
-    linea(economics::TitulosVenta());
-    for (const economics::FilaVenta& fila : economics::FilasVenta(estudio))
-        linea(fila);
+    }
     return texto;
 }
 
@@ -128,7 +145,7 @@ Diseno EstudiarVenta(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"dInclinacion", proyecto.lugar ? JsonEscrito(proyecto.Inclinacion()) : JsonEscrito()},
                       {"valores", ValoresJson(CamposDeRegistro(estudio))},
                       {"tasa_hallada", resultado.bTasaHallada},
-                      {"en_positivo_desde_el_ano",
+                      {"en_positivo_desde_el_año",
                        resultado.iAnoRecuperado ? JsonEscrito(*resultado.iAnoRecuperado) : JsonEscrito()},
                       {"avisos", AvisosJson(avisos)},
                       {"supuestos", report::Supuestos(proyecto, resultado)}};

@@ -43,8 +43,8 @@ Json DeLosPlanos(const solar::EnergiaPlanos& energia)
         Json meses = Json::array();
         for (const solar::MesEnergia& mes : ano.meses)
             meses.push_back(Numero(mes.dEnergiaMes));
-        planos.push_back({{"inclinacion", plano.dInclinacion},
-                          {"orientacion", plano.dOrientacion},
+        planos.push_back({{"inclinacion_grados", plano.dInclinacion},
+                          {"orientacion_grados", plano.dOrientacion},
                           {"parte", plano.dParte},
                           {"energia_kWh", Numero(ano.Energia())},
                           {"hacia_el_ecuador_kWh", Numero(alEcuador.Energia())},
@@ -61,7 +61,7 @@ Json DelLugar(const std::optional<Localidad>& lugar)
     if (!lugar)
         return nullptr;
     return {{"nombre", CadenaUtf8(lugar->csNombre)}, {"provincia", CadenaUtf8(lugar->csProvincia)},
-            {"pais", CadenaUtf8(lugar->csPais)},     {"longitud", lugar->dLongitud},
+            {"pais", CadenaUtf8(lugar->csPais)},     {"longitud_grados", lugar->dLongitud},
             {"altitud_m", lugar->dAltitud},          {"fuente", CadenaUtf8(lugar->csFuente)}};
 }
 
@@ -92,11 +92,11 @@ Json Documento(const Estudio& estudio)
     }
     return {
         {"lugar", DelLugar(estudio.encargo.lugar)},
-        {"latitud", campo.dLatitud},
+        {"latitud_grados", campo.dLatitud},
         {"hemisferio", campo.bNorte ? "norte" : "sur"},
-        {"inclinacion", campo.dInclinacion},
-        {"inclinacion_correlacion", campo.InclinacionCorrelacion()},
-        {"orientacion", campo.dOrientacion},
+        {"inclinacion_grados", campo.dInclinacion},
+        {"inclinacion_correlacion_grados", campo.InclinacionCorrelacion()},
+        {"orientacion_grados", campo.dOrientacion},
         {"potencia_kWp", campo.dPotencia},
         {"pr", campo.dPR},
         {"factor", campo.dFactor},

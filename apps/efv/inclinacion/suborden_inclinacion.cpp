@@ -113,20 +113,21 @@ std::string InformeJson(const Resultado& r)
     Json meses = Json::array();
     for (std::size_t m = 0; m <= kAno; ++m) {
         Json fila{{"mes", NombreFila(m)},
-                  {"inclinacion", r.optimas[m].dInclinacion},
+                  {"inclinacion_grados", r.optimas[m].dInclinacion},
                   {"radiacion_kWh_m2", r.optimas[m].dRadiacion / 1000.0},
                   {"limitada", r.optimas[m].bLimitada}};
         if (r.plano)
-            fila["perdidas"] = Numero(r.plano->adPerdidas[m]);
+            fila["perdidas_pct"] = Numero(r.plano->adPerdidas[m]);
         meses.push_back(std::move(fila));
     }
     Json documento{{"lugar", r.sitio.lugar ? Json(CadenaUtf8(NombreConProvincia(*r.sitio.lugar))) : Json()},
-                   {"latitud", r.sitio.dLatitud},
+                   {"latitud_grados", r.sitio.dLatitud},
                    {"altitud_m", r.sitio.dAltitud},
-                   {"orientacion", r.sitio.OrientacionAlEcuador()},
+                   {"orientacion_grados", r.sitio.OrientacionAlEcuador()},
                    {"meses", std::move(meses)}};
     if (r.plano)
-        documento["plano"] = {{"inclinacion", r.plano->dInclinacion}, {"orientacion", r.plano->dOrientacion}};
+        documento["plano"] = {{"inclinacion_grados", r.plano->dInclinacion},
+                              {"orientacion_grados", r.plano->dOrientacion}};
     if (r.filas) {
         documento["filas"] = {{"regla", r.filas->regla},
                               {"distancia_filas_m", Numero(r.filas->dDistanciaFilas)},

@@ -62,7 +62,7 @@ std::string Texto(const Precios& precios)
 
 std::string Csv(const Precios& precios)
 {
-    std::string texto = "mes;dia;hora;periodo;precio_consumo;precio_vertido\n";
+    std::string texto = "mes;dia;hora;periodo;precio_consumo_eur_kWh;precio_vertido_eur_kWh\n";
     for (int h = 0; h < static_cast<int>(precios.adConsumo.size()); ++h) {
         const auto i = static_cast<std::size_t>(h);
         texto += fmt::format("{};{};{};P{};{};{}\n", phGetMes(h) + 1, phGetDia(h) + 1, phGetHora(h),
@@ -80,10 +80,10 @@ std::string EnJson(const Precios& precios)
     return TextoJson({{"año", precios.iAno},
                       {"horas", precios.bSolar ? "solares" : "oficiales"},
                       {"impuestos", precios.tarifa.dImpuestos},
-                      {"precio_medio", Media(precios.adConsumo)},
+                      {"precio_medio_eur_kWh", Media(precios.adConsumo)},
                       {"periodo", std::move(periodos)},
-                      {"precio_consumo", precios.adConsumo},
-                      {"precio_vertido", precios.adExcedente}});
+                      {"precio_consumo_eur_kWh", precios.adConsumo},
+                      {"precio_vertido_eur_kWh", precios.adExcedente}});
 }
 
 // A week of winter and one of summer, from Monday, hour by hour.

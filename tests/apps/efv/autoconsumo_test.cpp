@@ -42,23 +42,23 @@ TEST(Autoconsumo, LaCasaDelEjemploContraOtroPrograma)
     estudio.json["bateria"]["regla"] = "autoconsumo";
     const Json con = estudio.Resultado();
     EXPECT_NEAR(con["anual"]["autoconsumida_kWh"].get<double>(), 3009.821681464, 1e-8);
-    EXPECT_NEAR(con["anual"]["compra"].get<double>(), 84.533113138, 1e-8);
-    EXPECT_NEAR(con["anual"]["ahorro"].get<double>(), 597.930186923, 1e-8);
+    EXPECT_NEAR(con["anual"]["compra_eur"].get<double>(), 84.533113138, 1e-8);
+    EXPECT_NEAR(con["anual"]["ahorro_eur"].get<double>(), 597.930186923, 1e-8);
     EXPECT_NEAR(con["valores"]["dAniosRecuperacion"].get<double>(), 13.4379119068, 1e-9);
     EXPECT_NEAR(con["valores"]["dTIR"].get<double>(), 6.4065, 1e-3);
     // The years of the study under their old name too, but not under both.
     estudio.json["años"] = 3;
-    const Json tres = estudio.Resultado()["flujos"];
+    const Json tres = estudio.Resultado()["flujos_eur"];
     estudio.json["anos"] = 3;
     EXPECT_EQ(estudio.Correr().iEstado, 1);
     estudio.json.erase("años");
-    EXPECT_EQ(estudio.Resultado()["flujos"], tres);
-    EXPECT_NE(con["flujos"], tres);
+    EXPECT_EQ(estudio.Resultado()["flujos_eur"], tres);
+    EXPECT_NE(con["flujos_eur"], tres);
     estudio.json.erase("anos");
     estudio.json.erase("bateria");
     const Json sin = estudio.Resultado();
-    EXPECT_NEAR(sin["anual"]["gasto_sin_instalacion"].get<double>(), 618.727754105, 1e-8);
-    EXPECT_NEAR(sin["anual"]["ahorro"].get<double>(), 529.787173213, 1e-8);
+    EXPECT_NEAR(sin["anual"]["gasto_sin_instalacion_eur"].get<double>(), 618.727754105, 1e-8);
+    EXPECT_NEAR(sin["anual"]["ahorro_eur"].get<double>(), 529.787173213, 1e-8);
     EXPECT_NEAR(sin["valores"]["dAniosRecuperacion"].get<double>(), 10.2890015414, 1e-9);
 }
 
@@ -70,7 +70,7 @@ TEST(Autoconsumo, UnBarridoPasaPorElEstudio)
     const Json& punto = json["barrido"][3];
     EXPECT_EQ(punto["potencia_kWp"], 4.2);
     EXPECT_EQ(punto["bateria_kWh"], 5.0);
-    EXPECT_NEAR(punto["ahorro"].get<double>(), json["anual"]["ahorro"].get<double>(), 1e-9);
+    EXPECT_NEAR(punto["ahorro_eur"].get<double>(), json["anual"]["ahorro_eur"].get<double>(), 1e-9);
     EXPECT_NEAR(punto["recuperacion_años"].get<double>(), json["valores"]["dAniosRecuperacion"].get<double>(),
                 1e-9);
     // More panels cover no less.
@@ -136,9 +136,9 @@ TEST(Tarifa, DaLosPreciosDelAnoPedido)
     auto argumentos = precios;
     argumentos.emplace_back("--json");
     const Json json = Json::parse(Correr(argumentos).salida);
-    EXPECT_NEAR(json["precio_medio"].get<double>(), 1.1 * (2040 * 0.2 + 2040 * 0.15 + 4680 * 0.1) / 8760,
-                1e-12);
-    EXPECT_EQ(json["precio_consumo"].size(), 8760U);
+    EXPECT_NEAR(json["precio_medio_eur_kWh"].get<double>(),
+                1.1 * (2040 * 0.2 + 2040 * 0.15 + 4680 * 0.1) / 8760, 1e-12);
+    EXPECT_EQ(json["precio_consumo_eur_kWh"].size(), 8760U);
     EXPECT_TRUE(Contiene(Correr(precios).salida, {"P1", "2040", "4680", "Precios de 2025 en horas solares"}));
     const Corrida falta = Correr({"tarifa", "--p1", "0,2"});
     EXPECT_EQ(falta.iEstado, 2);

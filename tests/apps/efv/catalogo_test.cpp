@@ -199,7 +199,7 @@ TEST_F(OrdenCatalogo, VariosPanSeAnadenTodosONinguno)
     EXPECT_NE(corrida.salida.find("Una#Mala: "), std::string::npos) << corrida.salida;
     EXPECT_EQ(Contenido(), antes);
 
-    EXPECT_EQ(OrdenJson({"catalogo", "importar-pan", a, b, "--familia", "Ñ & Cía"})["anadidos"], 2);
+    EXPECT_EQ(OrdenJson({"catalogo", "importar-pan", a, b, "--familia", "Ñ & Cía"})["añadidos"], 2);
     EXPECT_EQ(Ids({"catalogo", "listar", "--familia", "Ñ & Cía"}), (Textos{"Ñ & Cía#A", "Ñ & Cía#B"}));
     // Each to its maker; a name that stands elsewhere is told. A catalogue that is missing is made.
     const Corrida porMarcas = Orden({"catalogo", "importar-pan", a, b});

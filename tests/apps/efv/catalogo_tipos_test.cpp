@@ -183,7 +183,7 @@ TEST_F(TiposDeCatalogo, UnaBibliotecaCecCreaSuCatalogoYNoRepite)
     EXPECT_NE(corrida.salida.find("2 modelos añadidos"), std::string::npos) << corrida.salida;
     const std::string completo = Leer(fichero);
     const Json otra = EnJson(orden);
-    EXPECT_EQ(otra["anadidos"], 0);
+    EXPECT_EQ(otra["añadidos"], 0);
     EXPECT_EQ(otra["tipo"], "inversores");
     EXPECT_EQ(otra["ya_estaban"].size(), 3U);
     EXPECT_EQ(otra["no_sirven"][0]["linea"], 6);

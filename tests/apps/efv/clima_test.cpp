@@ -28,11 +28,11 @@ TEST(OrdenInclinacion, OptimasYPerdidasDelAno)
 {
     const Json json = CorrerJson({"inclinacion", "--json", "--inclinacion", "0"}, kMadrid);
     const Json ano = json["meses"][12];
-    EXPECT_EQ(ano["inclinacion"], 36.0);
+    EXPECT_EQ(ano["inclinacion_grados"], 36.0);
     EXPECT_NEAR(ano["radiacion_kWh_m2"].get<double>(), 2444.0195, 5e-5);
-    EXPECT_NEAR(ano["perdidas"].get<double>(), 15.47143, 1e-5);
+    EXPECT_NEAR(ano["perdidas_pct"].get<double>(), 15.47143, 1e-5);
     EXPECT_FALSE(ano["limitada"]);
-    EXPECT_EQ(json["meses"][11]["inclinacion"], 39.5);  // the last one that is tried
+    EXPECT_EQ(json["meses"][11]["inclinacion_grados"], 39.5);  // the last one that is tried
     EXPECT_TRUE(json["meses"][11]["limitada"]);
     const Corrida texto = Correr({"inclinacion", "--lat", "-33.45", "--altitud", "520"});
     EXPECT_NE(texto.salida.find("hacia el norte"), std::string::npos);
@@ -100,7 +100,7 @@ TEST_F(OrdenClimaRed, DescargadoSeVeYSeUsa)
     ASSERT_EQ(corrida.iEstado, 0) << corrida.errores;
     EXPECT_EQ(corrida.salida.find("UTC"), std::string::npos);
     const Json ver = CorrerJson({"clima", "ver", Ruta("madrid.txt"), "--json"}, {});
-    EXPECT_EQ(ver["longitud"], -3.7);
+    EXPECT_EQ(ver["longitud_grados"], -3.7);
     // 400 at noon, 60 less for each hour before or after: 2680 a day of June, whose sun is up in all of them.
     EXPECT_NEAR(ver["horizontal_kWh_m2"][5].get<double>(), 30 * 2.68, 1e-9);
     const Corrida plano = Correr({"clima", "plano", Ruta("madrid.txt"), "--inclinacion", "30"});
@@ -136,7 +136,7 @@ TEST_F(OrdenClimaRed, LaMensualValeParaOtrasOrdenes)
     const Corrida texto = Correr({"clima", "mensual", "--lat", "40,4", "--lon=-3,7"});
     EXPECT_NE(texto.salida.find("--lat 40.4 --radiacion 2700.0 5978.6 "), std::string::npos) << texto.salida;
     const Json json = CorrerJson({"clima", "mensual", "--lat", "40,4", "--lon=-3,7", "--json"}, {});
-    EXPECT_NEAR(json["radiacion"][1].get<double>(), 46.5 / 28 * 3600, 1e-9);
+    EXPECT_NEAR(json["radiacion_kJ_m2_dia"][1].get<double>(), 46.5 / 28 * 3600, 1e-9);
     Usar(servidor->http + "rechazo");
     EXPECT_EQ(Correr({"clima", "mensual", "--lat", "40,4", "--lon=-3,7"}).iEstado, 1);
 }

@@ -44,12 +44,12 @@ TEST(Consumo, UnFicheroSeImportaEnSuUnidadYTiempo)
     const std::string ruta = carpeta.Crear("enero.csv", texto);
     const Json json = Calcular({"importar", ruta, "--unidad", "kWh", "--tiempo", "1/4", "--periodo", "1"});
     EXPECT_EQ(json["energia_mes_Wh"][0], 744000.0);
-    EXPECT_EQ(json["energia_ano_Wh"], 744000.0);
+    EXPECT_EQ(json["energia_año_Wh"], 744000.0);
     EXPECT_EQ(json["horas_Wh"][743], 1000.0);
 
     EsperarFallo({"importar", ruta}, 1, "2976 valores y se esperaban 8760");
     EsperarFallo({"importar", ruta, "--periodo", "1"}, 1, "más de los 744");
-    EXPECT_EQ(Calcular({"importar", ruta, "--incompleto"})["energia_ano_Wh"], 744.0);
+    EXPECT_EQ(Calcular({"importar", ruta, "--incompleto"})["energia_año_Wh"], 744.0);
     EsperarFallo({"importar", carpeta.Crear("c.csv", "Consumo;1;2")}, 1, "el valor 1 no es un número");
     EsperarFallo({"importar", carpeta.Crear("v.csv", "\n\n")}, 1, "no tiene ningún valor");
     EsperarFallo({"importar", carpeta.Crear("b.csv", std::string("1\0;", 3))}, 1, "no es texto");
@@ -113,7 +113,7 @@ TEST(Consumo, LosReceptoresDeUnaLista)
     const std::string ruta = carpeta.Crear("r.json", Json({receptor, excluido}).dump());
     const Json json = Calcular({"receptores", ruta});
     EXPECT_EQ(json["potencia_maxima_W"], 120.0);
-    EXPECT_EQ(json["energia_ano_Wh"], 365 * 180.0);
+    EXPECT_EQ(json["energia_año_Wh"], 365 * 180.0);
     EsperarFallo({"receptores", carpeta.Crear("o.json", "{}")}, 1, "no es una lista");
     EsperarFallo({"receptores", carpeta.Crear("m.json", "[{},{\"dHorario\":[1]}]")}, 1, "receptor 2");
     EsperarFallo({"receptores", carpeta.Crear("v.json", "")}, 1, "está vacío");

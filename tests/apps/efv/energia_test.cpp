@@ -103,16 +103,16 @@ TEST_F(Energia, UnCampoDelSurSeInclinaHaciaElNorte)
     EXPECT_NEAR(sur["meses"][5]["correlacion"]["ri_kWh_m2_dia"].get<double>(), 2.7564598565673415, 1e-9);
     // Between −40 (0.8) and 40 (1.2): 0.8 + 0.4 × 6.6 / 80 = 0.833.
     EXPECT_NEAR(sur["meses"][0]["tabla"]["ri_kWh_m2_dia"].get<double>(), 25200 * 0.833 / 3600, 1e-9);
-    EXPECT_EQ(sur["inclinacion"], 30.0);
-    EXPECT_EQ(sur["inclinacion_correlacion"], -30.0);
-    EXPECT_EQ(sur["orientacion"], 180.0);
+    EXPECT_EQ(sur["inclinacion_grados"], 30.0);
+    EXPECT_EQ(sur["inclinacion_correlacion_grados"], -30.0);
+    EXPECT_EQ(sur["orientacion_grados"], 180.0);
     EXPECT_NE(sur["notas"].dump().find("Hemisferio sur"), std::string::npos);
 }
 
 TEST_F(Energia, LaInclinacionPropiaEsLaLatitudSinSigno)
 {
-    EXPECT_EQ(Calcular({"--lat", "-33,6", "--radiacion", kSur})["inclinacion"], 34.0);
-    EXPECT_EQ(Calcular({"--lat", "40.4", "--radiacion", kNorte})["inclinacion"], 40.0);
+    EXPECT_EQ(Calcular({"--lat", "-33,6", "--radiacion", kSur})["inclinacion_grados"], 34.0);
+    EXPECT_EQ(Calcular({"--lat", "40.4", "--radiacion", kNorte})["inclinacion_grados"], 40.0);
 }
 
 // Each case is the one that is asked for alone; energy goes with the power.
@@ -124,7 +124,7 @@ TEST_F(Energia, VariosCasosSeComparan)
     ASSERT_EQ(casos.size(), 12U);
     EXPECT_EQ(casos[5],
               Calcular(Mas(campo, {"--inclinacion", "25", "--orientacion", "-30", "--potencia", "4"})));
-    EXPECT_EQ(casos[11]["orientada"]["planos"][0]["orientacion"], 0.0);
+    EXPECT_EQ(casos[11]["orientada"]["planos"][0]["orientacion_grados"], 0.0);
     EXPECT_NEAR(casos[11]["de_uso"]["energia_kWh"].get<double>(),
                 2 * casos[10]["de_uso"]["energia_kWh"].get<double>(), 1e-9);
     const std::string csv = Correr(Mas({"energia", "--csv", "--inclinacion", "20;30"}, campo)).salida;
@@ -210,7 +210,7 @@ TEST_F(Energia, LosLugaresDistribuidosSeHallanPorSuNombre)
     const Json lugares = Json::parse(Correr({"lugares", "malaga", "--json"}).salida);
     ASSERT_GE(lugares.size(), 1U);  // Vélez-Málaga and others contain it too
     const Json malaga = Calcular({"--lugar", "málaga"});
-    EXPECT_EQ(malaga["latitud"], lugares[0]["latitud"]);
+    EXPECT_EQ(malaga["latitud_grados"], lugares[0]["latitud_grados"]);
     EXPECT_EQ(malaga["meses"][11]["radiacion_kJ_m2_dia"], lugares[0]["radiacion_kJ_m2_dia"][11]);
     EXPECT_TRUE(malaga["anual"]["tabla"]["energia_kWh"].is_number());
     EsperarFallo({"energia", "--lugar", "Malga\n"}, 1, "Málaga");

@@ -84,7 +84,7 @@ TEST_F(Lugares, LosPropiosSeAnadenYVanDelante)
     ASSERT_EQ(corrida.iEstado, 0) << corrida.errores;
     EXPECT_TRUE(corrida.salida.starts_with("Añadido: Moya (A & \"B\"), en "));
     const Json hallado = Json::parse(Con({"inclinacion", "--lugar", "moya", "--json"}).salida);
-    EXPECT_EQ(hallado["latitud"], 40.25);
+    EXPECT_EQ(hallado["latitud_grados"], 40.25);
     EXPECT_EQ(Lista("moya").size(), 5U);
     EXPECT_EQ(Con(completa).iEstado, 1);  // the name is taken
     EXPECT_EQ(Con({"lugares", "anadir", "X", "--lat", "91", "--radiacion", "1"}).iEstado, 2);

@@ -95,8 +95,9 @@ TEST_F(Venta, EscribeTablaCsvArchivoEInforme)
                           {"dCosteInstalacion", 9000}, {"dPrimaFija", 0.5},     {"dAniosEstudio", 15.5}};
     const Corrida csv = Estudiar(estudio, {"--csv"});
     EXPECT_TRUE(
-        csv.salida.starts_with("Año;Energia Anual;Prima;Ingresos;Ing Acumulados;Capital+Interes;"
-                               "Mantenimiento;Cash Flow;Acumulado\n1;8000,00;0,50000;4000,00;4000,00;"))
+        csv.salida.starts_with("año;energia_kWh;prima_eur_kWh;ingresos_eur;ingresos_acumulados_eur;"
+                               "capital_e_interes_eur;mantenimiento_eur;flujo_eur;flujo_acumulado_eur\n"
+                               "1;8000;0,5;4000;4000;"))
         << csv.salida;
     EXPECT_EQ(std::ranges::count(csv.salida, '\n'), 17);  // 15.5 years have 16 rows
     const std::string archivo = (m_carpeta.Ruta() / "venta.bin").string();
