@@ -37,6 +37,8 @@ constexpr const char* kClima = "Clima";
 constexpr const char* kCatalogos = "&Catálogos";
 constexpr const char* kAyuda = "A&yuda";
 
+constexpr std::string_view kConsumo = "consumo", kVenta = "venta", kAutoconsumo = "autoconsumo";  // tabs
+
 using Ventana = VentanaPrincipal;
 
 // What is on view may be of a model that is another now.
@@ -45,6 +47,13 @@ void EditarCatalogo(Ventana& ventana)
 {
     EDITAR(kEditar);
     ventana.LaSesion().Cambiado();
+}
+
+// What is accepted is looked at.
+template <void (*HACER)(Sesion&), const auto& FICHA>
+void ConSuFicha(Ventana& ventana)
+{
+    ventana.MostrarSiCambia(FICHA, [&] { HACER(ventana.LaSesion()); });
 }
 
 void LlenarRecientes(Ventana& ventana, QMenu& menu)
@@ -156,15 +165,15 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, "Instalación &aislada…", nullptr,
      [](Ventana& v) { v.MostrarDisenado(DisenarAislada(v.LaSesion())); }},
     {kDiseno, "Conexión a &red…", nullptr, [](Ventana& v) { v.MostrarDisenado(DisenarRed(v.LaSesion())); }},
-    {kDiseno, "&Consumo…", nullptr, [](Ventana& v) { EditarConsumo(v.LaSesion()); }},
+    {kDiseno, "&Consumo…", nullptr, &ConSuFicha<&EditarConsumo, kConsumo>},
     {kDiseno, "&Planos del campo…", nullptr, [](Ventana& v) { v.EditarPlanos(); }},
     {kDiseno, nullptr, nullptr, nullptr},
     {kDiseno, "Por&tada del informe…", nullptr, [](Ventana& v) { EditarPortada(v.LaSesion()); }},
     {kDiseno, "I&nforme…", "Ctrl+I", [](Ventana& v) { ConDisenoALaVista(v, &GuardarInforme); }},
     {kDiseno, "Imprimir in&forme…", "Ctrl+P", [](Ventana& v) { ConDisenoALaVista(v, &ImprimirInforme); }},
-    {kEconomia, "&Venta a la red…", nullptr, [](Ventana& v) { EstudiarVenta(v.LaSesion()); }},
-    {kEconomia, "&Autoconsumo…", nullptr, [](Ventana& v) { EstudiarAutoconsumo(v.LaSesion()); }},
-    {kEconomia, "Autoconsumo &guiado…", nullptr, [](Ventana& v) { EstudiarAutoconsumoGuiado(v.LaSesion()); }},
+    {kEconomia, "&Venta a la red…", nullptr, &ConSuFicha<&EstudiarVenta, kVenta>},
+    {kEconomia, "&Autoconsumo…", nullptr, &ConSuFicha<&EstudiarAutoconsumo, kAutoconsumo>},
+    {kEconomia, "Autoconsumo &guiado…", nullptr, &ConSuFicha<&EstudiarAutoconsumoGuiado, kAutoconsumo>},
     {kEconomia, "&Precios horarios…", nullptr, [](Ventana& v) { EditarPrecios(v.LaSesion()); }},
     {kEsquema, "&Encajar en la ventana", "Ctrl+0", &EncajarEsquema},
     {kEsquema, "&Ampliar", "Ctrl++", [](Ventana& v) { AmpliarEsquema(v, kPasoAmpliar); }},

@@ -135,14 +135,14 @@ void VentanaPrincipal::CrearTeclas()
 std::vector<QWidget*> VentanaPrincipal::Partes() const
 {
     std::vector<QWidget*> partes{qobject_cast<QSplitter*>(centralWidget())->widget(0)};
-    // A design has its schematic above and its figures below.
-    if (const auto* division = qobject_cast<QSplitter*>(m_pestanas->currentWidget()))
-        for (int i = 0; i < division->count(); ++i) {
-            const auto* fichas = qobject_cast<QTabWidget*>(division->widget(i));
-            partes.push_back(fichas != nullptr ? fichas->currentWidget() : division->widget(i));
-        }
-    else
+    const auto* division = qobject_cast<QSplitter*>(m_pestanas->currentWidget());
+    if (division == nullptr)
         partes.push_back(m_pestanas->currentWidget());
+    // A design has its schematic above and its figures below.
+    for (int i = 0; division != nullptr && i < division->count(); ++i) {
+        const auto* fichas = qobject_cast<QTabWidget*>(division->widget(i));
+        partes.push_back(fichas != nullptr ? fichas->currentWidget() : division->widget(i));
+    }
     return partes;
 }
 

@@ -39,12 +39,24 @@ Sesion SesionInicial(const std::vector<Localidad>& localidades)
 
 constexpr double kParteDePantalla = 0.93;  // the title bar takes some
 constexpr int kEntreCopias = 5000;         // ms
-constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270;
+constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270, kAltoEsquema = 120;
 
 // Of the screen's width, before a panel scrolls sideways.
 constexpr double kParteLugar = 0.35, kPartePestanas = 0.5;
 
 constexpr int kComprobaciones = 1;  // tab below a schematic, behind the summary
+
+// The drawing for who can't see it: what stands in it, from left to right.
+QString Descripcion(const Lamina& lamina, const CString& csSinDiseno)
+{
+    QStringList elementos;
+    for (const Zona& zona : lamina.zonas)
+        if (const QString titulo = QString::fromStdWString(zona.csTitulo); !elementos.contains(titulo))
+            elementos << titulo;
+    return elementos.isEmpty()
+               ? QString::fromStdWString(csSinDiseno)
+               : QStringLiteral("De los paneles a la salida: ") + elementos.join(QStringLiteral(", "));
+}
 
 // A design's summary with what keeps it from being up to date.
 PanelResumen::Contenido ConAviso(PanelResumen::Contenido contenido, const CProyectoEstudio& proyecto,
@@ -203,6 +215,8 @@ QWidget* VentanaPrincipal::CrearPestana(const FilaPestana& fila)
     esquema->tieneRotulos = [this, diseno](Elemento::Clase clase) {
         return !ClaseDeDialogo(m_sesion.Proyecto(), {diseno, clase}).empty();
     };
+    // On a screen of few lines the figures below want to be seen too.
+    esquema->setMinimumHeight(kAltoEsquema);
     partes->addWidget(esquema);
     auto* cuentas = new QTabWidget(partes);
     cuentas->setDocumentMode(true);
@@ -355,7 +369,9 @@ void VentanaPrincipal::MostrarDiseno(int iPestana, Diseno diseno)
     Esquema esquema = EsquemaDe(proyecto, diseno, Calculado(diseno));
     if (!csAviso.empty())
         esquema.acsNotas.insert(esquema.acsNotas.begin(), csAviso);
-    m_esquemas[static_cast<std::size_t>(iPestana)]->Poner(Dibujar(esquema), fila.sinLamina);
+    VistaEsquema& vista = *m_esquemas[static_cast<std::size_t>(iPestana)];
+    vista.Poner(Dibujar(esquema), fila.sinLamina);
+    vista.setAccessibleDescription(Descripcion(vista.Mostrado(), fila.sinLamina));
     m_pestanas->setTabText(iPestana,
                            QString(fila.rotulo) + QString(csAviso.empty() ? "" : " (desactualizada)"));
     m_pestanas->setTabToolTip(iPestana, QString::fromStdWString(csAviso));
@@ -374,6 +390,14 @@ void VentanaPrincipal::MostrarDisenado(std::optional<Diseno> diseno)
 {
     if (diseno)
         MostrarPestana(*diseno == Diseno::aislada ? "aislada" : "red");
+}
+
+void VentanaPrincipal::MostrarSiCambia(std::string_view pestana, const std::function<void()>& accion)
+{
+    const std::vector<std::byte> antes(m_sesion.Bytes().begin(), m_sesion.Bytes().end());
+    accion();
+    if (!std::ranges::equal(antes, m_sesion.Bytes()))
+        MostrarPestana(pestana);
 }
 
 void VentanaPrincipal::MostrarComprobaciones(bool bMostrar)

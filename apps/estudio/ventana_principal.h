@@ -45,6 +45,8 @@ public:
     void MostrarPestana(std::string_view nombre);
     /// Brings the tab of a design that was accepted to the front.
     void MostrarDisenado(std::optional<Diseno> diseno);
+    /// The same for what changes the project.
+    void MostrarSiCambia(std::string_view pestana, const std::function<void()>& accion);
     /// Brings the checks of the designs before their summaries, or these.
     void MostrarComprobaciones(bool bMostrar);
     /// The schematic of the tab on view; null when it has none.

@@ -294,23 +294,63 @@ void DisponerArea(QWidget* contenedor, const std::vector<Vista*>& vistas, std::v
 
 }  // namespace
 
+namespace {
+
+struct Reparto {
+    std::vector<Vista*> fuera;
+    std::map<int, std::vector<Vista*>> porPagina;
+};
+
+Reparto Repartir(const std::vector<Vista*>& vistas, const VistaPaginas* paginas)
+{
+    Reparto reparto;
+    for (Vista* vista : vistas) {
+        const int iPagina = vista->control.NumeroDePagina();
+        if (paginas != nullptr && vista != paginas && iPagina >= 0)
+            reparto.porPagina[iPagina].push_back(vista);
+        else
+            reparto.fuera.push_back(vista);
+    }
+    return reparto;
+}
+
+void AnadirEnOrden(std::vector<Vista*>& orden, const std::vector<Vista*>& vistas, bool bDentroDeGrupo)
+{
+    for (const Puesto& puesto : Reunir(vistas, bDentroDeGrupo)) {
+        if (puesto.grupo.empty())
+            orden.insert(orden.end(), puesto.vistas.begin(), puesto.vistas.end());
+        else
+            AnadirEnOrden(orden, puesto.vistas, true);
+    }
+}
+
+}  // namespace
+
 std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas,
                                      VistaPaginas* paginas)
 {
     std::vector<GrupoDispuesto> grupos;
-    std::vector<Vista*> fuera;
-    std::map<int, std::vector<Vista*>> porPagina;
-    for (Vista* vista : vistas) {
-        const int iPagina = vista->control.NumeroDePagina();
-        if (paginas != nullptr && vista != paginas && iPagina >= 0)
-            porPagina[iPagina].push_back(vista);
-        else
-            fuera.push_back(vista);
-    }
-    DisponerArea(contenedor, fuera, grupos);
-    for (const auto& [iPagina, dentro] : porPagina)
+    const Reparto reparto = Repartir(vistas, paginas);
+    DisponerArea(contenedor, reparto.fuera, grupos);
+    for (const auto& [iPagina, dentro] : reparto.porPagina)
         DisponerArea(paginas->Pagina(iPagina), dentro, grupos);
     return grupos;
+}
+
+std::vector<Vista*> EnOrdenDeLectura(const std::vector<Vista*>& vistas, VistaPaginas* paginas)
+{
+    const Reparto reparto = Repartir(vistas, paginas);
+    std::vector<Vista*> fuera;
+    AnadirEnOrden(fuera, reparto.fuera, false);
+    std::vector<Vista*> orden;
+    for (Vista* vista : fuera) {
+        orden.push_back(vista);
+        if (vista != paginas)
+            continue;
+        for (const auto& [iPagina, dentro] : reparto.porPagina)
+            AnadirEnOrden(orden, dentro, false);
+    }
+    return orden;
 }
 
 }  // namespace efv::qt

@@ -26,4 +26,8 @@ struct GrupoDispuesto {
 std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas,
                                      VistaPaginas* paginas);
 
+/// The same views as they are read once they stand there: a group as a whole, a line as a whole, a page behind
+/// the tabs.
+std::vector<Vista*> EnOrdenDeLectura(const std::vector<Vista*>& vistas, VistaPaginas* paginas);
+
 }  // namespace efv::qt

@@ -68,14 +68,14 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
         CrearBotones(*pila);
     else
         pila->setContentsMargins(0, 0, 0, 0);
-    // Tab order is that of the declaration, wherever the views stand.
+    // Tab order is that of reading, which is the declaration's but for what shares a line or a group.
     QWidget* anterior = nullptr;
     const auto encadenar = [&](QWidget* siguiente) {
         if (anterior != nullptr)
             setTabOrder(anterior, siguiente);
         anterior = siguiente;
     };
-    for (const auto& vista : m_vistas)
+    for (Vista* vista : EnOrdenDeLectura(vistas, m_paginas))
         vista->Encadenar(encadenar);
     if (m_aceptar != nullptr) {
         encadenar(m_aceptar);

@@ -75,6 +75,13 @@ private:
     static constexpr int kLineas = 4;  // of text, as high as the picture
     QLabel& Etiqueta() const { return static_cast<QLabel&>(*widget); }
 
+    // One without words goes by the window that it explains.
+    QString NombreHablado() const override
+    {
+        const QString hablado = Vista::NombreHablado();
+        return hablado.isEmpty() ? QStringLiteral("Dibujo: ") + widget->window()->windowTitle() : hablado;
+    }
+
     void RefrescarContenido() override
     {
         if (m_csImagen == m_imagen.csImagen && m_paleta == widget->palette().cacheKey())

@@ -1,5 +1,6 @@
 // The pages of a dialog.
 #include <QSignalBlocker>
+#include <QTabBar>
 #include <QTabWidget>
 
 #include "qt/texto.h"
@@ -24,6 +25,9 @@ public:
     bool EsAncha() const override { return true; }
     bool QuiereSitio() const override { return true; }
     bool RotulaPorSiMisma() const override { return true; }
+
+    // The row of tabs: what follows the whole of it would come behind its last page.
+    void Encadenar(const std::function<void(QWidget*)>& siguiente) override { siguiente(Pestanas().tabBar()); }
 
     QWidget* Pagina(int iPagina) override
     {

@@ -6,6 +6,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QGraphicsView>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMenuBar>
@@ -83,6 +84,44 @@ void ElOrdenEsElDeLaLectura(const ui::Dialogo& dialogo, const QWidget& ventana)
     }
 }
 
+// The way that Tab really goes: within its column nothing comes after what stands below it.
+void ElTabuladorSigueLaVista(const QWidget& ventana, const std::string& nombre)
+{
+    const QWidget* anterior = nullptr;
+    for (const QWidget* w = ventana.nextInFocusChain(); w != &ventana; w = w->nextInFocusChain()) {
+        if ((w->focusPolicy() & Qt::TabFocus) == 0 || w->window() != &ventana || !w->isVisibleTo(&ventana))
+            continue;
+        if (anterior != nullptr && anterior->parentWidget() == w->parentWidget()) {
+            const QRect antes = anterior->geometry();
+            const QRect ahora = w->geometry();
+            const bool bMismaColumna = ahora.left() < antes.right() && antes.left() < ahora.right();
+            EXPECT_FALSE(bMismaColumna && ahora.bottom() < antes.top())
+                << nombre << ": " << w->objectName().toStdString() << " after "
+                << anterior->objectName().toStdString();
+            const bool bMismaLinea = ahora.top() < antes.bottom() && antes.top() < ahora.bottom();
+            EXPECT_FALSE(bMismaLinea && ahora.right() < antes.left() && ahora.top() <= antes.top())
+                << nombre << ": " << w->objectName().toStdString() << " after "
+                << anterior->objectName().toStdString() << ", on its right";
+        }
+        anterior = w;
+    }
+}
+
+// Drawings are told in words.
+void LosDibujosSeDescriben(const QWidget& ventana, const std::string& nombre)
+{
+    for (const QWidget* w : ventana.findChildren<QWidget*>()) {
+        const auto* rotulo = qobject_cast<const QLabel*>(w);
+        const bool bImagen = rotulo != nullptr && !rotulo->pixmap().isNull();
+        const bool bDibujo = qobject_cast<const QGraphicsView*>(w) != nullptr || w->objectName() == "grafica";
+        if (w->isVisibleTo(&ventana) && (bImagen || bDibujo)) {
+            EXPECT_FALSE(w->accessibleName().isEmpty()) << nombre << ": " << w->objectName().toStdString();
+            EXPECT_TRUE(bImagen || !w->accessibleDescription().isEmpty())
+                << nombre << ": " << w->objectName().toStdString();
+        }
+    }
+}
+
 // Whoever hears the screen learns what each control is that the keyboard reaches.
 void TodosTienenNombre(QWidget& ventana, const std::string& nombre)
 {
@@ -109,6 +148,8 @@ TEST_F(Teclado, CadaTeclaEsDeUnSoloControlYElTabuladorPasaPorTodos)
             UnaTeclaUnControl(vista, dialogo.clase);
             ElOrdenEsElDeLaLectura(dialogo, vista);
             TodosTienenNombre(vista, dialogo.clase);
+            ElTabuladorSigueLaVista(vista, dialogo.clase);
+            LosDibujosSeDescriben(vista, dialogo.clase);
         },
         [](ui::Dialogo& dialogo, QDialog& vista) { ElTabuladorPasaPorTodos(vista, dialogo.clase); });
     EXPECT_GT(nVistos, 25);
@@ -122,6 +163,8 @@ TEST_F(Teclado, TambienEnLaVentanaDelPrograma)
         ventana.MostrarPestana(nombre);
         UnaTeclaUnControl(ventana, nombre);
         TodosTienenNombre(ventana, nombre);
+        ElTabuladorSigueLaVista(ventana, nombre);
+        LosDibujosSeDescriben(ventana, nombre);
     }
 }
 

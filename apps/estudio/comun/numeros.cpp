@@ -83,6 +83,9 @@ bool Cabe(const CString& csNumero, const ui::Intervalo& limites)
 
 std::optional<CString> SinMillares(const CString& csEscrito, const std::optional<ui::Intervalo>& limites)
 {
+    // Whoever reads points as decimal marks writes them as such.
+    if (MarcaDecimal() == L'.')
+        return csEscrito;
     const std::size_t nComa = csEscrito.find(L',');
     const std::size_t nSigno = csEscrito.starts_with(L'-') ? 1 : 0;
     const std::wstring_view entero =

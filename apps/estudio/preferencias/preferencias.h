@@ -5,6 +5,8 @@
 #include <span>
 #include <string_view>
 
+#include <QtCore/qglobal.h>
+
 #include <quorvel/ui/dialogo.h>
 
 QT_BEGIN_NAMESPACE

@@ -60,6 +60,7 @@ TEST_F(PreferenciasDeLaPersona, LosNumerosLlevanSuMarcaEnTodasPartes)
 {
     Aplicar({}, L'.');
     EXPECT_EQ(Decimal(1.5, 1), L"1.5");
+    EXPECT_EQ(SinMillares(L"1.744", std::nullopt), L"1.744");
     EXPECT_EQ(report::Decimal(1.5, 1), "1.5");
     EXPECT_EQ(EnUnidad(kEnergia, 2.0, 1), L"2.0 kWh");
     Muestra muestra;
