@@ -1,8 +1,10 @@
 #include "qt/modelo_filas.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include <QApplication>
+#include <QCollator>
 #include <QPalette>
 
 #include <quorvel/ui/filas.h>
@@ -12,6 +14,29 @@
 #include "qt/texto.h"
 
 namespace efv::qt {
+
+namespace {
+
+// What a row is put in order by.
+struct Clave {
+    enum class Clase { numero, texto, nada } clase;
+    double dNumero;
+    QString texto;
+    int iFila;
+};
+
+Clave ClaveDe(const CString& csCelda, int iFila)
+{
+    const QString texto = AQt(csCelda).simplified();
+    bool bNumero = false;
+    const double d = QString(texto).replace(',', '.').toDouble(&bNumero);
+    if (bNumero && std::isfinite(d))
+        return {Clave::Clase::numero, d, {}, iFila};
+    return {texto.isEmpty() || texto == QStringLiteral("—") ? Clave::Clase::nada : Clave::Clase::texto, 0.0,
+            texto, iFila};
+}
+
+}  // namespace
 
 ModeloLista::ModeloLista(const ui::Lista& lista, QObject* padre) : QAbstractItemModel(padre), m_lista(lista)
 {
@@ -27,6 +52,8 @@ void ModeloLista::Recargar()
     m_enCache = {-1, -1};
     if (EsArbol())
         ContarArbol();
+    else
+        Ordenar();
     endResetModel();
 }
 
@@ -60,11 +87,54 @@ void ModeloLista::ContarArbol()
     }
 }
 
+void ModeloLista::Ordenar()
+{
+    m_filaEn.clear();
+    m_lugarDe.clear();
+    if (m_iColumnaOrden < 0 || m_iColumnaOrden >= m_nColumnas)
+        return;
+    std::vector<Clave> claves;
+    claves.reserve(static_cast<std::size_t>(m_nFilas));
+    for (int iFila = 0; iFila < m_nFilas; ++iFila)
+        claves.push_back(ClaveDe(m_filas->Celda(iFila, m_iColumnaOrden), iFila));
+    QCollator alfabeto{QLocale(QLocale::Spanish)};
+    alfabeto.setNumericMode(true);
+    alfabeto.setCaseSensitivity(Qt::CaseInsensitive);
+    const auto nOrdenables = static_cast<std::ptrdiff_t>(std::max(0, m_nFilas - m_lista.nFilasFijas));
+    std::stable_sort(claves.begin(), claves.begin() + nOrdenables, [&](const Clave& a, const Clave& b) {
+        if (a.clase != b.clase)
+            return a.clase < b.clase;
+        const bool bAlReves = m_orden == Qt::DescendingOrder;
+        const Clave &primera = bAlReves ? b : a, &segunda = bAlReves ? a : b;
+        return a.clase == Clave::Clase::numero ? primera.dNumero < segunda.dNumero
+                                               : alfabeto.compare(primera.texto, segunda.texto) < 0;
+    });
+    m_lugarDe.resize(claves.size());
+    for (std::size_t i = 0; i < claves.size(); ++i) {
+        m_filaEn.push_back(claves[i].iFila);
+        m_lugarDe[static_cast<std::size_t>(claves[i].iFila)] = static_cast<int>(i);
+    }
+}
+
+void ModeloLista::sort(int columna, Qt::SortOrder orden)
+{
+    if (EsArbol() || (columna == m_iColumnaOrden && orden == m_orden))
+        return;
+    emit layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
+    m_iColumnaOrden = columna;
+    m_orden = orden;
+    Ordenar();
+    for (const QModelIndex& indice : persistentIndexList())
+        changePersistentIndex(indice, Indice(Fila(indice), indice.column()));
+    emit layoutChanged({}, QAbstractItemModel::VerticalSortHint);
+}
+
 QModelIndex ModeloLista::Indice(int iFila, int iColumna) const
 {
     if (iFila < 0 || iFila >= m_nFilas || iColumna < 0 || iColumna >= m_nColumnas)
         return {};
-    const int iPosicion = EsArbol() ? m_nodos[static_cast<std::size_t>(iFila)].iPosicion : iFila;
+    const auto n = static_cast<std::size_t>(iFila);
+    const int iPosicion = EsArbol() ? m_nodos[n].iPosicion : m_lugarDe.empty() ? iFila : m_lugarDe[n];
     return createIndex(iPosicion, iColumna, static_cast<quintptr>(iFila));
 }
 
@@ -78,7 +148,7 @@ QModelIndex ModeloLista::index(int fila, int columna, const QModelIndex& padre) 
     if (fila < 0 || fila >= rowCount(padre))
         return {};
     if (!EsArbol())
-        return Indice(fila, columna);
+        return Indice(m_filaEn.empty() ? fila : m_filaEn[static_cast<std::size_t>(fila)], columna);
     const int iPrimero = padre.isValid() ? m_nodos[static_cast<std::size_t>(Fila(padre))].iHijos : 0;
     const int iLugar = iPrimero + fila;
     return Indice(m_hijos[static_cast<std::size_t>(iLugar)], columna);

@@ -24,6 +24,9 @@ public:
     int columnCount(const QModelIndex& padre) const override;
     QVariant data(const QModelIndex& indice, int papel) const override;
     QVariant headerData(int seccion, Qt::Orientation orientacion, int papel) const override;
+    /// Shows the rows in order of a column, numbers by their value and what says nothing last; -1 as the
+    /// control has them. The rows' numbers stay those of the control. Trees have their own order.
+    void sort(int columna, Qt::SortOrder orden) override;
 
 private:
     struct Nodo {
@@ -35,6 +38,7 @@ private:
 
     bool EsArbol() const { return m_lista.forma == ui::Lista::Forma::arbol; }
     void ContarArbol();
+    void Ordenar();
     const QString& Celda(int iFila, int iColumna) const;
     int Alineacion(int iColumna) const;
 
@@ -46,6 +50,10 @@ private:
     std::vector<Nodo> m_nodos;
     std::vector<int> m_hijos;
     int m_nRaices = 0;
+    // Tables in order of a column: the row at each place and the place of each row. Empty: as they come.
+    int m_iColumnaOrden = -1;
+    Qt::SortOrder m_orden = Qt::AscendingOrder;
+    std::vector<int> m_filaEn, m_lugarDe;
     // A view asks for text and alignment of the same cell one after the other.
     mutable std::pair<int, int> m_enCache{-1, -1};
     mutable QString m_cache;

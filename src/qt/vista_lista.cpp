@@ -1,11 +1,17 @@
 // Lists, tables, trees.
 #include <algorithm>
 
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QScrollBar>
 #include <QTableView>
 #include <QTreeView>
+
+#include <quorvel/ui/filas.h>
 
 #include "qt/celdas_menu.h"
 #include "qt/modelo_filas.h"
@@ -31,6 +37,8 @@ public:
     using BASE::BASE;
     std::function<void()> alCambiarTamano;
     std::function<void(const QModelIndex&)> alPedirAbrir;
+    std::function<void()> alPedirCopia;
+    std::function<void(const QPoint& lugar)> alPedirMenu;
     QSize propuesto;
 
     QSize sizeHint() const override { return propuesto; }
@@ -46,8 +54,18 @@ protected:
     {
         if (evento->key() == Qt::Key_F2 && alPedirAbrir && BASE::currentIndex().isValid())
             alPedirAbrir(BASE::currentIndex());
+        else if (evento->matches(QKeySequence::Copy) && alPedirCopia)
+            alPedirCopia();
         else
             BASE::keyPressEvent(evento);
+    }
+    void contextMenuEvent(QContextMenuEvent* evento) override
+    {
+        if (!alPedirMenu)
+            return;
+        const bool bDeTeclado = evento->reason() == QContextMenuEvent::Keyboard;
+        const QPoint celda = BASE::viewport()->mapToGlobal(BASE::visualRect(BASE::currentIndex()).bottomLeft());
+        alPedirMenu(bDeTeclado ? celda : evento->globalPos());
     }
 };
 
@@ -84,13 +102,14 @@ public:
     {
         Rejas().setModel(m_modelo);
         Rejas().setSelectionBehavior(QAbstractItemView::SelectRows);
-        Rejas().setSelectionMode(QAbstractItemView::SingleSelection);
+        // Several for copying; chosen is the current one alone.
+        Rejas().setSelectionMode(QAbstractItemView::ExtendedSelection);
         Rejas().setEditTriggers(QAbstractItemView::NoEditTriggers);
         Rejas().setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
         Cabecera().setVisible(!lista.acsColumnas.empty());
         Cabecera().setResizeContentsPrecision(kFilasMedidas);
         Cabecera().setHighlightSections(false);
-        Cabecera().setSectionsClickable(false);
+        Cabecera().setSectionsClickable(SeOrdena());
         if (lista.acsColumnas.size() <= 1)
             Cabecera().setStretchLastSection(true);
         Conectar();
@@ -134,18 +153,95 @@ private:
         return Arbol() != nullptr ? *Arbol()->header() : *static_cast<QTableView*>(widget)->horizontalHeader();
     }
 
+    bool SeOrdena() const { return Arbol() == nullptr && m_lista.acsColumnas.size() > 1; }
+
     // A view that gets the focus makes a row the current one; chosen it is only once it is selected.
     int FilaElegida() const
     {
-        const QModelIndexList filas = Rejas().selectionModel()->selectedRows();
-        return filas.isEmpty() ? -1 : ModeloLista::Fila(filas.constFirst());
+        const QItemSelectionModel& eleccion = *Rejas().selectionModel();
+        const QModelIndex actual = Rejas().currentIndex();
+        if (actual.isValid() && eleccion.isRowSelected(actual.row(), actual.parent()))
+            return ModeloLista::Fila(actual);
+        const QItemSelection& trozos = eleccion.selection();
+        return trozos.isEmpty() ? -1 : ModeloLista::Fila(trozos.constFirst().topLeft());
+    }
+
+    // The rows to be copied as they stand on screen: those selected, else all.
+    std::vector<int> FilasACopiar() const
+    {
+        QModelIndexList elegidas = Rejas().selectionModel()->selectedRows();
+        std::vector<int> filas;
+        if (elegidas.isEmpty()) {
+            for (int i = 0; i < m_lista.Filas(); ++i)
+                filas.push_back(Arbol() != nullptr ? i : ModeloLista::Fila(m_modelo->index(i, 0, {})));
+            return filas;
+        }
+        // The rows of a tree are numbered from top to bottom.
+        const bool bArbol = Arbol() != nullptr;
+        std::ranges::sort(elegidas, {}, [bArbol](const QModelIndex& indice) {
+            return bArbol ? ModeloLista::Fila(indice) : indice.row();
+        });
+        for (const QModelIndex& indice : elegidas)
+            filas.push_back(ModeloLista::Fila(indice));
+        return filas;
+    }
+
+    void Copiar(ui::Cabeceras cabeceras) const
+    {
+        if (m_lista.modelo)
+            QApplication::clipboard()->setText(AQt(ui::TextoDeFilas(m_lista, FilasACopiar(), cabeceras)));
+    }
+
+    void AbrirMenuDeTabla(const QPoint& lugar)
+    {
+        auto* menu = new QMenu(widget);
+        QObject::connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater, Qt::QueuedConnection);
+        menu->addAction(QStringLiteral("&Copiar"), widget, [this] { Copiar(ui::Cabeceras::sin); });
+        menu->addAction(QStringLiteral("Copiar con ca&beceras\tCtrl+C"), widget,
+                        [this] { Copiar(ui::Cabeceras::con); });
+        menu->addAction(QStringLiteral("Seleccionar &todo\tCtrl+A"), widget, [this] { Rejas().selectAll(); });
+        if (SeOrdena()) {
+            QMenu* orden = menu->addMenu(QStringLiteral("&Ordenar por"));
+            for (int i = 0; i < Cabecera().count(); ++i)
+                if (const QString columna = TituloDe(i); !columna.isEmpty())
+                    orden->addAction(columna, widget, [this, i] { OrdenarPor(i); });
+        }
+        menu->popup(lugar);
+    }
+
+    QString TituloDe(int iColumna) const
+    {
+        return AQt(m_lista.acsColumnas[static_cast<std::size_t>(iColumna)]).simplified().replace('&', "&&");
+    }
+
+    // Up, down, and as the rows come again.
+    void OrdenarPor(int iColumna)
+    {
+        if (m_lista.alOrdenar) {
+            m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Ordenar(m_lista, iColumna); });
+            return;
+        }
+        const bool bMisma = iColumna == m_iColumnaOrden;
+        m_iColumnaOrden = bMisma && m_bDescendente ? -1 : iColumna;
+        m_bDescendente = bMisma && !m_bDescendente;
+        m_bRefrescando = true;
+        m_modelo->sort(m_iColumnaOrden, m_bDescendente ? Qt::DescendingOrder : Qt::AscendingOrder);
+        m_bRefrescando = false;
+        SenalarOrden(m_iColumnaOrden, m_bDescendente);
+        Rejas().scrollTo(Rejas().currentIndex());
+    }
+
+    void SenalarOrden(int iColumna, bool bDescendente)
+    {
+        Cabecera().setSortIndicatorShown(iColumna >= 0);
+        Cabecera().setSortIndicator(iColumna, bDescendente ? Qt::DescendingOrder : Qt::AscendingOrder);
     }
 
     void Conectar()
     {
         QObject::connect(Rejas().selectionModel(), &QItemSelectionModel::selectionChanged, widget, [this] {
             const int iFila = FilaElegida();
-            if (!m_bRefrescando && iFila >= 0)
+            if (!m_bRefrescando && iFila >= 0 && iFila != m_lista.iSeleccion)
                 m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(m_lista, iFila); });
         });
         const auto abrir = [this](const QModelIndex& indice) {
@@ -154,8 +250,11 @@ private:
             });
         };
         QObject::connect(&Rejas(), &QAbstractItemView::doubleClicked, widget, abrir);
+        QObject::connect(&Cabecera(), &QHeaderView::sectionClicked, widget, [this](int i) { OrdenarPor(i); });
         const auto conectarPropias = [&](auto& rejilla) {
             rejilla.alPedirAbrir = abrir;
+            rejilla.alPedirCopia = [this] { Copiar(ui::Cabeceras::con); };
+            rejilla.alPedirMenu = [this](const QPoint& lugar) { AbrirMenuDeTabla(lugar); };
             rejilla.alCambiarTamano = [this] {
                 RepartirColumnas();
                 MostrarElegida();
@@ -235,6 +334,8 @@ private:
         if (m_uVersion != m_lista.uVersion || m_filas != m_lista.modelo ||
             m_nColumnas != m_lista.acsColumnas.size())
             Recargar();
+        if (m_lista.alOrdenar)
+            SenalarOrden(m_lista.iColumnaOrden, m_lista.bDescendente);
         if (FilaElegida() != m_lista.iSeleccion) {
             const int iColumna = std::max(0, Rejas().currentIndex().column());
             const QModelIndex indice = m_modelo->Indice(m_lista.iSeleccion, iColumna);
@@ -259,6 +360,7 @@ private:
         m_nFilas = m_lista.Filas();
         m_modelo->Recargar();
         Cabecera().setVisible(!m_lista.acsColumnas.empty());
+        Cabecera().setSectionsClickable(SeOrdena());
         if (Arbol() != nullptr) {
             Arbol()->expandAll();
             // With the same number of rows they are taken for the same ones.
@@ -303,6 +405,8 @@ private:
     std::size_t m_nColumnas = m_lista.acsColumnas.size();
     int m_nFilas = m_lista.Filas();
     bool m_bRefrescando = false;
+    int m_iColumnaOrden = -1;  // asked for here
+    bool m_bDescendente = false;
     std::vector<int> m_aiAnchos;   // of the contents
     std::vector<int> m_aiPuestos;  // as last set here
 };

@@ -2,7 +2,9 @@
 #include <algorithm>
 #include <utility>
 
+#include <QAbstractItemView>
 #include <QAction>
+#include <QCoreApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
@@ -77,6 +79,36 @@ private:
     std::function<void()> m_alSalir;
 };
 
+// The keys that move from row to row go to the list that a field searches, and the focus stays.
+class TeclasDeLista final : public QObject {
+public:
+    TeclasDeLista(QLineEdit& campo, QString lista) : QObject(&campo), m_campo(campo), m_lista(std::move(lista))
+    {
+        campo.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* /*objeto*/, QEvent* evento) override
+    {
+        if (evento->type() != QEvent::KeyPress)
+            return false;
+        switch (static_cast<QKeyEvent*>(evento)->key()) {
+            case Qt::Key_Up:
+            case Qt::Key_Down:
+            case Qt::Key_PageUp:
+            case Qt::Key_PageDown:
+                break;
+            default:
+                return false;
+        }
+        auto* const rejas = m_campo.parentWidget()->findChild<QAbstractItemView*>(m_lista);
+        return rejas != nullptr && QCoreApplication::sendEvent(rejas, evento);
+    }
+
+private:
+    QLineEdit& m_campo;
+    QString m_lista;
+};
+
 bool EsNumerica(const ui::Edicion& edicion)
 {
     return edicion.limites.Alguno() || std::holds_alternative<int*>(edicion.destino) ||
@@ -97,6 +129,8 @@ public:
         });
         new GuardaDeFoco(widget, [&] { accionador.HaSalido(edicion); });
         OfrecerPropuesta(accionador);
+        if (edicion.lista != nullptr)
+            new TeclasDeLista(Campo(), QString::fromStdString(edicion.lista->nombre));
     }
 
     void Enfocar() override
@@ -171,6 +205,7 @@ private:
     void RefrescarContenido() override
     {
         Campo().setReadOnly(m_edicion.bSoloLectura);
+        Campo().setPlaceholderText(AQt(m_edicion.csEjemplo));
         RefrescarMarco();
         // What a line can't show, such as the end of a line, would never compare equal.
         if (m_edicion.csTexto == m_csMostrado && Campo().text() == m_mostrado)

@@ -96,6 +96,12 @@ void Dialogo::Abrir(Lista& control, int iFila, int iColumna)
     Avisar(control.alAbrir, iFila, iColumna);
 }
 
+void Dialogo::Ordenar(Lista& control, int iColumna)
+{
+    DejarLoTecleado(&control);
+    Avisar(control.alOrdenar, iColumna);
+}
+
 void Dialogo::Marcar(Casilla& control, bool bMarcada)
 {
     DejarLoTecleado(&control);

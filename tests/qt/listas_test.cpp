@@ -1,6 +1,8 @@
 // Lists and trees over rows that are asked for one by one, charts, the program's own screens.
 #include "muestra.h"
 
+#include <array>
+
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFileDialog>
@@ -81,6 +83,111 @@ TEST(Listas, ElegirYAbrirDanFilaYColumna)
     });
 }
 
+// Rows with a number, a text and a total at the end.
+class FilasSueltas final : public ui::ModeloFilas {
+public:
+    std::vector<std::array<CString, 2>> celdas{
+        {L"9,5", L"ocho"}, {L"10", L"a\tb"}, {L"—", L"Ébano"}, {L"19,5", L"Total"}};
+    int Filas() const override { return static_cast<int>(celdas.size()); }
+    CString Celda(int iFila, int iColumna) const override
+    {
+        return celdas[static_cast<std::size_t>(iFila)][static_cast<std::size_t>(iColumna)];
+    }
+};
+
+class Suelta : public ui::Dialogo {
+public:
+    Suelta() : Dialogo("Suelta", L"Suelta"), lista(Anadir<ui::Lista>("lista", L"", ui::Lista::Forma::tabla))
+    {
+        lista.acsColumnas = {L"W", L"Qué"};
+        lista.nFilasFijas = 1;
+        lista.modelo = std::make_shared<FilasSueltas>();
+    }
+    ui::Lista& lista;
+};
+
+TEST(Listas, UnClicEnLaCabeceraOrdenaSinQueElDialogoCambieDeFila)
+{
+    Suelta d;
+    Mostrar(d, [&](QDialog& v) {
+        auto& tabla = Hijo<QTableView>(v, "lista");
+        const auto filas = [&] {
+            QStringList textos;
+            for (int i = 0; i < tabla.model()->rowCount(); ++i)
+                textos << tabla.model()->index(i, 0).data().toString();
+            return textos.join(' ');
+        };
+        const auto clic = [&](int iColumna) {
+            auto& cabecera = *tabla.horizontalHeader();
+            QTest::mouseClick(cabecera.viewport(), Qt::LeftButton, {},
+                              {cabecera.sectionViewportPosition(iColumna) + 5, cabecera.height() / 2});
+        };
+        QTest::mouseClick(tabla.viewport(), Qt::LeftButton, {},
+                          tabla.visualRect(tabla.model()->index(1, 0)).center());
+        ASSERT_EQ(d.lista.iSeleccion, 1);
+        // By value, what says nothing last, the total in its place.
+        clic(0);
+        EXPECT_EQ(filas(), "9,5 10 — 19,5");
+        clic(0);
+        EXPECT_EQ(filas(), "10 9,5 — 19,5");
+        EXPECT_EQ(d.lista.iSeleccion, 1);
+        EXPECT_EQ(tabla.currentIndex().data().toString(), "10");
+        QTest::mouseClick(tabla.viewport(), Qt::LeftButton, {},
+                          tabla.visualRect(tabla.model()->index(1, 0)).center());
+        EXPECT_EQ(d.lista.iSeleccion, 0);
+        clic(1);
+        EXPECT_EQ(filas(), "10 — 9,5 19,5");
+        clic(1);
+        clic(1);
+        EXPECT_EQ(filas(), "9,5 10 — 19,5");
+    });
+}
+
+TEST(Listas, SeCopianVariasFilasConSusCabecerasYElDialogoVeUna)
+{
+    Suelta d;
+    Mostrar(d, [&](QDialog& v) {
+        auto& tabla = Hijo<QTableView>(v, "lista");
+        const auto clic = [&](int iFila, Qt::KeyboardModifiers teclas) {
+            QTest::mouseClick(tabla.viewport(), Qt::LeftButton, teclas,
+                              tabla.visualRect(tabla.model()->index(iFila, 0)).center());
+        };
+        clic(1, {});
+        clic(0, Qt::ControlModifier);
+        EXPECT_EQ(d.lista.iSeleccion, 0);
+        EXPECT_EQ(tabla.selectionModel()->selectedRows().size(), 2);
+        tabla.setFocus();
+        QTest::keyClick(&tabla, Qt::Key_C, Qt::ControlModifier);
+        EXPECT_EQ(QApplication::clipboard()->text(), "W\tQué\n9,5\tocho\n10\ta b\n");
+        QTest::keyClick(&tabla, Qt::Key_A, Qt::ControlModifier);
+        EXPECT_EQ(d.lista.iSeleccion, 0);
+        EXPECT_EQ(tabla.selectionModel()->selectedRows().size(), 4);
+    });
+}
+
+TEST(Listas, LasFlechasDelCampoQueBuscaMuevenLaLista)
+{
+    class Buscador : public Suelta {
+    public:
+        Buscador()
+        {
+            buscar.lista = &lista;
+            foco = &buscar;
+        }
+        ui::Edicion& buscar = Anadir<ui::Edicion>("buscar", L"Buscar:");
+    } d;
+    Mostrar(d, [&](QDialog& v) {
+        auto& campo = Hijo<QLineEdit>(v, "buscar");
+        campo.setFocus();
+        QTest::keyClick(&campo, Qt::Key_Down);
+        QTest::keyClick(&campo, Qt::Key_Down);
+        EXPECT_EQ(d.lista.iSeleccion, 1);
+        QTest::keyClick(&campo, Qt::Key_Up);
+        EXPECT_EQ(d.lista.iSeleccion, 0);
+        EXPECT_TRUE(campo.hasFocus());
+    });
+}
+
 TEST(Listas, LosNivelesDeLasFilasSonElArbol)
 {
     class FilasConNivel final : public ui::ModeloFilas {
@@ -153,6 +260,28 @@ TEST(Graficas, UnaLineaDePuntosTieneHuecosYUnaContinuaNo)
         };
         EXPECT_EQ(trozos([](const QColor& c) { return c.red() > c.blue() + 40; }), 1);
         EXPECT_GT(trozos([](const QColor& c) { return c.blue() > c.red() + 120; }), 20);
+    });
+}
+
+TEST(Graficas, LasFlechasLeenPuntoAPunto)
+{
+    Muestra d;
+    d.paginas.iSeleccion = 1;
+    d.grafica.datos.csTituloY = L"W";
+    d.grafica.datos.aSeries = {{{1, 2}, {5, 7}, ui::kRojo, 1, ui::FormaSerie::linea, 1, L"Roja"},
+                               {{1, 2}, {6, 8}, ui::kAzul, 1, ui::FormaSerie::linea, 1, L"Azul"}};
+    Mostrar(d, [&](QDialog& v) {
+        auto& grafica = Hijo<QWidget>(v, "grafica");
+        grafica.setFocus();
+        const auto leido = [&](Qt::Key tecla) {
+            QTest::keyClick(&grafica, tecla);
+            return grafica.accessibleDescription().section(". ", 0, 0);
+        };
+        EXPECT_EQ(leido(Qt::Key_Right), "Roja, V: 1, W: 5");
+        EXPECT_EQ(leido(Qt::Key_Right), "Roja, V: 2, W: 7");
+        EXPECT_EQ(leido(Qt::Key_Right), "Roja, V: 2, W: 7");
+        EXPECT_EQ(leido(Qt::Key_Down), "Azul, V: 2, W: 8");
+        EXPECT_EQ(leido(Qt::Key_Left), "Azul, V: 1, W: 6");
     });
 }
 

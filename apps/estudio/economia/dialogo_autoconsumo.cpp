@@ -268,6 +268,7 @@ void DialogoAutoconsumo::HacerResultado()
     m_meses->acsColumnas = {L"Mes",      L"Producida",      L"Consumida",      L"Autocons.", L"Vertida",
                             L"Comprada", L"Gasto sin ella", L"Gasto con ella", L"Ahorro"};
     m_meses->bColumnasIguales = true;
+    m_meses->nFilasFijas = 1;  // the year
     m_meses->otras = ui::Alineacion::derecha;
     m_meses->alineaciones = {ui::Alineacion::izquierda};
     m_meses->colocacion.bEstirar = true;

@@ -96,6 +96,7 @@ PanelEnergia::PanelEnergia(Lugar lugarInicial, std::function<void()> editarPlano
     m_tabla->alineaciones = {ui::Alineacion::izquierda};
     m_tabla->otras = ui::Alineacion::derecha;
     m_tabla->modelo = std::make_shared<FilasEnergia>(m_filas);
+    m_tabla->nFilasFijas = 1;  // the year
     m_grafica = &Anadir<ui::Grafica>("grafica", L"");
     m_grafica->colocacion.bEstirar = true;
     Volcar();

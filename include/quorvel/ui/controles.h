@@ -110,6 +110,8 @@ public:
     void Visitar(VisitanteControl& visitante) override;
 };
 
+class Lista;
+
 /// One line of text, or several.
 class EFV_API Edicion final : public Control {
 public:
@@ -122,6 +124,9 @@ public:
     int iDecimalesMinimos = 15;  ///< those that stay when they are zeros, up to `iDecimales`
     Intercambio intercambio = Intercambio::automatico;
     bool bVariasLineas = false;
+    CString csEjemplo;  ///< shown in its place while it is empty
+    Lista* lista =
+        nullptr;  ///< what it searches: up and down move there, Enter opens the row chosen; may be null
     std::function<void()> alCambiar;  ///< after each change of the text by the person
     std::function<void()> alSalir;    ///< when it loses the focus
 
@@ -143,8 +148,6 @@ public:
     Valor ValorActual() const override { return bMarcada; }
     void Visitar(VisitanteControl& visitante) override;
 };
-
-class Lista;
 
 /// One entry out of several: a combo box, a radio group, the pages of a dialog (named "tab"), a button
 /// with a menu, a menu in the cells of a list.
@@ -257,9 +260,14 @@ public:
     std::vector<double> adPartes;               ///< of the width, one a column; empty: by their texts
     std::shared_ptr<const ModeloFilas> modelo;  ///< null: no rows
     int iSeleccion = -1;
+    int nFilasFijas = 0;    ///< at the end; they stay there in whatever order a view shows the others: totals
     unsigned uVersion = 0;  ///< raised with each change of the rows, so that a view knows
     std::function<void()> alElegir;
     std::function<void(int iFila, int iColumna)> alAbrir;  ///< double click
+    /// A click on a heading, where the owner of the rows puts them in order; none: a view may do it.
+    std::function<void(int iColumna)> alOrdenar;
+    int iColumnaOrden = -1;  ///< the column in whose order the owner has put them; -1: none
+    bool bDescendente = false;
 
     int Filas() const { return modelo ? modelo->Filas() : 0; }
     Alineacion AlineacionDe(int iColumna) const

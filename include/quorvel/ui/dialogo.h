@@ -64,6 +64,7 @@ public:
     void Elegir(Seleccion& control, int iEntrada);
     void Elegir(Lista& control, int iFila);
     void Abrir(Lista& control, int iFila, int iColumna);
+    void Ordenar(Lista& control, int iColumna);
     void Marcar(Casilla& control, bool bMarcada);
     void Pulsar(Boton& control);
     /// Entry `iEntrada` of the button's menu; the host may be asked for a colour.

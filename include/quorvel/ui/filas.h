@@ -1,7 +1,10 @@
-// Rows that say more than texts.
+// Rows that say more than texts, and rows as text.
 #pragma once
 
+#include <span>
+
 #include <quorvel/exportar.h>
+#include <quorvel/framework/CString.h>
 #include <quorvel/ui/controles.h>
 
 namespace efv::ui {
@@ -12,5 +15,11 @@ public:
     /// Of all texts of the row.
     virtual Color ColorDeFila(int iFila) const = 0;
 };
+
+enum class Cabeceras : bool { sin, con };
+
+/// Rows of a list for a spreadsheet: a line each with tabs between the cells, as they read; tabs and line ends
+/// within a cell become blanks.
+EFV_API CString TextoDeFilas(const Lista& lista, std::span<const int> filas, Cabeceras cabeceras);
 
 }  // namespace efv::ui
