@@ -19,6 +19,8 @@ public:
 
     bool EsAncha() const override { return true; }
     bool QuiereSitio() const override { return true; }
+    // It can be read by the keys, but nobody begins there.
+    bool AdmiteFoco() const override { return false; }
 
 private:
     QString NombreHablado() const override
@@ -29,33 +31,7 @@ private:
         return m_grafica.datos.csTitulo.empty() ? QStringLiteral("Gráfica") : AQt(m_grafica.datos.csTitulo);
     }
 
-    // Axes, series and extent, for who can't see them.
-    QString Descripcion() const
-    {
-        const CCtrlCurva2D& datos = m_grafica.datos;
-        QStringList series;
-        for (const ui::SerieCurva& serie : datos.aSeries)
-            if (!serie.csNombre.empty())
-                series << AQt(serie.csNombre);
-        const ui::Extension extension = ui::ExtensionDe(datos);
-        QStringList partes;
-        if (!datos.csTituloX.empty())
-            partes << QStringLiteral("Eje horizontal: ") + AQt(datos.csTituloX);
-        if (!datos.csTituloY.empty())
-            partes << QStringLiteral("Eje vertical: ") + AQt(datos.csTituloY);
-        if (!datos.aSeries.empty())
-            partes << QStringLiteral("De %1 a %2").arg(extension.dMinY).arg(extension.dMaxY);
-        if (!series.isEmpty())
-            partes << QStringLiteral("Series: ") + series.join(QStringLiteral(", "));
-        return partes.join(QStringLiteral(". "));
-    }
-
-    void RefrescarContenido() override
-    {
-        if (const QString descripcion = Descripcion(); widget->accessibleDescription() != descripcion)
-            widget->setAccessibleDescription(descripcion);
-        widget->update();
-    }
+    void RefrescarContenido() override { static_cast<WidgetGrafica*>(widget)->Refrescar(); }
 
     const ui::Grafica& m_grafica;
 };

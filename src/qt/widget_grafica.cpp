@@ -19,6 +19,7 @@
 #include "qt/cajas.h"
 #include "qt/colores.h"
 #include "qt/texto.h"
+#include "ui/descripcion.h"
 
 namespace efv::qt {
 
@@ -149,6 +150,7 @@ double CuerpoDe(const QWidget& widget)
 WidgetGrafica::WidgetGrafica(const CCtrlCurva2D& datos, QWidget* padre) : QWidget(padre), m_datos(datos)
 {
     setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
@@ -159,6 +161,8 @@ void WidgetGrafica::paintEvent(QPaintEvent* /*evento*/)
     pintor.setOpacity(isEnabled() ? 1.0 : kOpacidadInhabilitada);
     Pintar(pintor, true);
     pintor.setPen(palette().color(QPalette::Mid));
+    if (hasFocus())
+        pintor.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
     pintor.setBrush(Qt::NoBrush);
     pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
@@ -175,12 +179,20 @@ void WidgetGrafica::Pintar(QPainter& pintor, bool bConLectura) const
         PintarLectura(pintor, trazado);
 }
 
+std::optional<ui::Trazado::Cercano> WidgetGrafica::Leido(const ui::Trazado& trazado) const
+{
+    const ui::Recuadro& marco = trazado.Marco();
+    if (m_puntero && QRectF(marco.dX, marco.dY, marco.dAncho, marco.dAlto).contains(*m_puntero))
+        return trazado.PuntoCercano({m_puntero->x(), m_puntero->y()}, width() + height());
+    if (m_marcado && ui::SeDibuja(m_datos, m_marcado->iSerie, m_marcado->iPunto))
+        return trazado.PuntoDe(m_marcado->iSerie, m_marcado->iPunto);
+    return std::nullopt;
+}
+
 void WidgetGrafica::PintarLectura(QPainter& pintor, const ui::Trazado& trazado) const
 {
     const ui::Recuadro& marco = trazado.Marco();
-    if (!m_puntero || !QRectF(marco.dX, marco.dY, marco.dAncho, marco.dAlto).contains(*m_puntero))
-        return;
-    const auto cercano = trazado.PuntoCercano({m_puntero->x(), m_puntero->y()}, width() + height());
+    const auto cercano = Leido(trazado);
     if (!cercano)
         return;
     const LienzoQt lienzo(pintor, palette());
@@ -219,6 +231,91 @@ void WidgetGrafica::mouseMoveEvent(QMouseEvent* evento)
 void WidgetGrafica::leaveEvent(QEvent* /*evento*/)
 {
     m_puntero.reset();
+    update();
+}
+
+void WidgetGrafica::Refrescar()
+{
+    if (m_marcado && !ui::SeDibuja(m_datos, m_marcado->iSerie, m_marcado->iPunto))
+        m_marcado.reset();
+    Describir();
+    update();
+}
+
+// What is read now goes before what the chart is.
+void WidgetGrafica::Describir()
+{
+    QString texto;
+    if (m_marcado)
+        texto = AQt(ui::LecturaDePunto(m_datos, m_marcado->iSerie, m_marcado->iPunto)) + QStringLiteral(". ");
+    texto += AQt(ui::DescripcionDe(m_datos));
+    if (accessibleDescription() != texto)
+        setAccessibleDescription(texto);
+}
+
+// Left and right along a series, up and down to the next one that has a point there; the first time to where
+// the chart begins.
+void WidgetGrafica::Mover(int iTecla)
+{
+    Marcado lugar = m_marcado.value_or(Marcado{});
+    const std::size_t nSeries = m_datos.aSeries.size();
+    const auto avanzar = [&](bool bAtras) {
+        const std::size_t nPuntos = m_datos.aSeries[lugar.iSerie].adX.size();
+        for (std::size_t i = lugar.iPunto; bAtras ? i-- > 0 : ++i < nPuntos;) {
+            if (!ui::SeDibuja(m_datos, lugar.iSerie, i))
+                continue;
+            lugar.iPunto = i;
+            return;
+        }
+    };
+    const auto cambiarDeSerie = [&](bool bAtras) {
+        for (std::size_t n = 1; n < nSeries; ++n) {
+            const std::size_t iSerie = (lugar.iSerie + (bAtras ? nSeries - n : n)) % nSeries;
+            if (!ui::SeDibuja(m_datos, iSerie, lugar.iPunto))
+                continue;
+            lugar.iSerie = iSerie;
+            return;
+        }
+    };
+    if (m_marcado) {
+        if (iTecla == Qt::Key_Left || iTecla == Qt::Key_Right)
+            avanzar(iTecla == Qt::Key_Left);
+        else
+            cambiarDeSerie(iTecla == Qt::Key_Up);
+    } else {
+        while (lugar.iSerie < nSeries && !ui::SeDibuja(m_datos, lugar.iSerie, lugar.iPunto)) {
+            avanzar(false);
+            if (!ui::SeDibuja(m_datos, lugar.iSerie, lugar.iPunto))
+                lugar = {lugar.iSerie + 1, 0};
+        }
+        if (lugar.iSerie == nSeries)
+            return;
+    }
+    m_marcado = lugar;
+    m_puntero.reset();
+    Describir();
+    update();
+}
+
+void WidgetGrafica::keyPressEvent(QKeyEvent* evento)
+{
+    switch (evento->key()) {
+        case Qt::Key_Left:
+        case Qt::Key_Right:
+        case Qt::Key_Up:
+        case Qt::Key_Down:
+            Mover(evento->key());
+            break;
+        default:
+            QWidget::keyPressEvent(evento);
+    }
+}
+
+void WidgetGrafica::focusOutEvent(QFocusEvent* evento)
+{
+    QWidget::focusOutEvent(evento);
+    m_marcado.reset();
+    Describir();
     update();
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "ui/descripcion.h"
 #include "ui/trazado_medidas.h"
 
 namespace efv::ui {
@@ -238,6 +239,19 @@ double Trazado::Distancia(std::size_t iSerie, std::size_t i, Punto punto) const
     return std::hypot(cerca.dX - punto.dX, cerca.dY - punto.dY);
 }
 
+std::optional<Trazado::Cercano> Trazado::PuntoDe(std::size_t iSerie, std::size_t i) const
+{
+    if (!SeDibuja(m_grafica, iSerie, i))
+        return std::nullopt;
+    const SerieCurva& serie = m_grafica.aSeries[iSerie];
+    Punto enPantalla = APantalla(serie.adX[i], serie.adY[i]);
+    if (EsDeBarras(serie)) {
+        const Recuadro r = BarraDe(serie, m_aspectos[iSerie], i);
+        enPantalla.dX = r.dX + 0.5 * r.dAncho;
+    }
+    return Cercano{iSerie, serie.adX[i], serie.adY[i], enPantalla};
+}
+
 std::optional<Trazado::Cercano> Trazado::PuntoCercano(Punto punto, double dRadio) const
 {
     std::optional<Cercano> cercano;
@@ -251,12 +265,7 @@ std::optional<Trazado::Cercano> Trazado::PuntoCercano(Punto punto, double dRadio
             if (dDistancia > dMenor)
                 continue;
             dMenor = dDistancia;
-            Punto enPantalla = APantalla(serie.adX[i], serie.adY[i]);
-            if (EsDeBarras(serie)) {
-                const Recuadro r = BarraDe(serie, m_aspectos[s], i);
-                enPantalla.dX = r.dX + 0.5 * r.dAncho;
-            }
-            cercano = Cercano{s, serie.adX[i], serie.adY[i], enPantalla};
+            cercano = PuntoDe(s, i);
         }
     }
     return cercano;
@@ -265,18 +274,8 @@ std::optional<Trazado::Cercano> Trazado::PuntoCercano(Punto punto, double dRadio
 CString Trazado::Lectura(const Cercano& cercano) const
 {
     const SerieCurva& serie = m_grafica.aSeries[cercano.iSerie];
-    const auto conTitulo = [](const CString& csTitulo, const wchar_t* sinTitulo, const CString& csValor) {
-        return csTitulo.empty() ? sinTitulo + (L" = " + csValor) : csTitulo + L": " + csValor;
-    };
-    CString csLectura = serie.csNombre.empty() ? CString() : serie.csNombre + L"\n";
-    if (m_ejeX.clase == ClaseEje::numero) {
-        csLectura += conTitulo(m_grafica.csTituloX, L"x", RotuloValor(cercano.dX));
-    } else {
-        const bool bConHora =
-            std::ranges::any_of(serie.adX, [](double d) { return std::isfinite(d) && d != std::floor(d); });
-        csLectura += RotuloLectura(m_ejeX, cercano.dX, bConHora);
-    }
-    return csLectura + L"\n" + conTitulo(m_grafica.csTituloY, L"y", RotuloValor(cercano.dY));
+    return (serie.csNombre.empty() ? CString() : serie.csNombre + L"\n") +
+           LecturaX(m_grafica, m_ejeX, serie, cercano.dX) + L"\n" + LecturaY(m_grafica, cercano.dY);
 }
 
 }  // namespace efv::ui

@@ -30,6 +30,9 @@ public:
     /// line, the stretch of a step, a bar.
     std::optional<Cercano> PuntoCercano(Punto punto, double dRadio) const;
 
+    /// Point `i` of a series; nothing when it isn't drawn.
+    std::optional<Cercano> PuntoDe(std::size_t iSerie, std::size_t i) const;
+
     /// What a value reads as: the series' name, if it has one, and what stands along both axes, in lines.
     CString Lectura(const Cercano& cercano) const;
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "ui/descripcion.h"
 #include "ui/trazado.h"
 
 namespace {
@@ -401,6 +402,26 @@ TEST(Lectura, DiceLaSerieYElMesDeLaBarraBajoElPuntero)
     const Trazado delDia(dia, 800, 400, kCuerpo, papel);
     EXPECT_EQ(delDia.Lectura(delDia.PuntoCercano(delDia.APantalla(11, 5), 1).value()), L"0 h\nWh: 5");
     EXPECT_EQ(delDia.Lectura(delDia.PuntoCercano(delDia.APantalla(23, 7), 1).value()), L"18 h\nWh: 7");
+}
+
+TEST(Descripcion, DiceDeCadaSerieSusExtremosYDondeEstan)
+{
+    CCtrlCurva2D g = GraficaDeMeses(L"Energía\ndel año", L"kWh");
+    const std::array<double, 3> adMeses{30, 10.5, 80};
+    g.aSeries = {BarrasDeMeses(L"Producida", kRojo, adMeses),
+                 {{1, 2}, {std::nan(""), 4}, kAzul, 1},
+                 {{1}, {std::nan("")}, kAzul, 1, FormaSerie::linea, 1, L"Sin medir"},
+                 {{0, 99}, {99, 99}, kAzul, 0}};  // only fixes the scale
+    EXPECT_EQ(
+        DescripcionDe(g),
+        L"Gráfica. Energía del año. Eje horizontal: Mes. Eje vertical: kWh. Producida: de 10,5 (Febrero) a 80 "
+        L"(Marzo). Serie 2: 4 (Febrero). Sin medir: sin valores.");
+    EXPECT_EQ(LecturaDePunto(g, 0, 2), L"Producida, Marzo, kWh: 80");
+    EXPECT_FALSE(SeDibuja(g, 1, 0));
+    EXPECT_FALSE(SeDibuja(g, 3, 0));
+    CCtrlCurva2D vacia;
+    vacia.csTituloX = L"Tensión (V)";
+    EXPECT_EQ(DescripcionDe(vacia), L"Gráfica. Eje horizontal: Tensión (V). Sin datos.");
 }
 
 }  // namespace
