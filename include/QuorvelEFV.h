@@ -8,6 +8,7 @@
 #include <quorvel/cables.h>
 #include <quorvel/cables_calculo.h>
 #include <quorvel/catalogues.h>
+#include <quorvel/catalogues/consulta.h>
 #include <quorvel/clima.h>
 #include <quorvel/consumption.h>
 #include <quorvel/contador.h>

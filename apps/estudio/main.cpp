@@ -110,6 +110,7 @@ int Ejecutar(QApplication& programa)
 
     efv::solar::PonerServicioPVGISDelEntorno();
     efv::qt::InstalarPresentadorQt();
+    efv::ElegirModelosEn(efv::FormaDeElegir::tabla);
     static ControlAnfitrion control;
     phSetQuorvelBIMCtrl(control);
     const bool bCapturas = orden.isSet(capturas);

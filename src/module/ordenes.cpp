@@ -5,6 +5,7 @@
 #include <quorvel/electrical.h>
 
 #include "electrical/graficas_dialogo.h"
+#include "platform/unidades/unidades.h"
 
 namespace efv::module {
 
@@ -25,6 +26,12 @@ catalogues::OrdenesModelo<CBasePanelFotoModelo> Ordenes()
             [](const CBasePanelFotoModelo& m) { Mostrar(GraficasATemperaturaConstante(m)); },
         .curvasAIrradiacionConstante =
             [](const CBasePanelFotoModelo& m) { Mostrar(GraficasAIrradiacionConstante(m)); },
+        .grafica =
+            [](const CBasePanelFotoModelo& m) {
+                CCtrlCurva2D grafica = GraficasATemperaturaConstante(m).corriente;
+                grafica.csTitulo = L"Curvas I-V a " + unidades::cuCadena(L"Temperatura", 25.0, 0);
+                return grafica;
+            },
     };
 }
 

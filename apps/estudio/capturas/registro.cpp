@@ -77,6 +77,11 @@ constexpr auto kRamificaciones = std::to_array<Ramificacion>({
          Pulsar(d, "Editar");
          Pulsar(d, "NuevaFamilia");
      }},
+    {"CDlgElegirModelo",
+     [](ui::Dialogo& d) {
+         ElegirFila(d, "modelos", 0);
+         Pulsar(d, "Ver");
+     }},
     {"CDlgItemDatosPanelFoto",
      [](ui::Dialogo& d) {
          Pulsar(d, "Curvas I-V y P-A a T constante");
@@ -349,10 +354,13 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
         {"horas", {"CDlgDetalleHoras"}, &AbrirHoras, {}},
         {"tarifa", {"CDlgGeneradorTarifa"}, [] { economics::AbrirGeneradorTarifa(); }, {}},
         {"paneles-elegir",
-         {"CDlgVisorXML", "CDlgItemDatosPanelFoto"},
+         {"CDlgElegirModelo", "CDlgItemDatosPanelFoto"},
          [] {
              CString csId = PrimerModelo();
+             const FormaDeElegir antes = FormaDeElegirModelos();
+             ElegirModelosEn(FormaDeElegir::tabla);
              phSeleccionPanelFoto(csId);
+             ElegirModelosEn(antes);
          },
          &Recorrer},
         DeCatalogo("paneles", &phEditarBasePanelesFotovoltaicos,

@@ -2,6 +2,7 @@
 // element and the attributes of a new one follow from the table.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -71,6 +72,8 @@ struct ReglasCatalogo {
     static void PrepararEdicion(M& /*modelo*/, bool /*bNuevo*/) {}
     /// After all that the model's file doesn't give was set to 0.
     static void SinHeredar(M& /*propio*/) {}
+    /// A chart of what the model's data say by themselves.
+    static std::optional<CCtrlCurva2D> Grafica(const M& /*modelo*/) { return std::nullopt; }
     /// Attributes that an accepted element gets when it lacks them.
     static std::span<const char* const> AnadirSiFaltan() { return {}; }
 };

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 
 #include <quorvel/catalogues/acumulador.h>
 
@@ -42,6 +43,9 @@ struct FormatoCatalogo<CBaseAcumuladorModelo> : ReglasCatalogo<CBaseAcumuladorMo
         {"nColor", &M::nColor},
         {"csCodPrecio", &M::csCodPrecio},
     });
+
+    /// Capacity over the hours of the discharge; none of a battery without regimes.
+    static std::optional<CCtrlCurva2D> Grafica(const M& modelo);
 };
 
 }  // namespace efv::catalogues

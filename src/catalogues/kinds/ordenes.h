@@ -3,6 +3,8 @@
 
 #include <functional>
 
+#include <quorvel/ui/grafica.h>
+
 class CBasePanelFotoModelo;
 
 namespace efv::catalogues {
@@ -17,6 +19,7 @@ template <>
 struct OrdenesModelo<CBasePanelFotoModelo> {
     std::function<void(const CBasePanelFotoModelo&)> curvasATemperaturaConstante;
     std::function<void(const CBasePanelFotoModelo&)> curvasAIrradiacionConstante;
+    std::function<CCtrlCurva2D(const CBasePanelFotoModelo&)> grafica;  ///< to see beside others
 };
 
 }  // namespace efv::catalogues

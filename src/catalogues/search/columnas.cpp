@@ -23,6 +23,8 @@ CString TituloDeRotulo(const CString& csRotulo)
         if (c != L'&' && (c != L' ' || !csTitulo.ends_with(L' ')))
             csTitulo += c;
     csTitulo.erase(csTitulo.find_last_not_of(L" :") + 1);
+    if (const std::size_t puntos = csTitulo.find(L": ("); puntos != CString::npos)
+        csTitulo.erase(puntos, 1);
     const std::size_t desde = csTitulo.find(L'['), hasta = csTitulo.find(L']');
     const bool bSimbolo = desde != CString::npos && hasta != CString::npos && hasta > desde + 1 &&
                           csTitulo.find_first_of(L" /", desde) > hasta;

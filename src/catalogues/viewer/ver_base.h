@@ -65,6 +65,14 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, const AperturaElementos
         return campos.empty() ? CString()
                               : TextoDeFaltas(*CrearDialogo(modelo, true, OrdenesModelo<M>()), campos);
     };
+    peticion.grafica = [apertura](const CModelo& modelo) -> std::optional<CCtrlCurva2D> {
+        const M suyo = SinHeredar(static_cast<const M&>(modelo));
+        if constexpr (requires { apertura.ordenes.grafica; }) {
+            if (apertura.ordenes.grafica)
+                return apertura.ordenes.grafica(suyo);
+        }
+        return FormatoCatalogo<M>::Grafica(suyo);
+    };
     return peticion;
 }
 

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string_view>
 #include <vector>
 
+#include <quorvel/catalogues/base.h>
 #include <quorvel/framework/CString.h>
+#include <quorvel/ui/grafica.h>
 
 #include "catalogues/format/elemento.h"
 
@@ -13,6 +16,9 @@ namespace efv::catalogues {
 
 /// What the editing of one element came to.
 enum class Edicion : int { cambiado = 1, sinCambio = 2, familia = 3 };
+
+/// A chart of a model; nothing for one of which there is none.
+using GraficaDeModelo = std::function<std::optional<CCtrlCurva2D>(const CModelo&)>;
 
 struct PeticionVisor {
     CString csRuta;
@@ -26,11 +32,13 @@ struct PeticionVisor {
     std::function<Edicion(CXMLElemento*)> rellenar;  ///< the same for a new one
     std::function<CString(const CXMLElemento&)>
         faltas;  ///< what a model's data sheet doesn't say; may be empty
+    GraficaDeModelo grafica;
 };
 
 /// Runs the viewer on the file's own document, or, where a layer of the person's own lies over it, on both, of
-/// which the layer is saved. A file of another kind than `titulo` says isn't opened. `csSeleccion` is the
-/// identification to show first, and then the one chosen ("family#model", or a family's name).
+/// which the layer is saved. Where models are chosen out of a table (FormaDeElegir) and nothing may be changed,
+/// the table comes up in its place. A file of another kind than `titulo` says isn't opened. `csSeleccion` is
+/// the identification to show first, and then the one chosen ("family#model", or a family's name).
 /// @return 1 accepted (and saved, when anything was changed), 0 the document couldn't be opened, 2
 /// cancelled.
 int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion);

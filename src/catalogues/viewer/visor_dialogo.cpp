@@ -12,6 +12,7 @@
 #include "catalogues/format/clase_documento.h"
 #include "catalogues/format/guardar_documento.h"
 #include "catalogues/own/superposicion.h"
+#include "catalogues/viewer/elegir_dialogo.h"
 #include "catalogues/viewer/nombre_dialogo.h"
 #include "platform/fichero/fichero.h"
 #include "platform/xml/xml.h"
@@ -338,6 +339,8 @@ int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion)
     const TipoCatalogo* tipo = TipoDeDocumento(abierto->documento);
     if (tipo != nullptr && tipo->Titulo() != peticion.titulo)
         return 0;
+    if (tipo != nullptr && !peticion.bModificable && FormaDeElegirModelos() == FormaDeElegir::tabla)
+        return ElegirEnTabla(*tipo, peticion.csRuta, peticion.grafica, csSeleccion);
     CDlgVisorXML dialogo(peticion, std::move(*abierto), csSeleccion);
     if (dialogo.Mostrar() != ui::Dialogo::ok)
         return ui::Dialogo::cancelado;

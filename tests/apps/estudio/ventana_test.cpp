@@ -359,7 +359,7 @@ TEST_F(Ventanas, ElEsquemaLlevaLosRotulosYLosColoresDeLaPersona)
 TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
 {
     ventana.MostrarPestana("energia");
-    for (const Orden& orden : Ordenes())
+    for (const estudio::Orden& orden : Ordenes())
         if (std::string_view(orden.menu) == "Es&quema" && orden.funcion != nullptr)
             orden.funcion(ventana);
     EXPECT_EQ(guion.Mensajes().size(), 2U);  // copy and save
@@ -369,7 +369,7 @@ TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
 TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
 {
     const CarpetaTemporal carpeta;
-    const auto orden = std::ranges::find(Ordenes(), std::string_view("I&nforme…"), [](const Orden& o) {
+    const auto orden = std::ranges::find(Ordenes(), std::string_view("I&nforme…"), [](const estudio::Orden& o) {
         return std::string_view(o.texto == nullptr ? "" : o.texto);
     });
     ASSERT_NE(orden, Ordenes().end());
