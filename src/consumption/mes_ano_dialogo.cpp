@@ -1,5 +1,7 @@
 #include "consumption/mes_ano_dialogo.h"
 
+#include <quorvel/ui/como.h>
+
 #include "solar/calendario.h"
 
 CDlgMesAno::CDlgMesAno(int iMesActual) : Dialogo("CDlgMesAno", L"Meses del año")
@@ -10,4 +12,10 @@ CDlgMesAno::CDlgMesAno(int iMesActual) : Dialogo("CDlgMesAno", L"Meses del año"
         casilla.bMarcada = iMes == iMesActual;
         casilla.bHabilitado = iMes != iMesActual;
     }
+    auto& todos = Anadir<efv::ui::Boton>("MarcarTodos", L"Marcar &todos");
+    todos.alPulsar = [this] {
+        for (efv::ui::Control* control : Controles())
+            if (auto* casilla = efv::ui::Como<efv::ui::Casilla>(*control))
+                casilla->bMarcada = true;
+    };
 }

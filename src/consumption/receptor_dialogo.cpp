@@ -8,6 +8,7 @@
 #include <fmt/xchar.h>
 
 #include "consumption/franjas.h"
+#include "consumption/franjas_texto.h"
 #include "consumption/horas_texto.h"
 #include "consumption/mes_ano_dialogo.h"
 #include "consumption/nombres.h"
@@ -65,6 +66,7 @@ CDlgDatosReceptor::CDlgDatosReceptor(const D& inicial, const efv::catalogues::Ba
     AnadirModelo();
     AnadirDatosCatalogo();
     AnadirPlanificacion();
+    AnadirFranjas();
     AnadirLimites();
     Volcar();
     MostrarCatalogo();
@@ -135,6 +137,25 @@ void CDlgDatosReceptor::AnadirPlanificacion()
     m_receptor.Anadir(*this, {&R::dHorasDia, L"Nº horas uso diario:", {0, 24}}, kPlanificacion);
 }
 
+// The bands as a line, and how far a change of them reaches.
+void CDlgDatosReceptor::AnadirFranjas()
+{
+    const auto anadirCasilla = [this](const char* nombre, std::wstring_view rotulo) {
+        auto& casilla = Anadir<ui::Casilla>(nombre, rotulo);
+        casilla.colocacion = kPlanificacion;
+        casilla.alCambiar = [this] { Repartir(); };
+        return &casilla;
+    };
+    m_todosLosMeses = anadirCasilla("bTodosLosMeses", L"Todos los meses a la vez");
+    m_todosLosDias = anadirCasilla("bTodosLosDias", L"Todos los días a la vez");
+    m_todosLosDias->colocacion = ui::JuntoA(*m_todosLosMeses);
+    m_franjas = &Anadir<ui::Edicion>("csFranjas", L"Franjas de uso:");
+    m_franjas->csEjemplo = L"08:00-12:00; 18:00-22:00";
+    m_franjas->colocacion = kPlanificacion;
+    m_franjas->alCambiar = [this] { AlTeclearFranjas(); };
+    m_franjas->alSalir = [this] { AvisarDeFranjas(); };
+}
+
 void CDlgDatosReceptor::AnadirLimites()
 {
     for (std::size_t i = 0; i < m_limites.size(); ++i) {
@@ -174,6 +195,8 @@ void CDlgDatosReceptor::MostrarFranjas()
 {
     for (std::size_t i = 0; i < m_limites.size(); ++i)
         m_limites[i].deslizador->iValor = std::clamp(efv::numero::Entero(FranjasVisibles()[i]), 0, kMinutosDia);
+    m_franjas->csTexto = efv::consumption::TextoDeFranjas(FranjasVisibles());
+    m_franjas->color = ui::kNegro;
     MostrarHoras();
 }
 
@@ -233,7 +256,48 @@ void CDlgDatosReceptor::AlTeclearCantidad()
 void CDlgDatosReceptor::AlMover(std::size_t i)
 {
     FranjasVisibles()[i] = m_limites[i].deslizador->iValor;
-    MostrarHoras();
+    Repartir();
+    MostrarFranjas();
+}
+
+// The sliders follow each letter; what isn't understood yet is red and changes nothing.
+void CDlgDatosReceptor::AlTeclearFranjas()
+{
+    const auto leidas = efv::consumption::LeerFranjas(m_franjas->csTexto);
+    m_franjas->color = leidas.franjas ? ui::kNegro : ui::kRojo;
+    if (!leidas.franjas)
+        return;
+    const CString csTecleado = m_franjas->csTexto;
+    std::ranges::copy(*leidas.franjas, FranjasVisibles());
+    Repartir();
+    MostrarFranjas();
+    m_franjas->csTexto = csTecleado;
+}
+
+// @return whether the line is understood; it then reads as the bands do
+bool CDlgDatosReceptor::AvisarDeFranjas()
+{
+    const auto leidas = efv::consumption::LeerFranjas(m_franjas->csTexto);
+    const CString csDeAhora = efv::consumption::TextoDeFranjas(FranjasVisibles());
+    // Bands that the sliders have put in disorder stay as they are.
+    if (leidas.franjas || m_franjas->csTexto == csDeAhora) {
+        m_franjas->csTexto = csDeAhora;
+        return true;
+    }
+    foco = m_franjas;
+    ui::MostrarAviso(leidas.csFallo + L".", ui::Icono::advertencia);
+    return false;
+}
+
+// The bands in sight to the months and day types that change with them.
+void CDlgDatosReceptor::Repartir()
+{
+    const auto actual = std::to_array(FranjasVisibles());
+    for (int iMes = 0; iMes < 12; ++iMes)
+        for (int iTipo = 0; iTipo < 7; ++iTipo)
+            if ((iMes == datos.iMes || m_todosLosMeses->bMarcada) &&
+                (iTipo == datos.iDiaTipo || m_todosLosDias->bMarcada))
+                std::ranges::copy(actual, datos.receptor.dHorario[iMes][iTipo]);
 }
 
 void CDlgDatosReceptor::AlUnificar()
@@ -275,7 +339,7 @@ CString CDlgDatosReceptor::DiasSinUso() const
 
 bool CDlgDatosReceptor::AlAceptar()
 {
-    if (!DialogoFicha::AlAceptar())
+    if (!DialogoFicha::AlAceptar() || !AvisarDeFranjas())
         return false;
     const CString csDias = DiasSinUso();
     return csDias.empty() ||

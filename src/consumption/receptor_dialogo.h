@@ -56,6 +56,7 @@ private:
     efv::ui::Seleccion& AnadirCombo(int efv::consumption::DatosReceptor::*miembro, std::wstring_view rotulo,
                                     std::vector<CString> acsEntradas, void (CDlgDatosReceptor::*alElegir)());
     void AnadirPlanificacion();
+    void AnadirFranjas();
     void AnadirLimites();
     void MostrarCatalogo();
     void MostrarFranjas();
@@ -66,6 +67,9 @@ private:
     void AlElegirDiaTipo();
     void AlTeclearCantidad();
     void AlMover(std::size_t i);
+    void AlTeclearFranjas();
+    bool AvisarDeFranjas();
+    void Repartir();
     void AlUnificar();
     CString DiasSinUso() const;
     double (&FranjasVisibles())[6] { return datos.receptor.dHorario[datos.iMes][datos.iDiaTipo]; }
@@ -76,5 +80,7 @@ private:
     efv::ui::Boton* m_elegir = nullptr;
     efv::ui::TextoFijo *m_tipoRed = nullptr, *m_luminaria = nullptr;
     efv::ui::Seleccion *m_mes = nullptr, *m_diaTipo = nullptr, *m_unificar = nullptr;
+    efv::ui::Edicion* m_franjas = nullptr;
+    efv::ui::Casilla *m_todosLosMeses = nullptr, *m_todosLosDias = nullptr;
     efv::ui::Grafica* m_grafica = nullptr;
 };

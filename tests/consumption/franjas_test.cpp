@@ -1,4 +1,5 @@
 #include "consumption/franjas.h"
+#include "consumption/franjas_texto.h"
 
 #include <numeric>
 
@@ -93,6 +94,36 @@ TEST(Franjas, LosLimitesDescabelladosNoRompenLaCuentaRapida)
         for (std::size_t h = 0; h < 24; ++h)
             EXPECT_EQ(fracciones[h], FraccionDeHora(f, static_cast<int>(h))) << f[0] << ' ' << h;
     }
+}
+
+TEST(Franjas, SeLeenComoSeEscriben)
+{
+    struct Caso {
+        const wchar_t* texto;
+        const wchar_t* franjas;  // as they are written; empty: not understood
+    };
+    for (const Caso& caso : {
+             Caso{L"08:00-12:00; 18:00-22:00", L"08:00-12:00; 18:00-22:00"},
+             Caso{L" de 18 a 22 y de 8 h a 12.30 h ", L"08:00-12:30; 18:00-22:00"},
+             Caso{L"0–24", L"00:00-24:00"},
+             Caso{L"22:00-6:15", L"00:00-06:15; 22:00-24:00"},
+             Caso{L"8-10,10-12", L"08:00-10:00; 10:00-12:00"},
+             Caso{L"8-12;11-13", L""},
+             Caso{L"8-8", L""},
+             Caso{L"8-25", L""},
+             Caso{L"8:60-9", L""},
+             Caso{L"24:01-2", L""},
+             Caso{L"8 12", L""},
+             Caso{L"1-2;3-4;5-6;7-8", L""},
+             Caso{L"22-2;3-4;5-6", L""},
+             Caso{L"800-900", L""},
+         }) {
+        const auto leidas = LeerFranjas(caso.texto);
+        EXPECT_EQ(leidas.franjas ? TextoDeFranjas(*leidas.franjas) : CString(), caso.franjas)
+            << efv::CadenaUtf8(caso.texto);
+        EXPECT_EQ(leidas.csFallo.empty(), leidas.franjas.has_value());
+    }
+    EXPECT_EQ(LeerFranjas(L"").franjas, (std::array<double, 6>{}));
 }
 
 }  // namespace

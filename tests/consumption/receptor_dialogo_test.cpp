@@ -106,6 +106,42 @@ TEST_F(ReceptorDialogo, MoverUnLimiteEscribeLaFranjaAlMomento)
     EXPECT_EQ(dialogo->datos.receptor.dHorario[0][1][0], 0);
 }
 
+TEST_F(ReceptorDialogo, LasFranjasTecleadasMuevenLosLimitesYLoQueNoSeEntiendeNoCambiaNada)
+{
+    Planificar();
+    Mostrar({paso::Poner{"csFranjas", L"18-22,8:30 a 12"},
+             paso::Leer{{"csFranjas", "Inicio 1", "Final 2", "dHorasDia"}}, paso::Teclear{"csFranjas", L"8-"},
+             paso::Leer{{"csFranjas", "Final 2"}}, paso::Pulsar{"OK"}, paso::Poner{"csFranjas", L""},
+             paso::Leer{{"Final 2", "dHorasDia"}}, paso::Poner{"Inicio 1", L"600"},
+             paso::Poner{"Final 1", L"605"}, paso::Leer{{"csFranjas"}}});
+    EXPECT_EQ(guion.Texto(0, 0, "csFranjas"), L"08:30-12:00; 18:00-22:00");
+    EXPECT_EQ(guion.Texto(0, 0, "Inicio 1"), L"08:30 h");
+    EXPECT_EQ(guion.Texto(0, 0, "Final 2"), L"22:00 h");
+    EXPECT_EQ(guion.Texto(0, 0, "dHorasDia"), L"7,50");
+    EXPECT_EQ(guion.Estado(0, 1, "csFranjas").color, ui::kRojo);
+    EXPECT_EQ(guion.Texto(0, 1, "Final 2"), L"22:00 h");
+    EXPECT_EQ(guion.Mensajes().at(0), L"No se entienden las franjas; un ejemplo: 08:00-12:00; 18:00-22:00.");
+    EXPECT_EQ(guion.Texto(0, 2, "dHorasDia"), L"0,00");
+    EXPECT_EQ(guion.Texto(0, 3, "csFranjas"), L"10:00-10:05");
+    EXPECT_EQ(dialogo->datos.receptor.dHorario[0][0][1], 605);
+    EXPECT_NE(dialogo->datos.receptor.dHorario[1][0][1], 605);
+}
+
+TEST_F(ReceptorDialogo, LoQueSeCambiaLlegaATodosLosMesesYDiasMarcados)
+{
+    const auto hasta = [&](int iMes, int iTipo) { return dialogo->datos.receptor.dHorario[iMes][iTipo][1]; };
+    Mostrar({paso::Marcar{"bTodosLosMeses", true}, paso::Poner{"csFranjas", L"0-1"}});
+    EXPECT_EQ(std::pair(hasta(11, 0), hasta(11, 1)), std::pair(60.0, 0.0));
+    Mostrar(
+        {paso::Poner{"csFranjas", L"0-1"}, paso::Marcar{"bTodosLosDias", true}, paso::Poner{"Final 1", L"90"}});
+    EXPECT_EQ(std::pair(hasta(0, 6), hasta(1, 0)), std::pair(90.0, 0.0));
+    Mostrar({paso::Poner{"csFranjas", L"0-1"}, paso::Marcar{"bTodosLosDias", true},
+             paso::Marcar{"bTodosLosMeses", true}});
+    for (int iMes = 0; iMes < 12; ++iMes)
+        for (int iTipo = 0; iTipo < 7; ++iTipo)
+            EXPECT_EQ(hasta(iMes, iTipo), 60.0);
+}
+
 TEST_F(ReceptorDialogo, LaGraficaSigueALaCantidadSegunSeTeclea)
 {
     Planificar();
