@@ -293,11 +293,13 @@ bool CDlgDatosReceptor::AvisarDeFranjas()
 void CDlgDatosReceptor::Repartir()
 {
     const auto actual = std::to_array(FranjasVisibles());
-    for (int iMes = 0; iMes < 12; ++iMes)
-        for (int iTipo = 0; iTipo < 7; ++iTipo)
+    for (int iMes = 0; iMes < 12; ++iMes) {
+        for (int iTipo = 0; iTipo < 7; ++iTipo) {
             if ((iMes == datos.iMes || m_todosLosMeses->bMarcada) &&
                 (iTipo == datos.iDiaTipo || m_todosLosDias->bMarcada))
                 std::ranges::copy(actual, datos.receptor.dHorario[iMes][iTipo]);
+        }
+    }
 }
 
 void CDlgDatosReceptor::AlUnificar()
