@@ -29,7 +29,7 @@ Clave ClaveDe(const CString& csCelda, int iFila)
 {
     const QString texto = AQt(csCelda).simplified();
     bool bNumero = false;
-    const double d = QString(texto).replace(',', '.').toDouble(&bNumero);
+    const double d = QString(texto).remove(' ').replace(',', '.').toDouble(&bNumero);
     if (bNumero && std::isfinite(d))
         return {Clave::Clase::numero, d, {}, iFila};
     return {texto.isEmpty() || texto == QStringLiteral("—") ? Clave::Clase::nada : Clave::Clase::texto, 0.0,

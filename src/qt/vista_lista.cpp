@@ -150,7 +150,9 @@ private:
     }
     QHeaderView& Cabecera() const
     {
-        return Arbol() != nullptr ? *Arbol()->header() : *static_cast<QTableView*>(widget)->horizontalHeader();
+        if (QTreeView* const arbol = Arbol())
+            return *arbol->header();
+        return *static_cast<QTableView*>(widget)->horizontalHeader();
     }
 
     bool SeOrdena() const { return Arbol() == nullptr && m_lista.acsColumnas.size() > 1; }

@@ -64,6 +64,7 @@ constexpr auto kApartados = std::to_array<Fila>({
     {"CDlgDatosFisicoConductor", "Cables"},
     {"CDlgDatosMargenSeguridadCableado", "Cables"},
     {"CDlgVisorXML", "Catálogos"},
+    {"CDlgElegirModelo", "Elegir un modelo"},
     {"CDlgVisorNombre", "Catálogos"},
     {"CDlgItemDatosPanelFoto", "Ficha de un panel"},
     {"CDlgItemDatosGraficaPanelFoto", "Ficha de un panel"},
