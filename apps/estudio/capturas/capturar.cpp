@@ -16,6 +16,8 @@
 
 #include <quorvel/qt.h>
 
+#include "ayuda/apartados.h"
+#include "ayuda/ventana_ayuda.h"
 #include "elementos/rotulos.h"
 #include "esquema/exportar.h"
 #include "ventana_principal.h"
@@ -232,6 +234,12 @@ ResultadoCapturas CapturarPrograma(VentanaPrincipal& ventana, const std::filesys
     CapturarDisenoQueFalla(ventana, carpeta, resultado);
     CapturarCampoConFalta(ventana, carpeta, resultado);
     CapturarPresentador(carpeta, resultado);
+    {
+        VentanaAyuda ayuda(&ventana);
+        ayuda.show();
+        ayuda.Mostrar(QString::fromLatin1(kAyudaDePantallas), QStringLiteral("El lugar"));
+        CapturarVentana(ayuda, carpeta, "ayuda", resultado);
+    }
     // Somewhere else the designs don't hold.
     Sesion& sesion = ventana.LaSesion();
     sesion.Proyecto().lugar.dLatitud -= 1.0;

@@ -52,8 +52,8 @@ TEST_F(Capturas, CadaDialogoDeLaBibliotecaTieneLaSuyaYCabeEnUnaPantallaPequena)
     ventana.show();
     const ResultadoCapturas programa = CapturarPrograma(ventana, carpeta.Ruta());
     // Each tab, a design that fails with its schematic, a field at fault, designs out of date, the palette,
-    // long work, both schematics; each in both themes.
-    EXPECT_EQ(programa.nCapturas, 2 * (static_cast<int>(VentanaPrincipal::Pestanas().size()) + 8));
+    // long work, the help, both schematics; each in both themes.
+    EXPECT_EQ(programa.nCapturas, 2 * (static_cast<int>(VentanaPrincipal::Pestanas().size()) + 9));
     const ResultadoCapturas resultado = Capturar(Pantallas(sesion), carpeta.Ruta());
     for (const auto& faltas : {programa.faltas, resultado.faltas})
         for (const std::string& falta : faltas)
