@@ -79,6 +79,14 @@ double CorrienteSalida(const CBaseInversorModelo& inversor, double dCosFi)
 
 }  // namespace
 
+std::optional<CalibreProteccion> CalibreDe(const TramoDiseno& tramo)
+{
+    const auto& c = tramo.calculo;
+    if (!tramo.bDatos || !c.bCorriente || c.dAdmisible <= 0.0)
+        return std::nullopt;
+    return CalibreProteccion{c.dAdmisible - c.dReserva, c.dAdmisible};
+}
+
 Cableado CableadoDe(const CSFVAsistenteRed& diseno, const CBaseInversorModelo* inversor,
                     const CBasePanelFotoModelo* panel, const CriteriosCableado& criterios)
 {

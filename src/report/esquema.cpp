@@ -1,5 +1,9 @@
 #include <quorvel/report/esquema.h>
 
+#include <algorithm>
+#include <map>
+#include <numeric>
+
 #include <fmt/format.h>
 
 #include <quorvel/report/disenos.h>
@@ -15,7 +19,8 @@ using Clase = Elemento::Clase;
 
 constexpr double kMil = 1000.0;
 constexpr std::size_t kCargasEscritas = 4;
-constexpr std::wstring_view kNoCumple = L"NO CUMPLE";
+constexpr std::size_t kEntradasEscritas = 6;
+constexpr std::wstring_view kNoCumple = L"NO CUMPLE", kNada = L"—", kSinProteccion = L"In: —";
 
 CString Cifra(double d, int iDecimales)
 {
@@ -94,20 +99,62 @@ Elemento DeRegulador(const CSFVAsistenteAislada& diseno)
                          L"Corriente FV máx.: " + Cifra(diseno.dCorrienteMaxFV, 0) + L" A"}};
 }
 
+const TramoDiseno* TramoDe(const Cableado& cableado, std::string_view clave)
+{
+    const auto tramo = std::ranges::find(cableado.tramos, clave, &TramoDiseno::clave);
+    return tramo == cableado.tramos.end() ? nullptr : &*tramo;
+}
+
 // Section and drop of a stretch, or that none is enough.
 CString DeCable(const Cableado& cableado, std::string_view clave)
 {
-    for (const TramoDiseno& tramo : cableado.tramos) {
-        if (tramo.clave != clave)
+    const TramoDiseno* tramo = TramoDe(cableado, clave);
+    if (tramo == nullptr)
+        return CString(kNada);
+    if (!tramo->Cumple())
+        return CString(kNoCumple);
+    const CString csSeccion =
+        CadenaDesdeUtf8(report::TextoSeccion(tramo->calculo.dSeccion, tramo->tramo.iConductoresFase));
+    return tramo->bDatos && tramo->bLongitud ? csSeccion + L" · " + Cifra(tramo->calculo.dCaidaPct, 2) + L" %"
+                                             : csSeccion;
+}
+
+// What the protection of a stretch may be rated at.
+CString DeProteccion(const Cableado& cableado, std::string_view clave)
+{
+    const TramoDiseno* tramo = TramoDe(cableado, clave);
+    const auto calibre = tramo != nullptr ? CalibreDe(*tramo) : std::nullopt;
+    if (!calibre)
+        return CString(kSinProteccion);
+    return L"In: " + Cifra(calibre->dMinimo, 1) + L" a " + Cifra(calibre->dMaximo, 1) + L" A";
+}
+
+// "9 × 2" strings on an input.
+CString EnEntrada(const Cableado& cableado, int iRamales)
+{
+    return std::to_wstring(cableado.iPanelesSerie) + L" × " + std::to_wstring(iRamales);
+}
+
+// The strings on each input of an inverter, one a line; of many inputs, those with as many strings together.
+std::vector<CString> DeEntradas(const Cableado& cableado)
+{
+    std::vector<CString> acsLineas;
+    std::map<int, int> entradas;  // inputs by their strings
+    for (const EntradaDiseno& entrada : cableado.entradas) {
+        if (entrada.iRamales == 0)
             continue;
-        if (!tramo.Cumple())
-            return CString(kNoCumple);
-        const CString csSeccion =
-            CadenaDesdeUtf8(report::TextoSeccion(tramo.calculo.dSeccion, tramo.tramo.iConductoresFase));
-        return tramo.bDatos && tramo.bLongitud ? csSeccion + L" · " + Cifra(tramo.calculo.dCaidaPct, 2) + L" %"
-                                               : csSeccion;
+        ++entradas[entrada.iRamales];
+        if (acsLineas.size() <= kEntradasEscritas)
+            acsLineas.push_back(L"MPPT " + std::to_wstring(entrada.iSeguidor) + L", " + entrada.csReferencia +
+                                L": " + EnEntrada(cableado, entrada.iRamales));
     }
-    return L"—";
+    if (acsLineas.size() <= kEntradasEscritas)
+        return acsLineas;
+    acsLineas.clear();
+    for (const auto& [iRamales, iEntradas] : entradas)
+        acsLineas.push_back(Cuantos(iEntradas, L"entrada", L"s") + L": " + EnEntrada(cableado, iRamales) +
+                            (iEntradas == 1 ? L"" : L" cada una"));
+    return acsLineas;
 }
 
 struct SimbolosUnifilares {
@@ -196,7 +243,13 @@ void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, const s
     if (!continuas.cargas.empty() || !bSalida) {
         const std::size_t n =
             trazador.Poner(continuas.ComoElemento(bSalida ? L"Receptores CC" : L"Receptores"), 2, 0);
-        trazador.Unir({nRegulador, n, csContinua, {}, false, DeCable(cableado, "receptores")});
+        trazador.Unir({nRegulador,
+                       n,
+                       csContinua,
+                       {},
+                       false,
+                       DeCable(cableado, "receptores"),
+                       DeProteccion(cableado, "receptores")});
     }
     const GrupoCargas alternas(cargas, true, false);
     if (!bSalida) {
@@ -212,33 +265,41 @@ void PonerCargas(Trazador& trazador, const CSFVAsistenteAislada& diseno, const s
                         .acsDatos = {Cifra(diseno.dTensionSalidaCA, 0) + L" V, " +
                                      (diseno.iTipoSalidaCA == 0 ? L"monofásica" : L"trifásica")}},
                        2, iFila);
-    trazador.Unir({nRegulador, nInversor, csContinua, {}, false, DeCable(cableado, "inversor")});
+    trazador.Unir({nRegulador,
+                   nInversor,
+                   csContinua,
+                   {},
+                   false,
+                   DeCable(cableado, "inversor"),
+                   DeProteccion(cableado, "inversor")});
     const std::size_t nCargas = trazador.Poner(alternas.ComoElemento(L"Receptores CA"), 3, iFila);
     trazador.Unir({nInversor,
                    nCargas,
                    Cifra(diseno.dTensionSalidaCA, 0) + L" V CA",
                    {},
                    true,
-                   DeCable(cableado, "salida")});
+                   DeCable(cableado, "salida"),
+                   DeProteccion(cableado, "salida")});
 }
 
-// The rows of inverters that are drawn; 0 for the row of dots.
-std::vector<int> Numeros(int iInversores)
+// The rows of inverters that are drawn; 0 for the row of dots, minus their count for one that stands for all.
+std::vector<int> Numeros(int iInversores, Detalle detalle)
 {
-    std::vector<int> numeros;
-    if (iInversores <= kInversoresDibujados) {
-        for (int i = 1; i <= iInversores; ++i)
-            numeros.push_back(i);
-        return numeros;
-    }
-    return {1, 0, iInversores};
+    if ((detalle == Detalle::agrupados && iInversores > 1) ||
+        (detalle == Detalle::unoAUno && iInversores > kInversoresUnoAUno))
+        return {-iInversores};
+    if (detalle == Detalle::extremos && iInversores > kInversoresDibujados)
+        return {1, 0, iInversores};
+    std::vector<int> numeros(static_cast<std::size_t>(std::max(iInversores, 0)));
+    std::iota(numeros.begin(), numeros.end(), 1);
+    return numeros;
 }
 
 Elemento DeInversor(const GrupoInversores& inversores, int iNumero, bool bUnifilar)
 {
     return {
         .clase = Clase::inversor,
-        .csTitulo = L"Inversor " + std::to_wstring(iNumero),
+        .csTitulo = iNumero > 0 ? L"Inversor " + std::to_wstring(iNumero) : CString(L"Inversores"),
         .acsDatos = {ModeloDe(inversores), Potencia(inversores.dPCANom, L"W") + L" nominal",
                      L"MPPT: " + Cifra(inversores.dVMPPMin, 0) + L"–" + Cifra(inversores.dVMPPMax, 0) + L" V",
                      std::to_wstring(inversores.iNumMPPT) + L" seguidores, " +
@@ -249,7 +310,7 @@ Elemento DeInversor(const GrupoInversores& inversores, int iNumero, bool bUnifil
 
 CString Longitud(const wchar_t* csNombre, double d)
 {
-    return CString(csNombre) + L" = " + Cifra(d, 1) + L" m";
+    return CString(csNombre) + L" = " + (d > 0.0 ? Cifra(d, 1) + L" m" : CString(kNada));
 }
 
 }  // namespace
@@ -281,19 +342,21 @@ Esquema Trazar(const CSFVAsistenteAislada& diseno, const CampoPaneles& campo, co
                    TensionYCorriente(campo.Tension(), campo.Corriente()),
                    {},
                    false,
-                   DeCable(cableado, "paneles")});
+                   DeCable(cableado, "paneles"),
+                   DeProteccion(cableado, "paneles")});
     trazador.Unir({nRegulador,
                    nAcumuladores,
                    Cifra(diseno.dTensionSistema, 0) + L" V CC",
                    {},
                    false,
-                   DeCable(cableado, "acumuladores")});
+                   DeCable(cableado, "acumuladores"),
+                   DeProteccion(cableado, "acumuladores")});
     PonerCargas(trazador, diseno, cargas, cableado, nRegulador);
     return std::move(trazador.esquema);
 }
 
 Esquema Trazar(const CSFVAsistenteRed& diseno, const CampoPaneles& campo, const GrupoInversores& inversores,
-               const Cableado& cableado, EsUnifilar esUnifilar)
+               const Cableado& cableado, EsUnifilar esUnifilar, Detalle detalle)
 {
     if (!HayDiseno(diseno))
         return {};
@@ -303,7 +366,7 @@ Esquema Trazar(const CSFVAsistenteRed& diseno, const CampoPaneles& campo, const 
     Trazador trazador;
     trazador.esquema.csTitulo = L"Instalación conectada a red";
     // In the middle row of the inverters.
-    const std::vector<int> numeros = Numeros(inversores.iCuantos);
+    const std::vector<int> numeros = Numeros(inversores.iCuantos, detalle);
     const int iMedia = (static_cast<int>(numeros.size()) - 1) / 2;
     const std::size_t nCaja = trazador.Poner(
         {.clase = Clase::caja,
@@ -325,17 +388,33 @@ Esquema Trazar(const CSFVAsistenteRed& diseno, const CampoPaneles& campo, const 
                            1, iFila);
             continue;
         }
-        const std::size_t nPaneles = trazador.Poner(DePaneles(campo, unifilar(diseno.iSimboloPanel)), 0, iFila);
-        const std::size_t nInversor =
-            trazador.Poner(DeInversor(inversores, iNumero, unifilar(diseno.iSimboloInversor)), 1, iFila);
+        Elemento paneles = DePaneles(campo, unifilar(diseno.iSimboloPanel));
+        for (CString& csEntrada : DeEntradas(cableado))
+            paneles.acsDatos.push_back(std::move(csEntrada));
+        Elemento inversor = DeInversor(inversores, iNumero, unifilar(diseno.iSimboloInversor));
+        CString csVeces;
+        if (iNumero < 0) {
+            csVeces = CString(L"× ") + std::to_wstring(-iNumero);
+            for (Elemento* elemento : {&paneles, &inversor}) {
+                elemento->iCuantos = -iNumero;
+                elemento->csTitulo += CString(L" ") + csVeces;
+                elemento->acsDatos.insert(elemento->acsDatos.begin(), CString(L"Iguales; de cada uno:"));
+            }
+        }
+        const std::size_t nPaneles = trazador.Poner(std::move(paneles), 0, iFila);
+        const std::size_t nInversor = trazador.Poner(std::move(inversor), 1, iFila);
+        const auto longitud = [&](const wchar_t* csNombre, double d) {
+            return csVeces.empty() ? Longitud(csNombre, d) : csVeces + L": " + Longitud(csNombre, d);
+        };
         trazador.Unir({nPaneles, nInversor, TensionYCorriente(campo.Tension(), campo.Corriente()),
-                       Longitud(L"L1", diseno.dLongitudL1), false, DeCable(cableado, "L1")});
-        trazador.Unir({nInversor, nCaja,
-                       Cifra(inversores.dVCANom, 0) + L" V · " + Potencia(inversores.dPCANom, L"W"),
-                       Longitud(L"L2", diseno.dLongitudL2), true, DeCable(cableado, "L2")});
+                       longitud(L"L1", diseno.dLongitudL1), false, DeCable(cableado, "L1"),
+                       DeProteccion(cableado, "L1")});
+        trazador.Unir(
+            {nInversor, nCaja, Cifra(inversores.dVCANom, 0) + L" V · " + Potencia(inversores.dPCANom, L"W"),
+             longitud(L"L2", diseno.dLongitudL2), true, DeCable(cableado, "L2"), DeProteccion(cableado, "L2")});
     }
     trazador.Unir({nCaja, nRed, Potencia(inversores.Potencia(), L"W"), Longitud(L"L3", diseno.dLongitudL3),
-                   true, DeCable(cableado, "L3")});
+                   true, DeCable(cableado, "L3"), DeProteccion(cableado, "L3")});
     return std::move(trazador.esquema);
 }
 
@@ -349,9 +428,10 @@ Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos
 }
 
 Esquema EsquemaDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos, const Cableado& cableado,
-                  EsUnifilar esUnifilar)
+                  EsUnifilar esUnifilar, Detalle detalle)
 {
-    return Trazar(diseno, PanelesDe(diseno, catalogos), InversoresDe(diseno, catalogos), cableado, esUnifilar);
+    return Trazar(diseno, PanelesDe(diseno, catalogos), InversoresDe(diseno, catalogos), cableado, esUnifilar,
+                  detalle);
 }
 
 Esquema EsquemaDe(const ProyectoAislada& proyecto, const EstudioAislada& estudio)
@@ -373,11 +453,11 @@ Esquema EsquemaDe(const ProyectoAislada& proyecto, const EstudioAislada& estudio
     return esquema;
 }
 
-Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio)
+Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio, Detalle detalle)
 {
     const auto& v = estudio.v;
     Esquema esquema = Trazar(v, CampoDe(v.csPanel, v.iPanelesSerie, v.iPanelesParalelo, proyecto.panel),
-                             GrupoDe(v, proyecto.inversor), estudio.cableado, nullptr);
+                             GrupoDe(v, proyecto.inversor), estudio.cableado, nullptr, detalle);
     MarcarFallos(esquema, estudio.comprobacion);
     return esquema;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -54,6 +55,14 @@ struct TramoDiseno {
 
     bool Cumple() const { return !bDatos || calculo.Cumple(); }
 };
+
+/// The rated currents that the protection of a stretch may have: from what it carries with its margin to what
+/// its cable bears (UNE-HD 60364-4-43), A.
+struct CalibreProteccion {
+    double dMinimo, dMaximo;
+};
+/// Nothing of a stretch that isn't calculated or whose cable isn't enough.
+EFV_API std::optional<CalibreProteccion> CalibreDe(const TramoDiseno& tramo);
 
 /// An input of each inverter, and the strings that hang on it.
 struct EntradaDiseno {

@@ -133,7 +133,8 @@ EFV_API ProyectoRed ProyectoDe(const CSFVAsistenteRed& diseno, const Catalogos& 
 
 EFV_API EstudioRed Calcular(const ProyectoRed& proyecto, const CBaseFactorK& tabla);
 EFV_API std::vector<Aviso> Avisos(const ProyectoRed& proyecto, const EstudioRed& estudio);
-EFV_API Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio);
+EFV_API Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio,
+                          Detalle detalle = Detalle::extremos);
 EFV_API Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estudio,
                                     std::vector<Aviso> avisos);
 

@@ -48,8 +48,9 @@ struct Conexion {
     CString csRotulo;
     CString csDetalle = {};  ///< below the line
     bool bAlterna = false;
-    CString csCable = {};  ///< section and drop, below that
-    bool bFalla = false;   ///< no section is enough
+    CString csCable = {};       ///< section and drop, below that
+    CString csProteccion = {};  ///< what its protection may be rated at, below that; "—" where it isn't known
+    bool bFalla = false;        ///< no section is enough
 };
 
 struct Esquema {
@@ -62,6 +63,19 @@ struct Esquema {
 /// Inverters that are drawn one by one; of more of them the first, the last and what lies between.
 inline constexpr int kInversoresDibujados = 3;
 
+/// The same where each is drawn; of more of them one stands for all, with its count.
+inline constexpr int kInversoresUnoAUno = 12;
+
+/// How equal inverters are drawn.
+enum class Detalle {
+    extremos,   ///< the first and the last of many
+    unoAUno,    ///< each
+    agrupados,  ///< one for all, with their count
+};
+
+/// The forms that sheets of paper are tried with, in this order.
+inline constexpr Detalle kDetallesDePlano[] = {Detalle::unoAUno, Detalle::agrupados};
+
 /// Whether a host's symbol stands for a whole field instead of a piece.
 using EsUnifilar = bool (*)(int iSimbolo);
 
@@ -72,6 +86,6 @@ EFV_API void MarcarFallos(Esquema& esquema, const assistants::ComprobacionCampo&
 EFV_API Esquema EsquemaDe(const CSFVAsistenteAislada& diseno, const Catalogos& catalogos,
                           const Cableado& cableado, EsUnifilar esUnifilar = nullptr);
 EFV_API Esquema EsquemaDe(const CSFVAsistenteRed& diseno, const Catalogos& catalogos, const Cableado& cableado,
-                          EsUnifilar esUnifilar = nullptr);
+                          EsUnifilar esUnifilar = nullptr, Detalle detalle = Detalle::extremos);
 
 }  // namespace efv::report

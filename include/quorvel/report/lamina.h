@@ -13,6 +13,9 @@ namespace efv::report {
 /// Meaning of a colour; each theme has its own for it.
 enum class Tinta { fondo, texto, tenue, linea, alterna, tarjeta, panel, acumulador, aparato, aviso, ninguna };
 
+/// What a stroke belongs to; drawings have a layer for each.
+enum class Capa { equipos, cablesCC, cablesCA, protecciones, textos, marco, cajetin };
+
 struct Punto {
     double x, y;
     bool operator==(const Punto&) const = default;
@@ -24,6 +27,7 @@ struct Linea {
     Tinta tinta;
     double dAncho = 1.5;
     std::optional<ui::Color> color = {};  ///< of the host's palette, in the ink's place
+    Capa capa = Capa::equipos;
     bool operator==(const Linea&) const = default;
 };
 struct Caja {
@@ -32,12 +36,14 @@ struct Caja {
     Tinta borde, relleno = Tinta::ninguna;
     double dRadio = 0.0;                  ///< of its corners
     std::optional<ui::Color> color = {};  ///< of the host's palette, in the border's place
+    Capa capa = Capa::equipos;
     bool operator==(const Caja&) const = default;
 };
 struct Circulo {
     Punto centro;
     double dRadio;
     Tinta borde, relleno = Tinta::ninguna;
+    Capa capa = Capa::equipos;
     bool operator==(const Circulo&) const = default;
 };
 struct Texto {
@@ -48,6 +54,7 @@ struct Texto {
     Tinta tinta;
     Lado lado = Lado::izquierda;
     bool bNegrita = false;
+    Capa capa = Capa::textos;
     bool operator==(const Texto&) const = default;
 };
 }  // namespace trazo
@@ -67,6 +74,7 @@ struct Zona {
 
 struct EFV_API Lamina {
     double dAncho = 0.0, dAlto = 0.0;
+    double dContorno = 1.3;  ///< width of the lines of boxes and circles
     std::vector<Trazo> trazos;
     std::vector<Zona> zonas;  ///< in the order of the schematic's elements
 
