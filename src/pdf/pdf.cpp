@@ -25,11 +25,6 @@ float Real(double d)
     return static_cast<float>(d);
 }
 
-float Altura(double y)
-{
-    return Real(report::kAltoHoja - y);
-}
-
 struct Rgb {
     float r, g, b;
 
@@ -139,8 +134,9 @@ namespace {
 template <class DOCUMENTO>
 class Pintor {
 public:
-    Pintor(const DOCUMENTO& documento, HPDF_Page pagina, std::span<const HPDF_Destination> destinos)
-        : m_documento(documento), m_pagina(pagina), m_destinos(destinos)
+    Pintor(const DOCUMENTO& documento, HPDF_Page pagina, double dAlto,
+           std::span<const HPDF_Destination> destinos)
+        : m_documento(documento), m_pagina(pagina), m_dAlto(dAlto), m_destinos(destinos)
     {
     }
 
@@ -195,6 +191,7 @@ public:
     }
 
 private:
+    float Altura(double y) const { return Real(m_dAlto - y); }
     void Preparar(std::optional<ui::Color> relleno, std::optional<ui::Color> borde, double dAncho,
                   const std::vector<double>& adGuiones) const
     {
@@ -231,6 +228,7 @@ private:
 
     const DOCUMENTO& m_documento;
     HPDF_Page m_pagina;
+    double m_dAlto;  // of the sheet
     std::span<const HPDF_Destination> m_destinos;
 };
 
@@ -265,7 +263,8 @@ std::vector<HPDF_Destination> PonerTitulares(HPDF_Doc pdf, const report::Impreso
     destinos.reserve(impreso.titulares.size());
     for (const report::Titular& titular : impreso.titulares) {
         HPDF_Destination destino = HPDF_Page_CreateDestination(paginas.at(titular.nHoja));
-        HPDF_Destination_SetXYZ(destino, 0, Altura(titular.y - kEncima), 1);
+        HPDF_Destination_SetXYZ(destino, 0, Real(impreso.hojas.at(titular.nHoja).dAlto - titular.y + kEncima),
+                                1);
         HPDF_Outline linea =
             HPDF_CreateOutline(pdf, nullptr, titular.texto.c_str(), HPDF_GetEncoder(pdf, kCodificacion));
         HPDF_Outline_SetDestination(linea, destino);
@@ -312,12 +311,13 @@ std::string Escritor::Escribir(const report::Impreso& impreso)
     std::vector<HPDF_Page> paginas;
     for (std::size_t i = 0; i < impreso.hojas.size(); ++i) {
         paginas.push_back(HPDF_AddPage(pdf));
-        HPDF_Page_SetSize(paginas.back(), HPDF_PAGE_SIZE_A4, HPDF_PAGE_PORTRAIT);
+        HPDF_Page_SetWidth(paginas.back(), Real(impreso.hojas[i].dAncho));
+        HPDF_Page_SetHeight(paginas.back(), Real(impreso.hojas[i].dAlto));
     }
     m_documento->Comprobar();
     const std::vector<HPDF_Destination> destinos = PonerTitulares(pdf, impreso, paginas);
     for (std::size_t i = 0; i < paginas.size(); ++i) {
-        const Pintor pintor(*m_documento, paginas[i], destinos);
+        const Pintor pintor(*m_documento, paginas[i], impreso.hojas[i].dAlto, destinos);
         for (const report::Pieza& pieza : impreso.hojas[i].piezas)
             std::visit(pintor, pieza);
         m_documento->Comprobar();
@@ -340,6 +340,12 @@ std::string InformePdf(const report::Documento& documento, const std::string& fe
 {
     Escritor escritor(letras);
     return escritor.Escribir(report::Componer(documento, fecha, escritor));
+}
+
+std::string PlanoPdf(const report::Plano& plano, const Letras& letras)
+{
+    Escritor escritor(letras);
+    return escritor.Escribir(report::ComponerPlano(plano, escritor));
 }
 
 }  // namespace efv::pdf

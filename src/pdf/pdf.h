@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include <quorvel/report/hojas.h>
+#include <quorvel/report/plano.h>
 
 namespace efv::pdf {
 
@@ -39,5 +40,8 @@ bool EsPdf(std::string_view ruta);
 /// @param fecha as on the page @throws std::runtime_error with a Spanish text
 std::string InformePdf(const report::Documento& documento, const std::string& fecha,
                        const Letras& letras = LetrasInstaladas());
+
+/// A schematic on its sheets. @throws std::runtime_error with a Spanish text
+std::string PlanoPdf(const report::Plano& plano, const Letras& letras = LetrasInstaladas());
 
 }  // namespace efv::pdf

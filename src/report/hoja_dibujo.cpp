@@ -98,8 +98,13 @@ private:
 /// A schematic's strokes, shifted and scaled.
 class LaminaEnHoja {
 public:
-    LaminaEnHoja(std::vector<Pieza>& piezas, hoja::Sitio esquina, double dEscala, const MedidorLetra& medidor)
-        : m_piezas(piezas), m_esquina(esquina), m_dEscala(dEscala), m_medidor(medidor)
+    LaminaEnHoja(std::vector<Pieza>& piezas, hoja::Sitio esquina, double dEscala, double dContorno,
+                 const MedidorLetra& medidor)
+        : m_piezas(piezas),
+          m_esquina(esquina),
+          m_dEscala(dEscala),
+          m_dContorno(dContorno * dEscala),
+          m_medidor(medidor)
     {
     }
 
@@ -113,25 +118,22 @@ public:
     }
     void operator()(const trazo::Caja& caja) const
     {
-        m_piezas.emplace_back(hoja::Forma{Redondeada(caja), ColorEnPapel(caja.relleno),
-                                          ColorDe(caja.color, caja.borde), kContorno * m_dEscala});
+        hoja::Forma forma{Redondeada(caja), ColorEnPapel(caja.relleno), ColorDe(caja.color, caja.borde),
+                          m_dContorno};
+        // Without a filling it counts as an open line.
+        forma.puntos.push_back(forma.puntos.front());
+        m_piezas.emplace_back(std::move(forma));
     }
     void operator()(const trazo::Circulo& circulo) const
     {
         m_piezas.emplace_back(hoja::Circulo{Movido(circulo.centro), circulo.dRadio * m_dEscala,
                                             ColorEnPapel(circulo.relleno), ColorEnPapel(circulo.borde),
-                                            kContorno * m_dEscala});
+                                            m_dContorno});
     }
     void operator()(const trazo::Texto& texto) const
     {
-        // The drawing reckons with letters of a mean width: wider ones are made smaller.
-        const double dCabe = static_cast<double>(texto.cs.size()) * texto.dTamano * kAnchoLetra * m_dEscala;
-        double dCuerpo = texto.dTamano * m_dEscala;
-        double dAncho = m_medidor.Ancho(texto.cs, dCuerpo, texto.bNegrita);
-        if (texto.cs.size() > kPocasLetras && dAncho > dCabe) {
-            dCuerpo *= dCabe / dAncho;
-            dAncho = dCabe;
-        }
+        const double dCuerpo = texto.dTamano * m_dEscala;
+        const double dAncho = m_medidor.Ancho(texto.cs, dCuerpo, texto.bNegrita);
         hoja::Sitio base = Movido(texto.base);
         if (texto.lado == trazo::Texto::Lado::centro)
             base.x -= dAncho / 2;
@@ -140,8 +142,6 @@ public:
     }
 
 private:
-    static constexpr double kContorno = 1.3, kAnchoLetra = 0.56;
-    static constexpr std::size_t kPocasLetras = 3;  // signs within a symbol
     static constexpr int kPorEsquina = 4;
 
     static std::optional<ui::Color> ColorDe(std::optional<ui::Color> color, Tinta tinta)
@@ -174,7 +174,7 @@ private:
 
     std::vector<Pieza>& m_piezas;
     hoja::Sitio m_esquina;
-    double m_dEscala;
+    double m_dEscala, m_dContorno;
     const MedidorLetra& m_medidor;
 };
 
@@ -198,7 +198,7 @@ void PonerGrafica(std::vector<Pieza>& piezas, const CCtrlCurva2D& grafica, hoja:
 void PonerLamina(std::vector<Pieza>& piezas, const Lamina& lamina, hoja::Sitio esquina, double dEscala,
                  const MedidorLetra& medidor)
 {
-    const LaminaEnHoja dibujo(piezas, esquina, dEscala, medidor);
+    const LaminaEnHoja dibujo(piezas, esquina, dEscala, lamina.dContorno, medidor);
     for (const Trazo& t : lamina.trazos)
         std::visit(dibujo, t);
 }

@@ -1,17 +1,17 @@
 // A schematic on white paper, as an SVG document.
+#include <algorithm>
 #include <array>
 
 #include <fmt/format.h>
 
 #include <quorvel/report/lamina.h>
+#include <quorvel/report/plano.h>
 
 #include "report/marcado.h"
 
 namespace efv::report {
 
 namespace {
-
-constexpr double kAnchoContorno = 1.3;
 
 constexpr ui::Color DeRgb(std::uint32_t rgb)
 {
@@ -44,7 +44,7 @@ std::string Nombre(std::optional<ui::Color> color, Tinta tinta)
 
 class EscritorSvg {
 public:
-    explicit EscritorSvg(std::string& salida) : m_salida(salida) {}
+    EscritorSvg(std::string& salida, double dContorno) : m_salida(salida), m_dContorno(dContorno) {}
 
     void operator()(const trazo::Linea& linea) const
     {
@@ -78,11 +78,12 @@ public:
 private:
     void Contorno(const std::string& borde, Tinta relleno) const
     {
-        m_salida += fmt::format(" stroke=\"{}\" stroke-width=\"{:g}\" fill=\"{}\"/>\n", borde, kAnchoContorno,
+        m_salida += fmt::format(" stroke=\"{}\" stroke-width=\"{:g}\" fill=\"{}\"/>\n", borde, m_dContorno,
                                 Nombre(ColorEnPapel(relleno)));
     }
 
     std::string& m_salida;
+    double m_dContorno;
 };
 
 }  // namespace
@@ -101,9 +102,31 @@ std::string EscribirSvg(const Lamina& lamina)
         "width=\"{0:g}\" height=\"{1:g}\" viewBox=\"0 0 {0:g} {1:g}\" font-family=\"sans-serif\">\n"
         "<rect width=\"100%\" height=\"100%\" fill=\"{2}\"/>\n",
         lamina.dAncho, lamina.dAlto, Nombre(ColorEnPapel(Tinta::fondo)));
-    const EscritorSvg escritor(svg);
+    const EscritorSvg escritor(svg, lamina.dContorno);
     for (const Trazo& t : lamina.trazos)
         std::visit(escritor, t);
+    return svg + "</svg>\n";
+}
+
+std::string EscribirSvg(const Plano& plano)
+{
+    constexpr double kEntreHojas = 10.0;
+    const double dAncho = plano.pagina.Ancho(), dAlto = plano.pagina.Alto();
+    const auto nHojas = static_cast<double>(plano.hojas.size());
+    std::string svg = fmt::format(
+        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" "
+        "width=\"{0:g}mm\" height=\"{1:g}mm\" viewBox=\"0 0 {0:g} {1:g}\" "
+        "font-family=\"'DejaVu Sans', Verdana, sans-serif\">\n<title>{2}</title>\n",
+        dAncho, std::max(nHojas * (dAlto + kEntreHojas) - kEntreHojas, 0.0), Escapado(plano.cajetin.titulo));
+    for (std::size_t i = 0; i < plano.hojas.size(); ++i) {
+        svg += fmt::format(
+            "<g transform=\"translate(0 {:g})\">\n<rect width=\"{:g}\" height=\"{:g}\" fill=\"{}\"/>\n",
+            static_cast<double>(i) * (dAlto + kEntreHojas), dAncho, dAlto, Nombre(ColorEnPapel(Tinta::fondo)));
+        const EscritorSvg escritor(svg, plano.hojas[i].dContorno);
+        for (const Trazo& t : plano.hojas[i].trazos)
+            std::visit(escritor, t);
+        svg += "</g>\n";
+    }
     return svg + "</svg>\n";
 }
 

@@ -138,6 +138,7 @@ std::vector<std::pair<std::string, std::string>> DatosDePortada(const Documento&
                                         {"Cliente", &portada.cliente},
                                         {"Dirección", &portada.direccion},
                                         {"Autor", &portada.autor},
+                                        {"Revisión", &portada.revision},
                                         {"Fecha", &fecha}}) {
         if (!texto->empty())
             datos.emplace_back(rotulo, *texto);

@@ -80,7 +80,8 @@ struct Supuesto {
 /// What a cover says besides the title; what is empty is left out.
 struct DatosPortada {
     std::string cliente, direccion, autor;
-    std::string firma;  ///< who signs, e.g. with their number of the college
+    std::string firma;          ///< who signs, e.g. with their number of the college
+    std::string revision = {};  ///< of the papers, e.g. "A"
 
     bool operator==(const DatosPortada&) const = default;
 };

@@ -82,7 +82,8 @@ using Pieza =
     std::variant<hoja::Texto, hoja::Forma, hoja::Circulo, hoja::Recorte, hoja::FinRecorte, hoja::Enlace>;
 
 struct Hoja {
-    std::vector<Pieza> piezas;
+    std::vector<Pieza> piezas = {};
+    double dAncho = kAnchoHoja, dAlto = kAltoHoja;
 };
 
 /// A heading of the contents.

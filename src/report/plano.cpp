@@ -1,0 +1,334 @@
+#include <quorvel/report/plano.h>
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <set>
+#include <stdexcept>
+#include <type_traits>
+#include <utility>
+
+#include <fmt/format.h>
+
+#include <quorvel/report/texto.h>
+
+#include "report/lamina_tarjetas.h"
+#include "report/letra_aproximada.h"
+#include "report/plano_cajetin.h"
+#include "report/plano_hojas.h"
+
+namespace efv::report {
+
+namespace {
+
+constexpr double kHolgura = 4.0;  // between frame and drawing
+constexpr double kRenglonNota = 4.8;
+constexpr double kAmpliacionMaxima = 1.6;  // of a drawing that leaves room
+constexpr int kStringsDibujados = 12;
+constexpr double kMargenHoja = 6.0;  // around the cards: the frames of those that fail
+
+// ISO 216, in the order of Formato.
+struct Lados {
+    double dCorto, dLargo;
+};
+constexpr auto kLados = std::to_array<Lados>({{210, 297}, {297, 420}, {420, 594}, {594, 841}, {841, 1189}});
+
+const LetraAproximada kMedidor;
+
+struct Nota {
+    CString cs;
+    Tinta tinta;
+};
+
+// Without what isn't printed; a figure stays with its unit, and a count with its sign.
+CString Limpio(const CString& csTexto)
+{
+    constexpr wchar_t kFijo = L'\xA0';
+    constexpr std::size_t kLetrasUnidad = 3;
+    CString cs = EnHoja(CadenaUtf8(csTexto));
+    for (std::size_t i = 1; i + 1 < cs.size(); ++i) {
+        if (cs[i] != L' ')
+            continue;
+        const bool bCifra = cs[i - 1] >= L'0' && cs[i - 1] <= L'9';
+        const std::size_t nSiguiente = std::min(cs.find(L' ', i + 1), cs.size()) - i - 1;
+        if ((bCifra && nSiguiente <= kLetrasUnidad && cs[i + 1] != L'·') || cs[i - 1] == L'×')
+            cs[i] = kFijo;
+    }
+    return cs;
+}
+
+Esquema Limpio(Esquema esquema)
+{
+    for (Elemento& elemento : esquema.elementos) {
+        elemento.csTitulo = Limpio(elemento.csTitulo);
+        for (auto* acs : {&elemento.acsDatos, &elemento.acsRotulos, &elemento.acsFallos})
+            std::ranges::transform(*acs, acs->begin(), [](const CString& cs) { return Limpio(cs); });
+    }
+    for (Conexion& conexion : esquema.conexiones)
+        for (CString* cs : {&conexion.csRotulo, &conexion.csDetalle, &conexion.csCable, &conexion.csProteccion})
+            *cs = Limpio(*cs);
+    return esquema;
+}
+
+// Checks that fail are told below the drawing, where there is room; their element has its red frame.
+Esquema ConFallosAbajo(Esquema esquema)
+{
+    for (Elemento& elemento : esquema.elementos)
+        if (!elemento.acsFallos.empty())
+            elemento.acsFallos.assign(1, L"NO CUMPLE: véase abajo");
+    return esquema;
+}
+
+std::vector<Nota> NotasDe(const Esquema& esquema, double dAncho)
+{
+    std::vector<Nota> notas;
+    const auto anadir = [&](const CString& csTexto, Tinta tinta) {
+        for (CString& cs : EnLineas(Limpio(csTexto), {CuerpoPlano()}, dAncho, kMedidor))
+            notas.push_back({std::move(cs), tinta});
+    };
+    for (const CString& cs : esquema.acsNotas)
+        anadir(cs, Tinta::aviso);
+    std::set<CString> dichos;  // those of a class fail alike
+    for (const Elemento& elemento : esquema.elementos) {
+        for (std::size_t i = 0; i + 1 < elemento.acsFallos.size(); i += 2) {
+            const CString cs = elemento.acsFallos[i] + L". " + elemento.acsFallos[i + 1];
+            if (dichos.insert(cs).second)
+                anadir(cs, Tinta::aviso);
+        }
+    }
+    anadir(
+        L"In: intensidad asignada que admite la protección de cada tramo, de la de cálculo a la admisible del "
+        L"cable (UNE-HD 60364-4-43); en L1, la de cada entrada. El proyecto no fija aparatos ni protección "
+        L"contra sobretensiones.",
+        Tinta::tenue);
+    return notas;
+}
+
+/// The part of a sheet that the drawing has.
+struct Area {
+    double x, y, dAncho, dAlto;
+};
+
+Area AreaDe(const Pagina& pagina, const Cajetin& cajetin, std::size_t nNotas)
+{
+    return {pagina.dIzquierdo + kHolgura, pagina.dSuperior + kHolgura,
+            pagina.Ancho() - pagina.dIzquierdo - pagina.dDerecho - 2 * kHolgura,
+            pagina.Alto() - pagina.dSuperior - pagina.dInferior - 2 * kHolgura -
+                BandaDelCajetin(cajetin, pagina).dAlto - static_cast<double>(nNotas) * kRenglonNota};
+}
+
+// As many rows a sheet as fit; nothing when one doesn't fit alone.
+std::vector<FilasDeHoja> Repartir(const std::map<int, double>& altos, double dAlto, double dEntre,
+                                  double dReserva)
+{
+    std::vector<FilasDeHoja> hojas;
+    double dPuesto = 0.0;
+    for (const auto& [iFila, dFila] : altos) {
+        if (dFila > dAlto)
+            return {};
+        if (hojas.empty() || dPuesto + dEntre + dFila > dAlto - dReserva) {
+            hojas.push_back({iFila, iFila});
+            dPuesto = dFila;
+        } else {
+            hojas.back().iUltima = iFila;
+            dPuesto += dEntre + dFila;
+        }
+    }
+    return hojas;
+}
+
+bool Caben(const std::vector<Lamina>& hojas, double dAncho, double dAlto)
+{
+    return std::ranges::all_of(hojas, [&](const Lamina& l) { return l.dAncho <= dAncho && l.dAlto <= dAlto; });
+}
+
+/// The sheets of a layout, in the units of its measures; none when it doesn't fit.
+std::vector<Lamina> Tender(const Esquema& esquema, const Medidas& medidas, double dAncho, double dAlto)
+{
+    Delineante entero(esquema, medidas);
+    if (entero.Ancho() > dAncho)
+        return {};
+    std::vector<Lamina> hojas;
+    if (entero.Alto() <= dAlto) {
+        hojas.push_back(entero.Dibujar());
+        return hojas;
+    }
+    // What dots to other sheets take.
+    for (const double dReserva : {0.0, 100.0, 200.0}) {
+        const auto filas = Repartir(entero.Altos(), dAlto, medidas.dHuecoFilas, dReserva);
+        hojas.clear();
+        hojas.reserve(filas.size());
+        for (const Esquema& hoja : PartirEnHojas(esquema, filas))
+            hojas.push_back(Delineante(hoja, medidas).Dibujar());
+        if (Caben(hojas, dAncho, dAlto))
+            return hojas;
+    }
+    return {};
+}
+
+// From the widest lines to the narrowest.
+std::vector<Medidas> MedidasDePapel()
+{
+    std::vector<Medidas> todas;
+    for (const double dTexto : {300.0, 260.0, 230.0, 200.0, 180.0, 165.0, 150.0, 140.0, 130.0, 120.0}) {
+        for (const double dHueco : {140.0, 120.0, 105.0, 95.0, 86.0}) {
+            todas.push_back({.dMargen = kMargenHoja,
+                             .dHueco = dHueco,
+                             .dCabecera = 0.0,
+                             .dAlmohada = 8.0,
+                             .dAnchoMinimo = 110.0,
+                             .dAnchoTexto = dTexto,
+                             .iParalelo = kStringsDibujados,
+                             .bSimboloProteccion = true,
+                             .medidor = &kMedidor});
+        }
+    }
+    return todas;
+}
+
+// The layout of the fewest sheets, and of those the one of the widest lines.
+std::vector<Lamina> Tender(const Esquema& esquema, double dAncho, double dAlto)
+{
+    std::vector<Lamina> mejor;
+    for (const Medidas& medidas : MedidasDePapel()) {
+        std::vector<Lamina> hojas = Tender(esquema, medidas, dAncho, dAlto);
+        if (hojas.size() == 1)
+            return hojas;
+        if (!hojas.empty() && (mejor.empty() || hojas.size() < mejor.size()))
+            mejor = std::move(hojas);
+    }
+    return mejor;
+}
+
+// The first that takes one sheet, else the last.
+std::vector<Lamina> Tender(const std::vector<Esquema>& esquemas, double dAncho, double dAlto)
+{
+    std::vector<Lamina> hojas;
+    for (const Esquema& esquema : esquemas) {
+        hojas = Tender(ConFallosAbajo(Limpio(esquema)), dAncho, dAlto);
+        if (hojas.size() == 1)
+            break;
+    }
+    return hojas;
+}
+
+void Escalar(Lamina& lamina, double dEscala, double x, double y)
+{
+    const auto mover = [&](Punto& p) { p = {x + p.x * dEscala, y + p.y * dEscala}; };
+    const auto uno = [&](auto& t) {
+        using T = std::remove_reference_t<decltype(t)>;
+        if constexpr (std::is_same_v<T, trazo::Linea>) {
+            std::ranges::for_each(t.puntos, mover);
+            t.dAncho *= dEscala;
+        } else if constexpr (std::is_same_v<T, trazo::Caja>) {
+            mover(t.esquina);
+            t.dAncho *= dEscala;
+            t.dAlto *= dEscala;
+            t.dRadio *= dEscala;
+        } else if constexpr (std::is_same_v<T, trazo::Circulo>) {
+            mover(t.centro);
+            t.dRadio *= dEscala;
+        } else {
+            mover(t.base);
+            t.dTamano *= dEscala;
+        }
+    };
+    for (Trazo& t : lamina.trazos)
+        std::visit(uno, t);
+    lamina.dContorno *= dEscala;
+    lamina.zonas.clear();
+}
+
+void Anotar(Lamina& hoja, const std::vector<Nota>& notas, double x, double y)
+{
+    for (const Nota& nota : notas)
+        hoja.trazos.emplace_back(trazo::Texto{{x, y += kRenglonNota}, nota.cs, CuerpoPlano(), nota.tinta});
+}
+
+}  // namespace
+
+double Pagina::Ancho() const
+{
+    return bApaisada ? kLados.at(static_cast<std::size_t>(formato)).dLargo
+                     : kLados.at(static_cast<std::size_t>(formato)).dCorto;
+}
+
+double Pagina::Alto() const
+{
+    return bApaisada ? kLados.at(static_cast<std::size_t>(formato)).dCorto
+                     : kLados.at(static_cast<std::size_t>(formato)).dLargo;
+}
+
+std::string Pagina::Nombre() const
+{
+    return fmt::format("{} {}", kFormatos[static_cast<std::size_t>(formato)],
+                       bApaisada ? "apaisado" : "vertical");
+}
+
+Cajetin CajetinDe(const std::string& proyecto, const DatosPortada& portada, const std::string& lugar,
+                  const std::string& fecha)
+{
+    return {{},
+            proyecto,
+            portada.direccion.empty() ? lugar : portada.direccion,
+            portada.autor,
+            portada.cliente,
+            fecha,
+            portada.revision};
+}
+
+std::string NombreDe(const LugarDiseno& lugar)
+{
+    return lugar.localidad ? CadenaUtf8(lugar.localidad->csNombre) : lugar.nombre;
+}
+
+Lamina DibujarEnAncho(const Esquema& esquema, double dAncho)
+{
+    if (esquema.elementos.empty())
+        return {};
+    const Esquema limpio = Limpio(esquema);
+    const std::vector<Medidas> todas = MedidasDePapel();
+    for (const Medidas& medidas : todas) {
+        Delineante delineante(limpio, medidas);
+        if (delineante.Ancho() <= dAncho)
+            return delineante.Dibujar();
+    }
+    return Delineante(limpio, todas.back()).Dibujar();
+}
+
+Plano PlanoDe(const std::vector<Esquema>& esquemas, const Cajetin& cajetin, const Pagina& pagina)
+{
+    Plano plano{pagina, cajetin, {}};
+    if (esquemas.empty() || esquemas.front().elementos.empty())
+        return plano;
+    const Esquema& esquema = esquemas.front();
+    if (plano.cajetin.titulo.empty())
+        plano.cajetin.titulo = "Esquema. " + CadenaUtf8(esquema.csTitulo);
+    const double dMilimetros = CuerpoPlano() / kLetraPequena;  // of a unit
+    const double dAnchoNotas = pagina.Ancho() - pagina.dIzquierdo - pagina.dDerecho - 2 * kHolgura;
+    const std::vector<Nota> notas = NotasDe(esquema, dAnchoNotas);
+    const Area area = AreaDe(pagina, plano.cajetin, notas.size());
+    plano.hojas = Tender(esquemas, area.dAncho / dMilimetros, area.dAlto / dMilimetros);
+    if (plano.hojas.empty()) {
+        throw std::invalid_argument(
+            fmt::format("El esquema no cabe en {} con letras de {} mm: elija un papel mayor, apaisado o con "
+                        "márgenes menores.",
+                        pagina.Nombre(), Decimal(kAlturaLetraPlano, 1)));
+    }
+    double dEscala = dMilimetros * kAmpliacionMaxima;
+    for (const Lamina& hoja : plano.hojas)
+        dEscala = std::min({dEscala, area.dAncho / hoja.dAncho, area.dAlto / hoja.dAlto});
+    for (std::size_t i = 0; i < plano.hojas.size(); ++i) {
+        Lamina& hoja = plano.hojas[i];
+        Escalar(hoja, dEscala, area.x + (area.dAncho - hoja.dAncho * dEscala) / 2, area.y);
+        hoja.dAncho = pagina.Ancho();
+        hoja.dAlto = pagina.Alto();
+        Anotar(hoja, notas, area.x, area.y + area.dAlto);
+        PonerMarco(hoja, pagina);
+        PonerCajetin(hoja, plano.cajetin, pagina, static_cast<int>(i) + 1,
+                     static_cast<int>(plano.hojas.size()));
+    }
+    return plano;
+}
+
+}  // namespace efv::report
