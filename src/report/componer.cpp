@@ -1,6 +1,8 @@
 // A document laid out on sheets.
 #include <quorvel/report/hojas.h>
 
+#include <algorithm>
+
 #include <fmt/format.h>
 
 #include "report/hoja_bloques.h"
@@ -13,7 +15,7 @@ namespace {
 
 using Lado = Pliego::Lado;
 
-constexpr double kCuerpoPie = 7.5, kAlturaCabecera = 44.0, kAlturaPie = kAltoHoja - 36.0;
+constexpr double kCuerpoPie = 7.5, kAlturaCabecera = 44.0, kBajoPie = 36.0;
 constexpr double kCuerpoNota = 8.0;
 
 // ---------------------------------------------------------------------------------------------------
@@ -161,6 +163,13 @@ BloqueParrafo::Aspecto Nota()
     return {.color = papel::kTenue, .dCuerpo = kCuerpoNota};
 }
 
+BloqueParrafo::Aspecto Fuente()
+{
+    BloqueParrafo::Aspecto aspecto = Nota();
+    aspecto.bConElAnterior = true;
+    return aspecto;
+}
+
 BloqueParrafo::Aspecto Punto(ui::Color color, double dCuerpo)
 {
     return {.dSangria = 10.0, .csMarca = L"·", .color = color, .dCuerpo = dCuerpo};
@@ -169,9 +178,16 @@ BloqueParrafo::Aspecto Punto(ui::Color color, double dCuerpo)
 void AnadirSeccion(const Documento& documento, const Seccion& seccion, const MedidorLetra& medidor,
                    Bloques& bloques)
 {
+    const bool bApaisada = std::ranges::any_of(seccion.laminas, &BloqueLamina::SaleMenuda);
+    if (bApaisada)
+        Anadir<BloqueApaisado>(bloques);
     Anadir<BloqueTitular>(bloques, seccion.titulo);
-    for (const Lamina& lamina : seccion.laminas)
-        Anadir<BloqueLamina>(bloques, lamina);
+    for (const Lamina& lamina : seccion.laminas) {
+        if (bApaisada)
+            Anadir<BloqueLaminaApaisada>(bloques, lamina);
+        else
+            Anadir<BloqueLamina>(bloques, lamina);
+    }
     if (TablaHoja datos = TablaDe(seccion.datos); !datos.filas.empty())
         Anadir<BloqueTabla>(bloques, std::move(datos), medidor);
     for (const CCtrlCurva2D& grafica : seccion.graficas)
@@ -183,7 +199,7 @@ void AnadirSeccion(const Documento& documento, const Seccion& seccion, const Med
     for (const std::string& supuesto : SupuestosDe(documento, seccion))
         Anadir<BloqueParrafo>(bloques, "Se supone: " + supuesto, Nota(), medidor);
     for (const std::string& fuente : seccion.fuentes)
-        Anadir<BloqueParrafo>(bloques, "Fuente: " + fuente, Nota(), medidor);
+        Anadir<BloqueParrafo>(bloques, "Fuente: " + fuente, Fuente(), medidor);
 }
 
 void AnadirAvisos(const Documento& documento, const MedidorLetra& medidor, Bloques& bloques)
@@ -240,9 +256,10 @@ void PonerCabeceras(const Documento& documento, const std::string& fecha, Impres
     const CString csTitulo = Corto(documento.titulo, kMedia, medidor);
     const CString csProyecto = Corto(documento.proyecto, kMedia, medidor);
     const CString csPie = EnHoja(Programa() + (fecha.empty() ? "" : " · " + fecha));
-    const double dDerecha = papel::kIzquierda + papel::kAncho;
     for (std::size_t i = 1; i < impreso.hojas.size(); ++i) {
         std::vector<Pieza>& piezas = impreso.hojas[i].piezas;
+        const double dDerecha = impreso.hojas[i].dAncho - papel::kIzquierda;
+        const double dPie = impreso.hojas[i].dAlto - kBajoPie;
         const auto escribir = [&](const CString& cs, double dBase, bool bDerecha) {
             const double x = bDerecha ? dDerecha - medidor.Ancho(cs, kCuerpoPie, false) : papel::kIzquierda;
             piezas.emplace_back(hoja::Texto{{x, dBase}, cs, kCuerpoPie, papel::kTenue});
@@ -253,8 +270,8 @@ void PonerCabeceras(const Documento& documento, const std::string& fecha, Impres
             hoja::Forma{{{papel::kIzquierda, kAlturaCabecera + 5.0}, {dDerecha, kAlturaCabecera + 5.0}},
                         std::nullopt,
                         papel::kRaya});
-        escribir(csPie, kAlturaPie, false);
-        escribir(EnHoja(fmt::format("Página {} de {}", i + 1, impreso.hojas.size())), kAlturaPie, true);
+        escribir(csPie, dPie, false);
+        escribir(EnHoja(fmt::format("Página {} de {}", i + 1, impreso.hojas.size())), dPie, true);
     }
 }
 

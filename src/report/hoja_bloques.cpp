@@ -89,6 +89,12 @@ BloqueLamina::BloqueLamina(const Lamina& lamina)
 {
 }
 
+bool BloqueLamina::SaleMenuda(const Lamina& lamina)
+{
+    constexpr double kEscalaMinima = 0.6;  // letters of 11.5 units become some 7 points
+    return lamina.dAncho > 0.0 && BloqueLamina(lamina).m_dEscala < kEscalaMinima;
+}
+
 double BloqueLamina::Minimo(double dResto) const
 {
     const double dAlto = m_lamina.dAlto * m_dEscala;
@@ -103,6 +109,25 @@ void BloqueLamina::Poner(Pliego& pliego) const
     const double dLibre = papel::kAncho - m_lamina.dAncho * dEscala;
     PonerLamina(pliego.Piezas(), m_lamina, {papel::kIzquierda + dLibre / 2, pliego.y}, dEscala, pliego.medidor);
     pliego.Bajar(m_lamina.dAlto * dEscala + kTrasFigura);
+}
+
+void BloqueApaisado::Poner(Pliego& pliego) const
+{
+    pliego.Saltar(true);
+}
+
+void BloqueLaminaApaisada::Poner(Pliego& pliego) const
+{
+    const double dAncho = pliego.impreso.hojas.back().dAncho - 2 * papel::kIzquierda;
+    if (m_lamina.dAncho > 0.0 && m_lamina.dAlto > 0.0) {
+        const double dEscala =
+            std::min({kPuntosPorPixel, dAncho / m_lamina.dAncho, pliego.Resto() / m_lamina.dAlto});
+        PonerLamina(pliego.Piezas(), m_lamina,
+                    {papel::kIzquierda + (dAncho - m_lamina.dAncho * dEscala) / 2, pliego.y}, dEscala,
+                    pliego.medidor);
+    }
+    // What follows stands on sheets that stand.
+    pliego.Bajar(pliego.Resto());
 }
 
 BloqueResumen::BloqueResumen(const std::vector<Dato>& datos, const MedidorLetra& medidor)

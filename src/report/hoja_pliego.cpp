@@ -1,14 +1,18 @@
 #include "report/hoja_pliego.h"
 
+#include <utility>
+
 #include "report/hoja_dibujo.h"
 
 namespace efv::report {
 
 MedidorLetra::~MedidorLetra() = default;
 
-void Pliego::Saltar()
+void Pliego::Saltar(bool bApaisada)
 {
-    impreso.hojas.emplace_back();
+    Hoja& hoja = impreso.hojas.emplace_back();
+    if (bApaisada)
+        std::swap(hoja.dAncho, hoja.dAlto);
     y = papel::kArriba;
 }
 
@@ -37,11 +41,19 @@ void Colocar(const Bloques& bloques, Pliego& pliego)
 {
     for (std::size_t i = 0; i < bloques.size(); ++i) {
         double dHace = 0.0;
-        for (std::size_t j = i; j < bloques.size(); ++j) {
+        std::size_t j = i;
+        while (true) {
             dHace += bloques[j]->Minimo(pliego.Resto() - dHace);
-            if (!bloques[j]->ConElSiguiente())
+            if (!bloques[j]->ConElSiguiente() || j + 1 == bloques.size())
                 break;
+            ++j;
         }
+        pliego.dSigue = 0.0;
+        for (++j; j < bloques.size() && bloques[j]->ConElAnterior(); ++j)
+            pliego.dSigue += bloques[j]->Minimo(pliego.Resto());
+        // The first rows of a table may stand without what stays with its last ones.
+        if (!bloques[i]->SeParte())
+            dHace += pliego.dSigue;
         if (dHace > pliego.Resto() && pliego.y > papel::kArriba)
             pliego.Saltar();
         bloques[i]->Poner(pliego);

@@ -21,9 +21,9 @@ class Pliego {
 public:
     explicit Pliego(const MedidorLetra& medidorDeLetra) : medidor(medidorDeLetra) { Saltar(); }
 
-    void Saltar();
+    void Saltar(bool bApaisada = false);
     void Bajar(double d) { y += d; }
-    double Resto() const { return papel::kAbajo - y; }
+    double Resto() const { return impreso.hojas.back().dAlto - (kAltoHoja - papel::kAbajo) - y; }
     static double Entera() { return papel::kAbajo - papel::kArriba; }
 
     std::vector<Pieza>& Piezas() { return impreso.hojas.back().piezas; }
@@ -39,6 +39,7 @@ public:
     Impreso impreso;
     const MedidorLetra& medidor;
     double y = 0.0;
+    double dSigue = 0.0;  ///< room that the end of the block being placed leaves for what stays with it
 };
 
 /// What stands in the column of a sheet.
@@ -53,8 +54,12 @@ public:
     virtual double Minimo(double dResto) const = 0;
     /// Begins where the sheets stand, and goes on to further ones where it may be parted.
     virtual void Poner(Pliego& pliego) const = 0;
+    /// Whether it goes on to further sheets, and itself keeps its end with what follows it.
+    virtual bool SeParte() const { return false; }
     /// Whether it may not be the last on a sheet.
     virtual bool ConElSiguiente() const { return false; }
+    /// Whether it may not be the first on a sheet, without the end of what stands before it.
+    virtual bool ConElAnterior() const { return false; }
 };
 
 using Bloques = std::vector<std::unique_ptr<Bloque>>;

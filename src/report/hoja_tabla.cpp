@@ -154,7 +154,8 @@ void BloqueTabla::Poner(Pliego& pliego) const
 {
     PonerCabecera(pliego, false);
     for (std::size_t f = 0; f < m_filas.size(); ++f) {
-        if (f > 0 && AltoConLaSiguiente(f) > pliego.Resto()) {
+        const double dSigue = f + 2 >= m_filas.size() ? pliego.dSigue + kDetras : 0.0;
+        if (f > 0 && AltoConLaSiguiente(f) + dSigue > pliego.Resto()) {
             pliego.Saltar();
             PonerCabecera(pliego, true);
         }

@@ -29,6 +29,7 @@ public:
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
+    bool SeParte() const override { return true; }
 
 private:
     struct Columna {

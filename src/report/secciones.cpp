@@ -8,6 +8,7 @@
 #include <quorvel/report/ficha.h>
 #include <quorvel/report/texto.h>
 
+#include "report/lamina_tarjetas.h"
 #include "report/pagina.h"
 #include "solar/calendario.h"
 #include "solar/filas.h"
@@ -55,9 +56,10 @@ Dato DatoModelo(std::string rotulo, const CString& csId)
 
 Seccion SeccionEsquema(const Esquema& esquema)
 {
+    constexpr double kAncho = 875.0;  // letters can be read then on a sheet of A4 that lies
     Seccion seccion("Esquema de la instalación");
     seccion.bSoloPagina = true;
-    seccion.laminas.push_back(Dibujar(esquema));
+    seccion.laminas.push_back(DibujarEnAncho(esquema, kAncho));
     return seccion;
 }
 
