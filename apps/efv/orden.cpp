@@ -29,6 +29,7 @@
 #include "curvas/suborden_curvas.h"
 #include "diseno/suborden_diseno.h"
 #include "energia/suborden_energia.h"
+#include "esquema/suborden_esquema.h"
 #include "he5/suborden_he5.h"
 #include "inclinacion/suborden_inclinacion.h"
 #include "lugares/suborden_lugares.h"
@@ -65,6 +66,7 @@ constexpr auto kOrdenes = std::to_array<OrdenConocida>({
     {"tarifa", &CrearSubordenTarifa},
     {"aislada", &CrearSubordenAislada},
     {"red", &CrearSubordenRed},
+    {"esquema", &CrearSubordenEsquema},
     {"venta", &CrearSubordenVenta},
     {"autoconsumo", &CrearSubordenAutoconsumo},
     {"rpc", &CrearSubordenRpc},

@@ -5,6 +5,7 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/report/informe.h>
 #include <quorvel/solar.h>
 
 #include "comun/numeros.h"
@@ -147,6 +148,9 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
     Diseno diseno;
     diseno.bCumple = SinFaltas(avisos);
     diseno.documento = report::EscribirDocumento(proyecto, estudio, avisos);
+    diseno.esquemas.push_back(report::EsquemaDe(proyecto, estudio));
+    diseno.cajetin = report::CajetinDe(proyecto.titulo, proyecto.portada, report::NombreDe(proyecto.lugar),
+                                       report::FechaDeHoy());
     diseno.valores = {{"tipo", "aislada"},
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},

@@ -9,6 +9,7 @@
 #include <nlohmann/json.hpp>
 
 #include <quorvel/report/documento.h>
+#include <quorvel/report/plano.h>
 
 #include "diseno/lectura.h"
 
@@ -16,10 +17,12 @@ namespace efv::orden {
 
 struct Diseno {
     report::Documento documento;
-    nlohmann::ordered_json valores;  ///< what --json writes
-    std::vector<std::byte> archivo;  ///< the record's items alone
-    std::string csv;                 ///< what --csv writes, of those that have it
-    bool bCumple = true;             ///< no check fails and nothing falls short
+    nlohmann::ordered_json valores;         ///< what --json writes
+    std::vector<std::byte> archivo;         ///< the record's items alone
+    std::string csv;                        ///< what --csv writes, of those that have it
+    std::vector<report::Esquema> esquemas;  ///< its schematic in the forms that sheets of paper may have
+    report::Cajetin cajetin;
+    bool bCumple = true;  ///< no check fails and nothing falls short
 };
 
 /// A stand-alone installation. As in the assistant, a forced recalculation first; then the values that the

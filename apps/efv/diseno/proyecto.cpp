@@ -205,6 +205,13 @@ void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo)
         rpc::NombrarLugar([] { return "tipo"; }, [&] { rpc::Esperaba(fmt::format("\"{}\"", tipo), *j); });
 }
 
+std::vector<std::string> FicherosLeidos(const JsonLeido& proyecto)
+{
+    if (!proyecto.is_object() || !proyecto.contains("clima") || !proyecto["clima"].is_string())
+        return {};
+    return {proyecto["clima"].get<std::string>()};
+}
+
 report::DatosPortada LeerPortada(Objeto& proyecto)
 {
     report::DatosPortada portada;
@@ -223,6 +230,7 @@ report::DatosPortada LeerPortada(Objeto& proyecto)
                           leer("direccion", portada.direccion);
                           leer("autor", portada.autor);
                           leer("firma", portada.firma);
+                          leer("revision", portada.revision);
                           objeto.Terminar();
                       });
     return portada;

@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include <quorvel/framework/CObject.h>
 #include <quorvel/report/disenos.h>
@@ -25,6 +26,9 @@ report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool
 /// `planos`, a list of {"inclinacion", "orientacion", "parte"} whose parts add up to 1, and `clima`, a climate
 /// record's file, which is loaded. @throws rpc::ErrorValor
 report::PlanosDiseno LeerPlanos(Objeto& proyecto);
+
+/// Files that a project names and a run reads.
+std::vector<std::string> FicherosLeidos(const JsonLeido& proyecto);
 
 /// A number that the project may give.
 std::optional<double> LeerOpcional(Objeto& proyecto, const char* nombre, Rango rango);
@@ -46,7 +50,7 @@ std::set<std::string> LeerCampos(Objeto& objeto, CObject& registro, std::span<co
 /// What every project has: `titulo`, and `tipo`, which must be that of the command when it is there.
 void LeerCabecera(Objeto& proyecto, std::string_view tipo, std::string& titulo);
 
-/// `portada`, {"cliente", "direccion", "autor", "firma"} of the report's cover, each one optional.
+/// `portada`, {"cliente", "direccion", "autor", "firma", "revision"} of the report's cover, each one optional.
 /// @throws rpc::ErrorValor
 report::DatosPortada LeerPortada(Objeto& proyecto);
 

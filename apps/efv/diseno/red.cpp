@@ -2,6 +2,7 @@
 #include <array>
 #include <utility>
 
+#include <quorvel/report/informe.h>
 #include <quorvel/solar.h>
 
 #include "comun/tabla_k.h"
@@ -72,6 +73,10 @@ Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
     Diseno diseno;
     diseno.bCumple = SinFaltas(avisos);
     diseno.documento = report::EscribirDocumento(proyecto, estudio, avisos);
+    for (const auto detalle : report::kDetallesDePlano)
+        diseno.esquemas.push_back(report::EsquemaDe(proyecto, estudio, detalle));
+    diseno.cajetin = report::CajetinDe(proyecto.titulo, proyecto.portada, report::NombreDe(proyecto.lugar),
+                                       report::FechaDeHoy());
     diseno.valores = {{"tipo", "red"},
                       {"titulo", proyecto.titulo},
                       {"lugar", LugarJson(proyecto.lugar)},

@@ -1,5 +1,7 @@
 #include "diseno/suborden_diseno.h"
 
+#include <algorithm>
+#include <iterator>
 #include <optional>
 
 #include <fmt/format.h>
@@ -17,6 +19,7 @@
 #include "diseno/ayuda_campos.h"
 #include "diseno/diseno.h"
 #include "diseno/informe.h"
+#include "diseno/proyecto.h"
 
 namespace efv::orden {
 
@@ -57,8 +60,8 @@ constexpr Clase kAislada = {
     "  clima               registro climático para la energía por planos; si falta, cielo despejado\n"
     "                      ajustado a las doce radiaciones\n"
     "  titulo              nombre del proyecto en el informe\n"
-    "  portada             {\"cliente\", \"direccion\", \"autor\", \"firma\"} de su portada; lo que falta no "
-    "sale\n"
+    "  portada             {\"cliente\", \"direccion\", \"autor\", \"firma\", \"revision\"} de su portada;\n"
+    "                      lo que falta no sale\n"
     "y los campos del registro por su nombre: dDiasAutonomia, dTensionSistema, iMesCalculo (0 a 14, o\n"
     "\"Diciembre\", \"Desfavorable\"...), dProfundidadDescarga, dTensionMaxFV, iPanelesSerie... Lo que fija\n"
     "el fichero queda en vigor; lo demás toma la propuesta del programa. Los avisos no son errores.\n"
@@ -84,8 +87,8 @@ constexpr Clase kRed = {
     "  clima               registro climático para la energía por planos; si falta, cielo despejado\n"
     "                      ajustado a las doce radiaciones\n"
     "  titulo              nombre del proyecto en el informe\n"
-    "  portada             {\"cliente\", \"direccion\", \"autor\", \"firma\"} de su portada; lo que falta no "
-    "sale\n"
+    "  portada             {\"cliente\", \"direccion\", \"autor\", \"firma\", \"revision\"} de su portada;\n"
+    "                      lo que falta no sale\n"
     "y los campos del registro por su nombre: dPotenciaObjetivo (kW), iInversores, iPanelesSerie,\n"
     "iPanelesParalelo, dInclinacion, iDisposicion... Lo que fija el fichero queda en vigor; lo demás toma\n"
     "la propuesta del programa. Los avisos no son errores.\n"
@@ -104,8 +107,8 @@ constexpr Clase kVenta = {
     "  dPotenciaGenerador  W\n"
     "  dEnergiaBase        kWh de un año antes del performance ratio; sobran entonces lugar y plano\n"
     "  titulo              nombre del estudio en el informe\n"
-    "  portada             {\"cliente\", \"direccion\", \"autor\", \"firma\"} de su portada; lo que falta no "
-    "sale\n"
+    "  portada             {\"cliente\", \"direccion\", \"autor\", \"firma\", \"revision\"} de su portada;\n"
+    "                      lo que falta no sale\n"
     "y los demás campos del registro por su nombre: dPrimaFija (€/kWh), dCosteInstalacion (€) o dRepercusion\n"
     "(€/Wp), dTipoInteres, dAniosPrestamo, dAniosEstudio, iTipoAmortizacion (0 francés, 1 alemán)... Lo que\n"
     "falta toma el valor de un registro nuevo y se dice. Los avisos no son errores.\n"
@@ -205,8 +208,7 @@ private:
     Salidas LeerSalidas(const JsonLeido& proyecto, const std::string& fichero, Lote& lote) const
     {
         std::vector<std::string> entradas = m_proyectos;
-        if (proyecto.is_object() && proyecto.contains("clima") && proyecto["clima"].is_string())
-            entradas.push_back(proyecto["clima"].get<std::string>());
+        std::ranges::copy(FicherosLeidos(proyecto), std::back_inserter(entradas));
         Salidas salidas(std::move(entradas));
         for (const auto& [opcion, ruta] : {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}})
             if (*ruta)

@@ -1,0 +1,188 @@
+#include "esquema/suborden_esquema.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <fmt/format.h>
+#include <CLI/CLI.hpp>
+
+#include <quorvel/report/plano.h>
+
+#include "comun/consola.h"
+#include "comun/datos.h"
+#include "comun/linea_ordenes.h"
+#include "comun/numeros.h"
+#include "comun/salidas.h"
+#include "comun/terminal.h"
+#include "diseno/diseno.h"
+#include "diseno/proyecto.h"
+#include "pdf/pdf.h"
+
+namespace efv::orden {
+
+namespace {
+
+struct FormatoFichero {
+    const char* nombre;
+    std::string (*escribir)(const report::Plano&);
+};
+
+std::string Pdf(const report::Plano& plano)
+{
+    try {
+        return pdf::PlanoPdf(plano);
+    } catch (const std::runtime_error& error) {
+        throw ErrorEjecucion(error.what());
+    }
+}
+
+constexpr auto kFormatosFichero = std::to_array<FormatoFichero>({
+    {"DXF", &report::EscribirDxf},
+    {"SVG", [](const report::Plano& plano) { return report::EscribirSvg(plano); }},
+    {"PDF", &Pdf},
+});
+
+bool MismoNombre(std::string_view a, std::string_view b)
+{
+    return PlegarTexto(CadenaDesdeUtf8(a)) == PlegarTexto(CadenaDesdeUtf8(b));
+}
+
+class SubordenEsquema final : public Suborden {
+public:
+    CLI::App& Declarar(CLI::App& raiz) override
+    {
+        CLI::App& linea = *raiz.add_subcommand(
+            "esquema", "Dibuja el esquema de un diseño en hojas con cajetín, como DXF, SVG o PDF");
+        Castellanizar(linea);
+        linea.add_option("PROYECTO", m_proyecto, "Fichero de proyecto de «efv aislada» o «efv red»")
+            ->option_text(" ");
+        linea.add_option("--salida", m_salida, "Fichero que se escribe; su final dice el formato")
+            ->type_name("FICHERO");
+        linea.add_option("--formato", m_formato, "dxf, svg o pdf, si el final del fichero no lo dice")
+            ->type_name("FORMATO");
+        linea.add_option("--papel", m_papel, "A4, A3, A2, A1 o A0; si falta, A4")->type_name("PAPEL");
+        linea.add_flag("--vertical", m_bVertical, "La hoja de pie; si falta, apaisada")
+            ->option_text(" ")
+            ->disable_flag_override();
+        linea
+            .add_option("--margen", m_dMargen,
+                        "Margen de los cuatro lados, 5 a 50 mm; si falta, 10 y, a la izquierda, 20")
+            ->type_name("MM");
+        linea.add_option("--revision", m_revision, "Revisión que dice el cajetín; si falta, la de la portada")
+            ->type_name("TEXTO");
+        linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
+        linea.footer(
+            "El proyecto es el de «efv aislada» o «efv red», que dice su «tipo». Proyecto, lugar, autor, "
+            "cliente y\n"
+            "revisión del cajetín son los de su «titulo», «lugar» y «portada»; lo que falta sale como «—». "
+            "Hasta\n"
+            "seis inversores se dibujan uno a uno; si son más, uno por todos, con su número. Lo que no cabe en "
+            "una\n"
+            "hoja sigue en otra. Con «--salida -» se escribe por la salida estándar.\n"
+            "Ejemplo:\n  efv esquema cubierta-red.json --salida cubierta.dxf --papel A3");
+        return linea;
+    }
+
+    int Ejecutar(std::ostream& salida) override
+    {
+        if (m_proyecto.empty())
+            throw ErrorUso("falta el fichero de proyecto (ayuda: efv esquema --help)");
+        if (m_salida.empty())
+            throw ErrorUso("falta --salida FICHERO (ayuda: efv esquema --help)");
+        const FormatoFichero& formato = LeerFormato();
+        const report::Pagina pagina = LeerPagina();
+        const JsonLeido proyecto = LeerFicheroJson(m_proyecto);
+        std::vector<std::string> entradas = FicherosLeidos(proyecto);
+        entradas.push_back(m_proyecto);
+        Salidas salidas(std::move(entradas));
+        salidas.Anadir("--salida", m_salida);
+        Diseno diseno = Disenar(proyecto);
+        if (m_revision)
+            diseno.cajetin.revision = *m_revision;
+        report::Plano plano;
+        try {
+            plano = report::PlanoDe(diseno.esquemas, diseno.cajetin, pagina);
+        } catch (const std::invalid_argument& error) {
+            throw ErrorEjecucion(error.what());
+        }
+        const auto escritos = salidas.Escribir({formato.escribir(plano)}, salida);
+        const std::size_t nHojas = plano.hojas.size();
+        if (!salidas.EnLaSalida()) {
+            salida << Nota(fmt::format("Escrito: {} ({}, {} de {})\n", EnUnaLinea(escritos.front()),
+                                       formato.nombre, nHojas == 1 ? "1 hoja" : fmt::format("{} hojas", nHojas),
+                                       pagina.Nombre()));
+        }
+        return 0;
+    }
+
+private:
+    const FormatoFichero& LeerFormato() const
+    {
+        const std::string final = m_salida.substr(m_salida.rfind('.') + 1);
+        const std::string nombre = m_formato.value_or(final);
+        const auto formato = std::ranges::find_if(
+            kFormatosFichero, [&](const FormatoFichero& f) { return MismoNombre(f.nombre, nombre); });
+        if (formato != kFormatosFichero.end())
+            return *formato;
+        throw ErrorUso(m_formato
+                           ? fmt::format("--formato: se esperaba dxf, svg o pdf, y no «{}»", *m_formato)
+                           : fmt::format("--salida «{}»: el final del fichero no dice el formato; use .dxf, "
+                                         ".svg o .pdf, o --formato",
+                                         m_salida));
+    }
+
+    report::Pagina LeerPagina() const
+    {
+        report::Pagina pagina;
+        const auto papel = std::ranges::find_if(
+            report::kFormatos, [&](const char* formato) { return MismoNombre(formato, m_papel); });
+        if (papel == std::end(report::kFormatos))
+            throw ErrorUso(fmt::format("--papel: se esperaba A4, A3, A2, A1 o A0, y no «{}»", m_papel));
+        pagina.formato = static_cast<report::Formato>(papel - std::begin(report::kFormatos));
+        pagina.bApaisada = !m_bVertical;
+        if (m_dMargen.empty())
+            return pagina;
+        const double dMargen = LeerAcotado("--margen", m_dMargen, report::kMargenMinimo, report::kMargenMaximo);
+        pagina.dIzquierdo = pagina.dSuperior = pagina.dDerecho = pagina.dInferior = dMargen;
+        return pagina;
+    }
+
+    Diseno Disenar(const JsonLeido& proyecto) const
+    {
+        try {
+            return EsAislada(proyecto) ? DisenarAislada(proyecto, m_datos) : DisenarRed(proyecto, m_datos);
+        } catch (const rpc::ErrorValor& error) {
+            throw ErrorEjecucion(fmt::format("«{}»: {}", m_proyecto, error.what()));
+        }
+    }
+
+    // As the project says, else by what only one of the two has.
+    static bool EsAislada(const JsonLeido& proyecto)
+    {
+        if (!proyecto.is_object())
+            throw rpc::ErrorValor("se esperaba un objeto");
+        if (!proyecto.contains("tipo"))
+            return proyecto.contains("csAcumulador");
+        const JsonLeido& tipo = proyecto["tipo"];
+        if (tipo != "aislada" && tipo != "red")
+            throw rpc::ErrorValor("tipo: hay esquema de «aislada» y de «red»");
+        return tipo == "aislada";
+    }
+
+    std::string m_proyecto, m_salida, m_papel = "A4", m_dMargen, m_datos;
+    std::optional<std::string> m_formato, m_revision;
+    bool m_bVertical = false;
+};
+
+}  // namespace
+
+std::unique_ptr<Suborden> CrearSubordenEsquema()
+{
+    return std::make_unique<SubordenEsquema>();
+}
+
+}  // namespace efv::orden
