@@ -15,6 +15,8 @@
 #include "economia/dialogo_autoconsumo.h"
 #include "economia/estudios.h"
 #include "esquema/exportar.h"
+#include "esquema/pagina.h"
+#include "esquema/plano.h"
 #include "informe/imprimir.h"
 #include "informe/portada.h"
 #include "proyecto/asistentes.h"
@@ -104,18 +106,19 @@ void CopiarEsquema(Ventana& ventana)
         CopiarLamina(*lamina);
 }
 
-void GuardarEsquema(Ventana& ventana)
+void GuardarEsquemaALaVista(Ventana& ventana)
 {
     const Lamina* lamina = LaminaALaVista(ventana);
-    if (lamina == nullptr)
-        return;
-    if (const auto csRuta = ui::PresentadorActual().ElegirFichero({L"Guardar esquema",
-                                                                   {{L"Imagen PNG (*.png)", L"*.png"},
-                                                                    {L"Dibujo SVG (*.svg)", L"*.svg"},
-                                                                    {L"Documento PDF (*.pdf)", L"*.pdf"}},
-                                                                   true,
-                                                                   L"esquema.png"}))
-        GuardarLamina(*lamina, *csRuta);
+    const auto diseno = ventana.DisenoALaVista();
+    if (lamina != nullptr && diseno)
+        GuardarEsquema(ventana.LaSesion().Proyecto(), *diseno, *lamina);
+}
+
+void ConEsquemaALaVista(Ventana& ventana, void (*hacer)(const CProyectoEstudio&, Diseno))
+{
+    const auto diseno = ventana.DisenoALaVista();
+    if (LaminaALaVista(ventana) != nullptr && diseno)
+        hacer(ventana.LaSesion().Proyecto(), *diseno);
 }
 
 void ConDisenoALaVista(Ventana& ventana, void (*hacer)(const CProyectoEstudio&, Diseno))
@@ -170,6 +173,7 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, nullptr, nullptr, nullptr},
     {kDiseno, "Por&tada del informe…", nullptr, [](Ventana& v) { EditarPortada(v.LaSesion()); }},
     {kDiseno, "I&nforme…", "Ctrl+I", [](Ventana& v) { ConDisenoALaVista(v, &GuardarInforme); }},
+    {kDiseno, "&Vista preliminar del informe…", nullptr, [](Ventana& v) { ConDisenoALaVista(v, &VerInforme); }},
     {kDiseno, "Imprimir in&forme…", "Ctrl+P", [](Ventana& v) { ConDisenoALaVista(v, &ImprimirInforme); }},
     {kEconomia, "&Venta a la red…", nullptr, &ConSuFicha<&EstudiarVenta, kVenta>},
     {kEconomia, "&Autoconsumo…", nullptr, &ConSuFicha<&EstudiarAutoconsumo, kAutoconsumo>},
@@ -181,7 +185,11 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kEsquema, "E&lementos", nullptr, nullptr, &LlenarElementos},
     {kEsquema, nullptr, nullptr, nullptr},
     {kEsquema, "&Copiar", "Ctrl+Shift+C", &CopiarEsquema},
-    {kEsquema, "&Guardar como…", nullptr, &GuardarEsquema},
+    {kEsquema, "&Guardar como…", nullptr, &GuardarEsquemaALaVista},
+    {kEsquema, nullptr, nullptr, nullptr},
+    {kEsquema, "Con&figurar página…", nullptr, [](Ventana&) { ConfigurarPagina(); }},
+    {kEsquema, "&Vista preliminar…", nullptr, [](Ventana& v) { ConEsquemaALaVista(v, &VerEsquemaImpreso); }},
+    {kEsquema, "&Imprimir…", "Ctrl+Shift+P", [](Ventana& v) { ConEsquemaALaVista(v, &ImprimirEsquema); }},
     {kClima, "&Estudio de la inclinación…", nullptr, [](Ventana& v) { v.EstudiarInclinacion(); }},
     {kClima, "&Mapa de zonas climáticas…", nullptr, [](Ventana&) { phShowMapaZonaHE5(); }},
     {kClima, "&Potencia mínima (CTE HE5)…", nullptr, [](Ventana& v) { CalcularPotenciaMinima(v.LaSesion()); }},

@@ -76,13 +76,11 @@ public:
             ->type_name("TEXTO");
         linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         linea.footer(
-            "El proyecto es el de «efv aislada» o «efv red», que dice su «tipo». Proyecto, lugar, autor, "
-            "cliente y\n"
-            "revisión del cajetín son los de su «titulo», «lugar» y «portada»; lo que falta sale como «—». "
-            "Hasta\n"
-            "seis inversores se dibujan uno a uno; si son más, uno por todos, con su número. Lo que no cabe en "
-            "una\n"
-            "hoja sigue en otra. Con «--salida -» se escribe por la salida estándar.\n"
+            "El proyecto es el de «efv aislada» o «efv red», que dice su «tipo». Proyecto, lugar, autor,\n"
+            "cliente y revisión del cajetín son los de su «titulo», «lugar» y «portada»; lo que falta sale\n"
+            "como «—». Los inversores se dibujan uno a uno, hasta doce, si caben en una hoja; si no, uno por\n"
+            "todos, con su número. Lo que aun así no cabe sigue en otra hoja. Con «--salida -» se escribe por\n"
+            "la salida estándar.\n"
             "Ejemplo:\n  efv esquema cubierta-red.json --salida cubierta.dxf --papel A3");
         return linea;
     }

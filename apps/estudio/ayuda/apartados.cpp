@@ -46,6 +46,7 @@ constexpr auto kApartados = std::to_array<Fila>({
     {"DialogoHE5", "Potencia mínima del código técnico"},
     {"DialogoPlanos", "Planos del campo"},
     {"DialogoPortada", "Portada del informe"},
+    {"DialogoPagina", "Página del esquema"},
     {"DialogoSimbolo", "Símbolos y rótulos"},
     {"CDlgRotulacion", "Símbolos y rótulos"},
     {"CDlgDatosPanelFotovoltaico", "Generador fotovoltaico"},

@@ -13,6 +13,7 @@
 #include "clima/estudios.h"
 #include "economia/dialogo_autoconsumo.h"
 #include "energia/planos.h"
+#include "esquema/pagina.h"
 #include "informe/portada.h"
 #include "preferencias/preferencias.h"
 #include "proyecto/asistentes.h"
@@ -333,6 +334,7 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          [](ui::Dialogo& dialogo) { ElegirEntrada(dialogo, "iOpcion", 1); }},
         {"planos", {"DialogoPlanos"}, [&sesion] { AbrirPlanos(sesion); }, {}},
         {"preferencias", {"DialogoPreferencias"}, [] { DialogoPreferencias(Preferencias{}).Mostrar(); }, {}},
+        {"pagina-esquema", {"DialogoPagina"}, [] { DialogoPagina(report::Pagina{}).Mostrar(); }, {}},
         {"portada", {"DialogoPortada"}, [&sesion] { EditarPortada(sesion); }, {}},
         {"potencia-minima", {"DialogoHE5"}, [&sesion] { CalcularPotenciaMinima(sesion); }, {}},
         {"mapa-zonas", {"CDlgMapaZonas"}, [] { phShowMapaZonaHE5(); }, {}},

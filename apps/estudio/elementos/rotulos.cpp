@@ -240,10 +240,10 @@ void PonerColores(Elemento& elemento, const Origen& origen)
 }  // namespace
 
 Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno,
-                  const std::optional<DisenoCalculado>& calculado)
+                  const std::optional<DisenoCalculado>& calculado, report::Detalle detalle)
 {
     const Origen origen{proyecto, diseno, calculado};
-    Esquema esquema = origen.EsAislada() ? EsquemaDe(proyecto.aislada) : EsquemaDe(proyecto.red);
+    Esquema esquema = origen.EsAislada() ? EsquemaDe(proyecto.aislada) : EsquemaDe(proyecto.red, detalle);
     std::map<Clase, std::vector<CString>> rotulos;  // those of a class are alike, and some take time
     for (Elemento& elemento : esquema.elementos) {
         const auto [entrada, bNueva] = rotulos.try_emplace(elemento.clase);

@@ -12,7 +12,8 @@ namespace efv::estudio {
 /// The schematic of a design of the project, with the checks that fail. Empty while there is no accepted one.
 /// @param calculado of the same design
 Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno,
-                  const std::optional<DisenoCalculado>& calculado);
+                  const std::optional<DisenoCalculado>& calculado,
+                  report::Detalle detalle = report::Detalle::extremos);
 inline Esquema EsquemaDe(const CProyectoEstudio& proyecto, Diseno diseno)
 {
     return EsquemaDe(proyecto, diseno, CalcularDiseno(proyecto, diseno));

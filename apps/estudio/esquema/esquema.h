@@ -17,10 +17,13 @@ using report::kInversoresDibujados;
 using report::MarcarFallos;
 
 /// Empty while there is no accepted design.
-template <class DISENO>
-Esquema EsquemaDe(const DISENO& diseno)
+inline Esquema EsquemaDe(const CSFVAsistenteAislada& diseno)
 {
     return report::EsquemaDe(diseno, CatalogosDelModulo(), CableadoDe(diseno), &EsUnifilar);
+}
+inline Esquema EsquemaDe(const CSFVAsistenteRed& diseno, report::Detalle detalle = report::Detalle::extremos)
+{
+    return report::EsquemaDe(diseno, CatalogosDelModulo(), CableadoDe(diseno), &EsUnifilar, detalle);
 }
 
 }  // namespace efv::estudio

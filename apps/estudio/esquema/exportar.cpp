@@ -1,14 +1,11 @@
 #include "esquema/exportar.h"
 
-#include <stdexcept>
+#include <memory>
 
 #include <QBuffer>
 #include <QClipboard>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QPageSize>
-#include <QPdfWriter>
 
 #include "guardar.h"
 
@@ -17,8 +14,6 @@ namespace efv::estudio {
 namespace {
 
 constexpr double kEscalaImagen = 2.0;
-constexpr double kPixelesPorPulgada = 96.0, kPuntosPorPulgada = 72.0;
-constexpr int kResolucionPdf = 600;
 
 QByteArray Png(const Lamina& lamina)
 {
@@ -27,36 +22,6 @@ QByteArray Png(const Lamina& lamina)
     salida.open(QIODevice::WriteOnly);
     ImagenDe(lamina).save(&salida, "PNG");
     return bytes;
-}
-
-// One page of the drawing's size.
-QByteArray Pdf(const Lamina& lamina)
-{
-    QByteArray bytes;
-    QBuffer salida(&bytes);
-    salida.open(QIODevice::WriteOnly);
-    QPdfWriter pagina(&salida);
-    constexpr double kPuntos = kPuntosPorPulgada / kPixelesPorPulgada;
-    pagina.setPageMargins(QMarginsF());
-    pagina.setPageSize(QPageSize(QSizeF(lamina.dAncho, lamina.dAlto) * kPuntos, QPageSize::Point,
-                                 QStringLiteral("Esquema"), QPageSize::ExactMatch));
-    pagina.setResolution(kResolucionPdf);
-    QPainter pintor(&pagina);
-    pintor.scale(kResolucionPdf / kPixelesPorPulgada, kResolucionPdf / kPixelesPorPulgada);
-    Pintar(pintor, lamina, Tema::claro);
-    pintor.end();
-    return bytes;
-}
-
-QByteArray Bytes(const Lamina& lamina, const QString& sufijo)
-{
-    if (sufijo == QLatin1String("png"))
-        return Png(lamina);
-    if (sufijo == QLatin1String("svg"))
-        return QByteArray::fromStdString(EscribirSvg(lamina));
-    if (sufijo == QLatin1String("pdf"))
-        return Pdf(lamina);
-    throw std::runtime_error("El esquema se guarda como .png, .svg o .pdf.");
 }
 
 }  // namespace
@@ -72,10 +37,9 @@ QImage ImagenDe(const Lamina& lamina, Tema tema)
     return imagen;
 }
 
-void GuardarLamina(const Lamina& lamina, const CString& csRuta)
+void GuardarImagen(const Lamina& lamina, const CString& csRuta)
 {
-    const QString ruta = QString::fromStdWString(csRuta);
-    const QByteArray bytes = Bytes(lamina, QFileInfo(ruta).suffix().toLower());
+    const QByteArray bytes = Png(lamina);
     GuardarFichero(csRuta, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
 }
 

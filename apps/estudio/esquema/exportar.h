@@ -9,9 +9,9 @@ namespace efv::estudio {
 
 QImage ImagenDe(const Lamina& lamina, Tema tema = Tema::claro);
 
-/// Writes it as the suffix says: ".png", ".svg" or ".pdf". The file is replaced as a whole or not at all.
+/// Writes it as a ".png" picture. The file is replaced as a whole or not at all.
 /// @throws std::runtime_error with a Spanish text.
-void GuardarLamina(const Lamina& lamina, const CString& csRuta);
+void GuardarImagen(const Lamina& lamina, const CString& csRuta);
 
 /// As a picture and as SVG.
 void CopiarLamina(const Lamina& lamina);

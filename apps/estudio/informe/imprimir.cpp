@@ -1,12 +1,16 @@
 #include "informe/imprimir.h"
 
 #include <algorithm>
+#include <exception>
+#include <memory>
 #include <stdexcept>
 
 #include <QFontDatabase>
+#include <QPageLayout>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPrintDialog>
+#include <QPrintPreviewDialog>
 #include <QPrinter>
 
 #include "pdf/pdf.h"
@@ -16,6 +20,7 @@ namespace efv::estudio {
 namespace {
 
 constexpr double kPuntosPorPulgada = 72.0;
+constexpr int kAnchoVista = 1000, kAltoVista = 680;  // fits a small screen
 
 QColor ColorDe(ui::Color color)
 {
@@ -102,21 +107,51 @@ private:
 
 }  // namespace
 
+namespace {
+
+// The sheets have their own margins.
+QPageLayout DisposicionDe(const report::Hoja& hoja)
+{
+    const auto [dCorto, dLargo] = std::minmax(hoja.dAncho, hoja.dAlto);
+    const QPageSize papel(QSizeF(dCorto, dLargo), QPageSize::Point, QString(), QPageSize::FuzzyMatch);
+    QPageLayout disposicion(papel, hoja.dAncho > hoja.dAlto ? QPageLayout::Landscape : QPageLayout::Portrait,
+                            QMarginsF());
+    disposicion.setMode(QPageLayout::FullPageMode);
+    return disposicion;
+}
+
+std::unique_ptr<QPrinter> ImpresoraPara(const report::Impreso& impreso)
+{
+    if (impreso.hojas.empty())
+        throw std::runtime_error("No hay nada que imprimir.");
+    auto impresora = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    impresora->setDocName(QString::fromStdString(impreso.titulo));
+    impresora->setPageLayout(DisposicionDe(impreso.hojas.front()));
+    return impresora;
+}
+
+}  // namespace
+
 void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel, std::size_t nDesde,
                  std::size_t nHasta)
 {
     const pdf::Letras letras = pdf::LetrasInstaladas();
     const QString familia = Familia(letras.normal);
     Familia(letras.negrita);  // the bold one of the same family
-    papel.setPageSize(QPageSize(QPageSize::A4));
-    papel.setPageMargins(QMarginsF());
+    const auto preparar = [&](const report::Hoja& hoja) { papel.setPageLayout(DisposicionDe(hoja)); };
+    if (nDesde >= impreso.hojas.size())
+        return;
+    preparar(impreso.hojas[nDesde]);
     QPainter pintor;
     if (!pintor.begin(&papel))
         throw std::runtime_error("No se puede imprimir: la impresora no responde.");
     pintor.setRenderHint(QPainter::Antialiasing);
     for (std::size_t i = nDesde; i <= std::min(nHasta, impreso.hojas.size() - 1); ++i) {
-        if (i > nDesde && !papel.newPage())
-            throw std::runtime_error("No se puede imprimir: la impresora no responde.");
+        if (i > nDesde) {
+            preparar(impreso.hojas[i]);
+            if (!papel.newPage())
+                throw std::runtime_error("No se puede imprimir: la impresora no responde.");
+        }
         pintor.save();
         pintor.scale(papel.logicalDpiX() / kPuntosPorPulgada, papel.logicalDpiY() / kPuntosPorPulgada);
         const Pintor hoja(pintor, familia);
@@ -132,24 +167,48 @@ report::Impreso HojasDe(const CProyectoEstudio& proyecto, Diseno diseno)
     return report::Componer(DocumentoDe(proyecto, diseno), report::FechaDeHoy(), medidor);
 }
 
-void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno)
+void Imprimir(const report::Impreso& impreso, const char* titulo)
 {
-    const report::Impreso impreso = HojasDe(proyecto, diseno);
-    QPrinter impresora(QPrinter::HighResolution);
-    impresora.setDocName(QString::fromStdString(impreso.titulo));
-    // The sheets have their own margins.
-    impresora.setFullPage(true);
-    impresora.setPageSize(QPageSize(QPageSize::A4));
-    QPrintDialog dialogo(&impresora);
-    dialogo.setWindowTitle(QStringLiteral("Imprimir informe"));
+    const auto impresora = ImpresoraPara(impreso);
+    QPrintDialog dialogo(impresora.get());
+    dialogo.setWindowTitle(QString::fromUtf8(titulo));
     dialogo.setMinMax(1, static_cast<int>(impreso.hojas.size()));
     if (dialogo.exec() != QDialog::Accepted)
         return;
-    const bool bParte = impresora.printRange() == QPrinter::PageRange && impresora.fromPage() > 0;
-    const std::size_t nDesde = bParte ? static_cast<std::size_t>(impresora.fromPage()) - 1 : 0;
+    const bool bParte = impresora->printRange() == QPrinter::PageRange && impresora->fromPage() > 0;
+    const std::size_t nDesde = bParte ? static_cast<std::size_t>(impresora->fromPage()) - 1 : 0;
     const std::size_t nHasta =
-        bParte ? static_cast<std::size_t>(impresora.toPage()) - 1 : impreso.hojas.size() - 1;
-    PintarHojas(impreso, impresora, nDesde, nHasta);
+        bParte ? static_cast<std::size_t>(impresora->toPage()) - 1 : impreso.hojas.size() - 1;
+    PintarHojas(impreso, *impresora, nDesde, nHasta);
+}
+
+void VerImpreso(const report::Impreso& impreso, const char* titulo)
+{
+    const auto impresora = ImpresoraPara(impreso);
+    QPrintPreviewDialog dialogo(impresora.get());
+    dialogo.setWindowTitle(QString::fromUtf8(titulo));
+    std::exception_ptr fallo;  // must not pass through the dialog's loop
+    QObject::connect(&dialogo, &QPrintPreviewDialog::paintRequested, &dialogo, [&](QPrinter* papel) {
+        try {
+            PintarHojas(impreso, *papel, 0, impreso.hojas.size() - 1);
+        } catch (...) {
+            fallo = std::current_exception();
+        }
+    });
+    dialogo.resize(kAnchoVista, kAltoVista);
+    dialogo.exec();
+    if (fallo)
+        std::rethrow_exception(fallo);
+}
+
+void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno)
+{
+    Imprimir(HojasDe(proyecto, diseno), "Imprimir informe");
+}
+
+void VerInforme(const CProyectoEstudio& proyecto, Diseno diseno)
+{
+    VerImpreso(HojasDe(proyecto, diseno), "Vista preliminar del informe");
 }
 
 }  // namespace efv::estudio

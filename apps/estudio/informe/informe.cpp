@@ -44,7 +44,7 @@ report::Portada PortadaDe(const CProyectoEstudio& proyecto)
     portada.lugar.dAltitud = proyecto.situacion.dAltitud;
     const PortadaProyecto& datos = proyecto.portada;
     portada.datos = {CadenaUtf8(datos.csCliente), CadenaUtf8(datos.csDireccion), CadenaUtf8(datos.csAutor),
-                     CadenaUtf8(datos.csFirma)};
+                     CadenaUtf8(datos.csFirma), CadenaUtf8(datos.csRevision)};
     const Celulas porDefecto;
     if (proyecto.celulas.dMinima != porDefecto.dMinima)
         portada.temperaturas.dMinima = proyecto.celulas.dMinima;

@@ -14,6 +14,7 @@ DialogoPortada::DialogoPortada(PortadaProyecto inicial)
     anadir("csDireccion", L"&Dirección:", portada.csDireccion);
     anadir("csAutor", L"&Autor:", portada.csAutor);
     anadir("csFirma", L"&Firma:", portada.csFirma);
+    anadir("csRevision", L"&Revisión:", portada.csRevision);
     Anadir<ui::TextoFijo>("csNota", L"Lo que se deja en blanco no sale en la portada.");
     Volcar();
 }

@@ -321,6 +321,12 @@ void IntercambiarPortada(CProyectoEstudio& proyecto, CArchive& ar)
         dato(*cs);
 }
 
+void IntercambiarRevision(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    dato(proyecto.portada.csRevision);
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -346,6 +352,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"aceptada red", 1, &IntercambiarAceptadaRed, L"de la conexión a red"},
     {L"portada", 1, &IntercambiarPortada, L"de la portada del informe"},
     {L"celulas", 1, &IntercambiarCelulas, L"de las células"},
+    {L"revision", 1, &IntercambiarRevision, L"de la revisión"},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

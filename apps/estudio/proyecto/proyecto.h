@@ -41,7 +41,7 @@ struct Situacion {
 
 /// What the cover of a report says besides the project's name; what is empty is left out.
 struct PortadaProyecto {
-    CString csCliente, csDireccion, csAutor, csFirma;
+    CString csCliente, csDireccion, csAutor, csFirma, csRevision = {};
 
     bool operator==(const PortadaProyecto&) const = default;
 };

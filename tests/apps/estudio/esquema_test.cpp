@@ -8,6 +8,7 @@
 #include "comun/ficheros.h"
 #include "diseno/equipos.h"
 #include "esquema/exportar.h"
+#include "esquema/plano.h"
 
 namespace {
 
@@ -62,6 +63,7 @@ TEST_F(Esquemas, LaAisladaTieneSusCampos)
     EXPECT_TRUE(Los(esquema, Clase::inversor).empty());
     // 44.7 A and a quarter more, over the 54 A of 6 mm².
     EXPECT_EQ(esquema.conexiones.at(0).csCable, L"10 mm²");
+    EXPECT_EQ(esquema.conexiones.at(0).csProteccion, L"In: 55,9 a 75,0 A");  // 1.25 × 44.7 A; 75 A of 10 mm²
 }
 
 TEST_F(Esquemas, LasCargasCuelganDeSuCorriente)
@@ -166,28 +168,64 @@ TEST_F(Esquemas, LasTarjetasNoSePisan)
     }
 }
 
+std::vector<std::wstring_view> TextosDe(const report::Plano& plano)
+{
+    std::vector<std::wstring_view> textos;
+    for (const Lamina& hoja : plano.hojas)
+        for (const Trazo& t : hoja.trazos)
+            if (const auto* texto = std::get_if<trazo::Texto>(&t))
+                textos.push_back(texto->cs);
+    return textos;
+}
+
+// Every string of every inverter while a sheet holds them one by one; then those of one, with their count.
+TEST_F(Esquemas, EnElPlanoCadaStringSeDibujaUnaVez)
+{
+    CProyectoEstudio proyecto;
+    proyecto.red = DisenoRed(3);
+    for (const auto& [formato, iDibujados] : {std::pair(report::Formato::a3, 3), {report::Formato::a4, 1}}) {
+        const report::Plano plano = PlanoDe(proyecto, Diseno::red, {.formato = formato});
+        ASSERT_EQ(plano.hojas.size(), 1U);
+        const auto textos = TextosDe(plano);
+        std::ptrdiff_t nPaneles = 0;
+        for (const Trazo& t : plano.hojas[0].trazos)
+            if (const auto* caja = std::get_if<trazo::Caja>(&t);
+                caja != nullptr && caja->relleno == Tinta::panel)
+                ++nPaneles;
+        EXPECT_EQ(nPaneles, iDibujados * 2 * 7);
+        const auto veces = [&](const wchar_t* cs) {
+            return std::ranges::count_if(textos, [&](std::wstring_view t) { return t.find(cs) != t.npos; });
+        };
+        EXPECT_EQ(veces(L"ST1.1"), iDibujados);
+        EXPECT_EQ(veces(L"ST2.1"), iDibujados);
+        EXPECT_EQ(veces(L"ST1.2"), 0);  // without a string
+        EXPECT_EQ(veces(L"Inversores"), iDibujados == 1 ? 1 : 0);
+        EXPECT_GE(veces(L"×\xA0"
+                        L"3"),
+                  iDibujados == 1 ? 1 : 0);
+    }
+}
+
 TEST_F(Esquemas, SeGuardaComoImagenDibujoODocumento)
 {
     const CarpetaTemporal carpeta;
-    CSFVAsistenteRed diseno = DisenoRed(2);
-    diseno.csPanel = L"Nadie#<Panel> & \"Co\"";
-    const Lamina lamina = Dibujar(EsquemaDe(diseno));
-    const auto guardado = [&](const char* nombre) {
-        GuardarLamina(lamina, CadenaDesdeUtf8((carpeta.Ruta() / nombre).string()));
-        std::ifstream fichero(carpeta.Ruta() / nombre, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(fichero), {});
-    };
-    EXPECT_TRUE(guardado("e.png").starts_with("\x89PNG"));
-    EXPECT_TRUE(guardado("e.PDF").starts_with("%PDF"));
-    QXmlStreamReader svg(QByteArray::fromStdString(guardado("e.svg")));
+    CProyectoEstudio proyecto;
+    proyecto.red = DisenoRed(2);
+    proyecto.red.csPanel = L"Nadie#<Panel> & \"Co\"";
+    const CString csImagen = CadenaDesdeUtf8((carpeta.Ruta() / "e.png").string());
+    GuardarImagen(Dibujar(EsquemaDe(proyecto.red)), csImagen);
+    EXPECT_FALSE(QImage(QString::fromStdWString(csImagen)).isNull());
+    const report::Plano plano = PlanoDe(proyecto, Diseno::red, {});
+    EXPECT_TRUE(BytesDePlano(plano, L"e.PDF").starts_with("%PDF"));
+    EXPECT_TRUE(BytesDePlano(plano, L"e.dxf").ends_with("EOF\r\n"));
+    QXmlStreamReader svg(QByteArray::fromStdString(BytesDePlano(plano, L"e.svg")));
     QString textos;
     while (!svg.atEnd())
         if (svg.readNext() == QXmlStreamReader::Characters)
             textos += svg.text();
     EXPECT_FALSE(svg.hasError()) << svg.errorString().toStdString();
     EXPECT_TRUE(textos.contains("<Panel> & \"Co\" (?)"));
-    EXPECT_THROW(guardado("e.docx"), std::runtime_error);
-    EXPECT_FALSE(std::filesystem::exists(carpeta.Ruta() / "e.docx"));
+    EXPECT_THROW(BytesDePlano(plano, L"e.docx"), std::runtime_error);
 }
 
 // ---------------------------------------------------------------------------------------------------

@@ -66,7 +66,7 @@ std::unique_ptr<CProyectoEstudio> Lleno()
     elementos.inversor.entradas[3].nColor = 1;
     elementos.inversor.iNumEntradas = 4;
     elementos.red.csReferencia = L"RED";
-    proyecto->portada = {L"Ana", L"Calle 1", L"Elena", L"Elena, n.º 3"};
+    proyecto->portada = {L"Ana", L"Calle 1", L"Elena", L"Elena, n.º 3", L"B"};
     return proyecto;
 }
 

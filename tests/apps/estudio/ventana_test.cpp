@@ -362,7 +362,7 @@ TEST_F(Ventanas, SinEsquemaALaVistaLasOrdenesLoDicen)
     for (const estudio::Orden& orden : Ordenes())
         if (std::string_view(orden.menu) == "Es&quema" && orden.funcion != nullptr)
             orden.funcion(ventana);
-    EXPECT_EQ(guion.Mensajes().size(), 2U);  // copy and save
+    EXPECT_EQ(guion.Mensajes().size(), 4U);  // copy, save, show before printing, print
 }
 
 // What is told of the example: 4 inverters of 5 kW, 24 batteries, the place, the data sheets.
