@@ -22,7 +22,7 @@ void ProbarVenta(std::string_view bytes)
 
 void ProbarReceptores(const FicheroEnMemoria& fichero)
 {
-    const AnoConsumo ano = AnoDeListaDeReceptores(efv::CadenaUtf8(fichero.Ruta()));
+    const AnoConsumo ano = AnoDeListaDeReceptores(efv::CadenaUtf8(fichero.Ruta()), {});
     Exigir(ano.horas != nullptr);
 }
 

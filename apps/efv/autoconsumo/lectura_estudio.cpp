@@ -207,7 +207,7 @@ AnoConsumo ConsumoDeFichero(Lector& lector, const std::string& ruta, const Opcio
 
 // The hours of consumption, and the civil year of each day for the tariff.
 AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const OpcionesAno& opciones,
-                       ProyectoAutoconsumo& p)
+                       const std::string& csDatos, ProyectoAutoconsumo& p)
 {
     Lector lector(json, "consumo.", p);
     AnoConsumo ano;
@@ -225,7 +225,7 @@ AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const 
         origen = "patron";
     } else if (const auto receptores = lector.Texto("receptores")) {
         ruta = RutaJunto(estudio, *receptores);
-        ano = AnoDeListaDeReceptores(ruta);
+        ano = AnoDeListaDeReceptores(ruta, csDatos);
         origen = "receptores";
     } else if (const JsonLeido* horas = lector.Buscar("horas"); horas != nullptr) {
         EnObjeto("horas", [&] {
@@ -457,7 +457,7 @@ EstudioLeido LeerEstudio(const JsonLeido& json, const std::string& ruta, const s
     const JsonLeido* bateria = lector.Buscar("bateria");
     lector.ElObjeto().Terminar();
     economics::CalendarioTarifa calendario{{}, true, reloj.dLongitud, reloj.huso};
-    EnObjeto("consumo", [&] { calendario.aiAno = LeerConsumo(consumo, ruta, reloj, p); });
+    EnObjeto("consumo", [&] { calendario.aiAno = LeerConsumo(consumo, ruta, reloj, csDatos, p); });
     EnObjeto("precios", [&] { LeerPrecios(precios, ruta, calendario, csDatos, p); });
     if (bateria != nullptr)
         EnObjeto("bateria", [&] { LeerBateria(*bateria, p); });

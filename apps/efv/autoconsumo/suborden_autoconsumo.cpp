@@ -18,6 +18,7 @@
 #include "comun/palabras.h"
 #include "comun/salidas.h"
 #include "diseno/informe.h"
+#include "diseno/proyecto_estudio.h"
 
 namespace efv::orden {
 
@@ -76,7 +77,9 @@ public:
             "autoconsumo",
             "Estudia hora a hora una instalación de autoconsumo, del contador a la recuperación");
         Castellanizar(linea);
-        linea.add_option("ESTUDIO", m_estudios, "Ficheros de estudio, JSON: de cada uno su resultado")
+        linea
+            .add_option("ESTUDIO", m_estudios,
+                        "Ficheros de estudio, JSON o de efv-estudio: de cada uno su resultado")
             ->option_text(" ");
         CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores");
         json->option_text(" ")->disable_flag_override();
@@ -110,7 +113,7 @@ public:
                                     : m_bCsv ? FormatoLote::csv
                                              : FormatoLote::texto;
         return lote.Ejecutar(salida, formato, 0, [&](const std::string& fichero) {
-            const JsonLeido json = LeerFicheroJson(fichero);
+            const JsonLeido json = LeerFicheroProyecto(fichero, "autoconsumo");
             const Salidas salidas = LeerSalidas(json, fichero, lote);
             try {
                 return Estudiar(json, fichero, salidas, salida);

@@ -9,6 +9,7 @@
 #include "comun/consola.h"
 #include "comun/entrada.h"
 #include "comun/numeros.h"
+#include "diseno/receptores.h"
 #include "rpc/errores.h"
 #include "rpc/valores.h"
 
@@ -192,21 +193,20 @@ AnoConsumo AnoDeMeses(const EnergiasMensuales& datos)
     return ano;
 }
 
-AnoConsumo AnoDeListaDeReceptores(const std::string& ruta)
+AnoConsumo AnoDeListaDeReceptores(const std::string& ruta, const std::string& csDatos)
 {
     const std::string bytes = LeerEntrada(ruta, kMaximoJson);
-    const rpc::Json lista = rpc::Json::parse(bytes, nullptr, false);
-    if (!lista.is_array())
-        throw ErrorEjecucion(fmt::format("«{}» no es una lista JSON de receptores", ruta));
     AnoConsumo ano;
     ano.origen = fmt::format("Receptores: {}", ruta);
-    for (const rpc::Json& elemento : lista) {
-        try {
-            rpc::LeerRegistro(elemento, ano.receptores.Add(std::make_unique<CSFVDataReceptor>()));
-        } catch (const rpc::ErrorValor& error) {
-            throw ErrorEjecucion(
-                fmt::format("«{}»: receptor {}: {}", ruta, ano.receptores.GetSize(), error.what()));
-        }
+    try {
+        const JsonLeido json = AnalizarJson(bytes);
+        const bool bProyecto = json.is_object() && json.contains("receptores");
+        const JsonLeido& lista = bProyecto ? json["receptores"] : json;
+        if (!lista.is_array())
+            throw rpc::ErrorValor("no es una lista JSON de receptores, ni un proyecto que la tenga");
+        ano.receptores = LeerReceptores(lista, CatalogoDatos("receptores", csDatos), Modelo::opcional);
+    } catch (const rpc::ErrorValor& error) {
+        throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
     }
     ano.dPotMaxima = AnoDeReceptores(ano.receptores, *ano.horas);
     return ano;

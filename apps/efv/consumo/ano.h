@@ -64,7 +64,8 @@ struct EnergiasMensuales {
 /// @throws ErrorUso when a period has energy that the pattern or the hours leave no place for
 AnoConsumo AnoDeMeses(const EnergiasMensuales& datos);
 
-/// A JSON list of loads, fields as in the scripted host. @throws ErrorEjecucion
-AnoConsumo AnoDeListaDeReceptores(const std::string& ruta);
+/// The loads of a stand-alone project's file, or its list of them alone. @param csDatos option --datos
+/// @throws ErrorEjecucion
+AnoConsumo AnoDeListaDeReceptores(const std::string& ruta, const std::string& csDatos);
 
 }  // namespace efv::orden

@@ -8,6 +8,7 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
+#include "comun/datos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
 #include "comun/palabras.h"
@@ -157,10 +158,15 @@ private:
     {
         CLI::App& orden = Orden(linea, "receptores", "Los receptores de una lista, con sus franjas de uso",
                                 &SubordenConsumo::Receptores);
-        orden.add_option("FICHERO", m_palabra, "Lista JSON de registros CSFVDataReceptor")->option_text(" ");
+        orden
+            .add_option("FICHERO", m_palabra,
+                        "Lista JSON de receptores, o un proyecto de «efv aislada» que los tenga")
+            ->option_text(" ");
+        orden.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         orden.footer(
-            "Cada receptor es un objeto: iCantidad, dPotencia (W), bNoCalcular y dHorario, una lista de 504\n"
-            "minutos desde medianoche: por mes y tipo de día (lunes primero), inicio y fin de tres franjas.");
+            "Los receptores se escriben como en «efv aislada --help»: csModelo, iCantidad, franjas, horario o\n"
+            "dHorario. Aquí basta dPotencia (W) en lugar del modelo, y bNoCalcular deja uno fuera.\n"
+            "Ejemplo:\n  efv consumo receptores casa-aislada.json --svg casa.svg");
     }
 
     const std::string& Palabra(const char* que) const
@@ -206,7 +212,7 @@ private:
         return AnoDeMeses(datos);
     }
 
-    AnoConsumo Receptores() const { return AnoDeListaDeReceptores(Palabra("el fichero")); }
+    AnoConsumo Receptores() const { return AnoDeListaDeReceptores(Palabra("el fichero"), m_datos); }
 
     Salida LeerSalida() const
     {
@@ -249,7 +255,7 @@ private:
     }
 
     std::vector<std::pair<CLI::App*, Calculo>> m_ordenes;
-    std::string m_palabra;
+    std::string m_palabra, m_datos;
     std::optional<std::string> m_potencia, m_svg, m_vista, m_mes, m_dia;
     ImportacionConsumo m_importacion;
     std::string m_patron = "1", m_horas = std::string(24, '1');

@@ -21,6 +21,11 @@ CatalogoDatos::CatalogoDatos(std::string_view tipo, const std::string& csDatos)
     m_modelos = m_tipo->Modelos(*m_base);
 }
 
+bool CatalogoDatos::Tiene(const std::string& id) const
+{
+    return ModelosDeNombre(m_modelos, CadenaDesdeUtf8(id)).size() == 1;
+}
+
 const CModelo& CatalogoDatos::Buscar(const std::string& id) const
 {
     const Modelos hallados = ModelosDeNombre(m_modelos, CadenaDesdeUtf8(id));

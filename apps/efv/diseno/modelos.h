@@ -21,6 +21,8 @@ public:
     /// several families have the name
     const CModelo& Buscar(const std::string& id) const;
 
+    bool Tiene(const std::string& id) const;
+
     const TipoCatalogo& Tipo() const { return *m_tipo; }
 
 private:

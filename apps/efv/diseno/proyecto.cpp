@@ -116,6 +116,8 @@ report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool
         lugar.adRadiacion = lugar.localidad->adRadHorizontal;
         return lugar;
     }
+    if (const JsonLeido* suyo = proyecto.Buscar("nombreLugar"); suyo != nullptr)
+        rpc::NombrarLugar([] { return "nombreLugar"; }, [&] { lugar.nombre = LeerTexto(*suyo); });
     if (latitud == nullptr || (bExigirRadiacion && radiacion == nullptr))
         throw rpc::ErrorValor(bExigirRadiacion ? "falta el lugar: «lugar», o «latitud» con «radiacion»"
                                                : "falta el lugar: «lugar» o «latitud»");

@@ -177,12 +177,28 @@ void TomarModelo(CSFVDataReceptor& receptor, const CModelo& modelo)
     receptor.iReservadoB = 1;
 }
 
-std::unique_ptr<CSFVDataReceptor> LeerReceptor(const JsonLeido& j, const CatalogoDatos& catalogo)
+// A load with its power may have no model that the catalogue knows, where nothing but power and bands count.
+void LeerModelo(Objeto& objeto, CSFVDataReceptor& receptor, const CatalogoDatos& catalogo, Modelo modelo)
+{
+    const bool bSinModelo = modelo == Modelo::opcional && objeto.Buscar("dPotencia") != nullptr;
+    const JsonLeido* id = bSinModelo ? objeto.Buscar("csModelo") : &objeto.Exigir("csModelo");
+    if (id == nullptr)
+        return;
+    rpc::NombrarLugar([] { return "csModelo"; },
+                      [&] {
+                          const std::string& nombre = LeerTexto(*id);
+                          if (!bSinModelo || catalogo.Tiene(nombre))
+                              TomarModelo(receptor, catalogo.Buscar(nombre));
+                          else
+                              receptor.csModelo = CadenaDesdeUtf8(nombre);
+                      });
+}
+
+std::unique_ptr<CSFVDataReceptor> LeerReceptor(const JsonLeido& j, const CatalogoDatos& catalogo, Modelo modelo)
 {
     Objeto objeto(j);
     auto receptor = std::make_unique<CSFVDataReceptor>();
-    rpc::NombrarLugar([] { return "csModelo"; },
-                      [&] { TomarModelo(*receptor, catalogo.Buscar(LeerTexto(objeto.Exigir("csModelo")))); });
+    LeerModelo(objeto, *receptor, catalogo, modelo);
     const CString csId = receptor->csModelo;
     const bool bConHorario = LeerCampos(objeto, *receptor, kRangos).contains("dHorario");
     receptor->csModelo = csId;
@@ -199,13 +215,14 @@ void ComprobarCuantos(std::ptrdiff_t n)
 
 }  // namespace
 
-CObArrayPropio<CSFVDataReceptor> LeerReceptores(const JsonLeido& lista, const CatalogoDatos& catalogo)
+CObArrayPropio<CSFVDataReceptor> LeerReceptores(const JsonLeido& lista, const CatalogoDatos& catalogo,
+                                                Modelo modelo)
 {
     ComprobarCuantos(std::ssize(LeerLista(lista)));
     CObArrayPropio<CSFVDataReceptor> receptores;
     for (const JsonLeido& elemento : LeerLista(lista))
         rpc::NombrarLugar([&] { return fmt::format("receptor {}", receptores.GetSize() + 1); },
-                          [&] { receptores.Add(LeerReceptor(elemento, catalogo)); });
+                          [&] { receptores.Add(LeerReceptor(elemento, catalogo, modelo)); });
     return receptores;
 }
 

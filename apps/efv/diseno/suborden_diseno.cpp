@@ -20,6 +20,7 @@
 #include "diseno/diseno.h"
 #include "diseno/informe.h"
 #include "diseno/proyecto.h"
+#include "diseno/proyecto_estudio.h"
 
 namespace efv::orden {
 
@@ -126,7 +127,9 @@ public:
     {
         CLI::App& linea = *raiz.add_subcommand(m_clase.nombre, m_clase.descripcion);
         Castellanizar(linea);
-        linea.add_option("PROYECTO", m_proyectos, "Ficheros de proyecto, JSON: de cada uno su resultado")
+        linea
+            .add_option("PROYECTO", m_proyectos,
+                        "Ficheros de proyecto, JSON o de efv-estudio: de cada uno su resultado")
             ->option_text(" ");
         CLI::Option* json =
             linea.add_flag("--json", m_bJson, "Escribe JSON con todos los valores por su nombre en el código");
@@ -176,7 +179,7 @@ public:
 private:
     ResultadoProyecto Calcular(const std::string& fichero, Lote& lote, std::ostream& salida) const
     {
-        const JsonLeido proyecto = LeerFicheroJson(fichero);
+        const JsonLeido proyecto = LeerFicheroProyecto(fichero, m_clase.nombre);
         const Salidas salidas = LeerSalidas(proyecto, fichero, lote);
         Diseno diseno = Disenar(proyecto, fichero);
         std::vector<std::string> contenidos;

@@ -115,8 +115,21 @@ TEST(Consumo, LosReceptoresDeUnaLista)
     EXPECT_EQ(json["potencia_maxima_W"], 120.0);
     EXPECT_EQ(json["energia_año_Wh"], 365 * 180.0);
     EsperarFallo({"receptores", carpeta.Crear("o.json", "{}")}, 1, "no es una lista");
-    EsperarFallo({"receptores", carpeta.Crear("m.json", "[{},{\"dHorario\":[1]}]")}, 1, "receptor 2");
+    EsperarFallo(
+        {"receptores", carpeta.Crear("m.json", "[{\"dPotencia\":1},{\"dPotencia\":1,\"dHorario\":[1]}]")}, 1,
+        "receptor 2");
     EsperarFallo({"receptores", carpeta.Crear("v.json", "")}, 1, "está vacío");
+    // A project's loads, with their models and bands: 8 lamps of 7 W for 4.5 hours are 252 Wh a day, a part of
+    // it all.
+    const std::string casa = (kEjemplos / "casa-aislada.json").string();
+    const Json receptores = Json::parse(LeerTodo(casa))["receptores"];
+    const Json proyecto = Calcular({"receptores", casa});
+    EXPECT_EQ(proyecto["horas_Wh"],
+              Calcular({"receptores", carpeta.Crear("r.json", receptores.dump())})["horas_Wh"]);
+    EXPECT_NEAR(
+        Calcular({"receptores", carpeta.Crear("l.json", Json::array({receptores[0]}).dump())})["energia_año_Wh"]
+            .get<double>(),
+        242 * 252.0 + 123 * 140.0, 1e-6);
 }
 
 TEST(Consumo, SeDibujaComoDiaSemanaOAno)

@@ -1,0 +1,171 @@
+#include "diseno/proyecto_estudio.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <memory>
+#include <span>
+#include <stdexcept>
+
+#include <fmt/format.h>
+
+#include "comun/consola.h"
+#include "comun/entrada.h"
+#include "diseno/salida.h"
+#include "proyecto/proyecto.h"
+
+namespace efv::orden {
+
+namespace {
+
+using estudio::CProyectoEstudio;
+
+// A project with thousands of loads stays far below.
+constexpr std::size_t kProyectoMaximo = std::size_t{64} << 20;
+constexpr std::string_view kMarca = "EFV-PRY\x1A";
+
+// Fields of the records that a project can't fix: the design finds them by itself.
+constexpr auto kDelDiseno = std::to_array<std::string_view>({
+    "iAcumuladoresSerie",
+    "dPotenciaMaxFV",
+    "dKaAjustado",
+    "dR",
+    "iTipoSalida",
+});
+
+// A pipe is JSON: its beginning can't be looked at.
+bool EsDeEstudio(const std::string& ruta)
+{
+    if (ruta == "-" || EsFlujo(ruta))
+        return false;
+    std::ifstream fichero(ruta, std::ios::binary);
+    std::array<char, kMarca.size()> comienzo{};
+    fichero.read(comienzo.data(), comienzo.size());
+    return fichero && std::string_view(comienzo.data(), comienzo.size()) == kMarca;
+}
+
+std::unique_ptr<CProyectoEstudio> Abrir(std::string_view bytes)
+{
+    auto proyecto = std::make_unique<CProyectoEstudio>();
+    try {
+        CArchive ar(std::as_bytes(std::span(bytes)));
+        proyecto->Serialize(ar);
+    } catch (const CArchiveException&) {
+        throw std::runtime_error("El proyecto está cortado: acaba antes de tiempo.");
+    }
+    return proyecto;
+}
+
+// The members of the record that a project file may give; of a sale without its years, which are results.
+void PonerRegistro(JsonEscrito& json, const CObject& registro, bool bSinListas)
+{
+    const JsonEscrito valores = ValoresJson(CamposDeRegistro(registro));
+    for (const auto& campo : valores.items()) {
+        const bool bDelDiseno = std::ranges::find(kDelDiseno, campo.key()) != kDelDiseno.end();
+        if (!bDelDiseno && !campo.value().is_null() && !(bSinListas && campo.value().is_array()))
+            json[campo.key()] = campo.value();
+    }
+}
+
+void PonerLugar(JsonEscrito& json, const CProyectoEstudio& proyecto)
+{
+    json["nombreLugar"] = CadenaUtf8(proyecto.lugar.csNombre);
+    json["latitud"] = proyecto.lugar.dLatitud;
+    json["hemisferio"] = proyecto.lugar.iHemisferio;
+    json["radiacion"] = proyecto.lugar.adRadHorizontal;
+}
+
+void PonerCampo(JsonEscrito& json, const CProyectoEstudio& proyecto)
+{
+    json["temperaturaMinima"] = proyecto.celulas.dMinima;
+    json["temperaturaMaxima"] = proyecto.celulas.dMaxima;
+    if (!proyecto.situacion.csRegistro.empty())
+        json["clima"] = CadenaUtf8(proyecto.situacion.csRegistro);
+    for (const solar::PlanoCampo& plano : proyecto.planos) {
+        json["planos"].push_back({{"inclinacion", plano.dInclinacion},
+                                  {"orientacion", plano.dOrientacion},
+                                  {"parte", plano.dParte}});
+    }
+}
+
+void ExigirDiseno(bool bHay, const char* que)
+{
+    if (!bHay)
+        throw std::runtime_error(fmt::format("el proyecto no tiene {}", que));
+}
+
+void PonerVenta(JsonEscrito& json, const CProyectoEstudio& proyecto)
+{
+    const CSFVCalculoEconomico& venta = proyecto.economia.venta;
+    PonerRegistro(json, venta, true);
+    // Results of the study are made again.
+    for (const char* nombre : {"dImporteIDAE", "dImporteICO", "dCosteElegible", "dTotalPagar", "dCuotaAnual",
+                               "dEnergiaInstalacion", "dEnergiaResultante", "dPrimaVariable",
+                               "dRendimientoInicial", "dImporteSubvencion", "dTotalPrestamos", "dTIR"})
+        json.erase(nombre);
+    json.erase(venta.iTipoCoste == 0 ? "dCosteInstalacion" : "dRepercusion");
+    if (venta.iTipoPrima == 1) {
+        json.erase("dPrimaFija");
+    } else {
+        json.erase("dPrimaVariableA");
+        json.erase("dPrimaVariableB");
+    }
+    // Without an energy of its own the sale takes that of the place and the plane.
+    if (!(venta.dEnergiaBase > 0.0)) {
+        json.erase("dEnergiaBase");
+        PonerLugar(json, proyecto);
+        json["dInclinacion"] = proyecto.red.dInclinacion;
+        if (!(venta.dPotenciaGenerador > 0.0))
+            json["dPotenciaGenerador"] = proyecto.red.dPotenciaObjetivo * 1000.0;
+    }
+}
+
+JsonEscrito JsonDe(const CProyectoEstudio& proyecto, std::string_view tipo)
+{
+    if (tipo == "autoconsumo") {
+        ExigirDiseno(!proyecto.economia.csGuiado.empty(), "estudio guiado de autoconsumo");
+        return JsonEscrito::parse(CadenaUtf8(proyecto.economia.csGuiado));
+    }
+    JsonEscrito json = {{"tipo", tipo}, {"titulo", CadenaUtf8(proyecto.csNombre)}};
+    const estudio::PortadaProyecto& portada = proyecto.portada;
+    json["portada"] = {{"cliente", CadenaUtf8(portada.csCliente)},
+                       {"direccion", CadenaUtf8(portada.csDireccion)},
+                       {"autor", CadenaUtf8(portada.csAutor)},
+                       {"firma", CadenaUtf8(portada.csFirma)},
+                       {"revision", CadenaUtf8(portada.csRevision)}};
+    if (tipo == "venta") {
+        ExigirDiseno(
+            proyecto.economia.venta.dPotenciaGenerador > 0.0 || proyecto.economia.venta.dEnergiaBase > 0.0,
+            "estudio de venta a la red");
+        PonerVenta(json, proyecto);
+        return json;
+    }
+    if (tipo == "red") {
+        ExigirDiseno(!proyecto.red.csPanel.empty() && !proyecto.red.csInversor.empty(),
+                     "instalación conectada a red");
+        PonerRegistro(json, proyecto.red, false);
+    } else {
+        ExigirDiseno(!proyecto.aislada.csPanel.empty() && !proyecto.aislada.csAcumulador.empty(),
+                     "instalación aislada");
+        PonerRegistro(json, proyecto.aislada, false);
+    }
+    PonerLugar(json, proyecto);
+    PonerCampo(json, proyecto);
+    return json;
+}
+
+}  // namespace
+
+JsonLeido LeerFicheroProyecto(const std::string& ruta, std::string_view tipo)
+{
+    if (!EsDeEstudio(ruta))
+        return LeerFicheroJson(ruta);
+    const std::string bytes = LeerEntrada(ruta, kProyectoMaximo);
+    try {
+        return JsonLeido::parse(JsonDe(*Abrir(bytes), tipo).dump());
+    } catch (const std::runtime_error& error) {
+        throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
+    }
+}
+
+}  // namespace efv::orden
