@@ -16,7 +16,7 @@ inline constexpr double kLetraPequena = 11.5;  // the smallest of a schematic
 /// How a schematic is laid out, in the units of the screen's pixels.
 struct Medidas {
     double dMargen = 24.0;
-    double dHueco = 130.0;      ///< between columns: room for a connection's texts
+    double dHueco = 140.0;      ///< between columns: room for a connection's texts
     double dHuecoFilas = 54.0;  ///< between rows
     double dCabecera = 19.0;    ///< letters of the title; 0: it stands elsewhere
     double dAlmohada = 12.0;    ///< inside a card
