@@ -20,6 +20,7 @@
 #include "comun/terminal.h"
 #include "diseno/diseno.h"
 #include "diseno/proyecto.h"
+#include "diseno/proyecto_estudio.h"
 #include "pdf/pdf.h"
 
 namespace efv::orden {
@@ -64,6 +65,11 @@ public:
             ->type_name("FICHERO");
         linea.add_option("--formato", m_formato, "dxf, svg o pdf, si el final del fichero no lo dice")
             ->type_name("FORMATO");
+        linea
+            .add_option(
+                "--tipo", m_tipo,
+                "aislada o red, de un proyecto de efv-estudio; si falta, el de red y, si no lo hay, el otro")
+            ->type_name("TIPO");
         linea.add_option("--papel", m_papel, "A4, A3, A2, A1 o A0; si falta, A4")->type_name("PAPEL");
         linea.add_flag("--vertical", m_bVertical, "La hoja de pie; si falta, apaisada")
             ->option_text(" ")
@@ -93,7 +99,7 @@ public:
             throw ErrorUso("falta --salida FICHERO (ayuda: efv esquema --help)");
         const FormatoFichero& formato = LeerFormato();
         const report::Pagina pagina = LeerPagina();
-        const JsonLeido proyecto = LeerFicheroJson(m_proyecto);
+        const JsonLeido proyecto = LeerProyecto();
         std::vector<std::string> entradas = FicherosLeidos(proyecto);
         entradas.push_back(m_proyecto);
         Salidas salidas(std::move(entradas));
@@ -158,21 +164,37 @@ private:
         }
     }
 
+    // A project of the desktop program may have both designs.
+    JsonLeido LeerProyecto() const
+    {
+        if (m_tipo && *m_tipo != "aislada" && *m_tipo != "red")
+            throw ErrorUso(fmt::format("--tipo: se esperaba aislada o red, y no «{}»", *m_tipo));
+        try {
+            return LeerFicheroProyecto(m_proyecto, m_tipo.value_or("red"));
+        } catch (const ErrorEjecucion&) {
+            if (m_tipo)
+                throw;
+        }
+        return LeerFicheroProyecto(m_proyecto, "aislada");
+    }
+
     // As the project says, else by what only one of the two has.
-    static bool EsAislada(const JsonLeido& proyecto)
+    bool EsAislada(const JsonLeido& proyecto) const
     {
         if (!proyecto.is_object())
             throw rpc::ErrorValor("se esperaba un objeto");
         if (!proyecto.contains("tipo"))
-            return proyecto.contains("csAcumulador");
+            return m_tipo ? *m_tipo == "aislada" : proyecto.contains("csAcumulador");
         const JsonLeido& tipo = proyecto["tipo"];
+        if (m_tipo && tipo != *m_tipo)
+            throw rpc::ErrorValor(fmt::format("tipo: el proyecto no es de «{}»", *m_tipo));
         if (tipo != "aislada" && tipo != "red")
             throw rpc::ErrorValor("tipo: hay esquema de «aislada» y de «red»");
         return tipo == "aislada";
     }
 
     std::string m_proyecto, m_salida, m_papel = "A4", m_dMargen, m_datos;
-    std::optional<std::string> m_formato, m_revision;
+    std::optional<std::string> m_formato, m_revision, m_tipo;
     bool m_bVertical = false;
 };
 
