@@ -64,7 +64,8 @@ const TipoCatalogo& OpcionesCatalogo::Tipo(std::span<const std::string_view> tip
 {
     const std::string_view nombre = m_tipo ? *m_tipo : tipos.front();
     if (std::ranges::find(tipos, nombre) == tipos.end())
-        throw ErrorUso(fmt::format("--tipo: se esperaba {}, llegó «{}»", Enumerar(tipos), nombre));
+        throw ErrorUso(fmt::format("--tipo: se esperaba {}, llegó «{}»{}", Enumerar(tipos), EnUnaLinea(nombre),
+                                   Parecidos(std::vector<std::string>(tipos.begin(), tipos.end()), nombre)));
     return *BuscarTipoCatalogo(nombre);
 }
 

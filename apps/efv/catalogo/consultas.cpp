@@ -37,7 +37,7 @@ public:
         }
         buscar.footer(
             "Ejemplos:\n"
-            "  efv catalogo buscar mono --donde 'dPmpm>=495' --ordenar dPmpm --columnas dPmpm,dVoc,dIsc\n"
+            "  efv catalogo buscar --donde 'dPmpm>=495' --ordenar=-dPmpm --columnas dPmpm,dVoc,dIsc\n"
             "  efv catalogo buscar --tipo inversores --donde 'dPCANom>=5000' --donde 'dPCANom<=8000'");
         CLI::App& ver = Consulta(linea, "ver", "Muestra la ficha de un modelo", &Consultas::Ver);
         ver.add_option("ID", m_id, "FAMILIA#MODELO, o el modelo solo")->option_text(" ");

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -12,6 +13,7 @@
 
 #include "comun/consola.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 
 namespace efv::orden {
 
@@ -33,12 +35,15 @@ template <class T, std::size_t N>
 T Elegir(const char* opcion, const std::string& texto, const Palabras<T, N>& palabras)
 {
     std::string lista;
+    std::vector<std::string> nombres;
     for (const auto& [palabra, valor] : palabras) {
         if (texto == palabra)
             return valor;
         lista += fmt::format("{}{}", lista.empty() ? "" : ", ", palabra);
+        nombres.emplace_back(palabra);
     }
-    throw ErrorUso(fmt::format("{}: se esperaba una de {}, llegó «{}»", opcion, lista, texto));
+    throw ErrorUso(fmt::format("{}: se esperaba una de {}, llegó «{}»{}", opcion, lista, EnUnaLinea(texto),
+                               Parecidos(nombres, texto)));
 }
 
 /// @throws ErrorUso

@@ -14,6 +14,7 @@
 #include "comun/datos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 #include "lugares/busqueda.h"
 
 namespace efv::orden {
@@ -50,9 +51,14 @@ int LeerUso(const std::string& texto)
         if (PlegarTexto(CadenaDesdeUtf8(NombreUso(i))).find(csBuscado) != CString::npos)
             hallados.push_back(i);
     }
-    if (hallados.size() != 1)
-        throw ErrorUso(fmt::format("--uso: «{}» {} (los usos: efv he5 --help)", EnUnaLinea(texto),
-                                   hallados.empty() ? "no es ningún uso" : "puede ser más de uno"));
+    if (hallados.size() != 1) {
+        std::vector<std::string> nombres;
+        for (int i = 0; i < solar::kUsosHE5 && hallados.empty(); ++i)
+            nombres.push_back(NombreUso(i));
+        throw ErrorUso(fmt::format("--uso: «{}» {}{} (los usos: efv he5 --help)", EnUnaLinea(texto),
+                                   hallados.empty() ? "no es ningún uso" : "puede ser más de uno",
+                                   Parecidos(nombres, texto)));
+    }
     return hallados.front();
 }
 

@@ -16,6 +16,7 @@
 #include "comun/datos.h"
 #include "comun/linea_ordenes.h"
 #include "comun/numeros.h"
+#include "comun/parecidos.h"
 #include "energia/opciones.h"
 #include "lugares/busqueda.h"
 
@@ -180,8 +181,12 @@ public:
             return m_anadir.Ejecutar(salida);
         const std::string texto = fmt::format("{}", fmt::join(m_palabras, " "));
         const std::vector<Localidad> lugares = Buscar(CadenaDesdeUtf8(texto));
-        if (lugares.empty())
-            throw ErrorEjecucion(fmt::format("ningún lugar contiene «{}»", texto));
+        if (lugares.empty()) {
+            const std::vector<Localidad> todos = LeerLugares(m_datos);
+            throw ErrorEjecucion(
+                fmt::format("ningún lugar contiene «{}»{}", EnUnaLinea(texto),
+                            Parecidos(NombresParecidos(todos, CadenaDesdeUtf8(texto), kParecidos))));
+        }
         salida << (m_bJson ? ListaJson(lugares) : ListaTexto(lugares));
         return 0;
     }
