@@ -62,6 +62,12 @@ void ElTabuladorPasaPorTodos(QWidget& ventana, const std::string& nombre)
         }
 }
 
+bool SubeEnSuColumna(const QRect& antes, const QRect& ahora)
+{
+    const bool bMismaColumna = ahora.left() < antes.right() && antes.left() < ahora.right();
+    return bMismaColumna && ahora.bottom() < antes.top();
+}
+
 // What can be written in a form comes in the order in which they are read: a later one isn't above an earlier
 // one of the same column.
 void ElOrdenEsElDeLaLectura(const ui::Dialogo& dialogo, const QWidget& ventana)
@@ -73,10 +79,7 @@ void ElOrdenEsElDeLaLectura(const ui::Dialogo& dialogo, const QWidget& ventana)
             w->focusPolicy() == Qt::NoFocus)
             continue;
         if (anterior != nullptr && anterior->parentWidget() == w->parentWidget()) {
-            const QRect antes = anterior->geometry();
-            const QRect ahora = w->geometry();
-            const bool bMismaColumna = ahora.left() < antes.right() && antes.left() < ahora.right();
-            EXPECT_FALSE(bMismaColumna && ahora.bottom() < antes.top())
+            EXPECT_FALSE(SubeEnSuColumna(anterior->geometry(), w->geometry()))
                 << dialogo.clase << ": " << control->nombre << " after "
                 << anterior->objectName().toStdString();
         }
@@ -94,10 +97,8 @@ void ElTabuladorSigueLaVista(const QWidget& ventana, const std::string& nombre)
         if (anterior != nullptr && anterior->parentWidget() == w->parentWidget()) {
             const QRect antes = anterior->geometry();
             const QRect ahora = w->geometry();
-            const bool bMismaColumna = ahora.left() < antes.right() && antes.left() < ahora.right();
-            EXPECT_FALSE(bMismaColumna && ahora.bottom() < antes.top())
-                << nombre << ": " << w->objectName().toStdString() << " after "
-                << anterior->objectName().toStdString();
+            EXPECT_FALSE(SubeEnSuColumna(antes, ahora)) << nombre << ": " << w->objectName().toStdString()
+                                                        << " after " << anterior->objectName().toStdString();
             const bool bMismaLinea = ahora.top() < antes.bottom() && antes.top() < ahora.bottom();
             EXPECT_FALSE(bMismaLinea && ahora.right() < antes.left() && ahora.top() <= antes.top())
                 << nombre << ": " << w->objectName().toStdString() << " after "
