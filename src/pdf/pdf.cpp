@@ -309,10 +309,11 @@ std::string Escritor::Escribir(const report::Impreso& impreso)
     HPDF_Doc pdf = m_documento->Pdf();
     PonerDatos(pdf, impreso);
     std::vector<HPDF_Page> paginas;
-    for (std::size_t i = 0; i < impreso.hojas.size(); ++i) {
+    paginas.reserve(impreso.hojas.size());
+    for (const auto& hoja : impreso.hojas) {
         paginas.push_back(HPDF_AddPage(pdf));
-        HPDF_Page_SetWidth(paginas.back(), Real(impreso.hojas[i].dAncho));
-        HPDF_Page_SetHeight(paginas.back(), Real(impreso.hojas[i].dAlto));
+        HPDF_Page_SetWidth(paginas.back(), Real(hoja.dAncho));
+        HPDF_Page_SetHeight(paginas.back(), Real(hoja.dAlto));
     }
     m_documento->Comprobar();
     const std::vector<HPDF_Destination> destinos = PonerTitulares(pdf, impreso, paginas);

@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
+#include <QTimer>
 #include <QWidget>
 
 #include <quorvel/qt.h>
@@ -69,6 +70,8 @@ public:
     explicit GuardaDeAnchos(QHeaderView* cabecera) : QObject(cabecera), m_cabecera(*cabecera)
     {
         cabecera->viewport()->installEventFilter(this);
+        m_despues.setSingleShot(true);
+        connect(&m_despues, &QTimer::timeout, this, [this] { Guardar(); });
     }
 
     bool eventFilter(QObject* /*objeto*/, QEvent* evento) override
@@ -76,8 +79,7 @@ public:
         if (evento->type() == QEvent::MouseButtonPress || evento->type() == QEvent::MouseButtonDblClick)
             m_antes = Anchos(m_cabecera);
         else if (evento->type() == QEvent::MouseButtonRelease)
-            QMetaObject::invokeMethod(
-                this, [this] { Guardar(); }, Qt::QueuedConnection);
+            m_despues.start(0);
         return false;
     }
 
@@ -92,6 +94,7 @@ private:
 
     QHeaderView& m_cabecera;
     QList<int> m_antes;
+    QTimer m_despues;  // once the header has taken the release in
 };
 
 }  // namespace

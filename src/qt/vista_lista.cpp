@@ -150,9 +150,9 @@ private:
     }
     QHeaderView& Cabecera() const
     {
-        if (QTreeView* const arbol = Arbol())
-            return *arbol->header();
-        return *static_cast<QTableView*>(widget)->horizontalHeader();
+        if (m_lista.forma == ui::Lista::Forma::arbol)
+            return *static_cast<QTreeView&>(*widget).header();
+        return *static_cast<QTableView&>(*widget).horizontalHeader();
     }
 
     bool SeOrdena() const { return Arbol() == nullptr && m_lista.acsColumnas.size() > 1; }

@@ -1,6 +1,7 @@
 // Schematics on sheets: the title block, lettering, what happens to hostile texts, and the drawing as DXF.
 #include <quorvel/report/plano.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <sstream>

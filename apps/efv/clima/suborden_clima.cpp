@@ -269,12 +269,13 @@ private:
             redondeadas.push_back(std::round(d * 10.0) / 10.0);
             lista += fmt::format("{}{:.1f}", lista.empty() ? "" : " ", d);
         }
-        if (m_bJson)
+        if (m_bJson) {
             return Json{{"latitud_grados", punto.dLatitud},
                         {"longitud_grados", punto.dLongitud},
                         {"radiacion_kJ_m2_dia", *radiacion}}
                        .dump(2) +
                    '\n';
+        }
         return fmt::format(
             "Radiación horizontal media de {}, kJ/m²·día, enero primero (PVGIS)\n\n"
             "--lat {} --radiacion {}\n\nEn un fichero de proyecto:\n"

@@ -100,11 +100,12 @@ std::string Lote::Ruta(const std::string& opcion, const std::string& ruta, const
     std::string suya = ruta;
     if (const std::size_t i = suya.find(kHueco); i != std::string::npos)
         suya.replace(i, kHueco.size(), std::filesystem::path(fichero).stem().string());
-    if (Varios() && !m_rutas.insert(suya).second)
+    if (Varios() && !m_rutas.insert(suya).second) {
         throw ErrorUso(
             fmt::format("{}: «{}» sería de varios proyectos; {{}} en el nombre es el de cada uno, como "
                         "'informes/{{}}.pdf'",
                         opcion, EnUnaLinea(suya)));
+    }
     return suya;
 }
 

@@ -67,6 +67,7 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, const AperturaElementos
     };
     peticion.grafica = [apertura](const CModelo& modelo) -> std::optional<CCtrlCurva2D> {
         const M suyo = SinHeredar(static_cast<const M&>(modelo));
+        static_cast<void>(apertura);  // not every catalogue's orders have a chart
         if constexpr (requires { apertura.ordenes.grafica; }) {
             if (apertura.ordenes.grafica)
                 return apertura.ordenes.grafica(suyo);
