@@ -12,6 +12,7 @@
 #include <quorvel/report/cableado.h>
 #include <quorvel/report/documento.h>
 
+#include "comun/csv.h"
 #include "comun/numeros.h"
 
 namespace efv::orden {
@@ -106,15 +107,7 @@ std::string CeldaCsv(const Valor& valor)
         std::string operator()(bool b) const { return b ? "sí" : "no"; }
         std::string operator()(int i) const { return std::to_string(i); }
         std::string operator()(double d) const { return DecimalExacto(d); }
-        std::string operator()(const std::string& texto) const
-        {
-            std::string celda = "\"";
-            if (!texto.empty() && std::string_view("=+-@").find(texto.front()) != std::string_view::npos)
-                celda += '\'';
-            for (const char c : texto)
-                celda += c == '"' ? "\"\"" : std::string(1, c);
-            return celda + '"';
-        }
+        std::string operator()(const std::string& texto) const { return EntreComillasCsv(texto); }
     };
     return std::visit(Escritor{}, valor);
 }

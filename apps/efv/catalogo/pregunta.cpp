@@ -16,24 +16,17 @@ namespace {
 
 constexpr const char* kFamilia = "familia";
 
-// "Pmpm" of "dPmpm"; what has no capital stays.
-std::string SinClase(const std::string& nombre)
-{
-    const std::size_t iMayuscula = nombre.find_first_of("ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-    return iMayuscula == std::string::npos ? nombre : nombre.substr(iMayuscula);
-}
-
 [[noreturn]] void FallarPorCampo(const TipoCatalogo& tipo, const char* opcion, const std::string& nombre)
 {
     std::vector<NombreBuscable> nombres;
     for (const std::string& suNombre : NombresDeCampos(tipo)) {
         NombreBuscable& buscable = nombres.emplace_back();
         buscable.csNombre = CadenaDesdeUtf8(suNombre);
-        buscable.acsAlias.push_back(CadenaDesdeUtf8(SinClase(suNombre)));
+        buscable.acsAlias.emplace_back(SinClase(buscable.csNombre));
     }
     std::string parecidos = Parecidos(nombres, nombre);
     if (parecidos.empty())
-        parecidos = Parecidos(nombres, SinClase(nombre));
+        parecidos = Parecidos(nombres, CadenaUtf8(SinClase(CadenaDesdeUtf8(nombre))));
     throw ErrorUso(
         fmt::format("{}: el catálogo de {} no tiene ningún campo «{}»{} (todos: efv catalogo campos --tipo {})",
                     opcion, tipo.Nombre(), EnUnaLinea(nombre), parecidos, tipo.Nombre()));

@@ -9,6 +9,7 @@
 #include <quorvel/report/documento.h>
 
 #include "comun/consola.h"
+#include "comun/csv.h"
 #include "comun/numeros.h"
 
 namespace efv::orden {
@@ -63,7 +64,7 @@ void EscribirCsv(std::ostream& salida, const std::vector<Salida>& salidas)
         for (bool bPrimera = true; !csv.empty(); bPrimera = false) {
             const std::size_t fin = std::min(csv.find('\n'), csv.size() - 1) + 1;
             if (!bPrimera || bCabecera)
-                salida << (bPrimera ? "proyecto" : una.fichero) << ';' << csv.substr(0, fin);
+                salida << (bPrimera ? "proyecto" : TextoCsv(una.fichero)) << ';' << csv.substr(0, fin);
             csv.remove_prefix(fin);
         }
         bCabecera = false;

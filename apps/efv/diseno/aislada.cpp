@@ -11,6 +11,7 @@
 #include "comun/numeros.h"
 #include "comun/tabla_k.h"
 #include "diseno/cableado.h"
+#include "diseno/calculados.h"
 #include "diseno/diseno.h"
 #include "diseno/modelos.h"
 #include "diseno/proyecto.h"
@@ -113,8 +114,8 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
     proyecto.temperaturas = LeerTemperaturas(objeto);
     LeerCableado(objeto, report::kTramosAislada, true, proyecto.cableado);
     objeto.Terminar();
-    for (const char* campo : {"iAcumuladoresSerie", "dPotenciaMaxFV", "dKaAjustado", "dR"})
-        if (proyecto.fijados.contains(campo))
+    for (const std::string_view campo : kCalculadosAislada)
+        if (proyecto.fijados.contains(std::string(campo)))
             proyecto.notas.push_back(
                 fmt::format("«{}» se calcula siempre: el valor del fichero no cuenta.", campo));
     return proyecto;

@@ -11,6 +11,7 @@
 
 #include "comun/consola.h"
 #include "comun/entrada.h"
+#include "diseno/calculados.h"
 #include "diseno/salida.h"
 #include "proyecto/proyecto.h"
 
@@ -24,24 +25,10 @@ using estudio::CProyectoEstudio;
 constexpr std::size_t kProyectoMaximo = std::size_t{64} << 20;
 constexpr std::string_view kMarca = "EFV-PRY\x1A";
 
-// Fields of the records that a project can't fix: the design finds them by itself.
-constexpr auto kDelDiseno = std::to_array<std::string_view>({
-    "iAcumuladoresSerie",
-    "dPotenciaMaxFV",
-    "dKaAjustado",
-    "dR",
-    "iTipoSalida",
-});
-
-// A pipe is JSON: its beginning can't be looked at.
-bool EsDeEstudio(const std::string& ruta)
+template <std::size_t N>
+bool Contiene(const std::array<std::string_view, N>& nombres, std::string_view nombre)
 {
-    if (ruta == "-" || EsFlujo(ruta))
-        return false;
-    std::ifstream fichero(ruta, std::ios::binary);
-    std::array<char, kMarca.size()> comienzo{};
-    fichero.read(comienzo.data(), comienzo.size());
-    return fichero && std::string_view(comienzo.data(), comienzo.size()) == kMarca;
+    return std::ranges::find(nombres, nombre) != nombres.end();
 }
 
 std::unique_ptr<CProyectoEstudio> Abrir(std::string_view bytes)
@@ -61,8 +48,10 @@ void PonerRegistro(JsonEscrito& json, const CObject& registro, bool bSinListas)
 {
     const JsonEscrito valores = ValoresJson(CamposDeRegistro(registro));
     for (const auto& campo : valores.items()) {
-        const bool bDelDiseno = std::ranges::find(kDelDiseno, campo.key()) != kDelDiseno.end();
-        if (!bDelDiseno && !campo.value().is_null() && !(bSinListas && campo.value().is_array()))
+        const bool bCalculado = Contiene(kCalculadosAislada, campo.key()) ||
+                                Contiene(kCalculadosRed, campo.key()) ||
+                                Contiene(kCalculadosVenta, campo.key());
+        if (!bCalculado && !campo.value().is_null() && !(bSinListas && campo.value().is_array()))
             json[campo.key()] = campo.value();
     }
 }
@@ -98,11 +87,6 @@ void PonerVenta(JsonEscrito& json, const CProyectoEstudio& proyecto)
 {
     const CSFVCalculoEconomico& venta = proyecto.economia.venta;
     PonerRegistro(json, venta, true);
-    // Results of the study are made again.
-    for (const char* nombre : {"dImporteIDAE", "dImporteICO", "dCosteElegible", "dTotalPagar", "dCuotaAnual",
-                               "dEnergiaInstalacion", "dEnergiaResultante", "dPrimaVariable",
-                               "dRendimientoInicial", "dImporteSubvencion", "dTotalPrestamos", "dTIR"})
-        json.erase(nombre);
     json.erase(venta.iTipoCoste == 0 ? "dCosteInstalacion" : "dRepercusion");
     if (venta.iTipoPrima == 1) {
         json.erase("dPrimaFija");
@@ -124,7 +108,11 @@ JsonEscrito JsonDe(const CProyectoEstudio& proyecto, std::string_view tipo)
 {
     if (tipo == "autoconsumo") {
         ExigirDiseno(!proyecto.economia.csGuiado.empty(), "estudio guiado de autoconsumo");
-        return JsonEscrito::parse(CadenaUtf8(proyecto.economia.csGuiado));
+        try {
+            return JsonEscrito::parse(CadenaUtf8(proyecto.economia.csGuiado));
+        } catch (const JsonEscrito::exception&) {
+            throw std::runtime_error("su estudio guiado está dañado");
+        }
     }
     JsonEscrito json = {{"tipo", tipo}, {"titulo", CadenaUtf8(proyecto.csNombre)}};
     const estudio::PortadaProyecto& portada = proyecto.portada;
@@ -156,9 +144,19 @@ JsonEscrito JsonDe(const CProyectoEstudio& proyecto, std::string_view tipo)
 
 }  // namespace
 
+bool EsProyectoDeEstudio(const std::string& ruta)
+{
+    if (ruta == "-" || EsFlujo(ruta))
+        return false;
+    std::ifstream fichero(ruta, std::ios::binary);
+    std::array<char, kMarca.size()> comienzo{};
+    fichero.read(comienzo.data(), comienzo.size());
+    return fichero && std::string_view(comienzo.data(), comienzo.size()) == kMarca;
+}
+
 JsonLeido LeerFicheroProyecto(const std::string& ruta, std::string_view tipo)
 {
-    if (!EsDeEstudio(ruta))
+    if (!EsProyectoDeEstudio(ruta))
         return LeerFicheroJson(ruta);
     const std::string bytes = LeerEntrada(ruta, kProyectoMaximo);
     try {

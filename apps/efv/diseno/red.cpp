@@ -2,11 +2,14 @@
 #include <array>
 #include <utility>
 
+#include <fmt/format.h>
+
 #include <quorvel/report/informe.h>
 #include <quorvel/solar.h>
 
 #include "comun/tabla_k.h"
 #include "diseno/cableado.h"
+#include "diseno/calculados.h"
 #include "diseno/diseno.h"
 #include "diseno/modelos.h"
 #include "diseno/proyecto.h"
@@ -50,9 +53,10 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     proyecto.dRendimiento = LeerOpcional(objeto, "rendimiento", {0.01, 1});
     LeerCableado(objeto, report::kTramosRed, false, proyecto.cableado);
     objeto.Terminar();
-    if (proyecto.fijados.contains("iTipoSalida"))
-        proyecto.notas.emplace_back(
-            "«iTipoSalida» se toma siempre del inversor: el valor del fichero no cuenta.");
+    for (const std::string_view campo : kCalculadosRed)
+        if (proyecto.fijados.contains(std::string(campo)))
+            proyecto.notas.push_back(
+                fmt::format("«{}» se toma siempre del inversor: el valor del fichero no cuenta.", campo));
     if (proyecto.inversor->dPCANom <= 0.0)
         throw rpc::ErrorValor("csInversor: el modelo no tiene potencia nominal y no sirve para calcular");
     if (proyecto.panel->dPmpm <= 0.0 || proyecto.panel->dVmpm <= 0.0 || proyecto.panel->dVoc <= 0.0)

@@ -10,6 +10,7 @@
 
 #include "comun/numeros.h"
 #include "comun/tabla_k.h"
+#include "diseno/calculados.h"
 #include "diseno/diseno.h"
 #include "diseno/proyecto.h"
 #include "diseno/salida.h"
@@ -32,12 +33,6 @@ constexpr auto kRangos = std::to_array<RangoCampo>({
     {"dBonificacionICO", {0, 6000}},
 });
 
-// Results of the study: a saved one may bring them, and they are made again.
-constexpr auto kCalculados = std::to_array<std::string_view>(
-    {"dImporteIDAE", "dImporteICO", "dCosteElegible", "dTotalPagar", "dCuotaAnual", "dEnergiaInstalacion",
-     "dEnergiaResultante", "dPrimaVariable", "dRendimientoInicial", "dImporteSubvencion", "dTotalPrestamos",
-     "dTIR"});
-
 // A price or a cost that is given says which of the two ways counts, unless the file says it.
 void Elegir(ProyectoVenta& proyecto)
 {
@@ -56,7 +51,7 @@ void Elegir(ProyectoVenta& proyecto)
     sobra("dPrimaFija", e.iTipoPrima == 1);
     sobra("dPrimaVariableA", e.iTipoPrima == 0);
     sobra("dPrimaVariableB", e.iTipoPrima == 0);
-    for (const std::string_view nombre : kCalculados)
+    for (const std::string_view nombre : kCalculadosVenta)
         if (proyecto.fijados.contains(std::string(nombre)))
             proyecto.notas.push_back(
                 fmt::format("«{}» se calcula siempre: el valor del fichero no cuenta.", nombre));

@@ -169,13 +169,13 @@ private:
     {
         if (m_tipo && *m_tipo != "aislada" && *m_tipo != "red")
             throw ErrorUso(fmt::format("--tipo: se esperaba aislada o red, y no «{}»", *m_tipo));
-        try {
+        if (m_tipo || !EsProyectoDeEstudio(m_proyecto))
             return LeerFicheroProyecto(m_proyecto, m_tipo.value_or("red"));
+        try {
+            return LeerFicheroProyecto(m_proyecto, "red");
         } catch (const ErrorEjecucion&) {
-            if (m_tipo)
-                throw;
+            return LeerFicheroProyecto(m_proyecto, "aislada");
         }
-        return LeerFicheroProyecto(m_proyecto, "aislada");
     }
 
     // As the project says, else by what only one of the two has.

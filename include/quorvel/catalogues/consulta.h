@@ -20,6 +20,9 @@ inline constexpr auto kCampoFamilia = static_cast<std::size_t>(-1);
 /// differ in nothing else. Nothing when no field goes by that name.
 EFV_API std::optional<std::size_t> CampoLlamado(const TipoCatalogo& tipo, std::wstring_view nombre);
 
+/// A field's name without the letters that tell its kind: "Pmpm" of "dPmpm". What has no capital stays.
+EFV_API std::wstring_view SinClase(std::wstring_view nombre);
+
 /// A condition that can't be understood; what() says why, in Spanish.
 class EFV_API ErrorCondicion : public CException {
 public:

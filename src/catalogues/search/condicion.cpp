@@ -17,13 +17,6 @@ using texto::Plegar;
 
 namespace {
 
-// A field's name without the letters that tell its kind: "Pmpm" of "dPmpm".
-std::wstring_view SinPrefijo(std::wstring_view nombre)
-{
-    const std::size_t mayuscula = nombre.find_first_of(L"ABCDEFGHIJKLMNOPQRSTUVWXYZ");
-    return mayuscula == std::wstring_view::npos ? nombre : nombre.substr(mayuscula);
-}
-
 // A heading without its unit: "Vmpp máx." of "Vmpp máx. (V)".
 std::wstring_view SinUnidad(std::wstring_view columna)
 {
@@ -39,6 +32,12 @@ CString Comillas(std::wstring_view texto)
 }
 
 }  // namespace
+
+std::wstring_view SinClase(std::wstring_view nombre)
+{
+    const std::size_t mayuscula = nombre.find_first_of(L"ABCDEFGHIJKLMNOPQRSTUVWXYZ");
+    return mayuscula == std::wstring_view::npos ? nombre : nombre.substr(mayuscula);
+}
 
 std::optional<std::size_t> CampoLlamado(const TipoCatalogo& tipo, std::wstring_view nombre)
 {
@@ -58,7 +57,7 @@ std::optional<std::size_t> CampoLlamado(const TipoCatalogo& tipo, std::wstring_v
         return kCampoFamilia;
     const auto alguno = [&](const CampoCatalogo& c) {
         const CString csNombre = CadenaDesdeUtf8(c.nombre);
-        return Plegar(csNombre) == csPlegado || Plegar(SinPrefijo(csNombre)) == csPlegado ||
+        return Plegar(csNombre) == csPlegado || Plegar(SinClase(csNombre)) == csPlegado ||
                Plegar(SinUnidad(c.columna)) == csPlegado;
     };
     return buscar(alguno);

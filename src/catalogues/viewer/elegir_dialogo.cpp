@@ -113,12 +113,13 @@ CString SinUnidad(const ColumnaCatalogo& columna)
     return columna.Titulo().substr(0, columna.Titulo().find(L" ("));
 }
 
-// Thousands apart, as people read them.
+// Thousands apart from five digits on, by a blank that doesn't break.
 CString Miles(std::size_t n)
 {
     CString cs = std::to_wstring(n);
-    for (std::size_t i = cs.size(); i > 3; i -= 3)
-        cs.insert(i - 3, 1, L'.');
+    if (cs.size() > 4)
+        for (std::size_t i = cs.size(); i > 3; i -= 3)
+            cs.insert(i - 3, 1, L'\u00a0');
     return cs;
 }
 

@@ -11,6 +11,7 @@
 
 #include "apoyo.h"
 #include "comun/consola.h"
+#include "comun/csv.h"
 #include "comun/ficheros_memoria.h"
 #include "comun/memoria_escasa.h"
 #include "comun/mundo_de_prueba.h"
@@ -230,6 +231,14 @@ TEST(Salidas, UnaTuberiaSeEscribeYUnEnlaceSigueSiendolo)
     EXPECT_TRUE(std::filesystem::is_fifo(tubo));
     EXPECT_TRUE(std::filesystem::is_symlink(enlace));
     EXPECT_EQ(std::filesystem::file_size(carpeta.Ruta() / "final"), 13U);
+}
+
+TEST(Csv, UnTextoSeLeeComoSeEscribioYNoComoFormula)
+{
+    EXPECT_EQ(TextoCsv("casa.json"), "casa.json");
+    EXPECT_EQ(TextoCsv("a;b.json"), "\"a;b.json\"");
+    EXPECT_EQ(TextoCsv("la \"casa\""), "\"la \"\"casa\"\"\"");
+    EXPECT_EQ(TextoCsv("=1+1"), "\"'=1+1\"");
 }
 
 }  // namespace
