@@ -16,7 +16,7 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS ${PROJECT_BINARY_DIR}/lib)
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)
-# Texts of Qt itself in Spanish, letters to show and print, libcurl fetched at the first download: no program is linked
-# with them.
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-translations-l10n, fonts-dejavu-core, libcurl4 (>= 7.85)")
+# Texts of Qt itself in Spanish, letters to show and print, libcurl and libharu fetched at the first download and PDF: no
+# program is linked with them.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "qt6-translations-l10n, fonts-dejavu-core, libcurl4 (>= 7.85), libhpdf-2.3.0")
 include(CPack)

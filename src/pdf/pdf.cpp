@@ -6,12 +6,12 @@
 #include <stdexcept>
 
 #include <fmt/format.h>
-#include <hpdf.h>
 #include <hpdf_font.h>
-#include <hpdf_fontdef.h>
 
 #include <quorvel/framework/CString.h>
 #include <quorvel/reloj.h>
+
+#include "pdf/libhpdf.h"
 
 namespace efv::pdf {
 
@@ -59,13 +59,16 @@ std::string Motivo(HPDF_STATUS codigo)
 
 class Escritor::Documento {
 public:
-    explicit Documento(const Letras& letras) : m_pdf(HPDF_New(&Apuntar, this))
+    explicit Documento(const Letras& letras)
     {
+        if (!CargarHaru())
+            throw std::runtime_error("No se puede escribir el PDF: al sistema le falta la biblioteca libhpdf.");
+        m_pdf.reset(Haru().New(&Apuntar, this));
         if (m_pdf == nullptr)
             throw std::runtime_error("No se puede escribir el PDF: falta memoria.");
-        HPDF_SetCompressionMode(m_pdf.get(), HPDF_COMP_ALL);
-        HPDF_UseUTFEncodings(m_pdf.get());
-        HPDF_SetCurrentEncoder(m_pdf.get(), kCodificacion);
+        Haru().SetCompressionMode(m_pdf.get(), HPDF_COMP_ALL);
+        Haru().UseUTFEncodings(m_pdf.get());
+        Haru().SetCurrentEncoder(m_pdf.get(), kCodificacion);
         m_normal = Abrir(letras.normal);
         m_negrita = Abrir(letras.negrita);
         Comprobar();
@@ -92,7 +95,7 @@ public:
             [&](wchar_t c) {
                 constexpr wchar_t kUltima = L'\xFFFF';  // of those that the library writes
                 return c < 0 || c > kUltima ||
-                       HPDF_TTFontDef_GetGlyphid(fuente, static_cast<HPDF_UINT16>(c)) == 0;
+                       Haru().TTFontDef_GetGlyphid(fuente, static_cast<HPDF_UINT16>(c)) == 0;
             },
             kSinLetra);
         return CadenaUtf8(cs);
@@ -100,7 +103,7 @@ public:
 
 private:
     struct Cerrar {
-        void operator()(HPDF_Doc pdf) const { HPDF_Free(pdf); }
+        void operator()(HPDF_Doc pdf) const { Haru().Free(pdf); }
     };
 
     // Called by the library, whose C code no exception may cross.
@@ -115,8 +118,8 @@ private:
     {
         if (!std::filesystem::exists(ruta))
             throw std::runtime_error(fmt::format("No se puede escribir el PDF: falta la letra «{}».", ruta));
-        const char* nombre = HPDF_LoadTTFontFromFile(m_pdf.get(), ruta.c_str(), HPDF_TRUE);
-        HPDF_Font letra = nombre == nullptr ? nullptr : HPDF_GetFont(m_pdf.get(), nombre, kCodificacion);
+        const char* nombre = Haru().LoadTTFontFromFile(m_pdf.get(), ruta.c_str(), HPDF_TRUE);
+        HPDF_Font letra = nombre == nullptr ? nullptr : Haru().GetFont(m_pdf.get(), nombre, kCodificacion);
         if (letra == nullptr && m_codigo == HPDF_OK)
             m_codigo = HPDF_INVALID_FONTDEF_DATA;
         Comprobar();
@@ -143,51 +146,51 @@ public:
     void operator()(const report::hoja::Texto& texto) const
     {
         const Rgb c(texto.color);
-        HPDF_Page_SetRGBFill(m_pagina, c.r, c.g, c.b);
-        HPDF_Page_BeginText(m_pagina);
-        HPDF_Page_SetFontAndSize(m_pagina, m_documento.Letra(texto.bNegrita), Real(texto.dCuerpo));
+        Haru().Page_SetRGBFill(m_pagina, c.r, c.g, c.b);
+        Haru().Page_BeginText(m_pagina);
+        Haru().Page_SetFontAndSize(m_pagina, m_documento.Letra(texto.bNegrita), Real(texto.dCuerpo));
         const float x = Real(texto.base.x), y = Altura(texto.base.y);
         if (texto.bVertical)
-            HPDF_Page_SetTextMatrix(m_pagina, 0, 1, -1, 0, x, y);
+            Haru().Page_SetTextMatrix(m_pagina, 0, 1, -1, 0, x, y);
         else
-            HPDF_Page_SetTextMatrix(m_pagina, 1, 0, 0, 1, x, y);
-        HPDF_Page_ShowText(m_pagina, m_documento.Escribible(texto.cs, texto.bNegrita).c_str());
-        HPDF_Page_EndText(m_pagina);
+            Haru().Page_SetTextMatrix(m_pagina, 1, 0, 0, 1, x, y);
+        Haru().Page_ShowText(m_pagina, m_documento.Escribible(texto.cs, texto.bNegrita).c_str());
+        Haru().Page_EndText(m_pagina);
     }
     void operator()(const report::hoja::Forma& forma) const
     {
         if (forma.puntos.size() < 2)
             return;
         Preparar(forma.relleno, forma.borde, forma.dAncho, forma.adGuiones);
-        HPDF_Page_MoveTo(m_pagina, Real(forma.puntos[0].x), Altura(forma.puntos[0].y));
+        Haru().Page_MoveTo(m_pagina, Real(forma.puntos[0].x), Altura(forma.puntos[0].y));
         for (std::size_t i = 1; i < forma.puntos.size(); ++i)
-            HPDF_Page_LineTo(m_pagina, Real(forma.puntos[i].x), Altura(forma.puntos[i].y));
+            Haru().Page_LineTo(m_pagina, Real(forma.puntos[i].x), Altura(forma.puntos[i].y));
         if (forma.relleno)
-            HPDF_Page_ClosePath(m_pagina);
+            Haru().Page_ClosePath(m_pagina);
         Acabar(forma.relleno.has_value(), forma.borde.has_value());
     }
     void operator()(const report::hoja::Circulo& circulo) const
     {
         Preparar(circulo.relleno, circulo.borde, circulo.dAncho, {});
-        HPDF_Page_Circle(m_pagina, Real(circulo.centro.x), Altura(circulo.centro.y), Real(circulo.dRadio));
+        Haru().Page_Circle(m_pagina, Real(circulo.centro.x), Altura(circulo.centro.y), Real(circulo.dRadio));
         Acabar(circulo.relleno.has_value(), circulo.borde.has_value());
     }
     void operator()(const report::hoja::Recorte& recorte) const
     {
-        HPDF_Page_GSave(m_pagina);
-        HPDF_Page_Rectangle(m_pagina, Real(recorte.esquina.x), Altura(recorte.esquina.y + recorte.dAlto),
-                            Real(recorte.dAncho), Real(recorte.dAlto));
-        HPDF_Page_Clip(m_pagina);
-        HPDF_Page_EndPath(m_pagina);
+        Haru().Page_GSave(m_pagina);
+        Haru().Page_Rectangle(m_pagina, Real(recorte.esquina.x), Altura(recorte.esquina.y + recorte.dAlto),
+                              Real(recorte.dAncho), Real(recorte.dAlto));
+        Haru().Page_Clip(m_pagina);
+        Haru().Page_EndPath(m_pagina);
     }
-    void operator()(const report::hoja::FinRecorte& /*fin*/) const { HPDF_Page_GRestore(m_pagina); }
+    void operator()(const report::hoja::FinRecorte& /*fin*/) const { Haru().Page_GRestore(m_pagina); }
     void operator()(const report::hoja::Enlace& enlace) const
     {
         const HPDF_Rect zona{Real(enlace.esquina.x), Altura(enlace.esquina.y + enlace.dAlto),
                              Real(enlace.esquina.x + enlace.dAncho), Altura(enlace.esquina.y)};
-        HPDF_Annotation nota = HPDF_Page_CreateLinkAnnot(m_pagina, zona, m_destinos[enlace.nTitular]);
+        HPDF_Annotation nota = Haru().Page_CreateLinkAnnot(m_pagina, zona, m_destinos[enlace.nTitular]);
         if (nota != nullptr)
-            HPDF_LinkAnnot_SetBorderStyle(nota, 0, 0, 0);
+            Haru().LinkAnnot_SetBorderStyle(nota, 0, 0, 0);
     }
 
 private:
@@ -197,33 +200,33 @@ private:
     {
         if (relleno) {
             const Rgb c(*relleno);
-            HPDF_Page_SetRGBFill(m_pagina, c.r, c.g, c.b);
+            Haru().Page_SetRGBFill(m_pagina, c.r, c.g, c.b);
         }
         if (!borde)
             return;
         const Rgb c(*borde);
-        HPDF_Page_SetRGBStroke(m_pagina, c.r, c.g, c.b);
-        HPDF_Page_SetLineWidth(m_pagina, Real(dAncho));
-        HPDF_Page_SetLineJoin(m_pagina, HPDF_ROUND_JOIN);
+        Haru().Page_SetRGBStroke(m_pagina, c.r, c.g, c.b);
+        Haru().Page_SetLineWidth(m_pagina, Real(dAncho));
+        Haru().Page_SetLineJoin(m_pagina, HPDF_ROUND_JOIN);
         // Whole points, at most eight of them.
         std::vector<HPDF_UINT16> guiones;
         guiones.reserve(adGuiones.size());
         for (const double d : adGuiones)
             guiones.push_back(static_cast<HPDF_UINT16>(std::clamp(std::lround(d), 1L, 100L)));
         guiones.resize(std::min<std::size_t>(guiones.size(), 8));
-        HPDF_Page_SetDash(m_pagina, guiones.empty() ? nullptr : guiones.data(),
-                          static_cast<HPDF_UINT>(guiones.size()), 0);
+        Haru().Page_SetDash(m_pagina, guiones.empty() ? nullptr : guiones.data(),
+                            static_cast<HPDF_UINT>(guiones.size()), 0);
     }
     void Acabar(bool bRelleno, bool bBorde) const
     {
         if (bRelleno && bBorde)
-            HPDF_Page_FillStroke(m_pagina);
+            Haru().Page_FillStroke(m_pagina);
         else if (bRelleno)
-            HPDF_Page_Fill(m_pagina);
+            Haru().Page_Fill(m_pagina);
         else if (bBorde)
-            HPDF_Page_Stroke(m_pagina);
+            Haru().Page_Stroke(m_pagina);
         else
-            HPDF_Page_EndPath(m_pagina);
+            Haru().Page_EndPath(m_pagina);
     }
 
     const DOCUMENTO& m_documento;
@@ -241,17 +244,17 @@ std::string Corto(const std::string& utf8)
 
 void PonerDatos(HPDF_Doc pdf, const report::Impreso& impreso)
 {
-    HPDF_SetInfoAttr(pdf, HPDF_INFO_TITLE, Corto(impreso.titulo).c_str());
-    HPDF_SetInfoAttr(pdf, HPDF_INFO_CREATOR, "QuorvelEFV");
+    Haru().SetInfoAttr(pdf, HPDF_INFO_TITLE, Corto(impreso.titulo).c_str());
+    Haru().SetInfoAttr(pdf, HPDF_INFO_CREATOR, "QuorvelEFV");
     if (!impreso.autor.empty())
-        HPDF_SetInfoAttr(pdf, HPDF_INFO_AUTHOR, Corto(impreso.autor).c_str());
+        Haru().SetInfoAttr(pdf, HPDF_INFO_AUTHOR, Corto(impreso.autor).c_str());
     const auto ahora = LeerReloj();
     if (!ahora)
         return;
     const HPDF_Date fecha{
         ahora->iAno, ahora->iMes, ahora->iDia, ahora->iHora, ahora->iMinuto, ahora->iSegundo, ' ', 0, 0};
-    HPDF_SetInfoDateAttr(pdf, HPDF_INFO_CREATION_DATE, fecha);
-    HPDF_SetInfoDateAttr(pdf, HPDF_INFO_MOD_DATE, fecha);
+    Haru().SetInfoDateAttr(pdf, HPDF_INFO_CREATION_DATE, fecha);
+    Haru().SetInfoDateAttr(pdf, HPDF_INFO_MOD_DATE, fecha);
 }
 
 // Places of the headings, and the reader's list of them.
@@ -262,12 +265,12 @@ std::vector<HPDF_Destination> PonerTitulares(HPDF_Doc pdf, const report::Impreso
     std::vector<HPDF_Destination> destinos;
     destinos.reserve(impreso.titulares.size());
     for (const report::Titular& titular : impreso.titulares) {
-        HPDF_Destination destino = HPDF_Page_CreateDestination(paginas.at(titular.nHoja));
-        HPDF_Destination_SetXYZ(destino, 0, Real(impreso.hojas.at(titular.nHoja).dAlto - titular.y + kEncima),
-                                1);
+        HPDF_Destination destino = Haru().Page_CreateDestination(paginas.at(titular.nHoja));
+        Haru().Destination_SetXYZ(destino, 0, Real(impreso.hojas.at(titular.nHoja).dAlto - titular.y + kEncima),
+                                  1);
         HPDF_Outline linea =
-            HPDF_CreateOutline(pdf, nullptr, titular.texto.c_str(), HPDF_GetEncoder(pdf, kCodificacion));
-        HPDF_Outline_SetDestination(linea, destino);
+            Haru().CreateOutline(pdf, nullptr, titular.texto.c_str(), Haru().GetEncoder(pdf, kCodificacion));
+        Haru().Outline_SetDestination(linea, destino);
         destinos.push_back(destino);
     }
     return destinos;
@@ -275,12 +278,12 @@ std::vector<HPDF_Destination> PonerTitulares(HPDF_Doc pdf, const report::Impreso
 
 std::string Bytes(HPDF_Doc pdf)
 {
-    HPDF_SaveToStream(pdf);
-    std::string bytes(HPDF_GetStreamSize(pdf), '\0');
+    Haru().SaveToStream(pdf);
+    std::string bytes(Haru().GetStreamSize(pdf), '\0');
     std::size_t nLeidos = 0;
     while (nLeidos < bytes.size()) {
         auto n = static_cast<HPDF_UINT32>(bytes.size() - nLeidos);
-        HPDF_ReadFromStream(pdf, reinterpret_cast<HPDF_BYTE*>(bytes.data() + nLeidos), &n);
+        Haru().ReadFromStream(pdf, reinterpret_cast<HPDF_BYTE*>(bytes.data() + nLeidos), &n);
         if (n == 0)
             throw std::runtime_error("No se puede escribir el PDF: falta memoria.");
         nLeidos += n;
@@ -299,8 +302,8 @@ double Escritor::Ancho(std::wstring_view texto, double dCuerpo, bool bNegrita) c
     constexpr double kUnidades = 1000.0;
     const std::string utf8 = m_documento->Escribible(texto, bNegrita);
     const HPDF_TextWidth ancho =
-        HPDF_Font_TextWidth(m_documento->Letra(bNegrita), reinterpret_cast<const HPDF_BYTE*>(utf8.data()),
-                            static_cast<HPDF_UINT>(utf8.size()));
+        Haru().Font_TextWidth(m_documento->Letra(bNegrita), reinterpret_cast<const HPDF_BYTE*>(utf8.data()),
+                              static_cast<HPDF_UINT>(utf8.size()));
     return ancho.width * dCuerpo / kUnidades;
 }
 
@@ -311,9 +314,9 @@ std::string Escritor::Escribir(const report::Impreso& impreso)
     std::vector<HPDF_Page> paginas;
     paginas.reserve(impreso.hojas.size());
     for (const auto& hoja : impreso.hojas) {
-        paginas.push_back(HPDF_AddPage(pdf));
-        HPDF_Page_SetWidth(paginas.back(), Real(hoja.dAncho));
-        HPDF_Page_SetHeight(paginas.back(), Real(hoja.dAlto));
+        paginas.push_back(Haru().AddPage(pdf));
+        Haru().Page_SetWidth(paginas.back(), Real(hoja.dAncho));
+        Haru().Page_SetHeight(paginas.back(), Real(hoja.dAlto));
     }
     m_documento->Comprobar();
     const std::vector<HPDF_Destination> destinos = PonerTitulares(pdf, impreso, paginas);

@@ -1,30 +1,26 @@
 // libcurl's functions that the downloads use. Where EFV_LIBCURL names the library it is fetched from the system
-// at the first download: it and the libraries that it needs are more than half of the start of a program, and
-// most programs that use this library never ask the network.
+// at the first download; most programs that use this library never ask the network.
 #pragma once
 
 #include <curl/curl.h>
 
+/// Each of them, without "curl_".
+// clang-format off
+#define EFV_FUNCIONES_CURL(una) \
+    una(easy_cleanup) una(easy_getinfo) una(easy_init) una(easy_setopt) una(easy_strerror) \
+    una(global_init) una(multi_add_handle) una(multi_cleanup) una(multi_info_read) una(multi_init) \
+    una(multi_perform) una(multi_poll) una(multi_remove_handle) una(slist_append) una(slist_free_all) \
+    una(strnequal) una(version_info)
+// clang-format on
+
 namespace efv {
 
 struct FuncionesCurl {
-    decltype(&::curl_easy_cleanup) easy_cleanup = nullptr;
-    decltype(&::curl_easy_getinfo) easy_getinfo = nullptr;
-    decltype(&::curl_easy_init) easy_init = nullptr;
-    decltype(&::curl_easy_setopt) easy_setopt = nullptr;
-    decltype(&::curl_easy_strerror) easy_strerror = nullptr;
-    decltype(&::curl_global_init) global_init = nullptr;
-    decltype(&::curl_multi_add_handle) multi_add_handle = nullptr;
-    decltype(&::curl_multi_cleanup) multi_cleanup = nullptr;
-    decltype(&::curl_multi_info_read) multi_info_read = nullptr;
-    decltype(&::curl_multi_init) multi_init = nullptr;
-    decltype(&::curl_multi_perform) multi_perform = nullptr;
-    decltype(&::curl_multi_poll) multi_poll = nullptr;
-    decltype(&::curl_multi_remove_handle) multi_remove_handle = nullptr;
-    decltype(&::curl_slist_append) slist_append = nullptr;
-    decltype(&::curl_slist_free_all) slist_free_all = nullptr;
-    decltype(&::curl_strnequal) strnequal = nullptr;
-    decltype(&::curl_version_info) version_info = nullptr;
+#define EFV_MIEMBRO(nombre) decltype(&::curl_##nombre) nombre = nullptr;
+    EFV_FUNCIONES_CURL(EFV_MIEMBRO)
+#undef EFV_MIEMBRO
+
+    bool Tomar();  ///< whether all were found
 };
 
 /// @return false when the system has no libcurl, or one that lacks a function
