@@ -1,17 +1,35 @@
 #include "catalogues/format/clase_documento.h"
 
 #include <algorithm>
-#include <string>
+#include <cstddef>
+#include <string_view>
 #include <unordered_set>
+#include <vector>
 
 namespace efv::catalogues {
 
 namespace {
 
-using Nombres = std::unordered_set<std::string>;
+class Nombres {
+public:
+    // Most elements have the same ones in the same order.
+    void Anadir(const std::vector<std::string_view>& suyos)
+    {
+        for (std::size_t i = 0; i < suyos.size(); ++i) {
+            const bool bEnSuSitio = i < m_enOrden.size() && m_enOrden[i] == suyos[i];
+            if (!bEnSuSitio && m_todos.insert(suyos[i]).second)
+                m_enOrden.push_back(suyos[i]);
+        }
+    }
+    bool Tiene(std::string_view nombre) const { return m_todos.contains(nombre); }
+
+private:
+    std::vector<std::string_view> m_enOrden;
+    std::unordered_set<std::string_view> m_todos;
+};
 
 // Those of the first models, since one alone may lack many.
-Nombres NombresDeAtributos(const xml::DocumentoEditable& documento)
+Nombres NombresDeModelos(const xml::DocumentoEditable& documento)
 {
     constexpr int kModelos = 200;
     Nombres nombres;
@@ -21,8 +39,7 @@ Nombres NombresDeAtributos(const xml::DocumentoEditable& documento)
             for (const xml::NodoEditable modelo : documento.Hijos(familia, "Modelo")) {
                 if (iModelos++ == kModelos)
                     return nombres;
-                for (const auto& [csNombre, csValor] : documento.LeerAtributos(modelo))
-                    nombres.insert(CadenaUtf8(csNombre));
+                nombres.Anadir(documento.NombresDeAtributos(modelo));
             }
         }
     }
@@ -43,8 +60,8 @@ struct Parecido {
 Parecido ParecidoA(const TipoCatalogo& tipo, const Nombres& nombres)
 {
     const auto campos = tipo.Campos();
-    const auto n = std::ranges::count_if(
-        campos, [&](const CampoCatalogo& campo) { return nombres.contains(std::string(campo.nombre)); });
+    const auto n =
+        std::ranges::count_if(campos, [&](const CampoCatalogo& campo) { return nombres.Tiene(campo.nombre); });
     return {n, n == std::ssize(campos)};
 }
 
@@ -52,7 +69,7 @@ Parecido ParecidoA(const TipoCatalogo& tipo, const Nombres& nombres)
 
 const TipoCatalogo* TipoDeDocumento(const xml::DocumentoEditable& documento)
 {
-    const Nombres nombres = NombresDeAtributos(documento);
+    const Nombres nombres = NombresDeModelos(documento);
     const TipoCatalogo* mejor = nullptr;
     // A name alone is common to all.
     Parecido parecido{1, false};

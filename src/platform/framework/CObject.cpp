@@ -26,9 +26,6 @@ const std::vector<const CRuntimeClass*>& Clases()
     return Registro();
 }
 
-// A record that can't be exchanged by name stops the program as it starts, not at its first use.
-const bool kAlArrancar = !Clases().empty();
-
 const CRuntimeClass* Buscar(const std::vector<const CRuntimeClass*>& clases, std::string_view nombre)
 {
     const auto hallada =

@@ -212,6 +212,15 @@ DocumentoEditable::Atributos DocumentoEditable::LeerAtributos(NodoEditable eleme
     return atributos;
 }
 
+std::vector<std::string_view> DocumentoEditable::NombresDeAtributos(NodoEditable elemento) const
+{
+    const auto atributos = Nodo(elemento.m_nodo).attributes();
+    std::vector<std::string_view> nombres;
+    for (const pugi::xml_attribute a : atributos)
+        nombres.emplace_back(a.name());
+    return nombres;
+}
+
 void DocumentoEditable::PonerAtributos(NodoEditable elemento, const Atributos& atributos)
 {
     pugi::xml_node nodo = Nodo(elemento.m_nodo);

@@ -63,6 +63,8 @@ public:
     CString Atributo(NodoEditable elemento, std::string_view nombre) const;
 
     Atributos LeerAtributos(NodoEditable elemento) const;
+    /// Their names alone, UTF-8, as long as they aren't changed.
+    std::vector<std::string_view> NombresDeAtributos(NodoEditable elemento) const;
     /// Puts exactly these attributes in place of the element's. A character that no document may hold
     /// becomes U+FFFD.
     void PonerAtributos(NodoEditable elemento, const Atributos& atributos);
