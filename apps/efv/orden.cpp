@@ -4,6 +4,7 @@
 #include <array>
 #include <memory>
 #include <new>
+#include <span>
 #include <stdexcept>
 #include <string_view>
 
@@ -74,13 +75,16 @@ constexpr auto kOrdenes = std::to_array<OrdenConocida>({
     {"completar", &CrearSubordenCompletar, true},
 });
 
-/// The order that the arguments begin with, when it runs without the others being declared: most of the start
-/// of the command would be theirs.
-const OrdenConocida* OrdenSola(const std::vector<std::string>& argumentos)
+/// Those that are declared for the arguments: the order that they begin with, none for the version alone. Most
+/// of the start of the command would be the others'.
+std::span<const OrdenConocida> OrdenesPara(const std::vector<std::string>& argumentos)
 {
-    const auto orden = argumentos.empty() ? kOrdenes.end()
-                                          : std::ranges::find(kOrdenes, argumentos[0], &OrdenConocida::nombre);
-    return orden == kOrdenes.end() || orden->bVeTodas ? nullptr : &*orden;
+    const std::span todas(kOrdenes);
+    if (argumentos.size() == 1 && (argumentos[0] == "-V" || argumentos[0] == "--version"))
+        return {};
+    const auto orden =
+        argumentos.empty() ? todas.end() : std::ranges::find(todas, argumentos[0], &OrdenConocida::nombre);
+    return orden == todas.end() || orden->bVeTodas ? todas : std::span(orden, 1);
 }
 
 class LineaOrdenes {
@@ -94,12 +98,8 @@ public:
         m_raiz.footer(
             "Cada orden tiene su ayuda: efv ORDEN --help\n"
             "La variable de entorno EFV_AHORA (2028-02-01T12:00:00) sustituye al reloj.");
-        if (const OrdenConocida* sola = OrdenSola(argumentos)) {
-            Anadir(*sola);
-        } else {
-            for (const OrdenConocida& orden : kOrdenes)
-                Anadir(orden);
-        }
+        for (const OrdenConocida& orden : OrdenesPara(argumentos))
+            Anadir(orden);
         m_raiz.require_subcommand(0, 1);
     }
 

@@ -24,6 +24,7 @@
 namespace efv::pdf {
 
 struct FuncionesHaru {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): the name of a member
 #define EFV_MIEMBRO(nombre) decltype(&::HPDF_##nombre) nombre = nullptr;
     EFV_FUNCIONES_HARU(EFV_MIEMBRO)
 #undef EFV_MIEMBRO

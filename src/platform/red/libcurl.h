@@ -16,6 +16,7 @@
 namespace efv {
 
 struct FuncionesCurl {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): the name of a member
 #define EFV_MIEMBRO(nombre) decltype(&::curl_##nombre) nombre = nullptr;
     EFV_FUNCIONES_CURL(EFV_MIEMBRO)
 #undef EFV_MIEMBRO
