@@ -4,9 +4,11 @@
 #include <exception>
 #include <initializer_list>
 #include <iostream>
+#include <stdexcept>
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QFont>
 
 #include <QuorvelEFV.h>
 #include <quorvel/qt.h>
@@ -88,6 +90,18 @@ void AvisarDeAdoptadas(const std::vector<CString>& adoptadas)
                               efv::ui::Icono::informacion);
 }
 
+bool PonerLetra(const QString& puntos)
+{
+    bool bNumero = false;
+    const double dPuntos = QString(puntos).replace(',', '.').toDouble(&bNumero);
+    if (!bNumero || dPuntos < 6.0 || dPuntos > 40.0)
+        return false;
+    QFont letra = QApplication::font();
+    letra.setPointSizeF(dPuntos);
+    QApplication::setFont(letra);
+    return true;
+}
+
 int Ejecutar(QApplication& programa)
 {
     QCommandLineParser orden;
@@ -96,7 +110,8 @@ int Ejecutar(QApplication& programa)
     const QCommandLineOption version({"v", "version"}, "Muestra la versión.");
     const QCommandLineOption datos("datos", "Carpeta de catálogos y lugares.", "DIR");
     const QCommandLineOption capturas("capturas", "Escribe una imagen PNG de cada pantalla y termina.", "DIR");
-    orden.addOptions({ayuda, version, datos, capturas});
+    const QCommandLineOption letra("letra", "Tamaño de la letra, en puntos, de 6 a 40.", "PUNTOS");
+    orden.addOptions({ayuda, version, datos, capturas, letra});
     orden.addPositionalArgument("PROYECTO", "Proyecto que se abre (.efvp).", "[PROYECTO]");
     orden.process(programa);
     if (orden.isSet(ayuda)) {
@@ -107,6 +122,9 @@ int Ejecutar(QApplication& programa)
         std::cout << efv::CadenaUtf8(efv::Version()) << '\n';
         return EXIT_SUCCESS;
     }
+
+    if (orden.isSet(letra) && !PonerLetra(orden.value(letra)))
+        throw std::runtime_error("«--letra» quiere un número de 6 a 40.");
 
     efv::solar::PonerServicioPVGISDelEntorno();
     efv::qt::InstalarPresentadorQt();

@@ -45,6 +45,9 @@ EFV_QT_API QDialog* CrearVentana(ui::Dialogo& dialogo, QWidget* padre = nullptr)
 /// that end a dialog. Ownership as above.
 EFV_QT_API QWidget* CrearPanel(ui::Dialogo& dialogo, QWidget* padre = nullptr);
 
+/// Lets a panel's columns go below each other as far as that width asks for, and back again.
+EFV_QT_API void PlegarPanel(QWidget* panel, int iAncho);
+
 /// From now on dialogs open as large and where the person left them, by their class's names, with the columns
 /// of their lists as wide; null, as at the start: as they are made. `ajustes` belongs to the host, and may go
 /// first.

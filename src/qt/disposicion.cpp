@@ -42,8 +42,8 @@ bool EsTextoLargo(const Vista& vista)
 
 class Area {
 public:
-    Area(std::vector<GrupoDispuesto>& grupos, bool bHayEstirados)
-        : m_grupos(grupos), m_bHayEstirados(bHayEstirados)
+    Area(Disposicion& disposicion, bool bHayEstirados)
+        : m_disposicion(disposicion), m_bHayEstirados(bHayEstirados)
     {
     }
 
@@ -111,6 +111,7 @@ private:
     QLayout* PorFilas(QWidget* contenedor, const std::vector<Puesto>& puestos)
     {
         auto* rejilla = NuevaRejilla();
+        m_disposicion.pliegues.Anadir(*rejilla, kAnchoColumna);
         int iUltima = 0;
         for (const Puesto& puesto : puestos)
             iUltima = std::max(iUltima, puesto.iColumna);
@@ -142,6 +143,8 @@ private:
     {
         auto* fila = new QHBoxLayout;
         fila->setSpacing(kSeparacionColumnas);
+        if (banda.front().iColumna != banda.back().iColumna)
+            m_disposicion.pliegues.Anadir(*fila);
         const bool bEstira = std::ranges::any_of(banda, [&](const Puesto& p) { return Estira(p); });
         for (auto desde = banda.begin(); desde != banda.end();) {
             const auto hasta = std::find_if(desde, banda.end(),
@@ -241,10 +244,12 @@ private:
     }
 
     // What follows the first one keeps its caption, if it has one, on the same line.
-    static QLayout* EnLinea(QWidget* contenedor, const std::vector<Vista*>& vistas, bool bBotones)
+    QLayout* EnLinea(QWidget* contenedor, const std::vector<Vista*>& vistas, bool bBotones)
     {
         auto* linea = new QHBoxLayout;
         linea->setSpacing(6);
+        if (vistas.size() > 1)
+            m_disposicion.pliegues.Anadir(*linea);
         for (Vista* vista : vistas) {
             const bool bPrimera = vista == vistas.front();
             if (!bPrimera && !vista->control.csRotulo.empty() && !vista->RotulaPorSiMisma())
@@ -269,7 +274,7 @@ private:
     QWidget* Grupo(QWidget* contenedor, const Puesto& puesto)
     {
         auto* marco = new QGroupBox(SinMnemonico(puesto.grupo), contenedor);
-        m_grupos.push_back({marco, puesto.grupo, {puesto.vistas.begin(), puesto.vistas.end()}});
+        m_disposicion.grupos.push_back({marco, puesto.grupo, {puesto.vistas.begin(), puesto.vistas.end()}});
         for (Vista* vista : puesto.vistas)
             vista->widget->setParent(marco);
         std::vector<Puesto> puestos = Reunir(puesto.vistas, true);
@@ -279,17 +284,17 @@ private:
         return marco;
     }
 
-    std::vector<GrupoDispuesto>& m_grupos;
+    Disposicion& m_disposicion;
     bool m_bHayEstirados;
 };
 
-void DisponerArea(QWidget* contenedor, const std::vector<Vista*>& vistas, std::vector<GrupoDispuesto>& grupos)
+void DisponerArea(QWidget* contenedor, const std::vector<Vista*>& vistas, Disposicion& disposicion)
 {
     const bool bHayEstirados =
         std::ranges::any_of(vistas, [](const Vista* v) { return v->control.colocacion.bEstirar; });
     for (Vista* vista : vistas)
         vista->widget->setParent(contenedor);
-    Area(grupos, bHayEstirados).Disponer(contenedor, Reunir(vistas, false));
+    Area(disposicion, bHayEstirados).Disponer(contenedor, Reunir(vistas, false));
 }
 
 }  // namespace
@@ -326,15 +331,14 @@ void AnadirEnOrden(std::vector<Vista*>& orden, const std::vector<Vista*>& vistas
 
 }  // namespace
 
-std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas,
-                                     VistaPaginas* paginas)
+Disposicion Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas, VistaPaginas* paginas)
 {
-    std::vector<GrupoDispuesto> grupos;
+    Disposicion disposicion;
     const Reparto reparto = Repartir(vistas, paginas);
-    DisponerArea(contenedor, reparto.fuera, grupos);
+    DisponerArea(contenedor, reparto.fuera, disposicion);
     for (const auto& [iPagina, dentro] : reparto.porPagina)
-        DisponerArea(paginas->Pagina(iPagina), dentro, grupos);
-    return grupos;
+        DisponerArea(paginas->Pagina(iPagina), dentro, disposicion);
+    return disposicion;
 }
 
 std::vector<Vista*> EnOrdenDeLectura(const std::vector<Vista*>& vistas, VistaPaginas* paginas)

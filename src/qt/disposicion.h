@@ -6,6 +6,7 @@
 
 #include <QWidget>
 
+#include "qt/pliegues.h"
 #include "qt/vistas.h"
 
 QT_BEGIN_NAMESPACE
@@ -21,10 +22,14 @@ struct GrupoDispuesto {
     std::vector<const Vista*> vistas;
 };
 
+struct Disposicion {
+    std::vector<GrupoDispuesto> grupos;
+    Pliegues pliegues;
+};
+
 /// Lays the views out in `contenedor`, which has no layout yet, in their order. Labels are made here;
 /// `paginas`, if any, is one of the views.
-std::vector<GrupoDispuesto> Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas,
-                                     VistaPaginas* paginas);
+Disposicion Disponer(QWidget* contenedor, const std::vector<Vista*>& vistas, VistaPaginas* paginas);
 
 /// The same views as they are read once they stand there: a group as a whole, a line as a whole, a page behind
 /// the tabs.

@@ -183,6 +183,12 @@ QWidget* CrearPanel(ui::Dialogo& dialogo, QWidget* padre)
     return new VentanaDialogo(dialogo, VentanaDialogo::Marco::panel, padre);
 }
 
+void PlegarPanel(QWidget* panel, int iAncho)
+{
+    if (auto* propio = dynamic_cast<VentanaDialogo*>(panel))
+        propio->Plegar(iAncho);
+}
+
 void RefrescarVentana(QWidget* ventana)
 {
     if (auto* propia = dynamic_cast<VentanaDialogo*>(ventana))

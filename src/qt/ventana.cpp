@@ -14,7 +14,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScrollBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include <quorvel/qt.h>
@@ -59,11 +59,11 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     std::vector<Vista*> vistas;
     for (const auto& vista : m_vistas)
         vistas.push_back(vista.get());
-    auto* controles = new QWidget(this);
-    m_grupos = Disponer(controles, vistas, m_paginas);
-    controles->layout()->setContentsMargins(0, 0, 0, 0);
+    m_controles = new QWidget(this);
+    m_disposicion = Disponer(m_controles, vistas, m_paginas);
+    m_controles->layout()->setContentsMargins(0, 0, 0, 0);
     auto* pila = new QVBoxLayout(this);
-    pila->addWidget(controles, 1);
+    pila->addWidget(m_controles, 1);
     if (marco == Marco::ventana)
         CrearBotones(*pila);
     else
@@ -94,7 +94,7 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
             [this](QWidget* /*antes*/, QWidget* ahora) { AtenderFoco(ahora); });
     Refrescar();
     if (marco == Marco::ventana) {
-        DarTamano(*pila, controles);
+        DarTamano(*pila);
         RestaurarVentana(*this);
     }
     RecordarColumnas(*this);
@@ -160,12 +160,15 @@ void VentanaDialogo::CrearBotones(QVBoxLayout& pila)
     pila.addLayout(fila);
 }
 
-// Room for the controls and the title; on a screen too small for them the controls scroll.
-void VentanaDialogo::DarTamano(QVBoxLayout& pila, QWidget* controles)
+// Room for the controls and the title; on a screen too small for them they fold, and then scroll.
+void VentanaDialogo::DarTamano(QVBoxLayout& pila)
 {
     const QSize pantalla = screen()->availableSize();
     const QSize sitio(static_cast<int>(pantalla.width() * kParteDeAncho),
                       static_cast<int>(pantalla.height() * kParteDeAlto));
+    const int iBarra = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) + kMargenDeBarra;
+    const QMargins margenes = pila.contentsMargins();
+    Plegar(sitio.width() - margenes.left() - margenes.right() - iBarra);
     QSize pedido = sizeHint();
     const QSize necesario = minimumSizeHint();
     if (necesario.width() > sitio.width() || necesario.height() > sitio.height()) {
@@ -173,10 +176,10 @@ void VentanaDialogo::DarTamano(QVBoxLayout& pila, QWidget* controles)
         rollo->setFrameShape(QFrame::NoFrame);
         rollo->setWidgetResizable(true);
         rollo->setFocusPolicy(Qt::NoFocus);
-        delete pila.replaceWidget(controles, rollo);
-        controles->layout()->setContentsMargins(0, 0, kMargenDeBarra, 0);
-        rollo->setWidget(controles);
-        pedido += QSize(rollo->verticalScrollBar()->sizeHint().width() + kMargenDeBarra, 0);
+        delete pila.replaceWidget(m_controles, rollo);
+        m_controles->layout()->setContentsMargins(0, 0, kMargenDeBarra, 0);
+        rollo->setWidget(m_controles);
+        pedido += QSize(iBarra, 0);
     }
     const QSize minimo = m_dialogo.bMaximizable ? kTamanoMaximizable : kTamanoMinimo;
     const QSize titulo(fontMetrics().horizontalAdvance(windowTitle()) + kAdornosDeTitulo, 0);
@@ -194,7 +197,7 @@ void VentanaDialogo::Refrescar()
     setWindowTitle(AQt(m_dialogo.csTitulo));
     for (const auto& vista : m_vistas)
         vista->Refrescar();
-    for (const GrupoDispuesto& grupo : m_grupos) {
+    for (const GrupoDispuesto& grupo : m_disposicion.grupos) {
         grupo.marco->setTitle(SinMnemonico(m_dialogo.TituloDeGrupo(grupo.grupo)));
         grupo.marco->setVisible(
             std::ranges::any_of(grupo.vistas, [](const Vista* vista) { return vista->control.bVisible; }));

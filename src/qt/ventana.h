@@ -36,6 +36,9 @@ public:
     /// Puts the focus into that control once the action that runs is over.
     void PedirFoco(ui::Control& control) { m_focoPedido = &control; }
 
+    /// Lets its columns go below each other as far as that width asks for.
+    void Plegar(int iAncho) { m_disposicion.pliegues.Ajustar(*m_controles, iAncho); }
+
     ~VentanaDialogo() override;
 
 protected:
@@ -52,7 +55,7 @@ private:
 
     void CrearVistas();
     void CrearBotones(QVBoxLayout& pila);
-    void DarTamano(QVBoxLayout& pila, QWidget* controles);
+    void DarTamano(QVBoxLayout& pila);
 
     bool DejarConRetorno();
     bool UsarPropuesta();
@@ -69,7 +72,8 @@ private:
     ui::Dialogo& m_dialogo;
     Marco m_marco;
     std::vector<std::unique_ptr<Vista>> m_vistas;
-    std::vector<GrupoDispuesto> m_grupos;
+    Disposicion m_disposicion;
+    QWidget* m_controles = nullptr;
     VistaPaginas* m_paginas = nullptr;
     QPushButton* m_aceptar = nullptr;
     QPushButton* m_cancelar = nullptr;

@@ -5,10 +5,12 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
 #include <QScrollBar>
 #include <QTableView>
+#include <QToolTip>
 #include <QTreeView>
 
 #include <quorvel/ui/filas.h>
@@ -58,6 +60,21 @@ protected:
             alPedirCopia();
         else
             BASE::keyPressEvent(evento);
+    }
+    // What is cut off, whole.
+    bool viewportEvent(QEvent* evento) override
+    {
+        if (evento->type() != QEvent::ToolTip)
+            return BASE::viewportEvent(evento);
+        const auto* ayuda = static_cast<QHelpEvent*>(evento);
+        const QModelIndex celda = BASE::indexAt(ayuda->pos());
+        const bool bCortada =
+            celda.isValid() && BASE::sizeHintForIndex(celda).width() > BASE::visualRect(celda).width();
+        if (bCortada)
+            QToolTip::showText(ayuda->globalPos(), Indicacion(DeQt(celda.data().toString())), this);
+        else
+            QToolTip::hideText();
+        return true;
     }
     void contextMenuEvent(QContextMenuEvent* evento) override
     {
@@ -311,12 +328,16 @@ private:
         int iSobra = iTodo;
         for (const int iAncho : m_aiAnchos)
             iSobra -= iAncho;
+        // A long text beside a value gives way to it; the pointer over it shows the whole.
+        const auto iLarga = std::ranges::max_element(m_aiAnchos) - m_aiAnchos.begin();
+        const int iCede =
+            nColumnas == 2 ? std::clamp(-iSobra, 0, m_aiAnchos[static_cast<std::size_t>(iLarga)] / 2) : 0;
         m_aiPuestos.clear();
         for (int i = 0; i < nColumnas; ++i) {
             const int iParte = iSobra > 0 ? iSobra / nColumnas + (i < iSobra % nColumnas ? 1 : 0) : 0;
             const auto n = static_cast<std::size_t>(i);
-            Cabecera().resizeSection(
-                i, bPorPartes ? static_cast<int>(m_lista.adPartes[n] * iTodo) : m_aiAnchos[n] + iParte);
+            const int iAncho = m_aiAnchos[n] + iParte - (i == iLarga ? iCede : 0);
+            Cabecera().resizeSection(i, bPorPartes ? static_cast<int>(m_lista.adPartes[n] * iTodo) : iAncho);
             m_aiPuestos.push_back(Cabecera().sectionSize(i));
         }
     }

@@ -1,9 +1,11 @@
 // Room on the screen: what is small enough for it, and what is remembered of the windows.
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QFont>
 #include <QHeaderView>
 #include <QScreen>
+#include <QScrollBar>
 #include <QSettings>
 #include <QTableView>
 #include <QTemporaryDir>
@@ -27,6 +29,12 @@ void Cabe(const QWidget& ventana, const std::string& nombre)
         << nombre << ": " << minimo.width() << " x " << minimo.height();
     EXPECT_TRUE(ventana.size().boundedTo(kPantallaPequena) == ventana.size())
         << nombre << ": " << ventana.width() << " x " << ventana.height();
+    // Only a table scrolls sideways, by itself.
+    for (const auto* rollo : ventana.findChildren<QAbstractScrollArea*>()) {
+        const QScrollBar& barra = *rollo->horizontalScrollBar();
+        const bool bSobra = rollo->isVisible() && barra.isVisible() && barra.maximum() > 0;
+        EXPECT_TRUE(!bSobra || qobject_cast<const QAbstractItemView*>(rollo) != nullptr) << nombre;
+    }
 }
 
 // OK and Cancel are in sight however little there is to see of the rest.

@@ -7,6 +7,8 @@
 #include <QScrollBar>
 #include <QVBoxLayout>
 
+#include <quorvel/qt.h>
+
 namespace efv::estudio {
 
 namespace {
@@ -15,7 +17,7 @@ constexpr int kLineasALaVista = 7;  // at least
 
 }  // namespace
 
-Rollo::Rollo(QWidget* dentro, double dParte) : m_dParte(dParte)
+Rollo::Rollo(QWidget* dentro, double dParte) : m_dentro(dentro), m_dParte(dParte)
 {
     auto* marco = new QWidget;
     auto* pila = new QVBoxLayout(marco);
@@ -45,6 +47,13 @@ QSize Rollo::minimumSizeHint() const
 QSize Rollo::sizeHint() const
 {
     return widget()->sizeHint() + QSize(AnchoDeBarra(), 0);
+}
+
+void Rollo::resizeEvent(QResizeEvent* evento)
+{
+    const QMargins margenes = widget()->layout()->contentsMargins();
+    qt::PlegarPanel(m_dentro, width() - AnchoDeBarra() - margenes.left() - margenes.right());
+    QScrollArea::resizeEvent(evento);
 }
 
 // What is inside needs more room than it did, or less.

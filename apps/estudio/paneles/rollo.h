@@ -1,4 +1,4 @@
-// A part of the window that scrolls rather than make the window larger than the screen.
+// A part of the window that folds, and then scrolls, rather than make the window larger than the screen.
 #pragma once
 
 #include <QScrollArea>
@@ -15,10 +15,12 @@ public:
 
 protected:
     bool eventFilter(QObject* objeto, QEvent* evento) override;
+    void resizeEvent(QResizeEvent* evento) override;
 
 private:
     int AnchoDeBarra() const;
 
+    QWidget* m_dentro;
     double m_dParte;
 };
 
