@@ -67,11 +67,13 @@ void Pliegues::Ajustar(QWidget& contenedor, int iAncho)
     while (contenedor.minimumSizeHint().width() > iAncho) {
         Pliegue* ancho = nullptr;
         int iMayor = static_cast<int>(iAncho * kParteSospechosa);
-        for (Pliegue& pliegue : m_pliegues)
-            if (const int i = pliegue.Disposicion().minimumSize().width(); !pliegue.bPlegado && i > iMayor) {
+        for (Pliegue& pliegue : m_pliegues) {
+            const int i = pliegue.Disposicion().minimumSize().width();
+            if (!pliegue.bPlegado && i > iMayor) {
                 ancho = &pliegue;
                 iMayor = i;
             }
+        }
         if (ancho == nullptr)
             return;
         Poner(*ancho, true, contenedor);

@@ -3,6 +3,8 @@
 
 #include <vector>
 
+#include <QtCore/qglobal.h>
+
 QT_BEGIN_NAMESPACE
 class QBoxLayout;
 class QGridLayout;
