@@ -33,7 +33,7 @@ bool SonElMismo(const std::string& una, const std::string& otra)
     if (una == otra)
         return true;
     std::error_code error;
-    if (EsFlujo(una))
+    if (EsFlujo(una) || una.empty() || otra.empty())
         return false;
     if (fs::equivalent(una, otra, error))
         return true;

@@ -94,6 +94,10 @@ TEST(Consumo, LasEnergiasMensualesSeReparten)
     EXPECT_NEAR(json["energia_mes_Wh"][11].get<double>(), 120500, 1e-6);
     EXPECT_EQ(json["horas_Wh"][8], 0.0);
     EXPECT_GT(json["horas_Wh"][7].get<double>(), 0.0);
+    const CarpetaTemporal carpeta;
+    const Corrida dibujo =
+        Correr({"consumo", "mensual", "--p1", doce, "--svg", carpeta.Ruta().string() + "/m.svg"});
+    EXPECT_EQ(dibujo.iEstado, 0) << dibujo.errores;
     EsperarFallo({"mensual", "--p2", doce}, 2, "ninguna hora");
     EsperarFallo({"mensual", "--p1", "1 2 3"}, 2, "12 valores");
     EsperarFallo({"mensual", "--p1", doce, "--horas", "4"}, 2, "24 cifras");
