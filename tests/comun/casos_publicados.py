@@ -74,7 +74,12 @@ def pliego():
         filas = en_json("inclinacion", f"--lat={latitud}", "--inclinacion=90", "--panel=1")["filas"]
         caso(f"latitud {latitud}", k, filas["distancia_filas_m"], 0.0006)
 
-    fuente("El mismo, anexo II: pérdidas por 100·[1,2e-4 (β - φ + 10)² + 3,5e-5 α²] (%). Otra regla: aquí se suman"
+    fuente("«Pérdidas por sombras en una instalación solar», ejemplo 1 (scribd.com/document/78335487): obstáculo de 1,5 m a"
+           "\n43 grados de latitud; distancia, m", "efv inclinacion --lat 43 --inclinacion 90 --panel 1,5")
+    caso("distancia sin sombra", 4.6, en_json("inclinacion", "--lat=43", "--inclinacion=90", "--panel=1,5")["filas"][
+        "distancia_filas_m"], 0.05)
+
+    fuente("El pliego, anexo II: pérdidas por 100·[1,2e-4 (β - φ + 10)² + 3,5e-5 α²] (%). Otra regla: aquí se suman"
            "\nlas horas de un año de cielo despejado, cuyo óptimo es más inclinado",
            "efv inclinacion --lat 29 --inclinacion 40 --orientacion 15")
     for latitud, inclinacion, orientacion in ((29, 40, 15), (40.4, 45, 0), (40.4, 20, -45), (43, 30, 60)):
@@ -82,6 +87,29 @@ def pliego():
         plano = (f"--lat={latitud}", f"--inclinacion={inclinacion}", f"--orientacion={orientacion}")
         caso(f"latitud {latitud}, inclinación {inclinacion}, orientación {orientacion}", impresas,
              en_json("inclinacion", *plano)["meses"][-1]["perdidas_pct"], 4)
+
+
+def aislada():
+    def disenar(texto, vatios, **campos):
+        """A day of 10 hours, losses of the battery alone, flat panels under 3 kWh/m²·day."""
+        proyecto = json.dumps({
+            "latitud": 40, "radiacion": [10800] * 12, "csPanel": "ET Solar#ET-M660285WW", "csAcumulador": "TAB#4 TOPzS 353",
+            "receptores": [{"csModelo": "Lámpara interior 7 W", "dPotencia": vatios, "franjas": [["00:00", "10:00"]]}],
+            "dTensionSistema": 12, "dTensionMaxFV": 150, "dTensionMinFV": 10, "dCorrienteMaxFV": 60, "dInclinacion": 0,
+            "dPerdidaCableado": 0, "dPerdidaAcoplamiento": 0, **campos}, ensure_ascii=False)
+        fuente(texto, f"echo '{proyecto}' | efv aislada - --json")
+        return en_json("aislada", "-", entrada=proyecto)["valores"]
+
+    valores = disenar("«Electrificación de una vivienda rural» (tareasuniversitarias.com): 1500 Wh al día, 11 días, 12 V", 150,
+                      dDiasAutonomia=11, dProfundidadDescarga=100)
+    caso("capacidad, Ah", 1375, valores["dCapacidadNecesaria"], 0.5)
+
+    valores = disenar("«¿Cuántos paneles solares y baterías necesito?» (buentutorial.com): 1000 Wh al día, 3 kWh/m²·día,"
+                      "\npérdidas de 1,2; 2 días, 12 V, descarga del 50 %. La página divide la capacidad también por 0,8;"
+                      "\naquí ese rendimiento no dimensiona", 100,
+                      dDiasAutonomia=2, dProfundidadDescarga=50, dPerdidaAcumulador=16.6666666667)
+    caso("potencia de los paneles, Wp", 400, valores["dPotenciaMinima"], 0.5)
+    caso("capacidad, Ah, por 1/0,8", 416, valores["dCapacidadNecesaria"] / 0.8, 1)
 
 
 def codigo_tecnico():
@@ -140,6 +168,17 @@ def cables():
             caso(f"{metal.lower()}, {temperatura} ºC", impresa, propia, 0.05 * impresa)
 
 
+def tarifa():
+    fuente("CNMC, Circular 3/2020 (BOE de 24 de enero de 2020), artículo 7: períodos de 2.0TD en la península",
+           "efv tarifa --p1 0,3 --p2 0,2 --p3 0,1 --año 2025 --reloj --csv")
+    periodos = en_json("tarifa", "--p1=0,3", "--p2=0,2", "--p3=0,1", "--año=2025", "--reloj")["periodo"]
+    impresos = [3] * 8 + [2] * 2 + [1] * 4 + [2] * 4 + [1] * 4 + [2] * 2
+    for nombre, dia, horas in (("miércoles 12 de febrero de 2025", 42, impresos), ("sábado 15", 45, [3] * 24),
+                               ("viernes 15 de agosto, fiesta nacional", 226, [3] * 24)):
+        caso(nombre + ", horas en otro período", 0,
+             sum(a != b for a, b in zip(horas, periodos[24 * dia:24 * dia + 24])), 0)
+
+
 def dinero():
     venta = {"dEnergiaBase": 1000, "dPerformanceRatio": 100, "dEnvejecimiento": 0, "dVariacionCoste": 0,
              "dCosteMantenimiento": 0, "dTipoInteres": 0.1, "dAniosPrestamo": 1}
@@ -171,6 +210,6 @@ def dinero():
 
 
 print(f"{'':60} {'impreso':>12} {'propio':>14} {'diferencia':>12}")
-for parte in (sol, pliego, codigo_tecnico, cables, dinero):
+for parte in (sol, pliego, aislada, codigo_tecnico, cables, tarifa, dinero):
     parte()
 sys.exit(f"{fallos} casos fuera" if fallos else 0)
