@@ -101,6 +101,29 @@ TEST_F(Xml, ElOrdenDeLasPreguntasNoCambiaLasRespuestas)
     } while (std::ranges::next_permutation(orden).found);
 }
 
+// Names are compared by the word, longer ones than the words to their end.
+TEST_F(Xml, UnNombreEsElMismoDePrincipioAFin)
+{
+    const std::vector<std::string> nombres{"a",
+                                           "ab",
+                                           "dVoc123",
+                                           "dVoc1234",
+                                           "dVoc12345",
+                                           "quince_letras_1",
+                                           "dieciseis_letras",
+                                           "diecisiete_letras_a",
+                                           "diecisiete_letras_b"};
+    for (const std::string& leido : nombres) {
+        ASSERT_TRUE(Abrir("<R><A " + leido + "='7'/></R>"));
+        for (const std::string& pedido : nombres) {
+            int i = 0;
+            EXPECT_EQ(Atributos(Primero()).Leer(NombreAtributo(pedido.c_str()), i), leido == pedido)
+                << leido << ' ' << pedido;
+            EXPECT_EQ(i, leido == pedido ? 7 : 0);
+        }
+    }
+}
+
 TEST_F(Xml, LeeLasCodificacionesQueSeDeclaran)
 {
     ASSERT_TRUE(Abrir("<R><A n='ñ€'/></R>"));

@@ -20,14 +20,19 @@ namespace efv::catalogues {
 template <class M>
 class LectorCatalogo {
 public:
-    explicit LectorCatalogo(CObArrayPropio<CObject>& destino) : m_destino(destino)
+    LectorCatalogo(CObArrayPropio<CObject>& destino, CObArrayPropio<CObject>& anteriores)
+        : m_destino(destino), m_anteriores(anteriores)
     {
         static_assert(FormatoCatalogo<M>::kCampos.size() <= 64, "CModelo::uAusentes has a bit a field");
         Anular(m_retenido);
         FormatoCatalogo<M>::Preparar(m_retenido);
-        for (const auto& campo : FormatoCatalogo<M>::Campos())
+        const auto campos = FormatoCatalogo<M>::Campos();
+        m_nombres.reserve(campos.size());
+        for (const auto& campo : campos) {
+            m_nombres.emplace_back(campo.atributo);
             if (const auto* texto = std::get_if<CString M::*>(&campo.miembro))
                 m_textos.push_back(*texto);
+        }
     }
 
     /// False when the file would take more memory than a file may.
@@ -54,9 +59,25 @@ private:
             LeerModelo(hijo);
             if (!m_presupuesto.Gastar(sizeof(M) + BytesDeTextos()))
                 return false;
-            familia.AddModelo(std::make_unique<M>(m_retenido));
+            familia.AddModelo(NuevoModelo());
         }
         return true;
+    }
+
+    // The held one's copy. A model of the former load has its memory already, that of its texts included.
+    std::unique_ptr<M> NuevoModelo()
+    {
+        while (!m_anteriores.IsEmpty()) {
+            auto& modelos = static_cast<Familia&>(m_anteriores[m_anteriores.GetSize() - 1]).aModelos;
+            if (modelos.IsEmpty()) {
+                m_anteriores.RemoveLast();
+                continue;
+            }
+            std::unique_ptr<M> modelo = modelos.RemoveLast();
+            *modelo = m_retenido;
+            return modelo;
+        }
+        return std::make_unique<M>(m_retenido);
     }
 
     void LeerModelo(xml::Nodo nodo)
@@ -64,11 +85,13 @@ private:
         FormatoCatalogo<M>::AntesDeModelo(m_retenido);
         xml::Atributos atributos(nodo);
         std::uint64_t uAusentes = 0, uMarca = 1;
+        auto nombre = m_nombres.begin();
         for (const auto& campo : FormatoCatalogo<M>::Campos()) {
             AlMiembro(m_retenido, campo, [&](auto& valor) {
-                if (!Leer(atributos, campo.atributo, valor))
+                if (!Leer(atributos, *nombre, valor))
                     uAusentes |= uMarca;
             });
+            ++nombre;
             uMarca <<= 1U;
         }
         m_retenido.uAusentes = uAusentes;
@@ -76,12 +99,12 @@ private:
     }
 
     template <class T>
-    static bool Leer(xml::Atributos& atributos, const char* nombre, T& valor)
+    static bool Leer(xml::Atributos& atributos, const xml::NombreAtributo& nombre, T& valor)
     {
         return atributos.Leer(nombre, valor);
     }
     // Kept to the low 16 bits of the integer.
-    static bool Leer(xml::Atributos& atributos, const char* nombre, short& n)
+    static bool Leer(xml::Atributos& atributos, const xml::NombreAtributo& nombre, short& n)
     {
         int i = n;
         const bool bHay = atributos.Leer(nombre, i);
@@ -99,9 +122,10 @@ private:
         return bytes;
     }
 
-    CObArrayPropio<CObject>& m_destino;
+    CObArrayPropio<CObject>&m_destino, &m_anteriores;
     PresupuestoLectura m_presupuesto;
     M m_retenido;
+    std::vector<xml::NombreAtributo> m_nombres;  // of the fields
     std::vector<CString M::*> m_textos;
 };
 

@@ -20,6 +20,9 @@ namespace {
 // One byte more tells a file that is too large, also one that grows while it is read.
 constexpr std::size_t kTrozo = std::size_t{64} * 1024;
 
+// For what a reader puts behind the bytes.
+constexpr std::size_t kSitioDetras = 64;
+
 }  // namespace
 
 int LeerTodo(SistemaFicheros& sistema, int iFichero, std::size_t maximo, std::string& bytes)
@@ -29,6 +32,7 @@ int LeerTodo(SistemaFicheros& sistema, int iFichero, std::size_t maximo, std::st
         return iError;
     if (datos.uTamano > maximo)
         return -EFBIG;
+    bytes.reserve(datos.uTamano + 1 + kSitioDetras);
     bytes.resize(datos.uTamano + 1);
     std::size_t nLeidos = 0;
     for (;;) {

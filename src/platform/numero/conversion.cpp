@@ -69,9 +69,17 @@ constexpr bool EsExponente(C c)
     return c == C('e') || c == C('E');
 }
 
-// Without `fin` the text ends at its zero, which is no part of a number.
-template <class C, class MARCA>
-Sencillo<C> LeerSencillo(const C* p, const C* fin, MARCA esMarca)
+// Where a text ends that has a zero behind it: the zero is no part of a number.
+struct EnSuCero {
+    template <class C>
+    friend constexpr bool operator!=(const C*, EnSuCero)
+    {
+        return true;
+    }
+};
+
+template <class C, class FIN, class MARCA>
+Sencillo<C> LeerSencillo(const C* p, FIN fin, MARCA esMarca)
 {
     const bool negativo = p != fin && *p == C('-');
     p += negativo ? 1 : 0;
@@ -96,6 +104,22 @@ Sencillo<C> LeerSencillo(const C* p, const C* fin, MARCA esMarca)
         return {0.0, nullptr};
     const double d = static_cast<double>(cifras) / kPotencias[static_cast<std::size_t>(nDecimales)];
     return {negativo ? -d : d, p};
+}
+
+template <class FIN>
+int LeerEnteroHasta(const char* p, FIN fin)
+{
+    while (p != fin && EsBlanco(*p))
+        ++p;
+    const bool negativo = p != fin && *p == '-';
+    if (negativo || (p != fin && *p == '+'))
+        ++p;
+    long long n = 0;
+    for (; p != fin && EsCifra(*p); ++p)
+        n = std::min<long long>(n * 10 + (*p - '0'), 1LL << 40);  // far beyond int, still far from overflow
+    n = negativo ? -n : n;
+    return static_cast<int>(
+        std::clamp<long long>(n, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
 // What a well-formed number too large or too small for a double reads as: infinite or 0. The wider
@@ -150,7 +174,7 @@ double LeerDoble(std::string_view texto)
 
 double LeerDoble(const char* texto)
 {
-    if (const auto sencillo = LeerSencillo<char>(texto, nullptr, kEsPunto); sencillo.fin)
+    if (const auto sencillo = LeerSencillo<char>(texto, EnSuCero{}, kEsPunto); sencillo.fin)
         return sencillo.d;
     return LeerPrefijo(SinBlancosDelante(texto)).d;
 }
@@ -162,19 +186,12 @@ double LeerDoble(std::wstring_view texto)
 
 int LeerEntero(std::string_view texto)
 {
-    texto = SinBlancosDelante(texto);
-    const bool negativo = texto.starts_with('-');
-    if (negativo || texto.starts_with('+'))
-        texto.remove_prefix(1);
-    long long n = 0;
-    for (char c : texto) {
-        if (!EsCifra(c))
-            break;
-        n = std::min<long long>(n * 10 + (c - '0'), 1LL << 40);  // far beyond int, still far from overflow
-    }
-    n = negativo ? -n : n;
-    return static_cast<int>(
-        std::clamp<long long>(n, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    return LeerEnteroHasta(texto.data(), texto.data() + texto.size());
+}
+
+int LeerEntero(const char* texto)
+{
+    return LeerEnteroHasta(texto, EnSuCero{});
 }
 
 int Entero(double d)

@@ -20,6 +20,7 @@ bool LeerExacto(std::string_view texto, double& d);
 
 /// The whole number at the start of `texto`; 0 when there is none. Saturates at the limits of int.
 int LeerEntero(std::string_view texto);
+int LeerEntero(const char* texto);  ///< up to its zero
 
 /// `d` without its fraction; saturates at the limits of int, not-a-number gives 0.
 int Entero(double d);

@@ -9,6 +9,7 @@
 
 #include <pugixml.hpp>
 
+#include "platform/texto/palabra.h"
 #include "platform/xml/atributos.h"
 #include "platform/xml/codificacion.h"
 
@@ -47,7 +48,7 @@ bool TieneUnaRaiz(const pugi::xml_document& arbol)
 }  // namespace
 
 struct Documento::Interior {
-    std::string bytes;  // the parser works in place: names and values point into it
+    std::string bytes;  // with room; the parser works in place: names and values point into it
     pugi::xml_document arbol;
 };
 
@@ -59,8 +60,10 @@ Documento::Documento(std::optional<std::string> utf8)
         return;
     auto interior = std::make_unique<Interior>();
     interior->bytes = std::move(*utf8);
+    const std::size_t nBytes = interior->bytes.size();
+    interior->bytes.resize(nBytes + texto::kHolgura);
     const pugi::xml_parse_result resultado = interior->arbol.load_buffer_inplace(
-        interior->bytes.data(), interior->bytes.size(), pugi::parse_default, pugi::encoding_utf8);
+        interior->bytes.data(), nBytes, pugi::parse_default, pugi::encoding_utf8);
     if (resultado.status == pugi::status_out_of_memory)
         throw std::bad_alloc();
     if (resultado && TieneUnaRaiz(interior->arbol))
