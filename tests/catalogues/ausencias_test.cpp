@@ -46,6 +46,50 @@ TEST(Ausencias, DeCadaModeloSeSabeQueAtributoLeFaltaYDeQuienEsSuValor)
     }
 }
 
+// A load uses the objects of the one before again; nothing of what they held stays.
+TEST(Ausencias, UnaCargaSobreOtraDaLoQueUnaSola)
+{
+    const pruebas::CarpetaTemporal carpeta;
+    const auto familias = [](std::vector<int> anModelos, const char* atributos) {
+        std::string texto = "<Q><TablaFamilias>";
+        for (std::size_t f = 0; f < anModelos.size(); ++f) {
+            texto += "<Familia nombre='Familia " + std::to_string(f) + "'>";
+            for (int m = 0; m < anModelos[f]; ++m)
+                texto += "<Modelo csModelo='" + std::string(static_cast<std::size_t>(3 * m), 'x') + "' " +
+                         atributos + "/>";
+            texto += "</Familia>";
+        }
+        return texto + "</TablaFamilias></Q>";
+    };
+    const CString csLlena = carpeta.Escribir(
+        "llena.xml",
+        familias({0, 3, 9}, "dVoc='7' nColor='7' csCodPrecio='un precio muy largo que no cabe' iNs='7'"));
+    const CString csOtra = carpeta.Escribir("otra.xml", familias({5, 0, 1, 12}, "dIsc='3'"));
+    const TipoCatalogo& modulos = *BuscarTipoCatalogo("modulos");
+    const auto base = modulos.CrearBase(), sola = modulos.CrearBase();
+    ASSERT_NE(sola->Cargar(csOtra), 0);
+    for (const CString& csAntes : {csLlena, csOtra}) {
+        ASSERT_NE(base->Cargar(csAntes), 0);
+        for (const CModelo* modelo : modulos.Modelos(*base)) {
+            const_cast<CModelo*>(modelo)->hItem = reinterpret_cast<HTREEITEM>(base.get());
+            const_cast<CModelo*>(modelo)->bPropio = true;
+        }
+        ASSERT_NE(base->Cargar(csOtra), 0);
+        const auto leidos = modulos.Modelos(*base), esperados = modulos.Modelos(*sola);
+        ASSERT_EQ(leidos.size(), esperados.size());
+        for (std::size_t m = 0; m < leidos.size(); ++m) {
+            for (std::size_t i = 0; i < modulos.Campos().size(); ++i)
+                EXPECT_EQ(modulos.Valor(*leidos[m], i), modulos.Valor(*esperados[m], i)) << m << ' ' << i;
+            EXPECT_EQ(leidos[m]->csFamilia, esperados[m]->csFamilia);
+            EXPECT_EQ(leidos[m]->uAusentes, esperados[m]->uAusentes);
+            EXPECT_EQ(leidos[m]->hItem, nullptr);
+            EXPECT_FALSE(leidos[m]->bPropio);
+        }
+    }
+    EXPECT_EQ(base->Cargar(L"/no/hay.xml"), 0);
+    EXPECT_TRUE(base->EstaVacia());
+}
+
 TEST(Ausencias, UnCeroQueDiceQueNoSeSabeNoEsUnValor)
 {
     const TipoCatalogo& inversores = *BuscarTipoCatalogo("inversores");

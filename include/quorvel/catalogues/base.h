@@ -114,6 +114,7 @@ public:
     CString csSeleccion;  ///< identification that goes into the viewer and comes out of it
 
     const CRuntimeClass& GetRuntimeClass() const override;
+    int Cargar(const CString& csPath) override;
     void Vaciar() override;
     int LeerArchivo(const CString& csPath) override;
 
@@ -143,6 +144,9 @@ private:
 
     Hallado Buscar(const CString& csId) const;
     void Indexar() const;
+
+    // While a load goes on: those that it takes the place of, whose models are used again.
+    CObArrayPropio<CObject> m_anteriores;
 
     // First model of each name; the keys are the models' own names.
     mutable std::unordered_map<std::wstring_view, Hallado> m_indice;

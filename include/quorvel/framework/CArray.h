@@ -112,6 +112,14 @@ public:
         m_objetos.erase(m_objetos.begin() + i);
     }
     void RemoveAll() { m_objetos.clear(); }
+    /// The last object, which is the caller's from now on.
+    std::unique_ptr<TYPE> RemoveLast()
+    {
+        efv::ComprobarIndice(0, m_objetos.size());
+        std::unique_ptr<TYPE> objeto = std::move(m_objetos.back());
+        m_objetos.pop_back();
+        return objeto;
+    }
 
     /// The objects at the two places exchange them.
     void Swap(std::ptrdiff_t i, std::ptrdiff_t k)

@@ -98,6 +98,17 @@ const CRuntimeClass& CBaseCatalogo<M>::GetRuntimeClass() const
 }
 
 template <class M>
+int CBaseCatalogo<M>::Cargar(const CString& csPath)
+{
+    m_anteriores = std::exchange(aFamilias, {});
+    struct Fin {
+        CObArrayPropio<CObject>& anteriores;
+        ~Fin() { anteriores.RemoveAll(); }
+    } const fin{m_anteriores};
+    return CBaseXML::Cargar(csPath);
+}
+
+template <class M>
 void CBaseCatalogo<M>::Vaciar()
 {
     m_indice.clear();
@@ -108,12 +119,13 @@ void CBaseCatalogo<M>::Vaciar()
 namespace efv::catalogues {
 
 /// The document's families and models into the empty catalogue. @return 0 when it isn't to be read
+/// @param anteriores a former load's, whose models are used again
 template <class M>
-int LeerDocumento(const xml::Documento& documento, CBaseCatalogo<M>& base)
+int LeerDocumento(const xml::Documento& documento, CBaseCatalogo<M>& base, CObArrayPropio<CObject>& anteriores)
 {
     if (!documento)
         return 0;
-    LectorCatalogo<M> lector(base.aFamilias);
+    LectorCatalogo<M> lector(base.aFamilias, anteriores);
     for (xml::Nodo nodo : documento.Superiores()) {
         if (xml::SeLlama(nodo, "TablaFamilias") && !lector.LeerTabla(nodo)) {
             base.Vaciar();
@@ -130,11 +142,12 @@ int CBaseCatalogo<M>::LeerArchivo(const CString& csPath)
 {
     using namespace efv::catalogues;
     if (!HayCapaPropia(csPath))
-        return LeerDocumento(efv::xml::Documento(csPath), *this);
+        return LeerDocumento(efv::xml::Documento(csPath), *this, m_anteriores);
     const auto vigente = AbrirSuperpuesto(csPath);
     if (!vigente)
         return 0;
-    const int iLeido = LeerDocumento(efv::xml::Documento::DeTexto(vigente->documento.Texto()), *this);
+    const int iLeido =
+        LeerDocumento(efv::xml::Documento::DeTexto(vigente->documento.Texto()), *this, m_anteriores);
     for (const auto& objeto : aFamilias) {
         const auto& familia = static_cast<const Familia&>(*objeto);
         for (const auto& modelo : familia.aModelos)
