@@ -1,5 +1,6 @@
 #include "proyecto/aceptacion.h"
 
+#include <cstdint>
 #include <stdexcept>
 #include <string_view>
 #include <type_traits>
@@ -110,6 +111,34 @@ CString ModeloGuardado::Nombre() const
         if (const auto* cs = std::get_if<CString>(&campo.valor); cs != nullptr && campo.csNombre == kNombre)
             return *cs;
     return {};
+}
+
+ModeloGuardado Guardado(const TipoCatalogo& tipo, const CModelo& modelo)
+{
+    ModeloGuardado guardado{CadenaDesdeUtf8(std::string(tipo.Nombre())), modelo.csFamilia, {}};
+    const auto campos = tipo.Campos();
+    guardado.campos.reserve(campos.size());
+    for (std::size_t i = 0; i < campos.size(); ++i)
+        guardado.campos.push_back({CadenaDesdeUtf8(std::string(campos[i].nombre)), tipo.Valor(modelo, i),
+                                   (modelo.uAusentes & campos[i].uMarca) != 0 ? 1 : 0});
+    return guardado;
+}
+
+std::unique_ptr<CModelo> ModeloDe(const TipoCatalogo& tipo, const ModeloGuardado& guardado)
+{
+    auto modelo = tipo.CrearModelo();
+    modelo->csFamilia = guardado.csFamilia;
+    std::uint64_t uAusentes = 0;
+    PorCampos(tipo, guardado,
+              [&](std::size_t i, const CampoCatalogo& campo, const ModeloGuardado::Campo& suyo) {
+                  // A field may have become one of another kind since.
+                  if (tipo.Valor(*modelo, i).index() == suyo.valor.index())
+                      tipo.Poner(*modelo, i, suyo.valor);
+                  if (suyo.bAusente != 0)
+                      uAusentes |= campo.uMarca;
+              });
+    modelo->uAusentes = uAusentes;
+    return modelo;
 }
 
 template <class DISENO>

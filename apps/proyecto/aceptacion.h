@@ -1,11 +1,15 @@
 // What a design was accepted with: place, record and the data of its models.
 #pragma once
 
+#include <algorithm>
 #include <array>
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include <QuorvelEFV.h>
+
+#include <quorvel/tipos_catalogo.h>
 
 namespace efv::estudio {
 
@@ -25,6 +29,22 @@ struct ModeloGuardado {
     /// Its name alone.
     CString Nombre() const;
 };
+
+ModeloGuardado Guardado(const TipoCatalogo& tipo, const CModelo& modelo);
+/// A model of the kind with the data kept.
+std::unique_ptr<CModelo> ModeloDe(const TipoCatalogo& tipo, const ModeloGuardado& guardado);
+
+/// Runs it with the index, the field and what is kept of it. Fields that either side lacks are left alone.
+template <class ACCION>
+void PorCampos(const TipoCatalogo& tipo, const ModeloGuardado& guardado, const ACCION& accion)
+{
+    const auto campos = tipo.Campos();
+    for (const ModeloGuardado::Campo& suyo : guardado.campos) {
+        const auto campo = std::ranges::find(campos, CadenaUtf8(suyo.csNombre), &CampoCatalogo::nombre);
+        if (campo != campos.end())
+            accion(static_cast<std::size_t>(campo - campos.begin()), *campo, suyo);
+    }
+}
 
 /// Of the place, what designs depend on.
 struct LugarAceptado {

@@ -16,8 +16,8 @@ namespace {
 // Shows nothing: what the library says goes into the command's own error.
 class PresentadorPrestado {
 public:
-    PresentadorPrestado() { ui::InstalarPresentador(&m_presentador); }
-    ~PresentadorPrestado() { ui::InstalarPresentador(nullptr); }
+    PresentadorPrestado() : m_antes(ui::PresentadorActual()) { ui::InstalarPresentador(&m_presentador); }
+    ~PresentadorPrestado() { ui::InstalarPresentador(&m_antes); }
     PresentadorPrestado(const PresentadorPrestado&) = delete;
     PresentadorPrestado& operator=(const PresentadorPrestado&) = delete;
 
@@ -28,6 +28,7 @@ public:
     }
 
 private:
+    ui::Presentador& m_antes;
     ui::PresentadorGuionizado m_presentador;
 };
 

@@ -7,8 +7,8 @@
 #include <quorvel/framework/CException.h>
 
 #include "comun/consola.h"
-#include "comun/entrada.h"
 #include "comun/numeros.h"
+#include "diseno/proyecto_estudio.h"
 #include "diseno/receptores.h"
 #include "rpc/errores.h"
 #include "rpc/valores.h"
@@ -18,7 +18,6 @@ namespace efv::orden {
 namespace {
 
 constexpr wchar_t kSeparador = L';';
-constexpr std::size_t kMaximoJson = std::size_t{64} << 20;
 constexpr double kWhPorKWh = 1000.0;
 
 const PatronConsumo& Patron(int iPatron)
@@ -195,16 +194,15 @@ AnoConsumo AnoDeMeses(const EnergiasMensuales& datos)
 
 AnoConsumo AnoDeListaDeReceptores(const std::string& ruta, const std::string& csDatos)
 {
-    const std::string bytes = LeerEntrada(ruta, kMaximoJson);
+    const JsonLeido json = LeerFicheroProyecto(ruta, "consumo");
     AnoConsumo ano;
     ano.origen = fmt::format("Receptores: {}", ruta);
     try {
-        const JsonLeido json = AnalizarJson(bytes);
         const bool bProyecto = json.is_object() && json.contains("receptores");
         const JsonLeido& lista = bProyecto ? json["receptores"] : json;
         if (!lista.is_array())
             throw rpc::ErrorValor("no es una lista JSON de receptores, ni un proyecto que la tenga");
-        ano.receptores = LeerReceptores(lista, CatalogoDatos("receptores", csDatos), Modelo::opcional);
+        ano.receptores = LeerReceptores(lista, CatalogoDatos("receptores", csDatos, ModelosDelProyecto(json)));
     } catch (const rpc::ErrorValor& error) {
         throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
     }

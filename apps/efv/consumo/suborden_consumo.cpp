@@ -159,13 +159,14 @@ private:
         CLI::App& orden = Orden(linea, "receptores", "Los receptores de una lista, con sus franjas de uso",
                                 &SubordenConsumo::Receptores);
         orden
-            .add_option("FICHERO", m_palabra,
-                        "Lista JSON de receptores, o un proyecto de «efv aislada» que los tenga")
+            .add_option(
+                "FICHERO", m_palabra,
+                "Lista JSON de receptores, o un proyecto de «efv aislada» o de efv-estudio que los tenga")
             ->option_text(" ");
         orden.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         orden.footer(
             "Los receptores se escriben como en «efv aislada --help»: csModelo, iCantidad, franjas, horario o\n"
-            "dHorario. Aquí basta dPotencia (W) en lugar del modelo, y bNoCalcular deja uno fuera.\n"
+            "dHorario; aquí bNoCalcular deja uno fuera.\n"
             "Ejemplo:\n  efv consumo receptores casa-aislada.json --svg casa.svg");
     }
 

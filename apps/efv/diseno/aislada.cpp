@@ -54,17 +54,37 @@ constexpr std::array kTensiones = {12.0, 24.0, 36.0, 48.0, 60.0, 72.0};
 struct Catalogos {
     CatalogoDatos acumuladores, modulos, receptores;
 
-    explicit Catalogos(const std::string& csDatos)
-        : acumuladores("acumuladores", csDatos), modulos("modulos", csDatos), receptores("receptores", csDatos)
+    Catalogos(const std::string& csDatos, const std::vector<estudio::ModeloGuardado>& propios)
+        : acumuladores("acumuladores", csDatos, propios),
+          modulos("modulos", csDatos, propios),
+          receptores("receptores", csDatos, propios)
     {
     }
 };
 
+// Its own figures are all that is known of a load that no catalogue has.
+void AnotarSinModelo(ProyectoAislada& proyecto, const CSFVDataReceptor& receptor)
+{
+    proyecto.notas.push_back(
+        fmt::format("{}: no está en el catálogo de receptores; se calcula con lo que dice el proyecto, {} de "
+                    "corriente {}.",
+                    CadenaUtf8(receptor.csModelo), report::Con(receptor.dPotencia, 1, "W"),
+                    receptor.iTipoRed == 0 ? "continua" : "alterna"));
+}
+
 // The record keeps model, units and bands of a load, and the sizing minds nothing else.
 void AnotarCargas(ProyectoAislada& proyecto, const CatalogoDatos& catalogo)
 {
+    int iReceptor = 0;
     for (const auto& receptor : proyecto.receptores) {
+        ++iReceptor;
+        if (receptor->csModelo.empty())
+            receptor->csModelo = CadenaDesdeUtf8(fmt::format("Receptor {}", iReceptor));
         const std::string id = CadenaUtf8(receptor->csModelo);
+        if (!catalogo.Tiene(id)) {
+            AnotarSinModelo(proyecto, *receptor);
+            continue;
+        }
         const auto& modelo = dynamic_cast<const CBaseReceptorModelo&>(catalogo.Buscar(id));
         if (std::string carencias = report::CarenciasDe(modelo); !carencias.empty())
             proyecto.notas.push_back(std::move(carencias));
@@ -98,6 +118,7 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
     Objeto objeto(j);
     ProyectoAislada proyecto;
     LeerCabecera(objeto, "aislada", proyecto.titulo);
+    objeto.Buscar("modelos");  // read before, for the catalogues
     proyecto.portada = LeerPortada(objeto);
     proyecto.lugar = LeerLugar(objeto, csDatos, true);
     proyecto.planos = LeerPlanos(objeto);
@@ -141,7 +162,8 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
         rpc::NombrarLugar([] { return "iMesCalculo"; },
                           [&] { j["iMesCalculo"] = LeerMes(j["iMesCalculo"], kMesDesfavorable); });
     CargarTablaK(csDatos);
-    const Catalogos catalogos(csDatos);
+    std::vector<estudio::ModeloGuardado> modelos = ModelosDelProyecto(j);
+    const Catalogos catalogos(csDatos, modelos);
     ProyectoAislada proyecto = LeerProyecto(j, catalogos, csDatos);
     report::EstudioAislada estudio = report::Calcular(proyecto, phGetBaseFactorK());
     const std::vector<report::Aviso> avisos = report::Avisos(proyecto, estudio);
@@ -166,6 +188,8 @@ Diseno DisenarAislada(const JsonLeido& proyectoJson, const std::string& csDatos)
     assistants::DevolverAlRegistro(estudio.v, proyecto.registro);
     assistants::GuardarReceptores(proyecto.receptores, proyecto.registro);
     diseno.archivo = Archivar(proyecto.registro);
+    diseno.receptores = std::move(proyecto.receptores);
+    diseno.modelos = std::move(modelos);
     return diseno;
 }
 

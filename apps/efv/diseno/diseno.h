@@ -12,6 +12,7 @@
 #include <quorvel/report/plano.h>
 
 #include "diseno/lectura.h"
+#include "proyecto/aceptacion.h"
 
 namespace efv::orden {
 
@@ -22,7 +23,9 @@ struct Diseno {
     std::string csv;                        ///< what --csv writes, of those that have it
     std::vector<report::Esquema> esquemas;  ///< its schematic in the forms that sheets of paper may have
     report::Cajetin cajetin;
-    bool bCumple = true;  ///< no check fails and nothing falls short
+    CObArrayPropio<CSFVDataReceptor> receptores;   ///< of a stand-alone one, as the project gives them
+    std::vector<estudio::ModeloGuardado> modelos;  ///< that the project brings, loads among them
+    bool bCumple = true;                           ///< no check fails and nothing falls short
 };
 
 /// A stand-alone installation. As in the assistant, a forced recalculation first; then the values that the

@@ -16,8 +16,6 @@ namespace efv::orden {
 
 namespace {
 
-constexpr std::size_t kFicheroMaximo = std::size_t{1} << 20;
-
 std::string Cita(const std::string& nombre)
 {
     return EnUnaLinea(nombre.substr(0, rpc::kCitaMaxima));
@@ -78,7 +76,11 @@ JsonLeido AnalizarJson(std::string_view bytes)
 
 JsonLeido LeerFicheroJson(const std::string& ruta)
 {
-    const std::string bytes = LeerEntrada(ruta, kFicheroMaximo);
+    return JsonDelFichero(ruta, LeerEntrada(ruta, kJsonMaximo));
+}
+
+JsonLeido JsonDelFichero(const std::string& ruta, std::string_view bytes)
+{
     try {
         return AnalizarJson(bytes);
     } catch (const rpc::ErrorValor& error) {

@@ -2,6 +2,7 @@
 // names its place.
 #pragma once
 
+#include <cstddef>
 #include <set>
 #include <string>
 #include <string_view>
@@ -16,8 +17,13 @@ namespace efv::orden {
 
 using JsonLeido = rpc::Json;
 
-/// The document of a file of at most 1 MiB. @throws ErrorEjecucion
+/// Largest project file, bytes.
+inline constexpr std::size_t kJsonMaximo = std::size_t{1} << 20U;
+
+/// The document of a file up to that. @throws ErrorEjecucion
 JsonLeido LeerFicheroJson(const std::string& ruta);
+/// The same of its bytes, already read.
+JsonLeido JsonDelFichero(const std::string& ruta, std::string_view bytes);
 /// The document of these bytes. @throws rpc::ErrorValor with line and column; of a member that is there
 /// twice, with its name
 JsonLeido AnalizarJson(std::string_view bytes);

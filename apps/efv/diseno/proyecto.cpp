@@ -10,6 +10,7 @@
 #include <quorvel/registros.h>
 #include <quorvel/solar.h>
 
+#include "comun/consola.h"
 #include "comun/numeros.h"
 #include "comun/parecidos.h"
 #include "lugares/busqueda.h"
@@ -110,7 +111,13 @@ report::LugarDiseno LeerLugar(Objeto& proyecto, const std::string& csDatos, bool
         if (latitud != nullptr || hemisferio != nullptr || radiacion != nullptr)
             throw rpc::ErrorValor("«lugar» ya da latitud, hemisferio y radiación: sobran los demás");
         rpc::NombrarLugar([] { return "lugar"; },
-                          [&] { lugar.localidad = BuscarLugar(LeerTexto(*nombre), csDatos); });
+                          [&] {
+                              try {
+                                  lugar.localidad = BuscarLugar(LeerTexto(*nombre), csDatos);
+                              } catch (const ErrorEjecucion& error) {
+                                  throw rpc::ErrorValor(error.what());
+                              }
+                          });
         lugar.dLatitud = lugar.localidad->dLatitud;
         lugar.bNorte = lugar.dLatitud >= 0.0;
         lugar.adRadiacion = lugar.localidad->adRadHorizontal;

@@ -2,16 +2,17 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
 #include <memory>
 #include <span>
 #include <stdexcept>
+#include <utility>
 
 #include <fmt/format.h>
 
 #include "comun/consola.h"
 #include "comun/entrada.h"
 #include "diseno/calculados.h"
+#include "diseno/modelos.h"
 #include "diseno/salida.h"
 #include "proyecto/proyecto.h"
 
@@ -56,6 +57,27 @@ void PonerRegistro(JsonEscrito& json, const CObject& registro, bool bSinListas)
     }
 }
 
+bool TieneDiseno(const CProyectoEstudio& proyecto, std::string_view tipo)
+{
+    if (tipo == "red")
+        return !proyecto.red.csPanel.empty() && !proyecto.red.csInversor.empty();
+    return !proyecto.aislada.csPanel.empty() && !proyecto.aislada.csAcumulador.empty();
+}
+
+// Those of its designs, for who lacks them.
+void PonerModelos(JsonEscrito& json, const CProyectoEstudio& proyecto)
+{
+    const auto poner = [&](const auto& aceptada) {
+        if (!aceptada)
+            return;
+        for (const estudio::ModeloGuardado& modelo : aceptada->modelos)
+            if (JsonEscrito suyo = ModeloJson(modelo); !suyo.is_null())
+                json["modelos"].push_back(std::move(suyo));
+    };
+    poner(proyecto.aceptadaAislada);
+    poner(proyecto.aceptadaRed);
+}
+
 void PonerLugar(JsonEscrito& json, const CProyectoEstudio& proyecto)
 {
     json["nombreLugar"] = CadenaUtf8(proyecto.lugar.csNombre);
@@ -94,11 +116,15 @@ void PonerVenta(JsonEscrito& json, const CProyectoEstudio& proyecto)
         json.erase("dPrimaVariableA");
         json.erase("dPrimaVariableB");
     }
-    // Without an energy of its own the sale takes that of the place and the plane.
-    if (!(venta.dEnergiaBase > 0.0)) {
-        json.erase("dEnergiaBase");
+    const bool bEnergia = venta.dEnergiaBase > 0.0;
+    // An energy of its own stands without a place, whose months it then has not.
+    if (!bEnergia || std::ranges::any_of(proyecto.lugar.adRadHorizontal, [](double d) { return d > 0.0; })) {
         PonerLugar(json, proyecto);
         json["dInclinacion"] = proyecto.red.dInclinacion;
+    }
+    // Without one the sale takes that of the place and the plane.
+    if (!bEnergia) {
+        json.erase("dEnergiaBase");
         if (!(venta.dPotenciaGenerador > 0.0))
             json["dPotenciaGenerador"] = proyecto.red.dPotenciaObjetivo * 1000.0;
     }
@@ -113,6 +139,13 @@ JsonEscrito JsonDe(const CProyectoEstudio& proyecto, std::string_view tipo)
         } catch (const JsonEscrito::exception&) {
             throw std::runtime_error("su estudio guiado está dañado");
         }
+    }
+    if (tipo == "consumo") {
+        JsonEscrito json = {{"receptores", JsonEscrito::array()}};
+        for (const auto& receptor : proyecto.consumo.lReceptores)
+            json["receptores"].push_back(ValoresJson(CamposDeRegistro(std::as_const(*receptor))));
+        PonerModelos(json, proyecto);
+        return json;
     }
     JsonEscrito json = {{"tipo", tipo}, {"titulo", CadenaUtf8(proyecto.csNombre)}};
     const estudio::PortadaProyecto& portada = proyecto.portada;
@@ -129,38 +162,34 @@ JsonEscrito JsonDe(const CProyectoEstudio& proyecto, std::string_view tipo)
         return json;
     }
     if (tipo == "red") {
-        ExigirDiseno(!proyecto.red.csPanel.empty() && !proyecto.red.csInversor.empty(),
-                     "instalación conectada a red");
+        ExigirDiseno(TieneDiseno(proyecto, tipo), "instalación conectada a red");
         PonerRegistro(json, proyecto.red, false);
     } else {
-        ExigirDiseno(!proyecto.aislada.csPanel.empty() && !proyecto.aislada.csAcumulador.empty(),
-                     "instalación aislada");
+        ExigirDiseno(TieneDiseno(proyecto, tipo), "instalación aislada");
         PonerRegistro(json, proyecto.aislada, false);
     }
     PonerLugar(json, proyecto);
     PonerCampo(json, proyecto);
+    PonerModelos(json, proyecto);
     return json;
 }
 
 }  // namespace
 
-bool EsProyectoDeEstudio(const std::string& ruta)
+JsonLeido LeerFicheroProyecto(const std::string& ruta, std::string_view tipo, std::string_view otro)
 {
-    if (ruta == "-" || EsFlujo(ruta))
-        return false;
-    std::ifstream fichero(ruta, std::ios::binary);
-    std::array<char, kMarca.size()> comienzo{};
-    fichero.read(comienzo.data(), comienzo.size());
-    return fichero && std::string_view(comienzo.data(), comienzo.size()) == kMarca;
-}
-
-JsonLeido LeerFicheroProyecto(const std::string& ruta, std::string_view tipo)
-{
-    if (!EsProyectoDeEstudio(ruta))
-        return LeerFicheroJson(ruta);
     const std::string bytes = LeerEntrada(ruta, kProyectoMaximo);
+    if (!bytes.starts_with(kMarca)) {
+        // Hours of use of many loads are long.
+        if (bytes.size() > kJsonMaximo && tipo != "consumo")
+            throw ErrorEjecucion(
+                fmt::format("no se puede leer «{}»: pasa de {} MiB", ruta, kJsonMaximo >> 20U));
+        return JsonDelFichero(ruta, bytes);
+    }
     try {
-        return JsonLeido::parse(JsonDe(*Abrir(bytes), tipo).dump());
+        const auto proyecto = Abrir(bytes);
+        return JsonLeido::parse(
+            JsonDe(*proyecto, otro.empty() || TieneDiseno(*proyecto, tipo) ? tipo : otro).dump());
     } catch (const std::runtime_error& error) {
         throw ErrorEjecucion(fmt::format("«{}»: {}", ruta, error.what()));
     }

@@ -8,13 +8,10 @@
 
 namespace efv::orden {
 
-/// Whether a file begins as a project of the desktop program does, which may have several designs. A pipe is
-/// JSON: its beginning can't be looked at.
-bool EsProyectoDeEstudio(const std::string& ruta);
-
 /// The project of a file: its JSON, or what a project of the desktop program says of a design of that kind in
-/// the same form. @param tipo "aislada", "red", "venta", "autoconsumo"
+/// the same form, with the models that it keeps. @param tipo "aislada", "red", "venta", "autoconsumo", or
+/// "consumo" for its loads @param otro what is taken of a project that has no `tipo`; empty: nothing
 /// @throws ErrorEjecucion also when the program's project has no such design
-JsonLeido LeerFicheroProyecto(const std::string& ruta, std::string_view tipo);
+JsonLeido LeerFicheroProyecto(const std::string& ruta, std::string_view tipo, std::string_view otro = {});
 
 }  // namespace efv::orden

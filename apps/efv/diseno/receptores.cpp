@@ -177,10 +177,11 @@ void TomarModelo(CSFVDataReceptor& receptor, const CModelo& modelo)
     receptor.iReservadoB = 1;
 }
 
-// A load with its power may have no model that the catalogue knows, where nothing but power and bands count.
-void LeerModelo(Objeto& objeto, CSFVDataReceptor& receptor, const CatalogoDatos& catalogo, Modelo modelo)
+// A load with its power may have no model that the catalogue knows: power, supply and bands are all that
+// counts.
+void LeerModelo(Objeto& objeto, CSFVDataReceptor& receptor, const CatalogoDatos& catalogo)
 {
-    const bool bSinModelo = modelo == Modelo::opcional && objeto.Buscar("dPotencia") != nullptr;
+    const bool bSinModelo = objeto.Buscar("dPotencia") != nullptr;
     const JsonLeido* id = bSinModelo ? objeto.Buscar("csModelo") : &objeto.Exigir("csModelo");
     if (id == nullptr)
         return;
@@ -194,11 +195,11 @@ void LeerModelo(Objeto& objeto, CSFVDataReceptor& receptor, const CatalogoDatos&
                       });
 }
 
-std::unique_ptr<CSFVDataReceptor> LeerReceptor(const JsonLeido& j, const CatalogoDatos& catalogo, Modelo modelo)
+std::unique_ptr<CSFVDataReceptor> LeerReceptor(const JsonLeido& j, const CatalogoDatos& catalogo)
 {
     Objeto objeto(j);
     auto receptor = std::make_unique<CSFVDataReceptor>();
-    LeerModelo(objeto, *receptor, catalogo, modelo);
+    LeerModelo(objeto, *receptor, catalogo);
     const CString csId = receptor->csModelo;
     const bool bConHorario = LeerCampos(objeto, *receptor, kRangos).contains("dHorario");
     receptor->csModelo = csId;
@@ -215,14 +216,13 @@ void ComprobarCuantos(std::ptrdiff_t n)
 
 }  // namespace
 
-CObArrayPropio<CSFVDataReceptor> LeerReceptores(const JsonLeido& lista, const CatalogoDatos& catalogo,
-                                                Modelo modelo)
+CObArrayPropio<CSFVDataReceptor> LeerReceptores(const JsonLeido& lista, const CatalogoDatos& catalogo)
 {
     ComprobarCuantos(std::ssize(LeerLista(lista)));
     CObArrayPropio<CSFVDataReceptor> receptores;
     for (const JsonLeido& elemento : LeerLista(lista))
         rpc::NombrarLugar([&] { return fmt::format("receptor {}", receptores.GetSize() + 1); },
-                          [&] { receptores.Add(LeerReceptor(elemento, catalogo, modelo)); });
+                          [&] { receptores.Add(LeerReceptor(elemento, catalogo)); });
     return receptores;
 }
 

@@ -14,11 +14,9 @@ namespace efv::orden {
 /// A list of loads, each an object with its `csModelo`, other fields of the load and its bands: as
 /// `dHorario`, or as `franjas` (for all days) and `horario` (a list of `franjas` for `meses` and `dias`, a
 /// later one over an earlier). Voltages, power and so on come from the catalogue where the object doesn't
-/// give them. @throws rpc::ErrorValor
-/// @param modelo opcional: a load that gives its power needs none, nor one that the catalogue knows
-enum class Modelo { exigido, opcional };
-CObArrayPropio<CSFVDataReceptor> LeerReceptores(const JsonLeido& lista, const CatalogoDatos& catalogo,
-                                                Modelo modelo = Modelo::exigido);
+/// give them. A load that gives its power needs no model, nor one that the catalogue knows.
+/// @throws rpc::ErrorValor
+CObArrayPropio<CSFVDataReceptor> LeerReceptores(const JsonLeido& lista, const CatalogoDatos& catalogo);
 
 /// The loads that a record keeps in its arrays, in step. @throws rpc::ErrorValor
 CObArrayPropio<CSFVDataReceptor> ReceptoresDelRegistro(const CSFVAsistenteAislada& registro,

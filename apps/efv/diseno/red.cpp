@@ -30,8 +30,8 @@ constexpr auto kRangos = std::to_array<RangoCampo>({
 struct Catalogos {
     CatalogoDatos inversores, modulos;
 
-    explicit Catalogos(const std::string& csDatos)
-        : inversores("inversores", csDatos), modulos("modulos", csDatos)
+    Catalogos(const std::string& csDatos, const std::vector<estudio::ModeloGuardado>& propios)
+        : inversores("inversores", csDatos, propios), modulos("modulos", csDatos, propios)
     {
     }
 };
@@ -41,6 +41,7 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     Objeto objeto(j);
     ProyectoRed proyecto;
     LeerCabecera(objeto, "red", proyecto.titulo);
+    objeto.Buscar("modelos");  // read before, for the catalogues
     proyecto.portada = LeerPortada(objeto);
     proyecto.lugar = LeerLugar(objeto, csDatos, false);
     proyecto.planos = LeerPlanos(objeto);
@@ -69,7 +70,8 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
 Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
 {
     CargarTablaK(csDatos);
-    const Catalogos catalogos(csDatos);
+    std::vector<estudio::ModeloGuardado> modelos = ModelosDelProyecto(proyectoJson);
+    const Catalogos catalogos(csDatos, modelos);
     const ProyectoRed proyecto = LeerProyecto(proyectoJson, catalogos, csDatos);
     report::EstudioRed estudio = report::Calcular(proyecto, phGetBaseFactorK());
     const std::vector<report::Aviso> avisos = report::Avisos(proyecto, estudio);
@@ -93,6 +95,7 @@ Diseno DisenarRed(const JsonLeido& proyectoJson, const std::string& csDatos)
                       {"avisos", AvisosJson(avisos)}};
     CSFVAsistenteRed registro = static_cast<const CSFVAsistenteRed&>(estudio.v);
     diseno.archivo = Archivar(registro);
+    diseno.modelos = std::move(modelos);
     return diseno;
 }
 

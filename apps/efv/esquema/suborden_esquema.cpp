@@ -169,13 +169,8 @@ private:
     {
         if (m_tipo && *m_tipo != "aislada" && *m_tipo != "red")
             throw ErrorUso(fmt::format("--tipo: se esperaba aislada o red, y no «{}»", *m_tipo));
-        if (m_tipo || !EsProyectoDeEstudio(m_proyecto))
-            return LeerFicheroProyecto(m_proyecto, m_tipo.value_or("red"));
-        try {
-            return LeerFicheroProyecto(m_proyecto, "red");
-        } catch (const ErrorEjecucion&) {
-            return LeerFicheroProyecto(m_proyecto, "aislada");
-        }
+        return m_tipo ? LeerFicheroProyecto(m_proyecto, *m_tipo)
+                      : LeerFicheroProyecto(m_proyecto, "red", "aislada");
     }
 
     // As the project says, else by what only one of the two has.

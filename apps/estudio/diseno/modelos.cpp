@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdint>
 #include <memory>
 #include <set>
 
@@ -36,52 +35,11 @@ const CModelo* Buscar(const report::Catalogos& catalogos, std::string_view tipo,
     return tipo == kReceptores ? catalogos.receptores.BuscarModelo(csId) : nullptr;
 }
 
-ModeloGuardado Guardado(const TipoCatalogo& tipo, const CModelo& modelo)
-{
-    ModeloGuardado guardado{CadenaDesdeUtf8(std::string(tipo.Nombre())), modelo.csFamilia, {}};
-    const auto campos = tipo.Campos();
-    guardado.campos.reserve(campos.size());
-    for (std::size_t i = 0; i < campos.size(); ++i)
-        guardado.campos.push_back({CadenaDesdeUtf8(std::string(campos[i].nombre)), tipo.Valor(modelo, i),
-                                   (modelo.uAusentes & campos[i].uMarca) != 0 ? 1 : 0});
-    return guardado;
-}
-
-// Fields that either side lacks are left alone.
-template <class ACCION>
-void PorCampos(const TipoCatalogo& tipo, const ModeloGuardado& guardado, const ACCION& accion)
-{
-    const auto campos = tipo.Campos();
-    for (const ModeloGuardado::Campo& suyo : guardado.campos) {
-        const auto campo = std::ranges::find(campos, CadenaUtf8(suyo.csNombre), &CampoCatalogo::nombre);
-        if (campo != campos.end())
-            accion(static_cast<std::size_t>(campo - campos.begin()), *campo, suyo);
-    }
-}
-
-// A model of the kind with the data kept.
-std::unique_ptr<CModelo> Modelo(const TipoCatalogo& tipo, const ModeloGuardado& guardado)
-{
-    auto modelo = tipo.CrearModelo();
-    modelo->csFamilia = guardado.csFamilia;
-    std::uint64_t uAusentes = 0;
-    PorCampos(tipo, guardado,
-              [&](std::size_t i, const CampoCatalogo& campo, const ModeloGuardado::Campo& suyo) {
-                  // A field may have become one of another kind since.
-                  if (tipo.Valor(*modelo, i).index() == suyo.valor.index())
-                      tipo.Poner(*modelo, i, suyo.valor);
-                  if (suyo.bAusente != 0)
-                      uAusentes |= campo.uMarca;
-              });
-    modelo->uAusentes = uAusentes;
-    return modelo;
-}
-
 template <class MODELO>
 void Copiar(const TipoCatalogo& tipo, const ModeloGuardado& guardado, CBaseCatalogo<MODELO>& base)
 {
     auto familia = std::make_unique<CFamiliaCatalogo<MODELO>>(guardado.csFamilia);
-    const auto modelo = Modelo(tipo, guardado);
+    const auto modelo = ModeloDe(tipo, guardado);
     familia->AddModelo(std::make_unique<MODELO>(dynamic_cast<const MODELO&>(*modelo)));
     base.aFamilias.Add(std::move(familia));
 }

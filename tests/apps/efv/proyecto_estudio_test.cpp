@@ -1,7 +1,6 @@
 // Projects of the desktop program in the command.
-#include <span>
-
 #include "apoyo.h"
+#include "diseno/proyecto_json.h"
 #include "proyecto/proyecto.h"
 
 namespace efv::orden::pruebas {
@@ -17,52 +16,66 @@ protected:
         return m_carpeta.Crear("p.efvp",
                                std::string(reinterpret_cast<const char*>(bytes.data()), bytes.size()));
     }
-    // What an order's design of a shipped example is, as the record that an archive keeps.
-    template <class R>
-    void Tomar(const char* orden, const char* ejemplo, R& registro)
-    {
-        const std::string ruta = m_carpeta.Ruta().string() + "/registro";
-        ASSERT_EQ(Correr({orden, (kEjemplos / ejemplo).string(), "--guardar", ruta}).iEstado, 0);
-        const std::string bytes = LeerTodo(ruta);
-        CArchive ar(std::as_bytes(std::span(bytes)));
-        registro.Serialize(ar);
-    }
     static Json Valores(const char* orden, const std::string& ruta)
     {
         const Corrida corrida = Correr({orden, ruta, "--json"});
         EXPECT_EQ(corrida.errores, "");
         return Json::parse(corrida.salida);
     }
-    void PonerLugar(const Json& resultado)
-    {
-        m_proyecto.lugar.dLatitud = resultado["lugar"]["latitud_grados"];
-        for (std::size_t m = 0; m < 12; ++m)
-            m_proyecto.lugar.adRadHorizontal[m] = resultado["lugar"]["radiacion_kJ_m2_dia"][m];
-    }
-
     CarpetaTemporal m_carpeta;
     estudio::CProyectoEstudio m_proyecto;
 };
 
-TEST_F(ProyectoDeEstudio, ElDisenoEsElMismoQueElDeSuJson)
+// The JSON of the command as a project of the program, and that project in the command.
+TEST_F(ProyectoDeEstudio, ElJsonHechoProyectoDaLasMismasCifras)
 {
-    const Json red = Valores("red", (kEjemplos / "cubierta-red.json").string());
-    const Json aislada = Valores("aislada", (kEjemplos / "casa-aislada.json").string());
-    Tomar("red", "cubierta-red.json", m_proyecto.red);
-    Tomar("aislada", "casa-aislada.json", m_proyecto.aislada);
-    PonerLugar(red);
-    const std::string ruta = Guardar(m_proyecto);
-    const Json otra = Valores("red", ruta);
-    for (const char* campo :
-         {"iInversores", "iPanelesSerie", "iPanelesParalelo", "dInclinacion", "dDistanciaFilas"})
-        EXPECT_EQ(otra["valores"][campo], red["valores"][campo]) << campo;
-    EXPECT_EQ(otra["meses"], red["meses"]);
-    PonerLugar(aislada);
-    const Json casa = Valores("aislada", Guardar(m_proyecto));
-    for (const char* campo :
-         {"iAcumuladoresParalelo", "iPanelesSerie", "iPanelesParalelo", "dEnergiaNecesaria"})
-        EXPECT_EQ(casa["valores"][campo], aislada["valores"][campo]) << campo;
-    EXPECT_EQ(casa["receptores"].size(), aislada["receptores"].size());
+    for (const auto& [orden, ejemplo] : {std::pair("red", "cubierta-red.json"),
+                                         {"aislada", "casa-aislada.json"},
+                                         {"venta", "venta-cubierta.json"},
+                                         {"autoconsumo", "casa-autoconsumo.json"}}) {
+        SCOPED_TRACE(ejemplo);
+        const std::string json = (kEjemplos / ejemplo).string();
+        const ProyectoDeJson leido = AbrirProyectoJson(json, "");
+        Json suyo = Valores(orden, json), otro = Valores(orden, Guardar(*leido.proyecto));
+        for (const char* parte : {"valores", "meses", "comprobacion", "estudio"})
+            EXPECT_EQ(suyo[parte], otro[parte]) << parte;
+        EXPECT_EQ(suyo["titulo"], otro["titulo"]);
+    }
+}
+
+// Without a word of its kind, with a module and a load that no catalogue has.
+TEST_F(ProyectoDeEstudio, LosModelosPropiosVanConElProyecto)
+{
+    Json json = Json::parse(LeerTodo(kEjemplos / "casa-aislada.json"));
+    json.erase("tipo");
+    json["modelos"] = Json::parse(R"([{"catalogo": "modulos", "csModelo": "Mío 400", "dPmpm": 400, "dVmpm": 34,
+        "dImpm": 11.76, "dVoc": 41, "dIsc": 12.5, "dH": 1700, "dB": 1100}])");
+    json["csPanel"] = "Mío 400";
+    json["receptores"].push_back(
+        {{"csModelo", "Torno"}, {"dPotencia", 900}, {"iTipoRed", 1}, {"dVoltaje", 230}});
+    json["receptores"].back()["franjas"] = Json::parse(R"([["10:00", "12:00"]])");
+    const std::string ruta = m_carpeta.Crear("mio.json", json.dump());
+    const Json suyo = Valores("aislada", ruta);
+    EXPECT_EQ(suyo["valores"]["csPanel"], "Del proyecto#Mío 400");
+    EXPECT_TRUE(
+        Contiene(suyo["avisos"].dump(), {"Torno: no está en el catálogo", "900,0 W de corriente alterna"}));
+    // 900 W two hours a day.
+    Json sin = json;
+    sin["receptores"].erase(sin["receptores"].size() - 1);
+    const Json antes = Valores("aislada", m_carpeta.Crear("sin.json", sin.dump()));
+    EXPECT_NEAR(
+        suyo["valores"]["dEnergiaDiaria"].get<double>() - antes["valores"]["dEnergiaDiaria"].get<double>(),
+        1800.0, 1e-6);
+
+    const std::string proyecto = Guardar(*AbrirProyectoJson(ruta, "").proyecto);
+    const Json otro = Valores("aislada", proyecto);
+    EXPECT_EQ(otro["valores"]["iPanelesParalelo"], suyo["valores"]["iPanelesParalelo"]);
+    EXPECT_EQ(otro["comprobacion"], suyo["comprobacion"]);
+    EXPECT_EQ(Correr({"consumo", "receptores", proyecto, "--json"}).iEstado, 0);
+
+    json["modelos"][0]["dPmp"] = 1;
+    EXPECT_TRUE(Contiene(Correr({"aislada", m_carpeta.Crear("mal.json", json.dump())}).errores,
+                         {"modelos: elemento 0: ", "no hay ningún campo «dPmp»; parecidos: dPmpm"}));
 }
 
 TEST_F(ProyectoDeEstudio, LoQueNoTieneSeDice)
