@@ -112,7 +112,8 @@ int Ejecutar(QApplication& programa)
     const QCommandLineOption capturas("capturas", "Escribe una imagen PNG de cada pantalla y termina.", "DIR");
     const QCommandLineOption letra("letra", "Tamaño de la letra, en puntos, de 6 a 40.", "PUNTOS");
     orden.addOptions({ayuda, version, datos, capturas, letra});
-    orden.addPositionalArgument("PROYECTO", "Proyecto que se abre (.efvp).", "[PROYECTO]");
+    orden.addPositionalArgument("PROYECTO", "Proyecto que se abre: .efvp, o JSON de la orden efv.",
+                                "[PROYECTO]");
     orden.process(programa);
     if (orden.isSet(ayuda)) {
         std::cout << orden.helpText().toStdString();
@@ -146,6 +147,7 @@ int Ejecutar(QApplication& programa)
     efv::qt::InstalarPresentadorQt(&ventana);
     Sesion& sesion = ventana.LaSesion();
     sesion.PonerRecientes(RecientesDeLaPersona());
+    sesion.PonerDatos(opcion);
     ventana.PonerPreferencias(LeerPreferencias(ajustes));
     ventana.alPreferir = [&ajustes](const Preferencias& elegidas) { EscribirPreferencias(ajustes, elegidas); };
     ventana.CopiarEn(CarpetaDeRecuperacion());

@@ -6,14 +6,17 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDropEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QUrl>
 
 #include <quorvel/qt.h>
 
@@ -154,6 +157,7 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
           [this] { EstudiarAutoconsumo(m_sesion); })
 {
     setObjectName("ventana");
+    setAcceptDrops(true);
     CrearMenus();
     auto* centro = new QSplitter(this);
     centro->setObjectName("centro");
@@ -175,6 +179,11 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     connect(&m_copia, &QTimer::timeout, this, [this] { GuardarCopia(); });
     m_frente.setSingleShot(true);
     connect(&m_frente, &QTimer::timeout, this, [this] { MirarFichero(); });
+    m_soltado.setSingleShot(true);
+    connect(&m_soltado, &QTimer::timeout, this, [this] {
+        TomarLoEscrito();
+        Atender([&] { m_sesion.Abrir(m_csSoltado); });
+    });
     qApp->installEventFilter(this);
     m_sesion.alCambiar = [this] { Actualizar(); };
     m_sesion.puedeGuardarse = [this] { return CamposValidos(); };
@@ -357,6 +366,10 @@ void VentanaPrincipal::Actualizar()
             MostrarPestana("red");
         else if (!EquipoDe(proyecto, Diseno::aislada).empty())
             MostrarPestana("aislada");
+        else if (proyecto.economia.venta.dEnergiaBase > 0.0)
+            MostrarPestana("venta");
+        else if (!proyecto.economia.csGuiado.empty())
+            MostrarPestana("autoconsumo");
     }
 }
 
@@ -492,6 +505,21 @@ bool VentanaPrincipal::eventFilter(QObject* objeto, QEvent* evento)
         return true;
     }
     return false;
+}
+
+void VentanaPrincipal::dragEnterEvent(QDragEnterEvent* evento)
+{
+    const QList<QUrl> ficheros = evento->mimeData()->urls();
+    if (ficheros.size() == 1 && ficheros.constFirst().isLocalFile())
+        evento->acceptProposedAction();
+}
+
+void VentanaPrincipal::dropEvent(QDropEvent* evento)
+{
+    evento->acceptProposedAction();
+    // Who let it go waits for the answer; a question of ours comes after that.
+    m_csSoltado = evento->mimeData()->urls().constFirst().toLocalFile().toStdWString();
+    m_soltado.start();
 }
 
 void VentanaPrincipal::closeEvent(QCloseEvent* evento)

@@ -80,6 +80,8 @@ public:
 protected:
     void closeEvent(QCloseEvent* evento) override;
     void changeEvent(QEvent* evento) override;
+    void dragEnterEvent(QDragEnterEvent* evento) override;
+    void dropEvent(QDropEvent* evento) override;
     bool eventFilter(QObject* objeto, QEvent* evento) override;
 
 private:
@@ -115,7 +117,9 @@ private:
     Sesion m_sesion;
     VigiaFichero m_vigia;
     std::optional<Recuperacion> m_recuperacion;
-    QTimer m_copia;   // to the next copy of unsaved work
+    QTimer m_copia;    // to the next copy of unsaved work
+    QTimer m_soltado;  // to the next turn of the loop, after a file was dropped
+    CString m_csSoltado;
     QTimer m_frente;  // to the next turn of the loop, after the window came to the front
     struct OrdenConNombre {
         QAction* accion;

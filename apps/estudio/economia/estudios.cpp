@@ -26,12 +26,18 @@ void Tomar(const CampoRed& campo, CSFVCalculoEconomico& estudio)
     estudio.dEnergiaBase = campo.ano.Energia();
 }
 
-bool HayCampo(const std::optional<CampoRed>& campo)
+bool HayCampo(bool bHay)
 {
-    if (!campo)
+    if (!bHay)
         ui::MostrarAviso(L"Diseñe antes la conexión a red: el estudio toma de ella la potencia y la energía.",
                          ui::Icono::informacion);
-    return campo.has_value();
+    return bHay;
+}
+
+// A sale's figures are the design's, or its own where there is none.
+bool HayEnergia(const std::optional<CampoRed>& campo, const CSFVCalculoEconomico& estudio)
+{
+    return campo || estudio.dEnergiaBase > 0.0;
 }
 
 /// The hours of the installation, once as its element and once as the whole.
@@ -56,10 +62,11 @@ struct HorasDosVeces {
 void EstudiarVenta(Sesion& sesion)
 {
     const auto campo = CampoDe(sesion.Proyecto());
-    if (!HayCampo(campo))
-        return;
     CSFVCalculoEconomico estudio = sesion.Proyecto().economia.venta;
-    Tomar(*campo, estudio);
+    if (!HayCampo(HayEnergia(campo, estudio)))
+        return;
+    if (campo)
+        Tomar(*campo, estudio);
     const double adMeses[12] = {};
     if (phViabilidadEconomicaRed(estudio, adMeses, adMeses, 0.0) == 1)
         sesion.Proyecto().economia.venta = estudio;
@@ -70,7 +77,7 @@ void EstudiarAutoconsumo(Sesion& sesion)
 {
     CProyectoEstudio& proyecto = sesion.Proyecto();
     const auto campo = CampoDe(proyecto);
-    if (!HayCampo(campo))
+    if (!HayCampo(campo.has_value()))
         return;
     const HorasDosVeces horas(proyecto, *campo);
     Economia& economia = proyecto.economia;
@@ -102,8 +109,9 @@ PanelResumen::Contenido VentaDe(const CProyectoEstudio& proyecto)
     CSFVCalculoEconomico estudio = proyecto.economia.venta;
     PanelResumen::Contenido contenido;
     const auto campo = CampoDe(proyecto);
-    if (campo) {
+    if (campo)
         Tomar(*campo, estudio);
+    if (HayEnergia(campo, estudio)) {
         estudio.Reset();
         economics::CalcularImportes(estudio);
         economics::CalcularAnos(estudio);

@@ -71,6 +71,16 @@ ProyectoLeido LeerProyecto(const CString& csRuta)
     }
 }
 
+bool EsJson(const CString& csRuta)
+{
+    constexpr std::wstring_view kSufijo = L".json";
+    if (PlegarTexto(csRuta).ends_with(kSufijo))
+        return true;
+    const std::string bytes = Contenido(csRuta);
+    const std::size_t nPrimera = bytes.find_first_not_of(" \t\r\n");
+    return nPrimera != std::string::npos && bytes[nPrimera] == '{';
+}
+
 std::optional<EstadoProyecto> MirarProyecto(const CString& csRuta)
 {
     SistemaFicheros& sistema = *ElMundo().ficheros;

@@ -29,6 +29,9 @@ struct ProyectoLeido {
 /// unreadable, of another program, of a later version, cut off, damaged.
 ProyectoLeido LeerProyecto(const CString& csRuta);
 
+/// Whether the file is one of the command's, by its name or its beginning: JSON.
+bool EsJson(const CString& csRuta);
+
 /// What stands under a project's name now.
 struct EstadoProyecto {
     std::optional<Huella> huella;  ///< nothing: no file

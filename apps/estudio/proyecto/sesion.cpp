@@ -4,6 +4,8 @@
 #include <filesystem>
 #include <new>
 
+#include "clima/estudios.h"
+#include "efv/diseno/proyecto_json.h"
 #include "proyecto/fichero.h"
 #include "proyecto/vigencia.h"
 
@@ -16,7 +18,12 @@ constexpr std::wstring_view kPrograma = L"efv-estudio";
 
 ui::PeticionFichero Peticion(const wchar_t* csTitulo, bool bGuardar)
 {
-    return {csTitulo, {{L"Proyectos (*.efvp)", L"*.efvp"}, {L"Todos los archivos (*)", L"*"}}, bGuardar, {}};
+    ui::PeticionFichero peticion{
+        csTitulo, {{L"Proyectos (*.efvp)", L"*.efvp"}, {L"Todos los archivos (*)", L"*"}}, bGuardar, {}};
+    if (!bGuardar)
+        peticion.filtros.insert(peticion.filtros.begin(),
+                                {L"Proyectos y JSON (*.efvp *.json)", L"*.efvp *.json"});
+    return peticion;
 }
 
 std::filesystem::path RutaDe(const CString& cs)
@@ -149,6 +156,10 @@ bool Sesion::Abrir(const CString& csRuta)
 bool Sesion::Cargar(const CString& csRuta)
 {
     try {
+        if (EsJson(csRuta)) {
+            CargarJson(csRuta);
+            return true;
+        }
         auto [proyecto, huella] = LeerProyecto(csRuta);
         Recordar(csRuta);
         Poner(std::move(proyecto), csRuta, huella);
@@ -157,6 +168,29 @@ bool Sesion::Cargar(const CString& csRuta)
         MostrarFallo(fallo);
         return false;
     }
+}
+
+void Sesion::CargarJson(const CString& csRuta)
+{
+    // What the file loads goes with its project, or with the one that stays open.
+    struct Registro {
+        ~Registro() { RecargarRegistro(); }
+    };
+    auto [proyecto, notas] = [&] {
+        const ui::Espera espera;
+        const Registro despues;
+        return orden::AbrirProyectoJson(CadenaUtf8(csRuta), m_datos);
+    }();
+    Recordar(csRuta);
+    UsarModelosDe(*proyecto);
+    AnotarAceptado(*proyecto, Diseno::aislada);
+    AnotarAceptado(*proyecto, Diseno::red);
+    Recuperar(std::move(proyecto), {}, {});
+    CString csNotas;
+    for (const std::string& nota : notas)
+        csNotas += (csNotas.empty() ? L"" : L"\n") + CadenaDesdeUtf8(nota);
+    if (!csNotas.empty())
+        ui::MostrarAviso(csNotas, ui::Icono::informacion);
 }
 
 bool Sesion::Guardar()

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -21,6 +22,9 @@ class Sesion {
 public:
     /// New projects stand at `lugar`.
     explicit Sesion(Lugar lugar = {}, Situacion situacion = {});
+
+    /// Folder of catalogues and places for the command's files, as the option --datos gives it.
+    void PonerDatos(const std::string& csDatos) { m_datos = csDatos; }
 
     const Lugar& LugarInicial() const { return m_lugar; }
     const Situacion& SituacionInicial() const { return m_situacion; }
@@ -47,6 +51,7 @@ public:
     /// The same with what a project holds from the start.
     void Nuevo(std::unique_ptr<CProyectoEstudio> proyecto);
     void Abrir();
+    /// A file of the command's, JSON, becomes a project that was never saved.
     /// @return whether it is open now.
     bool Abrir(const CString& csRuta);
     /// Asks for a name when it has none. @return false when it wasn't saved.
@@ -76,6 +81,7 @@ public:
 
 private:
     bool Cargar(const CString& csRuta);
+    void CargarJson(const CString& csRuta);
     void Poner(std::unique_ptr<CProyectoEstudio> proyecto, const CString& csRuta, std::optional<Huella> huella);
     void CargarOtraVez();
     void Tomar(std::vector<std::byte> bytes);
@@ -88,6 +94,7 @@ private:
 
     std::unique_ptr<CProyectoEstudio> Vacio() const;
 
+    std::string m_datos;
     Lugar m_lugar;
     Situacion m_situacion;
     std::unique_ptr<CProyectoEstudio> m_proyecto;

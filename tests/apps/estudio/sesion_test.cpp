@@ -5,6 +5,8 @@
 #include "comun/ficheros.h"
 #include "comun/guion.h"
 #include "proyecto/fichero.h"
+#include "proyecto/receptores.h"
+#include "proyecto/vigencia.h"
 
 namespace {
 
@@ -67,6 +69,39 @@ TEST_F(SesionGuionizada, LoDeshechoNoEstaModificado)
     sesion.Proyecto().consumo.adHoras[8759] = 1.0;
     sesion.Cambiado();
     EXPECT_TRUE(sesion.Modificado());
+}
+
+struct SesionConJson : ConCatalogos {
+    CarpetaTemporal carpeta;
+    Guion guion;
+    Sesion sesion;
+};
+
+TEST_F(SesionConJson, SeAbreComoProyectoSinGuardar)
+{
+    const CString csCarpeta = CadenaDesdeUtf8(EFV_CARPETA_DATOS "/ejemplos/");
+    ASSERT_TRUE(sesion.Abrir(csCarpeta + L"casa-aislada.json"));
+    EXPECT_EQ(sesion.Proyecto().consumo.lReceptores.GetSize(), 8);
+    EXPECT_TRUE(MismosReceptores(sesion.Proyecto()));
+    // Given up for the next one.
+    guion.presentador.respuestas = {ui::Respuesta::no};
+    ASSERT_TRUE(sesion.Abrir(csCarpeta + L"cubierta-red.json"));
+    EXPECT_EQ(sesion.Titulo(), L"Cubierta de una vivienda en Sevilla[*] - efv-estudio");
+    EXPECT_TRUE(sesion.Ruta().empty());
+    EXPECT_TRUE(sesion.Modificado());
+    const CProyectoEstudio& proyecto = sesion.Proyecto();
+    EXPECT_EQ(proyecto.lugar.csNombre, L"Sevilla");
+    EXPECT_EQ(proyecto.celulas.dMaxima, 75.0);
+    EXPECT_EQ(proyecto.red.iPanelesSerie, 9);
+    EXPECT_TRUE(Desfases(proyecto, Diseno::red).empty());
+    ASSERT_EQ(guion.Mensajes().size(), 1U);
+
+    guion.presentador.respuestas = {ui::Respuesta::no, ui::Respuesta::no};
+    const CString csMalo = carpeta.Escribir("malo.json", R"({"tipo": "red", "lugar": "Sebilla"})");
+    EXPECT_FALSE(sesion.Abrir(csMalo));
+    EXPECT_TRUE(guion.Mensajes().back().starts_with(
+        L"«" + csMalo + L"»: lugar: no hay ningún lugar «Sebilla»; parecidos: Sevilla"));
+    EXPECT_EQ(sesion.Proyecto().red.iPanelesSerie, 9);
 }
 
 TEST_F(SesionGuionizada, UnFicheroMaloDejaElProyectoAbierto)
