@@ -24,6 +24,7 @@ struct Medidas {
     double dAnchoTexto = 0.0;  ///< where lines of a card break; 0: they don't, and long ones are cut
     int iParalelo = 4;         ///< strings that are drawn
     bool bSimboloProteccion = false;
+    bool bSimboloAlLado = false;            ///< of a card's texts instead of above them: for a low sheet
     const MedidorLetra* medidor = nullptr;  ///< of lines that break
 };
 
@@ -53,22 +54,38 @@ private:
     struct Tarjeta : Recuadro {
         std::vector<Renglon> renglones;
         double dSimbolo = 0.0, dEnlace = 0.0;  ///< height of the symbol; of the connections, from above
+        double dMedio = 0.0;                   ///< how far connections end from the middle; 0: at the edges
 
-        Punto Izquierda() const { return {x, y + dEnlace}; }
-        Punto Derecha() const { return {x + dAncho, y + dEnlace}; }
+        Punto Izquierda() const { return {dMedio > 0.0 ? x + dAncho / 2 - dMedio : x, y + dEnlace}; }
+        Punto Derecha() const { return {dMedio > 0.0 ? x + dAncho / 2 + dMedio : x + dAncho, y + dEnlace}; }
+    };
+    /// How a connection goes: between two columns, down a column to what stands next, or round at its right.
+    enum class Via { hueco, abajo, lado };
+    struct LineaTexto {
+        CString cs;
+        Tinta tinta;
     };
 
     void Escribir(trazo::Texto texto) { m_lamina.trazos.emplace_back(std::move(texto)); }
-    void Escribir(Tarjeta& tarjeta, const CString& cs, const Renglon& aspecto, std::size_t nLetras) const;
+    void Escribir(Tarjeta& tarjeta, const CString& cs, const Renglon& aspecto, std::size_t nLetras,
+                  double dAnchoTexto) const;
     Tarjeta TarjetaDe(const Elemento& elemento) const;
     double AnchoDe(const CString& cs, double dTamano, bool bNegrita) const;
     std::vector<CString> EnHueco(const CString& cs, double dAncho) const;
     void Repartir();
+    double SitioALaDerecha() const;
     void Apilar();
     void Pintar(const Elemento& elemento, const Tarjeta& tarjeta);
     void Enmarcar(const Elemento& elemento, const Tarjeta& tarjeta);
     bool SeJuntan(std::size_t nHasta) const;
-    void Conectar(const Conexion& conexion);
+    Via ViaDe(const Conexion& conexion) const;
+    double AnchoJunto(std::size_t nElemento) const;
+    double HuecoSobre(std::size_t nElemento) const;
+    void HacerSitio(std::size_t nPuntos);
+    std::vector<LineaTexto> TextosDe(const Conexion& conexion, double dAncho) const;
+    void Conectar(const Conexion& conexion, Via via);
+    void ConectarAbajo(const Conexion& conexion);
+    void ConectarPorElLado(const Conexion& conexion);
     void Unir(const Conexion& conexion, std::vector<Punto> puntos);
     void Proteger(const Conexion& conexion, Punto centro, bool bVertical);
     void AnotarZonas();
@@ -76,6 +93,7 @@ private:
 
     const Esquema& m_esquema;
     Medidas m_medidas;
+    std::vector<Via> m_vias;  // of the connections
     std::vector<Tarjeta> m_tarjetas;
     std::map<int, double> m_altos;
     Lamina m_lamina;

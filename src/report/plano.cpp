@@ -24,8 +24,7 @@ namespace {
 constexpr double kHolgura = 4.0;  // between frame and drawing
 constexpr double kRenglonNota = 4.8;
 constexpr double kAmpliacionMaxima = 1.6;  // of a drawing that leaves room
-constexpr int kStringsDibujados = 12;
-constexpr double kMargenHoja = 6.0;  // around the cards: the frames of those that fail
+constexpr double kMargenHoja = 6.0;        // around the cards: the frames of those that fail
 
 // ISO 216, in the order of Formato.
 struct Lados {
@@ -137,37 +136,70 @@ std::vector<FilasDeHoja> Repartir(const std::map<int, double>& altos, double dAl
     return hojas;
 }
 
-bool Caben(const std::vector<Lamina>& hojas, double dAncho, double dAlto)
-{
-    return std::ranges::all_of(hojas, [&](const Lamina& l) { return l.dAncho <= dAncho && l.dAlto <= dAlto; });
-}
+/// Room for a drawing.
+struct Sitio {
+    double dAncho, dAlto;
+    bool bVariasHojas;
+
+    bool Tiene(const Delineante& dibujo) const { return dibujo.Ancho() <= dAncho && dibujo.Alto() <= dAlto; }
+};
 
 /// The sheets of a layout, in the units of its measures; none when it doesn't fit.
-std::vector<Lamina> Tender(const Esquema& esquema, const Medidas& medidas, double dAncho, double dAlto)
+std::vector<Lamina> EnHojas(const std::vector<Esquema>& esquemas, const Medidas& medidas, const Sitio& sitio)
+{
+    std::vector<Lamina> hojas;
+    hojas.reserve(esquemas.size());
+    for (const Esquema& esquema : esquemas) {
+        Delineante dibujo(esquema, medidas);
+        if (!sitio.Tiene(dibujo))
+            return {};
+        hojas.push_back(dibujo.Dibujar());
+    }
+    return hojas;
+}
+
+std::vector<Lamina> Tender(const Esquema& esquema, const Medidas& medidas, const Sitio& sitio)
 {
     Delineante entero(esquema, medidas);
-    if (entero.Ancho() > dAncho)
+    if (entero.Ancho() > sitio.dAncho)
         return {};
     std::vector<Lamina> hojas;
-    if (entero.Alto() <= dAlto) {
+    if (entero.Alto() <= sitio.dAlto) {
         hojas.push_back(entero.Dibujar());
         return hojas;
     }
-    // What dots to other sheets take.
-    for (const double dReserva : {0.0, 100.0, 200.0}) {
-        const auto filas = Repartir(entero.Altos(), dAlto, medidas.dHuecoFilas, dReserva);
-        hojas.clear();
-        hojas.reserve(filas.size());
-        for (const Esquema& hoja : PartirEnHojas(esquema, filas))
-            hojas.push_back(Delineante(hoja, medidas).Dibujar());
-        if (Caben(hojas, dAncho, dAlto))
-            return hojas;
+    if (!sitio.bVariasHojas)
+        return {};
+    const bool bUnaColumna =
+        std::ranges::all_of(esquema.elementos, [](const Elemento& e) { return e.iColumna == 0; });
+    for (const Remisiones remisiones : {Remisiones::enColumna, Remisiones::alLado}) {
+        // Between two columns stand their own connections.
+        if (remisiones == Remisiones::alLado && !bUnaColumna)
+            continue;
+        std::vector<FilasDeHoja> probadas;
+        // What dots to other sheets take.
+        for (const double dReserva : {0.0, 100.0, 200.0, 300.0}) {
+            auto filas = Repartir(entero.Altos(), sitio.dAlto, medidas.dHuecoFilas, dReserva);
+            if (filas == probadas)
+                continue;
+            hojas = EnHojas(PartirEnHojas(esquema, filas, remisiones), medidas, sitio);
+            if (!hojas.empty())
+                return hojas;
+            probadas = std::move(filas);
+        }
     }
     return {};
 }
 
+/// What a layout of paper does without, more and more.
+struct Ahorro {
+    int iStrings;
+    bool bSimboloAlLado;
+};
+constexpr auto kAhorros = std::to_array<Ahorro>({{12, false}, {4, false}, {4, true}});
+
 // From the widest lines to the narrowest.
-std::vector<Medidas> MedidasDePapel()
+std::vector<Medidas> MedidasDePapel(const Ahorro& ahorro)
 {
     std::vector<Medidas> todas;
     for (const double dTexto : {300.0, 260.0, 230.0, 200.0, 180.0, 165.0, 150.0, 140.0, 130.0, 120.0}) {
@@ -178,24 +210,44 @@ std::vector<Medidas> MedidasDePapel()
                              .dAlmohada = 8.0,
                              .dAnchoMinimo = 110.0,
                              .dAnchoTexto = dTexto,
-                             .iParalelo = kStringsDibujados,
+                             .iParalelo = ahorro.iStrings,
                              .bSimboloProteccion = true,
+                             .bSimboloAlLado = ahorro.bSimboloAlLado,
                              .medidor = &kMedidor});
         }
     }
     return todas;
 }
 
-// The layout of the fewest sheets, and of those the one of the widest lines.
-std::vector<Lamina> Tender(const Esquema& esquema, double dAncho, double dAlto)
+// As it is, in two columns and in one.
+std::vector<Esquema> Plegados(const Esquema& esquema)
+{
+    return {esquema, Plegar(esquema, Columnas::dos), Plegar(esquema, Columnas::una)};
+}
+
+// The widest lines that fit.
+std::vector<Lamina> Tender(const Esquema& esquema, const Ahorro& ahorro, const Sitio& sitio)
+{
+    for (const Medidas& medidas : MedidasDePapel(ahorro))
+        if (std::vector<Lamina> hojas = Tender(esquema, medidas, sitio); !hojas.empty())
+            return hojas;
+    return {};
+}
+
+// The layout of the fewest sheets; of those the one that does without least, in its own columns rather than
+// folded.
+std::vector<Lamina> Tender(const Esquema& esquema, const Sitio& sitio)
 {
     std::vector<Lamina> mejor;
-    for (const Medidas& medidas : MedidasDePapel()) {
-        std::vector<Lamina> hojas = Tender(esquema, medidas, dAncho, dAlto);
-        if (hojas.size() == 1)
-            return hojas;
-        if (!hojas.empty() && (mejor.empty() || hojas.size() < mejor.size()))
-            mejor = std::move(hojas);
+    const std::vector<Esquema> plegados = Plegados(esquema);
+    for (const Ahorro& ahorro : kAhorros) {
+        for (const Esquema& plegado : plegados) {
+            std::vector<Lamina> hojas = Tender(plegado, ahorro, sitio);
+            if (hojas.size() == 1)
+                return hojas;
+            if (!hojas.empty() && (mejor.empty() || hojas.size() < mejor.size()))
+                mejor = std::move(hojas);
+        }
     }
     return mejor;
 }
@@ -205,8 +257,10 @@ std::vector<Lamina> Tender(const std::vector<Esquema>& esquemas, double dAncho, 
 {
     std::vector<Lamina> hojas;
     for (const Esquema& esquema : esquemas) {
-        hojas = Tender(ConFallosAbajo(Limpio(esquema)), dAncho, dAlto);
-        if (hojas.size() == 1)
+        Esquema limpio = ConFallosAbajo(Limpio(esquema));
+        limpio.acsNotas.clear();  // they stand below the drawing
+        hojas = Tender(limpio, {dAncho, dAlto, &esquema == &esquemas.back()});
+        if (!hojas.empty())
             break;
     }
     return hojas;
@@ -287,7 +341,7 @@ Lamina DibujarEnAncho(const Esquema& esquema, double dAncho)
     if (esquema.elementos.empty())
         return {};
     const Esquema limpio = Limpio(esquema);
-    const std::vector<Medidas> todas = MedidasDePapel();
+    const std::vector<Medidas> todas = MedidasDePapel(kAhorros.front());
     for (const Medidas& medidas : todas) {
         Delineante delineante(limpio, medidas);
         if (delineante.Ancho() <= dAncho)
@@ -304,16 +358,22 @@ Plano PlanoDe(const std::vector<Esquema>& esquemas, const Cajetin& cajetin, cons
     const Esquema& esquema = esquemas.front();
     if (plano.cajetin.titulo.empty())
         plano.cajetin.titulo = "Esquema. " + CadenaUtf8(esquema.csTitulo);
-    const double dMilimetros = CuerpoPlano() / kLetraPequena;  // of a unit
     const double dAnchoNotas = pagina.Ancho() - pagina.dIzquierdo - pagina.dDerecho - 2 * kHolgura;
     const std::vector<Nota> notas = NotasDe(esquema, dAnchoNotas);
     const Area area = AreaDe(pagina, plano.cajetin, notas.size());
-    plano.hojas = Tender(esquemas, area.dAncho / dMilimetros, area.dAlto / dMilimetros);
+    double dMilimetros = 0.0;  // of a unit
+    for (const double dAltura :
+         {kAlturaLetraPlano, (kAlturaLetraPlano + kAlturaLetraMinima) / 2, kAlturaLetraMinima}) {
+        dMilimetros = dAltura / kAlturaMayuscula / kLetraPequena;
+        plano.hojas = Tender(esquemas, area.dAncho / dMilimetros, area.dAlto / dMilimetros);
+        if (!plano.hojas.empty())
+            break;
+    }
     if (plano.hojas.empty()) {
         throw std::invalid_argument(
             fmt::format("El esquema no cabe en {} con letras de {} mm: elija un papel mayor, apaisado o con "
                         "márgenes menores.",
-                        pagina.Nombre(), Decimal(kAlturaLetraPlano, 1)));
+                        pagina.Nombre(), Decimal(kAlturaLetraMinima, 1)));
     }
     double dEscala = dMilimetros * kAmpliacionMaxima;
     for (const Lamina& hoja : plano.hojas)

@@ -1,8 +1,6 @@
 #include "report/plano_cajetin.h"
 
 #include <algorithm>
-#include <array>
-#include <span>
 
 #include <fmt/format.h>
 
@@ -26,17 +24,28 @@ struct Celda {
 };
 using Fila = std::vector<Celda>;
 
-std::array<Fila, 2> FilasDe(const Cajetin& c, int iHoja, int iHojas)
+// Two rows across A4, three on what is narrower.
+std::vector<Fila> FilasDe(const Cajetin& c, double dAncho, int iHoja, int iHojas)
 {
-    return {{{{L"Proyecto", 0.40, c.proyecto},
-              {L"Cliente", 0.30, c.cliente},
-              {L"Fecha", 0.15, c.fecha},
-              {L"Hoja", 0.15, fmt::format("{} de {}", iHoja, iHojas)}},
-             {{L"Plano", 0.27, c.titulo},
-              {L"Lugar", 0.27, c.lugar},
-              {L"Autor", 0.23, c.autor},
-              {L"Escala", 0.12, "sin escala"},
-              {L"Revisión", 0.11, c.revision}}}};
+    constexpr double kAnchoDeDos = 170.0;
+    const std::string hoja = fmt::format("{} de {}", iHoja, iHojas), escala = "sin escala";
+    if (dAncho >= kAnchoDeDos) {
+        return {{{L"Proyecto", 0.40, c.proyecto},
+                 {L"Cliente", 0.30, c.cliente},
+                 {L"Fecha", 0.15, c.fecha},
+                 {L"Hoja", 0.15, hoja}},
+                {{L"Plano", 0.27, c.titulo},
+                 {L"Lugar", 0.27, c.lugar},
+                 {L"Autor", 0.23, c.autor},
+                 {L"Escala", 0.12, escala},
+                 {L"Revisión", 0.11, c.revision}}};
+    }
+    return {{{L"Proyecto", 0.58, c.proyecto}, {L"Cliente", 0.42, c.cliente}},
+            {{L"Plano", 0.40, c.titulo}, {L"Lugar", 0.40, c.lugar}, {L"Revisión", 0.20, c.revision}},
+            {{L"Autor", 0.37, c.autor},
+             {L"Fecha", 0.25, c.fecha},
+             {L"Hoja", 0.17, hoja},
+             {L"Escala", 0.21, escala}}};
 }
 
 std::vector<CString> LineasDe(const Celda& celda, double dAncho)
@@ -89,7 +98,7 @@ double CuerpoPlano()
 Banda BandaDelCajetin(const Cajetin& cajetin, const Pagina& pagina)
 {
     Banda banda{std::min(kAnchoMaximo, pagina.Ancho() - pagina.dIzquierdo - pagina.dDerecho)};
-    for (const Fila& fila : FilasDe(cajetin, 1, 1))
+    for (const Fila& fila : FilasDe(cajetin, banda.dAncho, 1, 1))
         banda.dAlto += AltoDe(fila, banda.dAncho);
     return banda;
 }
@@ -104,7 +113,7 @@ void PonerCajetin(Lamina& hoja, const Cajetin& cajetin, const Pagina& pagina, in
 {
     const Banda banda = BandaDelCajetin(cajetin, pagina);
     double y = pagina.Alto() - pagina.dInferior - banda.dAlto;
-    for (const Fila& fila : FilasDe(cajetin, iHoja, iHojas)) {
+    for (const Fila& fila : FilasDe(cajetin, banda.dAncho, iHoja, iHojas)) {
         double x = pagina.Ancho() - pagina.dDerecho - banda.dAncho;
         const double dAlto = AltoDe(fila, banda.dAncho);
         for (const Celda& celda : fila) {

@@ -13,8 +13,9 @@ namespace {
 /// One sheet of a schematic.
 class HojaDeEsquema {
 public:
-    HojaDeEsquema(const Esquema& esquema, const std::vector<FilasDeHoja>& filas, std::size_t nHoja)
-        : m_esquema(esquema), m_filas(filas), m_nHoja(nHoja)
+    HojaDeEsquema(const Esquema& esquema, const std::vector<FilasDeHoja>& filas, std::size_t nHoja,
+                  Remisiones remisiones)
+        : m_esquema(esquema), m_filas(filas), m_nHoja(nHoja), m_donde(remisiones)
     {
     }
 
@@ -56,28 +57,31 @@ private:
         if (bDesde && bHasta) {
             m_hoja.conexiones.push_back(std::move(suya));
         } else if (bDesde) {
-            suya.nHasta = Remitir(conexion.nHasta, conexion.nDesde).first;
+            suya.nHasta = Remitir(conexion.nHasta, conexion.nDesde, true).first;
             m_hoja.conexiones.push_back(std::move(suya));
-        } else if (const auto [nPuntos, bNuevos] = Remitir(conexion.nDesde, conexion.nHasta); bNuevos) {
+        } else if (const auto [nPuntos, bNuevos] = Remitir(conexion.nDesde, conexion.nHasta, false); bNuevos) {
             // Its texts stand where it begins.
             m_hoja.conexiones.push_back({nPuntos, suya.nHasta, {}, {}, conexion.bAlterna});
         }
     }
 
-    // The dots that stand for an element of another sheet, with those of its column that go to the same.
-    std::pair<std::size_t, bool> Remitir(std::size_t nOtro, std::size_t nSuyo)
+    // The dots that stand for an element of another sheet: one for all that goes on to it, one for all on a
+    // sheet that an element comes from.
+    std::pair<std::size_t, bool> Remitir(std::size_t nOtro, std::size_t nSuyo, bool bSigue)
     {
         const Elemento& otro = m_esquema.elementos[nOtro];
         const std::size_t nHoja = HojaDe(nOtro);
+        int iColumna = otro.iColumna;
+        if (m_donde == Remisiones::alLado && iColumna == m_esquema.elementos[nSuyo].iColumna)
+            iColumna += nHoja < m_nHoja ? -1 : 1;
         const auto [remision, bNueva] =
-            m_remisiones.try_emplace({nHoja, otro.iColumna, nSuyo * (otro.iColumna < Columna(nSuyo) ? 1U : 0U)},
-                                     m_hoja.elementos.size());
-        const CString csHoja = L", en la hoja " + std::to_wstring(nHoja + 1);
+            m_remisiones.try_emplace({nHoja, bSigue, bSigue ? nOtro : nSuyo}, m_hoja.elementos.size());
+        const CString csHoja = L", en la hoja\xA0" + std::to_wstring(nHoja + 1);
         if (bNueva) {
             Elemento puntos{
                 .clase = Elemento::Clase::puntos, .csTitulo = otro.csTitulo + csHoja, .iCuantos = 0};
-            puntos.iColumna = otro.iColumna;
-            puntos.iFila = FilaLibre(otro.iColumna, m_esquema.elementos[nSuyo].iFila, nHoja);
+            puntos.iColumna = iColumna;
+            puntos.iFila = FilaLibre(iColumna, m_esquema.elementos[nSuyo].iFila, nHoja);
             m_hoja.elementos.push_back(std::move(puntos));
         } else if (CString& cs = m_hoja.elementos[remision->second].csTitulo;
                    cs.find(otro.csTitulo) == CString::npos) {
@@ -85,8 +89,6 @@ private:
         }
         return {remision->second, bNueva};
     }
-
-    int Columna(std::size_t nElemento) const { return m_esquema.elementos[nElemento].iColumna; }
 
     // Beside the element, else above or below all of the sheet.
     int FilaLibre(int iColumna, int iFila, std::size_t nHoja)
@@ -103,20 +105,43 @@ private:
     const Esquema& m_esquema;
     const std::vector<FilasDeHoja>& m_filas;
     std::size_t m_nHoja;
+    Remisiones m_donde;
     Esquema m_hoja;
     std::map<std::size_t, std::size_t> m_suyos;  // elements of the sheet by their number in the whole
-    std::map<std::tuple<std::size_t, int, std::size_t>, std::size_t> m_remisiones;
+    std::map<std::tuple<std::size_t, bool, std::size_t>, std::size_t> m_remisiones;
     std::set<std::pair<int, int>> m_ocupadas;
 };
 
 }  // namespace
 
-std::vector<Esquema> PartirEnHojas(const Esquema& esquema, const std::vector<FilasDeHoja>& filas)
+Esquema Plegar(Esquema esquema, Columnas columnas)
+{
+    const bool bUna = columnas == Columnas::una;
+    // Rows in the order in which they stand; in one column also those of a pair.
+    const auto sitio = [bUna](const Elemento& e) {
+        return std::tuple(e.iColumna / 2, e.iFila, bUna ? e.iColumna % 2 : 0);
+    };
+    std::map<std::tuple<int, int, int>, int> filas;
+    for (const Elemento& e : esquema.elementos)
+        filas.emplace(sitio(e), 0);
+    int iFila = 0;
+    for (auto& fila : filas)
+        fila.second = iFila++;
+    for (Elemento& e : esquema.elementos) {
+        e.iFila = filas.at(sitio(e));
+        const bool bDeVuelta = e.iColumna / 2 % 2 != 0;
+        e.iColumna = bUna ? 0 : bDeVuelta ? 1 - e.iColumna % 2 : e.iColumna % 2;
+    }
+    return esquema;
+}
+
+std::vector<Esquema> PartirEnHojas(const Esquema& esquema, const std::vector<FilasDeHoja>& filas,
+                                   Remisiones remisiones)
 {
     std::vector<Esquema> hojas;
     hojas.reserve(filas.size());
     for (std::size_t i = 0; i < filas.size(); ++i)
-        hojas.push_back(HojaDeEsquema(esquema, filas, i).Componer());
+        hojas.push_back(HojaDeEsquema(esquema, filas, i, remisiones).Componer());
     return hojas;
 }
 

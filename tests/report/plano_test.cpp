@@ -2,11 +2,16 @@
 #include <quorvel/report/plano.h>
 
 #include <algorithm>
+#include <array>
+#include <cmath>
 #include <map>
 #include <set>
 #include <sstream>
+#include <tuple>
 
 #include <gtest/gtest.h>
+
+#include "report/letra_aproximada.h"
 
 namespace {
 
@@ -69,28 +74,129 @@ TEST(Plano, ElCajetinDiceLoQueSeSabeYRayaLoDemas)
     EXPECT_EQ(CajetinDe({}, portada, "Sevilla", {}).lugar, "Calle 1");
 }
 
-// Cards, texts and strokes stay within the frame, capitals are 2.5 mm high at least, on every paper that takes
-// it.
-TEST(Plano, NadaSaleDelMarcoYLaLetraSeLee)
+// Regulator with what hangs on it, in four columns and two rows.
+Esquema EsquemaAislado()
 {
-    constexpr double kMayuscula = 0.729;  // of the face, part of its size
-    for (const auto& [formato, iFilas] : {std::pair(Formato::a4, 1), {Formato::a3, 3}, {Formato::a2, 9}}) {
-        Pagina pagina{.formato = formato};
-        const Plano plano = PlanoDe({EsquemaDeFilas(iFilas)}, {}, pagina);
-        ASSERT_FALSE(plano.hojas.empty());
-        for (const Lamina& hoja : plano.hojas) {
-            for (const trazo::Texto& texto : TextosDe(hoja)) {
-                EXPECT_GE(texto.dTamano * kMayuscula, 2.5 - 1e-9) << CadenaUtf8(texto.cs);
-                EXPECT_GT(texto.base.x, pagina.dIzquierdo);
-                EXPECT_LT(texto.base.x, pagina.Ancho() - pagina.dDerecho);
-                EXPECT_GT(texto.base.y, pagina.dSuperior);
-                EXPECT_LT(texto.base.y, pagina.Alto() - pagina.dInferior);
+    Esquema esquema;
+    esquema.csTitulo = L"Instalación aislada";
+    const auto poner = [&](Clase clase, const wchar_t* csTitulo, int iColumna, int iFila) {
+        esquema.elementos.push_back(
+            {.clase = clase,
+             .csTitulo = csTitulo,
+             .acsDatos = {L"Modelo ñ de un fabricante", L"Potencia FV máx.: 3207 W",
+                          L"2566 Wp (285 Wp cada uno)", L"Pmp: 96 V · 26,8 A", L"Corriente FV máx.: 35 A"},
+             .iColumna = iColumna,
+             .iFila = iFila,
+             .iSerie = 24,
+             .iParalelo = 12});
+    };
+    poner(Clase::paneles, L"288 paneles", 0, 0);
+    poner(Clase::regulador, L"Regulador de carga", 1, 0);
+    poner(Clase::acumuladores, L"288 acumuladores", 1, 1);
+    poner(Clase::cargas, L"Receptores CC", 2, 0);
+    poner(Clase::inversor, L"Salida en CA", 2, 1);
+    poner(Clase::cargas, L"Receptores CA", 3, 1);
+    for (const auto& [nDesde, nHasta] :
+         {std::pair<std::size_t, std::size_t>{0, 1}, {1, 2}, {1, 3}, {1, 4}, {4, 5}}) {
+        esquema.conexiones.push_back({nDesde, nHasta, L"230 V · 5000 W", L"L2 = 3,0 m", nDesde == 4,
+                                      L"2,5 mm² · 0,53 %", L"In: 124,2 a 127,0 A"});
+    }
+    return esquema;
+}
+
+struct Caja {
+    double x, y, dAncho, dAlto;
+
+    bool Pisa(const Caja& otra) const
+    {
+        return x < otra.x + otra.dAncho && otra.x < x + dAncho && y < otra.y + otra.dAlto && otra.y < y + dAlto;
+    }
+    bool Contiene(const Caja& otra) const
+    {
+        return otra.x >= x && otra.y >= y && otra.x + otra.dAncho <= x + dAncho &&
+               otra.y + otra.dAlto <= y + dAlto;
+    }
+};
+
+// Every text with its place; without the letters within symbols.
+std::vector<std::pair<Caja, CString>> Sitios(const Lamina& hoja)
+{
+    constexpr double kDescenso = 0.15, kMayuscula = 0.729;
+    const LetraAproximada medidor;
+    std::vector<std::pair<Caja, CString>> sitios;
+    for (const trazo::Texto& t : TextosDe(hoja)) {
+        const double dAncho = medidor.Ancho(t.cs, t.dTamano, t.bNegrita);
+        const double x = t.base.x - (t.lado == trazo::Texto::Lado::centro ? dAncho / 2 : 0.0);
+        if (t.cs.size() > 1 || t.lado == trazo::Texto::Lado::izquierda)
+            sitios.push_back(
+                {{x, t.base.y - kMayuscula * t.dTamano, dAncho, (kMayuscula + kDescenso) * t.dTamano}, t.cs});
+    }
+    return sitios;
+}
+
+// No text on another, on a line or over the edge of a card, nor out of the frame.
+void ExigirLegible(const Lamina& hoja, const Pagina& pagina)
+{
+    const Caja marco{pagina.dIzquierdo, pagina.dSuperior, pagina.Ancho() - pagina.dIzquierdo - pagina.dDerecho,
+                     pagina.Alto() - pagina.dSuperior - pagina.dInferior};
+    const auto textos = Sitios(hoja);
+    for (std::size_t i = 0; i < textos.size(); ++i) {
+        const Caja& texto = textos[i].first;
+        EXPECT_TRUE(marco.Contiene(texto)) << CadenaUtf8(textos[i].second);
+        for (std::size_t j = 0; j < i; ++j) {
+            EXPECT_FALSE(texto.Pisa(textos[j].first))
+                << CadenaUtf8(textos[i].second) << " / " << CadenaUtf8(textos[j].second);
+        }
+    }
+    for (const Trazo& t : hoja.trazos) {
+        const auto* linea = std::get_if<trazo::Linea>(&t);
+        const auto* caja = std::get_if<trazo::Caja>(&t);
+        for (const auto& [texto, cs] : textos) {
+            if (caja != nullptr && caja->relleno == Tinta::tarjeta) {
+                const Caja tarjeta{caja->esquina.x, caja->esquina.y, caja->dAncho, caja->dAlto};
+                EXPECT_TRUE(tarjeta.Contiene(texto) || !tarjeta.Pisa(texto)) << CadenaUtf8(cs);
+            }
+            for (std::size_t k = 1; linea != nullptr && k < linea->puntos.size(); ++k) {
+                const Punto a = linea->puntos[k - 1], b = linea->puntos[k];
+                const Caja tramo{std::min(a.x, b.x), std::min(a.y, b.y), std::abs(b.x - a.x),
+                                 std::abs(b.y - a.y)};
+                EXPECT_FALSE(tramo.Pisa(texto)) << CadenaUtf8(cs);
             }
         }
     }
-    EXPECT_THROW(
-        PlanoDe({EsquemaDeFilas(1)}, {}, {.formato = Formato::a4, .bApaisada = false, .dIzquierdo = 50.0}),
-        std::invalid_argument);
+}
+
+// Whatever the page set-up: it is laid out, over as many sheets as it takes, and can be read.
+TEST(Plano, CabeEnTodosLosPapelesYSeLee)
+{
+    constexpr double kMayuscula = 0.729;  // of the face, part of its size
+    constexpr auto kPaginas = std::to_array<std::tuple<Formato, bool, double>>({{Formato::a4, false, 5.0},
+                                                                                {Formato::a4, true, 10.0},
+                                                                                {Formato::a4, false, 10.0},
+                                                                                {Formato::a4, false, 25.0},
+                                                                                {Formato::a4, true, 25.0},
+                                                                                {Formato::a4, false, 40.0},
+                                                                                {Formato::a4, true, 40.0},
+                                                                                {Formato::a2, false, 10.0}});
+    for (const Esquema& esquema : {EsquemaDeFilas(1), EsquemaDeFilas(5), EsquemaAislado()}) {
+        for (const auto& [formato, bApaisada, dMargen] : kPaginas) {
+            const Pagina pagina{formato, bApaisada, dMargen, dMargen, dMargen, dMargen};
+            SCOPED_TRACE(pagina.Nombre() + " " + std::to_string(dMargen));
+            const Plano plano = PlanoDe({esquema}, {.fecha = "22-12-2028"}, pagina);
+            ASSERT_FALSE(plano.hojas.empty());
+            std::ptrdiff_t nTarjetas = 0;
+            for (const Lamina& hoja : plano.hojas) {
+                ExigirLegible(hoja, pagina);
+                for (const trazo::Texto& texto : TextosDe(hoja))
+                    EXPECT_GE(texto.dTamano * kMayuscula, (dMargen < 25.0 ? 2.5 : 2.0) - 1e-9);
+                nTarjetas += std::ranges::count_if(hoja.trazos, [](const Trazo& t) {
+                    const auto* caja = std::get_if<trazo::Caja>(&t);
+                    return caja != nullptr && caja->relleno == Tinta::tarjeta;
+                });
+            }
+            EXPECT_EQ(nTarjetas, std::ssize(esquema.elementos));
+        }
+    }
 }
 
 // What is on another sheet is named there; no element is lost or drawn twice.
@@ -103,7 +209,7 @@ TEST(Plano, LoQueNoCabeSigueEnOtraHoja)
     for (const Lamina& hoja : plano.hojas) {
         for (const trazo::Texto& texto : TextosDe(hoja)) {
             ++veces[texto.cs];
-            iRemisiones += texto.cs.find(L"en la hoja") != CString::npos ? 1 : 0;
+            iRemisiones += texto.cs.find(L"hoja\xA0") != CString::npos ? 1 : 0;
         }
     }
     for (int i = 1; i <= 5; ++i)

@@ -76,7 +76,7 @@ public:
             ->disable_flag_override();
         linea
             .add_option("--margen", m_dMargen,
-                        "Margen de los cuatro lados, 5 a 50 mm; si falta, 10 y, a la izquierda, 20")
+                        "Margen de los cuatro lados, 5 a 40 mm; si falta, 10 y, a la izquierda, 20")
             ->type_name("MM");
         linea.add_option("--revision", m_revision, "Revisión que dice el cajetín; si falta, la de la portada")
             ->type_name("TEXTO");

@@ -14,10 +14,10 @@
 
 namespace efv::report {
 
-/// Height of the capitals of the smallest letters.
-inline constexpr double kAlturaLetraPlano = 2.5;
+/// Height of the capitals of the smallest letters, and where a sheet has no room for a drawing with these.
+inline constexpr double kAlturaLetraPlano = 2.5, kAlturaLetraMinima = 2.0;
 
-inline constexpr double kMargenMinimo = 5.0, kMargenMaximo = 50.0;
+inline constexpr double kMargenMinimo = 5.0, kMargenMaximo = 40.0;
 
 enum class Formato { a4, a3, a2, a1, a0 };
 inline constexpr const char* kFormatos[] = {"A4", "A3", "A2", "A1", "A0"};  ///< in their order
@@ -56,9 +56,10 @@ struct Plano {
 };
 
 /// Lays a schematic out on sheets: the first of its forms that one sheet holds, else the last on as many as it
-/// takes; what is connected over sheets says where it goes on.
+/// takes; what is connected over sheets says where it goes on. Columns that don't fit beside each other go on
+/// below.
 /// @param esquemas of one design, such as with each of kDetallesDePlano
-/// @throws std::invalid_argument with a Spanish text when not even one row of it fits
+/// @throws std::invalid_argument with a Spanish text when a sheet is too small for one element
 EFV_API Plano PlanoDe(const std::vector<Esquema>& esquemas, const Cajetin& cajetin, const Pagina& pagina);
 
 /// As pages for PDF and printers.

@@ -40,9 +40,8 @@ TEST_F(OrdenEsquema, LoQueNoEntiendeSeDiceYNadaSeEscribe)
              {{}, 2},
              {{"--salida", Ruta("e.dwg")}, 2},
              {{"--salida", dxf, "--papel", "A7"}, 2},
-             {{"--salida", dxf, "--margen", "60"}, 2},
+             {{"--salida", dxf, "--margen", "45"}, 2},
              {{"--salida", dxf, "--formato", "png"}, 2},
-             {{"--salida", dxf, "--vertical", "--margen", "50"}, 1},  // doesn't fit
          }) {
         EXPECT_EQ(Dibujar("cubierta-red.json", opciones).iEstado, iEstado);
         EXPECT_FALSE(std::filesystem::exists(dxf));
