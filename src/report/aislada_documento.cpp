@@ -209,7 +209,7 @@ Documento EscribirDocumento(const ProyectoAislada& proyecto, const EstudioAislad
     documento.avisos = std::move(avisos);
     documento.secciones = {
         SeccionLugar(proyecto.lugar),
-        SeccionEsquema(EsquemaDe(proyecto, estudio)),
+        SeccionEsquema({EsquemaDe(proyecto, estudio)}),
         SeccionReceptores(proyecto),
         SeccionEnergia(v),
         SeccionAcumuladores(v),

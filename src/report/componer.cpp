@@ -170,6 +170,14 @@ BloqueParrafo::Aspecto Fuente()
     return aspecto;
 }
 
+// Above the drawing that it names.
+BloqueParrafo::Aspecto PieDeLamina()
+{
+    BloqueParrafo::Aspecto aspecto = Nota();
+    aspecto.bConElSiguiente = true;
+    return aspecto;
+}
+
 BloqueParrafo::Aspecto Punto(ui::Color color, double dCuerpo)
 {
     return {.dSangria = 10.0, .csMarca = L"·", .color = color, .dCuerpo = dCuerpo};
@@ -178,15 +186,11 @@ BloqueParrafo::Aspecto Punto(ui::Color color, double dCuerpo)
 void AnadirSeccion(const Documento& documento, const Seccion& seccion, const MedidorLetra& medidor,
                    Bloques& bloques)
 {
-    const bool bApaisada = std::ranges::any_of(seccion.laminas, &BloqueLamina::SaleMenuda);
-    if (bApaisada)
-        Anadir<BloqueApaisado>(bloques);
     Anadir<BloqueTitular>(bloques, seccion.titulo);
-    for (const Lamina& lamina : seccion.laminas) {
-        if (bApaisada)
-            Anadir<BloqueLaminaApaisada>(bloques, lamina);
-        else
-            Anadir<BloqueLamina>(bloques, lamina);
+    for (std::size_t i = 0; i < seccion.laminas.size(); ++i) {
+        if (seccion.laminas.size() > 1)
+            Anadir<BloqueParrafo>(bloques, HojaDeEsquema(seccion, i), PieDeLamina(), medidor);
+        Anadir<BloqueLamina>(bloques, seccion.laminas[i]);
     }
     if (TablaHoja datos = TablaDe(seccion.datos); !datos.filas.empty())
         Anadir<BloqueTabla>(bloques, std::move(datos), medidor);

@@ -64,6 +64,7 @@ footer { margin-top: 2rem; border-top: 1px solid var(--linea); padding-top: .5re
   th, td { padding: .12rem .5rem; }
   figure { margin: .5rem 0; }
   figure svg { max-height: 68mm; }
+  figure.esquema svg { width: 100%; max-height: 245mm; }
   footer { margin-top: .75rem; break-before: avoid; }
   * { print-color-adjust: exact; -webkit-print-color-adjust: exact; }
 }
@@ -108,9 +109,9 @@ std::string CuadroHtml(const Cuadro& cuadro)
 }
 
 // Inside a page a picture stands without a document's first line.
-std::string FiguraHtml(const std::string& svg)
+std::string FiguraHtml(const std::string& svg, const char* clase = "")
 {
-    return fmt::format("<figure>\n{}</figure>\n", svg.substr(std::min(svg.find("<svg"), svg.size())));
+    return fmt::format("<figure{}>\n{}</figure>\n", clase, svg.substr(std::min(svg.find("<svg"), svg.size())));
 }
 
 std::string Lista(const std::vector<std::string>& textos)
@@ -145,8 +146,11 @@ std::string SeccionHtml(const Documento& documento, std::size_t iSeccion)
     const Seccion& seccion = documento.secciones[iSeccion];
     std::string html = fmt::format("<section aria-labelledby=\"s{0}\">\n<h2 id=\"s{0}\">{1}</h2>\n",
                                    iSeccion + 1, Escapado(seccion.titulo));
-    for (const Lamina& lamina : seccion.laminas)
-        html += FiguraHtml(EscribirSvg(lamina));
+    for (std::size_t i = 0; i < seccion.laminas.size(); ++i) {
+        if (seccion.laminas.size() > 1)
+            html += fmt::format("<p class=\"nota\">{}</p>\n", HojaDeEsquema(seccion, i));
+        html += FiguraHtml(EscribirSvg(seccion.laminas[i]), " class=\"esquema\"");
+    }
     html += DatosHtml(seccion);
     for (const CCtrlCurva2D& grafica : seccion.graficas)
         html += FiguraHtml(ui::EscribirSvg(grafica, kAnchoGrafica, kAltoGrafica));

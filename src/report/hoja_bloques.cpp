@@ -10,7 +10,8 @@ namespace {
 
 constexpr double kAntesTitular = 12.0, kCuerpoTitular = 13.0, kAltoTitular = 26.0;
 constexpr double kAltoGrafica = 185.0, kAltoGraficaMinimo = 140.0, kTrasFigura = 10.0;
-constexpr double kPuntosPorPixel = 0.75, kAltoLaminaMaximo = 430.0, kMenguaLamina = 0.92;
+constexpr double kPuntosPorUnidad = 0.88;  // letters of 11.5 units are some 2.6 mm high then
+constexpr double kAltoLaminaMaximo = papel::kAbajo - papel::kArriba - kAltoTitular;
 constexpr std::size_t kFichasPorFila = 3;
 constexpr double kEntreFichas = 8.0, kCuerpoRotulo = 7.5, kCuerpoValor = 11.0, kLadoFicha = 8.0;
 constexpr double kAnchoFicha = (papel::kAncho - static_cast<double>(kFichasPorFila - 1) * kEntreFichas) /
@@ -80,54 +81,29 @@ void BloqueGrafica::Poner(Pliego& pliego) const
     pliego.Bajar(dAlto + kTrasFigura);
 }
 
+// As wide as the column at most; a schematic laid out for the sheet is hardly higher than it.
 BloqueLamina::BloqueLamina(const Lamina& lamina)
     : m_lamina(lamina),
       m_dEscala(
           lamina.dAncho > 0.0 && lamina.dAlto > 0.0
-              ? std::min({kPuntosPorPixel, papel::kAncho / lamina.dAncho, kAltoLaminaMaximo / lamina.dAlto})
+              ? std::min({kPuntosPorUnidad, papel::kAncho / lamina.dAncho, kAltoLaminaMaximo / lamina.dAlto})
               : 0.0)
 {
 }
 
-bool BloqueLamina::SaleMenuda(const Lamina& lamina)
+double BloqueLamina::Minimo(double /*dResto*/) const
 {
-    constexpr double kEscalaMinima = 0.6;  // letters of 11.5 units become some 7 points
-    return lamina.dAncho > 0.0 && BloqueLamina(lamina).m_dEscala < kEscalaMinima;
-}
-
-double BloqueLamina::Minimo(double dResto) const
-{
-    const double dAlto = m_lamina.dAlto * m_dEscala;
-    return dResto >= kMenguaLamina * dAlto ? std::min(dResto, dAlto) : dAlto;
+    return m_lamina.dAlto * m_dEscala;
 }
 
 void BloqueLamina::Poner(Pliego& pliego) const
 {
     if (m_dEscala <= 0.0)
         return;
-    const double dEscala = std::min(m_dEscala, pliego.Resto() / m_lamina.dAlto);
-    const double dLibre = papel::kAncho - m_lamina.dAncho * dEscala;
-    PonerLamina(pliego.Piezas(), m_lamina, {papel::kIzquierda + dLibre / 2, pliego.y}, dEscala, pliego.medidor);
-    pliego.Bajar(m_lamina.dAlto * dEscala + kTrasFigura);
-}
-
-void BloqueApaisado::Poner(Pliego& pliego) const
-{
-    pliego.Saltar(true);
-}
-
-void BloqueLaminaApaisada::Poner(Pliego& pliego) const
-{
-    const double dAncho = pliego.impreso.hojas.back().dAncho - 2 * papel::kIzquierda;
-    if (m_lamina.dAncho > 0.0 && m_lamina.dAlto > 0.0) {
-        const double dEscala =
-            std::min({kPuntosPorPixel, dAncho / m_lamina.dAncho, pliego.Resto() / m_lamina.dAlto});
-        PonerLamina(pliego.Piezas(), m_lamina,
-                    {papel::kIzquierda + (dAncho - m_lamina.dAncho * dEscala) / 2, pliego.y}, dEscala,
-                    pliego.medidor);
-    }
-    // What follows stands on sheets that stand.
-    pliego.Bajar(pliego.Resto());
+    const double dLibre = papel::kAncho - m_lamina.dAncho * m_dEscala;
+    PonerLamina(pliego.Piezas(), m_lamina, {papel::kIzquierda + dLibre / 2, pliego.y}, m_dEscala,
+                pliego.medidor);
+    pliego.Bajar(m_lamina.dAlto * m_dEscala + kTrasFigura);
 }
 
 BloqueResumen::BloqueResumen(const std::vector<Dato>& datos, const MedidorLetra& medidor)

@@ -29,7 +29,7 @@ public:
         ui::Color color = papel::kTinta;
         double dCuerpo = papel::kCuerpo;
         double dDetras = 3.0;  ///< room below, points
-        bool bConElAnterior = false;
+        bool bConElAnterior = false, bConElSiguiente = false;
     };
 
     BloqueParrafo(const std::string& texto, Aspecto aspecto, const MedidorLetra& medidor);
@@ -37,6 +37,7 @@ public:
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
     bool ConElAnterior() const override { return m_aspecto.bConElAnterior; }
+    bool ConElSiguiente() const override { return m_aspecto.bConElSiguiente; }
 
 private:
     double Renglon() const;
@@ -57,13 +58,10 @@ private:
     const CCtrlCurva2D& m_grafica;
 };
 
-/// A schematic, whole; where little room is left, somewhat smaller.
+/// A schematic, or one of its sheets, whole.
 class BloqueLamina final : public Bloque {
 public:
     explicit BloqueLamina(const Lamina& lamina);
-
-    /// Whether its letters would be hard to read on a sheet that stands.
-    static bool SaleMenuda(const Lamina& lamina);
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
@@ -71,26 +69,6 @@ public:
 private:
     const Lamina& m_lamina;
     double m_dEscala;
-};
-
-/// Where the drawing of a schematic stands on a sheet of its own, lying, since its letters would be too small
-/// on one that stands: begins that sheet, with the heading before it.
-class BloqueApaisado final : public Bloque {
-public:
-    double Minimo(double /*dResto*/) const override { return 0.0; }
-    void Poner(Pliego& pliego) const override;
-};
-
-/// A schematic on the sheet that BloqueApaisado began, which it fills.
-class BloqueLaminaApaisada final : public Bloque {
-public:
-    explicit BloqueLaminaApaisada(const Lamina& lamina) : m_lamina(lamina) {}
-
-    double Minimo(double /*dResto*/) const override { return 0.0; }
-    void Poner(Pliego& pliego) const override;
-
-private:
-    const Lamina& m_lamina;
 };
 
 /// The figures that count, a few a row.

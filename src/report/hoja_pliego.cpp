@@ -8,11 +8,9 @@ namespace efv::report {
 
 MedidorLetra::~MedidorLetra() = default;
 
-void Pliego::Saltar(bool bApaisada)
+void Pliego::Saltar()
 {
-    Hoja& hoja = impreso.hojas.emplace_back();
-    if (bApaisada)
-        std::swap(hoja.dAncho, hoja.dAlto);
+    impreso.hojas.emplace_back();
     y = papel::kArriba;
 }
 

@@ -21,9 +21,9 @@ class Pliego {
 public:
     explicit Pliego(const MedidorLetra& medidorDeLetra) : medidor(medidorDeLetra) { Saltar(); }
 
-    void Saltar(bool bApaisada = false);
+    void Saltar();
     void Bajar(double d) { y += d; }
-    double Resto() const { return impreso.hojas.back().dAlto - (kAltoHoja - papel::kAbajo) - y; }
+    double Resto() const { return papel::kAbajo - y; }
     static double Entera() { return papel::kAbajo - papel::kArriba; }
 
     std::vector<Pieza>& Piezas() { return impreso.hojas.back().piezas; }

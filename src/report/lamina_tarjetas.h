@@ -28,8 +28,9 @@ struct Medidas {
     const MedidorLetra* medidor = nullptr;  ///< of lines that break
 };
 
-/// In lines as wide as that room takes, or the narrowest.
-Lamina DibujarEnAncho(const Esquema& esquema, double dAncho);
+/// The first of a design's forms that a sheet with that room holds, else the last on as many as it takes; none
+/// when a sheet is too small for one element. Without the schematic's notes.
+std::vector<Lamina> DibujarEnHojas(const std::vector<Esquema>& esquemas, double dAncho, double dAlto);
 
 class Delineante {
 public:

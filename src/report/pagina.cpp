@@ -120,6 +120,11 @@ std::vector<std::string> SupuestosSueltos(const Documento& documento)
     return textos;
 }
 
+std::string HojaDeEsquema(const Seccion& seccion, std::size_t nLamina)
+{
+    return fmt::format("Esquema, hoja {} de {}", nLamina + 1, seccion.laminas.size());
+}
+
 std::vector<std::string> TextosDe(const std::vector<Supuesto>& supuestos)
 {
     std::vector<std::string> textos;

@@ -26,6 +26,9 @@ std::vector<std::string> FilaEnPagina(const Cuadro& cuadro, const std::vector<st
 std::vector<std::string> SupuestosDe(const Documento& documento, const Seccion& seccion);
 std::vector<std::string> SupuestosSueltos(const Documento& documento);
 
+/// What stands above a schematic of several sheets.
+std::string HojaDeEsquema(const Seccion& seccion, std::size_t nLamina);
+
 /// Without their sections.
 std::vector<std::string> TextosDe(const std::vector<Supuesto>& supuestos);
 

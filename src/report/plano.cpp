@@ -252,20 +252,6 @@ std::vector<Lamina> Tender(const Esquema& esquema, const Sitio& sitio)
     return mejor;
 }
 
-// The first that takes one sheet, else the last.
-std::vector<Lamina> Tender(const std::vector<Esquema>& esquemas, double dAncho, double dAlto)
-{
-    std::vector<Lamina> hojas;
-    for (const Esquema& esquema : esquemas) {
-        Esquema limpio = ConFallosAbajo(Limpio(esquema));
-        limpio.acsNotas.clear();  // they stand below the drawing
-        hojas = Tender(limpio, {dAncho, dAlto, &esquema == &esquemas.back()});
-        if (!hojas.empty())
-            break;
-    }
-    return hojas;
-}
-
 void Escalar(Lamina& lamina, double dEscala, double x, double y)
 {
     const auto mover = [&](Punto& p) { p = {x + p.x * dEscala, y + p.y * dEscala}; };
@@ -336,18 +322,19 @@ std::string NombreDe(const LugarDiseno& lugar)
     return lugar.localidad ? CadenaUtf8(lugar.localidad->csNombre) : lugar.nombre;
 }
 
-Lamina DibujarEnAncho(const Esquema& esquema, double dAncho)
+std::vector<Lamina> DibujarEnHojas(const std::vector<Esquema>& esquemas, double dAncho, double dAlto)
 {
-    if (esquema.elementos.empty())
-        return {};
-    const Esquema limpio = Limpio(esquema);
-    const std::vector<Medidas> todas = MedidasDePapel(kAhorros.front());
-    for (const Medidas& medidas : todas) {
-        Delineante delineante(limpio, medidas);
-        if (delineante.Ancho() <= dAncho)
-            return delineante.Dibujar();
+    std::vector<Lamina> hojas;
+    for (const Esquema& esquema : esquemas) {
+        if (esquema.elementos.empty())
+            return {};
+        Esquema limpio = Limpio(esquema);
+        limpio.acsNotas.clear();  // whoever shows the sheets says them
+        hojas = Tender(limpio, {dAncho, dAlto, &esquema == &esquemas.back()});
+        if (!hojas.empty())
+            break;
     }
-    return Delineante(limpio, todas.back()).Dibujar();
+    return hojas;
 }
 
 Plano PlanoDe(const std::vector<Esquema>& esquemas, const Cajetin& cajetin, const Pagina& pagina)
@@ -361,11 +348,13 @@ Plano PlanoDe(const std::vector<Esquema>& esquemas, const Cajetin& cajetin, cons
     const double dAnchoNotas = pagina.Ancho() - pagina.dIzquierdo - pagina.dDerecho - 2 * kHolgura;
     const std::vector<Nota> notas = NotasDe(esquema, dAnchoNotas);
     const Area area = AreaDe(pagina, plano.cajetin, notas.size());
+    std::vector<Esquema> conFallosAbajo(esquemas.size());
+    std::ranges::transform(esquemas, conFallosAbajo.begin(), ConFallosAbajo);
     double dMilimetros = 0.0;  // of a unit
     for (const double dAltura :
          {kAlturaLetraPlano, (kAlturaLetraPlano + kAlturaLetraMinima) / 2, kAlturaLetraMinima}) {
         dMilimetros = dAltura / kAlturaMayuscula / kLetraPequena;
-        plano.hojas = Tender(esquemas, area.dAncho / dMilimetros, area.dAlto / dMilimetros);
+        plano.hojas = DibujarEnHojas(conFallosAbajo, area.dAncho / dMilimetros, area.dAlto / dMilimetros);
         if (!plano.hojas.empty())
             break;
     }

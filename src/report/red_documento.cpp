@@ -158,7 +158,8 @@ Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estud
     documento.resumen = Resumen(estudio);
     documento.avisos = std::move(avisos);
     documento.secciones = {SeccionLugar(proyecto.lugar),
-                           SeccionEsquema(EsquemaDe(proyecto, estudio)),
+                           SeccionEsquema({EsquemaDe(proyecto, estudio, Detalle::unoAUno),
+                                           EsquemaDe(proyecto, estudio, Detalle::agrupados)}),
                            SeccionEquipos(v),
                            SeccionCampo(v),
                            SeccionGeometria(v),

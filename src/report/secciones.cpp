@@ -54,12 +54,16 @@ Dato DatoModelo(std::string rotulo, const CString& csId)
     return dato;
 }
 
-Seccion SeccionEsquema(const Esquema& esquema)
+Seccion SeccionEsquema(const std::vector<Esquema>& esquemas)
 {
-    constexpr double kAncho = 875.0;  // letters can be read then on a sheet of A4 that lies
+    // A sheet of A4 within its margins and below the heading, while capitals are 2.5 mm high.
+    constexpr double kAncho = 583.0, kAlto = 790.0;
     Seccion seccion("Esquema de la instalación");
     seccion.bSoloPagina = true;
-    seccion.laminas.push_back(DibujarEnAncho(esquema, kAncho));
+    seccion.laminas = DibujarEnHojas(esquemas, kAncho, kAlto);
+    if (!esquemas.empty())
+        for (const CString& csNota : esquemas.front().acsNotas)
+            seccion.notas.push_back(CadenaUtf8(csNota));
     return seccion;
 }
 

@@ -40,7 +40,8 @@ inline constexpr const char* kTituloComprobacion = "Comprobación a las temperat
 Seccion SeccionMeses(const LugarDiseno& lugar, const solar::AnoEnergia& ano, const solar::DoceMeses* necesaria);
 
 /// The schematic, for pages.
-Seccion SeccionEsquema(const Esquema& esquema);
+/// @param esquemas of one design, such as with each of kDetallesDePlano
+Seccion SeccionEsquema(const std::vector<Esquema>& esquemas);
 
 /// The limits that the field was held against, and what keeps to them instead of the assistant's proposal.
 /// @param bAlcanza whether the design reaches the power that is asked for

@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include "report/letra_aproximada.h"
+#include "report/secciones.h"
 
 namespace {
 
@@ -196,6 +197,31 @@ TEST(Plano, CabeEnTodosLosPapelesYSeLee)
             }
             EXPECT_EQ(nTarjetas, std::ssize(esquema.elementos));
         }
+    }
+}
+
+// As on sheets of its own, whatever the number of inverters.
+TEST(Plano, EnElInformeSeLeeIgual)
+{
+    constexpr double kPuntos = 72.0 / 25.4, kMayuscula = 0.729;
+    for (const int iFilas : {1, 3, 5}) {
+        Documento documento;
+        documento.secciones.push_back(SeccionEsquema({EsquemaDeFilas(iFilas)}));
+        const Impreso impreso = Componer(documento, {}, LetraAproximada());
+        int iInversores = 0;
+        for (const Hoja& hoja : impreso.hojas) {
+            for (const Pieza& pieza : hoja.piezas) {
+                const auto* texto = std::get_if<hoja::Texto>(&pieza);
+                if (texto == nullptr)
+                    continue;
+                EXPECT_LT(texto->base.y, hoja.dAlto - 36.0 + 1.0);
+                iInversores += texto->cs.find(L"Inversor") == 0 && texto->bNegrita ? 1 : 0;
+                if (texto->cs.find(L"120") == 0) {
+                    EXPECT_GE(texto->dCuerpo * kMayuscula / kPuntos, 2.5 - 1e-2);
+                }
+            }
+        }
+        EXPECT_EQ(iInversores, iFilas);
     }
 }
 
