@@ -92,7 +92,9 @@ public:
         texto("--barrido", m_barrido, "Lo mismo con otras potencias, kWp: 1..15, 1..6:0,5 o 2;3;4", "kWp");
         texto("--baterias", m_baterias, "Y con otras capacidades de batería, kWh; 0, sin ella", "kWh");
         texto("--informe", m_informe,
-              "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF", "FICHERO");
+              "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF; con «-», la "
+              "página por la salida estándar",
+              "FICHERO");
         texto("--svg", m_svg, "Dibuja el barrido", "FICHERO");
         texto("--guardar", m_guardar,
               "Guarda el registro del estudio como archivo, que los diálogos y otro programa pueden abrir",

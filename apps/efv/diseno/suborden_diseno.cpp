@@ -160,7 +160,8 @@ public:
             ->type_name("FICHERO");
         linea
             .add_option("--informe", m_informe,
-                        "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF")
+                        "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF; con "
+                        "«-», la página por la salida estándar")
             ->type_name("FICHERO");
         linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         linea.footer(AyudaDeCampos(m_clase.registro()) + "\n\n" + m_clase.pie);

@@ -82,7 +82,8 @@ void ImprimirEsquema(const CProyectoEstudio& proyecto, Diseno diseno)
 
 void VerEsquemaImpreso(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    VerImpreso(HojasDelPlano(proyecto, diseno), "Vista preliminar del esquema");
+    VerImpreso(
+        {"Vista preliminar del esquema", [&] { return HojasDelPlano(proyecto, diseno); }, &ConfigurarPagina});
 }
 
 }  // namespace efv::estudio

@@ -1,17 +1,22 @@
 #include "informe/imprimir.h"
 
 #include <algorithm>
+#include <cmath>
 #include <exception>
 #include <memory>
 #include <stdexcept>
 
+#include <QAction>
+#include <QCoreApplication>
 #include <QFontDatabase>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPrintDialog>
 #include <QPrintPreviewDialog>
+#include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QToolBar>
 
 #include "pdf/pdf.h"
 
@@ -109,15 +114,35 @@ private:
 
 namespace {
 
-// The sheets have their own margins.
-QPageLayout DisposicionDe(const report::Hoja& hoja)
+QSizeF TamanoDe(const report::Hoja& hoja)
 {
-    const auto [dCorto, dLargo] = std::minmax(hoja.dAncho, hoja.dAlto);
-    const QPageSize papel(QSizeF(dCorto, dLargo), QPageSize::Point, QString(), QPageSize::FuzzyMatch);
+    return {hoja.dAncho, hoja.dAlto};
+}
+
+// The sheets have their own margins.
+QPageLayout DisposicionEn(const QPageSize& papel, const report::Hoja& hoja)
+{
     QPageLayout disposicion(papel, hoja.dAncho > hoja.dAlto ? QPageLayout::Landscape : QPageLayout::Portrait,
                             QMarginsF());
     disposicion.setMode(QPageLayout::FullPageMode);
     return disposicion;
+}
+
+QPageSize PapelDe(const report::Hoja& hoja)
+{
+    const auto [dCorto, dLargo] = std::minmax(hoja.dAncho, hoja.dAlto);
+    return QPageSize(QSizeF(dCorto, dLargo), QPageSize::Point, QString(), QPageSize::FuzzyMatch);
+}
+
+// On paper of another size, such as the only one that a printer has, a sheet is fitted whole and in the middle.
+QTransform EncajeEn(const QSizeF& papel, const QSizeF& hoja)
+{
+    constexpr double kIgual = 0.01;
+    const double dEscala = std::min(papel.width() / hoja.width(), papel.height() / hoja.height());
+    if (std::abs(dEscala - 1.0) < kIgual)
+        return {};
+    const QSizeF libre = papel - hoja * dEscala;
+    return QTransform::fromTranslate(libre.width() / 2, libre.height() / 2).scale(dEscala, dEscala);
 }
 
 std::unique_ptr<QPrinter> ImpresoraPara(const report::Impreso& impreso)
@@ -126,39 +151,74 @@ std::unique_ptr<QPrinter> ImpresoraPara(const report::Impreso& impreso)
         throw std::runtime_error("No hay nada que imprimir.");
     auto impresora = std::make_unique<QPrinter>(QPrinter::HighResolution);
     impresora->setDocName(QString::fromStdString(impreso.titulo));
-    impresora->setPageLayout(DisposicionDe(impreso.hojas.front()));
+    impresora->setPageLayout(DisposicionEn(PapelDe(impreso.hojas.front()), impreso.hojas.front()));
     return impresora;
+}
+
+// The sheets that the person asked the printer for, in their order; copies, where it makes none itself.
+std::vector<std::size_t> PaginasPedidas(const QPrinter& impresora, std::size_t nHojas)
+{
+    const bool bParte = impresora.printRange() == QPrinter::PageRange && impresora.fromPage() > 0;
+    const std::size_t nDesde = bParte ? static_cast<std::size_t>(impresora.fromPage()) : 1;
+    const std::size_t nHasta = bParte ? std::min(nHojas, static_cast<std::size_t>(impresora.toPage())) : nHojas;
+    std::vector<std::size_t> paginas;
+    for (std::size_t n = nDesde; n <= nHasta; ++n)
+        paginas.push_back(n - 1);
+    if (impresora.pageOrder() == QPrinter::LastPageFirst)
+        std::ranges::reverse(paginas);
+    const int iCopias = impresora.supportsMultipleCopies() ? 1 : impresora.copyCount();
+    const std::vector<std::size_t> juego = paginas;
+    for (int i = 1; i < iCopias; ++i)
+        paginas.insert(paginas.end(), juego.begin(), juego.end());
+    if (!impresora.collateCopies() && iCopias > 1)
+        std::ranges::stable_sort(paginas, {}, [&](std::size_t n) { return std::ranges::find(juego, n); });
+    return paginas;
+}
+
+void Pintar(QPainter& pintor, const report::Hoja& hoja, const QString& familia, const QPagedPaintDevice& papel)
+{
+    const QSizeF tamano = papel.pageLayout().fullRectPoints().size();
+    pintor.save();
+    pintor.scale(papel.logicalDpiX() / kPuntosPorPulgada, papel.logicalDpiY() / kPuntosPorPulgada);
+    pintor.setTransform(EncajeEn(tamano, TamanoDe(hoja)), true);
+    const Pintor deHoja(pintor, familia);
+    for (const report::Pieza& pieza : hoja.piezas)
+        std::visit(deHoja, pieza);
+    pintor.restore();
+}
+
+/// The actions of a preview that would change what the sheets say themselves.
+void QuitarLasDePagina(const QPrintPreviewDialog& dialogo)
+{
+    for (const char* texto : {"Portrait", "Landscape", "Page setup"}) {
+        const QString traducido = QCoreApplication::translate("QPrintPreviewDialog", texto);
+        for (QAction* accion : dialogo.findChildren<QAction*>())
+            if (accion->text() == traducido)
+                accion->setVisible(false);
+    }
 }
 
 }  // namespace
 
-void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel, std::size_t nDesde,
-                 std::size_t nHasta)
+void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel,
+                 const std::vector<std::size_t>& paginas)
 {
+    constexpr const char* kNoResponde = "No se puede imprimir: la impresora no responde.";
     const pdf::Letras letras = pdf::LetrasInstaladas();
     const QString familia = Familia(letras.normal);
     Familia(letras.negrita);  // the bold one of the same family
-    const auto preparar = [&](const report::Hoja& hoja) { papel.setPageLayout(DisposicionDe(hoja)); };
-    if (nDesde >= impreso.hojas.size())
-        return;
-    preparar(impreso.hojas[nDesde]);
+    const QPageSize hay = papel.pageLayout().pageSize();
     QPainter pintor;
-    if (!pintor.begin(&papel))
-        throw std::runtime_error("No se puede imprimir: la impresora no responde.");
-    pintor.setRenderHint(QPainter::Antialiasing);
-    for (std::size_t i = nDesde; i <= std::min(nHasta, impreso.hojas.size() - 1); ++i) {
-        if (i > nDesde) {
-            preparar(impreso.hojas[i]);
-            if (!papel.newPage())
-                throw std::runtime_error("No se puede imprimir: la impresora no responde.");
-        }
-        pintor.save();
-        pintor.scale(papel.logicalDpiX() / kPuntosPorPulgada, papel.logicalDpiY() / kPuntosPorPulgada);
-        const Pintor hoja(pintor, familia);
-        for (const report::Pieza& pieza : impreso.hojas[i].piezas)
-            std::visit(hoja, pieza);
-        pintor.restore();
+    for (const std::size_t n : paginas) {
+        const report::Hoja& hoja = impreso.hojas.at(n);
+        papel.setPageLayout(DisposicionEn(hay, hoja));
+        if (!(pintor.isActive() ? papel.newPage() : pintor.begin(&papel)))
+            throw std::runtime_error(kNoResponde);
+        pintor.setRenderHint(QPainter::Antialiasing);
+        Pintar(pintor, hoja, familia, papel);
     }
+    if (pintor.isActive() && !pintor.end())
+        throw std::runtime_error(kNoResponde);
 }
 
 report::Impreso HojasDe(const CProyectoEstudio& proyecto, Diseno diseno)
@@ -173,28 +233,41 @@ void Imprimir(const report::Impreso& impreso, const char* titulo)
     QPrintDialog dialogo(impresora.get());
     dialogo.setWindowTitle(QString::fromUtf8(titulo));
     dialogo.setMinMax(1, static_cast<int>(impreso.hojas.size()));
-    if (dialogo.exec() != QDialog::Accepted)
-        return;
-    const bool bParte = impresora->printRange() == QPrinter::PageRange && impresora->fromPage() > 0;
-    const std::size_t nDesde = bParte ? static_cast<std::size_t>(impresora->fromPage()) - 1 : 0;
-    const std::size_t nHasta =
-        bParte ? static_cast<std::size_t>(impresora->toPage()) - 1 : impreso.hojas.size() - 1;
-    PintarHojas(impreso, *impresora, nDesde, nHasta);
+    if (dialogo.exec() == QDialog::Accepted)
+        PintarHojas(impreso, *impresora, PaginasPedidas(*impresora, impreso.hojas.size()));
 }
 
-void VerImpreso(const report::Impreso& impreso, const char* titulo)
+void VerImpreso(const VistaImpresa& vista)
 {
+    report::Impreso impreso = vista.componer();
     const auto impresora = ImpresoraPara(impreso);
     QPrintPreviewDialog dialogo(impresora.get());
-    dialogo.setWindowTitle(QString::fromUtf8(titulo));
+    dialogo.setWindowTitle(QString::fromUtf8(vista.titulo));
+    QuitarLasDePagina(dialogo);
     std::exception_ptr fallo;  // must not pass through the dialog's loop
-    QObject::connect(&dialogo, &QPrintPreviewDialog::paintRequested, &dialogo, [&](QPrinter* papel) {
+    const auto cuidar = [&](const auto& hacer) {
         try {
-            PintarHojas(impreso, *papel, 0, impreso.hojas.size() - 1);
+            hacer();
         } catch (...) {
             fallo = std::current_exception();
+            dialogo.reject();
         }
+    };
+    QObject::connect(&dialogo, &QPrintPreviewDialog::paintRequested, &dialogo, [&](QPrinter* papel) {
+        cuidar([&] { PintarHojas(impreso, *papel, PaginasPedidas(*papel, impreso.hojas.size())); });
     });
+    auto* barra = dialogo.findChild<QToolBar*>();
+    auto* hojas = dialogo.findChild<QPrintPreviewWidget*>();
+    if (vista.configurar && barra != nullptr && hojas != nullptr) {
+        QObject::connect(barra->addAction("&Configurar página…"), &QAction::triggered, &dialogo, [&] {
+            cuidar([&] {
+                vista.configurar();
+                impreso = vista.componer();
+                impresora->setPageLayout(DisposicionEn(PapelDe(impreso.hojas.front()), impreso.hojas.front()));
+                hojas->updatePreview();
+            });
+        });
+    }
     dialogo.resize(kAnchoVista, kAltoVista);
     dialogo.exec();
     if (fallo)
@@ -208,7 +281,7 @@ void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno)
 
 void VerInforme(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    VerImpreso(HojasDe(proyecto, diseno), "Vista preliminar del informe");
+    VerImpreso({"Vista preliminar del informe", [&] { return HojasDe(proyecto, diseno); }, {}});
 }
 
 }  // namespace efv::estudio

@@ -1,6 +1,9 @@
 // Reports on paper: the sheets of the PDF, painted.
 #pragma once
 
+#include <functional>
+#include <vector>
+
 #include <QtGlobal>
 
 #include <quorvel/report/hojas.h>
@@ -16,17 +19,24 @@ namespace efv::estudio {
 /// The report of a design on sheets. @throws std::runtime_error with a Spanish text
 report::Impreso HojasDe(const CProyectoEstudio& proyecto, Diseno diseno);
 
-/// Paints the sheets `nDesde` to `nHasta`, from 0, each on a page of its size.
-/// @throws std::runtime_error with a Spanish text
-void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel, std::size_t nDesde,
-                 std::size_t nHasta);
+/// Paints sheets, numbered from 0, a page each of the paper that the device has; on one of another size they
+/// are fitted. @throws std::runtime_error with a Spanish text
+void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel,
+                 const std::vector<std::size_t>& paginas);
 
 /// Asks for the printer and prints the sheets. @param titulo of the window @throws std::runtime_error with a
 /// Spanish text
 void Imprimir(const report::Impreso& impreso, const char* titulo);
 
+/// A preview.
+struct VistaImpresa {
+    const char* titulo;  ///< of the window
+    std::function<report::Impreso()> componer;
+    std::function<void()> configurar;  ///< asks for the page set-up; empty: there is none
+};
+
 /// Shows the sheets as they will be printed. @throws std::runtime_error with a Spanish text
-void VerImpreso(const report::Impreso& impreso, const char* titulo);
+void VerImpreso(const VistaImpresa& vista);
 
 /// Asks for the printer and prints the report of a design. @throws std::runtime_error with a Spanish text
 void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno);

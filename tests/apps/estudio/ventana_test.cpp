@@ -399,19 +399,24 @@ TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
     }
 }
 
-// As many pages on paper as the sheets chosen, whatever the printer.
+// As many pages on paper as the sheets chosen, of the paper that the printer has.
 TEST_F(Ventanas, ElInformeSeImprimeHojaAHoja)
 {
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
     const report::Impreso impreso = HojasDe(sesion.Proyecto(), Diseno::red);
-    for (const auto& [nDesde, nHasta] : {std::pair<std::size_t, std::size_t>{0, 99}, {2, 3}}) {
+    for (const auto& [papelHay, paginas, medida] :
+         {std::tuple<QPageSize::PageSizeId, std::vector<std::size_t>, const char*>{
+              QPageSize::A4, {0, 1, 2, 3, 4}, "595"},
+          {QPageSize::Letter, {3, 2}, "612"}}) {
         QByteArray bytes;
         QBuffer salida(&bytes);
         salida.open(QIODevice::WriteOnly);
         QPdfWriter papel(&salida);
-        PintarHojas(impreso, papel, nDesde, nHasta);
-        const std::size_t nHojas = nHasta == 3 ? 2 : impreso.hojas.size();
-        EXPECT_EQ(static_cast<std::size_t>(bytes.count("/Type /Page\n")), nHojas);
+        papel.setPageSize(QPageSize(papelHay));
+        PintarHojas(impreso, papel, paginas);
+        EXPECT_EQ(static_cast<std::size_t>(bytes.count("/Type /Page\n")), paginas.size());
+        EXPECT_EQ(static_cast<std::size_t>(bytes.count(QByteArray("/MediaBox [0 0 ") + medida)),
+                  paginas.size());
     }
 }
 
