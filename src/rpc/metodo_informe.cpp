@@ -52,6 +52,22 @@ report::LugarDiseno LeerLugar(const Json& j)
     return lugar;
 }
 
+report::DatosPortada LeerPortada(const Json& j)
+{
+    if (!j.is_object())
+        Esperaba("un objeto", j);
+    ExigirConocidos(j, {"customer", "address", "author", "signature", "revision"});
+    report::DatosPortada datos;
+    for (const auto& [nombre, texto] : {std::pair("customer", &datos.cliente),
+                                        {"address", &datos.direccion},
+                                        {"author", &datos.autor},
+                                        {"signature", &datos.firma},
+                                        {"revision", &datos.revision}})
+        if (j.contains(nombre))
+            *texto = Texto(j[nombre]);
+    return datos;
+}
+
 std::unique_ptr<CObject> CrearDiseno(const Json& nombre)
 {
     if (!Dice(nombre, "CSFVAsistenteAislada") && !Dice(nombre, "CSFVAsistenteRed"))
@@ -75,13 +91,15 @@ void EscribirInforme(const Json& params, std::string& salida)
 {
     std::unique_ptr<CObject> registro;
     const Json& nombre = Miembro(params, "record", "el nombre de un registro");
-    ExigirConocidos(params, {"record", "value", "title", "place", "format"});
+    ExigirConocidos(params, {"record", "value", "title", "cover", "place", "format"});
     NombrarLugar([] { return "record"; }, [&] { registro = CrearDiseno(nombre); });
     const Json& valor = Miembro(params, "value", "los campos del registro");
     NombrarLugar([] { return "value"; }, [&] { LeerRegistro(valor, *registro); });
     report::Portada portada;
     if (params.contains("title"))
         NombrarLugar([] { return "title"; }, [&] { portada.titulo = Texto(params["title"]); });
+    if (params.contains("cover"))
+        NombrarLugar([] { return "cover"; }, [&] { portada.datos = LeerPortada(params["cover"]); });
     const Json& lugar = Miembro(params, "place", "el lugar");
     NombrarLugar([] { return "place"; }, [&] { portada.lugar = LeerLugar(lugar); });
     const bool bHtml = !params.contains("format") || Dice(params["format"], "html");

@@ -38,9 +38,12 @@ TEST_F(Informe, DiceElDisenoAceptado)
     for (const char* dicho : {"Nave <7>", "Aquí", "285,1 Wp", "kWh"})
         EXPECT_NE(texto.find(dicho), std::string::npos) << dicho << "\n" << texto;
     peticion.erase("format");
+    peticion["cover"] = {{"customer", "Ayuntamiento"}, {"signature", "Elena <V>"}};
     const std::string pagina = anfitrion.Resultado("rpc.report", peticion)["text"];
     EXPECT_EQ(pagina.find("<!DOCTYPE html>"), 0U);
     EXPECT_NE(pagina.find("Nave &lt;7&gt;"), std::string::npos);
+    for (const char* dicho : {"Ayuntamiento", "Firma: Elena &lt;V&gt;"})
+        EXPECT_NE(pagina.find(dicho), std::string::npos) << dicho;
     // Without radiations there is no energy, and it isn't 0.
     peticion["place"].erase("radiation");
     peticion["format"] = "text";
@@ -62,6 +65,7 @@ TEST_F(Informe, LoQueFaltaSeNombra)
                           {"/place/latitude", 91, "latitude"},
                           {"/place/radiation", {1, 2}, "place"},
                           {"/place/radiacion", 1, "radiacion"},
+                          {"/cover", {{"client", "A"}}, "client"},
                           {"/format", "pdf", "html o text"}};
     for (const Caso& caso : casos) {
         Json mala = peticion;
