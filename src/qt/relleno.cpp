@@ -42,8 +42,8 @@ public:
     void Ver(ui::Hora& control) override { contenidos.push_back(std::to_wstring(control.iMinutos)); }
     void Ver(ui::Lista& control) override
     {
-        // Rows that open are data: loads, hours, inputs.
-        if (!control.alAbrir || control.forma != ui::Lista::Forma::tabla)
+        // Rows that open are data: loads, hours, inputs. Those that are asked for by conditions are not.
+        if (!control.alAbrir || control.alFiltrar || control.forma != ui::Lista::Forma::tabla)
             return;
         CString csFilas = std::to_wstring(control.Filas());
         for (int i = 0; i < control.Filas() && i < kFilas; ++i)

@@ -225,7 +225,32 @@ private:
                 if (const QString columna = TituloDe(i); !columna.isEmpty())
                     orden->addAction(columna, widget, [this, i] { OrdenarPor(i); });
         }
+        if (m_lista.alFiltrar) {
+            QMenu* filtro = menu->addMenu(QStringLiteral("&Filtrar por"));
+            for (int i = 0; i < Cabecera().count(); ++i)
+                filtro->addAction(TituloDe(i) + QStringLiteral("…"), widget, [this, i] { FiltrarPor(i); });
+        }
         menu->popup(lugar);
+    }
+
+    void AbrirMenuDeColumna(const QPoint& lugar)
+    {
+        const int iColumna = Cabecera().logicalIndexAt(lugar);
+        if (iColumna < 0 || !SeOrdena())
+            return;
+        auto* menu = new QMenu(widget);
+        QObject::connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater, Qt::QueuedConnection);
+        menu->addAction(QStringLiteral("&Ordenar por esta columna"), widget,
+                        [this, iColumna] { OrdenarPor(iColumna); });
+        if (m_lista.alFiltrar)
+            menu->addAction(QStringLiteral("&Filtrar esta columna…"), widget,
+                            [this, iColumna] { FiltrarPor(iColumna); });
+        menu->popup(Cabecera().viewport()->mapToGlobal(lugar));
+    }
+
+    void FiltrarPor(int iColumna)
+    {
+        m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Filtrar(m_lista, iColumna); });
     }
 
     QString TituloDe(int iColumna) const
@@ -270,6 +295,9 @@ private:
         };
         QObject::connect(&Rejas(), &QAbstractItemView::doubleClicked, widget, abrir);
         QObject::connect(&Cabecera(), &QHeaderView::sectionClicked, widget, [this](int i) { OrdenarPor(i); });
+        Cabecera().setContextMenuPolicy(Qt::CustomContextMenu);
+        QObject::connect(&Cabecera(), &QHeaderView::customContextMenuRequested, widget,
+                         [this](const QPoint& lugar) { AbrirMenuDeColumna(lugar); });
         const auto conectarPropias = [&](auto& rejilla) {
             rejilla.alPedirAbrir = abrir;
             rejilla.alPedirCopia = [this] { Copiar(ui::Cabeceras::con); };

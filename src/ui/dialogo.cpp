@@ -102,6 +102,12 @@ void Dialogo::Ordenar(Lista& control, int iColumna)
     Avisar(control.alOrdenar, iColumna);
 }
 
+void Dialogo::Filtrar(Lista& control, int iColumna)
+{
+    DejarLoTecleado(&control);
+    Avisar(control.alFiltrar, iColumna);
+}
+
 void Dialogo::Marcar(Casilla& control, bool bMarcada)
 {
     DejarLoTecleado(&control);

@@ -65,6 +65,7 @@ constexpr auto kApartados = std::to_array<Fila>({
     {"CDlgDatosFisicoConductor", "Cables"},
     {"CDlgDatosMargenSeguridadCableado", "Cables"},
     {"CDlgVisorXML", "Catálogos"},
+    {"CDlgFiltroModelos", "Elegir un modelo"},
     {"CDlgElegirModelo", "Elegir un modelo"},
     {"CDlgVisorNombre", "Catálogos"},
     {"CDlgItemDatosPanelFoto", "Ficha de un panel"},

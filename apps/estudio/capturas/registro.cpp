@@ -81,6 +81,7 @@ constexpr auto kRamificaciones = std::to_array<Ramificacion>({
     {"CDlgElegirModelo",
      [](ui::Dialogo& d) {
          ElegirFila(d, "modelos", 0);
+         Pulsar(d, "Filtrar");
          Pulsar(d, "Ver");
      }},
     {"CDlgItemDatosPanelFoto",
@@ -126,14 +127,30 @@ void Recorrer(ui::Dialogo& dialogo)
             ramificacion.abrir(dialogo);
 }
 
+// Models out of a table while it lives, as in the program.
+class EnTabla {
+public:
+    EnTabla() { ElegirModelosEn(FormaDeElegir::tabla); }
+    ~EnTabla() { ElegirModelosEn(m_antes); }
+    EnTabla(const EnTabla&) = delete;
+    EnTabla& operator=(const EnTabla&) = delete;
+
+private:
+    FormaDeElegir m_antes = FormaDeElegirModelos();
+};
+
 // Managing a catalogue: the first model and what hangs on it.
 Pantalla DeCatalogo(std::string nombre, int (*editar)(int), std::vector<std::string_view> clases)
 {
     clases.insert(clases.end(), {"CDlgVisorXML", "CDlgVisorNombre"});
-    return {std::move(nombre), std::move(clases), [editar] { editar(0); },
+    return {std::move(nombre), std::move(clases),
+            [editar] {
+                const EnTabla tabla;
+                editar(0);
+            },
             [](ui::Dialogo& dialogo) {
                 if (dialogo.clase == "CDlgVisorXML")
-                    ElegirFila(dialogo, "arbol", 1);
+                    ElegirFila(dialogo, "modelos", 0);
                 Recorrer(dialogo);
             }};
 }
@@ -146,7 +163,7 @@ void RecorrerUsos(ui::Dialogo& dialogo)
     for (const wchar_t* csModelo : {L"SUN2000", L"AJ 500"}) {
         if (auto* buscar = dynamic_cast<ui::Edicion*>(Buscar(dialogo, "csBuscar")))
             dialogo.Teclear(*buscar, csModelo);
-        ElegirFila(dialogo, "arbol", 1);
+        ElegirFila(dialogo, "modelos", 0);
         Pulsar(dialogo, "Editar");
     }
 }
@@ -356,13 +373,11 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
         {"horas", {"CDlgDetalleHoras"}, &AbrirHoras, {}},
         {"tarifa", {"CDlgGeneradorTarifa"}, [] { economics::AbrirGeneradorTarifa(); }, {}},
         {"paneles-elegir",
-         {"CDlgElegirModelo", "CDlgItemDatosPanelFoto"},
+         {"CDlgElegirModelo", "CDlgFiltroModelos", "CDlgItemDatosPanelFoto"},
          [] {
              CString csId = PrimerModelo();
-             const FormaDeElegir antes = FormaDeElegirModelos();
-             ElegirModelosEn(FormaDeElegir::tabla);
+             const EnTabla tabla;
              phSeleccionPanelFoto(csId);
-             ElegirModelosEn(antes);
          },
          &Recorrer},
         DeCatalogo("paneles", &phEditarBasePanelesFotovoltaicos,
@@ -370,7 +385,13 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
         DeCatalogo("acumuladores", &phEditarBaseAcumuladores,
                    {"CDlgItemDatosAcumulador", "CDlgItemDatosAcumuladorCap"}),
         DeCatalogo("inversores", &phEditarBaseInversores, {"CDlgItemDatosInversor"}),
-        {"inversores-usos", {"CDlgItemDatosInversor"}, [] { phEditarBaseInversores(0); }, RecorrerUsos},
+        {"inversores-usos",
+         {"CDlgItemDatosInversor"},
+         [] {
+             const EnTabla tabla;
+             phEditarBaseInversores(0);
+         },
+         RecorrerUsos},
         DeCatalogo("microinversores", &phEditarBaseMicroInversores, {"CDlgItemDatosMicroInversor"}),
         DeCatalogo("convertidores", &phEditarBaseConvertidorCC, {"CDlgItemDatosConvertidor"}),
         DeCatalogo("receptores", &phEditarBaseReceptores, {"CDlgItemDatosReceptor"}),

@@ -266,6 +266,8 @@ public:
     std::function<void(int iFila, int iColumna)> alAbrir;  ///< double click
     /// A click on a heading, where the owner of the rows puts them in order; none: a view may do it.
     std::function<void(int iColumna)> alOrdenar;
+    /// A filter of that column is asked for; none: it has none.
+    std::function<void(int iColumna)> alFiltrar;
     int iColumnaOrden = -1;  ///< the column in whose order the owner has put them; -1: none
     bool bDescendente = false;
 

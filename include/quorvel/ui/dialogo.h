@@ -65,6 +65,7 @@ public:
     void Elegir(Lista& control, int iFila);
     void Abrir(Lista& control, int iFila, int iColumna);
     void Ordenar(Lista& control, int iColumna);
+    void Filtrar(Lista& control, int iColumna);
     void Marcar(Casilla& control, bool bMarcada);
     void Pulsar(Boton& control);
     /// Entry `iEntrada` of the button's menu; the host may be asked for a colour.

@@ -1,6 +1,7 @@
 // Managing a catalogue and choosing from it: what stands between a catalogue and the viewer.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <utility>
 
@@ -64,6 +65,9 @@ PeticionVisor PeticionPara(const CBaseCatalogo<M>& base, const AperturaElementos
         const std::vector<SinDato> campos = CamposSinDato(modelo);
         return campos.empty() ? CString()
                               : TextoDeFaltas(*CrearDialogo(modelo, true, OrdenesModelo<M>()), campos);
+    };
+    peticion.modelo = [](const CXMLElemento& elemento) -> std::unique_ptr<CModelo> {
+        return std::make_unique<M>(ModeloDe<M>(elemento, false));
     };
     peticion.grafica = [apertura](const CModelo& modelo) -> std::optional<CCtrlCurva2D> {
         const M suyo = SinHeredar(static_cast<const M&>(modelo));

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -33,12 +34,14 @@ struct PeticionVisor {
     std::function<CString(const CXMLElemento&)>
         faltas;  ///< what a model's data sheet doesn't say; may be empty
     GraficaDeModelo grafica;
+    std::function<std::unique_ptr<CModelo>(const CXMLElemento&)> modelo;  ///< an element's values
 };
 
 /// Runs the viewer on the file's own document, or, where a layer of the person's own lies over it, on both, of
 /// which the layer is saved. Where models are chosen out of a table (FormaDeElegir) and nothing may be changed,
-/// the table comes up in its place. A file of another kind than `titulo` says isn't opened. `csSeleccion` is
-/// the identification to show first, and then the one chosen ("family#model", or a family's name).
+/// the table comes up in its place; where they may be changed, the viewer has the table. A file of another kind
+/// than `titulo` says isn't opened. `csSeleccion` is the identification to show first, and then the one chosen
+/// ("family#model", or a family's name).
 /// @return 1 accepted (and saved, when anything was changed), 0 the document couldn't be opened, 2
 /// cancelled.
 int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion);

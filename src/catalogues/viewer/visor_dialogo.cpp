@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <tuple>
 #include <utility>
 
 #include <quorvel/catalogos_propios.h>
@@ -39,43 +40,77 @@ CString Ancho(const char* texto)
 }  // namespace
 
 CDlgVisorXML::CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion,
-                           efv::catalogues::DocumentoAbierto abierto, const CString& csSeleccion)
-    : Dialogo("CDlgVisorXML", peticion.titulo),
+                           efv::catalogues::DocumentoAbierto abierto, const CString& csSeleccion,
+                           const efv::TipoCatalogo* tabla)
+    : DialogoDeModelos("CDlgVisorXML", peticion.titulo),
       m_peticion(peticion),
       m_edicion(std::move(abierto.documento)),
       m_csDestino(std::move(abierto.csDestino)),
       m_huella(abierto.huella),
       m_enviado(std::move(abierto.enviado)),
-      m_buscar(Anadir<ui::Edicion>("csBuscar", L"&Buscar:")),
-      m_arbol(Anadir<ui::Lista>("arbol", peticion.rotulo, ui::Lista::Forma::arbol)),
-      m_nota(Anadir<ui::TextoFijo>("csNota", L""))
+      m_bTabla(tabla != nullptr)
 {
-    bMaximizable = true;
-    m_buscar.alCambiar = [this] { AlBuscar(); };
-    m_arbol.colocacion.bEstirar = true;
-    m_arbol.alElegir = [this] { Activar(); };
-    m_arbol.alAbrir = [this](int, int) { Editar(); };
+    if (tabla != nullptr)
+        AnadirTablaDe(*tabla);
+    else
+        AnadirArbol();
+    m_filas = efv::catalogues::LeerFilas(m_edicion.Documento());
+    const FilasVisibles todas(m_filas, L"");
+    const int iInicial = csSeleccion.empty() ? -1 : todas.FilaDe(csSeleccion);
+    Filtrar(iInicial < 0 ? xml::NodoEditable() : todas.Fila(iInicial).elemento);
+}
 
+void CDlgVisorXML::AnadirArbol()
+{
+    m_buscar = &Anadir<ui::Edicion>("csBuscar", L"&Buscar:");
+    m_buscar->alCambiar = [this] { AlBuscar(); };
+    m_arbol = &Anadir<ui::Lista>("arbol", m_peticion.rotulo, ui::Lista::Forma::arbol);
+    m_arbol->colocacion.bEstirar = true;
+    m_arbol->alElegir = [this] { Activar(); };
+    m_arbol->alAbrir = [this](int, int) { Editar(); };
+    m_faltas = &Anadir<ui::TextoFijo>("csNota", L"");
+    AnadirBotones();
+}
+
+void CDlgVisorXML::AnadirTablaDe(const efv::TipoCatalogo& tipo)
+{
+    AnadirTabla(tipo);
+    m_oculto = std::make_unique<ui::Lista>("arbol", m_peticion.rotulo, ui::Lista::Forma::arbol);
+    m_arbol = m_oculto.get();
+    AnadirBotones();
+    AnadirVista(m_peticion.grafica);
+    m_faltas = &Anadir<ui::TextoFijo>("csFaltas", L"");
+    m_faltas->colocacion.iColumna = 1;
+}
+
+void CDlgVisorXML::AnadirBotones()
+{
     m_deFila.push_back(
-        &AnadirBoton("Editar", peticion.bModificable ? L"&Editar..." : L"&Ver...", &CDlgVisorXML::Editar));
-    m_nuevo = &AnadirBoton("Nuevo", L"&Nuevo...", &CDlgVisorXML::Nuevo);
+        &AnadirBoton("Editar", m_peticion.bModificable ? L"&Editar..." : L"&Ver...", &CDlgVisorXML::Editar));
+    m_deFamilia.push_back(&AnadirBoton("Nuevo", L"&Nuevo...", &CDlgVisorXML::Nuevo));
     m_deFila.push_back(&AnadirBoton("Duplicar", L"&Duplicar", &CDlgVisorXML::Duplicar));
     m_deFila.push_back(&AnadirBoton("Renombrar", L"&Renombrar...", &CDlgVisorXML::Renombrar));
     m_deFila.push_back(&AnadirBoton("Eliminar", L"E&liminar", &CDlgVisorXML::Eliminar));
-    AnadirBoton("NuevaFamilia", L"Nueva &familia...", &CDlgVisorXML::NuevaFamilia);
+    if (!m_bTabla)
+        AnadirBoton("NuevaFamilia", L"Nueva &familia...", &CDlgVisorXML::NuevaFamilia);
     m_deshacer = &AnadirBoton("Deshacer", L"De&shacer", &CDlgVisorXML::Deshacer);
-
-    m_filas = efv::catalogues::LeerFilas(m_edicion.Documento());
-    Filtrar({});
-    m_arbol.iSeleccion = csSeleccion.empty() ? -1 : m_visibles->FilaDe(csSeleccion);
-    Activar();
+    if (!m_bTabla)
+        return;
+    AnadirBoton("NuevaFamilia", L"Nueva fa&milia...", &CDlgVisorXML::NuevaFamilia);
+    for (const auto& [nombre, rotulo, orden] :
+         {std::tuple("RenombrarFamilia", L"Ren&ombrar la familia...", &CDlgVisorXML::Renombrar),
+          std::tuple("EliminarFamilia", L"El&iminar la familia", &CDlgVisorXML::Eliminar)}) {
+        auto& boton = AnadirBoton(nombre, rotulo, orden);
+        boton.alPulsar = [this, suya = orden] { EnLaFamilia(suya); };
+        m_deFamilia.push_back(&boton);
+    }
 }
 
 ui::Boton& CDlgVisorXML::AnadirBoton(const char* nombre, std::wstring_view rotulo,
                                      void (CDlgVisorXML::*orden)())
 {
     auto& boton = Anadir<ui::Boton>(nombre, rotulo);
-    boton.colocacion.iColumna = 1;
+    boton.colocacion.iColumna = m_bTabla ? 0 : 1;
     boton.bVisible = m_peticion.bModificable || std::string_view(nombre) == "Editar";
     boton.alPulsar = [this, orden] { (this->*orden)(); };
     return boton;
@@ -83,21 +118,25 @@ ui::Boton& CDlgVisorXML::AnadirBoton(const char* nombre, std::wstring_view rotul
 
 const FilaArbol* CDlgVisorXML::FilaActual() const
 {
-    const int i = m_arbol.iSeleccion;
+    const int i = m_arbol->iSeleccion;
     return i >= 0 && i < m_visibles->Filas() ? &m_visibles->Fila(i) : nullptr;
 }
 
 CString CDlgVisorXML::Seleccion() const
 {
-    return FilaActual() != nullptr ? m_visibles->Identificacion(m_arbol.iSeleccion) : CString();
+    return FilaActual() != nullptr ? m_visibles->Identificacion(m_arbol->iSeleccion) : CString();
 }
 
 void CDlgVisorXML::Filtrar(xml::NodoEditable elemento)
 {
-    m_visibles = std::make_shared<FilasVisibles>(m_filas, m_buscar.csTexto, m_peticion.imagen);
-    m_arbol.modelo = m_visibles;
-    ++m_arbol.uVersion;
-    m_arbol.iSeleccion = elemento ? m_visibles->FilaDe(elemento) : -1;
+    // The table asks for itself: all rows stand behind it.
+    m_visibles =
+        std::make_shared<FilasVisibles>(m_filas, m_bTabla ? CString() : m_buscar->csTexto, m_peticion.imagen);
+    m_arbol->modelo = m_visibles;
+    ++m_arbol->uVersion;
+    m_arbol->iSeleccion = elemento ? m_visibles->FilaDe(elemento) : -1;
+    if (m_bTabla)
+        Tabular(elemento);
     Activar();
 }
 
@@ -111,8 +150,9 @@ void CDlgVisorXML::Activar()
 {
     const FilaArbol* fila = FilaActual();
     for (ui::Boton* boton : m_deFila)
+        boton->bHabilitado = fila != nullptr && (fila->bModelo || !m_bTabla);
+    for (ui::Boton* boton : m_deFamilia)
         boton->bHabilitado = fila != nullptr;
-    m_nuevo->bHabilitado = fila != nullptr;
     // A family has nothing to edit but its name.
     m_deFila.front()->bHabilitado = fila != nullptr && fila->bModelo;
     m_deshacer->bHabilitado = m_edicion.Modificado();
@@ -129,17 +169,95 @@ bool CDlgVisorXML::EsPropio(const FilaArbol& fila) const
     return !enviado || m_enviado->LeerAtributos(enviado) != documento.LeerAtributos(fila.elemento);
 }
 
+// ---------------------------------------------------------------------------------------------------
+// The table: it shows the document's models, and the hidden tree stays on the row at hand
+// ---------------------------------------------------------------------------------------------------
+
+std::vector<CDlgVisorXML::ModeloLeido> CDlgVisorXML::LeerModelos() const
+{
+    std::vector<ModeloLeido> modelos;
+    modelos.reserve(m_filas->size());
+    CString csFamilia;
+    for (const FilaArbol& fila : *m_filas) {
+        if (!fila.bModelo) {
+            csFamilia = fila.csNombre;
+            continue;
+        }
+        auto modelo = m_peticion.modelo(m_edicion.Leer(fila.elemento));
+        modelo->csFamilia = csFamilia;
+        modelos.push_back({fila.elemento, std::move(modelo)});
+    }
+    return modelos;
+}
+
+void CDlgVisorXML::Tabular(xml::NodoEditable elemento)
+{
+    // The table holds on to the former ones until it has the new.
+    const auto anteriores = std::exchange(m_modelos, LeerModelos());
+    Modelos todos;
+    todos.reserve(m_modelos.size());
+    const CModelo* elegido = nullptr;
+    for (const ModeloLeido& leido : m_modelos) {
+        todos.push_back(leido.modelo.get());
+        if (leido.elemento == elemento)
+            elegido = leido.modelo.get();
+    }
+    std::vector<CString> familias;
+    for (const FilaArbol& fila : *m_filas)
+        if (!fila.bModelo)
+            familias.push_back(fila.csNombre);
+    PonerModelos(std::move(todos), familias, elegido);
+}
+
+void CDlgVisorXML::AlCambiarModelo()
+{
+    const CModelo* actual = Actual();
+    const auto suyo =
+        std::ranges::find_if(m_modelos, [&](const ModeloLeido& leido) { return leido.modelo.get() == actual; });
+    m_arbol->iSeleccion = suyo != m_modelos.end() ? m_visibles->FilaDe(suyo->elemento) : FilaDeFamilia();
+    Activar();
+}
+
+// Of the family asked for, in the hidden tree; -1 when it is none.
+int CDlgVisorXML::FilaDeFamilia() const
+{
+    for (int i = 0; i < m_visibles->Filas(); ++i)
+        if (!m_visibles->Fila(i).bModelo && m_visibles->Fila(i).csNombre == FamiliaPedida())
+            return i;
+    return -1;
+}
+
+// Does to the family of the row at hand what the command does to a row, and comes back to the model.
+void CDlgVisorXML::EnLaFamilia(void (CDlgVisorXML::*orden)())
+{
+    const FilaArbol* fila = FilaActual();
+    if (fila == nullptr)
+        return;
+    const xml::NodoEditable elemento = fila->elemento;
+    m_arbol->iSeleccion = m_visibles->FilaDeFamilia(m_arbol->iSeleccion);
+    (this->*orden)();
+    Filtrar(elemento);
+}
+
+void CDlgVisorXML::MostrarTodos()
+{
+    if (m_bTabla)
+        PedirTodos();
+    else
+        m_buscar->csTexto.clear();
+}
+
 // What the person can't see in the data sheet of the row.
 void CDlgVisorXML::Anotar()
 {
     const FilaArbol* fila = FilaActual();
-    m_nota.csTexto.clear();
+    m_faltas->csTexto.clear();
     if (fila == nullptr || !fila->bModelo)
         return;
     if (EsPropio(*fila))
-        m_nota.csTexto = L"Modelo propio. ";
+        m_faltas->csTexto = L"Modelo propio. ";
     if (m_peticion.faltas)
-        m_nota.csTexto += m_peticion.faltas(m_edicion.Leer(fila->elemento));
+        m_faltas->csTexto += m_peticion.faltas(m_edicion.Leer(fila->elemento));
 }
 
 void CDlgVisorXML::AlBuscar()
@@ -179,10 +297,10 @@ void CDlgVisorXML::Nuevo()
     xml::DocumentoEditable::Atributos atributos;
     for (const auto& atributo : nuevo.aAtributos)
         atributos.emplace_back(atributo->csNombre, atributo->csValor);
-    const FilaArbol& familia = m_visibles->Fila(m_visibles->FilaDeFamilia(m_arbol.iSeleccion));
-    const xml::NodoEditable elemento = m_edicion.Anadir(familia.elemento, "Modelo", atributos);
+    const xml::NodoEditable familia = m_visibles->Fila(m_visibles->FilaDeFamilia(m_arbol->iSeleccion)).elemento;
+    const xml::NodoEditable elemento = m_edicion.Anadir(familia, "Modelo", atributos);
     // Shown even when the search wouldn't find it.
-    m_buscar.csTexto.clear();
+    MostrarTodos();
     Releer(elemento);
 }
 
@@ -200,7 +318,7 @@ void CDlgVisorXML::NuevaFamilia()
         return;
     }
     const xml::NodoEditable elemento = m_edicion.Anadir(tabla, "Familia", {{L"nombre", *csNombre}});
-    m_buscar.csTexto.clear();
+    MostrarTodos();
     Releer(elemento);
 }
 
@@ -226,7 +344,7 @@ void CDlgVisorXML::Renombrar()
 void CDlgVisorXML::Eliminar()
 {
     const FilaArbol fila = *FilaActual();
-    const int iFila = m_arbol.iSeleccion;
+    const int iFila = m_bTabla ? m_tabla->iSeleccion : m_arbol->iSeleccion;
     const CString csPregunta =
         fila.bModelo ? L"¿Desea eliminar el modelo " + fila.csNombre + L"?"
                      : L"¿Desea eliminar la familia " + fila.csNombre + L" con todos sus modelos?";
@@ -234,7 +352,9 @@ void CDlgVisorXML::Eliminar()
         return;
     m_edicion.Retirar(fila.elemento);
     Releer({});
-    m_arbol.iSeleccion = std::min(iFila, m_visibles->Filas() - 1);
+    if (m_bTabla)
+        return IrAFila(iFila);
+    m_arbol->iSeleccion = std::min(iFila, m_visibles->Filas() - 1);
     Activar();
 }
 
@@ -339,9 +459,10 @@ int xmlViewDocument2(const PeticionVisor& peticion, CString& csSeleccion)
     const TipoCatalogo* tipo = TipoDeDocumento(abierto->documento);
     if (tipo != nullptr && tipo->Titulo() != peticion.titulo)
         return 0;
-    if (tipo != nullptr && !peticion.bModificable && FormaDeElegirModelos() == FormaDeElegir::tabla)
+    const bool bTabla = tipo != nullptr && FormaDeElegirModelos() == FormaDeElegir::tabla;
+    if (bTabla && !peticion.bModificable)
         return ElegirEnTabla(*tipo, peticion.csRuta, peticion.grafica, csSeleccion);
-    CDlgVisorXML dialogo(peticion, std::move(*abierto), csSeleccion);
+    CDlgVisorXML dialogo(peticion, std::move(*abierto), csSeleccion, bTabla ? tipo : nullptr);
     if (dialogo.Mostrar() != ui::Dialogo::ok)
         return ui::Dialogo::cancelado;
     csSeleccion = dialogo.Seleccion();
