@@ -57,6 +57,7 @@ int Capturar(const Carpetas& datos, const std::filesystem::path& carpeta)
 {
     std::filesystem::create_directories(carpeta);
     VentanaPrincipal ventana(Lugares(datos));
+    ventana.PonerPreferencias({});
     ventana.LaSesion().Nuevo(ProyectoDeEjemplo(ventana.LaSesion().LugarInicial()));
     ventana.show();
     const ResultadoCapturas programa = CapturarPrograma(ventana, carpeta);

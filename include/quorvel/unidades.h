@@ -30,11 +30,15 @@ struct Magnitud {
 /// "Energía" (kWh).
 EFV_API std::span<const Magnitud> Magnitudes();
 
-/// From now on the magnitude is shown in the unit of that symbol.
+/// From now on the magnitude is shown in the unit of that symbol; empty: in the stored one, with none chosen.
 /// @throws CInvalidArgException for an unknown magnitude or symbol; nothing changes then.
 EFV_API void ElegirUnidad(std::wstring_view magnitud, std::wstring_view simbolo);
 
 /// The unit in use. @throws CInvalidArgException for an unknown magnitude.
 EFV_API const Unidad& UnidadActual(std::wstring_view magnitud);
+
+/// Whether the host has chosen one, were it the stored one: reports keep units of their own until then.
+/// @throws CInvalidArgException for an unknown magnitude.
+EFV_API bool HayUnidadElegida(std::wstring_view magnitud);
 
 }  // namespace efv

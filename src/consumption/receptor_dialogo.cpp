@@ -341,7 +341,8 @@ CString CDlgDatosReceptor::DiasSinUso() const
 
 bool CDlgDatosReceptor::AlAceptar()
 {
-    if (!DialogoFicha::AlAceptar() || !AvisarDeFranjas())
+    // A line that isn't understood was told when it was left, if that was just now.
+    if (!DialogoFicha::AlAceptar() || (AcabaDeDejar(*m_franjas) && foco == m_franjas) || !AvisarDeFranjas())
         return false;
     const CString csDias = DiasSinUso();
     return csDias.empty() ||

@@ -27,7 +27,8 @@ namespace {
 constexpr int kFilasMedidas = 40;  // rows that a column's width is taken from
 constexpr int kAnchoMinimo = 220;
 constexpr int kAnchoImprescindible = 400;
-constexpr int kAireDeFila = 6;  // above and below a row's letters
+constexpr int kLetrasDeValores = 48;  // of a table of names and values
+constexpr int kAireDeFila = 6;        // above and below a row's letters
 constexpr int kFilasMinimas = 5;
 constexpr int kFilasImprescindibles = 3;
 constexpr int kFilasMaximas = 14;
@@ -326,6 +327,9 @@ private:
             std::ranges::fill(m_aiAnchos, *std::ranges::max_element(m_aiAnchos));
         for (const int iColumna : m_aiAnchos)
             iAncho += iColumna;
+        // Of a list of values the longest gives way, rather than what stands beside the list.
+        if (m_aiAnchos.size() == 2)
+            iAncho = std::min(iAncho, kLetrasDeValores * widget->fontMetrics().averageCharWidth());
         const int iLinea = widget->fontMetrics().height() + kAireDeFila;
         const int iMarco =
             2 * Rejas().frameWidth() + (m_lista.acsColumnas.empty() ? 0 : Cabecera().sizeHint().height());

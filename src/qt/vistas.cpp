@@ -58,6 +58,7 @@ void Vista::Refrescar()
     RefrescarContenido();
     if (const QString nombre = NombreHablado(); widget->accessibleName() != nombre)
         widget->setAccessibleName(nombre);
+    RefrescarIndicacion();
     RefrescarColores();
     const bool bUtilizable = Utilizable();
     if (widget->isEnabledTo(widget->parentWidget()) != bUtilizable)
@@ -74,6 +75,20 @@ void Vista::Refrescar()
         rotulo->setToolTip(widget->toolTip());
     rotulo->setEnabled(control.bHabilitado);
     rotulo->setVisible(control.bVisible);
+}
+
+// Beside what the kind of view says itself, which it writes anew with each change of it.
+void Vista::RefrescarIndicacion()
+{
+    if (control.csIndicacion.empty() || dynamic_cast<const ui::Boton*>(&control) != nullptr)
+        return;
+    const QString indicacion = Indicacion(control.csIndicacion);
+    if (!widget->toolTip().startsWith(indicacion))
+        widget->setToolTip(widget->toolTip().isEmpty() ? indicacion : indicacion + "<br>" + widget->toolTip());
+    const QString descripcion = AQt(control.csIndicacion);
+    if (!widget->accessibleDescription().startsWith(descripcion))
+        widget->setAccessibleDescription(
+            (descripcion + QStringLiteral(". ") + widget->accessibleDescription()).trimmed());
 }
 
 void Vista::RefrescarColores()

@@ -64,6 +64,8 @@ protected:
     virtual bool Utilizable() const { return control.bHabilitado; }
 
 private:
+    void RefrescarIndicacion();
+
     /// What the colours are worked out from.
     struct Aspecto {
         qint64 tema;

@@ -66,6 +66,7 @@ Seccion SeccionEnergia(const V& v)
 {
     Seccion seccion(kTituloBalance);
     const Balance balance(v);
+    const auto horas = [](double d) { return Decimal(d, 2) + (std::isfinite(d) ? " kWh/m²·día" : ""); };
     const auto perdida = [](double dPorcentaje, double dEnergia) {
         return fmt::format("{} %, {}", Decimal(dPorcentaje, 2), Con(dEnergia, 0, "Wh/día"));
     };
@@ -77,7 +78,8 @@ Seccion SeccionEnergia(const V& v)
         {"Energía necesaria", Con(balance.dNecesaria, 0, "Wh/día")},
         {"Mes a considerar en el cálculo", NombreMes(v.iMesCalculo)},
         {"Mes de referencia para el dimensionado", CadenaUtf8(v.csMesReferencia)},
-        DatoDoble("Hora solar pico (H.S.P.)", v.dHSP, v.dHSPP, 2, "kWh/m²·día"),
+        // Hours of 1 kW/m², whatever unit radiation is shown in.
+        {"Hora solar pico (H.S.P.)", horas(v.dHSP), horas(v.dHSPP)},
     };
     return seccion;
 }

@@ -64,23 +64,25 @@ Seccion SeccionEntradas(const ProyectoAutoconsumo& proyecto)
 
 // A table of twelve months and the year.
 template <class F>
-Cuadro CuadroDeMeses(const EstudioAutoconsumo& e, std::string titulo, const std::vector<std::string>& columnas,
-                     const char* unidad, F celdas)
+Cuadro CuadroDeMeses(const EstudioAutoconsumo& e, std::string_view titulo,
+                     const std::vector<std::string>& columnas, const char* unidad, F celdas)
 {
     Cuadro cuadro;
-    cuadro.titulo = std::move(titulo);
+    cuadro.titulo = TituloEn(titulo);
     cuadro.bTotal = true;
     cuadro.columnas.emplace_back("Mes", false);
     cuadro.unidades.emplace_back();
     for (const std::string& columna : columnas) {
         cuadro.columnas.emplace_back(columna, true);
-        cuadro.unidades.emplace_back(columna.find('(') == std::string::npos ? unidad : "");
+        cuadro.unidades.emplace_back(columna.find('(') == std::string::npos ? MedidaDe(unidad).unidad : "");
     }
     const auto fila = [&](std::string nombre, const SumaAutoconsumo& suma) {
         auto& destino = cuadro.filas.emplace_back();
         destino.push_back(std::move(nombre));
-        for (const auto& [d, iDecimales] : celdas(suma))
-            destino.push_back(Decimal(d, iDecimales));
+        for (const auto& [d, iDecimales] : celdas(suma)) {
+            const bool bSuya = cuadro.columnas[destino.size()].first.find('(') == std::string::npos;
+            destino.push_back(bSuya ? DecimalEn(d, iDecimales, unidad) : Decimal(d, iDecimales));
+        }
     };
     for (std::size_t m = 0; m < kMeses; ++m)
         fila(NombreMes(static_cast<int>(m)), e.ano.meses[m]);
@@ -103,7 +105,7 @@ Seccion SeccionEnergia(const EstudioAutoconsumo& e)
     grafica.aSeries = {ui::BarrasDeMeses(L"Consumo", kGris, adConsumo),
                        ui::BarrasDeMeses(L"Producción", kNaranja, adProduccion),
                        ui::BarrasDeMeses(L"Autoconsumo", kVerde, adAutoconsumo)};
-    seccion.graficas.push_back(std::move(grafica));
+    seccion.graficas.push_back(EnUnidades(std::move(grafica)));
     seccion.cuadros.push_back(CuadroDeMeses(
         e, "Energía (kWh)",
         {"Consumo", "Producción", "Autoconsumo", "Vertido", "Compra", "Cubierto (%)", "Aprovechada (%)"}, "kWh",
@@ -226,11 +228,12 @@ Seccion SeccionBarrido(std::span<const PuntoBarrido> puntos)
     cuadro.titulo = "Lo mismo con otra potencia o batería";
     for (const char* titulo : {"kWp", "Batería (kWh)", "Coste (€)", "Cubierto (%)", "Aprovechada (%)",
                                "Ahorro (€)", "Recuperación (años)", "T.I.R. (%)"})
-        cuadro.columnas.emplace_back(titulo, true);
+        cuadro.columnas.emplace_back(TituloEn(titulo), true);
+    const Medida energia = MedidaDe("kWh");
     for (const PuntoBarrido& p : puntos) {
-        cuadro.filas.push_back({DecimalExacto(p.dPotencia), DecimalExacto(p.dCapacidad), Decimal(p.dCoste, 2),
-                                Decimal(p.dCobertura * 100.0, 1), Decimal(p.dAprovechamiento * 100.0, 1),
-                                Decimal(p.dAhorro, 2),
+        cuadro.filas.push_back({DecimalExacto(p.dPotencia), DecimalExacto(energia.En(p.dCapacidad)),
+                                Decimal(p.dCoste, 2), Decimal(p.dCobertura * 100.0, 1),
+                                Decimal(p.dAprovechamiento * 100.0, 1), Decimal(p.dAhorro, 2),
                                 p.recuperacion.bViable ? Decimal(p.recuperacion.dAnos, 1) : "—",
                                 p.tasa.bHallada ? Decimal(p.tasa.dTIR, 2) : "—"});
     }
@@ -266,7 +269,7 @@ CCtrlCurva2D GraficaBarrido(std::span<const PuntoBarrido> puntos)
         anos.adY.push_back(p.recuperacion.dAnos);
     }
     grafica.aSeries = {std::move(anos), std::move(cubierto)};
-    return grafica;
+    return EnUnidades(std::move(grafica));
 }
 
 std::vector<CCtrlCurva2D> GraficasDiasTipicos(const EstudioAutoconsumo& e)
@@ -292,7 +295,7 @@ std::vector<CCtrlCurva2D> GraficasDiasTipicos(const EstudioAutoconsumo& e)
         serie(L"Consumo", kGris, dias[i].adConsumo);
         serie(L"Producción", kNaranja, dias[i].adProduccion);
         serie(L"Autoconsumo", kVerde, dias[i].adAutoconsumo);
-        graficas.push_back(std::move(grafica));
+        graficas.push_back(EnUnidades(std::move(grafica)));
     }
     return graficas;
 }

@@ -81,7 +81,7 @@ Elemento DeAcumuladores(const BancoAcumuladores& banco, bool bUnifilar)
                      Cifra(banco.dVnom, 0) + L" V, " + Cifra(banco.dCapacidad, 0) + L" Ah " + banco.csRegimen +
                          L" cada uno",
                      L"Banco: " + Cifra(banco.Tension(), 0) + L" V · " + Cifra(banco.Capacidad(), 0) + L" Ah",
-                     L"Energía: " + Cifra(banco.Energia() / kMil, 1) + L" kWh"},
+                     L"Energía: " + CadenaDesdeUtf8(Con(banco.Energia() / kMil, 1, "kWh"))},
         .iSerie = banco.iSerie,
         .iParalelo = banco.iParalelo,
         .bUnifilar = bUnifilar,
@@ -310,7 +310,7 @@ Elemento DeInversor(const GrupoInversores& inversores, int iNumero, bool bUnifil
 
 CString Longitud(const wchar_t* csNombre, double d)
 {
-    return CString(csNombre) + L" = " + (d > 0.0 ? Cifra(d, 1) + L" m" : CString(kNada));
+    return CString(csNombre) + L" = " + (d > 0.0 ? CadenaDesdeUtf8(Con(d, 1, "m")) : CString(kNada));
 }
 
 }  // namespace

@@ -31,20 +31,22 @@ Seccion SeccionOrientacion(const solar::EnergiaPlanos& energia)
     Seccion seccion("Energía con la orientación de los paneles");
     Cuadro& cuadro = seccion.cuadros.emplace_back();
     cuadro.titulo = "Energía del año, hora a hora: " + solar::NombreDeOrigen(energia.origen);
-    cuadro.columnas = {{"Plano", false},    {"Inclinación (°)", true}, {"Orientación (°)", true},
-                       {"Parte (%)", true}, {"Energía (kWh)", true},   {"Hacia el ecuador (kWh)", true}};
+    cuadro.columnas = {
+        {"Plano", false},    {"Inclinación (°)", true},         {"Orientación (°)", true},
+        {"Parte (%)", true}, {TituloEn("Energía (kWh)"), true}, {TituloEn("Hacia el ecuador (kWh)"), true}};
     double dParte = 0.0;
     for (std::size_t i = 0; i < energia.planos.size(); ++i) {
         const auto& [plano, ano, alEcuador] = energia.planos[i];
         dParte += plano.dParte;
         cuadro.filas.push_back({std::to_string(i + 1), Decimal(plano.dInclinacion, 1),
                                 Decimal(plano.dOrientacion, 1), Decimal(plano.dParte * 100.0, 1),
-                                Decimal(ano.Energia(), 1), Decimal(alEcuador.Energia(), 1)});
+                                DecimalEn(ano.Energia(), 1, "kWh"), DecimalEn(alEcuador.Energia(), 1, "kWh")});
     }
     if (energia.planos.size() > 1) {
         cuadro.bTotal = true;
-        cuadro.filas.push_back({"Total", "", "", Decimal(dParte * 100.0, 1), Decimal(energia.Energia(), 1),
-                                Decimal(energia.EnergiaAlEcuador(), 1)});
+        cuadro.filas.push_back({"Total", "", "", Decimal(dParte * 100.0, 1),
+                                DecimalEn(energia.Energia(), 1, "kWh"),
+                                DecimalEn(energia.EnergiaAlEcuador(), 1, "kWh")});
     }
     seccion.notas = {fmt::format(
         "La orientación quita el {} % de lo que darían los mismos planos hacia el ecuador. La energía de "

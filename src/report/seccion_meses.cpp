@@ -13,6 +13,7 @@ namespace {
 using solar::kMeses;
 using solar::MesEnergia;
 
+constexpr const char* kRadiacion = "kWh/m²·día";
 constexpr ui::Color kGris = 0xB5AAA0, kNaranja = 0x1E82E0, kVerde = 0x5A9A3C;
 
 ui::SerieCurva Barras(std::wstring_view nombre, const solar::AnoEnergia& ano, ui::Color color,
@@ -33,7 +34,7 @@ std::vector<CCtrlCurva2D> Graficas(const solar::AnoEnergia& ano, const solar::Do
     energia.aSeries = {Barras(L"Producida", ano, kVerde, &MesEnergia::dEnergiaMes)};
     if (necesaria != nullptr)
         energia.aSeries.push_back(ui::BarrasDeMeses(L"Necesaria", kGris, *necesaria));
-    return {std::move(radiacion), std::move(energia)};
+    return {EnUnidades(std::move(radiacion)), EnUnidades(std::move(energia))};
 }
 
 std::string FuenteDe(const LugarDiseno& lugar)
@@ -53,15 +54,17 @@ Seccion SeccionMeses(const LugarDiseno& lugar, const solar::AnoEnergia& ano, con
     cuadro.titulo = "Radiación diaria media y energía de cada mes";
     cuadro.bTotal = true;
     cuadro.columnas = {{"Mes", false},
-                       {"Horizontal (kWh/m²·día)", true},
-                       {"Plano (kWh/m²·día)", true},
-                       {"Producida (kWh)", true}};
+                       {TituloEn("Horizontal (kWh/m²·día)"), true},
+                       {TituloEn("Plano (kWh/m²·día)"), true},
+                       {TituloEn("Producida (kWh)"), true}};
     if (necesaria != nullptr)
-        cuadro.columnas.insert(cuadro.columnas.end(), {{"Necesaria (kWh)", true}, {"Cobertura (%)", true}});
+        cuadro.columnas.insert(cuadro.columnas.end(),
+                               {{TituloEn("Necesaria (kWh)"), true}, {"Cobertura (%)", true}});
     const auto anadir = [&](std::vector<std::string> celdas, double dProducida, double dNecesaria) {
-        celdas.push_back(Decimal(dProducida, 1));
+        celdas.push_back(DecimalEn(dProducida, 1, "kWh"));
         if (necesaria != nullptr)
-            celdas.insert(celdas.end(), {Decimal(dNecesaria, 1), Decimal(dProducida / dNecesaria * 100.0, 0)});
+            celdas.insert(celdas.end(),
+                          {DecimalEn(dNecesaria, 1, "kWh"), Decimal(dProducida / dNecesaria * 100.0, 0)});
         cuadro.filas.push_back(std::move(celdas));
     };
     double dTotal = 0.0;
@@ -69,7 +72,8 @@ Seccion SeccionMeses(const LugarDiseno& lugar, const solar::AnoEnergia& ano, con
         const MesEnergia& mes = ano.meses[m];
         const double dNecesaria = necesaria != nullptr ? (*necesaria)[m] : 0.0;
         dTotal += dNecesaria;
-        anadir({NombreMes(static_cast<int>(m)), Decimal(mes.dHorizontal, 2), Decimal(mes.dPlano, 2)},
+        anadir({NombreMes(static_cast<int>(m)), DecimalEn(mes.dHorizontal, 2, kRadiacion),
+                DecimalEn(mes.dPlano, 2, kRadiacion)},
                mes.dEnergiaMes, dNecesaria);
     }
     anadir({"Año", "", ""}, ano.Energia(), dTotal);

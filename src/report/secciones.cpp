@@ -37,6 +37,31 @@ std::string NombreMes(int iMes)
     return CadenaUtf8(solar::NombreMes(iMes));
 }
 
+namespace {
+
+void PonerUnidad(CString& csTitulo, std::vector<ui::SerieCurva>& series,
+                 std::vector<double> ui::SerieCurva::*valores)
+{
+    const std::string titulo = CadenaUtf8(csTitulo);
+    const std::size_t abre = titulo.rfind('(');
+    const bool bParentesis = abre != std::string::npos && titulo.ends_with(')');
+    const Medida medida =
+        MedidaDe(bParentesis ? std::string_view(titulo).substr(abre + 1, titulo.size() - abre - 2) : titulo);
+    csTitulo = CadenaDesdeUtf8(bParentesis ? TituloEn(titulo) : medida.unidad);
+    for (ui::SerieCurva& serie : series)
+        for (double& d : serie.*valores)
+            d = medida.En(d);
+}
+
+}  // namespace
+
+CCtrlCurva2D EnUnidades(CCtrlCurva2D grafica)
+{
+    PonerUnidad(grafica.csTituloX, grafica.aSeries, &ui::SerieCurva::adX);
+    PonerUnidad(grafica.csTituloY, grafica.aSeries, &ui::SerieCurva::adY);
+    return grafica;
+}
+
 Dato DatoDoble(std::string rotulo, double dEnVigor, double dPropuesta, int iDecimales, std::string_view unidad)
 {
     return {std::move(rotulo), Con(dEnVigor, iDecimales, unidad), Con(dPropuesta, iDecimales, unidad)};
@@ -75,7 +100,7 @@ Seccion SeccionLugar(const LugarDiseno& lugar)
         seccion.datos = {
             {"Localidad", fmt::format("{} ({}{})", CadenaUtf8(l->csNombre), provincia, CadenaUtf8(l->csPais))},
             {"Longitud", Coordenada(l->dLongitud, "E", "O")},
-            {"Altitud", Decimal(l->dAltitud, 0) + " m"},
+            {"Altitud", Con(l->dAltitud, 0, "m")},
             {"Radiación", CadenaUtf8(l->csFuente)}};
     } else {
         if (!lugar.nombre.empty())

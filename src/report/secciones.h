@@ -23,6 +23,9 @@ namespace efv::report {
 /// Name of a month, "Enero"; also 12 to 14, the year and its two cases.
 std::string NombreMes(int iMes);
 
+/// A chart in the units chosen: axes whose title is a unit, or ends with one in brackets.
+CCtrlCurva2D EnUnidades(CCtrlCurva2D grafica);
+
 /// A value in force beside its proposal.
 Dato DatoDoble(std::string rotulo, double dEnVigor, double dPropuesta, int iDecimales, std::string_view unidad);
 Dato DatoDoble(std::string rotulo, int iEnVigor, int iPropuesta);

@@ -1,6 +1,7 @@
 #include <quorvel/report/texto.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 #include <fmt/format.h>
@@ -8,6 +9,7 @@
 #include <quorvel/framework/CString.h>
 #include <quorvel/marca_decimal.h>
 #include <quorvel/terminal.h>
+#include <quorvel/unidades.h>
 
 namespace efv::report {
 
@@ -36,12 +38,88 @@ std::string DecimalExacto(double d)
     return std::isfinite(d) ? ConMarca(fmt::format("{}", d)) : std::string();
 }
 
+namespace {
+
+/// A unit of reports: `dGuardadas` stored units of its magnitude, then a text that stays.
+struct UnidadDeInforme {
+    std::string_view unidad;
+    std::wstring_view magnitud;
+    double dGuardadas;
+    std::string_view resto;
+};
+constexpr double kKilojulios = 3600.0;  // of a kWh
+constexpr auto kUnidades = std::to_array<UnidadDeInforme>({
+    {"kWh", L"Energía", 1.0, ""},
+    {"kWh/año", L"Energía", 1.0, "/año"},
+    {"kWh/m²·día", L"Radiación solar", kKilojulios, "/m²·día"},
+    {"m²", L"Superficie", 1.0, ""},
+    {"m", L"Longitud", 1.0, ""},
+    {"mm", L"Dimensiones", 1.0, ""},
+    {"kg", L"Masa", 1.0, ""},
+    {"ºC", L"Temperatura", 1.0, ""},
+});
+
+}  // namespace
+
+Medida MedidaDe(std::string_view unidad)
+{
+    Medida medida;
+    medida.unidad = unidad;
+    const auto* suya = std::ranges::find(kUnidades, unidad, &UnidadDeInforme::unidad);
+    if (suya == kUnidades.end() || !HayUnidadElegida(suya->magnitud))
+        return medida;
+    const Unidad& elegida = UnidadActual(suya->magnitud);
+    medida.unidad = CadenaUtf8(CString(elegida.simbolo));
+    medida.unidad += suya->resto;
+    if (medida.unidad == unidad)
+        return medida;
+    medida.dFactor = elegida.dFactor * suya->dGuardadas;
+    medida.dOrigen = elegida.dOrigen;
+    medida.iMasDecimales = static_cast<int>(std::ceil(-std::log10(medida.dFactor)));
+    return medida;
+}
+
+namespace {
+
+std::string DecimalEn(double d, int iDecimales, const Medida& medida)
+{
+    return Decimal(medida.En(d), std::max(0, iDecimales + medida.iMasDecimales));
+}
+
+}  // namespace
+
+std::string DecimalEn(double d, int iDecimales, std::string_view unidad)
+{
+    return DecimalEn(d, iDecimales, MedidaDe(unidad));
+}
+
 std::string Con(double d, int iDecimales, std::string_view unidad)
 {
     if (!std::isfinite(d))
         return Decimal(d, iDecimales);
-    const bool bPegada = unidad.empty() || unidad == "°";
-    return fmt::format("{}{}{}", Decimal(d, iDecimales), bPegada ? "" : " ", unidad);
+    const Medida medida = MedidaDe(unidad);
+    const bool bPegada = medida.unidad.empty() || medida.unidad == "°";
+    return fmt::format("{}{}{}", DecimalEn(d, iDecimales, medida), bPegada ? "" : " ", medida.unidad);
+}
+
+std::string TituloEn(std::string_view titulo)
+{
+    std::string cambiado;
+    for (std::size_t desde = 0; desde < titulo.size();) {
+        const std::size_t abre = std::min(titulo.find('(', desde), titulo.size());
+        const std::size_t cierra = std::min(titulo.find(')', abre), titulo.size());
+        cambiado += titulo.substr(desde, abre - desde);
+        if (abre < titulo.size()) {
+            cambiado += '(';
+            cambiado += MedidaDe(titulo.substr(abre + 1, cierra - abre - 1)).unidad;
+        }
+        desde = abre < titulo.size() ? cierra : abre;
+        if (desde < titulo.size() && titulo[desde] == ')') {
+            cambiado += ')';
+            ++desde;
+        }
+    }
+    return cambiado;
 }
 
 std::string EnUnaLinea(std::string_view texto)

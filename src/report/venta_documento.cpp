@@ -129,14 +129,20 @@ Seccion SeccionAnos(const EstudioVenta& resultado)
         grafica.aSeries.front().color = kVerde;
     seccion.graficas.front().aSeries.front().color = kNaranja;
     Cuadro& cuadro = seccion.cuadros.emplace_back();
-    cuadro.titulo = "Energía (kWh), prima (€/kWh) e importes (€) de cada año";
+    cuadro.titulo = TituloEn("Energía (kWh), prima (€/kWh) e importes (€) de cada año");
     for (const std::wstring_view titulo : economics::TitulosVenta())
         cuadro.columnas.emplace_back(CadenaUtf8(CString(titulo)), true);
-    cuadro.unidades = {"", "kWh", "€/kWh", "€", "€", "€", "€", "€", "€"};
+    cuadro.unidades = {"", MedidaDe("kWh").unidad, "€/kWh", "€", "€", "€", "€", "€", "€"};
+    constexpr std::size_t kEnergiaDelAno = 1;
+    std::ptrdiff_t iAno = 0;
     for (const economics::FilaVenta& fila : economics::FilasVenta(e)) {
         auto& celdas = cuadro.filas.emplace_back();
         for (const CString& csCelda : fila)
             celdas.push_back(CadenaUtf8(csCelda));
+        // The table's texts are in kWh.
+        if (const Medida energia = MedidaDe("kWh"); energia.unidad != "kWh")
+            celdas[kEnergiaDelAno] = DecimalEn(e.aEnergia[iAno], 2, "kWh");
+        ++iAno;
     }
     return seccion;
 }
@@ -148,14 +154,15 @@ Seccion SeccionMesesVenta(const R& e)
     cuadro.titulo = "Radiación diaria media y energía del primer año";
     cuadro.bTotal = true;
     cuadro.columnas = {{"Mes", false},
-                       {"Horizontal (kWh/m²·día)", true},
-                       {"Plano (kWh/m²·día)", true},
-                       {"Energía diaria (kWh)", true},
-                       {"Energía (kWh)", true}};
+                       {TituloEn("Horizontal (kWh/m²·día)"), true},
+                       {TituloEn("Plano (kWh/m²·día)"), true},
+                       {TituloEn("Energía diaria (kWh)"), true},
+                       {TituloEn("Energía (kWh)"), true}};
     for (std::ptrdiff_t m = 0; m < e.aEnergiaMes.GetSize(); ++m)
         cuadro.filas.push_back({m < 12 ? NombreMes(static_cast<int>(m)) : "Media de los meses",
-                                Decimal(e.aRadHorizontal[m], 2), Decimal(e.aRadInclinada[m], 2),
-                                Decimal(e.aEnergiaDia[m], 2), Decimal(e.aEnergiaMes[m], 1)});
+                                DecimalEn(e.aRadHorizontal[m], 2, "kWh/m²·día"),
+                                DecimalEn(e.aRadInclinada[m], 2, "kWh/m²·día"),
+                                DecimalEn(e.aEnergiaDia[m], 2, "kWh"), DecimalEn(e.aEnergiaMes[m], 1, "kWh")});
     return seccion;
 }
 

@@ -49,7 +49,8 @@ void Avisar(const F& accion, Args... args)
 // The focus goes elsewhere: who typed into a field has left it.
 void Dialogo::DejarLoTecleado(const Control* destino)
 {
-    if (m_tecleado != nullptr && m_tecleado != destino)
+    m_dejado = m_tecleado != destino ? m_tecleado : nullptr;
+    if (m_dejado != nullptr)
         Salir(*m_tecleado);
 }
 

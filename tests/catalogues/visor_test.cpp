@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <quorvel/catalogues.h>
+#include <quorvel/catalogues/consulta.h>
 #include <quorvel/frame.h>
 
 #include "comun/ficheros.h"
@@ -166,6 +167,44 @@ TEST_F(Visor, UnModeloNuevoLlevaTodosLosAtributos)
     CString csFamilia;
     EXPECT_EQ(phGetFabricantePanelFoto(L"cuatro", csFamilia), 1);
     EXPECT_EQ(csFamilia, L"Beta");
+}
+
+TEST_F(Visor, EnLaTablaSeBuscaSeFiltraYSeCambiaComoEnElArbol)
+{
+    ElegirModelosEn(FormaDeElegir::tabla);
+    guion.Dialogo("CDlgFiltroModelos",
+                  {paso::Elegir{"iDato", 2}, paso::Leer{}, paso::Poner{"csValor", L"no"}, paso::Pulsar{"OK"},
+                   paso::Poner{"csValor", L"260"}, paso::Pulsar{"OK"}});
+    guion.Dialogo("CDlgItemDatosPanelFoto", {paso::Poner{"dPmpm", L"300"}, paso::Pulsar{"OK"}});
+    guion.Dialogo("CDlgVisorNombre", {paso::Poner{"csNombre", L"Gamma"}, paso::Pulsar{"OK"}});
+    guion.presentador.respuestas = {ui::Respuesta::si};
+    EXPECT_EQ(Editar({paso::Leer{{"modelos"}}, paso::Teclear{"csBuscar", L"tres beta"}, paso::Leer{{"modelos"}},
+                      paso::Pulsar{"Filtrar"}, paso::Leer{{"modelos", "Eliminar"}},
+                      paso::Teclear{"csCondiciones", L""}, paso::Abrir{"modelos", 0, 0},
+                      paso::Pulsar{"RenombrarFamilia"}, paso::Leer{{"modelos"}}, paso::Teclear{"csBuscar", L""},
+                      paso::Elegir{"modelos", 0}, paso::Pulsar{"Eliminar"}, paso::Leer{{"modelos"}},
+                      paso::Pulsar{"OK"}}),
+              1);
+    ElegirModelosEn(FormaDeElegir::arbol);
+    const auto modelos = [&](std::size_t iLectura) {
+        std::vector<CString> textos;
+        for (const auto& fila :
+             std::get<ui::EstadoControl::DeLista>(guion.Estado(0, iLectura, "modelos").propio).filas)
+            textos.push_back(fila[0] + L"#" + fila[1] + L" " + fila[2]);
+        return textos;
+    };
+    EXPECT_EQ(modelos(0), (std::vector<CString>{L"Ácme#uno 250,00", L"Ácme#dos 250,00", L"Beta#tres 250,00"}));
+    EXPECT_EQ(modelos(1), (std::vector<CString>{L"Beta#tres 250,00"}));
+    EXPECT_EQ(guion.Texto(1, 0, "csNota"), L"Hay de 250,00 a 250,00.");
+    EXPECT_EQ(guion.Mensajes().at(0), L"«no» no es un número");
+    EXPECT_TRUE(modelos(2).empty());  // at least 260
+    EXPECT_FALSE(guion.Estado(0, 2, "Eliminar").bHabilitado);
+    EXPECT_TRUE(modelos(3).empty());  // "beta" is no longer the family's name
+    EXPECT_EQ(modelos(4), (std::vector<CString>{L"Ácme#dos 250,00", L"Gamma#tres 300,00"}));
+    CString csFamilia;
+    EXPECT_EQ(phGetFabricantePanelFoto(L"tres", csFamilia), 1);
+    EXPECT_EQ(csFamilia, L"Gamma");
+    EXPECT_EQ(phGetFabricantePanelFoto(L"uno", csFamilia), 0);
 }
 
 TEST_F(Visor, BuscaPorCualquierParteSinAcentosNiCaja)

@@ -121,6 +121,7 @@ TEST_F(ReceptorDialogo, LasFranjasTecleadasMuevenLosLimitesYLoQueNoSeEntiendeNoC
     EXPECT_EQ(guion.Estado(0, 1, "csFranjas").color, ui::kRojo);
     EXPECT_EQ(guion.Texto(0, 1, "Final 2"), L"22:00 h");
     EXPECT_EQ(guion.Mensajes().at(0), L"No se entienden las franjas; un ejemplo: 08:00-12:00; 18:00-22:00.");
+    EXPECT_EQ(guion.Mensajes().size(), 1U);  // for leaving the line by OK, not for both
     EXPECT_EQ(guion.Texto(0, 2, "dHorasDia"), L"0,00");
     EXPECT_EQ(guion.Texto(0, 3, "csFranjas"), L"10:00-10:05");
     EXPECT_EQ(dialogo->datos.receptor.dHorario[0][0][1], 605);

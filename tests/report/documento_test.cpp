@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <quorvel/unidades.h>
+
 #include <quorvel/report.h>
 
 namespace {
@@ -42,6 +44,26 @@ Documento Ejemplo()
     documento.secciones.push_back(pagina);
     documento.supuestos.emplace_back("Se supone.");
     return documento;
+}
+
+TEST(TextoInforme, LaUnidadElegidaValeEnCifrasYTitulosYNoEnPrecios)
+{
+    EXPECT_EQ(Con(1.5, 2, "kWh/m²·día"), "1,50 kWh/m²·día");  // stored in kJ, but none was chosen
+    efv::ElegirUnidad(L"Energía", L"kJ");
+    efv::ElegirUnidad(L"Radiación solar", L"kJ");
+    efv::ElegirUnidad(L"Dimensiones", L"m");
+    efv::ElegirUnidad(L"Temperatura", L"ºF");
+    EXPECT_EQ(Con(2.0, 1, "kWh"), "7200 kJ");
+    EXPECT_EQ(Con(2.0, 1, "kWh/año"), "7200 kJ/año");
+    EXPECT_EQ(DecimalEn(1.5, 2, "kWh/m²·día"), "5400");
+    EXPECT_EQ(Con(1234.0, 0, "mm"), "1,234 m");
+    EXPECT_EQ(Con(25.0, 1, "ºC"), "77,0 ºF");
+    EXPECT_EQ(Con(0.15, 2, "€/kWh"), "0,15 €/kWh");
+    EXPECT_EQ(TituloEn("Energía (kWh), prima (€/kWh)"), "Energía (kJ), prima (€/kWh)");
+    EXPECT_EQ(TituloEn("abierta (kWh"), "abierta (kJ");
+    for (const efv::Magnitud& magnitud : efv::Magnitudes())
+        efv::ElegirUnidad(magnitud.nombre, L"");
+    EXPECT_EQ(Con(2.0, 1, "kWh"), "2,0 kWh");
 }
 
 TEST(DocumentoTexto, EsUnTextoDeColumnas)

@@ -37,9 +37,14 @@ int DecimalesEn(std::wstring_view magnitud, int iDecimales)
     return dFactor < 1.0 ? iDecimales + static_cast<int>(std::ceil(-std::log10(dFactor))) : iDecimales;
 }
 
+CString SoloCifra(std::wstring_view magnitud, double d, int iDecimales)
+{
+    return Decimal(AlUsuario(magnitud, d), DecimalesEn(magnitud, iDecimales));
+}
+
 CString EnUnidad(std::wstring_view magnitud, double d, int iDecimales)
 {
-    return Decimal(AlUsuario(magnitud, d), DecimalesEn(magnitud, iDecimales)) + L" " + SimboloDe(magnitud);
+    return SoloCifra(magnitud, d, iDecimales) + L" " + SimboloDe(magnitud);
 }
 
 CString SimboloDe(std::wstring_view magnitud)

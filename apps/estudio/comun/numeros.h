@@ -22,6 +22,8 @@ int DecimalesEn(std::wstring_view magnitud, int iDecimales);
 CString SimboloDe(std::wstring_view magnitud);
 /// "12300 kWh"
 CString EnUnidad(std::wstring_view magnitud, double d, int iDecimales);
+/// The same without the unit, which stands above the column.
+CString SoloCifra(std::wstring_view magnitud, double d, int iDecimales);
 
 /// A number as a person writes it, without the points between its thousands: "1.234,5" is "1234,5". Where a
 /// single point may as well be the decimal mark the limits decide: "40.417" degrees are no 40417. Nothing when

@@ -133,10 +133,13 @@ public:
         const auto& s = bMes ? m_ano.meses.at(static_cast<std::size_t>(iFila)) : m_ano.total;
         const std::array<double, 8> ad{s.dProducida, s.dConsumida, s.dAutoconsumida,          s.dVertida,
                                        s.dComprada,  s.dGastoSin,  s.dCompra - s.dCompensado, s.dAhorro};
-        return Decimal(ad.at(static_cast<std::size_t>(iColumna) - 1), iColumna < 6 ? 1 : 2);
+        const double d = ad.at(static_cast<std::size_t>(iColumna) - 1);
+        return iColumna <= kUltimaEnergia ? SoloCifra(kEnergia, d, 1) : Decimal(d, 2);
     }
 
 private:
+    static constexpr int kUltimaEnergia = 5;  // column
+
     economics::AnoAutoconsumo m_ano;
 };
 
@@ -263,7 +266,8 @@ void DialogoAutoconsumo::HacerResultado()
 {
     auto& pagina = AnadirPagina(L"Resultado");
     pagina.alFrente = [this] { Calcular(); };
-    m_meses = &pagina.Anadir<ui::Lista>("meses", L"Energías en kWh, gasto y ahorro en euros:",
+    m_meses = &pagina.Anadir<ui::Lista>("meses",
+                                        L"Energías en " + SimboloDe(kEnergia) + L", gasto y ahorro en euros:",
                                         ui::Lista::Forma::tabla);
     m_meses->acsColumnas = {L"Mes",      L"Producida",      L"Consumida",      L"Autocons.", L"Vertida",
                             L"Comprada", L"Gasto sin ella", L"Gasto con ella", L"Ahorro"};

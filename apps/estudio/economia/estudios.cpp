@@ -119,7 +119,7 @@ PanelResumen::Contenido VentaDe(const CProyectoEstudio& proyecto)
         economics::CalcularTIR(estudio);
         contenido.lineas = {
             {L"Potencia", Decimal(estudio.dPotenciaGenerador / kMil, 2) + L" kWp"},
-            {L"Energía del primer año", Decimal(estudio.dEnergiaResultante, 0) + L" kWh"},
+            {L"Energía del primer año", EnUnidad(kEnergia, estudio.dEnergiaResultante, 0)},
             {L"Precio del primer año", Decimal(economics::PrimaInicial(estudio), 5) + L" €/kWh"},
             {L"Coste de la instalación", Euros(estudio.dCosteInstalacion)},
             {L"Total préstamos", Euros(estudio.dTotalPrestamos)},
@@ -162,8 +162,8 @@ PanelResumen::Contenido AutoconsumoDe(const CProyectoEstudio& proyecto)
         return d;
     };
     contenido.lineas = {
-        {L"Energía producida", Decimal(Suma(produccion), 0) + L" kWh"},
-        {L"Energía consumida", Decimal(Suma(consumo), 0) + L" kWh"},
+        {L"Energía producida", EnUnidad(kEnergia, Suma(produccion), 0)},
+        {L"Energía consumida", EnUnidad(kEnergia, Suma(consumo), 0)},
         {L"Gasto sin la instalación", Euros(suma(dinero.adMesGasto))},
         {L"Autoconsumo", Euros(suma(dinero.adMesAutoconsumo))},
         {L"Vertido", Euros(suma(dinero.adMesVertido))},

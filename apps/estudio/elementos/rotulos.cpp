@@ -68,7 +68,7 @@ CString ConUnidad(double d, int iDecimales, const wchar_t* csUnidad)
 CString Energia(const Origen& origen, double dPartes)
 {
     const auto dAno = origen.Energia();
-    return dAno ? ConUnidad(*dAno / dPartes, 1, L"kWh") : CString(kNada);
+    return dAno ? EnUnidad(kEnergia, *dAno / dPartes, 1) : CString(kNada);
 }
 
 CString TipoDeRed(const Origen& origen)

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <quorvel/report/texto.h>
+
 #include "comun/numeros.h"
 #include "energia/planos.h"
 
@@ -20,6 +22,7 @@ struct AspectoMetodo {
 constexpr auto kAspectos =
     std::to_array<AspectoMetodo>({{L"Correlación", 0xC0702F}, {L"Tabla de factores K", 0x2F90E0}});
 
+constexpr const char* kRadiacionDiaria = "kWh/m²·día";
 constexpr std::wstring_view kNota =
     L"Los dos métodos llevan el PR y un año de 365 días.\nLa cifra que se usa es la de la tabla K, la de los "
     L"diseños.";
@@ -38,21 +41,17 @@ public:
             case 0:
                 return fila.csNombre;
             case 1:
-                return Cifra(fila.dHorizontal, 2);
+                return Radiacion(fila.dHorizontal);
             case 2:
             case 3:
-                return Cifra(fila.adRI[static_cast<std::size_t>(iColumna - 2)], 2);
+                return Radiacion(fila.adRI[static_cast<std::size_t>(iColumna - 2)]);
             default:
-                return Cifra(fila.adEnergia[static_cast<std::size_t>(iColumna - 4)], 1);
+                return SoloCifra(kEnergia, fila.adEnergia[static_cast<std::size_t>(iColumna - 4)], 1);
         }
     }
 
 private:
-    // Without its unit, which stands above the column.
-    static CString Cifra(double d, int iDecimales)
-    {
-        return Decimal(AlUsuario(kEnergia, d), DecimalesEn(kEnergia, iDecimales));
-    }
+    static CString Radiacion(double d) { return CadenaDesdeUtf8(report::DecimalEn(d, 2, kRadiacionDiaria)); }
 
     std::shared_ptr<const std::vector<FilaEnergia>> m_filas;
 };
@@ -123,7 +122,7 @@ void PanelEnergia::Poner(const Lugar& otro, const Situacion& otraSituacion,
 void PanelEnergia::PonerUnidades()
 {
     const CString csEnergia = SimboloDe(kEnergia);
-    const CString csRadiacion = csEnergia + L"/m²·día";
+    const CString csRadiacion = CadenaDesdeUtf8(report::MedidaDe(kRadiacionDiaria).unidad);
     m_tabla->acsColumnas = {L"Mes",
                             L"Horizontal\n" + csRadiacion,
                             L"Correlación\n" + csRadiacion,

@@ -54,8 +54,12 @@ DialogoPlanos::DialogoPlanos(std::vector<solar::PlanoCampo> iniciales, const sol
       m_escritos([this] { AlDejar(); })
 {
     m_lista = &Anadir<ui::Lista>("planos", L"", ui::Lista::Forma::tabla);
-    m_lista->acsColumnas = {L"Plano",     L"Inclinación (º)", L"Orientación (º)",
-                            L"Parte (%)", L"kWh al año",      L"Hacia el ecuador"};
+    m_lista->acsColumnas = {L"Plano",
+                            L"Inclinación (º)",
+                            L"Orientación (º)",
+                            L"Parte (%)",
+                            SimboloDe(kEnergia) + L" al año",
+                            L"Hacia el ecuador"};
     m_lista->alineaciones = {ui::Alineacion::izquierda};
     m_lista->otras = ui::Alineacion::derecha;
     m_lista->bColumnasIguales = true;
@@ -160,7 +164,8 @@ void DialogoPlanos::Refrescar()
     for (const auto& [plano, ano, alEcuador] : energia.planos) {
         m_filas->push_back({std::to_wstring(m_filas->size() + 1), Decimal(plano.dInclinacion, 1),
                             Decimal(plano.dOrientacion, 1), Decimal(plano.dParte * kCiento, 2),
-                            Decimal(ano.Energia(), 1), Decimal(alEcuador.Energia(), 1)});
+                            SoloCifra(kEnergia, ano.Energia(), 1),
+                            SoloCifra(kEnergia, alEcuador.Energia(), 1)});
     }
     ++m_lista->uVersion;
     const bool bEntero = planos.empty() || solar::LleganAlTotal(planos);

@@ -25,7 +25,9 @@ struct Preferencias {
     enum Marca : int { sistema, coma, punto };
 
     int iMarca = sistema;
-    std::array<int, kMagnitudesElegibles> aiUnidades{};  ///< index of each magnitude's unit
+    static constexpr int kKilovatiosHora = 2;  ///< of radiation, which is stored in kJ
+    /// Index of each magnitude's unit.
+    std::array<int, kMagnitudesElegibles> aiUnidades{0, kKilovatiosHora};
 
     bool operator==(const Preferencias&) const = default;
 };

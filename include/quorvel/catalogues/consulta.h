@@ -33,7 +33,8 @@ public:
 };
 
 /// "field operator value". Operators are < <= = != >= > and, for "contains", ~ ; numbers have a decimal comma
-/// or point and stand in the stored unit. A field that is a choice is compared with its entry's text or number.
+/// or point and stand in the unit that lists show them in. A field that is a choice is compared with its
+/// entry's text or number.
 class EFV_API CondicionCatalogo {
 public:
     /// @throws ErrorCondicion

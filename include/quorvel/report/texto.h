@@ -17,8 +17,24 @@ EFV_API std::string Decimal(double d, int iDecimales);
 /// `d` with as few digits as tell it from any other double, and a comma; empty when it isn't finite.
 EFV_API std::string DecimalExacto(double d);
 
-/// "3,50 kW"; no unit, or "°", stands without a blank.
+/// How a report says figures that it has in some unit: in the one that the host has chosen for their magnitude
+/// (<quorvel/unidades.h>), in their own while it has chosen none, or where there is no other.
+struct Medida {
+    double dFactor = 1.0, dOrigen = 0.0;
+    int iMasDecimales = 0;  ///< for the same figure; may be negative
+    std::string unidad;
+
+    double En(double d) const { return d * dFactor + dOrigen; }
+};
+/// @param unidad "kWh", "kWh/año", "kWh/m²·día", "m²", "m", "mm", "kg", "ºC"; any other stays as it is
+EFV_API Medida MedidaDe(std::string_view unidad);
+
+/// "3,50 kW", in the unit chosen; no unit, or "°", stands without a blank.
 EFV_API std::string Con(double d, int iDecimales, std::string_view unidad);
+/// The same without the unit, for a column whose heading says it.
+EFV_API std::string DecimalEn(double d, int iDecimales, std::string_view unidad);
+/// "Energía (kWh)" with the unit chosen in each bracket that holds nothing but a unit.
+EFV_API std::string TituloEn(std::string_view titulo);
 
 /// `texto` fit for one line of a terminal: what steers a terminal becomes "?", malformed bytes U+FFFD.
 EFV_API std::string EnUnaLinea(std::string_view texto);

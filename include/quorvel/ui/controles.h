@@ -72,6 +72,7 @@ public:
 
     const std::string nombre;  ///< name of the field that it shows, as in the code
     CString csRotulo;          ///< caption; '&' before the letter of its key
+    CString csIndicacion;      ///< tool-tip: what its caption doesn't tell
     bool bHabilitado = true;
     bool bVisible = true;
     bool bSoloLectura = false;
@@ -216,7 +217,6 @@ public:
     std::function<void()> alPulsar;
     CString csImagen;  ///< name of its picture, such as an element's symbol; empty for a button of text
     bool bImagenGrande = false;
-    CString csIndicacion;  ///< tool-tip
 
     CString Texto() const override { return csRotulo; }
     Valor ValorActual() const override { return {}; }

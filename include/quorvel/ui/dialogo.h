@@ -127,6 +127,9 @@ protected:
     /// Further checks of OK, after the data exchange; true ends the dialog.
     virtual bool AlAceptar() { return true; }
     virtual void AlCancelar() {}
+    /// Whether what the person does now has left that field, which had its say then.
+    bool AcabaDeDejar(const Edicion& campo) const { return m_dejado == &campo; }
+
     virtual void AlVencerTemporizador() {}
 
 private:
@@ -149,6 +152,7 @@ private:
     Seleccion* m_pestanas = nullptr;
     std::map<CString, CString, std::less<>> m_titulosDeGrupos;  // those that have changed
     Edicion* m_tecleado = nullptr;                              // typed into and not left yet
+    const Edicion* m_dejado = nullptr;                          // by what is being done
     std::optional<int> m_resultado;
 };
 

@@ -61,6 +61,15 @@ AspectoCampo AspectoDe(const ui::Dialogo& ficha, std::string_view campo)
 
 }  // namespace
 
+std::wstring_view catalogues::MagnitudDe(const TipoCatalogo& tipo, std::size_t iCampo)
+{
+    const CampoCatalogo& campo = tipo.Campos()[iCampo];
+    if (!campo.columna.empty())
+        return {};
+    const auto ficha = tipo.CrearDialogo(*tipo.CrearModelo());
+    return AspectoDe(*ficha, campo.nombre).magnitud;
+}
+
 std::vector<CString> catalogues::EntradasDe(const TipoCatalogo& tipo, std::size_t iCampo)
 {
     const auto ficha = tipo.CrearDialogo(*tipo.CrearModelo());

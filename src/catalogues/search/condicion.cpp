@@ -9,6 +9,7 @@
 #include "platform/numero/conversion.h"
 #include "platform/texto/recortar.h"
 #include "platform/texto/texto.h"
+#include "platform/unidades/unidades.h"
 
 namespace efv {
 
@@ -142,7 +143,8 @@ void CondicionCatalogo::LeerValor(std::wstring_view valor, const CString& csText
             m_acsPlegadas.push_back(Plegar(csEntrada));
     }
     if (bNumero && m_operador != Operador::contiene) {
-        m_dValor = dValor;
+        const std::wstring_view magnitud = catalogues::MagnitudDe(*m_tipo, m_iCampo);
+        m_dValor = magnitud.empty() ? dValor : unidades::DelUsuario(magnitud, dValor);
         return;
     }
     if (m_acsPlegadas.empty()) {

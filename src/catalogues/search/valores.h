@@ -27,6 +27,9 @@ inline ValorCampo ValorDe(const TipoCatalogo& tipo, const CModelo& modelo, std::
     return iCampo == kCampoFamilia ? ValorCampo(modelo.csFamilia) : tipo.Valor(modelo, iCampo);
 }
 
+/// The magnitude in whose unit lists show the field; empty: as stored.
+std::wstring_view MagnitudDe(const TipoCatalogo& tipo, std::size_t iCampo);
+
 /// Entries of a field that is a choice, or a tick; none of any other.
 std::vector<CString> EntradasDe(const TipoCatalogo& tipo, std::size_t iCampo);
 

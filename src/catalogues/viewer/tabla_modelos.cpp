@@ -84,14 +84,19 @@ std::vector<ColumnaCatalogo> ColumnasDeTabla(const TipoCatalogo& tipo)
     return ColumnasDe(tipo, campos);
 }
 
-// All figures of the model but what no data sheet shows.
+// All figures of the model but what no data sheet shows, or shows without a caption.
 std::vector<ColumnaCatalogo> DatosDeFicha(const TipoCatalogo& tipo)
 {
     std::vector<std::size_t> campos = {0, kCampoFamilia};
     for (std::size_t i = 1; i < tipo.Campos().size(); ++i)
         if (tipo.Campos()[i].nombre != "nColor" && tipo.Campos()[i].nombre != "csCodPrecio")
             campos.push_back(i);
-    return ColumnasDe(tipo, campos);
+    std::vector<ColumnaCatalogo> datos = ColumnasDe(tipo, campos);
+    std::erase_if(datos, [&](const ColumnaCatalogo& dato) {
+        return dato.Campo() != kCampoFamilia &&
+               dato.Titulo() == CadenaDesdeUtf8(tipo.Campos()[dato.Campo()].nombre);
+    });
+    return datos;
 }
 
 // What a condition calls the column's field.

@@ -58,6 +58,8 @@ CDlgVisorXML::CDlgVisorXML(const efv::catalogues::PeticionVisor& peticion,
     const FilasVisibles todas(m_filas, L"");
     const int iInicial = csSeleccion.empty() ? -1 : todas.FilaDe(csSeleccion);
     Filtrar(iInicial < 0 ? xml::NodoEditable() : todas.Fila(iInicial).elemento);
+    if (m_bTabla && m_tabla->iSeleccion < 0)
+        IrAFila(0);
 }
 
 void CDlgVisorXML::AnadirArbol()

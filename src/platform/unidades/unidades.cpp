@@ -37,6 +37,7 @@ constexpr auto kMagnitudes = std::to_array<Magnitud>({
 
 // Index of the unit in use, for each magnitude.
 std::array<std::size_t, kMagnitudes.size()> gElegidas{};
+std::array<bool, kMagnitudes.size()> gHayElegida{};
 
 std::size_t Indice(std::wstring_view magnitud)
 {
@@ -62,10 +63,21 @@ void ElegirUnidad(std::wstring_view magnitud, std::wstring_view simbolo)
 {
     const std::size_t indice = Indice(magnitud);
     const auto unidades = kMagnitudes[indice].unidades;
+    gHayElegida[indice] = gHayElegida[indice] && !simbolo.empty();
+    if (simbolo.empty()) {
+        gElegidas[indice] = 0;
+        return;
+    }
     const auto hallada = std::ranges::find(unidades, simbolo, &Unidad::simbolo);
     if (hallada == unidades.end())
         throw CInvalidArgException("unknown unit");
     gElegidas[indice] = static_cast<std::size_t>(hallada - unidades.begin());
+    gHayElegida[indice] = true;
+}
+
+bool HayUnidadElegida(std::wstring_view magnitud)
+{
+    return gHayElegida[Indice(magnitud)];
 }
 
 const Unidad& UnidadActual(std::wstring_view magnitud)

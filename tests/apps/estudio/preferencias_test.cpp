@@ -9,6 +9,7 @@
 
 #include <quorvel/marca_decimal.h>
 #include <quorvel/report/texto.h>
+#include <quorvel/unidades.h>
 
 #include "apps/estudio/apoyo.h"
 #include "comun/guion.h"
@@ -25,7 +26,12 @@ using namespace efv::pruebas;
 
 class PreferenciasDeLaPersona : public ConPantallas {
 protected:
-    ~PreferenciasDeLaPersona() override { Aplicar({}, L','); }
+    ~PreferenciasDeLaPersona() override
+    {
+        Aplicar({}, L',');
+        for (const Magnitud& magnitud : Magnitudes())
+            ElegirUnidad(magnitud.nombre, L"");
+    }
 };
 
 TEST_F(PreferenciasDeLaPersona, LasUnidadesSeEligenYSeRecuerdan)
