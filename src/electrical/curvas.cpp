@@ -1,14 +1,14 @@
 #include "electrical/curvas.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <cstddef>
-#include <limits>
-#include <span>
+#include <functional>
+#include <vector>
 
 #include <quorvel/framework/CException.h>
 
+#include "electrical/iteracion_diodo.h"
 #include "platform/numero/tolerancia.h"
 
 namespace efv::electrical {
@@ -19,77 +19,13 @@ namespace {
 constexpr double kBoltzmann = 1.3806504e-23;   // J/K
 constexpr double kCargaElectron = 1.6021e-19;  // C
 constexpr double kCeroCelsius = 273.16;        // K
-// The series term uses the natural logarithm, of which a power of this base isn't the exact inverse.
-constexpr double kBase = 2.718281828;
 
-constexpr double kNoNumero = std::numeric_limits<double>::quiet_NaN();
-
-// I = Isc · (1 − B^((V + Rs·I − Voc)/a)), as far as it is the same for all points of a curve.
-struct Diodo {
-    double dIsc, dVoc;
-    double dA;   // scale voltage, V
-    double dRs;  // makes the equation pass through the maximum-power point, ohm
-
-    explicit Diodo(const EntradaCurva& e)
-        : dIsc(e.dIsc),
-          dVoc(e.dVoc),
-          dA((e.dT + kCeroCelsius) * (e.dIdealidad * kBoltzmann) / kCargaElectron * e.dNs /
-             std::max(e.dNp, 1.0)),
-          dRs((std::log(1.0 - e.dImp / e.dIsc) * dA + e.dVoc - e.dVmp) / e.dImp)
-    {
-    }
-
-    double Exponente(double dV, double dI) const { return (dV + dRs * dI - dVoc) / dA; }
-    double Corriente(double dExponente) const { return dIsc * (1.0 - std::pow(kBase, dExponente)); }
-};
-
-// A point on its way: the current of the last iteration, and the exponents that gave it and the one before.
-struct Iteracion {
-    double dV;
-    double dI = 0.0;
-    double dExponente = kNoNumero, dExponenteAnterior = kNoNumero;
-    bool bAcabada = false;
-};
-
-// Carries one point an iteration further, `iQuedan` being those still to do with this one.
-//
-// The number of iterations is part of the model, convergence or not, but most end early with the same
-// bits. A current follows from its exponent alone, so an exponent that comes again repeats all that came
-// after it: the last one fixes the current, and the last but one makes two currents alternate, the present
-// one being the final one when an even number is left (when it is odd, the next turn finds it). Nothing is
-// approximated: the comparisons are exact (the two zeros, which they take as one, both have the power 1)
-// and no other property is relied upon. Longer cycles aren't looked for: the equation is monotone in I,
-// which leaves none, and one that rounding made would only run to its end. After not-a-number nothing
-// else can come.
-void Iterar(Iteracion& p, const Diodo& diodo, int iQuedan)
+// The series term makes the equation pass through the maximum-power point.
+Diodo DiodoDe(const EntradaCurva& e)
 {
-    const double x = diodo.Exponente(p.dV, p.dI);
-    if (x == p.dExponente || (x == p.dExponenteAnterior && iQuedan % 2 == 0)) {
-        p.bAcabada = true;
-        return;
-    }
-    p.dExponenteAnterior = p.dExponente;
-    p.dExponente = x;
-    p.dI = diodo.Corriente(x);
-    p.bAcabada = std::isnan(x);
-}
-
-// Points are independent but each iteration waits for the one before, so that a few points in turn keep
-// the processor busy where a single one would leave it idle.
-constexpr std::size_t kPuntosAlaVez = 8;
-
-void IterarJuntos(std::span<Iteracion> puntos, const Diodo& diodo, int iN)
-{
-    std::size_t pendientes = puntos.size();
-    for (int iQuedan = iN; iQuedan > 0 && pendientes > 0; --iQuedan) {
-        for (Iteracion& p : puntos) {
-            if (p.bAcabada)
-                continue;
-            Iterar(p, diodo, iQuedan);
-            if (p.bAcabada)
-                --pendientes;
-        }
-    }
+    const double dA =
+        (e.dT + kCeroCelsius) * (e.dIdealidad * kBoltzmann) / kCargaElectron * e.dNs / std::max(e.dNp, 1.0);
+    return {e.dIsc, e.dVoc, dA, (std::log(1.0 - e.dImp / e.dIsc) * dA + e.dVoc - e.dVmp) / e.dImp};
 }
 
 bool EsExponencial(double dV, const EntradaCurva& e)
@@ -110,7 +46,6 @@ void Guardar(Curva& curva, double dV, double dI)
         return;
     curva.adV.push_back(dV);
     curva.adI.push_back(dI);
-    curva.adP.push_back(dV * dI);
 }
 
 }  // namespace
@@ -144,27 +79,27 @@ Curva CalcularCurva(const EntradaCurva& e, int iN)
         return curva;
 
     const double dPaso = e.dVoc / iN;
-    const Diodo diodo(e);
-    std::array<Iteracion, kPuntosAlaVez> lote;
-    for (int iPrimero = 0; iPrimero <= iN; iPrimero += static_cast<int>(kPuntosAlaVez)) {
-        const int iFin = std::min(iN + 1, iPrimero + static_cast<int>(kPuntosAlaVez));
-        std::size_t exponenciales = 0;
-        for (int i = iPrimero; i < iFin; ++i) {
-            const double dV = i * dPaso;
-            if (EsExponencial(dV, e))
-                lote[exponenciales++] = {.dV = dV};
-        }
-        IterarJuntos(std::span(lote).first(exponenciales), diodo, iN);
+    const auto nPuntos = static_cast<std::size_t>(iN) + 1;
+    std::vector<double> adV;
+    adV.reserve(nPuntos);
+    for (int i = 0; i <= iN; ++i)
+        if (const double dV = i * dPaso; EsExponencial(dV, e))
+            adV.push_back(dV);
+    std::vector<double> adI(adV.size());
+    IterarCorrientes(DiodoDe(e), iN, adV, adI);
 
-        const Iteracion* exponencial = lote.data();
-        for (int i = iPrimero; i < iFin; ++i) {
-            const double dV = i * dPaso;
-            if (EsExponencial(dV, e))
-                Guardar(curva, dV, (exponencial++)->dI);
-            else if (numero::MenorIgual(dV, e.dVoc))
-                Guardar(curva, dV, CorrienteRecta(dV, e));
-        }
+    curva.adV.reserve(nPuntos);
+    curva.adI.reserve(nPuntos);
+    auto exponencial = adI.begin();
+    for (int i = 0; i <= iN; ++i) {
+        const double dV = i * dPaso;
+        if (EsExponencial(dV, e))
+            Guardar(curva, dV, *exponencial++);
+        else if (numero::MenorIgual(dV, e.dVoc))
+            Guardar(curva, dV, CorrienteRecta(dV, e));
     }
+    curva.adP.resize(curva.adV.size());
+    std::ranges::transform(curva.adV, curva.adI, curva.adP.begin(), std::multiplies());
     return curva;
 }
 

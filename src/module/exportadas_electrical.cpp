@@ -45,12 +45,13 @@ int phCalcCurve(CArray<double, double&>& aI, CArray<double, double&>& aV, CArray
     const AmbitoRecursos ambito;
     const efv::electrical::Curva curva =
         efv::electrical::CalcularCurva({dIsc, dVoc, dImp, dVmp, dT, dNs, dNp, dN}, iN);
-    aI.RemoveAll();
-    aV.RemoveAll();
-    for (std::size_t i = 0; i < curva.adV.size(); ++i) {
-        aV.Add(curva.adV[i]);
-        aI.Add(curva.adI[i]);
-        aP.Add(curva.adP[i]);
-    }
+    const auto poner = [](const std::vector<double>& adPuntos, CArray<double, double&>& lista,
+                          std::ptrdiff_t iDesde) {
+        lista.SetSize(iDesde + std::ssize(adPuntos));
+        std::ranges::copy(adPuntos, lista.begin() + iDesde);
+    };
+    poner(curva.adI, aI, 0);
+    poner(curva.adV, aV, 0);
+    poner(curva.adP, aP, aP.GetSize());
     return 1;
 }

@@ -245,7 +245,7 @@ TEST(Curva, EsLaLiteralEnCienMilModulos)
         ASSERT_TRUE(IgualQueLaLiteral(e, kN[azar.Indice(kN.size())]));
     }
     for (int i = 0; i < 2000; ++i)
-        ASSERT_TRUE(IgualQueLaLiteral(azar.Modulo(), 100 + static_cast<int>(azar.Indice(2))));
+        ASSERT_TRUE(IgualQueLaLiteral(azar.Modulo(), 51 + static_cast<int>(azar.Indice(150))));
 }
 
 // Where the end isn't early: slow convergence on both sides of oscillation, and along a tangent.
@@ -258,6 +258,13 @@ TEST(Curva, EsLaLiteralDondeConvergeDespacio)
         ASSERT_TRUE(IgualQueLaLiteral({5, 20, 0.01 * dVmp, 19.9, 25, 20 * dVmp, 1, 1}, 200));
     }
     ASSERT_TRUE(IgualQueLaLiteral({1, 20, 1e-6, 10, 1e10, 20, 1, 1}, 300));
+    // Thin film, whose last points take 52 and 70 iterations; two currents alternate, an odd count ends at the
+    // greater.
+    ASSERT_TRUE(IgualQueLaLiteral({1.84, 88, 1.62, 67.9, 25, 116, 1, 1}, 100));
+    ASSERT_TRUE(
+        IgualQueLaLiteral({0.1404162423328762, 74.486473091781789, 0.080406669462082331, 64.779037910499554,
+                           82.149147340873228, 198.3208794898494, 1, 1.7836384011157087},
+                          119));
 }
 
 // ---------------------------------------------------------------------------------------------------
