@@ -92,8 +92,10 @@ void PaginaPaneles::AnadirPosicion()
 {
     m_asistente.AnadirCampos(*this, kAngulos<V>, kDerecha);
     m_asistente.AnadirResultados(*this, kAngulosP<V>, kColorPropuesta, kDerecha);
-    m_asistente.AnadirBoton(*this, "CDlgImgCoordenadas", L"...", ui::JuntoA(m_asistente.De(&V::dOrientacion)),
-                            [] { CDlgImgCoordenadas().Mostrar(); });
+    m_asistente
+        .AnadirBoton(*this, "CDlgImgCoordenadas", L"...", ui::JuntoA(m_asistente.De(&V::dOrientacion)),
+                     [] { CDlgImgCoordenadas().Mostrar(); })
+        .csIndicacion = kIndicacionOrientacion;
     AnadirPanelesPorFila();
     m_asistente.AnadirCampos(*this, kDistancias, kDerecha);
     m_asistente.AnadirResultados(*this, kDistanciaP<V>, ui::kNegro, kDerecha);

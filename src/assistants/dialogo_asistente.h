@@ -17,6 +17,7 @@
 
 namespace efv::assistants {
 
+inline constexpr std::wstring_view kIndicacionOrientacion = L"Cómo se mide la orientación";
 inline constexpr ui::Color kColorPropuesta = 0xFF0000;  // blue, 0xBBGGRR
 inline constexpr ui::Color kColorInsuficiente = 0x0000FF;
 

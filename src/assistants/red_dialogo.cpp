@@ -139,11 +139,14 @@ void CDlgAsistenteSFVRed::AnadirCampo()
 {
     Anadir(as::kAngulos<V>, kGrupoGeometria);
     AnadirResultados(*this, as::kAngulosP<V>, as::kColorPropuesta, kGrupoGeometria);
-    AnadirBoton(*this, "CDlgImgCoordenadas", L"...", ui::JuntoA(De(&V::dOrientacion)),
-                [] { CDlgImgCoordenadas().Mostrar(); });
+    AnadirBoton(*this, "CDlgImgCoordenadas", L"...", ui::JuntoA(De(&V::dOrientacion)), [] {
+        CDlgImgCoordenadas().Mostrar();
+    }).csIndicacion = as::kIndicacionOrientacion;
     Anadir(kFilasDePaneles, kGrupoGeometria);
     AnadirResultados(*this, as::kDistanciaP<V>, as::kColorPropuesta, kGrupoGeometria);
-    AnadirBoton(*this, "EspaciarFilas", L"...", ui::JuntoA(De(&V::dDistanciaFilas)), [this] { AlEspaciar(); });
+    AnadirBoton(*this, "EspaciarFilas", L"...", ui::JuntoA(De(&V::dDistanciaFilas)), [this] {
+        AlEspaciar();
+    }).csIndicacion = L"Distancia para que las filas no se den sombra";
     m_disposicion = &AnadirDisposicion(*this, kGrupoGeometria, [this] { AlElegirDisposicion(); });
 }
 

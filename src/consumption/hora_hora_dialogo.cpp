@@ -87,6 +87,7 @@ void CDlgDatosConsumoHoraHora::AnadirControles()
     m_patron = &AnadirEleccion(&P::iPatron, L"", Forma::combo, Titulos());
     m_editar = &Anadir<ui::Boton>("", L"...");
     m_editar->colocacion = ui::JuntoA(*m_patron);
+    m_editar->csIndicacion = L"Configurar el patrón";
     Anadir(kPotencia);
     m_consejo = &Anadir<ui::Edicion>("csDescripcion", L"");
     m_consejo->bSoloLectura = true;
@@ -94,8 +95,10 @@ void CDlgDatosConsumoHoraHora::AnadirControles()
     AnadirHorario();
     Anadir(kSeparador);
     m_importar = &Anadir<ui::Boton>("", L"Importar datos ...");
+    m_importar->csIndicacion = L"Lee los valores de un fichero de texto";
     Anadir<ui::Boton>("", L"Exportar datos ...").alPulsar = [this] { AlExportar(); };
     m_meses = &Anadir<ui::Boton>("", L"Datos mensuales ...");
+    m_meses->csIndicacion = L"Reparte entre las horas la energía de cada mes";
     m_texto = &Anadir<ui::Edicion>("csTexto", L"");
     m_texto->bVariasLineas = true;
     m_texto->colocacion.bEstirar = true;

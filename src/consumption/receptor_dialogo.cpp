@@ -88,6 +88,8 @@ void CDlgDatosReceptor::AnadirModelo()
     conModelo.alCambiar = [this, &conModelo] { m_elegir->bHabilitado = conModelo.bMarcada; };
     m_elegir = &Anadir<ui::Boton>("", L"...");
     m_elegir->colocacion = ui::JuntoA(modelo);
+    m_elegir->csIndicacion = L"Elegir el modelo en el catálogo";
+    conModelo.csIndicacion = L"Con los datos de un modelo del catálogo";
     m_elegir->bHabilitado = datos.bModelo != 0;
     m_elegir->alPulsar = [this] { AlElegirModelo(); };
     m_receptor.Anadir(*this, {&R::iCantidad, L"Cantidad:", {0, 10000}}).bVisible = datos.bPedirCantidad != 0;
@@ -97,6 +99,7 @@ void CDlgDatosReceptor::AnadirModelo()
     fabricante.bVisible = datos.bPedirCantidad == 0;
     auto& excluir = Anadir<ui::Casilla>("bExcluir", L"Excluir del cálculo");
     excluir.destino = &datos.receptor.bNoCalcular;
+    excluir.csIndicacion = L"Sigue en la lista y no cuenta en el consumo";
 }
 
 void CDlgDatosReceptor::AnadirDatosCatalogo()
@@ -134,6 +137,7 @@ void CDlgDatosReceptor::AnadirPlanificacion()
     m_unificar->acsEntradas.assign(kUnificar.begin(), kUnificar.end());
     m_unificar->alElegir = [this] { AlUnificar(); };
     m_unificar->colocacion = kPlanificacion;
+    m_unificar->csIndicacion = L"Copia las franjas que se ven a otros días o meses";
     m_receptor.Anadir(*this, {&R::dHorasDia, L"Nº horas uso diario:", {0, 24}}, kPlanificacion);
 }
 
@@ -149,6 +153,9 @@ void CDlgDatosReceptor::AnadirFranjas()
     m_todosLosMeses = anadirCasilla("bTodosLosMeses", L"Todos los meses a la vez");
     m_todosLosDias = anadirCasilla("bTodosLosDias", L"Todos los días a la vez");
     m_todosLosDias->colocacion = ui::JuntoA(*m_todosLosMeses);
+    m_todosLosMeses->csIndicacion = L"Las franjas que se ven valen para los doce meses, y así se cambian";
+    m_todosLosDias->csIndicacion =
+        L"Las franjas que se ven valen para los siete tipos de día, y así se cambian";
     m_franjas = &Anadir<ui::Edicion>("csFranjas", L"Franjas de uso:");
     m_franjas->csEjemplo = L"08:00-12:00; 18:00-22:00";
     m_franjas->colocacion = kPlanificacion;

@@ -33,6 +33,7 @@ void CDlgGeneradorTarifa::AnadirPeriodo(std::size_t iPeriodo)
     auto& casilla = Anadir<ui::Casilla>(fmt::format("bP{}", iPeriodo + 1), kRotulos.at(iPeriodo));
     casilla.destino = &abPeriodos.at(iPeriodo);
     casilla.colocacion = Grupo(iPeriodo);
+    casilla.csIndicacion = L"El precio del período se escribe en las horas que se dan";
     casilla.alCambiar = [&casilla] { Dialogo::Recoger(casilla); };
     AnadirEstacion(iPeriodo, L"Invierno: ", 'I');
     AnadirEstacion(iPeriodo, L"Verano:", 'V');

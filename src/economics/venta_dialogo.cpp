@@ -174,6 +174,8 @@ void CDlgCalculoEconomicoRed::AnadirEnergia()
     AnadirTecleados(kRatioPorCien, kEnergia);
     Abrir(&R::bPotenciaGenerador, &R::dPotenciaGenerador);
     Abrir(&R::bPerformanceRatio, &R::dPerformanceRatio);
+    for (const auto miembro : {&R::bPotenciaGenerador, &R::bPerformanceRatio})
+        De(miembro).csIndicacion = L"Permite escribir otro valor";
     AnadirTecleados(kEnergias, kEnergia);
     AnadirCalculados(kEnergiaResultante, kEnergia);
 }

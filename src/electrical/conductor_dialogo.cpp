@@ -127,6 +127,7 @@ CDlgDatosConductor::CDlgDatosConductor(const electrical::ConductorDibujado& cond
     informacion.bSoloLectura = true;
     informacion.csTexto = Informacion(conductor);
     Volcar();
+    De(&D::bExcluir).csIndicacion = L"Sigue en el dibujo y no cuenta en el cálculo";
     for (const auto miembro : {&D::bForzarLongitud, &D::bForzarSeccion, &D::bConductoresFase, &D::bTipoCable})
         De<ui::Casilla>(miembro).alCambiar = [this] { Habilitar(); };
     Habilitar();

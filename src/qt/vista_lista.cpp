@@ -27,6 +27,7 @@ namespace {
 constexpr int kFilasMedidas = 40;  // rows that a column's width is taken from
 constexpr int kAnchoMinimo = 220;
 constexpr int kAnchoImprescindible = 400;
+constexpr double kParteDeNombres = 0.65;
 constexpr int kLetrasDeValores = 56;  // of a table of names and values
 constexpr int kAireDeFila = 6;        // above and below a row's letters
 constexpr int kFilasMinimas = 5;
@@ -360,17 +361,19 @@ private:
         int iSobra = iTodo;
         for (const int iAncho : m_aiAnchos)
             iSobra -= iAncho;
-        // What is long of a name and its value gives way to the other; the pointer over it shows the whole.
+        // A name gives way to its value as far as it takes more than its part; the pointer over them shows
+        // the whole.
         const bool bCeden = nColumnas == 2 && iSobra < 0;
-        const auto ceder = [&](int iAncho) {
-            const int iOtro = m_aiAnchos[0] + m_aiAnchos[1] - iAncho;
-            return std::min(iAncho, std::max(iTodo / 2, iTodo - iOtro));
+        const auto ceder = [&](int i) {
+            const int iNombre = std::min(
+                m_aiAnchos[0], std::max(static_cast<int>(iTodo * kParteDeNombres), iTodo - m_aiAnchos[1]));
+            return i == 0 ? iNombre : iTodo - iNombre;
         };
         m_aiPuestos.clear();
         for (int i = 0; i < nColumnas; ++i) {
             const int iParte = iSobra > 0 ? iSobra / nColumnas + (i < iSobra % nColumnas ? 1 : 0) : 0;
             const auto n = static_cast<std::size_t>(i);
-            const int iAncho = bCeden ? ceder(m_aiAnchos[n]) : m_aiAnchos[n] + iParte;
+            const int iAncho = bCeden ? ceder(i) : m_aiAnchos[n] + iParte;
             Cabecera().resizeSection(i, bPorPartes ? static_cast<int>(m_lista.adPartes[n] * iTodo) : iAncho);
             m_aiPuestos.push_back(Cabecera().sectionSize(i));
         }

@@ -80,13 +80,14 @@ void Vista::Refrescar()
 // Beside what the kind of view says itself, which it writes anew with each change of it.
 void Vista::RefrescarIndicacion()
 {
-    if (control.csIndicacion.empty() || dynamic_cast<const ui::Boton*>(&control) != nullptr)
+    if (control.csIndicacion.empty())
         return;
+    const bool bBoton = dynamic_cast<const ui::Boton*>(&control) != nullptr;
     const QString indicacion = Indicacion(control.csIndicacion);
-    if (!widget->toolTip().startsWith(indicacion))
-        widget->setToolTip(widget->toolTip().isEmpty() ? indicacion : indicacion + "<br>" + widget->toolTip());
+    if (!bBoton && !widget->toolTip().startsWith(indicacion))
+        widget->setToolTip(widget->toolTip().isEmpty() ? indicacion : indicacion + '\n' + widget->toolTip());
     const QString descripcion = AQt(control.csIndicacion);
-    if (!widget->accessibleDescription().startsWith(descripcion))
+    if (widget->accessibleName() != descripcion && !widget->accessibleDescription().startsWith(descripcion))
         widget->setAccessibleDescription(
             (descripcion + QStringLiteral(". ") + widget->accessibleDescription()).trimmed());
 }

@@ -1,4 +1,6 @@
 // Ticks, buttons.
+#include <algorithm>
+
 #include <QCheckBox>
 #include <QPushButton>
 
@@ -55,7 +57,11 @@ private:
 
     QString NombreHablado() const override
     {
-        return m_boton.csIndicacion.empty() ? Vista::NombreHablado() : SinMnemonico(m_boton.csIndicacion);
+        const bool bDice = std::ranges::any_of(m_boton.csRotulo,
+                                               [](wchar_t c) { return QChar::isLetter(static_cast<uint>(c)); });
+        return (bDice && m_boton.csImagen.empty()) || m_boton.csIndicacion.empty()
+                   ? Vista::NombreHablado()
+                   : SinMnemonico(m_boton.csIndicacion);
     }
 
     void RefrescarContenido() override

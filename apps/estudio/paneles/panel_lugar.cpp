@@ -58,7 +58,7 @@ void PanelLugar::PonerUnidades()
     m_altitud->csRotulo = L"Altitud (" + SimboloDe(kLongitud) + L"):";
     m_altitud->iDecimales = DecimalesEn(kLongitud, 0);
     for (ui::Edicion* radiacion : m_radiaciones)
-        radiacion->iDecimales = DecimalesEn(kRadiacion, 1);
+        radiacion->iDecimales = std::min(3, DecimalesEn(kRadiacion, 1));
     m_campos.Olvidar();
     Volcar();
 }

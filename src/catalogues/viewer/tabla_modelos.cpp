@@ -170,8 +170,11 @@ void DialogoDeModelos::AnadirBusqueda()
     m_familia->iSeleccion = 0;
     m_familia->alElegir = [this] { Preguntar(); };
     m_familia->colocacion.junto = m_buscar;
+    m_familia->csIndicacion = L"Solo los modelos de esa familia";
     m_condiciones = &Anadir<ui::Edicion>("csCondiciones", L"&Condiciones:");
     m_condiciones->alCambiar = [this] { Preguntar(); };
+    m_condiciones->csIndicacion =
+        L"Con punto y coma entre ellas; los signos son < <= = != >= > y ~ («contiene»)";
     auto& filtro = Anadir<ui::Boton>("Filtrar", L"Fil&tro...");
     filtro.csIndicacion = L"Escribe una condición: el dato, cómo se compara y con qué";
     filtro.colocacion.junto = m_condiciones;

@@ -96,6 +96,8 @@ void CDlgVisorXML::AnadirBotones()
     if (!m_bTabla)
         AnadirBoton("NuevaFamilia", L"Nueva &familia...", &CDlgVisorXML::NuevaFamilia);
     m_deshacer = &AnadirBoton("Deshacer", L"De&shacer", &CDlgVisorXML::Deshacer);
+    m_deshacer->csIndicacion = L"Retira el último cambio; nada se guarda hasta Aceptar";
+    m_deFamilia.front()->csIndicacion = L"Un modelo en la familia del que está marcado, o en la que se pide";
     if (!m_bTabla)
         return;
     AnadirBoton("NuevaFamilia", L"Nueva fa&milia...", &CDlgVisorXML::NuevaFamilia);
