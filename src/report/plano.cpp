@@ -203,9 +203,10 @@ std::vector<Medidas> MedidasDePapel(const Ahorro& ahorro)
 {
     std::vector<Medidas> todas;
     for (const double dTexto : {300.0, 260.0, 230.0, 200.0, 180.0, 165.0, 150.0, 140.0, 130.0, 120.0}) {
-        for (const double dHueco : {140.0, 120.0, 105.0, 95.0, 86.0}) {
+        for (const double dHueco : {200.0, 165.0, 140.0, 120.0, 105.0, 95.0, 86.0}) {
             todas.push_back({.dMargen = kMargenHoja,
                              .dHueco = dHueco,
+                             .dHuecoFilas = 36.0,
                              .dCabecera = 0.0,
                              .dAlmohada = 8.0,
                              .dAnchoMinimo = 110.0,

@@ -14,7 +14,7 @@ namespace {
 constexpr double kAnchoMaximo = 267.0;  // across A4 within its margins
 constexpr double kRenglon = 4.6, kLado = 1.5, kRemate = 1.8;
 constexpr double kLineaMarco = 0.5, kLineaCelda = 0.25;
-constexpr std::size_t kLineasMaximo = 2;
+constexpr std::size_t kLineasMaximo = 3;
 constexpr const wchar_t* kNada = L"—";
 
 struct Celda {
