@@ -23,7 +23,7 @@ double Numero(const C& campo, const std::string& texto)
 {
     const auto d = LeerNumero(texto);
     if (!d)
-        throw ErrorUso(fmt::format("se esperaba un número, llegó «{}»", texto));
+        throw ErrorUso(fmt::format("se esperaba un número, llegó «{}»{}", texto, ConsejoDeNumero(texto)));
     if (*d < campo.dMinimo || *d > campo.dMaximo)
         throw ErrorUso(fmt::format("{} está fuera de {} a {}", texto, DecimalExacto(campo.dMinimo),
                                    DecimalExacto(campo.dMaximo)));

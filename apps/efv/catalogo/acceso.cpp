@@ -47,6 +47,11 @@ std::span<const std::string_view> TodosLosTipos()
     return kNombres;
 }
 
+std::string_view NombreEscrito(const TipoCatalogo& tipo)
+{
+    return tipo.Nombre() == "modulos" ? "módulos" : tipo.Nombre();
+}
+
 void OpcionesCatalogo::Declarar(CLI::App& linea, const std::string& ayudaFichero)
 {
     linea.add_option("--fichero", m_fichero, ayudaFichero)->type_name("FICHERO");
@@ -62,7 +67,8 @@ void OpcionesCatalogo::DeclararTipo(CLI::App& linea, std::span<const std::string
 
 const TipoCatalogo& OpcionesCatalogo::Tipo(std::span<const std::string_view> tipos) const
 {
-    const std::string_view nombre = m_tipo ? *m_tipo : tipos.front();
+    // As a sentence writes it too.
+    const std::string_view nombre = !m_tipo ? tipos.front() : *m_tipo == "módulos" ? "modulos" : *m_tipo;
     if (std::ranges::find(tipos, nombre) == tipos.end())
         throw ErrorUso(fmt::format("--tipo: se esperaba {}, llegó «{}»{}", Enumerar(tipos), EnUnaLinea(nombre),
                                    Parecidos(std::vector<std::string>(tipos.begin(), tipos.end()), nombre)));
@@ -91,7 +97,7 @@ void ExigirTipo(const TipoCatalogo& tipo, const CString& csRuta)
         const TipoCatalogo* otro = csFichero.empty() ? nullptr : TipoDelCatalogo(csFichero);
         if (otro != nullptr && otro != &tipo)
             throw ErrorEjecucion(fmt::format("«{}» es un catálogo de {}, no de {}", CadenaUtf8(csFichero),
-                                             otro->Nombre(), tipo.Nombre()));
+                                             NombreEscrito(*otro), NombreEscrito(tipo)));
     }
 }
 

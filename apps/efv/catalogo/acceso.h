@@ -47,6 +47,9 @@ std::span<const std::string_view> TodosLosTipos();
 
 using Modelos = std::vector<const CModelo*>;
 
+/// The kind's name as a sentence has it: "módulos" of "modulos".
+std::string_view NombreEscrito(const TipoCatalogo& tipo);
+
 /// "family#model".
 CString Identificacion(const CModelo& modelo);
 

@@ -64,6 +64,9 @@ private:
     {
         AnadirFamilia(exportar, "Solo los de la familia");
         m_pregunta.DeclararCondiciones(exportar);
+        exportar.add_flag("--json", m_bJson, "Escribe JSON en vez de CSV")
+            ->option_text(" ")
+            ->disable_flag_override();
         exportar.add_option("--salida", m_salida, "Fichero que se escribe; sin él, la salida del programa")
             ->type_name("FICHERO");
         exportar
@@ -133,7 +136,7 @@ private:
         Json json = Json::array();
         for (const ColumnaCatalogo& columna : ColumnasDe(Tipo(), numeros)) {
             const std::string& nombre = nombres[json.size()];
-            const std::string titulo = EnTerminal(columna.Titulo()),
+            const std::string titulo = EnTerminal(columna.Rotulo()),
                               clase = columna.EsTexto() ? "texto" : "número";
             tabla.Fila({nombre, titulo, clase});
             json.push_back({{"campo", nombre}, {"titulo", titulo}, {"clase", clase}});
@@ -147,10 +150,31 @@ private:
         if (m_id.empty())
             throw ErrorUso("falta el modelo, FAMILIA#MODELO (ayuda: efv catalogo ver --help)");
         const CatalogoAbierto catalogo = Abrir();
+        if (ModelosDeNombre(catalogo.Todos(), CadenaDesdeUtf8(m_id)).empty())
+            FallarSiEsDeOtro();
         const CModelo& modelo = catalogo.Buscar(m_id);
         salida << (m_bJson ? TextoJson(FichaJson(Tipo(), modelo, catalogo.Todos()))
                            : FichaTexto(Tipo(), modelo, catalogo.Todos()));
         return 0;
+    }
+
+    // A model of another kind is named with its kind.
+    void FallarSiEsDeOtro() const
+    {
+        if (m_catalogo.ConFichero())
+            return;
+        for (const TipoCatalogo* otro : TiposDeCatalogo()) {
+            const auto base = otro->CrearBase();
+            if (otro == &Tipo() || base->Cargar(m_catalogo.Ruta(*otro)) == 0)
+                continue;
+            const Modelos hallados = ModelosDeNombre(otro->Modelos(*base), CadenaDesdeUtf8(m_id));
+            if (!hallados.empty()) {
+                throw ErrorEjecucion(
+                    fmt::format("«{}» no está en {}, está en {}: efv catalogo ver --tipo {} '{}'",
+                                EnUnaLinea(m_id), NombreEscrito(Tipo()), NombreEscrito(*otro), otro->Nombre(),
+                                EnTerminal(Identificacion(*hallados.front()))));
+            }
+        }
     }
 
     int Validar(std::ostream& salida) const
@@ -169,7 +193,10 @@ private:
         if (m_salida)
             salidas.Anadir("--salida", *m_salida);
         const auto exportar = [&, modelos = Elegidos(catalogo)](std::ostream& csv) {
-            EscribirModelosCsv(csv, Tipo(), modelos, m_separador.front());
+            if (m_bJson)
+                EscribirListaJson(csv, Tipo(), modelos, std::nullopt);
+            else
+                EscribirModelosCsv(csv, Tipo(), modelos, m_separador.front());
         };
         if (!m_salida || salidas.EnLaSalida())
             exportar(salida);

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <variant>
 
+#include "comun/csv.h"
 #include "comun/numeros.h"
 
 namespace efv::orden {
@@ -31,10 +32,7 @@ public:
             m_salida << celda;
             return;
         }
-        m_salida << '"';
-        for (const char c : celda)
-            m_salida << (c == '"' ? std::string_view("\"\"") : std::string_view(&c, 1));
-        m_salida << '"';
+        m_salida << EntreComillasCsv(celda);
     }
 
     void FinDeLinea()

@@ -29,7 +29,7 @@ constexpr const char* kFamilia = "familia";
         parecidos = Parecidos(nombres, CadenaUtf8(SinClase(CadenaDesdeUtf8(nombre))));
     throw ErrorUso(
         fmt::format("{}: el catálogo de {} no tiene ningún campo «{}»{} (todos: efv catalogo campos --tipo {})",
-                    opcion, tipo.Nombre(), EnUnaLinea(nombre), parecidos, tipo.Nombre()));
+                    opcion, NombreEscrito(tipo), EnUnaLinea(nombre), parecidos, tipo.Nombre()));
 }
 
 std::size_t Campo(const TipoCatalogo& tipo, const char* opcion, const std::string& nombre)

@@ -77,7 +77,7 @@ private:
     {
         std::string texto;
         for (const Capa& capa : capas) {
-            texto += fmt::format("{}:\n", capa.tipo->Nombre());
+            texto += fmt::format("{}:\n", NombreEscrito(*capa.tipo));
             for (const auto& [clase, csFamilia, csModelo] : capa.cambios)
                 texto += fmt::format("  {} {}\n", kClases.at(static_cast<std::size_t>(clase)),
                                      EnTerminal(csFamilia + L'#' + csModelo));

@@ -32,7 +32,8 @@ public:
             if (const std::optional<int> iEstado = grupo->Ejecutar(salida))
                 return *iEstado;
         throw ErrorUso(
-            "falta la orden: listar, buscar, ver, validar, exportar, importar-pan, importar-ond, importar-cec "
+            "falta la orden: listar, buscar, ver, validar, campos, exportar, importar-pan, importar-ond, "
+            "importar-cec "
             "o restaurar "
             "(ayuda: efv catalogo --help)");
     }

@@ -193,6 +193,7 @@ private:
         orden.add_option("--nombre", m_nombre, "Nombre en el registro; si falta, el del sitio")
             ->type_name("TEXTO");
         orden.add_option("--cabecera", m_cabecera, "Cifra tras el nombre; si falta, 0")->type_name("NUMERO");
+        AnadirJson(orden);
     }
     void DeclararMensual(CLI::App& orden)
     {
@@ -232,6 +233,8 @@ private:
             throw ErrorUso("falta el nombre del fichero (ayuda: efv clima descargar --help)");
         Salidas salidas({});
         salidas.Anadir("FICHERO", m_fichero);
+        if (m_bJson && salidas.EnLaSalida())
+            throw ErrorUso("--json y un fichero «-» se excluyen");
         const PuntoPedido punto = m_servicio.LeerPunto();
         const bool bEpw = m_fichero.ends_with("epw");
         const double dCabecera = LeerAcotado("--cabecera", m_cabecera, -1e9, 1e9);
@@ -251,6 +254,15 @@ private:
             throw ErrorEjecucion("la respuesta de PVGIS no es un fichero EPW");
         }
         salidas.Escribir({std::move(contenido)}, salida);
+        if (m_bJson) {
+            return Json{{"fichero", m_fichero},
+                        {"formato", bEpw ? "epw" : "registro"},
+                        {"sitio", punto.Nombre()},
+                        {"latitud_grados", punto.dLatitud},
+                        {"longitud_grados", punto.dLongitud}}
+                       .dump(2, ' ', false, Json::error_handler_t::replace) +
+                   '\n';
+        }
         return salidas.EnLaSalida() ? std::string() : Nota(Prosa(texto));
     }
 

@@ -42,12 +42,25 @@ std::optional<double> LeerNumero(std::string_view texto)
     return d;
 }
 
+std::string ConsejoDeNumero(std::string_view texto)
+{
+    const std::size_t fin = std::min(texto.find_first_not_of("+-0123456789.,"), texto.size());
+    const std::string_view cifras = texto.substr(0, fin);
+    if (fin < texto.size() && LeerNumero(cifras))
+        return fmt::format(" (sin la unidad: {})", cifras);
+    const bool bMillares = fin == texto.size() &&
+                           cifras.find_first_of("0123456789") != std::string_view::npos &&
+                           std::ranges::count_if(cifras, [](char c) { return c == '.' || c == ','; }) > 1;
+    return bMillares ? " (los millares, sin separar)" : "";
+}
+
 double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, double dMaximo)
 {
     const auto d = LeerNumero(texto);
     if (!d || *d < dMinimo || *d > dMaximo)
-        throw ErrorUso(fmt::format("{}: se esperaba un número de {} a {}, llegó «{}»", opcion,
-                                   DecimalExacto(dMinimo), DecimalExacto(dMaximo), EnUnaLinea(texto)));
+        throw ErrorUso(fmt::format("{}: se esperaba un número de {} a {}, llegó «{}»{}", opcion,
+                                   DecimalExacto(dMinimo), DecimalExacto(dMaximo), EnUnaLinea(texto),
+                                   ConsejoDeNumero(texto)));
     return *d;
 }
 

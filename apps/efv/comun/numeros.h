@@ -17,6 +17,10 @@ namespace efv::orden {
 /// The finite number that `texto` is, wholly; comma or point as decimal mark.
 std::optional<double> LeerNumero(std::string_view texto);
 
+/// What keeps a text from being a number, where that is its unit or its thousands: " (sin la unidad: 5)"; empty
+/// for any other.
+std::string ConsejoDeNumero(std::string_view texto);
+
 /// The number of an option. @throws ErrorUso when it is none or lies outside
 double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, double dMaximo);
 

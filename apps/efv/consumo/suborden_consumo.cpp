@@ -62,7 +62,7 @@ public:
             Emitir((this->*calcular)(), como, salida);
             return 0;
         }
-        throw ErrorUso("falta la orden (ayuda: efv consumo --help)");
+        throw ErrorUso("falta la orden: patron, importar, mensual o receptores (ayuda: efv consumo --help)");
     }
 
 private:

@@ -31,6 +31,31 @@ std::string Lugar(std::string_view bytes, std::size_t nByte)
                        std::max<std::size_t>(Anchura(linea), 1));
 }
 
+// Whether what stands open at a byte is an object.
+bool EnUnObjeto(std::string_view antes)
+{
+    std::size_t nCerrados = 0;
+    for (std::size_t i = antes.size(); i-- > 0;) {
+        const char c = antes[i];
+        if (c == ']' || c == '}')
+            ++nCerrados;
+        else if ((c == '[' || c == '{') && nCerrados-- == 0)
+            return c == '{';
+    }
+    return false;
+}
+
+// Whether the text before `nByte` ends with "5,5" as a member's value.
+bool EsComaDecimal(std::string_view bytes, std::size_t nByte)
+{
+    const auto esCifra = [&](std::size_t i) { return i < bytes.size() && bytes[i] >= '0' && bytes[i] <= '9'; };
+    // The parser stands behind the token that it didn't expect.
+    std::size_t i = std::min(nByte, bytes.size());
+    while (i > 0 && esCifra(i - 1))
+        --i;
+    return i > 1 && esCifra(i) && bytes[i - 1] == ',' && esCifra(i - 2) && EnUnObjeto(bytes.substr(0, i));
+}
+
 // Watches over the names of each object while it is parsed.
 class SinRepetidos {
 public:
@@ -68,7 +93,9 @@ JsonLeido AnalizarJson(std::string_view bytes)
             return vigilante(iNivel, evento, valor);
         });
     } catch (const JsonLeido::parse_error& error) {
-        throw rpc::ErrorValor(fmt::format("no es JSON bien formado: {}", Lugar(bytes, error.byte)));
+        throw rpc::ErrorValor(
+            fmt::format("no es JSON bien formado: {}{}", Lugar(bytes, error.byte),
+                        EsComaDecimal(bytes, error.byte) ? "; los decimales llevan punto" : ""));
     } catch (const JsonLeido::exception&) {
         throw rpc::ErrorValor("no es JSON bien formado: tiene un número demasiado grande");
     }

@@ -46,7 +46,7 @@ const CModelo& CatalogoDatos::Buscar(const std::string& id) const
         std::vector<std::string> nombres;
         for (const CModelo* m : m_modelos)
             nombres.push_back(CadenaUtf8(Identificacion(*m)));
-        throw rpc::ErrorValor(fmt::format("en el catálogo de {} no está «{}»{}", m_tipo->Nombre(),
+        throw rpc::ErrorValor(fmt::format("en el catálogo de {} no está «{}»{}", NombreEscrito(*m_tipo),
                                           EnUnaLinea(id.substr(0, rpc::kCitaMaxima)), Parecidos(nombres, id)));
     }
     if (hallados.size() > 1)

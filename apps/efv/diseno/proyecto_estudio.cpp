@@ -188,6 +188,8 @@ JsonLeido LeerFicheroProyecto(const std::string& ruta, std::string_view tipo, st
     }
     try {
         const auto proyecto = Abrir(bytes);
+        ExigirDiseno(otro.empty() || TieneDiseno(*proyecto, tipo) || TieneDiseno(*proyecto, otro),
+                     "ningún diseño");
         return JsonLeido::parse(
             JsonDe(*proyecto, otro.empty() || TieneDiseno(*proyecto, tipo) ? tipo : otro).dump());
     } catch (const std::runtime_error& error) {

@@ -65,7 +65,8 @@ double LeerAcotada(const OpcionNumerica& opcion, const std::string& texto)
 {
     const std::optional<double> d = LeerNumero(texto);
     if (!d)
-        throw ErrorUso(fmt::format("{}: se esperaba un número, llegó «{}»", opcion.nombre, texto));
+        throw ErrorUso(fmt::format("{}: se esperaba un número, llegó «{}»{}", opcion.nombre, texto,
+                                   ConsejoDeNumero(texto)));
     if (*d < opcion.dMinimo || *d > opcion.dMaximo || (opcion.bSinMinimo && *d <= opcion.dMinimo)) {
         throw ErrorUso(fmt::format("{} {}: debe {} {} y no pasar de {}{}", opcion.nombre, texto,
                                    opcion.bSinMinimo ? "ser mayor que" : "ser al menos",

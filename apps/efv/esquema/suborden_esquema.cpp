@@ -21,6 +21,7 @@
 #include "diseno/diseno.h"
 #include "diseno/proyecto.h"
 #include "diseno/proyecto_estudio.h"
+#include "diseno/salida.h"
 #include "pdf/pdf.h"
 
 namespace efv::orden {
@@ -80,6 +81,9 @@ public:
             ->type_name("MM");
         linea.add_option("--revision", m_revision, "Revisión que dice el cajetín; si falta, la de la portada")
             ->type_name("TEXTO");
+        linea.add_flag("--json", m_bJson, "Dice en JSON lo que se ha escrito")
+            ->option_text(" ")
+            ->disable_flag_override();
         linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         linea.footer(
             "El proyecto es el de «efv aislada» o «efv red», que dice su «tipo». Proyecto, lugar, autor,\n"
@@ -104,6 +108,8 @@ public:
         entradas.push_back(m_proyecto);
         Salidas salidas(std::move(entradas));
         salidas.Anadir("--salida", m_salida);
+        if (m_bJson && salidas.EnLaSalida())
+            throw ErrorUso("--json y un fichero «-» se excluyen");
         Diseno diseno = Disenar(proyecto);
         if (m_revision)
             diseno.cajetin.revision = *m_revision;
@@ -115,7 +121,13 @@ public:
         }
         const auto escritos = salidas.Escribir({formato.escribir(plano)}, salida);
         const std::size_t nHojas = plano.hojas.size();
-        if (!salidas.EnLaSalida()) {
+        if (m_bJson) {
+            const JsonEscrito json = {{"fichero", escritos.front()},
+                                      {"formato", formato.nombre},
+                                      {"hojas", nHojas},
+                                      {"papel", pagina.Nombre()}};
+            salida << json.dump(2, ' ', false, JsonEscrito::error_handler_t::replace) << '\n';
+        } else if (!salidas.EnLaSalida()) {
             salida << Nota(fmt::format("Escrito: {} ({}, {} de {})\n", EnUnaLinea(escritos.front()),
                                        formato.nombre, nHojas == 1 ? "1 hoja" : fmt::format("{} hojas", nHojas),
                                        pagina.Nombre()));
@@ -190,7 +202,7 @@ private:
 
     std::string m_proyecto, m_salida, m_papel = "A4", m_dMargen, m_datos;
     std::optional<std::string> m_formato, m_revision, m_tipo;
-    bool m_bVertical = false;
+    bool m_bVertical = false, m_bJson = false;
 };
 
 }  // namespace

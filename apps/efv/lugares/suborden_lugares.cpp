@@ -58,26 +58,30 @@ std::string ListaTexto(const std::vector<Localidad>& lugares)
             kReservaZonas)));
 }
 
+Json LugarJson(const Localidad& lugar)
+{
+    Json alias = Json::array();
+    for (const CString& otro : lugar.acsAlias)
+        alias.push_back(CadenaUtf8(otro));
+    return {{"nombre", CadenaUtf8(lugar.csNombre)},
+            {"alias", alias},
+            {"provincia", CadenaUtf8(lugar.csProvincia)},
+            {"pais", CadenaUtf8(lugar.csPais)},
+            {"latitud_grados", lugar.dLatitud},
+            {"longitud_grados", lugar.dLongitud},
+            {"altitud_m", lugar.dAltitud},
+            {"zona", CadenaUtf8(lugar.csZonaHE5)},
+            {"zona_he1", CadenaUtf8(lugar.csZonaHE1)},
+            {"propio", lugar.bPropia},
+            {"fuente", CadenaUtf8(lugar.csFuente)},
+            {"radiacion_kJ_m2_dia", lugar.adRadHorizontal}};
+}
+
 std::string ListaJson(const std::vector<Localidad>& lugares)
 {
     Json lista = Json::array();
-    for (const Localidad& lugar : lugares) {
-        Json alias = Json::array();
-        for (const CString& otro : lugar.acsAlias)
-            alias.push_back(CadenaUtf8(otro));
-        lista.push_back({{"nombre", CadenaUtf8(lugar.csNombre)},
-                         {"alias", alias},
-                         {"provincia", CadenaUtf8(lugar.csProvincia)},
-                         {"pais", CadenaUtf8(lugar.csPais)},
-                         {"latitud_grados", lugar.dLatitud},
-                         {"longitud_grados", lugar.dLongitud},
-                         {"altitud_m", lugar.dAltitud},
-                         {"zona", CadenaUtf8(lugar.csZonaHE5)},
-                         {"zona_he1", CadenaUtf8(lugar.csZonaHE1)},
-                         {"propio", lugar.bPropia},
-                         {"fuente", CadenaUtf8(lugar.csFuente)},
-                         {"radiacion_kJ_m2_dia", lugar.adRadHorizontal}});
-    }
+    for (const Localidad& lugar : lugares)
+        lista.push_back(LugarJson(lugar));
     return lista.dump(2, ' ', false, Json::error_handler_t::replace) + '\n';
 }
 
@@ -103,6 +107,9 @@ public:
         m_linea->add_option("--provincia", m_provincia, "Provincia o región")->type_name("NOMBRE");
         m_linea->add_option("--pais", m_pais, "País")->type_name("NOMBRE");
         m_linea->add_option("--fuente", m_fuente, "De dónde viene la radiación")->type_name("TEXTO");
+        m_linea->add_flag("--json", m_bJson, "Escribe JSON: el lugar, y el fichero donde queda")
+            ->option_text(" ")
+            ->disable_flag_override();
         m_linea->add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         m_linea->footer(
             "El lugar se guarda en lugares.xml de la carpeta de los datos propios: la de --datos o EFV_DATOS,\n"
@@ -122,6 +129,13 @@ public:
         const CString csArchivo = csCarpeta + CadenaDesdeUtf8(kLugaresPropios);
         CrearCarpetas(*ElMundo().ficheros, CadenaUtf8(csCarpeta));
         AnadirLocalidad(csArchivo, lugar);
+        if (m_bJson) {
+            Json json = LugarJson(lugar);
+            json["propio"] = true;
+            json["fichero"] = CadenaUtf8(csArchivo);
+            salida << json.dump(2, ' ', false, Json::error_handler_t::replace) << '\n';
+            return 0;
+        }
         salida << "Añadido: " << CadenaUtf8(NombreConProvincia(lugar)) << ", en " << CadenaUtf8(csArchivo)
                << '\n';
         return 0;
@@ -150,6 +164,7 @@ private:
     std::string m_nombre, m_latitud, m_longitud = "0", m_altitud = "0", m_provincia, m_pais,
                                      m_fuente = "datos propios", m_datos;
     std::vector<std::string> m_radiacion;
+    bool m_bJson = false;
 };
 
 class SubordenLugares final : public Suborden {

@@ -90,6 +90,8 @@ public:
     std::size_t Campo() const { return m_iCampo; }
     /// With the unit: the kind's own heading, else the dialog's caption.
     const CString& Titulo() const { return m_csTitulo; }
+    /// What the field is, with the unit: the dialog's whole caption, "Tensión máxima del sistema [Vsmax] (V)".
+    const CString& Rotulo() const { return m_csRotulo; }
     bool EsTexto() const { return m_bTexto; }
     /// "—" for what the file doesn't give or isn't known.
     CString Celda(const CModelo& modelo) const;
@@ -97,7 +99,7 @@ public:
 private:
     const TipoCatalogo* m_tipo;
     std::size_t m_iCampo;
-    CString m_csTitulo;
+    CString m_csTitulo, m_csRotulo;
     std::wstring_view m_magnitud;
     std::vector<CString> m_acsEntradas;
     int m_iDecimales = 2;

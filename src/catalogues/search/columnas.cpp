@@ -1,3 +1,5 @@
+#include <algorithm>
+#include <array>
 #include <memory>
 #include <numeric>
 #include <string>
@@ -15,8 +17,45 @@ namespace efv {
 
 namespace {
 
-// "Vsmax (V)" of the caption "Tensión máxima del sistema [Vsmax] (V):"; without a symbol the whole caption.
-CString TituloDeRotulo(const CString& csRotulo)
+// Fields without a caption of their own in the data sheet's dialog.
+struct RotuloCampo {
+    std::string_view campo;
+    std::wstring_view texto;
+};
+constexpr auto kRotulos = std::to_array<RotuloCampo>({
+    {"dCEf", L"Reducción de la eficiencia de 1000 a 200 W/m² (%)"},
+    {"dVMPPMax", L"Tensión máxima de seguimiento, Vmpp (V)"},
+    {"dVMPPMin", L"Tensión mínima de seguimiento, Vmpp (V)"},
+    {"iNumMPPT", L"Número de seguidores (MPPT)"},
+    {"dVCCMin", L"Tensión de entrada mínima (V)"},
+    {"dICCMax", L"Corriente de entrada máxima (A)"},
+    {"dICCMin", L"Corriente de entrada mínima (A)"},
+    {"iNumEntradas", L"Número de entradas"},
+    {"dICAMax", L"Corriente de salida máxima (A)"},
+    {"dICAMin", L"Corriente de salida mínima (A)"},
+    {"nColor", L"Color, código de la paleta"},
+    {"csCodPrecio", L"Código de precios"},
+});
+
+CString RotuloPropio(std::string_view campo)
+{
+    constexpr std::string_view kCapacidad = "dCapC", kTension = "dVccC";
+    const auto rotulo = [&](const wchar_t* que, std::string_view comienzo, const wchar_t* unidad) {
+        CString cs = que;
+        cs += CadenaDesdeUtf8(std::string(campo.substr(comienzo.size())));
+        cs += unidad;
+        return cs;
+    };
+    if (campo.starts_with(kCapacidad))
+        return rotulo(L"Capacidad C", kCapacidad, L" (Ah)");
+    if (campo.starts_with(kTension))
+        return rotulo(L"Tensión al acabar la descarga C", kTension, L" (V)");
+    const auto fila = std::ranges::find(kRotulos, campo, &RotuloCampo::campo);
+    return fila == kRotulos.end() ? CString() : CString(fila->texto);
+}
+
+// A caption without its mark and its colon.
+CString SinMarcas(const CString& csRotulo)
 {
     CString csTitulo;
     for (const wchar_t c : csRotulo)
@@ -25,6 +64,12 @@ CString TituloDeRotulo(const CString& csRotulo)
     csTitulo.erase(csTitulo.find_last_not_of(L" :") + 1);
     if (const std::size_t puntos = csTitulo.find(L": ("); puntos != CString::npos)
         csTitulo.erase(puntos, 1);
+    return csTitulo;
+}
+
+// "Vsmax (V)" of the caption "Tensión máxima del sistema [Vsmax] (V)"; without a symbol the whole caption.
+CString TituloDeRotulo(const CString& csTitulo)
+{
     const std::size_t desde = csTitulo.find(L'['), hasta = csTitulo.find(L']');
     const bool bSimbolo = desde != CString::npos && hasta != CString::npos && hasta > desde + 1 &&
                           csTitulo.find_first_of(L" /", desde) > hasta;
@@ -77,19 +122,22 @@ std::vector<CString> catalogues::EntradasDe(const TipoCatalogo& tipo, std::size_
 }
 
 ColumnaCatalogo::ColumnaCatalogo(const TipoCatalogo& tipo, const ui::Dialogo& ficha, std::size_t iCampo)
-    : m_tipo(&tipo), m_iCampo(iCampo), m_csTitulo(L"Familia")
+    : m_tipo(&tipo), m_iCampo(iCampo), m_csTitulo(L"Familia"), m_csRotulo(m_csTitulo)
 {
     if (iCampo == kCampoFamilia)
         return;
     const CampoCatalogo& campo = tipo.Campos()[iCampo];
     AspectoCampo aspecto = AspectoDe(ficha, campo.nombre);
+    m_csRotulo = RotuloPropio(campo.nombre);
+    if (m_csRotulo.empty())
+        m_csRotulo = SinMarcas(aspecto.csRotulo);
+    if (m_csRotulo.empty())
+        m_csRotulo = campo.columna.empty() ? CadenaDesdeUtf8(campo.nombre) : CString(campo.columna);
     m_csTitulo = campo.columna;
     if (m_csTitulo.empty()) {
-        m_csTitulo = TituloDeRotulo(aspecto.csRotulo);
+        m_csTitulo = TituloDeRotulo(m_csRotulo);
         m_magnitud = aspecto.magnitud;
     }
-    if (m_csTitulo.empty())
-        m_csTitulo = CadenaDesdeUtf8(campo.nombre);
     m_acsEntradas = std::move(aspecto.acsEntradas);
     m_iDecimales = aspecto.iDecimales;
     m_bTexto = campo.clase == CampoCatalogo::Clase::texto || !m_acsEntradas.empty();

@@ -219,7 +219,7 @@ TEST_F(OrdenCatalogo, CadaFicheroEsDeSuClase)
     const std::string ond = m_carpeta.Crear("a.ond", "PVObject_=pvGInverter\n Manufacturer=Una\n Model=A\n");
     EsperarFallo({"catalogo", "importar-pan", ond}, 1, "es de un inversor (OND)");
     EsperarFallo({"catalogo", "importar-ond", pan}, 1, "es de un módulo (PAN)");
-    EsperarFallo({"catalogo", "listar", "--tipo", "inversores"}, 1, "es un catálogo de modulos");
+    EsperarFallo({"catalogo", "listar", "--tipo", "inversores"}, 1, "es un catálogo de módulos");
     const std::string inversores = m_carpeta.Crear(
         "i.xml",
         "<QuorvelEFV><TablaFamilias><Familia nombre=\"F\"><Modelo csModelo=\"I\" iUsoPrincipal=\"0\" "

@@ -289,6 +289,11 @@ TEST_F(TiposDeCatalogo, LosPropiosEstanSobreLosDistribuidosYSeRestauran)
     EXPECT_TRUE(deEntrada.salida.starts_with("-: F#E\n")) << deEntrada.salida << deEntrada.errores;
 }
 
+std::string Escrito(const std::string& tipo)
+{
+    return tipo == "modulos" ? "módulos" : tipo;
+}
+
 // Whatever kind a catalogue is opened as, another's is refused.
 TEST_F(TiposDeCatalogo, UnCatalogoDeOtraClaseSeRechaza)
 {
@@ -299,7 +304,8 @@ TEST_F(TiposDeCatalogo, UnCatalogoDeOtraClaseSeRechaza)
             const Corrida corrida = Correr({"catalogo", "listar", "--tipo", tipo, "--fichero", fichero});
             EXPECT_EQ(corrida.iEstado, suyo == tipo ? 0 : 1) << suyo << " " << tipo;
             if (suyo != tipo) {
-                EXPECT_TRUE(Contiene(corrida.errores, {"es un catálogo de " + suyo + ", no de " + tipo}));
+                EXPECT_TRUE(Contiene(corrida.errores,
+                                     {"es un catálogo de " + Escrito(suyo) + ", no de " + Escrito(tipo)}));
             }
         }
     }

@@ -1,4 +1,6 @@
 // Questions to a catalogue by value.
+#include <quorvel/tipos_catalogo.h>
+
 #include "apoyo.h"
 
 namespace efv::orden::pruebas {
@@ -42,6 +44,17 @@ TEST_F(Pregunta, TodasLasCondicionesYElOrden)
     EXPECT_EQ(Modelos({"--donde", "dPmpm!=500"}), (Textos{"A"}));
     EXPECT_EQ(Modelos({"--donde", "familia~f", "--ordenar=-dPmpm,dVoc"}), (Textos{"C", "B", "A", "D"}));
     EXPECT_EQ(Modelos({"f", "--ordenar", "dPmpm", "--descendente"}), (Textos{"B", "C", "A", "D"}));
+}
+
+TEST_F(Pregunta, CadaCampoTieneSuNombreYOtroTipoSeDice)
+{
+    for (const TipoCatalogo* tipo : TiposDeCatalogo()) {
+        const Corrida campos = Correr({"catalogo", "campos", "--tipo", std::string(tipo->Nombre()), "--json"});
+        for (const Json& campo : Json::parse(campos.salida))
+            EXPECT_NE(campo["titulo"], campo["campo"]) << tipo->Nombre();
+    }
+    EXPECT_TRUE(Contiene(Correr({"catalogo", "ver", "SB5.0-1AV-40"}).errores,
+                         {"no está en módulos, está en inversores", "--tipo inversores 'SMA#SB5.0-1AV-40'"}));
 }
 
 TEST_F(Pregunta, LasColumnasSonLasPedidas)
