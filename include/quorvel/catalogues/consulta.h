@@ -111,8 +111,8 @@ EFV_API std::vector<ColumnaCatalogo> ColumnasPrincipales(const TipoCatalogo& tip
 /// One for each field asked for. @param campos field numbers or kCampoFamilia
 EFV_API std::vector<ColumnaCatalogo> ColumnasDe(const TipoCatalogo& tipo, std::span<const std::size_t> campos);
 
-/// How a person chooses a model of a catalogue: out of the tree of families, or of a table that words and
-/// conditions narrow down.
+/// How a person chooses a model of a catalogue, and manages one: in the tree of families, or in a table that
+/// words and conditions narrow down.
 enum class FormaDeElegir { arbol, tabla };
 /// From now on; the tree unless said otherwise.
 EFV_API void ElegirModelosEn(FormaDeElegir forma);
