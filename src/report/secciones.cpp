@@ -86,6 +86,9 @@ Seccion SeccionEsquema(const std::vector<Esquema>& esquemas)
     Seccion seccion("Esquema de la instalación");
     seccion.bSoloPagina = true;
     seccion.laminas = DibujarEnHojas(esquemas, kAncho, kAlto);
+    // Texts without end make an element higher than a sheet: small letters are better than none.
+    if (seccion.laminas.empty() && !esquemas.empty())
+        seccion.laminas.push_back(Dibujar(esquemas.back()));
     if (!esquemas.empty())
         for (const CString& csNota : esquemas.front().acsNotas)
             seccion.notas.push_back(CadenaUtf8(csNota));
