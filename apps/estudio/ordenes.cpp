@@ -12,10 +12,10 @@
 #include "ayuda/apartados.h"
 #include "ayuda/ventana_ayuda.h"
 #include "clima/estudios.h"
+#include "comun/pagina.h"
 #include "economia/dialogo_autoconsumo.h"
 #include "economia/estudios.h"
 #include "esquema/exportar.h"
-#include "esquema/pagina.h"
 #include "esquema/plano.h"
 #include "informe/imprimir.h"
 #include "informe/portada.h"
@@ -173,6 +173,8 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, nullptr, nullptr, nullptr},
     {kDiseno, "Por&tada del informe…", nullptr, [](Ventana& v) { EditarPortada(v.LaSesion()); }},
     {kDiseno, "I&nforme…", "Ctrl+I", [](Ventana& v) { ConDisenoALaVista(v, &GuardarInforme); }},
+    {kDiseno, "Confi&gurar página del informe…", nullptr,
+     [](Ventana&) { ConfigurarPagina(Impresion::informe); }},
     {kDiseno, "&Vista preliminar del informe…", nullptr, [](Ventana& v) { ConDisenoALaVista(v, &VerInforme); }},
     {kDiseno, "Imprimir in&forme…", "Ctrl+P", [](Ventana& v) { ConDisenoALaVista(v, &ImprimirInforme); }},
     {kEconomia, "&Venta a la red…", nullptr, &ConSuFicha<&EstudiarVenta, kVenta>},
@@ -187,7 +189,7 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kEsquema, "&Copiar", "Ctrl+Shift+C", &CopiarEsquema},
     {kEsquema, "&Guardar como…", nullptr, &GuardarEsquemaALaVista},
     {kEsquema, nullptr, nullptr, nullptr},
-    {kEsquema, "Con&figurar página…", nullptr, [](Ventana&) { ConfigurarPagina(); }},
+    {kEsquema, "Con&figurar página…", nullptr, [](Ventana&) { ConfigurarPagina(Impresion::esquema); }},
     {kEsquema, "&Vista preliminar…", nullptr, [](Ventana& v) { ConEsquemaALaVista(v, &VerEsquemaImpreso); }},
     {kEsquema, "&Imprimir…", "Ctrl+Shift+P", [](Ventana& v) { ConEsquemaALaVista(v, &ImprimirEsquema); }},
     {kClima, "&Estudio de la inclinación…", nullptr, [](Ventana& v) { v.EstudiarInclinacion(); }},

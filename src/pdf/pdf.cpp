@@ -340,10 +340,11 @@ bool EsPdf(std::string_view ruta)
            });
 }
 
-std::string InformePdf(const report::Documento& documento, const std::string& fecha, const Letras& letras)
+std::string InformePdf(const report::Documento& documento, const std::string& fecha, const Letras& letras,
+                       const report::Papel& papel)
 {
     Escritor escritor(letras);
-    return escritor.Escribir(report::Componer(documento, fecha, escritor));
+    return escritor.Escribir(report::Componer(documento, fecha, escritor, papel));
 }
 
 std::string PlanoPdf(const report::Plano& plano, const Letras& letras)

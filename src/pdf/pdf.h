@@ -39,7 +39,7 @@ bool EsPdf(std::string_view ruta);
 
 /// @param fecha as on the page @throws std::runtime_error with a Spanish text
 std::string InformePdf(const report::Documento& documento, const std::string& fecha,
-                       const Letras& letras = LetrasInstaladas());
+                       const Letras& letras = LetrasInstaladas(), const report::Papel& papel = {});
 
 /// A schematic on its sheets. @throws std::runtime_error with a Spanish text
 std::string PlanoPdf(const report::Plano& plano, const Letras& letras = LetrasInstaladas());

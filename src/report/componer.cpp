@@ -15,7 +15,8 @@ namespace {
 
 using Lado = Pliego::Lado;
 
-constexpr double kCuerpoPie = 7.5, kAlturaCabecera = 44.0, kBajoPie = 36.0;
+constexpr double kCuerpoPie = 7.5;
+constexpr double kSobreColumna = 20.0, kBajoColumna = 24.0;  // of head and foot
 constexpr double kCuerpoNota = 8.0;
 
 // ---------------------------------------------------------------------------------------------------
@@ -36,21 +37,21 @@ std::vector<CString> Primeras(std::vector<CString> lineas)
 void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& pliego)
 {
     constexpr double kCuerpoTitulo = 25.0, kRenglonTitulo = 31.0, kCuerpoDato = 10.5, kRenglonDato = 15.0;
-    constexpr double kAlturaTitulo = 215.0, kRotulos = 85.0, kAnchoFirma = 230.0, kAlturaFirma = 690.0;
-    pliego.y = kAlturaTitulo;
-    pliego.Fondo(papel::kIzquierda, pliego.y - kRenglonTitulo - 14.0, 64.0, 4.0, papel::kAzul);
+    constexpr double kSobreTitulo = 151.0, kBajoFirma = 92.0, kRotulos = 85.0, kAnchoFirma = 230.0;
+    pliego.y = pliego.Arriba() + kSobreTitulo;
+    pliego.Fondo(pliego.Izquierda(), pliego.y - kRenglonTitulo - 14.0, 64.0, 4.0, papel::kAzul);
     for (const CString& csLinea :
-         EnLineas(EnHoja(documento.titulo), {kCuerpoTitulo, true}, papel::kAncho, pliego.medidor)) {
-        pliego.Escribir(papel::kIzquierda, pliego.y, papel::kAncho, csLinea, {kCuerpoTitulo, true},
+         EnLineas(EnHoja(documento.titulo), {kCuerpoTitulo, true}, pliego.Ancho(), pliego.medidor)) {
+        pliego.Escribir(pliego.Izquierda(), pliego.y, pliego.Ancho(), csLinea, {kCuerpoTitulo, true},
                         papel::kTinta);
         pliego.Bajar(kRenglonTitulo);
     }
     pliego.Bajar(kRenglonTitulo);
     for (const auto& [rotulo, texto] : DatosDePortada(documento, fecha)) {
-        pliego.Escribir(papel::kIzquierda, pliego.y, kRotulos, EnHoja(rotulo), {kCuerpoDato}, papel::kTenue);
+        pliego.Escribir(pliego.Izquierda(), pliego.y, kRotulos, EnHoja(rotulo), {kCuerpoDato}, papel::kTenue);
         for (const CString& csLinea :
-             Primeras(EnLineas(EnHoja(texto), {kCuerpoDato}, papel::kAncho - kRotulos, pliego.medidor))) {
-            pliego.Escribir(papel::kIzquierda + kRotulos, pliego.y, papel::kAncho, csLinea, {kCuerpoDato},
+             Primeras(EnLineas(EnHoja(texto), {kCuerpoDato}, pliego.Ancho() - kRotulos, pliego.medidor))) {
+            pliego.Escribir(pliego.Izquierda() + kRotulos, pliego.y, pliego.Ancho(), csLinea, {kCuerpoDato},
                             papel::kTinta);
             pliego.Bajar(kRenglonDato);
         }
@@ -58,11 +59,12 @@ void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& 
     }
     if (documento.portada.firma.empty())
         return;
-    pliego.Raya(papel::kIzquierda, kAlturaFirma, kAnchoFirma, papel::kTinta, 0.7);
-    double dBase = kAlturaFirma + kRenglonDato;
+    const double dFirma = pliego.y + pliego.Resto() - kBajoFirma;
+    pliego.Raya(pliego.Izquierda(), dFirma, kAnchoFirma, papel::kTinta, 0.7);
+    double dBase = dFirma + kRenglonDato;
     for (const CString& csLinea : Primeras(EnLineas(EnHoja("Firma: " + documento.portada.firma), {kCuerpoDato},
                                                     kAnchoFirma, pliego.medidor))) {
-        pliego.Escribir(papel::kIzquierda, dBase, kAnchoFirma, csLinea, {kCuerpoDato}, papel::kTinta);
+        pliego.Escribir(pliego.Izquierda(), dBase, kAnchoFirma, csLinea, {kCuerpoDato}, papel::kTinta);
         dBase += kRenglonDato;
     }
 }
@@ -73,7 +75,7 @@ public:
     Indice(std::size_t nLineas, Pliego& pliego)
     {
         constexpr double kTitular = 30.0;
-        pliego.Escribir(papel::kIzquierda, pliego.y + 14.0, papel::kAncho, L"Índice", {14.0, true},
+        pliego.Escribir(pliego.Izquierda(), pliego.y + 14.0, pliego.Ancho(), L"Índice", {14.0, true},
                         papel::kAzul);
         pliego.Bajar(kTitular);
         for (std::size_t i = 0; i < nLineas; ++i) {
@@ -102,18 +104,18 @@ private:
     {
         const Titular& titular = pliego.impreso.titulares[nTitular];
         const CString csTexto = EnHoja(titular.texto), csPagina = std::to_wstring(titular.nHoja + 1);
-        const double dBase = linea.y + papel::kCuerpo, dDerecha = papel::kIzquierda + papel::kAncho;
-        const double dDesde = papel::kIzquierda + pliego.medidor.Ancho(csTexto, papel::kCuerpo, false) + 5.0;
+        const double dBase = linea.y + papel::kCuerpo, dDerecha = pliego.Izquierda() + pliego.Ancho();
+        const double dDesde = pliego.Izquierda() + pliego.medidor.Ancho(csTexto, papel::kCuerpo, false) + 5.0;
         const double dPagina = dDerecha - pliego.medidor.Ancho(csPagina, papel::kCuerpo, false);
         std::vector<Pieza>& piezas = pliego.impreso.hojas[linea.nHoja].piezas;
-        piezas.emplace_back(hoja::Texto{{papel::kIzquierda, dBase}, csTexto, papel::kCuerpo, papel::kTinta});
+        piezas.emplace_back(hoja::Texto{{pliego.Izquierda(), dBase}, csTexto, papel::kCuerpo, papel::kTinta});
         piezas.emplace_back(hoja::Texto{{dPagina, dBase}, csPagina, papel::kCuerpo, papel::kTinta});
         if (dPagina - 5.0 > dDesde) {
             piezas.emplace_back(hoja::Forma{
                 {{dDesde, dBase}, {dPagina - 5.0, dBase}}, std::nullopt, papel::kTenue, 0.5, {1.0, 3.0}});
         }
         piezas.emplace_back(
-            hoja::Enlace{{papel::kIzquierda, linea.y - 2.0}, papel::kAncho, kRenglon, nTitular});
+            hoja::Enlace{{pliego.Izquierda(), linea.y - 2.0}, pliego.Ancho(), kRenglon, nTitular});
     }
 
     std::vector<Linea> m_lineas;
@@ -183,56 +185,55 @@ BloqueParrafo::Aspecto Punto(ui::Color color, double dCuerpo)
     return {.dSangria = 10.0, .csMarca = L"·", .color = color, .dCuerpo = dCuerpo};
 }
 
-void AnadirSeccion(const Documento& documento, const Seccion& seccion, const MedidorLetra& medidor,
-                   Bloques& bloques)
+void AnadirSeccion(const Documento& documento, const Seccion& seccion, const Pliego& pliego, Bloques& bloques)
 {
     Anadir<BloqueTitular>(bloques, seccion.titulo);
     for (std::size_t i = 0; i < seccion.laminas.size(); ++i) {
         if (seccion.laminas.size() > 1)
-            Anadir<BloqueParrafo>(bloques, HojaDeEsquema(seccion, i), PieDeLamina(), medidor);
-        Anadir<BloqueLamina>(bloques, seccion.laminas[i]);
+            Anadir<BloqueParrafo>(bloques, HojaDeEsquema(seccion, i), PieDeLamina(), pliego);
+        Anadir<BloqueLamina>(bloques, seccion.laminas[i], pliego);
     }
     if (TablaHoja datos = TablaDe(seccion.datos); !datos.filas.empty())
-        Anadir<BloqueTabla>(bloques, std::move(datos), medidor);
+        Anadir<BloqueTabla>(bloques, std::move(datos), pliego);
     for (const CCtrlCurva2D& grafica : seccion.graficas)
         Anadir<BloqueGrafica>(bloques, grafica);
     for (const Cuadro& cuadro : seccion.cuadros)
-        Anadir<BloqueTabla>(bloques, TablaDe(cuadro), medidor);
+        Anadir<BloqueTabla>(bloques, TablaDe(cuadro), pliego);
     for (const std::string& nota : seccion.notas)
-        Anadir<BloqueParrafo>(bloques, nota, Nota(), medidor);
+        Anadir<BloqueParrafo>(bloques, nota, Nota(), pliego);
     for (const std::string& supuesto : SupuestosDe(documento, seccion))
-        Anadir<BloqueParrafo>(bloques, "Se supone: " + supuesto, Nota(), medidor);
+        Anadir<BloqueParrafo>(bloques, "Se supone: " + supuesto, Nota(), pliego);
     for (const std::string& fuente : seccion.fuentes)
-        Anadir<BloqueParrafo>(bloques, "Fuente: " + fuente, Fuente(), medidor);
+        Anadir<BloqueParrafo>(bloques, "Fuente: " + fuente, Fuente(), pliego);
 }
 
-void AnadirAvisos(const Documento& documento, const MedidorLetra& medidor, Bloques& bloques)
+void AnadirAvisos(const Documento& documento, const Pliego& pliego, Bloques& bloques)
 {
     Anadir<BloqueTitular>(bloques, "Avisos");
     const std::vector<Aviso> avisos = AvisosEnPagina(documento.avisos);
     for (const Aviso& aviso : avisos) {
         Anadir<BloqueParrafo>(bloques, (aviso.bFalta ? "Atención: " : "") + aviso.texto,
-                              Punto(aviso.bFalta ? papel::kRojo : papel::kTinta, papel::kCuerpo), medidor);
+                              Punto(aviso.bFalta ? papel::kRojo : papel::kTinta, papel::kCuerpo), pliego);
     }
     if (avisos.empty())
-        Anadir<BloqueParrafo>(bloques, "Ninguno.", BloqueParrafo::Aspecto{}, medidor);
+        Anadir<BloqueParrafo>(bloques, "Ninguno.", BloqueParrafo::Aspecto{}, pliego);
 }
 
-Bloques BloquesDe(const Documento& documento, const MedidorLetra& medidor)
+Bloques BloquesDe(const Documento& documento, const Pliego& pliego)
 {
     Bloques bloques;
     if (!documento.resumen.empty()) {
         Anadir<BloqueTitular>(bloques, "Resumen");
-        Anadir<BloqueResumen>(bloques, DatosEnPagina(documento.resumen), medidor);
+        Anadir<BloqueResumen>(bloques, DatosEnPagina(documento.resumen), pliego);
     }
-    AnadirAvisos(documento, medidor, bloques);
+    AnadirAvisos(documento, pliego, bloques);
     for (const Seccion& seccion : documento.secciones)
-        AnadirSeccion(documento, seccion, medidor, bloques);
+        AnadirSeccion(documento, seccion, pliego, bloques);
     const std::vector<std::string> supuestos = SupuestosSueltos(documento);
     if (!supuestos.empty())
         Anadir<BloqueTitular>(bloques, "Supuestos generales");
     for (const std::string& supuesto : supuestos)
-        Anadir<BloqueParrafo>(bloques, supuesto, Punto(papel::kTinta, papel::kCuerpo), medidor);
+        Anadir<BloqueParrafo>(bloques, supuesto, Punto(papel::kTinta, papel::kCuerpo), pliego);
     return bloques;
 }
 
@@ -253,27 +254,26 @@ CString Corto(const std::string& texto, double dAncho, const MedidorLetra& medid
     return lineas.size() > 1 ? lineas.front() + L"…" : lineas.front();
 }
 
-void PonerCabeceras(const Documento& documento, const std::string& fecha, Impreso& impreso,
-                    const MedidorLetra& medidor)
+void PonerCabeceras(const Documento& documento, const std::string& fecha, Pliego& pliego)
 {
-    constexpr double kMedia = papel::kAncho / 2 - 10.0;
-    const CString csTitulo = Corto(documento.titulo, kMedia, medidor);
-    const CString csProyecto = Corto(documento.proyecto, kMedia, medidor);
+    const MedidorLetra& medidor = pliego.medidor;
+    Impreso& impreso = pliego.impreso;
+    const double dMedia = pliego.Ancho() / 2 - 10.0, dDerecha = pliego.Izquierda() + pliego.Ancho();
+    const double dCabecera = pliego.Arriba() - kSobreColumna,
+                 dPie = pliego.Arriba() + pliego.Entera() + kBajoColumna;
+    const CString csTitulo = Corto(documento.titulo, dMedia, medidor);
+    const CString csProyecto = Corto(documento.proyecto, dMedia, medidor);
     const CString csPie = EnHoja(Programa() + (fecha.empty() ? "" : " · " + fecha));
     for (std::size_t i = 1; i < impreso.hojas.size(); ++i) {
         std::vector<Pieza>& piezas = impreso.hojas[i].piezas;
-        const double dDerecha = impreso.hojas[i].dAncho - papel::kIzquierda;
-        const double dPie = impreso.hojas[i].dAlto - kBajoPie;
         const auto escribir = [&](const CString& cs, double dBase, bool bDerecha) {
-            const double x = bDerecha ? dDerecha - medidor.Ancho(cs, kCuerpoPie, false) : papel::kIzquierda;
+            const double x = bDerecha ? dDerecha - medidor.Ancho(cs, kCuerpoPie, false) : pliego.Izquierda();
             piezas.emplace_back(hoja::Texto{{x, dBase}, cs, kCuerpoPie, papel::kTenue});
         };
-        escribir(csTitulo, kAlturaCabecera, false);
-        escribir(csProyecto, kAlturaCabecera, true);
-        piezas.emplace_back(
-            hoja::Forma{{{papel::kIzquierda, kAlturaCabecera + 5.0}, {dDerecha, kAlturaCabecera + 5.0}},
-                        std::nullopt,
-                        papel::kRaya});
+        escribir(csTitulo, dCabecera, false);
+        escribir(csProyecto, dCabecera, true);
+        piezas.emplace_back(hoja::Forma{
+            {{pliego.Izquierda(), dCabecera + 5.0}, {dDerecha, dCabecera + 5.0}}, std::nullopt, papel::kRaya});
         escribir(csPie, dPie, false);
         escribir(EnHoja(fmt::format("Página {} de {}", i + 1, impreso.hojas.size())), dPie, true);
     }
@@ -281,18 +281,19 @@ void PonerCabeceras(const Documento& documento, const std::string& fecha, Impres
 
 }  // namespace
 
-Impreso Componer(const Documento& documento, const std::string& fecha, const MedidorLetra& medidor)
+Impreso Componer(const Documento& documento, const std::string& fecha, const MedidorLetra& medidor,
+                 const Papel& papel)
 {
-    Pliego pliego(medidor);
+    Pliego pliego(papel, medidor);
     pliego.impreso.titulo =
         documento.proyecto.empty() ? documento.titulo : documento.proyecto + " · " + documento.titulo;
     pliego.impreso.autor = documento.portada.autor;
     PonerPortada(documento, fecha, pliego);
     pliego.Saltar();
     const Indice indice(CuantosTitulares(documento), pliego);
-    Colocar(BloquesDe(documento, medidor), pliego);
+    Colocar(BloquesDe(documento, pliego), pliego);
     indice.Rellenar(pliego);
-    PonerCabeceras(documento, fecha, pliego.impreso, medidor);
+    PonerCabeceras(documento, fecha, pliego);
     return std::move(pliego.impreso);
 }
 

@@ -11,11 +11,8 @@ namespace {
 constexpr double kAntesTitular = 12.0, kCuerpoTitular = 13.0, kAltoTitular = 26.0;
 constexpr double kAltoGrafica = 185.0, kAltoGraficaMinimo = 140.0, kTrasFigura = 10.0;
 constexpr double kPuntosPorUnidad = 0.88;  // letters of 11.5 units are some 2.6 mm high then
-constexpr double kAltoLaminaMaximo = papel::kAbajo - papel::kArriba - kAltoTitular;
 constexpr std::size_t kFichasPorFila = 3;
 constexpr double kEntreFichas = 8.0, kCuerpoRotulo = 7.5, kCuerpoValor = 11.0, kLadoFicha = 8.0;
-constexpr double kAnchoFicha = (papel::kAncho - static_cast<double>(kFichasPorFila - 1) * kEntreFichas) /
-                               static_cast<double>(kFichasPorFila);
 
 }  // namespace
 
@@ -26,18 +23,19 @@ double BloqueTitular::Minimo(double /*dResto*/) const
 
 void BloqueTitular::Poner(Pliego& pliego) const
 {
-    if (pliego.y > papel::kArriba)
+    if (pliego.y > pliego.Arriba())
         pliego.Bajar(kAntesTitular);
     pliego.impreso.titulares.push_back({m_texto, pliego.Numero(), pliego.y});
-    pliego.Escribir(papel::kIzquierda, pliego.y + kCuerpoTitular, papel::kAncho, EnHoja(m_texto),
+    pliego.Escribir(pliego.Izquierda(), pliego.y + kCuerpoTitular, pliego.Ancho(), EnHoja(m_texto),
                     {kCuerpoTitular, true}, papel::kAzul);
-    pliego.Raya(papel::kIzquierda, pliego.y + kAltoTitular - 7.0, papel::kAncho, papel::kRaya, 0.8);
+    pliego.Raya(pliego.Izquierda(), pliego.y + kAltoTitular - 7.0, pliego.Ancho(), papel::kRaya, 0.8);
     pliego.Bajar(kAltoTitular);
 }
 
-BloqueParrafo::BloqueParrafo(const std::string& texto, Aspecto aspecto, const MedidorLetra& medidor)
+BloqueParrafo::BloqueParrafo(const std::string& texto, Aspecto aspecto, const Pliego& pliego)
     : m_aspecto(std::move(aspecto)),
-      m_lineas(EnLineas(EnHoja(texto), {m_aspecto.dCuerpo}, papel::kAncho - m_aspecto.dSangria, medidor))
+      m_lineas(
+          EnLineas(EnHoja(texto), {m_aspecto.dCuerpo}, pliego.Ancho() - m_aspecto.dSangria, pliego.medidor))
 {
 }
 
@@ -59,9 +57,9 @@ void BloqueParrafo::Poner(Pliego& pliego) const
             pliego.Saltar();
         const double dBase = pliego.y + m_aspecto.dCuerpo;
         if (i == 0)
-            pliego.Escribir(papel::kIzquierda, dBase, papel::kAncho, m_aspecto.csMarca, {m_aspecto.dCuerpo},
+            pliego.Escribir(pliego.Izquierda(), dBase, pliego.Ancho(), m_aspecto.csMarca, {m_aspecto.dCuerpo},
                             m_aspecto.color);
-        pliego.Escribir(papel::kIzquierda + m_aspecto.dSangria, dBase, papel::kAncho, m_lineas[i],
+        pliego.Escribir(pliego.Izquierda() + m_aspecto.dSangria, dBase, pliego.Ancho(), m_lineas[i],
                         {m_aspecto.dCuerpo}, m_aspecto.color);
         pliego.Bajar(Renglon());
     }
@@ -76,18 +74,18 @@ double BloqueGrafica::Minimo(double dResto) const
 void BloqueGrafica::Poner(Pliego& pliego) const
 {
     const double dAlto = std::min(pliego.Resto(), kAltoGrafica);
-    PonerGrafica(pliego.Piezas(), m_grafica, {papel::kIzquierda, pliego.y}, papel::kAncho, dAlto,
+    PonerGrafica(pliego.Piezas(), m_grafica, {pliego.Izquierda(), pliego.y}, pliego.Ancho(), dAlto,
                  pliego.medidor);
     pliego.Bajar(dAlto + kTrasFigura);
 }
 
 // As wide as the column at most; a schematic laid out for the sheet is hardly higher than it.
-BloqueLamina::BloqueLamina(const Lamina& lamina)
+BloqueLamina::BloqueLamina(const Lamina& lamina, const Pliego& pliego)
     : m_lamina(lamina),
-      m_dEscala(
-          lamina.dAncho > 0.0 && lamina.dAlto > 0.0
-              ? std::min({kPuntosPorUnidad, papel::kAncho / lamina.dAncho, kAltoLaminaMaximo / lamina.dAlto})
-              : 0.0)
+      m_dEscala(lamina.dAncho > 0.0 && lamina.dAlto > 0.0
+                    ? std::min({kPuntosPorUnidad, pliego.Ancho() / lamina.dAncho,
+                                (pliego.Entera() - kAltoTitular) / lamina.dAlto})
+                    : 0.0)
 {
 }
 
@@ -100,19 +98,21 @@ void BloqueLamina::Poner(Pliego& pliego) const
 {
     if (m_dEscala <= 0.0)
         return;
-    const double dLibre = papel::kAncho - m_lamina.dAncho * m_dEscala;
-    PonerLamina(pliego.Piezas(), m_lamina, {papel::kIzquierda + dLibre / 2, pliego.y}, m_dEscala,
+    const double dLibre = pliego.Ancho() - m_lamina.dAncho * m_dEscala;
+    PonerLamina(pliego.Piezas(), m_lamina, {pliego.Izquierda() + dLibre / 2, pliego.y}, m_dEscala,
                 pliego.medidor);
     pliego.Bajar(m_lamina.dAlto * m_dEscala + kTrasFigura);
 }
 
-BloqueResumen::BloqueResumen(const std::vector<Dato>& datos, const MedidorLetra& medidor)
+BloqueResumen::BloqueResumen(const std::vector<Dato>& datos, const Pliego& pliego)
+    : m_dAncho((pliego.Ancho() - static_cast<double>(kFichasPorFila - 1) * kEntreFichas) /
+               static_cast<double>(kFichasPorFila))
 {
     std::size_t nLineas = 1;
     for (const Dato& dato : datos) {
         Ficha ficha{EnHoja(dato.rotulo), {}, dato.bFalta};
         ficha.valor = EnLineas(EnHoja(dato.bFalta ? dato.valor + " (fuera)" : dato.valor), {kCuerpoValor, true},
-                               kAnchoFicha - 2 * kLadoFicha, medidor);
+                               m_dAncho - 2 * kLadoFicha, pliego.medidor);
         nLineas = std::max(nLineas, ficha.valor.size());
         m_fichas.push_back(std::move(ficha));
     }
@@ -130,14 +130,14 @@ void BloqueResumen::Poner(Pliego& pliego) const
     for (std::size_t i = 0; i < m_fichas.size(); ++i) {
         const Ficha& ficha = m_fichas[i];
         const double x =
-            papel::kIzquierda + static_cast<double>(i % kFichasPorFila) * (kAnchoFicha + kEntreFichas);
-        pliego.Fondo(x, pliego.y, kAnchoFicha, m_dAlto, papel::kFondo);
+            pliego.Izquierda() + static_cast<double>(i % kFichasPorFila) * (m_dAncho + kEntreFichas);
+        pliego.Fondo(x, pliego.y, m_dAncho, m_dAlto, papel::kFondo);
         pliego.Fondo(x, pliego.y, 3.0, m_dAlto, papel::kAzul);
-        pliego.Escribir(x + kLadoFicha, pliego.y + 12.0, kAnchoFicha, ficha.csRotulo, {kCuerpoRotulo},
+        pliego.Escribir(x + kLadoFicha, pliego.y + 12.0, m_dAncho, ficha.csRotulo, {kCuerpoRotulo},
                         papel::kTenue);
         double dBase = pliego.y + 12.0 + kCuerpoValor * 1.25;
         for (const CString& csLinea : ficha.valor) {
-            pliego.Escribir(x + kLadoFicha, dBase, kAnchoFicha, csLinea, {kCuerpoValor, true},
+            pliego.Escribir(x + kLadoFicha, dBase, m_dAncho, csLinea, {kCuerpoValor, true},
                             ficha.bFalta ? papel::kRojo : papel::kTinta);
             dBase += kCuerpoValor * 1.3;
         }

@@ -32,7 +32,7 @@ public:
         bool bConElAnterior = false, bConElSiguiente = false;
     };
 
-    BloqueParrafo(const std::string& texto, Aspecto aspecto, const MedidorLetra& medidor);
+    BloqueParrafo(const std::string& texto, Aspecto aspecto, const Pliego& pliego);
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
@@ -61,7 +61,7 @@ private:
 /// A schematic, or one of its sheets, whole.
 class BloqueLamina final : public Bloque {
 public:
-    explicit BloqueLamina(const Lamina& lamina);
+    BloqueLamina(const Lamina& lamina, const Pliego& pliego);
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
@@ -74,7 +74,7 @@ private:
 /// The figures that count, a few a row.
 class BloqueResumen final : public Bloque {
 public:
-    BloqueResumen(const std::vector<Dato>& datos, const MedidorLetra& medidor);
+    BloqueResumen(const std::vector<Dato>& datos, const Pliego& pliego);
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
@@ -87,6 +87,7 @@ private:
     };
 
     std::vector<Ficha> m_fichas;
+    double m_dAncho;       ///< of one
     double m_dAlto = 0.0;  ///< of a row of them
 };
 

@@ -10,8 +10,8 @@ MedidorLetra::~MedidorLetra() = default;
 
 void Pliego::Saltar()
 {
-    impreso.hojas.emplace_back();
-    y = papel::kArriba;
+    impreso.hojas.push_back({.dAncho = papel.dAncho, .dAlto = papel.dAlto});
+    y = Arriba();
 }
 
 void Pliego::Escribir(double x, double dBase, double dAncho, const CString& cs, Letra letra, ui::Color color,
@@ -52,7 +52,7 @@ void Colocar(const Bloques& bloques, Pliego& pliego)
         // The first rows of a table may stand without what stays with its last ones.
         if (!bloques[i]->SeParte())
             dHace += pliego.dSigue;
-        if (dHace > pliego.Resto() && pliego.y > papel::kArriba)
+        if (dHace > pliego.Resto() && pliego.y > pliego.Arriba())
             pliego.Saltar();
         bloques[i]->Poner(pliego);
     }

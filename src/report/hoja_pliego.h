@@ -12,19 +12,25 @@ namespace efv::report {
 namespace papel {
 inline constexpr ui::Color kTinta = 0x33271D, kTenue = 0x75675A, kRaya = 0xDCD5CE, kFondo = 0xF6F3F0,
                            kAzul = 0x9C4F1A, kRojo = 0x1E26B3;
-inline constexpr double kIzquierda = 51.0, kArriba = 64.0, kAbajo = kAltoHoja - 60.0;
-inline constexpr double kAncho = kAnchoHoja - 2 * kIzquierda;
 inline constexpr double kCuerpo = 9.0, kRenglon = 12.5;
 }  // namespace papel
 
 class Pliego {
 public:
-    explicit Pliego(const MedidorLetra& medidorDeLetra) : medidor(medidorDeLetra) { Saltar(); }
+    Pliego(const Papel& papelDeHojas, const MedidorLetra& medidorDeLetra)
+        : papel(papelDeHojas), medidor(medidorDeLetra)
+    {
+        Saltar();
+    }
 
     void Saltar();
     void Bajar(double d) { y += d; }
-    double Resto() const { return papel::kAbajo - y; }
-    static double Entera() { return papel::kAbajo - papel::kArriba; }
+    /// The column of the sheets.
+    double Izquierda() const { return papel.dIzquierda; }
+    double Ancho() const { return papel.dAncho - papel.dIzquierda - papel.dDerecha; }
+    double Arriba() const { return papel.dArriba; }
+    double Entera() const { return papel.dAlto - papel.dAbajo - papel.dArriba; }
+    double Resto() const { return papel.dAlto - papel.dAbajo - y; }
 
     std::vector<Pieza>& Piezas() { return impreso.hojas.back().piezas; }
     std::size_t Numero() const { return impreso.hojas.size() - 1; }
@@ -37,6 +43,7 @@ public:
     void Fondo(double x, double dArriba, double dAncho, double dAlto, ui::Color color);
 
     Impreso impreso;
+    const Papel papel;
     const MedidorLetra& medidor;
     double y = 0.0;
     double dSigue = 0.0;  ///< room that the end of the block being placed leaves for what stays with it

@@ -21,7 +21,7 @@ bool EsNegrita(const FilaHoja& fila)
 
 }  // namespace
 
-BloqueTabla::BloqueTabla(TablaHoja tabla, const MedidorLetra& medidor) : m_tabla(std::move(tabla))
+BloqueTabla::BloqueTabla(TablaHoja tabla, const Pliego& pliego) : m_tabla(std::move(tabla))
 {
     // A number stays with its unit.
     for (FilaHoja& fila : m_tabla.filas) {
@@ -33,23 +33,24 @@ BloqueTabla::BloqueTabla(TablaHoja tabla, const MedidorLetra& medidor) : m_tabla
         }
     }
     for (const double dCuerpo : kCuerpos)
-        if (Repartir(dCuerpo, medidor))
+        if (Repartir(dCuerpo, pliego))
             break;
     if (m_tabla.bCabecera) {
         std::vector<CString> rotulos;
         for (const ColumnaHoja& columna : m_tabla.columnas)
             rotulos.push_back(columna.csRotulo);
-        m_cabecera = Partir(rotulos, true, medidor);
+        m_cabecera = Partir(rotulos, true, pliego.medidor);
     }
     m_filas.reserve(m_tabla.filas.size());
     for (const FilaHoja& fila : m_tabla.filas)
-        m_filas.push_back(Partir(fila.celdas, EsNegrita(fila), medidor));
+        m_filas.push_back(Partir(fila.celdas, EsNegrita(fila), pliego.medidor));
 }
 
 // Every column its longest word; what is left goes where whole cells ask for more, then to all alike. False
 // when the words alone are too wide.
-bool BloqueTabla::Repartir(double dCuerpo, const MedidorLetra& medidor)
+bool BloqueTabla::Repartir(double dCuerpo, const Pliego& pliego)
 {
+    const MedidorLetra& medidor = pliego.medidor;
     const std::size_t n = m_tabla.columnas.size();
     m_dCuerpo = dCuerpo;
     std::vector<double> minimos(n, 0.0), deseados(n, 0.0);
@@ -65,7 +66,7 @@ bool BloqueTabla::Repartir(double dCuerpo, const MedidorLetra& medidor)
             contar(c, fila.celdas[c], EsNegrita(fila), true);
         deseados[c] = std::max(deseados[c], minimos[c]);
     }
-    const double dTotal = m_tabla.bCabecera ? papel::kAncho : kParteEstrecha * papel::kAncho;
+    const double dTotal = m_tabla.bCabecera ? pliego.Ancho() : kParteEstrecha * pliego.Ancho();
     const double dLibre = dTotal - 2 * kLado * static_cast<double>(n);
     const double dMinimo = std::accumulate(minimos.begin(), minimos.end(), 0.0);
     const double dDeseado = std::accumulate(deseados.begin(), deseados.end(), 0.0);
@@ -74,7 +75,7 @@ bool BloqueTabla::Repartir(double dCuerpo, const MedidorLetra& medidor)
         dDeseado <= dMinimo ? 0.0 : std::clamp((dLibre - dMinimo) / (dDeseado - dMinimo), 0.0, 1.0);
     const double dReparto = std::max(0.0, dLibre - dDeseado) / static_cast<double>(std::max<std::size_t>(n, 1));
     m_columnas.assign(n, {});
-    double x = papel::kIzquierda;
+    double x = pliego.Izquierda();
     for (std::size_t c = 0; c < n; ++c) {
         // Words too wide even for the smallest letters are broken.
         const double dTexto =
@@ -123,14 +124,14 @@ double BloqueTabla::Minimo(double /*dResto*/) const
 void BloqueTabla::PonerCabecera(Pliego& pliego, bool bContinua) const
 {
     if (!m_tabla.csTitulo.empty()) {
-        pliego.Escribir(papel::kIzquierda, pliego.y + kCuerpoTitulo + 1.0, papel::kAncho,
+        pliego.Escribir(pliego.Izquierda(), pliego.y + kCuerpoTitulo + 1.0, pliego.Ancho(),
                         bContinua ? m_tabla.csTitulo + L" (continuación)" : m_tabla.csTitulo,
                         {kCuerpoTitulo, true}, papel::kTinta);
         pliego.Bajar(kAltoTitulo);
     }
     if (!m_tabla.bCabecera)
         return;
-    pliego.Fondo(papel::kIzquierda, pliego.y, papel::kAncho, m_cabecera.dAlto, papel::kFondo);
+    pliego.Fondo(pliego.Izquierda(), pliego.y, pliego.Ancho(), m_cabecera.dAlto, papel::kFondo);
     PonerFila(pliego, m_cabecera, {m_dCuerpo, true}, papel::kTenue);
 }
 
@@ -147,7 +148,7 @@ void BloqueTabla::PonerFila(Pliego& pliego, const Celdas& celdas, Letra letra, u
     }
     pliego.Bajar(celdas.dAlto);
     const Columna& ultima = m_columnas.back();
-    pliego.Raya(papel::kIzquierda, pliego.y, ultima.x + ultima.dAncho - papel::kIzquierda, papel::kRaya);
+    pliego.Raya(pliego.Izquierda(), pliego.y, ultima.x + ultima.dAncho - pliego.Izquierda(), papel::kRaya);
 }
 
 void BloqueTabla::Poner(Pliego& pliego) const
@@ -162,7 +163,7 @@ void BloqueTabla::Poner(Pliego& pliego) const
         const FilaHoja& fila = m_tabla.filas[f];
         if (fila.bTotal) {
             const Columna& ultima = m_columnas.back();
-            pliego.Raya(papel::kIzquierda, pliego.y, ultima.x + ultima.dAncho - papel::kIzquierda,
+            pliego.Raya(pliego.Izquierda(), pliego.y, ultima.x + ultima.dAncho - pliego.Izquierda(),
                         papel::kTenue, 0.9);
         }
         PonerFila(pliego, m_filas[f], {m_dCuerpo, EsNegrita(fila)}, fila.bFalta ? papel::kRojo : papel::kTinta);

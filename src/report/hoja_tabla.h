@@ -25,7 +25,7 @@ struct TablaHoja {
 
 class BloqueTabla final : public Bloque {
 public:
-    BloqueTabla(TablaHoja tabla, const MedidorLetra& medidor);
+    BloqueTabla(TablaHoja tabla, const Pliego& pliego);
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
@@ -40,7 +40,7 @@ private:
         double dAlto = 0.0;
     };
 
-    bool Repartir(double dCuerpo, const MedidorLetra& medidor);
+    bool Repartir(double dCuerpo, const Pliego& pliego);
     Celdas Partir(const std::vector<CString>& celdas, bool bNegrita, const MedidorLetra& medidor) const;
     double AltoCabecera() const;
     double AltoConLaSiguiente(std::size_t nFila) const;

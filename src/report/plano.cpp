@@ -300,6 +300,24 @@ double Pagina::Alto() const
                      : kLados.at(static_cast<std::size_t>(formato)).dLargo;
 }
 
+// The head stands 20 points above the column and the foot 24 below it, as high as their letters.
+Papel PapelDe(const Pagina& pagina)
+{
+    constexpr double kPuntosPorMm = 72.0 / 25.4, kCabecera = 28.0, kPie = 24.0;
+    return {.dAncho = pagina.Ancho() * kPuntosPorMm,
+            .dAlto = pagina.Alto() * kPuntosPorMm,
+            .dIzquierda = pagina.dIzquierdo * kPuntosPorMm,
+            .dDerecha = pagina.dDerecho * kPuntosPorMm,
+            .dArriba = pagina.dSuperior * kPuntosPorMm + kCabecera,
+            .dAbajo = pagina.dInferior * kPuntosPorMm + kPie};
+}
+
+Pagina PaginaDeInforme()
+{
+    constexpr double kLado = 18.0, kBorde = 12.7;
+    return {Formato::a4, false, kLado, kBorde, kLado, kBorde};
+}
+
 std::string Pagina::Nombre() const
 {
     return fmt::format("{} {}", kFormatos[static_cast<std::size_t>(formato)],

@@ -1,5 +1,6 @@
 // Documents laid out on sheets: what stands together, what is repeated, what the contents say.
 #include <quorvel/report/hojas.h>
+#include <quorvel/report/plano.h>
 
 #include <algorithm>
 #include <set>
@@ -12,8 +13,6 @@ namespace {
 
 using namespace efv;
 using namespace efv::report;
-
-constexpr double kMargenAbajo = kAltoHoja - 60.0;
 
 /// Every letter half as wide as high.
 class LetraFija final : public MedidorLetra {
@@ -100,18 +99,21 @@ TEST(Hojas, ElIndiceDiceLaPaginaDeCadaTitular)
     EXPECT_EQ(Cuantos(impreso.hojas.back(), CadenaDesdeUtf8(fmt::format("Página {} de {}", n, n))), 1U);
 }
 
-TEST(Hojas, NadaQuedaPartidoNiFuera)
+void NadaPartidoNiFuera(const Papel& papel)
 {
-    const Impreso impreso = Componer(Largo(), "", LetraFija());
-    for (std::size_t i = 1; i < impreso.hojas.size(); ++i) {
+    const Impreso impreso = Componer(Largo(), "", LetraFija(), papel);
+    for (std::size_t i = 0; i < impreso.hojas.size(); ++i) {
+        EXPECT_EQ(impreso.hojas[i].dAncho, papel.dAncho);
+        EXPECT_EQ(impreso.hojas[i].dAlto, papel.dAlto);
         double dUltimaLinea = 0.0;
         for (const hoja::Texto& texto : Textos(impreso.hojas[i])) {
-            EXPECT_GE(texto.base.x, 50.0);
-            EXPECT_LE(texto.base.x + LetraFija().Ancho(texto.cs, texto.dCuerpo, false), kAnchoHoja - 49.0);
-            if (!texto.cs.starts_with(L"QuorvelEFV") && !texto.cs.starts_with(L"Página")) {
-                EXPECT_LE(texto.base.y, kMargenAbajo);
+            EXPECT_GE(texto.base.x, papel.dIzquierda - 1.0);
+            EXPECT_LE(texto.base.x + LetraFija().Ancho(texto.cs, texto.dCuerpo, false),
+                      papel.dAncho - papel.dDerecha + 2.0);
+            const bool bPie = texto.cs.starts_with(L"QuorvelEFV") || texto.cs.starts_with(L"Página");
+            EXPECT_LE(texto.base.y, papel.dAlto - papel.dAbajo + (bPie && i > 0 ? 24.0 : 0.0));
+            if (!bPie)
                 dUltimaLinea = std::max(dUltimaLinea, texto.base.y);
-            }
         }
         // Each long cell holds 240 letters in several lines.
         std::size_t nLetras = 0;
@@ -124,6 +126,14 @@ TEST(Hojas, NadaQuedaPartidoNiFuera)
                 EXPECT_GT(dUltimaLinea, titular.y + 30.0) << titular.texto;
             }
     }
+}
+
+TEST(Hojas, NadaQuedaPartidoNiFuera)
+{
+    NadaPartidoNiFuera({});
+    NadaPartidoNiFuera(PapelDe(PaginaDeInforme()));
+    NadaPartidoNiFuera(PapelDe({Formato::a3, false, 30.0, 10.0, 5.0, 15.0}));
+    NadaPartidoNiFuera(PapelDe({Formato::a4, false, 40.0, 40.0, 40.0, 40.0}));
 }
 
 TEST(Hojas, LasTablasRepitenSuCabecera)

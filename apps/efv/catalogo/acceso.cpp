@@ -67,8 +67,9 @@ void OpcionesCatalogo::DeclararTipo(CLI::App& linea, std::span<const std::string
 
 const TipoCatalogo& OpcionesCatalogo::Tipo(std::span<const std::string_view> tipos) const
 {
-    // As a sentence writes it too.
-    const std::string_view nombre = !m_tipo ? tipos.front() : *m_tipo == "módulos" ? "modulos" : *m_tipo;
+    std::string_view nombre = m_tipo ? std::string_view(*m_tipo) : tipos.front();
+    if (nombre == "módulos")  // as a sentence writes it
+        nombre = "modulos";
     if (std::ranges::find(tipos, nombre) == tipos.end())
         throw ErrorUso(fmt::format("--tipo: se esperaba {}, llegó «{}»{}", Enumerar(tipos), EnUnaLinea(nombre),
                                    Parecidos(std::vector<std::string>(tipos.begin(), tipos.end()), nombre)));

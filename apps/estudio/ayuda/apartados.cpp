@@ -46,7 +46,7 @@ constexpr auto kApartados = std::to_array<Fila>({
     {"DialogoHE5", "Potencia mínima del código técnico"},
     {"DialogoPlanos", "Planos del campo"},
     {"DialogoPortada", "Portada del informe"},
-    {"DialogoPagina", "Página del esquema"},
+    {"DialogoPagina", "Página del esquema y del informe"},
     {"DialogoSimbolo", "Símbolos y rótulos"},
     {"CDlgRotulacion", "Símbolos y rótulos"},
     {"CDlgDatosPanelFotovoltaico", "Generador fotovoltaico"},

@@ -11,9 +11,9 @@
 #include "capturas/elementos.h"
 #include "capturas/panel_fotovoltaico.h"
 #include "clima/estudios.h"
+#include "comun/pagina.h"
 #include "economia/dialogo_autoconsumo.h"
 #include "energia/planos.h"
-#include "esquema/pagina.h"
 #include "informe/portada.h"
 #include "preferencias/preferencias.h"
 #include "proyecto/asistentes.h"
@@ -351,7 +351,14 @@ std::vector<Pantalla> Pantallas(Sesion& sesion)
          [](ui::Dialogo& dialogo) { ElegirEntrada(dialogo, "iOpcion", 1); }},
         {"planos", {"DialogoPlanos"}, [&sesion] { AbrirPlanos(sesion); }, {}},
         {"preferencias", {"DialogoPreferencias"}, [] { DialogoPreferencias(Preferencias{}).Mostrar(); }, {}},
-        {"pagina-esquema", {"DialogoPagina"}, [] { DialogoPagina(report::Pagina{}).Mostrar(); }, {}},
+        {"pagina-esquema",
+         {"DialogoPagina"},
+         [] { DialogoPagina(Impresion::esquema, report::Pagina{}).Mostrar(); },
+         {}},
+        {"pagina-informe",
+         {"DialogoPagina"},
+         [] { DialogoPagina(Impresion::informe, report::PaginaDeInforme()).Mostrar(); },
+         {}},
         {"portada", {"DialogoPortada"}, [&sesion] { EditarPortada(sesion); }, {}},
         {"potencia-minima", {"DialogoHE5"}, [&sesion] { CalcularPotenciaMinima(sesion); }, {}},
         {"mapa-zonas", {"CDlgMapaZonas"}, [] { phShowMapaZonaHE5(); }, {}},

@@ -4,9 +4,9 @@
 
 #include <QFileInfo>
 
+#include "comun/pagina.h"
 #include "elementos/rotulos.h"
 #include "esquema/exportar.h"
-#include "esquema/pagina.h"
 #include "guardar.h"
 #include "informe/imprimir.h"
 #include "pdf/pdf.h"
@@ -24,7 +24,7 @@ QString Final(const CString& csRuta)
 report::Impreso HojasDelPlano(const CProyectoEstudio& proyecto, Diseno diseno)
 {
     const pdf::Escritor medidor;
-    return report::ComponerPlano(PlanoDe(proyecto, diseno, PaginaDeLaPersona()), medidor);
+    return report::ComponerPlano(PlanoDe(proyecto, diseno, PaginaDeLaPersona(Impresion::esquema)), medidor);
 }
 
 }  // namespace
@@ -72,7 +72,8 @@ void GuardarEsquema(const CProyectoEstudio& proyecto, Diseno diseno, const Lamin
         return;
     if (Final(*csRuta) == QLatin1String("png"))
         return GuardarImagen(aLaVista, *csRuta);
-    GuardarFichero(*csRuta, BytesDePlano(PlanoDe(proyecto, diseno, PaginaDeLaPersona()), *csRuta));
+    GuardarFichero(*csRuta,
+                   BytesDePlano(PlanoDe(proyecto, diseno, PaginaDeLaPersona(Impresion::esquema)), *csRuta));
 }
 
 void ImprimirEsquema(const CProyectoEstudio& proyecto, Diseno diseno)
@@ -82,8 +83,8 @@ void ImprimirEsquema(const CProyectoEstudio& proyecto, Diseno diseno)
 
 void VerEsquemaImpreso(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    VerImpreso(
-        {"Vista preliminar del esquema", [&] { return HojasDelPlano(proyecto, diseno); }, &ConfigurarPagina});
+    VerImpreso({"Vista preliminar del esquema", [&] { return HojasDelPlano(proyecto, diseno); },
+                [] { ConfigurarPagina(Impresion::esquema); }});
 }
 
 }  // namespace efv::estudio

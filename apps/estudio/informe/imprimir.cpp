@@ -18,6 +18,7 @@
 #include <QPrinter>
 #include <QToolBar>
 
+#include "comun/pagina.h"
 #include "pdf/pdf.h"
 
 namespace efv::estudio {
@@ -224,7 +225,7 @@ void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel,
 report::Impreso HojasDe(const CProyectoEstudio& proyecto, Diseno diseno)
 {
     const pdf::Escritor medidor;
-    return report::Componer(DocumentoDe(proyecto, diseno), report::FechaDeHoy(), medidor);
+    return report::Componer(DocumentoDe(proyecto, diseno), report::FechaDeHoy(), medidor, PapelDeInformes());
 }
 
 void Imprimir(const report::Impreso& impreso, const char* titulo)
@@ -281,7 +282,8 @@ void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno)
 
 void VerInforme(const CProyectoEstudio& proyecto, Diseno diseno)
 {
-    VerImpreso({"Vista preliminar del informe", [&] { return HojasDe(proyecto, diseno); }, {}});
+    VerImpreso({"Vista preliminar del informe", [&] { return HojasDe(proyecto, diseno); },
+                [] { ConfigurarPagina(Impresion::informe); }});
 }
 
 }  // namespace efv::estudio

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "comun/pagina.h"
 #include "diseno/equipos.h"
 #include "energia/planos.h"
 #include "guardar.h"
@@ -63,6 +64,11 @@ report::Documento DocumentoDe(const CProyectoEstudio& proyecto, Diseno diseno)
     return documento;
 }
 
+report::Papel PapelDeInformes()
+{
+    return report::PapelDe(PaginaDeLaPersona(Impresion::informe));
+}
+
 void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno)
 {
     GuardarDocumento(DocumentoDe(proyecto, diseno), L"informe");
@@ -78,8 +84,9 @@ void GuardarDocumento(const report::Documento& documento, const CString& csNombr
     if (!csRuta)
         return;
     const std::string fecha = report::FechaDeHoy();
-    GuardarFichero(*csRuta, pdf::EsPdf(CadenaUtf8(*csRuta)) ? pdf::InformePdf(documento, fecha)
-                                                            : report::DocumentoHtml(documento, fecha));
+    GuardarFichero(*csRuta, pdf::EsPdf(CadenaUtf8(*csRuta))
+                                ? pdf::InformePdf(documento, fecha, pdf::LetrasInstaladas(), PapelDeInformes())
+                                : report::DocumentoHtml(documento, fecha));
 }
 
 }  // namespace efv::estudio

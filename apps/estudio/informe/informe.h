@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include <quorvel/report/hojas.h>
 #include <quorvel/report/informe.h>
 
 #include "proyecto/proyecto.h"
@@ -18,6 +19,9 @@ report::Portada PortadaDe(const CProyectoEstudio& proyecto);
 /// @throws std::runtime_error with a Spanish text when the assistant hasn't been accepted or a model isn't in
 /// its catalogue
 report::Documento DocumentoDe(const CProyectoEstudio& proyecto, Diseno diseno);
+
+/// The sheets that the person has set up for reports.
+report::Papel PapelDeInformes();
 
 /// Asks for a file and writes the report into it. @throws std::runtime_error with a Spanish text
 void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno);

@@ -36,6 +36,11 @@ struct EFV_API Pagina {
     bool operator==(const Pagina&) const = default;
 };
 
+/// The page set-up of a report: its head and foot stand within the margins, the text between them.
+EFV_API Papel PapelDe(const Pagina& pagina);
+/// A4 standing, with the margins that a report has unless others are chosen.
+EFV_API Pagina PaginaDeInforme();
+
 /// What a title block says; what is empty shows as "—".
 struct Cajetin {
     std::string titulo = {};  ///< of the drawing; empty: it takes the schematic's

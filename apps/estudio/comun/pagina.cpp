@@ -1,4 +1,4 @@
-#include "esquema/pagina.h"
+#include "comun/pagina.h"
 
 #include <algorithm>
 #include <array>
@@ -23,30 +23,39 @@ constexpr auto kMargenes = std::to_array<Margen>({
     {"dSuperior", L"Margen &superior (mm):", &Pagina::dSuperior},
     {"dInferior", L"Margen i&nferior (mm):", &Pagina::dInferior},
 });
-constexpr const char* kClaveFormato = "pagina/iFormato";
-constexpr const char* kClaveApaisada = "pagina/bApaisada";
+constexpr const char* kFormato = "iFormato";
+constexpr const char* kApaisadaDicha = "bApaisada";
 constexpr int kApaisada = 0, kVertical = 1;
 
-QString ClaveDe(const Margen& margen)
+QString ClaveDe(Impresion impresion, const char* clave)
 {
-    return QStringLiteral("pagina/") + margen.clave;
+    return QString::fromLatin1(impresion == Impresion::esquema ? "pagina/" : "pagina-informe/") + clave;
+}
+
+// The first ones.
+int CuantosFormatos(Impresion impresion)
+{
+    return impresion == Impresion::esquema ? static_cast<int>(std::size(report::kFormatos))
+                                           : static_cast<int>(report::Formato::a3) + 1;
 }
 
 }  // namespace
 
-DialogoPagina::DialogoPagina(const Pagina& inicial)
-    : Dialogo("DialogoPagina", L"Configurar página del esquema"),
+DialogoPagina::DialogoPagina(Impresion impresion, const Pagina& inicial)
+    : Dialogo("DialogoPagina", impresion == Impresion::esquema ? L"Configurar página del esquema"
+                                                               : L"Configurar página del informe"),
       m_iFormato(static_cast<int>(inicial.formato)),
       m_iOrientacion(inicial.bApaisada ? kApaisada : kVertical),
       m_pagina(inicial)
 {
     auto& formato = Anadir<ui::Seleccion>("iFormato", L"&Papel:", ui::Seleccion::Forma::combo);
-    for (const char* nombre : report::kFormatos)
-        formato.acsEntradas.push_back(CadenaDesdeUtf8(nombre));
+    for (int i = 0; i < CuantosFormatos(impresion); ++i)
+        formato.acsEntradas.push_back(CadenaDesdeUtf8(report::kFormatos[i]));
     formato.destino = &m_iFormato;
     auto& orientacion = Anadir<ui::Seleccion>("iOrientacion", L"&Orientación:", ui::Seleccion::Forma::combo);
     orientacion.acsEntradas = {L"Apaisada", L"Vertical"};
     orientacion.destino = &m_iOrientacion;
+    orientacion.bHabilitado = impresion == Impresion::esquema;
     for (const Margen& margen : kMargenes) {
         auto& edicion = Anadir<ui::Edicion>(margen.clave, margen.csRotulo);
         edicion.destino = &(m_pagina.*margen.dMargen);
@@ -64,35 +73,36 @@ Pagina DialogoPagina::Elegida() const
     return pagina;
 }
 
-Pagina PaginaDeLaPersona()
+Pagina PaginaDeLaPersona(Impresion impresion)
 {
     const Ajustes ajustes;
-    Pagina pagina;
+    Pagina pagina = impresion == Impresion::esquema ? Pagina{} : report::PaginaDeInforme();
     // What another program wrote there may be anything.
-    const int iFormato = ajustes.value(kClaveFormato, 0).toInt();
-    if (iFormato > 0 && iFormato < static_cast<int>(std::size(report::kFormatos)))
+    const int iFormato = ajustes.value(ClaveDe(impresion, kFormato), 0).toInt();
+    if (iFormato > 0 && iFormato < CuantosFormatos(impresion))
         pagina.formato = static_cast<report::Formato>(iFormato);
-    pagina.bApaisada = ajustes.value(kClaveApaisada, true).toBool();
+    if (impresion == Impresion::esquema)
+        pagina.bApaisada = ajustes.value(ClaveDe(impresion, kApaisadaDicha), true).toBool();
     for (const Margen& margen : kMargenes) {
         bool bNumero = false;
-        const double d = ajustes.value(ClaveDe(margen)).toDouble(&bNumero);
+        const double d = ajustes.value(ClaveDe(impresion, margen.clave)).toDouble(&bNumero);
         if (bNumero && d >= report::kMargenMinimo && d <= report::kMargenMaximo)
             pagina.*margen.dMargen = d;
     }
     return pagina;
 }
 
-void ConfigurarPagina()
+void ConfigurarPagina(Impresion impresion)
 {
-    DialogoPagina dialogo(PaginaDeLaPersona());
+    DialogoPagina dialogo(impresion, PaginaDeLaPersona(impresion));
     if (dialogo.Mostrar() != ui::Dialogo::ok)
         return;
     const Pagina pagina = dialogo.Elegida();
     Ajustes ajustes;
-    ajustes.setValue(kClaveFormato, static_cast<int>(pagina.formato));
-    ajustes.setValue(kClaveApaisada, pagina.bApaisada);
+    ajustes.setValue(ClaveDe(impresion, kFormato), static_cast<int>(pagina.formato));
+    ajustes.setValue(ClaveDe(impresion, kApaisadaDicha), pagina.bApaisada);
     for (const Margen& margen : kMargenes)
-        ajustes.setValue(ClaveDe(margen), pagina.*margen.dMargen);
+        ajustes.setValue(ClaveDe(impresion, margen.clave), pagina.*margen.dMargen);
 }
 
 }  // namespace efv::estudio
