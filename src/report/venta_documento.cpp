@@ -158,11 +158,12 @@ Seccion SeccionMesesVenta(const R& e)
                        {TituloEn("Plano (kWh/m²·día)"), true},
                        {TituloEn("Energía diaria (kWh)"), true},
                        {TituloEn("Energía (kWh)"), true}};
-    for (std::ptrdiff_t m = 0; m < e.aEnergiaMes.GetSize(); ++m)
+    for (std::ptrdiff_t m = 0; m < e.aEnergiaMes.GetSize(); ++m) {
         cuadro.filas.push_back({m < 12 ? NombreMes(static_cast<int>(m)) : "Media de los meses",
                                 DecimalEn(e.aRadHorizontal[m], 2, "kWh/m²·día"),
                                 DecimalEn(e.aRadInclinada[m], 2, "kWh/m²·día"),
                                 DecimalEn(e.aEnergiaDia[m], 2, "kWh"), DecimalEn(e.aEnergiaMes[m], 1, "kWh")});
+    }
     return seccion;
 }
 
