@@ -292,8 +292,11 @@ std::string TablaTexto::Texto(const FormaTexto& forma) const
     columnas.Agrupar(std::move(grupos));
     columnas.Disponer(m_nClaves);
     std::string texto;
-    for (const ColumnasTexto::Banda& banda : columnas.Bandas())
-        texto += (texto.empty() ? "" : "\n") + TextoDe(columnas, &banda, forma.bColor);
+    for (const ColumnasTexto::Banda& banda : columnas.Bandas()) {
+        if (!texto.empty())
+            texto += '\n';
+        texto += TextoDe(columnas, &banda, forma.bColor);
+    }
     return texto;
 }
 

@@ -115,8 +115,11 @@ std::string CeldaCsv(const Valor& valor)
 std::string LineaCsv(const Valores& valores, bool bNombres)
 {
     std::string linea;
-    for (const auto& [nombre, valor] : valores)
-        linea += (linea.empty() ? "" : ";") + (bNombres ? std::string(nombre) : CeldaCsv(valor));
+    for (const auto& [nombre, valor] : valores) {
+        if (!linea.empty())
+            linea += ';';
+        linea += bNombres ? std::string(nombre) : CeldaCsv(valor);
+    }
     return linea + "\r\n";
 }
 

@@ -17,6 +17,7 @@
 #include "diseno/diseno.h"
 #include "diseno/modelos.h"
 #include "diseno/proyecto.h"
+#include "diseno/receptores.h"
 #include "rpc/valores.h"
 
 namespace efv::orden {
@@ -148,12 +149,7 @@ estudio::ModeloGuardado ModeloDelReceptor(CSFVDataReceptor& receptor)
     CBaseReceptorModelo modelo;
     modelo.csFamilia = kFamiliaPropia;
     modelo.csModelo = receptor.csModelo;
-    modelo.dP = receptor.dPotencia;
-    modelo.dVs = receptor.dVoltaje;
-    modelo.dVsMin = receptor.dVoltajeMinimo;
-    modelo.dRend = receptor.dRendimiento;
-    modelo.iTipoRed = receptor.iTipoRed;
-    modelo.bIlum = receptor.iLuminaria;
+    PorPares(receptor, modelo, [](const auto& delReceptor, auto& delModelo) { delModelo = delReceptor; });
     receptor.csFabricante = kFamiliaPropia;
     receptor.csModelo = Identificacion(modelo);
     return estudio::Guardado(tipo, modelo);

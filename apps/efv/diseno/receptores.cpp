@@ -167,12 +167,7 @@ void TomarModelo(CSFVDataReceptor& receptor, const CModelo& modelo)
     const auto& m = dynamic_cast<const CBaseReceptorModelo&>(modelo);
     receptor.csModelo = Identificacion(m);
     receptor.csFabricante = m.csFamilia;
-    receptor.dPotencia = m.dP;
-    receptor.dVoltaje = m.dVs;
-    receptor.dVoltajeMinimo = m.dVsMin;
-    receptor.dRendimiento = m.dRend;
-    receptor.iLuminaria = m.bIlum;
-    receptor.iTipoRed = m.iTipoRed;
+    PorPares(receptor, m, [](auto& delReceptor, const auto& delModelo) { delReceptor = delModelo; });
     receptor.iReservadoA = 0;
     receptor.iReservadoB = 1;
 }
