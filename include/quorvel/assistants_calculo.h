@@ -251,6 +251,7 @@ enum class SinPropuesta {
     tensionRegulador,    ///< no count of panels in series keeps within the regulator's voltages
     corrienteRegulador,  ///< a single string has too much current for the regulator
     potenciaRegulador,   ///< no field that keeps to the regulator's limits reaches the power
+    reparto,             ///< no even division of a given count of panels passes its checks
 };
 
 struct PropuestaComprobada {
@@ -274,5 +275,13 @@ EFV_API PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInve
 EFV_API PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& campo,
                                                const CBasePanelFotoModelo& panel,
                                                const LimitesRegulador& regulador);
+
+/// So many panels on so many inverters, all alike: of the divisions in strings that pass every check that can
+/// be made, one with equal trackers before others, then that of fewest strings. Where none does (`falta`
+/// reparto) the figures are those of the division that passes the fewest limits.
+/// @param iPaneles a multiple of `iInversores`, both positive @param campo its temperatures count
+EFV_API PropuestaComprobada RepartirComprobada(int iPaneles, int iInversores, const CampoInversor& campo,
+                                               const CBasePanelFotoModelo& panel,
+                                               const CBaseInversorModelo& inversor);
 
 }  // namespace efv::assistants

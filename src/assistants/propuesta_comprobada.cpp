@@ -126,6 +126,16 @@ bool HayCifras(double dPotencia, const CBasePanelFotoModelo& panel)
     return dPotencia > 0.0 && panel.dPmpm > 0.0 && panel.dVoc > 0.0 && panel.dVmpm > 0.0;
 }
 
+// Why nothing can be proposed on an inverter, whatever the field.
+SinPropuesta FaltaDelModelo(double dPotencia, const CBasePanelFotoModelo& panel,
+                            const CBaseInversorModelo& inversor)
+{
+    const bool bTope = inversor.dVCCMax > 0.0 || inversor.dVMPPMax > 0.0 || panel.dVsmax > 0.0;
+    if (!bTope || !HayCifras(dPotencia, panel) || inversor.dPCANom <= 0.0)
+        return SinPropuesta::sinDatos;
+    return inversor.iUsoPrincipal != 0 ? SinPropuesta::usoAislado : SinPropuesta::ninguna;
+}
+
 void Poner(Reparto reparto, int iInversores, double dPmpm, PropuestaComprobada& propuesta)
 {
     propuesta.iInversores = iInversores;
@@ -145,12 +155,9 @@ PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& ca
     const CBasePanelFotoModelo panel = catalogues::SinHeredar(modelo);
     const CBaseInversorModelo inversor = catalogues::SinHeredar(modeloInversor);
     PropuestaComprobada propuesta;
-    const bool bTope = inversor.dVCCMax > 0.0 || inversor.dVMPPMax > 0.0 || panel.dVsmax > 0.0;
-    const bool bDatos = bTope && HayCifras(dPotencia, panel) && inversor.dPCANom > 0.0;
-    if (inversor.iUsoPrincipal != 0 || !bDatos) {
-        propuesta.falta = bDatos ? SinPropuesta::usoAislado : SinPropuesta::sinDatos;
+    propuesta.falta = FaltaDelModelo(dPotencia, panel, inversor);
+    if (propuesta.falta != SinPropuesta::ninguna)
         return propuesta;
-    }
     const Comprobador comprobar = Comprobaciones(campo, panel, inversor);
     const int iEntradas = inversor.iNumEntradas > 0 ? inversor.iNumEntradas : kRamalesMaximos;
     const Buscador buscador(comprobar, std::max(inversor.iNumMPPT, 1), std::min(iEntradas, kRamalesMaximos));
@@ -195,6 +202,38 @@ PropuestaComprobada ProponerComprobada(double dPotencia, const CampoInversor& ca
     Poner(*menor, 0, panel.dPmpm, propuesta);
     propuesta.comprobacion = comprobar(*menor);
     return propuesta;
+}
+
+PropuestaComprobada RepartirComprobada(int iPaneles, int iInversores, const CampoInversor& campo,
+                                       const CBasePanelFotoModelo& modelo,
+                                       const CBaseInversorModelo& modeloInversor)
+{
+    const CBasePanelFotoModelo panel = catalogues::SinHeredar(modelo);
+    const CBaseInversorModelo inversor = catalogues::SinHeredar(modeloInversor);
+    PropuestaComprobada mejor;
+    mejor.falta = FaltaDelModelo(iPaneles * panel.dPmpm / kVatios, panel, inversor);
+    if (mejor.falta != SinPropuesta::ninguna)
+        return mejor;
+    const Comprobador comprobar = Comprobaciones(campo, panel, inversor);
+    const int iSuyos = iPaneles / iInversores;
+    // Limits passed, unequal trackers, strings: the least is the best.
+    std::optional<std::array<std::ptrdiff_t, 3>> orden;
+    for (int p = 1; p <= std::min(iSuyos, kRamalesMaximos); ++p) {
+        if (iSuyos % p != 0 || iSuyos / p > kSerieMaxima)
+            continue;
+        ComprobacionCampo comprobacion = comprobar({iSuyos / p, p});
+        const auto nPasados = std::ranges::count(comprobacion.limites, false, &Comprobacion::bCumple);
+        const bool bIguales = p % std::max(inversor.iNumMPPT, 1) == 0;
+        const std::array<std::ptrdiff_t, 3> este = {nPasados, bIguales ? 0 : 1, p};
+        if (orden && *orden <= este)
+            continue;
+        orden = este;
+        Poner({iSuyos / p, p}, iInversores, panel.dPmpm, mejor);
+        mejor.falta = nPasados == 0 ? SinPropuesta::ninguna : SinPropuesta::reparto;
+        mejor.bSeguidoresIguales = bIguales;
+        mejor.comprobacion = std::move(comprobacion);
+    }
+    return mejor;
 }
 
 }  // namespace efv::assistants

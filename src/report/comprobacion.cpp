@@ -43,6 +43,7 @@ constexpr auto kMotivos = std::to_array<const char*>({
     "ningún número de paneles en serie cabe en las tensiones del regulador y del módulo a estas temperaturas",
     "un solo ramal pasa de la corriente del regulador",
     "ningún campo que cabe en el regulador alcanza la potencia necesaria",
+    "ningún reparto en ramales iguales cumple los límites",
 });
 
 }  // namespace

@@ -16,8 +16,6 @@ namespace {
 // The comparisons of the sizing treat what lies this near as equal.
 constexpr double kTolerancia = 1e-6;
 constexpr int kMuchosPaneles = 2000;
-// Peak power over nominal output: below, the inverter idles; above, it cuts off much of a clear day.
-constexpr double kRatioMinimo = 0.8, kRatioMaximo = 1.35;
 
 class Avisador {
 public:

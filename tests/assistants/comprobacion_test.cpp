@@ -204,6 +204,26 @@ TEST_F(ComprobacionCampoTest, LaPropuestaComprobadaAlcanzaLaPotencia)
     EXPECT_FALSE(esperar(2, 1, 9, 1, 2.16));
 }
 
+TEST_F(ComprobacionCampoTest, ElRepartoDeUnosPanelesEsExacto)
+{
+    const auto reparto = [&](int iPaneles, int iInversores) {
+        return RepartirComprobada(iPaneles, iInversores, {}, panel, inversor);
+    };
+    const auto esperar = [&](const PropuestaComprobada& p, int iSerie, int iRamales, bool bIguales) {
+        EXPECT_EQ(p.falta, SinPropuesta::ninguna);
+        EXPECT_EQ(p.iPanelesSerie, iSerie);
+        EXPECT_EQ(p.iRamales, iRamales);
+        EXPECT_EQ(p.bSeguidoresIguales, bIguales);
+    };
+    esperar(reparto(22, 1), 11, 2, true);
+    esperar(reparto(20, 2), 10, 1, false);  // 5 in series are too few
+    EXPECT_NEAR(reparto(20, 2).dPotencia, 4.8, 1e-9);
+    EXPECT_EQ(reparto(17, 1).falta, SinPropuesta::reparto);
+    EXPECT_TRUE(reparto(17, 1).comprobacion.Incumple());
+    inversor.iUsoPrincipal = 1;
+    EXPECT_EQ(reparto(22, 1).falta, SinPropuesta::usoAislado);
+}
+
 TEST_F(ComprobacionCampoTest, SinPropuestaSeSabePorQue)
 {
     const auto motivo = [&](double dPotencia = 5) {

@@ -138,6 +138,10 @@ EFV_API Esquema EsquemaDe(const ProyectoRed& proyecto, const EstudioRed& estudio
 EFV_API Documento EscribirDocumento(const ProyectoRed& proyecto, const EstudioRed& estudio,
                                     std::vector<Aviso> avisos);
 
+/// What the ratio of the panels' power to the inverters' nominal output usually is: below, the inverter idles;
+/// above, it cuts off much of a clear day.
+inline constexpr double kRatioMinimo = 0.8, kRatioMaximo = 1.35;
+
 /// A limit told to people and to programs.
 struct TextoLimite {
     const char* rotulo;
