@@ -142,7 +142,8 @@ std::vector<PuntoBarrido> Barrer(const ProyectoAutoconsumo& proyecto, std::span<
                                        proyecto.coste.De(dPotencia, dCapacidad));
             const auto r = economics::CalcularRentabilidad(ano, proyecto.inversion, registro);
             puntos.push_back({dPotencia, dCapacidad, registro.dCosteInstalacion, ano.total.dAhorro,
-                              ano.total.Cobertura(), ano.total.Aprovechamiento(), r.recuperacion, r.tasa});
+                              ano.total.Cobertura(), ano.total.Aprovechamiento(), r.recuperacion, r.tasa,
+                              r.dAcumulado});
         }
     }
     return puntos;

@@ -227,7 +227,7 @@ Seccion SeccionBarrido(std::span<const PuntoBarrido> puntos)
     Cuadro& cuadro = seccion.cuadros.emplace_back();
     cuadro.titulo = "Lo mismo con otra potencia o batería";
     for (const char* titulo : {"kWp", "Batería (kWh)", "Coste (€)", "Cubierto (%)", "Aprovechada (%)",
-                               "Ahorro (€)", "Recuperación (años)", "T.I.R. (%)"})
+                               "Ahorro (€)", "Recuperación (años)", "T.I.R. (%)", "Ganancia (€)"})
         cuadro.columnas.emplace_back(TituloEn(titulo), true);
     const Medida energia = MedidaDe("kWh");
     for (const PuntoBarrido& p : puntos) {
@@ -235,8 +235,11 @@ Seccion SeccionBarrido(std::span<const PuntoBarrido> puntos)
                                 Decimal(p.dCoste, 2), Decimal(p.dCobertura * 100.0, 1),
                                 Decimal(p.dAprovechamiento * 100.0, 1), Decimal(p.dAhorro, 2),
                                 p.recuperacion.bViable ? Decimal(p.recuperacion.dAnos, 1) : "—",
-                                p.tasa.bHallada ? Decimal(p.tasa.dTIR, 2) : "—"});
+                                p.tasa.bHallada ? Decimal(p.tasa.dTIR, 2) : "—", Decimal(p.dGanancia, 2)});
     }
+    seccion.notas.emplace_back(
+        "Ahorro: el del primer año. Ganancia: la que queda al final del estudio, pagados coste, intereses y "
+        "mantenimiento.");
     seccion.graficas.push_back(GraficaBarrido(puntos));
     return seccion;
 }

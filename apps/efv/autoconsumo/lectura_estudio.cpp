@@ -220,7 +220,12 @@ AnosDeDias LeerConsumo(const JsonLeido& json, const std::string& estudio, const 
     } else if (lector.Buscar("patron") != nullptr) {
         double dPatron = 0.0;
         lector.Numero("patron", {1.0, 9.0}, dPatron, "Patrón de consumo", "");
-        const double dPotencia = lector.Exigido("potencia", {0.01, 1e10}, "Potencia del patrón", "W");
+        if (dPatron != std::trunc(dPatron))
+            throw rpc::ErrorValor("patron: se esperaba un número entero, de 1 a 9");
+        // What is scaled to an energy may have any power.
+        const bool bSinPotencia = lector.Buscar("potencia") == nullptr && lector.Buscar("energia") != nullptr;
+        const double dPotencia =
+            bSinPotencia ? 1000.0 : lector.Exigido("potencia", {0.01, 1e10}, "Potencia del patrón", "W");
         ano = AnoDePatron(static_cast<int>(dPatron), dPotencia);
         origen = "patron";
     } else if (const auto receptores = lector.Texto("receptores")) {

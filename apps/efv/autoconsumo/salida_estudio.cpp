@@ -40,7 +40,8 @@ JsonEscrito PuntoJson(const report::PuntoBarrido& p)
             {"aprovechamiento", NumeroJson(p.dAprovechamiento)},
             {"ahorro_eur", NumeroJson(p.dAhorro)},
             {"recuperacion_años", p.recuperacion.bViable ? NumeroJson(p.recuperacion.dAnos) : JsonEscrito()},
-            {"tir_pct", p.tasa.bHallada ? NumeroJson(p.tasa.dTIR) : JsonEscrito()}};
+            {"tir_pct", p.tasa.bHallada ? NumeroJson(p.tasa.dTIR) : JsonEscrito()},
+            {"ganancia_eur", NumeroJson(p.dGanancia)}};
 }
 
 JsonEscrito DiasJson(const report::EstudioAutoconsumo& e)

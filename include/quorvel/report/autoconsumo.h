@@ -79,6 +79,7 @@ struct PuntoBarrido {
     double dCobertura = 0.0, dAprovechamiento = 0.0;
     economics::Recuperacion recuperacion;
     economics::Tasa tasa;
+    double dGanancia = 0.0;  ///< € at the end of the study, financing included
 };
 
 /// Every power with every capacity, powers outermost. The inverter grows with the panels, the battery's power
