@@ -3,7 +3,8 @@
 
     python3 tests/comun/casos_publicados.py build/default/bin/efv
 
-Every figure in the column of what is printed was typed from its source, never from this program. The tolerance is half
+No figure in the column of what is printed comes from this program. Those of a source marked † in docs/comprobaciones.md
+were typed without the print at hand. The tolerance is half
 of the last printed digit, unless the source works by another rule: then it is the distance that the rule explains, and
 the note tells which. Status 1 when a case lies outside. Needs no network and nothing but Python.
 """
