@@ -111,6 +111,8 @@ EFV_API void ReemplazarFichero(SistemaFicheros& sistema, const std::string& ruta
 EFV_API bool ReemplazarSiSigue(SistemaFicheros& sistema, const std::string& ruta, std::string_view bytes,
                                std::optional<Huella>& conocida, std::size_t maximo);
 
+/// An error number of the system, told: "el disco está lleno".
+EFV_API std::string MotivoDelSistema(int iError);
 /// The text of an exception of these without the file's name.
 EFV_API std::string MotivoSinRuta(const CFileException& error, const std::string& ruta);
 

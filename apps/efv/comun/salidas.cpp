@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <optional>
@@ -85,7 +86,7 @@ void EscribirFlujo(const std::string& ruta, const Salidas::Escritor& contenido)
     std::ofstream flujo(ruta, std::ios::binary);
     Pasar(contenido, [&](std::string_view parte) {
         if (!flujo.write(parte.data(), static_cast<std::streamsize>(parte.size())).flush())
-            throw ErrorEjecucion(fmt::format("no se puede escribir «{}»", ruta));
+            throw ErrorEjecucion(fmt::format("no se puede escribir «{}»: {}", ruta, MotivoDelSistema(errno)));
     });
 }
 
@@ -146,10 +147,9 @@ std::vector<std::string> Salidas::EscribirPorPartes(const std::vector<Escritor>&
                 accion(i);
             } catch (const CFileException& error) {
                 // To make a new file, only its folder can be missing.
-                const std::string motivo = error.m_cause == CFileException::noEncontrado
-                                               ? "no existe la carpeta"
-                                               : MotivoSinRuta(error, m_rutas[i]);
-                throw ErrorEjecucion(fmt::format("no se puede escribir «{}»: {}", m_rutas[i], motivo));
+                const std::string motivo = MotivoSinRuta(error, m_rutas[i]);
+                throw ErrorEjecucion(fmt::format("no se puede escribir «{}»: {}", m_rutas[i],
+                                                 motivo == "no existe" ? "no existe la carpeta" : motivo));
             }
         }
     };

@@ -56,6 +56,32 @@ bool EsComaDecimal(std::string_view bytes, std::size_t nByte)
     return i > 1 && esCifra(i) && bytes[i - 1] == ',' && esCifra(i - 2) && EnUnObjeto(bytes.substr(0, i));
 }
 
+// Behind the place of a fault: what it is, where that can be told.
+std::string QueFalla(std::string_view bytes, const JsonLeido::parse_error& error)
+{
+    constexpr std::string_view kBlancos = " \t\r\n";
+    if (EsComaDecimal(bytes, error.byte))
+        return "; los decimales llevan punto";
+    if (std::string_view(error.what()).find("ill-formed UTF-8") != std::string_view::npos)
+        return "; el fichero no está en UTF-8";
+    const std::size_t iUltimo = bytes.find_last_not_of(kBlancos);
+    if (error.byte > bytes.size() || iUltimo == std::string_view::npos || error.byte > iUltimo + 1)
+        return "; acaba antes de cerrarse";
+    // The fault is the last character of what was read.
+    const std::string_view leido = bytes.substr(0, error.byte - 1);
+    const std::size_t iAntes = leido.find_last_not_of(kBlancos);
+    const bool bCierra = bytes[error.byte - 1] == '}' || bytes[error.byte - 1] == ']';
+    return bCierra && iAntes != std::string_view::npos && leido[iAntes] == ',' ? "; sobra la coma de antes"
+                                                                               : "";
+}
+
+// Written in 16 bits, as some editors do: with its mark, or every other byte null.
+bool EstaEnUtf16(std::string_view bytes)
+{
+    return bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF") ||
+           bytes.substr(0, 2).find('\0') != std::string_view::npos;
+}
+
 // Watches over the names of each object while it is parsed.
 class SinRepetidos {
 public:
@@ -87,6 +113,8 @@ std::string RangoTexto(Rango rango)
 
 JsonLeido AnalizarJson(std::string_view bytes)
 {
+    if (EstaEnUtf16(bytes))
+        throw rpc::ErrorValor("está en UTF-16: guárdelo en UTF-8");
     SinRepetidos vigilante;
     try {
         return JsonLeido::parse(bytes, [&](int iNivel, JsonLeido::parse_event_t evento, JsonLeido& valor) {
@@ -94,8 +122,7 @@ JsonLeido AnalizarJson(std::string_view bytes)
         });
     } catch (const JsonLeido::parse_error& error) {
         throw rpc::ErrorValor(
-            fmt::format("no es JSON bien formado: {}{}", Lugar(bytes, error.byte),
-                        EsComaDecimal(bytes, error.byte) ? "; los decimales llevan punto" : ""));
+            fmt::format("no es JSON bien formado: {}{}", Lugar(bytes, error.byte), QueFalla(bytes, error)));
     } catch (const JsonLeido::exception&) {
         throw rpc::ErrorValor("no es JSON bien formado: tiene un número demasiado grande");
     }

@@ -366,6 +366,11 @@ bool ReemplazarSiSigue(SistemaFicheros& sistema, const std::string& ruta, std::s
     return actual == std::exchange(conocida, actual);
 }
 
+std::string MotivoDelSistema(int iError)
+{
+    return fichero::Motivo(iError);
+}
+
 std::string MotivoSinRuta(const CFileException& error, const std::string& ruta)
 {
     std::string_view motivo = error.what();
