@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <memory>
 #include <new>
 #include <span>
@@ -12,6 +13,7 @@
 #include <CLI/CLI.hpp>
 
 #include <QuorvelEFV.h>
+#include <quorvel/ficheros.h>
 
 #include "anfitrion/suborden_rpc.h"
 #include "autoconsumo/suborden_autoconsumo.h"
@@ -33,6 +35,7 @@
 #include "esquema/suborden_esquema.h"
 #include "he5/suborden_he5.h"
 #include "inclinacion/suborden_inclinacion.h"
+#include "inversores/suborden_inversores.h"
 #include "lugares/suborden_lugares.h"
 #include "tarifa/suborden_tarifa.h"
 
@@ -61,6 +64,7 @@ constexpr auto kOrdenes = std::to_array<OrdenConocida>({
     {"inclinacion", &CrearSubordenInclinacion},
     {"he5", &CrearSubordenHE5},
     {"catalogo", &CrearSubordenCatalogo},
+    {"inversores", &CrearSubordenInversores},
     {"curvas", &CrearSubordenCurvas},
     {"cable", &CrearSubordenCable},
     {"consumo", &CrearSubordenConsumo},
@@ -179,8 +183,11 @@ int Ejecutar(const std::vector<std::string>& argumentos, Consola consola)
     };
     try {
         const int iEstado = linea.Ejecutar(argumentos, salida);
+        errno = 0;
         if (!salida.flush())
-            return fallar("no se puede escribir la salida", kFallo);
+            return fallar(errno == 0 ? std::string("no se puede escribir la salida")
+                                     : "no se puede escribir la salida: " + MotivoDelSistema(errno),
+                          kFallo);
         return iEstado;
     } catch (const ErrorUso& e) {
         return fallar(e.what(), kMalUso);

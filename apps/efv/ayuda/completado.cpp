@@ -121,6 +121,13 @@ private:
                 m_completado.candidatos.push_back({CadenaUtf8(lugar.csNombre), CadenaUtf8(lugar.csProvincia)});
     }
 
+    // An order with the name of a kind asks for its fields; models are those of --tipo.
+    const TipoCatalogo* TipoDeCampos() const
+    {
+        const TipoCatalogo* deOrden = BuscarTipoCatalogo(m_contexto.linea->get_name());
+        return deOrden != nullptr ? deOrden : TipoDado();
+    }
+
     const TipoCatalogo* TipoDado() const
     {
         const std::string tipo = m_contexto.Valor("--tipo");
@@ -130,7 +137,7 @@ private:
     // The last one of a list, "dPmpm,-dV"; what stands before it stays.
     void AnadirCampos()
     {
-        const TipoCatalogo* tipo = TipoDado();
+        const TipoCatalogo* tipo = TipoDeCampos();
         if (tipo == nullptr)
             return;
         std::size_t iUltimo = m_palabra.rfind(',') + 1;

@@ -193,11 +193,14 @@ std::string ListaTexto(const std::vector<TramoEscrito>& tramos)
 {
     using enum report::ColumnasTexto::Lado;
     TablaTexto tabla({derecha, izquierda, derecha, derecha, derecha, derecha, derecha, derecha, izquierda});
-    tabla.Fila({"Línea", "Referencia", "I (A)", "Por I (mm²)", "Por caída (mm²)", "Sección (mm²)",
-                "Caída (V, %)", "Reserva (A)", ""});
+    // Without lines of a file they are the same stretch of several materials.
+    const bool bFichero = tramos.empty() || tramos.front().iLinea > 0;
+    tabla.Fila({bFichero ? "Línea" : "", bFichero ? "Referencia" : "Material", "I (A)", "Por I (mm²)",
+                "Por caída (mm²)", "Sección (mm²)", "Caída (V, %)", "Reserva (A)", ""});
     tabla.Raya();
     for (const TramoEscrito& e : tramos) {
-        const std::string linea = std::to_string(e.iLinea), referencia = EnUnaLinea(e.pedido.referencia);
+        const std::string linea = bFichero ? std::to_string(e.iLinea) : "",
+                          referencia = EnUnaLinea(e.pedido.referencia);
         const auto& c = e.calculo;
         const int n = e.tramo.iConductoresFase;
         if (!e.error.empty()) {
@@ -230,7 +233,7 @@ std::string ListaJson(const std::vector<TramoEscrito>& tramos)
 
 std::string ListaCsv(const std::vector<TramoEscrito>& tramos)
 {
-    std::string csv = LineaCsv(ValoresDe({.iLinea = 1}), true);
+    std::string csv = LineaCsv(ValoresDe({.iLinea = tramos.empty() ? 1 : tramos.front().iLinea}), true);
     for (const TramoEscrito& e : tramos) {
         Valores valores = ValoresDe(e);
         if (!e.error.empty()) {

@@ -51,9 +51,10 @@ public:
         Castellanizar(linea);
         linea.require_subcommand(0, 1);
         linea.footer(std::string("Cada orden tiene su ayuda: efv cable ORDEN --help\n") + kTemperaturas);
-        m_seccion =
-            &Orden(linea, "seccion", "Elige la sección de un tramo", kDeTramo,
-                   "Ejemplo:\n  efv cable seccion --potencia 4600 --tension 230 --longitud 25 --metodo B1");
+        m_seccion = &Orden(linea, "seccion", "Elige la sección de un tramo", kDeTramo,
+                           "Con --material 'Cu;Al' se ven los dos juntos. Ejemplos:\n"
+                           "  efv cable seccion --potencia 4600 --tension 230 --longitud 25 --metodo B1\n"
+                           "  efv cable seccion --corriente 9 --tension 380 --longitud 38 --material 'Cu;Al'");
         m_caida = &Orden(linea, "caida", "Comprueba una sección: caída de tensión y corriente", ConSeccion(),
                          "Ejemplo:\n  efv cable caida --seccion 6 --corriente 20 --tension 230 --longitud 25");
         m_tabla = &Orden(linea, "tabla", "Las 16 corrientes de un caso, corregidas por la temperatura",
@@ -121,7 +122,8 @@ private:
         return m_bJson ? FormatoCable::json : m_bCsv ? FormatoCable::csv : FormatoCable::texto;
     }
 
-    TramoPedido Pedido() const
+    // Of the options, with that material where it isn't empty.
+    TramoPedido Pedido(const std::string& material = {}) const
     {
         TramoPedido pedido;
         const auto poner = [&](const std::string& nombre, const std::string& texto) {
@@ -134,25 +136,42 @@ private:
         for (const auto& [nombre, texto] : m_textos) {
             if (texto && texto->empty())
                 throw ErrorUso(fmt::format("--{} está vacío", nombre));
-            poner(nombre, texto.value_or(""));
+            poner(nombre, nombre == "material" && !material.empty() ? material : texto.value_or(""));
         }
         for (const auto& [nombre, bMarca] : m_marcas)
             poner(nombre, bMarca ? "1" : "");
         return pedido;
     }
 
-    int Tramo(std::ostream& salida) const
+    TramoEscrito Calcular(const TramoPedido& pedido) const
     {
-        const TramoPedido pedido = Pedido();
         if (m_caida->parsed() && !pedido.tramo.dSeccion)
             throw ErrorUso("falta --seccion");
         if (m_caida->parsed() && !pedido.dLongitud)
             throw ErrorUso("falta --longitud");
         const electrical::TramoCable tramo = pedido.Completo();
-        const TramoEscrito escrito{.pedido = pedido, .tramo = tramo, .calculo = electrical::Dimensionar(tramo)};
-        salida << EscribirTramo(escrito, Formato()) << std::flush;
-        if (!escrito.calculo.Cumple())
-            throw ErrorEjecucion(Motivo(escrito));
+        return {.pedido = pedido, .tramo = tramo, .calculo = electrical::Dimensionar(tramo)};
+    }
+
+    // One stretch, or the same of each material side by side.
+    int Tramo(std::ostream& salida) const
+    {
+        const auto material = m_textos.find("material");
+        const std::vector<std::string> materiales =
+            CLI::detail::split(material == m_textos.end() ? std::string() : material->second.value_or(""), ';');
+        std::vector<TramoEscrito> escritos;
+        for (const std::string& suyo : materiales) {
+            TramoPedido pedido = Pedido(suyo);
+            if (materiales.size() > 1)
+                pedido.referencia = suyo;
+            escritos.push_back(Calcular(pedido));
+        }
+        salida << (escritos.size() == 1 ? EscribirTramo(escritos.front(), Formato())
+                                        : EscribirLista(escritos, Formato()))
+               << std::flush;
+        for (const TramoEscrito& escrito : escritos)
+            if (!escrito.calculo.Cumple())
+                throw ErrorEjecucion(Motivo(escrito));
         return 0;
     }
 

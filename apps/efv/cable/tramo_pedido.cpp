@@ -23,7 +23,8 @@ double Numero(const C& campo, const std::string& texto)
 {
     const auto d = LeerNumero(texto);
     if (!d)
-        throw ErrorUso(fmt::format("se esperaba un número, llegó «{}»{}", texto, ConsejoDeNumero(texto)));
+        throw ErrorUso(
+            fmt::format("se esperaba un número, llegó «{}»{}", texto, ConsejoDeNumero(texto, campo.unidad)));
     if (*d < campo.dMinimo || *d > campo.dMaximo)
         throw ErrorUso(fmt::format("{} está fuera de {} a {}", texto, DecimalExacto(campo.dMinimo),
                                    DecimalExacto(campo.dMaximo)));
@@ -156,7 +157,7 @@ electrical::TramoCable TramoPedido::Completo() const
     if (dCorriente.has_value() == dPotencia.has_value())
         throw ErrorUso(dCorriente ? "corriente y potencia se excluyen" : "falta corriente o potencia");
     if (!dTension && (dPotencia || dLongitud))
-        throw ErrorUso("falta tension");
+        throw ErrorUso("falta la tensión (tension)");
     electrical::TramoCable completo = tramo;
     completo.dLongitud = dLongitud.value_or(0.0);
     completo.dTension = dTension.value_or(completo.dTension);

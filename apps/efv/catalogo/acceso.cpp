@@ -184,6 +184,12 @@ Modelos CatalogoAbierto::DeFamilia(const std::string& nombre) const
     return hallados;
 }
 
+CatalogoAbierto AbrirCatalogo(std::string_view tipo, const std::string& csDatos)
+{
+    const TipoCatalogo& suyo = *BuscarTipoCatalogo(tipo);
+    return {suyo, RutaCatalogo(csDatos, CadenaUtf8(suyo.Fichero()).c_str())};
+}
+
 CString Identificacion(const CModelo& modelo)
 {
     return modelo.csFamilia + L'#' + modelo.csModelo;

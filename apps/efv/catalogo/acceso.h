@@ -96,4 +96,7 @@ private:
     Modelos m_modelos;
 };
 
+/// That of a kind in the folder of the data, with the person's own over it. @param csDatos option --datos
+CatalogoAbierto AbrirCatalogo(std::string_view tipo, const std::string& csDatos);
+
 }  // namespace efv::orden

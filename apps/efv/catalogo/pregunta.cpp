@@ -59,15 +59,16 @@ std::vector<std::string> NombresDeCampos(const TipoCatalogo& tipo)
     return nombres;
 }
 
-void PreguntaCatalogo::DeclararCondiciones(CLI::App& orden)
+void PreguntaCatalogo::DeclararCondiciones(CLI::App& orden, const char* ejemplos)
 {
     orden
         .add_option(
             "--donde", m_condiciones,
-            "Solo los que cumplen la condición, como 'dPmpm>=495' o 'familia~solar': campo, operador (= != < "
-            "<= > >=, o ~ para «contiene») y valor; se repite por cada condición. Lo que el catálogo no dice "
-            "no "
-            "cumple ninguna")
+            fmt::format(
+                "Solo los que cumplen la condición, como {}: campo, operador (= != < <= > >=, o ~ para "
+                "«contiene») y valor; se repite por cada condición. Lo que el catálogo no dice no cumple "
+                "ninguna",
+                ejemplos))
         ->type_name("CONDICION")
         ->expected(1)
         ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);

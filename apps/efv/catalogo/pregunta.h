@@ -14,8 +14,8 @@ namespace efv::orden {
 
 class PreguntaCatalogo {
 public:
-    /// Adds --donde.
-    void DeclararCondiciones(CLI::App& orden);
+    /// Adds --donde. @param ejemplos conditions, as its help gives them
+    void DeclararCondiciones(CLI::App& orden, const char* ejemplos = "'dPmpm>=495' o 'familia~solar'");
     /// Adds --ordenar, --descendente and --columnas.
     void DeclararLista(CLI::App& orden);
 

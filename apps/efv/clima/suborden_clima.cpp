@@ -97,14 +97,14 @@ public:
             ->type_name("GRADOS");
         linea
             .add_option("--orientacion", m_orientacion,
-                        "Orientación, 0 sur, este negativa (-180 a 180); si falta, 0")
+                        "Orientación, 0 sur, este negativa (-180 a 180), o su nombre, como SO; si falta, 0")
             ->type_name("GRADOS");
         linea.add_flag("--meses", m_bMeses, "Escribe las sumas de los meses en vez de las 8.760 horas")
             ->option_text(" ")
             ->disable_flag_override();
     }
     double Inclinacion() const { return LeerAcotado("--inclinacion", m_inclinacion, 0, 90); }
-    double Orientacion() const { return LeerAcotado("--orientacion", m_orientacion, -180, 180); }
+    double Orientacion() const { return LeerOrientacion("--orientacion", m_orientacion); }
 
     /// One value a line, W/m², or the months.
     std::string Texto(const AnoHoras& ad, bool bJson) const

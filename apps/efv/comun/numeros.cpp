@@ -42,12 +42,23 @@ std::optional<double> LeerNumero(std::string_view texto)
     return d;
 }
 
-std::string ConsejoDeNumero(std::string_view texto)
+std::string ConsejoDeNumero(std::string_view texto, std::string_view unidad)
 {
-    const std::size_t fin = std::min(texto.find_first_not_of("+-0123456789.,"), texto.size());
+    std::size_t fin = std::min(texto.find_first_not_of("+-0123456789.,"), texto.size());
     const std::string_view cifras = texto.substr(0, fin);
-    if (fin < texto.size() && LeerNumero(cifras))
-        return fmt::format(" (sin la unidad: {})", cifras);
+    if (fin < texto.size() && LeerNumero(cifras)) {
+        fin = std::min(texto.find_first_not_of(' ', fin), texto.size());
+        const CString csEscrita = PlegarTexto(CadenaDesdeUtf8(std::string(texto.substr(fin))));
+        CString csUnidad = PlegarTexto(CadenaDesdeUtf8(std::string(unidad)));
+        const bool bExponente = csEscrita.size() > 1 && csEscrita[0] == L'e' && csEscrita[1] < L'A';
+        if (bExponente)
+            return " (es demasiado grande o pequeño)";
+        if (csUnidad == L"grados" && (csEscrita == L"º" || csEscrita == L"°"))
+            csUnidad = csEscrita;
+        if (csUnidad.empty() || csUnidad == csEscrita)
+            return fmt::format(" (sin la unidad: {})", cifras);
+        return fmt::format(" (solo la cifra, en {})", unidad);
+    }
     const bool bMillares = fin == texto.size() &&
                            cifras.find_first_of("0123456789") != std::string_view::npos &&
                            std::ranges::count_if(cifras, [](char c) { return c == '.' || c == ','; }) > 1;
@@ -62,6 +73,40 @@ double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, d
                                    DecimalExacto(dMinimo), DecimalExacto(dMaximo), EnUnaLinea(texto),
                                    ConsejoDeNumero(texto)));
     return *d;
+}
+
+namespace {
+
+struct Rumbo {
+    std::wstring_view nombre;  // as it is written first, then others
+    double dGrados;
+};
+constexpr auto kRumbos = std::to_array<Rumbo>({
+    {L"sur", 0},        {L"suroeste", 45},   {L"oeste", 90},    {L"noroeste", 135}, {L"norte", 180},
+    {L"noreste", -135}, {L"este", -90},      {L"sureste", -45}, {L"norte", -180},   {L"s", 0},
+    {L"so", 45},        {L"sudoeste", 45},   {L"o", 90},        {L"no", 135},       {L"n", 180},
+    {L"ne", -135},      {L"nordeste", -135}, {L"e", -90},       {L"se", -45},       {L"sudeste", -45},
+});
+
+}  // namespace
+
+std::optional<double> OrientacionLlamada(std::string_view texto)
+{
+    const CString csTexto = PlegarTexto(CadenaDesdeUtf8(std::string(texto)));
+    const auto rumbo = std::ranges::find(kRumbos, csTexto, &Rumbo::nombre);
+    return rumbo == kRumbos.end() ? std::nullopt : std::optional(rumbo->dGrados);
+}
+
+std::string NombreDeOrientacion(double dGrados)
+{
+    const auto rumbo = std::ranges::find(kRumbos, dGrados, &Rumbo::dGrados);
+    return rumbo == kRumbos.end() ? std::string() : fmt::format(" ({})", CadenaUtf8(CString(rumbo->nombre)));
+}
+
+double LeerOrientacion(const char* opcion, std::string_view texto)
+{
+    const std::optional<double> dRumbo = OrientacionLlamada(texto);
+    return dRumbo ? *dRumbo : LeerAcotado(opcion, texto, -180, 180);
 }
 
 std::optional<std::vector<double>> LeerIntervalo(const char* opcion, const std::string& texto,

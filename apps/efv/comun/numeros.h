@@ -18,11 +18,20 @@ namespace efv::orden {
 std::optional<double> LeerNumero(std::string_view texto);
 
 /// What keeps a text from being a number, where that is its unit or its thousands: " (sin la unidad: 5)"; empty
-/// for any other.
-std::string ConsejoDeNumero(std::string_view texto);
+/// for any other. @param unidad that of the number as help names it, when one is known: what is typed in
+/// another isn't offered as a figure
+std::string ConsejoDeNumero(std::string_view texto, std::string_view unidad = {});
 
 /// The number of an option. @throws ErrorUso when it is none or lies outside
 double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, double dMaximo);
+
+/// An orientation in degrees, 0 south and east negative, as a number or as "suroeste" or "SO".
+/// @throws ErrorUso
+double LeerOrientacion(const char* opcion, std::string_view texto);
+/// The same for a word alone; nothing when it names none of the eight.
+std::optional<double> OrientacionLlamada(std::string_view texto);
+/// " (suroeste)" of 45; empty of what lies between the eight.
+std::string NombreDeOrientacion(double dGrados);
 
 /// The values of an interval, "1..15" or "1..6:0,5" with its step; nothing when the text is none. The step is 1
 /// if it isn't given. @param leer reads a bound, and throws ErrorUso @throws ErrorUso for a step of 0, bounds

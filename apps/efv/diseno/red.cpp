@@ -46,6 +46,8 @@ ProyectoRed LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const s
     proyecto.lugar = LeerLugar(objeto, csDatos, false);
     proyecto.planos = LeerPlanos(objeto);
     proyecto.fijados = LeerCampos(objeto, proyecto.registro, kRangos);
+    if (objeto.Buscar("csInversor") == nullptr)
+        throw rpc::ErrorValor("falta «csInversor»; los que convienen a unos paneles los da «efv inversores»");
     proyecto.inversor = &ElegirModelo<CBaseInversorModelo>(objeto, "csInversor", catalogos.inversores,
                                                            proyecto.registro.csInversor);
     proyecto.panel =

@@ -90,7 +90,7 @@ Json Documento(const Estudio& estudio)
                          {"correlacion", DelMes(estudio.correlacion, m)},
                          {"tabla", DelMes(estudio.tabla, m)}});
     }
-    return {
+    Json documento = {
         {"lugar", DelLugar(estudio.encargo.lugar)},
         {"latitud_grados", campo.dLatitud},
         {"hemisferio", campo.bNorte ? "norte" : "sur"},
@@ -108,6 +108,9 @@ Json Documento(const Estudio& estudio)
         {"orientada", DeLosPlanos(estudio.orientada)},
         {"notas", estudio.notas},
     };
+    if (!estudio.encargo.panel.empty())
+        documento["paneles"] = {{"csPanel", estudio.encargo.panel}, {"cantidad", estudio.encargo.Paneles()}};
+    return documento;
 }
 
 std::string Texto(const Json& documento)
@@ -133,14 +136,15 @@ std::string ComparacionJson(std::span<const Estudio> casos)
 std::string ComparacionCsv(std::span<const Estudio> casos)
 {
     std::string texto =
-        "inclinacion_grados;orientacion_grados;potencia_kWp;energia_kWh;energia_kWh_kWp;orientada_kWh\n";
+        "inclinacion_grados;orientacion_grados;potencia_kWp;energia_kWh;energia_kWh_kWp;orientada_kWh;"
+        "orientada_kWh_kWp\n";
     for (const Estudio& caso : casos) {
         const Campo& campo = caso.encargo.campo;
         const double dEnergia = caso.AnoDeUso().Energia();
-        texto += fmt::format("{};{};{};{};{};{}\n", DecimalExacto(campo.dInclinacion),
-                             DecimalExacto(campo.dOrientacion), DecimalExacto(campo.dPotencia),
-                             DecimalExacto(dEnergia), DecimalExacto(dEnergia / campo.dPotencia),
-                             DecimalExacto(caso.orientada.Energia()));
+        texto += fmt::format(
+            "{};{};{};{};{};{};{}\n", DecimalExacto(campo.dInclinacion), DecimalExacto(campo.dOrientacion),
+            DecimalExacto(campo.dPotencia), DecimalExacto(dEnergia), DecimalExacto(dEnergia / campo.dPotencia),
+            DecimalExacto(caso.orientada.Energia()), DecimalExacto(caso.orientada.Energia() / campo.dPotencia));
     }
     return texto;
 }

@@ -33,13 +33,34 @@ std::string LineasDelLugar(const Estudio& estudio)
     return texto;
 }
 
+// "45° (suroeste)"
+std::string TextoOrientacion(double dGrados)
+{
+    return DecimalExacto(dGrados) + "°" + NombreDeOrientacion(dGrados);
+}
+
+// kWp to the watt.
+std::string Potencia(double dPotencia)
+{
+    return DecimalExacto(std::round(dPotencia * 1000.0) / 1000.0);
+}
+
 std::string Cabecera(const Estudio& estudio)
 {
     const Campo& campo = estudio.encargo.campo;
     std::string texto = "Energía mensual de un campo fotovoltaico\n" + LineasDelLugar(estudio);
-    texto +=
-        fmt::format("Campo: {} kWp, inclinación {}°, PR {}, factor {}\n\n", DecimalExacto(campo.dPotencia),
-                    DecimalExacto(campo.dInclinacion), DecimalExacto(campo.dPR), DecimalExacto(campo.dFactor));
+    const Encargo& encargo = estudio.encargo;
+    const std::string paneles = encargo.panel.empty()
+                                    ? std::string()
+                                    : fmt::format("{} paneles {} de {} Wp, ", encargo.Paneles(),
+                                                  EnUnaLinea(encargo.panel), DecimalExacto(encargo.dPmpm));
+    const std::string planos =
+        encargo.planos.size() > 1
+            ? fmt::format("{} planos", encargo.planos.size())
+            : fmt::format("orientación {}", TextoOrientacion(encargo.planos.front().dOrientacion));
+    texto += fmt::format("Campo: {}{} kWp, inclinación {}°, {}, PR {}, factor {}\n\n", paneles,
+                         Potencia(campo.dPotencia), DecimalExacto(campo.dInclinacion), planos,
+                         DecimalExacto(campo.dPR), DecimalExacto(campo.dFactor));
     return texto;
 }
 
@@ -163,9 +184,8 @@ std::string ComparacionTexto(std::span<const Estudio> casos)
         const Campo& campo = caso.encargo.campo;
         const double dEnergia = caso.AnoDeUso().Energia();
         tabla.Fila({DecimalExacto(campo.dInclinacion), DecimalExacto(campo.dOrientacion),
-                    DecimalExacto(campo.dPotencia), Decimal(dEnergia, 1),
-                    Decimal(dEnergia / campo.dPotencia, 1), Decimal(caso.orientada.Energia(), 1),
-                    Decimal(porKWp(caso), 1)});
+                    Potencia(campo.dPotencia), Decimal(dEnergia, 1), Decimal(dEnergia / campo.dPotencia, 1),
+                    Decimal(caso.orientada.Energia(), 1), Decimal(porKWp(caso), 1)});
     }
     const Estudio& mejor = *std::ranges::max_element(casos, {}, porKWp);
     texto += tabla.Texto() +

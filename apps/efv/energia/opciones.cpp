@@ -6,8 +6,10 @@
 #include <fmt/format.h>
 #include <CLI/CLI.hpp>
 
+#include <quorvel/catalogues.h>
 #include <quorvel/clima.h>
 
+#include "catalogo/acceso.h"
 #include "comun/consola.h"
 #include "comun/datos.h"
 #include "comun/linea_ordenes.h"
@@ -36,6 +38,8 @@ constexpr std::size_t kInclinacion = 1;
 constexpr std::size_t kOrientacion = 2;
 constexpr std::size_t kPotencia = 3;
 constexpr std::size_t kMaximoCasos = 1000;
+constexpr double kVatios = 1000.0;  // of a kW
+constexpr double kPanelesMaximos = 1e6;
 
 constexpr auto kOpciones = std::to_array<OpcionNumerica>({
     {"--lat", "GRADOS", &Campo::dLatitud, -90, 90, false, "Latitud del campo, norte positiva (-90 a 90)", "",
@@ -46,10 +50,12 @@ constexpr auto kOpciones = std::to_array<OpcionNumerica>({
      "como 20..40:5 o 20;30, se comparan",
      "", true},
     {"--orientacion", "GRADOS", &Campo::dOrientacion, -180, 180, false,
-     "Orientación, 0 sur, este negativa (-180 a 180); si falta, hacia el ecuador. Los dos métodos "
-     "calculan un campo orientado al ecuador; la energía con la orientación se da aparte. También varias",
+     "Orientación, 0 sur, este negativa (-180 a 180), o su nombre, como SO; si falta, hacia el ecuador. Los "
+     "dos "
+     "métodos calculan un campo orientado al ecuador; la energía con la orientación se da aparte. También "
+     "varias",
      "", true},
-    {"--potencia", "KWP", &Campo::dPotencia, 0, 1e6, true,
+    {"--potencia", "kWp", &Campo::dPotencia, 0, 1e6, true,
      "Potencia pico del campo en kWp; si falta, 1. También varias", "", true},
     {"--pr", "FRACCION", &Campo::dPR, 0, 1, true,
      "Rendimiento global (PR), mayor que 0 y hasta 1; si falta, 0,8", "; es una fracción: 0,8 y no 80", false},
@@ -61,12 +67,21 @@ constexpr const char* kAyudaRadiacion =
     "Con --lat: radiación global diaria sobre la horizontal de los 12 meses, en kJ/m²·día, separadas por "
     "espacios, comas o punto y coma";
 
+// What "10,20,30" was meant for, where several values can be given.
+std::string Consejo(const OpcionNumerica& opcion, const std::string& texto)
+{
+    const bool bLista = opcion.bVarios && std::ranges::count(texto, ',') > 1;
+    return bLista ? " (varios, separados por punto y coma: '20;30;40')" : ConsejoDeNumero(texto, opcion.unidad);
+}
+
 double LeerAcotada(const OpcionNumerica& opcion, const std::string& texto)
 {
-    const std::optional<double> d = LeerNumero(texto);
+    std::optional<double> d = LeerNumero(texto);
+    if (!d && opcion.valor == &Campo::dOrientacion)
+        d = OrientacionLlamada(texto);
     if (!d)
         throw ErrorUso(fmt::format("{}: se esperaba un número, llegó «{}»{}", opcion.nombre, texto,
-                                   ConsejoDeNumero(texto)));
+                                   Consejo(opcion, texto)));
     if (*d < opcion.dMinimo || *d > opcion.dMaximo || (opcion.bSinMinimo && *d <= opcion.dMinimo)) {
         throw ErrorUso(fmt::format("{} {}: debe {} {} y no pasar de {}{}", opcion.nombre, texto,
                                    opcion.bSinMinimo ? "ser mayor que" : "ser al menos",
@@ -116,6 +131,11 @@ std::array<double, kMeses> LeerRadiaciones(const std::vector<std::string>& palab
     return valores;
 }
 
+long Encargo::Paneles() const
+{
+    return dPmpm > 0.0 ? std::lround(campo.dPotencia * kVatios / dPmpm) : 0;
+}
+
 void OpcionesEnergia::Declarar(CLI::App& linea)
 {
     static_assert(kOpciones.size() == kNumericas);
@@ -126,6 +146,14 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
             ->type_name(kOpciones[i].unidad);
         if (i == kLatitud)
             linea.add_option("--radiacion", m_radiacion, kAyudaRadiacion)->type_name("VALORES");
+        if (i == kPotencia) {
+            linea
+                .add_option("--panel", m_panel,
+                            "En vez de --potencia: módulo del catálogo, FAMILIA#MODELO o el modelo solo")
+                ->type_name("ID");
+            linea.add_option("--paneles", m_paneles, "Con --panel: cuántos. También varios")
+                ->type_name("NUMERO");
+        }
     }
     linea
         .add_option(
@@ -164,6 +192,7 @@ std::vector<Encargo> OpcionesEnergia::Leer() const
     for (std::size_t i = 0; i < kNumericas; ++i)
         if (!valores[i].empty())
             encargo.campo.*kOpciones[i].valor = valores[i].front();
+    LeerPaneles(encargo, valores[kPotencia]);
     LeerLugar(encargo);
     Campo& campo = encargo.campo;
     campo.bNorte = campo.dLatitud >= 0.0;
@@ -201,6 +230,30 @@ std::vector<Encargo> OpcionesEnergia::Casos(const Encargo& encargo, const std::v
     return casos;
 }
 
+void OpcionesEnergia::LeerPaneles(Encargo& encargo, std::vector<double>& potencias) const
+{
+    if (!m_panel && !m_paneles)
+        return;
+    if (!potencias.empty())
+        throw ErrorUso("--panel y --paneles dan ya la potencia: sobra --potencia");
+    if (!m_panel || !m_paneles)
+        throw ErrorUso(m_panel ? "--panel necesita --paneles NUMERO" : "--paneles necesita --panel MODELO");
+    constexpr OpcionNumerica kPaneles = {"--paneles", "paneles", nullptr, 1,   kPanelesMaximos,
+                                         false,       "",        "",      true};
+    const CatalogoAbierto modulos = AbrirCatalogo("modulos", m_datos);
+    const auto& panel = dynamic_cast<const CBasePanelFotoModelo&>(modulos.Buscar(*m_panel));
+    encargo.panel = CadenaUtf8(Identificacion(panel));
+    encargo.dPmpm = panel.dPmpm;
+    if (panel.dPmpm <= 0.0)
+        throw ErrorEjecucion(fmt::format("--panel: el catálogo no da la potencia de «{}»", encargo.panel));
+    for (const double dPaneles : LeerVarios(kPaneles, *m_paneles)) {
+        if (dPaneles != std::trunc(dPaneles))
+            throw ErrorUso(fmt::format("--paneles: se esperaba un número entero, llegó «{}»", *m_paneles));
+        potencias.push_back(dPaneles * panel.dPmpm / kVatios);
+    }
+    encargo.campo.dPotencia = potencias.front();
+}
+
 void OpcionesEnergia::LeerPlanos(Encargo& encargo) const
 {
     for (const std::string& texto : m_planos) {
@@ -209,7 +262,7 @@ void OpcionesEnergia::LeerPlanos(Encargo& encargo) const
             throw ErrorUso(
                 fmt::format("--plano: se esperaba INCLINACION:ORIENTACION:PARTE, llegó «{}»", texto));
         encargo.planos.push_back({LeerAcotado("--plano", partes[0], 0, 90),
-                                  LeerAcotado("--plano", partes[1], -180, 180),
+                                  LeerOrientacion("--plano", partes[1]),
                                   LeerAcotado("--plano", partes[2], 0, 1)});
     }
     if (m_planos.empty())

@@ -22,8 +22,13 @@ enum class Formato { texto, json, csv };
 /// What the command is asked for.
 struct Encargo {
     Campo campo;
+    std::string panel;                ///< "family#model" where the power was given as panels
+    double dPmpm = 0.0;               ///< of one, W
     std::optional<Localidad> lugar;   ///< none when latitude and radiations were given
     bool bInclinacionPropia = false;  ///< the tilt was chosen by the command
+
+    /// How many panels the field has; 0 where the power was given.
+    long Paneles() const;
     bool bCorrelacion = true;
     bool bTabla = true;
     Formato formato = Formato::texto;
@@ -47,6 +52,7 @@ private:
         std::array<std::vector<double>, kNumericas>;  ///< those of each option; none when it wasn't given
 
     Valores LeerNumericas() const;
+    void LeerPaneles(Encargo& encargo, std::vector<double>& potencias) const;
     std::vector<Encargo> Casos(const Encargo& encargo, const std::vector<double>& inclinaciones,
                                const std::vector<double>& orientaciones,
                                const std::vector<double>& potencias) const;
@@ -56,7 +62,7 @@ private:
     std::optional<std::string> m_lugar;
     std::vector<std::string> m_radiacion;
     std::vector<std::string> m_planos;
-    std::optional<std::string> m_clima;
+    std::optional<std::string> m_clima, m_panel, m_paneles;
     std::array<std::optional<std::string>, kNumericas> m_numericas;  ///< as typed, in the table's order
     std::string m_metodo = "ambos";
     std::string m_datos;

@@ -26,6 +26,7 @@ public:
         linea.footer(
             "Los números se escriben con coma o punto decimal. Ejemplos:\n"
             "  efv energia --lugar Madrid --potencia 5 --inclinacion 35\n"
+            "  efv energia --lugar Madrid --panel ET-M660285WW --paneles 12 --inclinacion 30 --orientacion SO\n"
             "  efv energia --lugar Madrid --inclinacion 20..40:5 --orientacion '-30;0;30'\n"
             "  efv energia --lat -33,4 --metodo correlacion --json --radiacion \\\n"
             "      25200 22300 18000 12600 8600 6800 7600 10400 14000 18700 22700 25200");

@@ -152,7 +152,8 @@ public:
             ->type_name("GRADOS");
         linea
             .add_option("--orientacion", m_orientacion,
-                        "Su orientación, 0 sur, este negativa (-180 a 180); si falta, hacia el ecuador")
+                        "Su orientación, 0 sur, este negativa (-180 a 180), o su nombre, como SO; si falta, "
+                        "hacia el ecuador")
             ->type_name("GRADOS");
         linea
             .add_option("--svg", m_svg, "Escribe un mapa de las pérdidas del año por inclinación y orientación")
@@ -208,10 +209,10 @@ private:
             throw ErrorUso("--orientacion necesita --inclinacion");
         if (!m_inclinacion)
             return;
-        r.plano = Plano{LeerAcotado("--inclinacion", *m_inclinacion, 0, 90),
-                        m_orientacion ? LeerAcotado("--orientacion", *m_orientacion, -180, 180)
-                                      : r.sitio.OrientacionAlEcuador(),
-                        {}};
+        r.plano = Plano{
+            LeerAcotado("--inclinacion", *m_inclinacion, 0, 90),
+            m_orientacion ? LeerOrientacion("--orientacion", *m_orientacion) : r.sitio.OrientacionAlEcuador(),
+            {}};
     }
 
     void LeerFilas(Resultado& r) const

@@ -56,7 +56,7 @@ TEST(OrdenCable, ElMalUsoNombraLoQueFalla)
     };
     EXPECT_TRUE(Contiene(error({}), {"seccion, caida, tabla o lista"}));
     EXPECT_TRUE(Contiene(error({"seccion"}), {"falta corriente o potencia"}));
-    EXPECT_TRUE(Contiene(error({"seccion", "--potencia", "5"}), {"falta tension"}));
+    EXPECT_TRUE(Contiene(error({"seccion", "--potencia", "5"}), {"falta la tensión (tension)"}));
     EXPECT_TRUE(Contiene(error({"seccion", "--corriente", "5", "--potencia", "5"}), {"se excluyen"}));
     EXPECT_TRUE(Contiene(error({"seccion", "--corriente", "-5"}), {"--corriente", "fuera de"}));
     EXPECT_TRUE(Contiene(error({"seccion", "--corriente", "5", "--metodo", "Z"}), {"--metodo", "A1, A2"}));

@@ -205,6 +205,43 @@ TEST_F(Diseno, LaEnergiaEsLaDeEfvEnergia)
 }
 
 // What the archive holds, read by the scripted host, is a project again, and the same design.
+// What is listed as fitting is what the design then checks.
+TEST_F(Diseno, LosInversoresQueValenSonLosQueElDisenoDaPorBuenos)
+{
+    const auto inversores = [&](const char* paneles) {
+        const Corrida corrida =
+            Correr({"inversores", "--panel", "ET-M660285WW", "--paneles", paneles, "--todos",
+                    "--temperatura-minima=-5", "--temperatura-maxima", "75", "--json"});
+        EXPECT_EQ(corrida.iEstado, 0) << corrida.errores;
+        return Json::parse(corrida.salida);
+    };
+    const auto suyo = [](const Json& lista) {
+        const auto hallado = std::ranges::find(
+            lista, "SMA#SB5.0-1AV-40", [](const Json& j) { return j["csInversor"].get<std::string>(); });
+        return hallado == lista.end() ? Json() : *hallado;
+    };
+    const Json con18 = suyo(inversores("18")["valen"]);
+    EXPECT_EQ(con18["paneles_serie"], 9);
+    EXPECT_EQ(con18["ramales_por_seguidor"], Json::array({1, 1}));
+    EXPECT_EQ(con18["comprobacion"], Calcular("red", Cubierta())["comprobacion"]);
+    // 12 of 285 W are 0.68 of its 5 kW.
+    EXPECT_TRUE(Contiene(suyo(inversores("12")["no_valen"])["motivo"].get<std::string>(), {"grande", "0,68"}));
+    EXPECT_EQ(Correr({"inversores", "--panel", "ET-M660285WW", "--paneles", "12", "--ratio", "5..6"}).iEstado,
+              1);
+    EXPECT_EQ(Correr({"inversores", "--panel", "ET-M660285WW"}).iEstado, 2);
+}
+
+TEST_F(Diseno, LosPanelesYElRumboSonOtraManeraDeDecirPotenciaYOrientacion)
+{
+    const auto energia = [](std::vector<std::string> opciones) {
+        opciones.insert(opciones.begin(), {"energia", "--lugar", "Cuenca", "--json"});
+        return Json::parse(Correr(opciones).salida)["orientada"];
+    };
+    // 12 of 285.058 W.
+    EXPECT_EQ(energia({"--panel", "ET-M660285WW", "--paneles", "12", "--orientacion", "Suroeste"}),
+              energia({"--potencia", "3,420696", "--orientacion", "45"}));
+}
+
 TEST_F(Diseno, ElArchivoGuardadoEsElRegistro)
 {
     const std::string ruta = (m_carpeta.Ruta() / "casa.bin").string();
@@ -332,6 +369,11 @@ TEST_F(Diseno, LoQueEstaMalEnElProyectoSeDice)
     EXPECT_NE(Correr({"aislada", ruta}).errores.find("«lugar» está dos veces"), std::string::npos);
     EXPECT_NE(Correr({"red", m_carpeta.Crear("m.json", "{\n \"a\" 1}")}).errores.find("línea 2, columna 6"),
               std::string::npos);
+    for (const auto& [texto, fragmento] : {std::pair<std::string, const char*>("{\"lugar\": ", "acaba antes"),
+                                           {"{\"lugar\": \"C\xE1\"}", "no está en UTF-8"},
+                                           {std::string("{\0", 2), "está en UTF-16"},
+                                           {"{\"a\": [1, 2, ]}", "columna 14; sobra la coma"}})
+        EXPECT_TRUE(Contiene(Correr({"red", m_carpeta.Crear("m.json", texto)}).errores, {fragmento}));
     EXPECT_EQ(Correr({"red", "no-existe.json"}).iEstado, 1);
     EXPECT_EQ(Correr({"red"}).iEstado, 2);
 }
