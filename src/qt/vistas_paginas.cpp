@@ -17,6 +17,10 @@ public:
     {
         for (const CString& entrada : seleccion.acsEntradas)
             Pestanas().addTab(new QWidget, ConMnemonico(entrada));
+        // The row of tabs has the focus. Where the whole of it comes on the way of the Tab key, behind the
+        // first page's fields, it would send the focus back to the row for ever.
+        Pestanas().setFocusProxy(nullptr);
+        Pestanas().setFocusPolicy(Qt::NoFocus);
         QObject::connect(&Pestanas(), &QTabWidget::currentChanged, &Pestanas(), [&](int iPagina) {
             accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(seleccion, iPagina); });
         });
