@@ -174,6 +174,9 @@ int main(int argc, char** argv)
     QApplication::setDesktopFileName("efv-estudio");
     QApplication::setApplicationVersion(QString::fromStdWString(efv::Version()));
     PonerEspanol();
+    QPalette paleta = QApplication::palette();
+    efv::qt::AclararTextos(paleta);
+    QApplication::setPalette(paleta);
     try {
         return Ejecutar(programa);
     } catch (const std::exception& fallo) {

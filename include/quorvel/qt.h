@@ -58,6 +58,16 @@ EFV_QT_API void RecordarVentanas(QSettings* ajustes);
 EFV_QT_API void RestaurarVentana(QWidget& ventana);
 EFV_QT_API void GuardarVentana(const QWidget& ventana);
 
+/// Says it to whoever hears the screen, as a part of the control of these dialogs that has the focus, until
+/// that loses it. Nothing without one.
+EFV_QT_API void Anunciar(const QString& texto);
+
+/// The palette's selected text and examples are made as legible as other text: 4.5 to 1.
+EFV_QT_API void AclararTextos(QPalette& paleta);
+
+/// A widget of the host's is a picture, told by its accessible name and description. Before it has a name.
+EFV_QT_API void EsDibujo(QWidget& widget);
+
 /// Redraws a window or panel of these after its dialog changed by other ways than the person's actions.
 EFV_QT_API void RefrescarVentana(QWidget* ventana);
 

@@ -31,6 +31,7 @@ PaginaAcumuladores::PaginaAcumuladores(ui::Dialogo& dialogo, CDlgAsistenteSFVAis
       m_modelo(
           asistente.AnadirBoton(*this, ui::NombreDeMiembro<V>(&V::csAcumulador), L"", {}, [this] { Elegir(); }))
 {
+    m_modelo.csIndicacion = L"Elegir el acumulador en el catálogo";
     asistente.AnadirSimbolo(*this, &V::iSimboloAcumulador, kCategoriaAcumulador, ui::JuntoA(m_modelo));
     asistente.AnadirCampos(*this, kCampos);
     asistente.AnadirResultados(*this, kCapacidades, ui::kNegro);

@@ -62,6 +62,7 @@ PaginaPaneles::PaginaPaneles(ui::Dialogo& dialogo, CDlgAsistenteSFVAislada& asis
       m_asistente(asistente),
       m_modelo(asistente.AnadirBoton(*this, ui::NombreDeMiembro<V>(&V::csPanel), L"", {}, [this] { Elegir(); }))
 {
+    m_modelo.csIndicacion = L"Elegir el panel en el catálogo";
     AnadirCampo();
     AnadirPosicion();
     AnadirRadiacion();

@@ -178,6 +178,7 @@ protected:
                                          L"\" no corresponde. La selección no es válida.",
                                      ui::Icono::advertencia);
             });
+        boton.csIndicacion = L"Símbolo en el esquema";
         boton.bHabilitado = frame::Estado().pBIMCtrl != nullptr;
     }
 

@@ -109,6 +109,7 @@ void CDlgAsistenteSFVRed::AnadirEquipos()
                             [this, elegir] { (this->*elegir)(); });
     };
     m_inversor = elegible(&V::csInversor, kGrupoInversor, &CDlgAsistenteSFVRed::ElegirInversor);
+    m_inversor->csIndicacion = L"Elegir el inversor en el catálogo";
     AnadirSimbolo(*this, &V::iSimboloInversor, as::kCategoriaInversor, ui::JuntoA(*m_inversor));
     m_nominal = &AnadirNominal("dPCANom", L"Potencia Nominal (W):", ui::kNegro);
     m_nominalP = &AnadirNominal("dPCANomP", L"", as::kColorPropuesta);
@@ -119,6 +120,7 @@ void CDlgAsistenteSFVRed::AnadirEquipos()
     AnadirResultados(*this, kInversoresP, as::kColorPropuesta, kGrupoInversor);
 
     m_panel = elegible(&V::csPanel, kGrupoPanel, &CDlgAsistenteSFVRed::ElegirPanel);
+    m_panel->csIndicacion = L"Elegir el panel en el catálogo";
     AnadirSimbolo(*this, &V::iSimboloPanel, as::kCategoriaPanel, ui::JuntoA(*m_panel));
     Anadir(kRamales, kGrupoPanel);
     AnadirResultados(*this, kRamalesP, as::kColorPropuesta, kGrupoPanel);

@@ -85,6 +85,7 @@ void CDlgDatosConsumoHoraHora::AnadirControles()
     m_periodo = &AnadirEleccion(&P::iPeriodo, L"Período de datos de consumo:", Forma::combo, acsPeriodos);
     m_origen = &AnadirEleccion(&P::iOrigen, L"", Forma::radio, {kOrigenes.begin(), kOrigenes.end()});
     m_patron = &AnadirEleccion(&P::iPatron, L"", Forma::combo, Titulos());
+    m_patron->csIndicacion = L"Patrón de consumo tipo";
     m_editar = &Anadir<ui::Boton>("", L"...");
     m_editar->colocacion = ui::JuntoA(*m_patron);
     m_editar->csIndicacion = L"Configurar el patrón";

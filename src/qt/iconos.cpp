@@ -87,7 +87,7 @@ public:
         pintor->translate(rect.topLeft());
         pintor->scale(rect.width() / kLado, rect.height() / kLado);
         for (const Figura& figura : m_figuras) {
-            const QColor color = figura.color.isValid() ? Legible(figura.color, fondo) : texto;
+            const QColor color = figura.color.isValid() ? Legible(figura.color, fondo, Uso::dibujo) : texto;
             pintor->setPen(QPen(color, kGrosor, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
             pintor->setBrush(figura.bRellena ? QBrush(color) : QBrush());
             pintor->drawPath(figura.camino);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <map>
 #include <utility>
 
 #include <QApplication>
@@ -22,6 +23,7 @@
 #include <quorvel/ui/como.h>
 #include <quorvel/ui/presentador.h>
 
+#include "qt/accesible.h"
 #include "qt/cajas.h"
 #include "qt/geometria.h"
 #include "qt/relleno.h"
@@ -41,6 +43,7 @@ std::vector<VentanaDialogo*>& Abiertas()
 constexpr double kParteDeAncho = 0.985, kParteDeAlto = 0.92;  // of the screen; title and frame take the rest
 constexpr QSize kTamanoMinimo(300, 0);
 constexpr QSize kTamanoMaximizable(760, 540);  // of what is meant to be looked at large
+constexpr qsizetype kNotasDichas = 3;          // at once
 constexpr int kMargenDeBarra = 6;              // between the controls and the bar that scrolls them
 constexpr int kAdornosDeTitulo = 140;          // icon and buttons of a title bar
 
@@ -50,6 +53,7 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     : QDialog(padre), m_dialogo(dialogo), m_marco(marco)
 {
     Abiertas().push_back(this);
+    InstalarAccesibles();
     setObjectName(QString::fromStdString(dialogo.clase));
     if (marco == Marco::panel)
         setWindowFlags(Qt::Widget);
@@ -71,6 +75,9 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     // Tab order is that of reading, which is the declaration's but for what shares a line or a group.
     QWidget* anterior = nullptr;
     const auto encadenar = [&](QWidget* siguiente) {
+        // What can't have the focus isn't taken into the order, and would break it in two.
+        if (siguiente->focusPolicy() == Qt::NoFocus)
+            return;
         if (anterior != nullptr)
             setTabOrder(anterior, siguiente);
         anterior = siguiente;
@@ -90,8 +97,11 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     });
     m_tema.setSingleShot(true);
     connect(&m_tema, &QTimer::timeout, this, &VentanaDialogo::Refrescar);
-    connect(qApp, &QApplication::focusChanged, this,
-            [this](QWidget* /*antes*/, QWidget* ahora) { AtenderFoco(ahora); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget* antes, QWidget* ahora) {
+        if (Vista* dicha = VistaDe(antes))
+            dicha->Anunciar({});
+        AtenderFoco(ahora);
+    });
     Refrescar();
     if (marco == Marco::ventana) {
         DarTamano(*pila);
@@ -195,6 +205,7 @@ void VentanaDialogo::Refrescar()
     // What the widgets signal while they are set isn't the person's doing.
     ++m_nAcciones;
     setWindowTitle(AQt(m_dialogo.csTitulo));
+    PonerTextosDetras();
     for (const auto& vista : m_vistas)
         vista->Refrescar();
     for (const GrupoDispuesto& grupo : m_disposicion.grupos) {
@@ -214,6 +225,46 @@ void VentanaDialogo::Refrescar()
     else if (!m_temporizador.isActive() || m_temporizador.interval() != m_dialogo.iTemporizador)
         m_temporizador.start(m_dialogo.iTemporizador);
     --m_nAcciones;
+    AnunciarNotas();
+}
+
+// "18:00 h", "%": a text on a field's line is heard with the field.
+void VentanaDialogo::PonerTextosDetras()
+{
+    std::map<const ui::Control*, QStringList> textos;
+    for (const auto& vista : m_vistas) {
+        const auto* texto = dynamic_cast<const ui::TextoFijo*>(&vista->control);
+        if (texto != nullptr && texto->colocacion.junto != nullptr && texto->bVisible)
+            textos[texto->colocacion.junto]
+                << (SinMnemonico(texto->csRotulo) + ' ' + AQt(texto->csTexto)).trimmed();
+    }
+    for (const auto& vista : m_vistas)
+        vista->PonerDetras(textos[&vista->control].join(' ').trimmed());
+}
+
+// A note that says something else now. Many at once are results, which are read where they stand.
+void VentanaDialogo::AnunciarNotas()
+{
+    QStringList nuevas;
+    for (const auto& vista : m_vistas) {
+        const auto* nota = dynamic_cast<const ui::TextoFijo*>(&vista->control);
+        if (nota == nullptr || !nota->csRotulo.empty() || nota->colocacion.junto != nullptr)
+            continue;
+        if (auto [antes, bNueva] = m_notas.try_emplace(nota, nota->csTexto); antes->second != nota->csTexto) {
+            antes->second = nota->csTexto;
+            if (!nota->csTexto.empty() && vista->widget->isVisible())
+                nuevas << AQt(nota->csTexto);
+        }
+    }
+    if (!nuevas.isEmpty() && nuevas.size() <= kNotasDichas)
+        Anunciar(nuevas.join(QStringLiteral(". ")));
+}
+
+void VentanaDialogo::Anunciar(const QString& texto)
+{
+    Vista* const conFoco = VistaDe(QApplication::focusWidget());
+    if (conFoco != nullptr)
+        conFoco->Anunciar(texto);
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -441,6 +492,9 @@ void VentanaDialogo::EnfocarPrimera()
     }
     if (primera != nullptr)
         primera->Enfocar();
+    // Of what is only looked at, the button that closes it: the keys must reach somebody.
+    else if (m_aceptar != nullptr)
+        (m_dialogo.bAceptarVisible ? m_aceptar : m_cancelar)->setFocus(Qt::OtherFocusReason);
 }
 
 void VentanaDialogo::showEvent(QShowEvent* evento)

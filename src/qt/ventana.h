@@ -1,6 +1,7 @@
 // A dialog as a window: its views, buttons, keys, focus and timer.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <vector>
 
@@ -33,6 +34,8 @@ public:
 
     /// Shows the state of all controls.
     void Refrescar();
+    /// Says it with the control that has the focus here, if one has.
+    void Anunciar(const QString& texto) override;
     /// Puts the focus into that control once the action that runs is over.
     void PedirFoco(ui::Control& control) { m_focoPedido = &control; }
 
@@ -61,6 +64,8 @@ private:
     bool UsarPropuesta();
     void Ejecutar(const std::function<void(ui::Dialogo&)>& accion);
     void Aceptar();
+    void PonerTextosDetras();
+    void AnunciarNotas();
     void PonerFoco(bool bSeAviso);
     void AtenderFoco(QWidget* conFoco);
     void AtenderTemporizador();
@@ -86,7 +91,8 @@ private:
     ui::Edicion* m_porSalir = nullptr;  // left, and the dialog not told yet
     ui::Control* m_focoPedido = nullptr;
     bool m_bMostrada = false;
-    std::vector<CString> m_alMostrar;  // what was filled in when it came up
+    std::vector<CString> m_alMostrar;               // what was filled in when it came up
+    std::map<const ui::Control*, CString> m_notas;  // texts without a caption, as last said
 };
 
 }  // namespace efv::qt

@@ -27,7 +27,7 @@ QString RotuloHablado(const ui::Control& control)
 {
     const ui::Control* junto = control.colocacion.junto;
     if (SeLee(control.csRotulo) || junto == nullptr)
-        return SinMnemonico(control.csRotulo);
+        return AQt(ui::NombreDeCampo(control)).trimmed();
     const bool bPropuesta = ui::CampoDeLaPropuesta(control) != nullptr;
     return (bPropuesta ? QStringLiteral("Propuesta: ") : QString()) + RotuloHablado(*junto);
 }
@@ -46,11 +46,14 @@ Vista::~Vista() = default;
 QString Vista::NombreHablado() const
 {
     QString hablado = RotuloHablado(control);
-    if (!hablado.isEmpty() || dynamic_cast<const ui::Edicion*>(&control) == nullptr)
+    if (!hablado.isEmpty())
         return hablado;
+    if (!control.csIndicacion.empty())
+        return AQt(control.csIndicacion);
     // A text that fills its group goes by it.
-    QString grupo = SinMnemonico(CString(control.colocacion.grupo));
-    return grupo.isEmpty() ? QStringLiteral("Texto") : grupo;
+    const bool bTexto = dynamic_cast<const ui::Edicion*>(&control) != nullptr;
+    QString grupo = bTexto ? SinMnemonico(CString(control.colocacion.grupo)) : QString();
+    return grupo.isEmpty() && bTexto ? QStringLiteral("Texto") : grupo;
 }
 
 void Vista::Refrescar()
@@ -59,6 +62,7 @@ void Vista::Refrescar()
     if (const QString nombre = NombreHablado(); widget->accessibleName() != nombre)
         widget->setAccessibleName(nombre);
     RefrescarIndicacion();
+    RefrescarDescripcion();
     RefrescarColores();
     const bool bUtilizable = Utilizable();
     if (widget->isEnabledTo(widget->parentWidget()) != bUtilizable)
@@ -86,10 +90,30 @@ void Vista::RefrescarIndicacion()
     const QString indicacion = Indicacion(control.csIndicacion);
     if (!bBoton && !widget->toolTip().startsWith(indicacion))
         widget->setToolTip(widget->toolTip().isEmpty() ? indicacion : indicacion + '\n' + widget->toolTip());
-    const QString descripcion = AQt(control.csIndicacion);
-    if (widget->accessibleName() != descripcion && !widget->accessibleDescription().startsWith(descripcion))
-        widget->setAccessibleDescription(
-            (descripcion + QStringLiteral(". ") + widget->accessibleDescription()).trimmed());
+}
+
+void Vista::RefrescarDescripcion()
+{
+    QString texto = m_anuncio;
+    if (texto.isEmpty()) {
+        QStringList partes;
+        // "Invierno: Inicio … Final …": several on one line have its caption in common.
+        const auto* linea = dynamic_cast<const ui::TextoFijo*>(control.colocacion.junto);
+        const QString dicha = linea != nullptr ? AQt(ui::NombreDeCampo(*linea)) : QString();
+        for (const QString& parte : {dicha, m_detras, AQt(control.csIndicacion), Descripcion()})
+            if (!parte.isEmpty() && parte != widget->accessibleName())
+                partes << parte;
+        texto = partes.join(QStringLiteral(". "));
+    }
+    if (widget->accessibleDescription() != texto)
+        widget->setAccessibleDescription(texto);
+}
+
+// A change of the description is said where the focus is; Qt 6.4 has no way to say something else.
+void Vista::Anunciar(const QString& texto)
+{
+    m_anuncio = texto;
+    RefrescarDescripcion();
 }
 
 void Vista::RefrescarColores()

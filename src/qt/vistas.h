@@ -23,6 +23,8 @@ public:
     virtual void Actuar(const std::function<void(ui::Dialogo&)>& accion) = 0;
     /// The person left the field; told to the dialog before anything else happens to it.
     virtual void HaSalido(ui::Edicion& control) = 0;
+    /// Says it to whoever hears the screen.
+    virtual void Anunciar(const QString& texto) = 0;
 
 protected:
     ~Accionador() = default;
@@ -40,6 +42,10 @@ public:
     /// Takes the focus, with its text selected.
     virtual void Enfocar();
     virtual bool AdmiteFoco() const;
+    /// Says it in place of its description; an empty text, that again.
+    void Anunciar(const QString& texto);
+    /// The fixed text that stands behind it on its line.
+    void PonerDetras(const QString& texto) { m_detras = texto; }
     /// Names its widgets that take the focus, in order.
     virtual void Encadenar(const std::function<void(QWidget*)>& siguiente) { siguiente(widget); }
 
@@ -62,6 +68,9 @@ protected:
     virtual QString NombreHablado() const;
     /// Whether the person can use it at all.
     virtual bool Utilizable() const { return control.bHabilitado; }
+    /// What its kind says of it beside its name.
+    virtual QString Descripcion() const { return {}; }
+    virtual void RefrescarDescripcion();
 
 private:
     void RefrescarIndicacion();
@@ -77,6 +86,7 @@ private:
     void RefrescarColores();
 
     std::optional<Aspecto> m_aspecto;
+    QString m_detras, m_anuncio;
 };
 
 std::unique_ptr<Vista> CrearVista(ui::Control& control, QWidget* padre, Accionador& accionador);

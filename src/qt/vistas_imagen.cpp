@@ -32,6 +32,8 @@ private:
     }
 
     void RefrescarContenido() override { static_cast<WidgetGrafica*>(widget)->Refrescar(); }
+    // The chart does it itself, with the point that is read.
+    void RefrescarDescripcion() override {}
 
     const ui::Grafica& m_grafica;
 };

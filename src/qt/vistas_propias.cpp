@@ -37,7 +37,7 @@ private:
     QString NombreHablado() const override
     {
         const QString hablado = Vista::NombreHablado();
-        return hablado.isEmpty() ? AQt(m_color.Texto()) : hablado + ' ' + AQt(m_color.Texto());
+        return hablado.isEmpty() ? AQt(m_color.Texto()) : hablado + QStringLiteral(": ") + AQt(m_color.Texto());
     }
 
     void RefrescarContenido() override

@@ -11,6 +11,7 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+#include "qt/accesible.h"
 #include "qt/menus.h"
 #include "qt/rueda.h"
 #include "qt/texto.h"
@@ -76,8 +77,10 @@ public:
           m_grupo(new QButtonGroup(widget))
     {
         auto* columna = new QVBoxLayout(widget);
-        if (seleccion.csRotulo.empty())
+        if (seleccion.csRotulo.empty()) {
             columna->setContentsMargins(0, 0, 0, 0);
+            PonerPapel(*widget, QAccessible::Grouping);
+        }
         columna->addStretch();
         PonerEntradas();
     }
@@ -113,6 +116,13 @@ private:
     }
     bool Utilizable() const override { return control.bHabilitado && !control.bSoloLectura; }
 
+    // One among several is heard with what it is of.
+    QString NombreHablado() const override
+    {
+        const QString hablado = Vista::NombreHablado();
+        return hablado.isEmpty() ? SinMnemonico(CString(control.colocacion.grupo)) : hablado;
+    }
+
     void PonerEntradas()
     {
         const auto nEntradas = static_cast<qsizetype>(m_seleccion.acsEntradas.size());
@@ -130,6 +140,7 @@ private:
         for (int i = 0; i < static_cast<int>(m_seleccion.acsEntradas.size()); ++i) {
             m_grupo->button(i)->setText(ConMnemonico(m_seleccion.acsEntradas[static_cast<std::size_t>(i)]));
             m_grupo->button(i)->setChecked(i == m_seleccion.iSeleccion);
+            m_grupo->button(i)->setAccessibleDescription(NombreHablado());
         }
     }
 

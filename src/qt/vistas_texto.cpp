@@ -82,7 +82,8 @@ private:
 // The keys that move from row to row go to the list that a field searches, and the focus stays.
 class TeclasDeLista final : public QObject {
 public:
-    TeclasDeLista(QLineEdit& campo, QString lista) : QObject(&campo), m_campo(campo), m_lista(std::move(lista))
+    TeclasDeLista(QLineEdit& campo, QString lista, Accionador& accionador)
+        : QObject(&campo), m_campo(campo), m_lista(std::move(lista)), m_accionador(accionador)
     {
         campo.installEventFilter(this);
     }
@@ -101,12 +102,28 @@ public:
                 return false;
         }
         auto* const rejas = m_campo.parentWidget()->findChild<QAbstractItemView*>(m_lista);
-        return rejas != nullptr && QCoreApplication::sendEvent(rejas, evento);
+        if (rejas == nullptr || !QCoreApplication::sendEvent(rejas, evento))
+            return false;
+        AnunciarFila(rejas->currentIndex());
+        return true;
     }
 
 private:
+    // The focus isn't on the row, so the row isn't heard by itself.
+    void AnunciarFila(const QModelIndex& actual)
+    {
+        if (!actual.isValid())
+            return;
+        QStringList celdas;
+        for (int i = 0; i < actual.model()->columnCount(actual.parent()); ++i)
+            if (const QString celda = actual.siblingAtColumn(i).data().toString(); !celda.isEmpty())
+                celdas << celda;
+        m_accionador.Anunciar(celdas.join(QStringLiteral(", ")));
+    }
+
     QLineEdit& m_campo;
     QString m_lista;
+    Accionador& m_accionador;
 };
 
 bool EsNumerica(const ui::Edicion& edicion)
@@ -130,7 +147,7 @@ public:
         new GuardaDeFoco(widget, [&] { accionador.HaSalido(edicion); });
         OfrecerPropuesta(accionador);
         if (edicion.lista != nullptr)
-            new TeclasDeLista(Campo(), QString::fromStdString(edicion.lista->nombre));
+            new TeclasDeLista(Campo(), QString::fromStdString(edicion.lista->nombre), accionador);
     }
 
     void Enfocar() override
@@ -157,19 +174,27 @@ private:
         });
     }
 
-    // What a person hears or reads of the field, with what is wrong with it.
-    void RefrescarIndicacion(bool bFalta)
+    bool Falta() const { return m_edicion.color == ui::kRojo && !m_edicion.bSoloLectura; }
+
+    void RefrescarIndicacion()
     {
-        const QString indicacion = AQt(ui::IndicacionDeCampo(m_edicion));
-        if (const QString texto = Indicacion(DeQt(indicacion)); Campo().toolTip() != texto)
+        if (const QString texto = Indicacion(ui::IndicacionDeCampo(m_edicion)); Campo().toolTip() != texto)
             Campo().setToolTip(texto);
-        QString descripcion = indicacion.section('\n', 1).replace('\n', QStringLiteral(". "));
-        if (bFalta)
-            descripcion = QStringLiteral("Valor no válido. ") + descripcion;
-        if (Campo().accessibleDescription() != descripcion)
-            Campo().setAccessibleDescription(descripcion);
         if (m_usar != nullptr)
             m_usar->setVisible(ui::PuedeUsarse(m_edicion));
+    }
+
+    // What a person hears of the field, with what is wrong with it.
+    QString Descripcion() const override
+    {
+        QStringList partes = AQt(ui::IndicacionDeCampo(m_edicion)).split('\n').mid(1);
+        if (Falta())
+            partes.prepend(QStringLiteral("Valor no válido"));
+        if (!m_edicion.csEjemplo.empty())
+            partes << QStringLiteral("Ejemplo: ") + AQt(m_edicion.csEjemplo);
+        if (m_usar != nullptr && ui::PuedeUsarse(m_edicion))
+            partes << QStringLiteral("F9 la pasa al valor");
+        return partes.join(QStringLiteral(". "));
     }
 
     // A text that it opens with is read whole, unless it is long.
@@ -187,8 +212,8 @@ private:
     // What can be written and is red has something wrong: a thick frame tells it without its colour.
     void RefrescarMarco()
     {
-        const bool bFalta = m_edicion.color == ui::kRojo && !m_edicion.bSoloLectura;
-        RefrescarIndicacion(bFalta);
+        const bool bFalta = Falta();
+        RefrescarIndicacion();
         const QPalette paleta = Campo().parentWidget()->palette();
         const qint64 marco = bFalta ? paleta.cacheKey() : 0;
         if (std::exchange(m_marco, marco) == marco)

@@ -16,6 +16,7 @@
 #include <quorvel/framework/CException.h>
 #include <quorvel/mundo.h>
 
+#include "qt/accesible.h"
 #include "qt/cajas.h"
 #include "qt/colores.h"
 #include "qt/texto.h"
@@ -27,6 +28,7 @@ namespace {
 
 constexpr double kEscalaPng = 2.0;
 constexpr double kOpacidadInhabilitada = 0.35;
+constexpr std::size_t kPaginas = 20;  // of a series, for the keyboard
 
 class LienzoQt final : public ui::Lienzo {
 public:
@@ -152,6 +154,7 @@ WidgetGrafica::WidgetGrafica(const CCtrlCurva2D& datos, QWidget* padre) : QWidge
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    PonerPapel(*this, QAccessible::Graphic);
 }
 
 void WidgetGrafica::paintEvent(QPaintEvent* /*evento*/)
@@ -162,7 +165,8 @@ void WidgetGrafica::paintEvent(QPaintEvent* /*evento*/)
     Pintar(pintor, true);
     pintor.setPen(palette().color(QPalette::Mid));
     if (hasFocus())
-        pintor.setPen(QPen(palette().color(QPalette::Highlight), 2.0));
+        pintor.setPen(QPen(
+            Legible(palette().color(QPalette::Highlight), palette().color(QPalette::Base), Uso::dibujo), 2.0));
     pintor.setBrush(Qt::NoBrush);
     pintor.drawRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5));
 }
@@ -242,31 +246,35 @@ void WidgetGrafica::Refrescar()
     update();
 }
 
-// What is read now goes before what the chart is.
+// What is read now stands for what the chart is: all of it again at each step would be too much to hear.
 void WidgetGrafica::Describir()
 {
-    QString texto;
-    if (m_marcado)
-        texto = AQt(ui::LecturaDePunto(m_datos, m_marcado->iSerie, m_marcado->iPunto)) + QStringLiteral(". ");
-    texto += AQt(ui::DescripcionDe(m_datos));
+    const QString texto = AQt(m_marcado ? ui::LecturaDePunto(m_datos, m_marcado->iSerie, m_marcado->iPunto)
+                                        : ui::DescripcionDe(m_datos));
     if (accessibleDescription() != texto)
         setAccessibleDescription(texto);
 }
 
-// Left and right along a series, up and down to the next one that has a point there; the first time to where
-// the chart begins.
+// Left and right along a series, a page a twentieth of it, to its ends; up and down to the next one that has a
+// point there; the first time to where the chart begins.
 void WidgetGrafica::Mover(int iTecla)
 {
     Marcado lugar = m_marcado.value_or(Marcado{});
     const std::size_t nSeries = m_datos.aSeries.size();
-    const auto avanzar = [&](bool bAtras) {
+    const auto avanzar = [&](bool bAtras, std::size_t nPasos = 1) {
         const std::size_t nPuntos = m_datos.aSeries[lugar.iSerie].adX.size();
-        for (std::size_t i = lugar.iPunto; bAtras ? i-- > 0 : ++i < nPuntos;) {
+        for (std::size_t i = lugar.iPunto; nPasos > 0 && (bAtras ? i-- > 0 : ++i < nPuntos);) {
             if (!ui::SeDibuja(m_datos, lugar.iSerie, i))
                 continue;
             lugar.iPunto = i;
-            return;
+            --nPasos;
         }
+    };
+    const auto pasos = [&]() -> std::size_t {
+        const std::size_t nPuntos = m_datos.aSeries[lugar.iSerie].adX.size();
+        const bool bPagina = iTecla == Qt::Key_PageUp || iTecla == Qt::Key_PageDown;
+        const bool bUno = iTecla == Qt::Key_Left || iTecla == Qt::Key_Right;
+        return bUno ? 1 : bPagina ? std::max<std::size_t>(1, nPuntos / kPaginas) : nPuntos;
     };
     const auto cambiarDeSerie = [&](bool bAtras) {
         for (std::size_t n = 1; n < nSeries; ++n) {
@@ -278,10 +286,10 @@ void WidgetGrafica::Mover(int iTecla)
         }
     };
     if (m_marcado) {
-        if (iTecla == Qt::Key_Left || iTecla == Qt::Key_Right)
-            avanzar(iTecla == Qt::Key_Left);
-        else
+        if (iTecla == Qt::Key_Up || iTecla == Qt::Key_Down)
             cambiarDeSerie(iTecla == Qt::Key_Up);
+        else
+            avanzar(iTecla == Qt::Key_Left || iTecla == Qt::Key_PageUp || iTecla == Qt::Key_Home, pasos());
     } else {
         while (lugar.iSerie < nSeries && !ui::SeDibuja(m_datos, lugar.iSerie, lugar.iPunto)) {
             avanzar(false);
@@ -304,6 +312,10 @@ void WidgetGrafica::keyPressEvent(QKeyEvent* evento)
         case Qt::Key_Right:
         case Qt::Key_Up:
         case Qt::Key_Down:
+        case Qt::Key_PageUp:
+        case Qt::Key_PageDown:
+        case Qt::Key_Home:
+        case Qt::Key_End:
             Mover(evento->key());
             break;
         default:

@@ -23,7 +23,20 @@ struct Partes {
     CString csNombre, csUnidad;
 };
 
-// "Potencia mínima (kW)": what is last in parentheses is the unit.
+// "kW", "€ al año", "Ohm·mm²/m", but neither "Punta" nor "0 a 1" nor "TIR": a symbol has no long words.
+bool EsUnidad(std::wstring_view texto)
+{
+    std::size_t nMinusculas = 0, nMayusculas = 0;
+    for (const wchar_t c : texto) {
+        nMinusculas = c >= L'a' && c <= L'z' ? nMinusculas + 1 : 0;
+        nMayusculas = c >= L'A' && c <= L'Z' ? nMayusculas + 1 : 0;
+        if (nMinusculas > 3 || nMayusculas > 2)
+            return false;
+    }
+    return !texto.empty() && (texto.front() < L'0' || texto.front() > L'9');
+}
+
+// "Potencia mínima (kW)": what is last in parentheses is the unit; "(kW; 0, sin límite)" says more of it.
 Partes EnPartes(const CString& csRotulo)
 {
     const std::size_t nAbre = csRotulo.rfind(L'(');
@@ -31,7 +44,11 @@ Partes EnPartes(const CString& csRotulo)
         return {csRotulo, {}};
     CString csNombre = csRotulo.substr(0, nAbre);
     csNombre.erase(csNombre.find_last_not_of(L' ') + 1);
-    return {csNombre, csRotulo.substr(nAbre + 1, csRotulo.size() - nAbre - 2)};
+    const CString csDentro = csRotulo.substr(nAbre + 1, csRotulo.size() - nAbre - 2);
+    const CString csUnidad = csDentro.substr(0, csDentro.find(L';'));
+    if (!EsUnidad(csUnidad))
+        return {csRotulo, {}};
+    return {csNombre, csUnidad};
 }
 
 }  // namespace
@@ -50,8 +67,7 @@ CString NombreDeCampo(const Control& campo)
 {
     CString csNombre = campo.csRotulo;
     std::erase(csNombre, L'&');
-    if (csNombre.ends_with(L':'))
-        csNombre.pop_back();
+    csNombre.erase(csNombre.find_last_not_of(L": ") + 1);
     return csNombre;
 }
 

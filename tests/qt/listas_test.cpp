@@ -185,6 +185,7 @@ TEST(Listas, LasFlechasDelCampoQueBuscaMuevenLaLista)
         QTest::keyClick(&campo, Qt::Key_Up);
         EXPECT_EQ(d.lista.iSeleccion, 0);
         EXPECT_TRUE(campo.hasFocus());
+        EXPECT_EQ(campo.accessibleDescription(), "9,5, ocho");  // the row is heard where the focus is
     });
 }
 

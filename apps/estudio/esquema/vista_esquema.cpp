@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <set>
 
 #include <QContextMenuEvent>
 #include <QGraphicsScene>
@@ -11,6 +12,8 @@
 #include <QToolTip>
 #include <QWheelEvent>
 
+#include <quorvel/qt.h>
+
 #include "esquema/pintura.h"
 
 namespace efv::estudio {
@@ -18,7 +21,8 @@ namespace efv::estudio {
 namespace {
 
 constexpr double kEscalaMinima = 0.2, kEscalaMaxima = 6.0;
-constexpr double kEscalaEncajada = 1.4;   // a small drawing isn't blown up
+constexpr double kEscalaEncajada = 1.4;  // a small drawing isn't blown up
+constexpr double kMarcoDeFoco = 2.0;
 constexpr double kPasosPorDoble = 480.0;  // of the wheel
 
 Tema TemaDe(const QWidget& widget)
@@ -35,6 +39,7 @@ VistaEsquema::VistaEsquema(QWidget* padre) : QGraphicsView(padre)
     setTransformationAnchor(QGraphicsView::AnchorUnderMouse);
     setViewportUpdateMode(QGraphicsView::FullViewportUpdate);
     setMinimumSize(320, 240);
+    qt::EsDibujo(*this);
     setAccessibleName(QStringLiteral("Esquema"));
 }
 
@@ -97,6 +102,49 @@ void VistaEsquema::LlenarMenu(QMenu& menu, Elemento::Clase clase)
         menu.addAction("&Rotulación…", this, [this, clase] { alRotular(clase); });
 }
 
+void VistaEsquema::LlenarElementos(QMenu& menu)
+{
+    std::set<Elemento::Clase> puestas = {Elemento::Clase::puntos};
+    for (const Zona& zona : m_lamina.zonas) {
+        if (!puestas.insert(zona.clase).second)
+            continue;
+        QMenu* dentro = menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&"));
+        LlenarMenu(*dentro, zona.clase);
+    }
+    if (menu.isEmpty())
+        menu.addAction("(ninguno)")->setEnabled(false);
+}
+
+// No pointer tells which element is meant.
+void VistaEsquema::AbrirElementos()
+{
+    if (m_lamina.zonas.empty() || !alAbrir)
+        return;
+    QMenu menu(this);
+    LlenarElementos(menu);
+    menu.setActiveAction(menu.actions().constFirst());
+    menu.exec(viewport()->mapToGlobal(viewport()->rect().center()));
+}
+
+void VistaEsquema::keyPressEvent(QKeyEvent* evento)
+{
+    if (evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter)
+        return AbrirElementos();
+    QGraphicsView::keyPressEvent(evento);
+}
+
+void VistaEsquema::focusInEvent(QFocusEvent* evento)
+{
+    QGraphicsView::focusInEvent(evento);
+    viewport()->update();
+}
+
+void VistaEsquema::focusOutEvent(QFocusEvent* evento)
+{
+    QGraphicsView::focusOutEvent(evento);
+    viewport()->update();
+}
+
 void VistaEsquema::mouseDoubleClickEvent(QMouseEvent* evento)
 {
     const Zona* zona = ZonaEn(evento->pos());
@@ -120,6 +168,8 @@ bool VistaEsquema::viewportEvent(QEvent* evento)
 
 void VistaEsquema::contextMenuEvent(QContextMenuEvent* evento)
 {
+    if (evento->reason() == QContextMenuEvent::Keyboard)
+        return AbrirElementos();
     const Zona* zona = ZonaEn(evento->pos());
     if (zona == nullptr || zona->clase == Elemento::Clase::puntos || !alAbrir)
         return;
@@ -143,10 +193,16 @@ void VistaEsquema::drawBackground(QPainter* pintor, const QRectF& zona)
 void VistaEsquema::drawForeground(QPainter* pintor, const QRectF& /*zona*/)
 {
     if (!m_lamina.trazos.empty())
-        return Pintar(*pintor, m_lamina, TemaDe(*this));
+        Pintar(*pintor, m_lamina, TemaDe(*this));
     pintor->resetTransform();
-    pintor->setPen(ColorDe(Tinta::tenue, TemaDe(*this)));
-    pintor->drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_aviso);
+    if (m_lamina.trazos.empty()) {
+        pintor->setPen(ColorDe(Tinta::tenue, TemaDe(*this)));
+        pintor->drawText(viewport()->rect(), Qt::AlignCenter | Qt::TextWordWrap, m_aviso);
+    }
+    if (hasFocus()) {
+        pintor->setPen(QPen(palette().color(QPalette::Highlight), kMarcoDeFoco));
+        pintor->drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
+    }
 }
 
 }  // namespace efv::estudio

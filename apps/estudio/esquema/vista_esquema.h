@@ -27,6 +27,8 @@ public:
     std::function<bool(Elemento::Clase)> tieneRotulos;
     /// Fills a menu with what can be done with an element.
     void LlenarMenu(QMenu& menu, Elemento::Clase clase);
+    /// The same with one for each class of elements that the drawing has: those of a class share their data.
+    void LlenarElementos(QMenu& menu);
 
     void Encajar();
     void Ampliar(double dFactor);
@@ -37,12 +39,16 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* evento) override;
     bool viewportEvent(QEvent* evento) override;
     void contextMenuEvent(QContextMenuEvent* evento) override;
+    void keyPressEvent(QKeyEvent* evento) override;
+    void focusInEvent(QFocusEvent* evento) override;
+    void focusOutEvent(QFocusEvent* evento) override;
     void changeEvent(QEvent* evento) override;
     void drawBackground(QPainter* pintor, const QRectF& zona) override;
     void drawForeground(QPainter* pintor, const QRectF& zona) override;
 
 private:
     const Zona* ZonaEn(const QPoint& punto) const;
+    void AbrirElementos();
 
     Lamina m_lamina;
     QString m_aviso;

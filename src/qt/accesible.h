@@ -1,0 +1,19 @@
+// What a screen reader is told where Qt's own answer isn't enough: drawings, groups without a frame, lists that
+// drop down.
+#pragma once
+
+#include <QAccessible>
+
+QT_BEGIN_NAMESPACE
+class QWidget;
+QT_END_NAMESPACE
+
+namespace efv::qt {
+
+/// From now on. Once is enough; more than once does no harm.
+void InstalarAccesibles();
+
+/// A plain widget is told as what it stands for, rather than passed over as room for others.
+void PonerPapel(QWidget& widget, QAccessible::Role papel);
+
+}  // namespace efv::qt
