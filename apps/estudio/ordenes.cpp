@@ -1,7 +1,6 @@
 #include "ordenes.h"
 
 #include <array>
-#include <set>
 
 #include <QDir>
 #include <QFileInfo>
@@ -35,7 +34,7 @@ constexpr const char* kEdicion = "&Edición";
 constexpr const char* kDiseno = "&Diseño";
 constexpr const char* kEconomia = "Econo&mía";
 constexpr const char* kEsquema = "Es&quema";
-constexpr const char* kClima = "Clima";
+constexpr const char* kClima = "C&lima";
 constexpr const char* kCatalogos = "&Catálogos";
 constexpr const char* kAyuda = "A&yuda";
 
@@ -74,19 +73,11 @@ void LlenarRecientes(Ventana& ventana, QMenu& menu)
         menu.addAction("(ninguno)")->setEnabled(false);
 }
 
-// An element a class: those of a class share their data.
 void LlenarElementos(Ventana& ventana, QMenu& menu)
 {
-    std::set<Elemento::Clase> puestas = {Elemento::Clase::puntos};
-    if (VistaEsquema* vista = ventana.EsquemaALaVista()) {
-        for (const Zona& zona : vista->Mostrado().zonas) {
-            if (!puestas.insert(zona.clase).second)
-                continue;
-            QMenu* dentro = menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&"));
-            vista->LlenarMenu(*dentro, zona.clase);
-        }
-    }
-    if (menu.isEmpty())
+    if (VistaEsquema* vista = ventana.EsquemaALaVista())
+        vista->LlenarElementos(menu);
+    else
         menu.addAction("(ninguno)")->setEnabled(false);
 }
 

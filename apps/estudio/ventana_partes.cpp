@@ -7,6 +7,8 @@
 #include <QStatusBar>
 #include <QTabWidget>
 
+#include <quorvel/qt.h>
+
 #include "ayuda/ventana_ayuda.h"
 #include "comun/numeros.h"
 #include "diseno/estado.h"
@@ -63,7 +65,11 @@ void VentanaPrincipal::ActualizarEstado()
         LineaDeEstado(proyecto, diseno, m_comprobaciones.at(static_cast<std::size_t>(diseno)).Lineas()));
     m_estado->setText(linea);
     m_estado->setToolTip(linea);
-    m_ultima->setText(QString::fromStdWString(UltimaAccion(m_sesion)));
+    const QString ultima = QString::fromStdWString(UltimaAccion(m_sesion));
+    // What a field did is heard there; what a command did, nowhere else.
+    if (ultima != m_ultima->text() && !ultima.startsWith(QStringLiteral("Hecho")) && isVisible())
+        qt::Anunciar(ultima);
+    m_ultima->setText(ultima);
 }
 
 std::vector<PanelInicio::Paso> VentanaPrincipal::PrimerosPasos()
@@ -76,14 +82,14 @@ std::vector<PanelInicio::Paso> VentanaPrincipal::PrimerosPasos()
     };
     return {
         {L"1. El lugar",
-         {{"elegirLugar", L"Elegir el lugar",
+         {{"elegirLugar", L"Eleg&ir el lugar",
            [this] {
                if (auto* campo = findChild<QLineEdit*>("csBuscar"))
                    campo->setFocus(Qt::ShortcutFocusReason);
            }}},
          [this] { return m_sesion.Proyecto().lugar.csNombre; }},
         {L"2. Lo que se consume",
-         {{"consumo", L"Datos del consumo…", [this] { EditarConsumo(m_sesion); }}},
+         {{"consumo", L"Dat&os del consumo…", [this] { EditarConsumo(m_sesion); }}},
          [this] {
              const double dEnergia = AnoDe(m_sesion.Proyecto().consumo).Energia();
              return dEnergia > 0.0 ? EnUnidad(kEnergia, dEnergia, 0) + L" al año" : CString();
@@ -92,9 +98,9 @@ std::vector<PanelInicio::Paso> VentanaPrincipal::PrimerosPasos()
          {{"disenarRed", L"Conexión a red…", [this] { MostrarDisenado(DisenarRed(m_sesion)); }},
           {"disenarAislada", L"Instalación aislada…", [this] { MostrarDisenado(DisenarAislada(m_sesion)); }}},
          disenados},
-        {L"4. El informe", {{"informe", L"Guardar el informe…", [this] { GuardarInformeDelDiseno(); }}}, {}},
+        {L"4. El informe", {{"informe", L"Guardar el in&forme…", [this] { GuardarInformeDelDiseno(); }}}, {}},
         {L"O desde algo hecho",
-         {{"ejemplo", L"Abrir el ejemplo",
+         {{"ejemplo", L"Abrir el e&jemplo",
            [this] { m_sesion.Nuevo(ProyectoDeEjemplo(m_sesion.LugarInicial())); }},
           {"abrir", L"Abrir un proyecto…", [this] { m_sesion.Abrir(); }}},
          {}},
@@ -130,6 +136,13 @@ void VentanaPrincipal::CrearTeclas()
     };
     tecla(Qt::CTRL | Qt::Key_PageDown, [pasarFicha] { pasarFicha(1); });
     tecla(Qt::CTRL | Qt::Key_PageUp, [pasarFicha] { pasarFicha(-1); });
+    // What is found is chosen where it is searched, and heard where it is chosen.
+    connect(findChild<QLineEdit*>("csBuscar"), &QLineEdit::returnPressed, this, [this] {
+        if (!m_lugar.ElegirPrimero())
+            return;
+        Actualizar();
+        findChild<QWidget*>("iLugar")->setFocus(Qt::ShortcutFocusReason);
+    });
 }
 
 std::vector<QWidget*> VentanaPrincipal::Partes() const

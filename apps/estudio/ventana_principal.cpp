@@ -15,6 +15,7 @@
 #include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QUrl>
 
@@ -493,6 +494,9 @@ bool VentanaPrincipal::eventFilter(QObject* objeto, QEvent* evento)
         MostrarAyudaDe(static_cast<QWidget*>(objeto));
         return true;
     }
+    // Whoever chose a tab by its letter goes on there.
+    if (evento->type() == QEvent::Shortcut && qobject_cast<QTabBar*>(objeto) != nullptr)
+        static_cast<QWidget*>(objeto)->setFocus(Qt::ShortcutFocusReason);
     if (evento->type() != QEvent::ShortcutOverride)
         return false;
     const auto* linea = qobject_cast<QLineEdit*>(objeto);

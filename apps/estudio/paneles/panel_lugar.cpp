@@ -1,6 +1,7 @@
 #include "paneles/panel_lugar.h"
 
 #include <algorithm>
+#include <array>
 #include <iterator>
 #include <utility>
 
@@ -22,11 +23,24 @@ constexpr std::wstring_view kLongitud = L"Longitud", kTemperatura = L"Temperatur
 // As many as a person looks through.
 constexpr std::size_t kOfrecidas = 200;
 
-bool Responde(const Localidad& localidad, const CString& csBuscado)
+// How well a place answers: it is called so, its name begins so, it is somewhere in it; or not at all.
+enum class Respuesta { nombre, comienzo, dentro, ninguna };
+
+Respuesta Responde(const Localidad& localidad, const CString& csBuscado)
 {
-    const auto aparece = [&](const CString& cs) { return PlegarTexto(cs).find(csBuscado) != CString::npos; };
-    return aparece(localidad.csNombre) || std::ranges::any_of(localidad.acsAlias, aparece) ||
-           aparece(NombreConProvincia(localidad));
+    const auto comparar = [&](const CString& cs) {
+        const CString csPlegado = PlegarTexto(cs);
+        const std::size_t nDonde = csPlegado.find(csBuscado);
+        if (nDonde == CString::npos)
+            return Respuesta::ninguna;
+        return nDonde > 0                             ? Respuesta::dentro
+               : csPlegado.size() == csBuscado.size() ? Respuesta::nombre
+                                                      : Respuesta::comienzo;
+    };
+    Respuesta mejor = std::min(comparar(localidad.csNombre), comparar(NombreConProvincia(localidad)));
+    for (const CString& csAlias : localidad.acsAlias)
+        mejor = std::min(mejor, comparar(csAlias));
+    return mejor;
 }
 
 }  // namespace
@@ -71,8 +85,12 @@ void PanelLugar::AnadirLugar()
     m_buscar->alCambiar = [this] {
         Recoger(*m_buscar);
         Ofrecer();
+        DecirHallados();
     };
-    m_seleccion = &Anadir<ui::Seleccion>("iLugar", L"&Lugar:", ui::Seleccion::Forma::combo);
+    m_hallados = &Anadir<ui::TextoFijo>("csHallados", L"");
+    m_hallados->colocacion.grupo = kGrupoLugar;
+    m_hallados->bVisible = false;
+    m_seleccion = &Anadir<ui::Seleccion>("iLugar", L"Lugar:", ui::Seleccion::Forma::combo);
     m_seleccion->colocacion.grupo = kGrupoLugar;
     m_seleccion->destino = &m_iLugar;
     m_seleccion->alElegir = [this] { AlElegir(); };
@@ -146,17 +164,28 @@ void PanelLugar::AnadirRadiaciones()
     pvgis.alPulsar = [this] { PedirRadiacion(); };
 }
 
-// The places that answer to what is searched, the project's own among them.
+// The places that answer to what is searched, the best first; the project's own among them.
 void PanelLugar::Ofrecer()
 {
     const CString csBuscado = PlegarTexto(m_csBuscar);
-    m_ofrecidas.clear();
+    std::array<std::vector<const Localidad*>, static_cast<std::size_t>(Respuesta::ninguna)> porRespuesta;
+    const Localidad* esta = nullptr;
     for (const Localidad& l : m_localidades) {
-        const bool bEsta = LugarDe(l) == m_lugar;
-        if (bEsta ||
-            (m_ofrecidas.size() < kOfrecidas && (csBuscado.empty() ? l.bMayor : Responde(l, csBuscado))))
-            m_ofrecidas.push_back(&l);
+        if (LugarDe(l) == m_lugar)
+            esta = &l;
+        const Respuesta respuesta = !csBuscado.empty()       ? Responde(l, csBuscado)
+                                    : l.bMayor || esta == &l ? Respuesta::dentro
+                                                             : Respuesta::ninguna;
+        if (respuesta != Respuesta::ninguna)
+            porRespuesta.at(static_cast<std::size_t>(respuesta)).push_back(&l);
     }
+    m_ofrecidas.clear();
+    for (const auto& iguales : porRespuesta)
+        m_ofrecidas.insert(m_ofrecidas.end(), iguales.begin(), iguales.end());
+    m_ofrecidas.resize(std::min(m_ofrecidas.size(), kOfrecidas));
+    m_nResponden = csBuscado.empty() ? 0 : m_ofrecidas.size();
+    if (esta != nullptr && std::ranges::find(m_ofrecidas, esta) == m_ofrecidas.end())
+        m_ofrecidas.push_back(esta);
     m_seleccion->acsEntradas = {L"Datos propios"};
     for (const Localidad* l : m_ofrecidas)
         m_seleccion->acsEntradas.push_back(NombreConProvincia(*l));
@@ -167,6 +196,26 @@ void PanelLugar::Ofrecer()
                    ? 0
                    : static_cast<int>(hallada - m_ofrecidas.begin()) + 1;
     m_seleccion->iSeleccion = m_iLugar;
+}
+
+void PanelLugar::DecirHallados()
+{
+    m_hallados->bVisible = !m_csBuscar.empty();
+    m_hallados->csTexto = L"Ningún lugar se llama así.";
+    if (m_nResponden == 0)
+        return;
+    const CString csCuantos =
+        m_nResponden == 1 ? CString(L"1 lugar") : std::to_wstring(m_nResponden) + L" lugares";
+    m_hallados->csTexto = csCuantos + L"; Intro elige " + NombreConProvincia(*m_ofrecidas.front()) + L".";
+}
+
+bool PanelLugar::ElegirPrimero()
+{
+    if (m_nResponden == 0)
+        return false;
+    Elegir(*m_seleccion, 1);
+    m_hallados->bVisible = false;
+    return true;
 }
 
 // The climate record stays the person's choice.

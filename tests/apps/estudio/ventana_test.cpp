@@ -7,6 +7,7 @@
 #include <iterator>
 
 #include <QBuffer>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
@@ -152,7 +153,7 @@ TEST_F(Ventanas, ElLugarEsDeLaListaODeCifrasPropias)
     EXPECT_TRUE(latitud.isReadOnly());
 
     PanelLugar panel(sesion, Localidades());
-    auto& lista = dynamic_cast<ui::Seleccion&>(*panel.Controles()[2]);
+    auto& lista = dynamic_cast<ui::Seleccion&>(*panel.Controles()[3]);
     const auto entrada = [&](const wchar_t* csNombre) {
         return static_cast<int>(
             std::ranges::find_if(lista.acsEntradas,
@@ -180,6 +181,21 @@ TEST_F(Ventanas, ElLugarEsDeLaListaODeCifrasPropias)
     EXPECT_TRUE(Hijo<QTableView>(ventana, "tabla").isEnabled());
     Escribir(ventana, "adRadHorizontal11", "25000");
     EXPECT_EQ(sesion.Proyecto().lugar.adRadHorizontal[11], 25000.0);
+}
+
+// A province's own town comes before what else bears its name, though it stands far behind in the alphabet.
+TEST_F(Ventanas, IntroEligeElLugarQueMejorResponde)
+{
+    auto& buscar = Hijo<QLineEdit>(ventana, "csBuscar");
+    QTest::keyClicks(&buscar, "teruel");
+    EXPECT_TRUE(Hijo<QLabel>(ventana, "csHallados").text().endsWith("; Intro elige Teruel."));
+    QTest::keyClick(&buscar, Qt::Key_Return);
+    EXPECT_EQ(sesion.Proyecto().lugar.csNombre, L"Teruel");
+    EXPECT_EQ(ventana.focusWidget(), ventana.findChild<QWidget*>("iLugar"));
+    buscar.clear();
+    QTest::keyClicks(&buscar, "qwzx");
+    QTest::keyClick(&buscar, Qt::Key_Return);
+    EXPECT_EQ(sesion.Proyecto().lugar.csNombre, L"Teruel");
 }
 
 // What is still being written counts as left.
