@@ -91,6 +91,15 @@ std::span<const OrdenConocida> OrdenesPara(const std::vector<std::string>& argum
     return orden == todas.end() || orden->bVeTodas ? todas : std::span(orden, 1);
 }
 
+// ": el disco está lleno". The write that failed may lie some calls back: what else they leave isn't told.
+std::string PorQueNoSale(int iError)
+{
+    if (iError == EBADF)
+        return ": está cerrada";
+    const bool bDeEscribir = iError == ENOSPC || iError == EDQUOT || iError == EFBIG || iError == EIO;
+    return bDeEscribir ? ": " + MotivoDelSistema(iError) : std::string();
+}
+
 class LineaOrdenes {
 public:
     explicit LineaOrdenes(const std::vector<std::string>& argumentos)
@@ -177,17 +186,15 @@ int Ejecutar(const std::vector<std::string>& argumentos, Consola consola)
     LineaOrdenes linea(argumentos);
     SalidaLimpia limpia(*consola.salida.rdbuf(), consola.forma.bColor);
     std::ostream salida(&limpia);
+    errno = 0;
     const auto fallar = [&](std::string_view texto, int iEstado) {
         consola.errores << linea.Nombre() << ": " << EnUnaLinea(texto) << std::endl;
         return iEstado;
     };
     try {
         const int iEstado = linea.Ejecutar(argumentos, salida);
-        errno = 0;
         if (!salida.flush())
-            return fallar(errno == 0 ? std::string("no se puede escribir la salida")
-                                     : "no se puede escribir la salida: " + MotivoDelSistema(errno),
-                          kFallo);
+            return fallar("no se puede escribir la salida" + PorQueNoSale(errno), kFallo);
         return iEstado;
     } catch (const ErrorUso& e) {
         return fallar(e.what(), kMalUso);

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 
 #include <quorvel/hora_oficial.h>
+#include <quorvel/marca_decimal.h>
 
 #include "platform/texto/texto.h"
 
@@ -115,15 +115,7 @@ std::optional<double> LeerCantidad(std::string_view campo)
         if (!bMarca || i == iDecimal)
             cifras[n++] = bMarca ? '.' : campo[i];
     }
-    const char* inicio = cifras.data();
-    const char* const fin = inicio + n;
-    if (n > 1 && cifras[0] == '+' && cifras[1] != '-')
-        ++inicio;
-    double d = 0.0;
-    const auto [leido, fallo] = std::from_chars(inicio, fin, d);
-    if (fallo != std::errc() || leido != fin || !std::isfinite(d))
-        return std::nullopt;
-    return d;
+    return LeerNumero({cifras.data(), n});
 }
 
 std::optional<FechaLeida> LeerFecha(std::string_view campo)

@@ -1,6 +1,6 @@
 #include "consumption/receptor_catalogo.h"
 
-#include <quorvel/catalogues/receptor.h>
+#include <quorvel/consumption/receptor_modelo.h>
 
 namespace efv::consumption {
 
@@ -9,13 +9,7 @@ bool RefrescarDeCatalogo(CSFVDataReceptor& receptor, const CBaseReceptores& base
     const CBaseReceptorModelo* modelo = base.BuscarModelo(receptor.csModelo);
     if (modelo == nullptr)
         return false;
-    receptor.csFabricante = modelo->csFamilia;
-    receptor.dPotencia = modelo->dP;
-    receptor.dVoltaje = modelo->dVs;
-    receptor.dVoltajeMinimo = modelo->dVsMin;
-    receptor.dRendimiento = modelo->dRend;
-    receptor.iTipoRed = modelo->iTipoRed;
-    receptor.iLuminaria = modelo->bIlum;
+    TomarDelModelo(receptor, *modelo);
     return true;
 }
 

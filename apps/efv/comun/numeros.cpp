@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <cmath>
 
 #include <fmt/format.h>
@@ -26,21 +25,6 @@ std::vector<std::string> Partir(const std::string& texto, std::string_view separ
 }
 
 }  // namespace
-
-std::optional<double> LeerNumero(std::string_view texto)
-{
-    std::string copia(texto);
-    std::ranges::replace(copia, ',', '.');
-    const char* inicio = copia.data();
-    const char* const fin = inicio + copia.size();
-    if (copia.size() > 1 && copia[0] == '+' && copia[1] != '-')
-        ++inicio;
-    double d = 0.0;
-    const auto [leido, fallo] = std::from_chars(inicio, fin, d);
-    if (fallo != std::errc() || leido != fin || !std::isfinite(d))
-        return std::nullopt;
-    return d;
-}
 
 std::string ConsejoDeNumero(std::string_view texto, std::string_view unidad)
 {
@@ -105,8 +89,13 @@ std::string NombreDeOrientacion(double dGrados)
 
 double LeerOrientacion(const char* opcion, std::string_view texto)
 {
-    const std::optional<double> dRumbo = OrientacionLlamada(texto);
-    return dRumbo ? *dRumbo : LeerAcotado(opcion, texto, -180, 180);
+    if (const std::optional<double> dRumbo = OrientacionLlamada(texto))
+        return *dRumbo;
+    const bool bPalabra = !texto.empty() && texto.find_first_of("0123456789") == std::string_view::npos;
+    if (bPalabra)
+        throw ErrorUso(fmt::format("{}: se esperaba un número de -180 a 180, llegó «{}»{}", opcion,
+                                   EnUnaLinea(texto), kOrientaciones));
+    return LeerAcotado(opcion, texto, -180, 180);
 }
 
 std::optional<std::vector<double>> LeerIntervalo(const char* opcion, const std::string& texto,

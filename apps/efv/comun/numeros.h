@@ -8,14 +8,14 @@
 #include <vector>
 
 #include <quorvel/framework/CString.h>
+#include <quorvel/marca_decimal.h>
 #include <quorvel/report/texto.h>
 
 #include "comun/terminal.h"
 
 namespace efv::orden {
 
-/// The finite number that `texto` is, wholly; comma or point as decimal mark.
-std::optional<double> LeerNumero(std::string_view texto);
+using efv::LeerNumero;
 
 /// What keeps a text from being a number, where that is its unit or its thousands: " (sin la unidad: 5)"; empty
 /// for any other. @param unidad that of the number as help names it, when one is known: what is typed in
@@ -28,6 +28,8 @@ double LeerAcotado(const char* opcion, std::string_view texto, double dMinimo, d
 /// An orientation in degrees, 0 south and east negative, as a number or as "suroeste" or "SO".
 /// @throws ErrorUso
 double LeerOrientacion(const char* opcion, std::string_view texto);
+/// What those words are, for a refusal.
+inline constexpr const char* kOrientaciones = " (o un rumbo: S, SO, O, NO, N, NE, E, SE)";
 /// The same for a word alone; nothing when it names none of the eight.
 std::optional<double> OrientacionLlamada(std::string_view texto);
 /// " (suroeste)" of 45; empty of what lies between the eight.

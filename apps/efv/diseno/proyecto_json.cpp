@@ -10,6 +10,8 @@
 
 #include <fmt/format.h>
 
+#include <quorvel/consumption/receptor_modelo.h>
+
 #include "autoconsumo/estudio_de_texto.h"
 #include "comun/consola.h"
 #include "comun/numeros.h"
@@ -149,7 +151,8 @@ estudio::ModeloGuardado ModeloDelReceptor(CSFVDataReceptor& receptor)
     CBaseReceptorModelo modelo;
     modelo.csFamilia = kFamiliaPropia;
     modelo.csModelo = receptor.csModelo;
-    PorPares(receptor, modelo, [](const auto& delReceptor, auto& delModelo) { delModelo = delReceptor; });
+    consumption::PorPares(receptor, modelo,
+                          [](const auto& delReceptor, auto& delModelo) { delModelo = delReceptor; });
     receptor.csFabricante = kFamiliaPropia;
     receptor.csModelo = Identificacion(modelo);
     return estudio::Guardado(tipo, modelo);

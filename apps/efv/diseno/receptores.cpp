@@ -7,6 +7,7 @@
 #include <fmt/format.h>
 
 #include <quorvel/catalogues.h>
+#include <quorvel/consumption/receptor_modelo.h>
 #include <quorvel/solar.h>
 
 #include "catalogo/acceso.h"
@@ -166,8 +167,7 @@ void TomarModelo(CSFVDataReceptor& receptor, const CModelo& modelo)
 {
     const auto& m = dynamic_cast<const CBaseReceptorModelo&>(modelo);
     receptor.csModelo = Identificacion(m);
-    receptor.csFabricante = m.csFamilia;
-    PorPares(receptor, m, [](auto& delReceptor, const auto& delModelo) { delReceptor = delModelo; });
+    consumption::TomarDelModelo(receptor, m);
     receptor.iReservadoA = 0;
     receptor.iReservadoB = 1;
 }

@@ -11,18 +11,6 @@
 
 namespace efv::orden {
 
-/// Calls `accion` with each figure that a load has of its model, the load's and the model's.
-template <class RECEPTOR, class MODELO, class ACCION>
-void PorPares(RECEPTOR& receptor, MODELO& modelo, ACCION accion)
-{
-    accion(receptor.dPotencia, modelo.dP);
-    accion(receptor.dVoltaje, modelo.dVs);
-    accion(receptor.dVoltajeMinimo, modelo.dVsMin);
-    accion(receptor.dRendimiento, modelo.dRend);
-    accion(receptor.iTipoRed, modelo.iTipoRed);
-    accion(receptor.iLuminaria, modelo.bIlum);
-}
-
 /// A list of loads, each an object with its `csModelo`, other fields of the load and its bands: as
 /// `dHorario`, or as `franjas` (for all days) and `horario` (a list of `franjas` for `meses` and `dias`, a
 /// later one over an earlier). Voltages, power and so on come from the catalogue where the object doesn't

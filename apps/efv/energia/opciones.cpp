@@ -70,6 +70,8 @@ constexpr const char* kAyudaRadiacion =
 // What "10,20,30" was meant for, where several values can be given.
 std::string Consejo(const OpcionNumerica& opcion, const std::string& texto)
 {
+    if (opcion.valor == &Campo::dOrientacion && texto.find_first_of("0123456789") == std::string::npos)
+        return kOrientaciones;
     const bool bLista = opcion.bVarios && std::ranges::count(texto, ',') > 1;
     return bLista ? " (varios, separados por punto y coma: '20;30;40')" : ConsejoDeNumero(texto, opcion.unidad);
 }
