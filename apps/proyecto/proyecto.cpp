@@ -143,6 +143,8 @@ void Comprobar(const CProyectoEstudio& proyecto)
            "un período de tarifa no existe");
     Exigir(!(proyecto.economia.venta.dAniosEstudio > kAnosVentaMaximo),
            "los años del estudio de venta no son posibles");
+    Exigir(proyecto.calculo.dRendimiento > 0.0 && proyecto.calculo.dRendimiento <= 1.0,
+           "el rendimiento no es posible");
     ComprobarPlanos(proyecto.planos);
 }
 
@@ -327,6 +329,13 @@ void IntercambiarRevision(CProyectoEstudio& proyecto, CArchive& ar)
     dato(proyecto.portada.csRevision);
 }
 
+void IntercambiarCalculo(CProyectoEstudio& proyecto, CArchive& ar)
+{
+    Intercambio dato(ar);
+    dato(proyecto.calculo.dRendimiento);
+    dato(proyecto.calculo.csCableado);
+}
+
 struct ClaseSeccion {
     std::wstring_view nombre;
     int iSchema;
@@ -353,6 +362,7 @@ constexpr auto kSecciones = std::to_array<ClaseSeccion>({
     {L"portada", 1, &IntercambiarPortada, L"de la portada del informe"},
     {L"celulas", 1, &IntercambiarCelulas, L"de las células"},
     {L"revision", 1, &IntercambiarRevision, L"de la revisión"},
+    {L"calculo", 1, &IntercambiarCalculo, L"del cálculo"},
 });
 constexpr std::size_t kSeccionesDelPrimerSchema = 5;
 

@@ -53,6 +53,14 @@ struct Celulas {
     bool operator==(const Celulas&) const = default;
 };
 
+/// What a project file of the command says of the calculation of its designs; usually nothing.
+struct Calculo {
+    double dRendimiento = report::ProyectoRed().Rendimiento();  ///< of a grid-connected one, fraction
+    CString csCableado;  ///< criteria of the cables, the file's object; empty: the usual ones
+
+    bool operator==(const Calculo&) const = default;
+};
+
 /// The consumption element, as its dialog takes it.
 struct Consumo {
     CString csReferencia = L"Consumo";
@@ -113,6 +121,7 @@ public:
     std::optional<Aceptacion<CSFVAsistenteAislada>> aceptadaAislada;
     std::optional<Aceptacion<CSFVAsistenteRed>> aceptadaRed;
     PortadaProyecto portada;
+    Calculo calculo;
     std::vector<SeccionAjena> ajenas;
 
     const CRuntimeClass& GetRuntimeClass() const override;

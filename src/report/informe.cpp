@@ -1,6 +1,7 @@
 #include <quorvel/report/informe.h>
 
 #include <stdexcept>
+#include <type_traits>
 
 #include <fmt/format.h>
 
@@ -34,6 +35,9 @@ auto ProyectoCon(const DISENO& diseno, const Portada& portada, const Catalogos& 
     proyecto.planos = portada.planos;
     proyecto.temperaturas = portada.temperaturas;
     proyecto.portada = portada.datos;
+    proyecto.cableado = portada.cableado;
+    if constexpr (std::is_same_v<decltype(proyecto), ProyectoRed>)
+        proyecto.dRendimiento = portada.dRendimiento;
     return proyecto;
 }
 

@@ -1,6 +1,8 @@
 #include "diseno/cableado.h"
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 #include <fmt/format.h>
 
@@ -32,41 +34,66 @@ void PonerCifra(TramoPedido& pedido, const std::string& nombre, const JsonLeido&
     }
 }
 
+void LeerCriterios(const JsonLeido& cableado, std::span<const char* const> tramos, bool bLongitudes,
+                   report::CriteriosCableado& criterios)
+{
+    if (!cableado.is_object())
+        throw rpc::ErrorValor("se esperaba un objeto");
+    TramoPedido todos;
+    todos.tramo = criterios.todos;
+    for (const auto& miembro : cableado.items())
+        if (!miembro.value().is_object())
+            PonerCifra(todos, miembro.key(), miembro.value(), false);
+    criterios.todos = todos.tramo;
+    for (const auto& miembro : cableado.items()) {
+        if (!miembro.value().is_object())
+            continue;
+        if (std::ranges::find(tramos, std::string_view(miembro.key())) == tramos.end())
+            throw rpc::ErrorValor(fmt::format("no hay ningún tramo «{}»; los tramos son {}", miembro.key(),
+                                              fmt::join(tramos, ", ")));
+        TramoPedido propio = todos;
+        rpc::NombrarLugar([&] { return miembro.key(); },
+                          [&] {
+                              for (const auto& cifra : miembro.value().items())
+                                  PonerCifra(propio, cifra.key(), cifra.value(), bLongitudes);
+                          });
+        propio.tramo.dLongitud = propio.dLongitud.value_or(0.0);
+        criterios.propios[miembro.key()] = propio.tramo;
+    }
+}
+
 }  // namespace
 
 void LeerCableado(Objeto& proyecto, std::span<const char* const> tramos, bool bLongitudes,
                   report::CriteriosCableado& criterios)
 {
-    const JsonLeido* cableado = proyecto.Buscar("cableado");
-    if (cableado == nullptr)
-        return;
-    rpc::NombrarLugar(
-        [] { return "cableado"; },
-        [&] {
-            if (!cableado->is_object())
-                throw rpc::ErrorValor("se esperaba un objeto");
-            TramoPedido todos;
-            todos.tramo = criterios.todos;
-            for (const auto& miembro : cableado->items())
-                if (!miembro.value().is_object())
-                    PonerCifra(todos, miembro.key(), miembro.value(), false);
-            criterios.todos = todos.tramo;
-            for (const auto& miembro : cableado->items()) {
-                if (!miembro.value().is_object())
-                    continue;
-                if (std::ranges::find(tramos, std::string_view(miembro.key())) == tramos.end())
-                    throw rpc::ErrorValor(fmt::format("no hay ningún tramo «{}»; los tramos son {}",
-                                                      miembro.key(), fmt::join(tramos, ", ")));
-                TramoPedido propio = todos;
-                rpc::NombrarLugar([&] { return miembro.key(); },
-                                  [&] {
-                                      for (const auto& cifra : miembro.value().items())
-                                          PonerCifra(propio, cifra.key(), cifra.value(), bLongitudes);
-                                  });
-                propio.tramo.dLongitud = propio.dLongitud.value_or(0.0);
-                criterios.propios[miembro.key()] = propio.tramo;
-            }
-        });
+    if (const JsonLeido* cableado = proyecto.Buscar("cableado"); cableado != nullptr)
+        rpc::NombrarLugar([] { return "cableado"; },
+                          [&] { LeerCriterios(*cableado, tramos, bLongitudes, criterios); });
+}
+
+report::CriteriosCableado CriteriosDeTexto(const std::string& texto)
+{
+    report::CriteriosCableado criterios;
+    if (texto.empty())
+        return criterios;
+    std::vector<const char*> tramos(std::begin(report::kTramosRed), std::end(report::kTramosRed));
+    tramos.insert(tramos.end(), std::begin(report::kTramosAislada), std::end(report::kTramosAislada));
+    LeerCriterios(AnalizarJson(texto), tramos, true, criterios);
+    return criterios;
+}
+
+JsonLeido CableadoDe(const std::string& texto, std::span<const char* const> tramos)
+{
+    JsonLeido suyo = JsonLeido::object();
+    const JsonLeido todo = AnalizarJson(texto);
+    for (const auto& miembro : todo.items()) {
+        const bool bAjeno = miembro.value().is_object() &&
+                            std::ranges::find(tramos, std::string_view(miembro.key())) == tramos.end();
+        if (!bAjeno)
+            suyo[miembro.key()] = miembro.value();
+    }
+    return suyo;
 }
 
 JsonEscrito CableadoJson(const report::Cableado& cableado)

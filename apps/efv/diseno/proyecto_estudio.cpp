@@ -11,6 +11,7 @@
 
 #include "comun/consola.h"
 #include "comun/entrada.h"
+#include "diseno/cableado.h"
 #include "diseno/calculados.h"
 #include "diseno/modelos.h"
 #include "diseno/salida.h"
@@ -99,6 +100,22 @@ void PonerCampo(JsonEscrito& json, const CProyectoEstudio& proyecto)
     }
 }
 
+void PonerCalculo(JsonEscrito& json, const CProyectoEstudio& proyecto, std::string_view tipo)
+{
+    const bool bRed = tipo == "red";
+    const std::span<const char* const> tramos =
+        bRed ? std::span<const char* const>(report::kTramosRed) : report::kTramosAislada;
+    if (!proyecto.calculo.csCableado.empty()) {
+        try {
+            json["cableado"] = CableadoDe(CadenaUtf8(proyecto.calculo.csCableado), tramos);
+        } catch (const rpc::ErrorValor&) {
+            throw std::runtime_error("sus datos del cableado están dañados");
+        }
+    }
+    if (bRed && proyecto.calculo.dRendimiento != estudio::Calculo().dRendimiento)
+        json["rendimiento"] = proyecto.calculo.dRendimiento;
+}
+
 void ExigirDiseno(bool bHay, const char* que)
 {
     if (!bHay)
@@ -170,6 +187,7 @@ JsonEscrito JsonDe(const CProyectoEstudio& proyecto, std::string_view tipo)
     }
     PonerLugar(json, proyecto);
     PonerCampo(json, proyecto);
+    PonerCalculo(json, proyecto, tipo);
     PonerModelos(json, proyecto);
     return json;
 }

@@ -16,6 +16,7 @@
 #include "comun/consola.h"
 #include "comun/numeros.h"
 #include "comun/parecidos.h"
+#include "diseno/cableado.h"
 #include "diseno/diseno.h"
 #include "diseno/modelos.h"
 #include "diseno/proyecto.h"
@@ -128,16 +129,13 @@ void TomarRegistro(const Diseno& diseno, CObject& registro)
     registro.Serialize(ar);
 }
 
-// What the desktop program works out with its own figures.
-void Anotar(const JsonLeido& json, std::vector<std::string>& notas)
+// What the calculation of a design takes besides the record.
+void TomarCalculo(const JsonLeido& json, CProyectoEstudio& proyecto)
 {
     if (json.contains("cableado"))
-        notas.emplace_back("«cableado» no se toma: aquí los cables se calculan con los criterios habituales.");
-    const double dHabitual = report::ProyectoRed().Rendimiento();
-    if (json.contains("rendimiento") && json["rendimiento"].get<double>() != dHabitual) {
-        notas.push_back(fmt::format("«rendimiento» no se toma: aquí la energía se calcula con {}.",
-                                    DecimalExacto(dHabitual)));
-    }
+        proyecto.calculo.csCableado = CadenaDesdeUtf8(json["cableado"].dump());
+    if (json.contains("rendimiento"))
+        proyecto.calculo.dRendimiento = json["rendimiento"].get<double>();
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -183,7 +181,7 @@ void TomarAislada(const JsonLeido& json, const std::string& csDatos, ProyectoDeJ
     proyecto.consumo.iTipoEntrada = 1;
     proyecto.aceptadaAislada.emplace().modelos = std::move(diseno.modelos);
     TomarCampo(json, proyecto);
-    Anotar(json, leido.notas);
+    TomarCalculo(json, proyecto);
 }
 
 void TomarRed(const JsonLeido& json, const std::string& csDatos, ProyectoDeJson& leido)
@@ -192,7 +190,7 @@ void TomarRed(const JsonLeido& json, const std::string& csDatos, ProyectoDeJson&
     TomarRegistro(diseno, leido.proyecto->red);
     leido.proyecto->aceptadaRed.emplace().modelos = std::move(diseno.modelos);
     TomarCampo(json, *leido.proyecto);
-    Anotar(json, leido.notas);
+    TomarCalculo(json, *leido.proyecto);
 }
 
 void TomarVenta(const JsonLeido& json, const std::string& csDatos, ProyectoDeJson& leido)
@@ -212,6 +210,11 @@ void TomarAutoconsumo(const std::string& ruta, ProyectoDeJson& leido)
 }
 
 }  // namespace
+
+report::CriteriosCableado CriteriosDe(const CProyectoEstudio& proyecto)
+{
+    return CriteriosDeTexto(CadenaUtf8(proyecto.calculo.csCableado));
+}
 
 ProyectoDeJson AbrirProyectoJson(const std::string& ruta, const std::string& csDatos)
 {

@@ -20,4 +20,7 @@ struct ProyectoDeJson {
 /// @throws std::exception with the command's text; a climate record that the file names stays loaded
 ProyectoDeJson AbrirProyectoJson(const std::string& ruta, const std::string& csDatos);
 
+/// The criteria of the cables that a project keeps. @throws std::exception for a damaged one
+report::CriteriosCableado CriteriosDe(const estudio::CProyectoEstudio& proyecto);
+
 }  // namespace efv::orden

@@ -3,6 +3,8 @@
 
 #include <QuorvelEFV.h>
 
+#include "proyecto/proyecto.h"
+
 namespace efv::estudio {
 
 using report::BancoAcumuladores;
@@ -33,7 +35,9 @@ inline std::vector<Carga> CargasDe(const CSFVAsistenteAislada& diseno)
     return report::CargasDe(diseno, CatalogosDelModulo());
 }
 
-/// The cables of a design, each with what its kind has by default.
+/// From now on the cables of designs follow the criteria that the project keeps. @throws std::exception
+void UsarCriteriosDe(const CProyectoEstudio& proyecto);
+/// The cables of a design, by these.
 report::Cableado CableadoDe(const CSFVAsistenteRed& diseno);
 report::Cableado CableadoDe(const CSFVAsistenteAislada& diseno);
 

@@ -4,6 +4,7 @@
 
 #include "comun/pagina.h"
 #include "diseno/equipos.h"
+#include "efv/diseno/proyecto_json.h"
 #include "energia/planos.h"
 #include "guardar.h"
 #include "pdf/pdf.h"
@@ -51,6 +52,9 @@ report::Portada PortadaDe(const CProyectoEstudio& proyecto)
         portada.temperaturas.dMinima = proyecto.celulas.dMinima;
     if (proyecto.celulas.dMaxima != porDefecto.dMaxima)
         portada.temperaturas.dMaxima = proyecto.celulas.dMaxima;
+    portada.cableado = orden::CriteriosDe(proyecto);
+    if (proyecto.calculo.dRendimiento != Calculo().dRendimiento)
+        portada.dRendimiento = proyecto.calculo.dRendimiento;
     return portada;
 }
 

@@ -6,6 +6,7 @@
 
 #include <quorvel/mundo.h>
 
+#include "efv/diseno/proyecto_json.h"
 #include "guardar.h"
 
 namespace efv::estudio {
@@ -56,6 +57,11 @@ std::unique_ptr<CProyectoEstudio> ProyectoDe(std::span<const std::byte> bytes)
         proyecto->Serialize(ar);
     } catch (const CArchiveException&) {
         throw std::runtime_error("El proyecto está cortado: acaba antes de tiempo.");
+    }
+    try {
+        orden::CriteriosDe(*proyecto);
+    } catch (const std::exception& fallo) {
+        throw std::runtime_error(std::string("El proyecto está dañado: cableado: ") + fallo.what());
     }
     return proyecto;
 }

@@ -300,6 +300,7 @@ void UsarModelosDe(const CProyectoEstudio& proyecto)
     anadir(proyecto.aislada);
     anadir(proyecto.red);
     PonerModelosGuardados(equipos, guardados);
+    UsarCriteriosDe(proyecto);
 }
 
 }  // namespace efv::estudio

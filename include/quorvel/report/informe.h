@@ -15,6 +15,8 @@ struct Portada {
     PlanosDiseno planos = {};
     TemperaturasCelulas temperaturas = {};
     DatosPortada datos = {};
+    CriteriosCableado cableado = {};
+    std::optional<double> dRendimiento = {};  ///< of a grid-connected one, fraction
 };
 
 /// The report of an accepted design: its document, warnings included.

@@ -43,6 +43,29 @@ TEST_F(ProyectoDeEstudio, ElJsonHechoProyectoDaLasMismasCifras)
     }
 }
 
+// The project keeps what the file says of its cables and losses, each kind of design only its own stretches.
+TEST_F(ProyectoDeEstudio, ElCableadoYElRendimientoVanConElProyecto)
+{
+    for (const auto& [orden, ejemplo, cableado] :
+         {std::tuple("red", "cubierta-red.json",
+                     R"({"limite": 0.5, "material": "Al", "L2": {"metodo": "D1"}})"),
+          {"aislada", "casa-aislada.json", R"({"limite": 3, "paneles": {"longitud": 20}})"}}) {
+        Json json = Json::parse(LeerTodo(kEjemplos / ejemplo));
+        json["cableado"] = Json::parse(cableado);
+        if (std::string_view(orden) == "red")
+            json["rendimiento"] = 0.7;
+        const std::string ruta = m_carpeta.Crear("c.json", json.dump());
+        const ProyectoDeJson leido = AbrirProyectoJson(ruta, "");
+        EXPECT_TRUE(leido.notas.empty());
+        const Json suyo = Valores(orden, ruta), otro = Valores(orden, Guardar(*leido.proyecto));
+        EXPECT_EQ(suyo["cableado"], otro["cableado"]);
+        EXPECT_EQ(suyo["meses"], otro["meses"]);
+        leido.proyecto->calculo.csCableado += L"}";
+        EXPECT_TRUE(Contiene(Correr({orden, Guardar(*leido.proyecto)}).errores, {"cableado están dañados"}));
+        EXPECT_THROW(CriteriosDe(*leido.proyecto), std::exception);
+    }
+}
+
 // Without a word of its kind, with a module and a load that no catalogue has.
 TEST_F(ProyectoDeEstudio, LosModelosPropiosVanConElProyecto)
 {
