@@ -23,22 +23,49 @@ constexpr double kCuerpoNota = 8.0;
 // Cover and contents
 // ---------------------------------------------------------------------------------------------------
 
-// The cover has room for four lines of each.
-std::vector<CString> Primeras(std::vector<CString> lineas)
+std::vector<CString> Primeras(std::vector<CString> lineas, std::size_t nLineas)
 {
-    constexpr std::size_t kLineas = 4;
-    if (lineas.size() > kLineas) {
-        lineas.resize(kLineas);
+    if (lineas.size() > nLineas) {
+        lineas.resize(nLineas);
         lineas.back() += L'…';
     }
     return lineas;
 }
 
+constexpr double kCuerpoDato = 10.5, kRenglonDato = 15.0, kTrasDato = 4.0, kRotulosPortada = 85.0;
+
+struct DatoPortada {
+    CString csRotulo;
+    std::vector<CString> lineas;
+};
+
+// Four lines of each at most, and fewer where the sheet has no room for as many.
+std::vector<DatoPortada> DatosQueCaben(const Documento& documento, const std::string& fecha, double dResto,
+                                       const Pliego& pliego)
+{
+    constexpr std::size_t kLineas = 4;
+    std::vector<DatoPortada> datos;
+    for (std::size_t nLineas = kLineas; nLineas > 0; --nLineas) {
+        datos.clear();
+        double dAlto = 0.0;
+        for (const auto& [rotulo, texto] : DatosDePortada(documento, fecha)) {
+            DatoPortada dato{EnHoja(rotulo), EnLineas(EnHoja(texto), {kCuerpoDato},
+                                                      pliego.Ancho() - kRotulosPortada, pliego.medidor)};
+            dato.lineas = Primeras(std::move(dato.lineas), nLineas);
+            dAlto += static_cast<double>(dato.lineas.size()) * kRenglonDato + kTrasDato;
+            datos.push_back(std::move(dato));
+        }
+        if (dAlto <= dResto)
+            break;
+    }
+    return datos;
+}
+
 void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& pliego)
 {
-    constexpr double kCuerpoTitulo = 25.0, kRenglonTitulo = 31.0, kCuerpoDato = 10.5, kRenglonDato = 15.0;
-    constexpr double kSobreTitulo = 151.0, kBajoFirma = 92.0, kRotulos = 85.0, kAnchoFirma = 230.0;
-    pliego.y = pliego.Arriba() + kSobreTitulo;
+    constexpr double kCuerpoTitulo = 25.0, kRenglonTitulo = 31.0, kSobreTitulo = 151.0, kParteSobre = 0.21;
+    constexpr double kBajoFirma = 92.0, kAnchoFirma = 230.0;
+    pliego.y = pliego.Arriba() + std::min(kSobreTitulo, kParteSobre * pliego.Entera());
     pliego.Fondo(pliego.Izquierda(), pliego.y - kRenglonTitulo - 14.0, 64.0, 4.0, papel::kAzul);
     for (const CString& csLinea :
          EnLineas(EnHoja(documento.titulo), {kCuerpoTitulo, true}, pliego.Ancho(), pliego.medidor)) {
@@ -47,23 +74,25 @@ void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& 
         pliego.Bajar(kRenglonTitulo);
     }
     pliego.Bajar(kRenglonTitulo);
-    for (const auto& [rotulo, texto] : DatosDePortada(documento, fecha)) {
-        pliego.Escribir(pliego.Izquierda(), pliego.y, kRotulos, EnHoja(rotulo), {kCuerpoDato}, papel::kTenue);
-        for (const CString& csLinea :
-             Primeras(EnLineas(EnHoja(texto), {kCuerpoDato}, pliego.Ancho() - kRotulos, pliego.medidor))) {
-            pliego.Escribir(pliego.Izquierda() + kRotulos, pliego.y, pliego.Ancho(), csLinea, {kCuerpoDato},
-                            papel::kTinta);
+    const double dFirma = pliego.y + pliego.Resto() - kBajoFirma;
+    for (const DatoPortada& dato : DatosQueCaben(documento, fecha, dFirma - pliego.y, pliego)) {
+        pliego.Escribir(pliego.Izquierda(), pliego.y, kRotulosPortada, dato.csRotulo, {kCuerpoDato},
+                        papel::kTenue);
+        for (const CString& csLinea : dato.lineas) {
+            pliego.Escribir(pliego.Izquierda() + kRotulosPortada, pliego.y, pliego.Ancho(), csLinea,
+                            {kCuerpoDato}, papel::kTinta);
             pliego.Bajar(kRenglonDato);
         }
-        pliego.Bajar(4.0);
+        pliego.Bajar(kTrasDato);
     }
     if (documento.portada.firma.empty())
         return;
-    const double dFirma = pliego.y + pliego.Resto() - kBajoFirma;
     pliego.Raya(pliego.Izquierda(), dFirma, kAnchoFirma, papel::kTinta, 0.7);
     double dBase = dFirma + kRenglonDato;
-    for (const CString& csLinea : Primeras(EnLineas(EnHoja("Firma: " + documento.portada.firma), {kCuerpoDato},
-                                                    kAnchoFirma, pliego.medidor))) {
+    constexpr std::size_t kLineasFirma = 4;
+    for (const CString& csLinea : Primeras(
+             EnLineas(EnHoja("Firma: " + documento.portada.firma), {kCuerpoDato}, kAnchoFirma, pliego.medidor),
+             kLineasFirma)) {
         pliego.Escribir(pliego.Izquierda(), dBase, kAnchoFirma, csLinea, {kCuerpoDato}, papel::kTinta);
         dBase += kRenglonDato;
     }
@@ -137,10 +166,8 @@ TablaHoja TablaDe(const std::vector<Dato>& datos)
     tabla.bCabecera = false;
     tabla.columnas = {{CString(), false}, {CString(), true}};
     for (const Dato& dato : DatosEnPagina(datos)) {
-        FilaHoja fila;
-        fila.celdas = {EnHoja(dato.rotulo), EnHoja(dato.bFalta ? dato.valor + " (fuera)" : dato.valor)};
-        fila.bFalta = dato.bFalta;
-        tabla.filas.push_back(std::move(fila));
+        const std::string valor = dato.bFalta ? dato.valor + " (fuera)" : dato.valor;
+        tabla.filas.push_back({{{EnHoja(dato.rotulo), dato.bFalta}, {EnHoja(valor), dato.bFalta}}});
     }
     return tabla;
 }
@@ -154,7 +181,7 @@ TablaHoja TablaDe(const Cuadro& cuadro)
     for (std::size_t f = 0; f < cuadro.filas.size(); ++f) {
         FilaHoja& fila = tabla.filas.emplace_back();
         for (const std::string& celda : FilaEnPagina(cuadro, cuadro.filas[f]))
-            fila.celdas.push_back(EnHoja(celda));
+            fila.celdas.push_back({EnHoja(celda), Incumple(celda)});
         fila.bTotal = cuadro.bTotal && f + 1 == cuadro.filas.size();
     }
     return tabla;
@@ -185,20 +212,27 @@ BloqueParrafo::Aspecto Punto(ui::Color color, double dCuerpo)
     return {.dSangria = 10.0, .csMarca = L"·", .color = color, .dCuerpo = dCuerpo};
 }
 
+void AnadirGraficas(std::span<const CCtrlCurva2D> graficas, const Pliego& pliego, Bloques& bloques)
+{
+    const std::size_t nColumnas = BloqueGraficas::Columnas(graficas.size(), pliego);
+    for (; !graficas.empty(); graficas = graficas.subspan(std::min(nColumnas, graficas.size())))
+        Anadir<BloqueGraficas>(bloques, graficas.first(std::min(nColumnas, graficas.size())), nColumnas);
+}
+
 void AnadirSeccion(const Documento& documento, const Seccion& seccion, const Pliego& pliego, Bloques& bloques)
 {
     Anadir<BloqueTitular>(bloques, seccion.titulo);
-    for (std::size_t i = 0; i < seccion.laminas.size(); ++i) {
-        if (seccion.laminas.size() > 1)
-            Anadir<BloqueParrafo>(bloques, HojaDeEsquema(seccion, i), PieDeLamina(), pliego);
-        Anadir<BloqueLamina>(bloques, seccion.laminas[i], pliego);
+    std::vector<Lamina> laminas = LaminasDe(seccion, pliego.papel);
+    for (std::size_t i = 0; i < laminas.size(); ++i) {
+        if (laminas.size() > 1)
+            Anadir<BloqueParrafo>(bloques, HojaDeEsquema(i, laminas.size()), PieDeLamina(), pliego);
+        Anadir<BloqueLamina>(bloques, std::move(laminas[i]), pliego);
     }
     if (TablaHoja datos = TablaDe(seccion.datos); !datos.filas.empty())
-        Anadir<BloqueTabla>(bloques, std::move(datos), pliego);
-    for (const CCtrlCurva2D& grafica : seccion.graficas)
-        Anadir<BloqueGrafica>(bloques, grafica);
+        Anadir<BloqueTabla>(bloques, Plegada(std::move(datos), pliego), pliego);
+    AnadirGraficas(seccion.graficas, pliego, bloques);
     for (const Cuadro& cuadro : seccion.cuadros)
-        Anadir<BloqueTabla>(bloques, TablaDe(cuadro), pliego);
+        Anadir<BloqueTabla>(bloques, Plegada(TablaDe(cuadro), pliego), pliego);
     for (const std::string& nota : seccion.notas)
         Anadir<BloqueParrafo>(bloques, nota, Nota(), pliego);
     for (const std::string& supuesto : SupuestosDe(documento, seccion))

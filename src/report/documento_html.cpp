@@ -49,26 +49,39 @@ tbody th { font-weight: 400; }
 figure { margin: 1rem 0; }
 figure svg { max-width: 100%; height: auto; border: 1px solid var(--linea); }
 footer { margin-top: 2rem; border-top: 1px solid var(--linea); padding-top: .5rem; color: var(--tenue); font-size: .85rem; }
-@page { size: A4; margin: 16mm 14mm; @bottom-right { content: "Página " counter(page) " de " counter(pages); } }
 @media print {
   html { font-size: 9pt; }
   body { max-width: none; padding: 0; line-height: 1.3; }
   header { break-after: page; }
-  h1 { margin-top: 50mm; }
   h2 { break-after: avoid; margin: 1rem 0 .4rem; }
   caption { break-after: avoid; }
   tr, figure, li, .avisos, .resumen { break-inside: avoid; }
   h2 + table, h2 + figure { break-before: avoid; }
   thead { display: table-header-group; }
-  .datos { width: 100%; }
+  .datos { width: 100%; max-width: 178mm; }
+  p, li { max-width: 212mm; }
+  .graficas { display: grid; grid-template-columns: repeat(auto-fit, minmax(102mm, 1fr)); gap: 0 5mm; }
   th, td { padding: .12rem .5rem; }
   figure { margin: .5rem 0; }
   figure svg { max-height: 68mm; }
-  figure.esquema svg { width: 100%; max-height: 245mm; }
+  figure.esquema svg { width: 100%; }
   footer { margin-top: .75rem; break-before: avoid; }
   * { print-color-adjust: exact; -webkit-print-color-adjust: exact; }
 }
 )";
+
+// The sheets that it prints on; a drawing keeps room for its heading.
+std::string EstilosDePapel(const Papel& papel)
+{
+    constexpr double kPorPunto = 25.4 / 72.0, kTitulares = 18.0, kPortada = 0.19;
+    const auto mm = [](double dPuntos) { return fmt::format("{:.1f}mm", dPuntos * kPorPunto); };
+    return fmt::format(
+        "@page {{ size: {} {}; margin: {} {} {} {};\n"
+        "        @bottom-right {{ content: \"Página \" counter(page) \" de \" counter(pages); }} }}\n"
+        "@media print {{ h1 {{ margin-top: {}; }} figure.esquema svg {{ max-height: {:.1f}mm; }} }}\n",
+        mm(papel.dAncho), mm(papel.dAlto), mm(papel.dArriba), mm(papel.dDerecha), mm(papel.dAbajo),
+        mm(papel.dIzquierda), mm(kPortada * papel.AltoColumna()), papel.AltoColumna() * kPorPunto - kTitulares);
+}
 
 std::string Valor(const Dato& dato)
 {
@@ -100,8 +113,11 @@ std::string CuadroHtml(const Cuadro& cuadro)
         const std::vector<std::string> fila = FilaEnPagina(cuadro, cuadro.filas[f]);
         for (std::size_t c = 0; c < fila.size(); ++c) {
             const char* clase = c < cuadro.columnas.size() && cuadro.columnas[c].second ? " class=\"n\"" : "";
-            html += c == 0 ? fmt::format("<th scope=\"row\"{}>{}</th>", clase, Escapado(fila[c]))
-                           : fmt::format("<td{}>{}</td>", clase, Escapado(fila[c]));
+            const std::string celda = Incumple(fila[c])
+                                          ? fmt::format("<span class=\"falta\">{}</span>", Escapado(fila[c]))
+                                          : Escapado(fila[c]);
+            html += c == 0 ? fmt::format("<th scope=\"row\"{}>{}</th>", clase, celda)
+                           : fmt::format("<td{}>{}</td>", clase, celda);
         }
         html += "</tr>\n";
     }
@@ -140,20 +156,24 @@ std::string SupuestosHtml(const Documento& documento, const Seccion& seccion)
     return html;
 }
 
-std::string SeccionHtml(const Documento& documento, std::size_t iSeccion)
+std::string SeccionHtml(const Documento& documento, std::size_t iSeccion, const Papel& papel)
 {
     constexpr int kAnchoGrafica = 760, kAltoGrafica = 340;
     const Seccion& seccion = documento.secciones[iSeccion];
     std::string html = fmt::format("<section aria-labelledby=\"s{0}\">\n<h2 id=\"s{0}\">{1}</h2>\n",
                                    iSeccion + 1, Escapado(seccion.titulo));
-    for (std::size_t i = 0; i < seccion.laminas.size(); ++i) {
-        if (seccion.laminas.size() > 1)
-            html += fmt::format("<p class=\"nota\">{}</p>\n", HojaDeEsquema(seccion, i));
-        html += FiguraHtml(EscribirSvg(seccion.laminas[i]), " class=\"esquema\"");
+    const std::vector<Lamina> laminas = LaminasDe(seccion, papel);
+    for (std::size_t i = 0; i < laminas.size(); ++i) {
+        if (laminas.size() > 1)
+            html += fmt::format("<p class=\"nota\">{}</p>\n", HojaDeEsquema(i, laminas.size()));
+        html += FiguraHtml(EscribirSvg(laminas[i]), " class=\"esquema\"");
     }
     html += DatosHtml(seccion);
+    std::string graficas;
     for (const CCtrlCurva2D& grafica : seccion.graficas)
-        html += FiguraHtml(ui::EscribirSvg(grafica, kAnchoGrafica, kAltoGrafica));
+        graficas += FiguraHtml(ui::EscribirSvg(grafica, kAnchoGrafica, kAltoGrafica));
+    if (!graficas.empty())
+        html += fmt::format("<div class=\"graficas\">\n{}</div>\n", graficas);
     for (const Cuadro& cuadro : seccion.cuadros)
         html += CuadroHtml(cuadro);
     for (const std::string& nota : seccion.notas)
@@ -209,20 +229,20 @@ std::string IndiceHtml(const Documento& documento, bool bSupuestos)
 
 }  // namespace
 
-std::string DocumentoHtml(const Documento& documento, const std::string& fecha)
+std::string DocumentoHtml(const Documento& documento, const std::string& fecha, const Papel& papel)
 {
     const std::string titulo =
         documento.proyecto.empty() ? documento.titulo : documento.proyecto + " · " + documento.titulo;
     std::string html = fmt::format(
         "<!DOCTYPE html>\n<html lang=\"es\">\n<head>\n<meta charset=\"utf-8\"/>\n"
         "<meta name=\"viewport\" content=\"width=device-width, initial-scale=1\"/>\n<title>{}</title>\n"
-        "<style>{}</style>\n</head>\n<body>\n",
-        Escapado(titulo), kEstilos);
+        "<style>{}{}</style>\n</head>\n<body>\n",
+        Escapado(titulo), kEstilos, EstilosDePapel(papel));
     const std::vector<std::string> supuestos = Escapados(SupuestosSueltos(documento));
     html += PortadaHtml(documento, fecha) + IndiceHtml(documento, !supuestos.empty()) + "<main>\n";
     html += ResumenHtml(documento.resumen) + AvisosHtml(documento.avisos);
     for (std::size_t i = 0; i < documento.secciones.size(); ++i)
-        html += SeccionHtml(documento, i);
+        html += SeccionHtml(documento, i, papel);
     if (!supuestos.empty()) {
         html += "<section aria-labelledby=\"supuestos\">\n<h2 id=\"supuestos\">Supuestos generales</h2>\n" +
                 Lista(supuestos) + "</section>\n";

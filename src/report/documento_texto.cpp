@@ -5,6 +5,8 @@
 #include <quorvel/report/documento.h>
 #include <quorvel/report/texto.h>
 
+#include "report/pagina.h"
+
 namespace efv::report {
 
 namespace {
@@ -56,8 +58,7 @@ std::string CuadroTexto(const Cuadro& cuadro, const FormaTexto& forma)
             celdas.push_back((celdas.empty() ? "  " : "") + EnUnaLinea(celda));
         if (cuadro.bTotal && f + 1 == cuadro.filas.size())
             tabla.Raya();
-        const bool bFalta = std::ranges::any_of(
-            celdas, [](const std::string& celda) { return celda.find(kNoCumple) != std::string::npos; });
+        const bool bFalta = std::ranges::any_of(celdas, &Incumple);
         tabla.Fila(std::move(celdas), bFalta);
     }
     return tabla.Texto(forma);

@@ -1,6 +1,8 @@
 #include "report/hoja_bloques.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 #include "report/hoja_dibujo.h"
 
@@ -11,8 +13,15 @@ namespace {
 constexpr double kAntesTitular = 12.0, kCuerpoTitular = 13.0, kAltoTitular = 26.0;
 constexpr double kAltoGrafica = 185.0, kAltoGraficaMinimo = 140.0, kTrasFigura = 10.0;
 constexpr double kPuntosPorUnidad = 0.88;  // letters of 11.5 units are some 2.6 mm high then
-constexpr std::size_t kFichasPorFila = 3;
-constexpr double kEntreFichas = 8.0, kCuerpoRotulo = 7.5, kCuerpoValor = 11.0, kLadoFicha = 8.0;
+constexpr double kAnchoGraficaMinimo = 290.0, kEntreGraficas = 14.0;
+constexpr double kAnchoFicha = 155.0, kEntreFichas = 8.0, kCuerpoRotulo = 7.5, kCuerpoValor = 11.0,
+                 kLadoFicha = 8.0;
+
+// As many as have that width, at least one.
+std::size_t CuantosCaben(double dAncho, double dCadaUno, double dEntre)
+{
+    return static_cast<std::size_t>(std::max(1.0, std::floor((dAncho + dEntre) / (dCadaUno + dEntre))));
+}
 
 }  // namespace
 
@@ -34,8 +43,8 @@ void BloqueTitular::Poner(Pliego& pliego) const
 
 BloqueParrafo::BloqueParrafo(const std::string& texto, Aspecto aspecto, const Pliego& pliego)
     : m_aspecto(std::move(aspecto)),
-      m_lineas(
-          EnLineas(EnHoja(texto), {m_aspecto.dCuerpo}, pliego.Ancho() - m_aspecto.dSangria, pliego.medidor))
+      m_lineas(EnLineas(EnHoja(texto), {m_aspecto.dCuerpo},
+                        std::min(pliego.Ancho(), papel::kAnchoLectura) - m_aspecto.dSangria, pliego.medidor))
 {
 }
 
@@ -66,25 +75,37 @@ void BloqueParrafo::Poner(Pliego& pliego) const
     pliego.Bajar(m_aspecto.dDetras);
 }
 
-double BloqueGrafica::Minimo(double dResto) const
+// Rows of the same number as far as it goes.
+std::size_t BloqueGraficas::Columnas(std::size_t nGraficas, const Pliego& pliego)
+{
+    const std::size_t nCaben = CuantosCaben(pliego.Ancho(), kAnchoGraficaMinimo, kEntreGraficas);
+    const std::size_t nFilas = (nGraficas + nCaben - 1) / nCaben;
+    return nFilas == 0 ? 1 : (nGraficas + nFilas - 1) / nFilas;
+}
+
+double BloqueGraficas::Minimo(double dResto) const
 {
     return dResto >= kAltoGraficaMinimo ? std::min(dResto, kAltoGrafica) : kAltoGrafica;
 }
 
-void BloqueGrafica::Poner(Pliego& pliego) const
+void BloqueGraficas::Poner(Pliego& pliego) const
 {
     const double dAlto = std::min(pliego.Resto(), kAltoGrafica);
-    PonerGrafica(pliego.Piezas(), m_grafica, {pliego.Izquierda(), pliego.y}, pliego.Ancho(), dAlto,
-                 pliego.medidor);
+    const double dPaso = (pliego.Ancho() + kEntreGraficas) / static_cast<double>(m_nColumnas);
+    double x = pliego.Izquierda();
+    for (const CCtrlCurva2D& grafica : m_graficas) {
+        PonerGrafica(pliego.Piezas(), grafica, {x, pliego.y}, dPaso - kEntreGraficas, dAlto, pliego.medidor);
+        x += dPaso;
+    }
     pliego.Bajar(dAlto + kTrasFigura);
 }
 
 // As wide as the column at most; a schematic laid out for the sheet is hardly higher than it.
-BloqueLamina::BloqueLamina(const Lamina& lamina, const Pliego& pliego)
-    : m_lamina(lamina),
-      m_dEscala(lamina.dAncho > 0.0 && lamina.dAlto > 0.0
-                    ? std::min({kPuntosPorUnidad, pliego.Ancho() / lamina.dAncho,
-                                (pliego.Entera() - kAltoTitular) / lamina.dAlto})
+BloqueLamina::BloqueLamina(Lamina lamina, const Pliego& pliego)
+    : m_lamina(std::move(lamina)),
+      m_dEscala(m_lamina.dAncho > 0.0 && m_lamina.dAlto > 0.0
+                    ? std::min({kPuntosPorUnidad, pliego.Ancho() / m_lamina.dAncho,
+                                (pliego.Entera() - kAltoTitular) / m_lamina.dAlto})
                     : 0.0)
 {
 }
@@ -105,8 +126,8 @@ void BloqueLamina::Poner(Pliego& pliego) const
 }
 
 BloqueResumen::BloqueResumen(const std::vector<Dato>& datos, const Pliego& pliego)
-    : m_dAncho((pliego.Ancho() - static_cast<double>(kFichasPorFila - 1) * kEntreFichas) /
-               static_cast<double>(kFichasPorFila))
+    : m_nPorFila(CuantosCaben(pliego.Ancho(), kAnchoFicha, kEntreFichas)),
+      m_dAncho((pliego.Ancho() + kEntreFichas) / static_cast<double>(m_nPorFila) - kEntreFichas)
 {
     std::size_t nLineas = 1;
     for (const Dato& dato : datos) {
@@ -121,7 +142,7 @@ BloqueResumen::BloqueResumen(const std::vector<Dato>& datos, const Pliego& plieg
 
 double BloqueResumen::Minimo(double /*dResto*/) const
 {
-    const std::size_t nFilas = (m_fichas.size() + kFichasPorFila - 1) / kFichasPorFila;
+    const std::size_t nFilas = (m_fichas.size() + m_nPorFila - 1) / m_nPorFila;
     return static_cast<double>(nFilas) * (m_dAlto + kEntreFichas);
 }
 
@@ -129,8 +150,7 @@ void BloqueResumen::Poner(Pliego& pliego) const
 {
     for (std::size_t i = 0; i < m_fichas.size(); ++i) {
         const Ficha& ficha = m_fichas[i];
-        const double x =
-            pliego.Izquierda() + static_cast<double>(i % kFichasPorFila) * (m_dAncho + kEntreFichas);
+        const double x = pliego.Izquierda() + static_cast<double>(i % m_nPorFila) * (m_dAncho + kEntreFichas);
         pliego.Fondo(x, pliego.y, m_dAncho, m_dAlto, papel::kFondo);
         pliego.Fondo(x, pliego.y, 3.0, m_dAlto, papel::kAzul);
         pliego.Escribir(x + kLadoFicha, pliego.y + 12.0, m_dAncho, ficha.csRotulo, {kCuerpoRotulo},
@@ -141,7 +161,7 @@ void BloqueResumen::Poner(Pliego& pliego) const
                             ficha.bFalta ? papel::kRojo : papel::kTinta);
             dBase += kCuerpoValor * 1.3;
         }
-        if (i % kFichasPorFila + 1 == kFichasPorFila || i + 1 == m_fichas.size())
+        if (i % m_nPorFila + 1 == m_nPorFila || i + 1 == m_fichas.size())
             pliego.Bajar(m_dAlto + kEntreFichas);
     }
 }

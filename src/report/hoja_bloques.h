@@ -1,6 +1,8 @@
 // What sheets are made of besides tables.
 #pragma once
 
+#include <span>
+
 #include <quorvel/report/lamina.h>
 
 #include "report/hoja_pliego.h"
@@ -46,28 +48,36 @@ private:
     std::vector<CString> m_lineas;
 };
 
-/// A chart, whole; where little room is left, somewhat lower.
-class BloqueGrafica final : public Bloque {
+/// Charts beside each other, whole; where little room is left, somewhat lower.
+class BloqueGraficas final : public Bloque {
 public:
-    explicit BloqueGrafica(const CCtrlCurva2D& grafica) : m_grafica(grafica) {}
+    /// @param nColumnas places, of which the last ones may stay empty
+    BloqueGraficas(std::span<const CCtrlCurva2D> graficas, std::size_t nColumnas)
+        : m_graficas(graficas), m_nColumnas(nColumnas)
+    {
+    }
+
+    /// Places of a row that many charts stand in.
+    static std::size_t Columnas(std::size_t nGraficas, const Pliego& pliego);
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
 
 private:
-    const CCtrlCurva2D& m_grafica;
+    std::span<const CCtrlCurva2D> m_graficas;
+    std::size_t m_nColumnas;
 };
 
 /// A schematic, or one of its sheets, whole.
 class BloqueLamina final : public Bloque {
 public:
-    BloqueLamina(const Lamina& lamina, const Pliego& pliego);
+    BloqueLamina(Lamina lamina, const Pliego& pliego);
 
     double Minimo(double dResto) const override;
     void Poner(Pliego& pliego) const override;
 
 private:
-    const Lamina& m_lamina;
+    Lamina m_lamina;
     double m_dEscala;
 };
 
@@ -87,6 +97,7 @@ private:
     };
 
     std::vector<Ficha> m_fichas;
+    std::size_t m_nPorFila;
     double m_dAncho;       ///< of one
     double m_dAlto = 0.0;  ///< of a row of them
 };

@@ -13,6 +13,7 @@ namespace papel {
 inline constexpr ui::Color kTinta = 0x33271D, kTenue = 0x75675A, kRaya = 0xDCD5CE, kFondo = 0xF6F3F0,
                            kAzul = 0x9C4F1A, kRojo = 0x1E26B3;
 inline constexpr double kCuerpo = 9.0, kRenglon = 12.5;
+inline constexpr double kAnchoLectura = 600.0;
 }  // namespace papel
 
 class Pliego {
@@ -27,9 +28,11 @@ public:
     void Bajar(double d) { y += d; }
     /// The column of the sheets.
     double Izquierda() const { return papel.dIzquierda; }
-    double Ancho() const { return papel.dAncho - papel.dIzquierda - papel.dDerecha; }
+    double Ancho() const { return papel.AnchoColumna(); }
+    /// Whether lines of text across the whole column are too long to be read.
+    bool EsAncha() const { return Ancho() > papel::kAnchoLectura; }
     double Arriba() const { return papel.dArriba; }
-    double Entera() const { return papel.dAlto - papel.dAbajo - papel.dArriba; }
+    double Entera() const { return papel.AltoColumna(); }
     double Resto() const { return papel.dAlto - papel.dAbajo - y; }
 
     std::vector<Pieza>& Piezas() { return impreso.hojas.back().piezas; }

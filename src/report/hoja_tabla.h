@@ -10,18 +10,26 @@ struct ColumnaHoja {
     bool bNumero = false;  ///< stands on the right, and isn't broken
 };
 
-struct FilaHoja {
-    std::vector<CString> celdas;  ///< missing ones at the end stay empty
-    bool bTotal = false;
+struct CeldaHoja {
+    CString cs = {};
     bool bFalta = false;  ///< told in red
+};
+
+struct FilaHoja {
+    std::vector<CeldaHoja> celdas = {};  ///< missing ones at the end stay empty
+    bool bTotal = false;
 };
 
 struct TablaHoja {
     CString csTitulo;
     std::vector<ColumnaHoja> columnas;
     bool bCabecera = true;
-    std::vector<FilaHoja> filas;
+    std::vector<FilaHoja> filas = {};
+    bool bJunta = false;  ///< on one sheet where one holds it
 };
+
+/// On a wide sheet the two halves of a long table of captions and values, beside each other.
+TablaHoja Plegada(TablaHoja tabla, const Pliego& pliego);
 
 class BloqueTabla final : public Bloque {
 public:
@@ -40,18 +48,23 @@ private:
         double dAlto = 0.0;
     };
 
+    double AnchoEn(const Pliego& pliego) const;
+    double Sangria(std::size_t c) const;
     bool Repartir(double dCuerpo, const Pliego& pliego);
-    Celdas Partir(const std::vector<CString>& celdas, bool bNegrita, const MedidorLetra& medidor) const;
+    Celdas Partir(const FilaHoja& fila, const MedidorLetra& medidor) const;
     double AltoCabecera() const;
+    double AltoEntero() const;
     double AltoConLaSiguiente(std::size_t nFila) const;
     void PonerCabecera(Pliego& pliego, bool bContinua) const;
-    void PonerFila(Pliego& pliego, const Celdas& celdas, Letra letra, ui::Color color) const;
+    void PonerFila(Pliego& pliego, const FilaHoja& fila, const Celdas& celdas, ui::Color color) const;
 
     TablaHoja m_tabla;
     double m_dCuerpo = 0.0;
     std::vector<Columna> m_columnas;
+    FilaHoja m_rotulos = {.bTotal = true};
     Celdas m_cabecera;
     std::vector<Celdas> m_filas;
+    bool m_bJunta = false;
 };
 
 }  // namespace efv::report

@@ -6,6 +6,10 @@
 
 #include <quorvel/frame.h>
 #include <quorvel/framework/CString.h>
+#include <quorvel/report/plano.h>
+
+#include "report/lamina_tarjetas.h"
+#include "report/letra_aproximada.h"
 
 namespace efv::report {
 
@@ -101,6 +105,11 @@ std::vector<std::string> FilaEnPagina(const Cuadro& cuadro, const std::vector<st
     return celdas;
 }
 
+bool Incumple(std::string_view celda)
+{
+    return celda.find(kNoCumple) != std::string_view::npos;
+}
+
 std::vector<std::string> SupuestosDe(const Documento& documento, const Seccion& seccion)
 {
     std::vector<std::string> textos;
@@ -120,9 +129,23 @@ std::vector<std::string> SupuestosSueltos(const Documento& documento)
     return textos;
 }
 
-std::string HojaDeEsquema(const Seccion& seccion, std::size_t nLamina)
+std::vector<Lamina> LaminasDe(const Seccion& seccion, const Papel& papel)
 {
-    return fmt::format("Esquema, hoja {} de {}", nLamina + 1, seccion.laminas.size());
+    constexpr double kTitulares = 50.0, kMilimetro = 72.0 / 25.4;
+    constexpr double kUnidad = kAlturaLetraPlano / kAlturaMayuscula / kLetraPequena * kMilimetro;
+    if (seccion.esquemas.empty())
+        return {};
+    std::vector<Lamina> laminas = DibujarEnHojas(seccion.esquemas, papel.AnchoColumna() / kUnidad,
+                                                 (papel.AltoColumna() - kTitulares) / kUnidad);
+    // Texts without end make an element higher than a sheet: small letters are better than none.
+    if (laminas.empty())
+        laminas.push_back(Dibujar(seccion.esquemas.back()));
+    return laminas;
+}
+
+std::string HojaDeEsquema(std::size_t nLamina, std::size_t nLaminas)
+{
+    return fmt::format("Esquema, hoja {} de {}", nLamina + 1, nLaminas);
 }
 
 std::vector<std::string> TextosDe(const std::vector<Supuesto>& supuestos)

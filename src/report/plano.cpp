@@ -26,11 +26,12 @@ constexpr double kRenglonNota = 4.8;
 constexpr double kAmpliacionMaxima = 1.6;  // of a drawing that leaves room
 constexpr double kMargenHoja = 6.0;        // around the cards: the frames of those that fail
 
-// ISO 216, in the order of Formato.
+// In the order of Formato: ISO 216, and 8½ by 11 inches.
 struct Lados {
     double dCorto, dLargo;
 };
-constexpr auto kLados = std::to_array<Lados>({{210, 297}, {297, 420}, {420, 594}, {594, 841}, {841, 1189}});
+constexpr auto kLados =
+    std::to_array<Lados>({{210, 297}, {297, 420}, {420, 594}, {594, 841}, {841, 1189}, {215.9, 279.4}});
 
 const LetraAproximada kMedidor;
 
@@ -50,7 +51,8 @@ CString Limpio(const CString& csTexto)
             continue;
         const bool bCifra = cs[i - 1] >= L'0' && cs[i - 1] <= L'9';
         const std::size_t nSiguiente = std::min(cs.find(L' ', i + 1), cs.size()) - i - 1;
-        if ((bCifra && nSiguiente <= kLetrasUnidad && cs[i + 1] != L'·') || cs[i - 1] == L'×')
+        if ((bCifra && nSiguiente <= kLetrasUnidad && cs[i + 1] != L'·') || cs[i - 1] == L'×' ||
+            cs[i - 1] == L'=' || cs[i + 1] == L'=')
             cs[i] = kFijo;
     }
     return cs;

@@ -8,7 +8,6 @@
 #include <quorvel/report/ficha.h>
 #include <quorvel/report/texto.h>
 
-#include "report/lamina_tarjetas.h"
 #include "report/pagina.h"
 #include "solar/calendario.h"
 #include "solar/filas.h"
@@ -79,19 +78,14 @@ Dato DatoModelo(std::string rotulo, const CString& csId)
     return dato;
 }
 
-Seccion SeccionEsquema(const std::vector<Esquema>& esquemas)
+Seccion SeccionEsquema(std::vector<Esquema> esquemas)
 {
-    // A sheet of A4 within its margins and below the heading, while capitals are 2.5 mm high.
-    constexpr double kAncho = 583.0, kAlto = 790.0;
     Seccion seccion("Esquema de la instalación");
     seccion.bSoloPagina = true;
-    seccion.laminas = DibujarEnHojas(esquemas, kAncho, kAlto);
-    // Texts without end make an element higher than a sheet: small letters are better than none.
-    if (seccion.laminas.empty() && !esquemas.empty())
-        seccion.laminas.push_back(Dibujar(esquemas.back()));
     if (!esquemas.empty())
         for (const CString& csNota : esquemas.front().acsNotas)
             seccion.notas.push_back(CadenaUtf8(csNota));
+    seccion.esquemas = std::move(esquemas);
     return seccion;
 }
 

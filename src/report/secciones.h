@@ -44,7 +44,7 @@ Seccion SeccionMeses(const LugarDiseno& lugar, const solar::AnoEnergia& ano, con
 
 /// The schematic, for pages.
 /// @param esquemas of one design, such as with each of kDetallesDePlano
-Seccion SeccionEsquema(const std::vector<Esquema>& esquemas);
+Seccion SeccionEsquema(std::vector<Esquema> esquemas);
 
 /// The limits that the field was held against, and what keeps to them instead of the assistant's proposal.
 /// @param bAlcanza whether the design reaches the power that is asked for

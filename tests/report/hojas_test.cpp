@@ -134,6 +134,9 @@ TEST(Hojas, NadaQuedaPartidoNiFuera)
     NadaPartidoNiFuera(PapelDe(PaginaDeInforme()));
     NadaPartidoNiFuera(PapelDe({Formato::a3, false, 30.0, 10.0, 5.0, 15.0}));
     NadaPartidoNiFuera(PapelDe({Formato::a4, false, 40.0, 40.0, 40.0, 40.0}));
+    NadaPartidoNiFuera(PapelDe({Formato::a4, true, 18.0, 12.7, 18.0, 12.7}));
+    NadaPartidoNiFuera(PapelDe({Formato::carta, true, 40.0, 40.0, 40.0, 40.0}));
+    NadaPartidoNiFuera(PapelDe({Formato::a3, true, 5.0, 5.0, 5.0, 5.0}));
 }
 
 TEST(Hojas, LasTablasRepitenSuCabecera)
@@ -155,6 +158,40 @@ TEST(Hojas, LasTablasRepitenSuCabecera)
     EXPECT_EQ(nFilas, 130U);
 }
 
+// Where a text stands on the only sheet that has it.
+hoja::Sitio SitioDe(const Impreso& impreso, const CString& cs)
+{
+    std::vector<hoja::Sitio> sitios;
+    for (const Hoja& hoja : impreso.hojas)
+        for (const hoja::Texto& texto : Textos(hoja))
+            if (texto.cs == cs)
+                sitios.push_back(texto.base);
+    EXPECT_EQ(sitios.size(), 1U) << CadenaUtf8(cs);
+    return sitios.empty() ? hoja::Sitio{} : sitios.front();
+}
+
+TEST(Hojas, UnaHojaApaisadaSeAprovechaALoAncho)
+{
+    Documento documento;
+    documento.titulo = "Instalación";
+    Seccion& seccion = documento.secciones.emplace_back("Datos");
+    for (int i = 1; i <= 7; ++i)
+        seccion.datos.emplace_back(fmt::format("Dato{}", i), fmt::format("{} m", i));
+    seccion.datos.back().bFalta = true;
+    seccion.graficas = {ui::GraficaDeMeses(L"Una", L"kWh"), ui::GraficaDeMeses(L"Otra", L"kWh")};
+    const Impreso dePie = Componer(documento, "", LetraFija());
+    const Impreso apaisada = Componer(documento, "", LetraFija(), PapelDe({Formato::a4, true, 18, 13, 18, 13}));
+    // The second chart and the fifth of seven data: below, or beside.
+    EXPECT_GT(SitioDe(dePie, L"Otra").y, SitioDe(dePie, L"Una").y + 100.0);
+    EXPECT_EQ(SitioDe(apaisada, L"Otra").y, SitioDe(apaisada, L"Una").y);
+    EXPECT_GT(SitioDe(apaisada, L"Otra").x, SitioDe(apaisada, L"Una").x + 300.0);
+    EXPECT_GT(SitioDe(dePie, L"Dato5").y, SitioDe(dePie, L"Dato4").y);
+    EXPECT_EQ(SitioDe(apaisada, L"Dato5").y, SitioDe(apaisada, L"Dato1").y);
+    EXPECT_GT(SitioDe(apaisada, L"Dato5").x, SitioDe(apaisada, L"1 m").x + 20.0);
+    // What falls short stays so in the other half.
+    SitioDe(apaisada, L"7 m (fuera)");
+}
+
 TEST(Hojas, LaPortadaCallaLoQueFalta)
 {
     Documento documento = Largo();
@@ -167,8 +204,13 @@ TEST(Hojas, LaPortadaCallaLoQueFalta)
     EXPECT_FALSE(std::ranges::any_of(Textos(portada),
                                      [](const hoja::Texto& texto) { return texto.cs.starts_with(L"Firma"); }));
     documento.portada.firma = "Elena";
-    const Impreso con = Componer(documento, "", LetraFija());
+    // Long texts give way to the place to sign.
+    documento.portada.direccion = documento.portada.autor = documento.portada.revision = std::string(2000, 'd');
+    const Impreso con =
+        Componer(documento, "1-2-2028", LetraFija(), PapelDe({Formato::a4, true, 18, 13, 18, 13}));
     EXPECT_EQ(Cuantos(con.hojas.front(), L"Firma: Elena"), 1U);
+    for (const hoja::Texto& texto : Textos(con.hojas.front()))
+        EXPECT_LE(texto.base.y, SitioDe(con, L"Firma: Elena").y) << CadenaUtf8(texto.cs);
 }
 
 }  // namespace

@@ -178,6 +178,8 @@ TEST(Plano, CabeEnTodosLosPapelesYSeLee)
                                                                                 {Formato::a4, true, 25.0},
                                                                                 {Formato::a4, false, 40.0},
                                                                                 {Formato::a4, true, 40.0},
+                                                                                {Formato::carta, false, 40.0},
+                                                                                {Formato::carta, true, 10.0},
                                                                                 {Formato::a2, false, 10.0}});
     for (const Esquema& esquema : {EsquemaDeFilas(1), EsquemaDeFilas(5), EsquemaAislado()}) {
         for (const auto& [formato, bApaisada, dMargen] : kPaginas) {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include <quorvel/exportar.h>
-#include <quorvel/report/lamina.h>
+#include <quorvel/report/esquema.h>
 #include <quorvel/report/texto.h>
 #include <quorvel/ui/grafica.h>
 
@@ -51,7 +51,7 @@ struct Seccion {
     std::vector<Dato> datos;
     std::vector<Cuadro> cuadros;
     std::vector<CCtrlCurva2D> graficas;  ///< on pages only
-    std::vector<Lamina> laminas;         ///< on pages only
+    std::vector<Esquema> esquemas;       ///< forms of one schematic, the fullest first; on pages only
     std::vector<std::string> notas;
     std::vector<std::string> fuentes;  ///< where its figures come from; on pages only
     bool bSoloPagina = false;          ///< too long for a terminal
@@ -96,9 +96,23 @@ struct Documento {
     std::vector<Supuesto> supuestos;
 };
 
+/// Points of 1/72 inch. A sheet of A4:
+inline constexpr double kAnchoHoja = 595.28, kAltoHoja = 841.89;
+
+/// The sheets of a document and where its column stands on them; points. Head and foot stand above and below
+/// it.
+struct Papel {
+    double dAncho = kAnchoHoja, dAlto = kAltoHoja;
+    double dIzquierda = 51.0, dDerecha = 51.0, dArriba = 64.0, dAbajo = 60.0;  ///< from the sheet's edges
+
+    double AnchoColumna() const { return dAncho - dIzquierda - dDerecha; }
+    double AltoColumna() const { return dAlto - dArriba - dAbajo; }
+};
+
 EFV_API std::string DocumentoTexto(const Documento& documento, const FormaTexto& forma = {});
-/// A page of its own: styles, charts and drawings stand in it, and it prints on A4 with a cover. @param fecha
-/// e.g. "3-2-2028"
-EFV_API std::string DocumentoHtml(const Documento& documento, const std::string& fecha);
+/// A page of its own: styles, charts and drawings stand in it, and it prints on that paper with a cover.
+/// @param fecha e.g. "3-2-2028"
+EFV_API std::string DocumentoHtml(const Documento& documento, const std::string& fecha,
+                                  const Papel& papel = {});
 
 }  // namespace efv::report

@@ -15,9 +15,6 @@
 
 namespace efv::report {
 
-/// Points of 1/72 inch; y downwards from the sheet's upper edge. A sheet of A4:
-inline constexpr double kAnchoHoja = 595.28, kAltoHoja = 841.89;
-
 /// How wide letters are in the face that the sheets will be written with.
 class EFV_API MedidorLetra {
 public:
@@ -32,6 +29,7 @@ public:
 
 namespace hoja {
 
+/// Points; y downwards from the sheet's upper edge.
 struct Sitio {
     double x, y;
 };
@@ -99,15 +97,9 @@ struct Impreso {
     std::vector<Titular> titulares;
 };
 
-/// The sheets of a document and where its column stands on them; points. Head and foot stand above and below
-/// it.
-struct Papel {
-    double dAncho = kAnchoHoja, dAlto = kAltoHoja;
-    double dIzquierda = 51.0, dDerecha = 51.0, dArriba = 64.0, dAbajo = 60.0;  ///< from the sheet's edges
-};
-
 /// Cover, contents with their pages, then the sections. A heading stands with what follows it, a table's row,
-/// a chart and a drawing on one sheet; a table that goes on repeats its headings.
+/// a chart and a drawing on one sheet; a table that goes on repeats its headings. On a wide sheet charts, and
+/// the halves of a long list of data, stand beside each other.
 /// @param fecha e.g. "3-2-2028"; may be empty
 EFV_API Impreso Componer(const Documento& documento, const std::string& fecha, const MedidorLetra& medidor,
                          const Papel& papel = {});

@@ -19,8 +19,12 @@ inline constexpr double kAlturaLetraPlano = 2.5, kAlturaLetraMinima = 2.0;
 
 inline constexpr double kMargenMinimo = 5.0, kMargenMaximo = 40.0;
 
-enum class Formato { a4, a3, a2, a1, a0 };
-inline constexpr const char* kFormatos[] = {"A4", "A3", "A2", "A1", "A0"};  ///< in their order
+enum class Formato { a4, a3, a2, a1, a0, carta };
+inline constexpr const char* kFormatos[] = {"A4", "A3", "A2", "A1", "A0", "Carta"};  ///< in their order
+inline constexpr Formato kTodosLosFormatos[] = {Formato::a4, Formato::a3, Formato::a2,
+                                                Formato::a1, Formato::a0, Formato::carta};
+/// Those of a report; larger ones are for drawings.
+inline constexpr Formato kFormatosDeInforme[] = {Formato::a4, Formato::a3, Formato::carta};
 
 /// Page set-up.
 struct EFV_API Pagina {

@@ -52,6 +52,7 @@ struct FormaTexto {
     bool bColor = false;          ///< what fails in red
     bool bMiles = false;          ///< ConMiles in columns of numbers
     bool bSoloResultado = false;  ///< without notes
+    bool bTerminal = false;       ///< shown at once: what isn't text would spoil it
 };
 
 /// What `texto` becomes in red. @param bColor false: stays as it is

@@ -412,8 +412,9 @@ TEST_F(Diseno, ElInformeSeBastaASiMismo)
         EXPECT_NE(html.find("&lt;script src=&quot;http://malo&quot;&gt;&amp;&#39; "), std::string::npos);
         for (const char* ajeno : {"src=\"", "href=\"h", "url(", "@import", "<link", "<img"})
             EXPECT_EQ(html.find(ajeno), std::string::npos) << ajeno;
-        for (const char* propio : {"<html lang=\"es\">", "size: A4", "<svg", "Datos de los modelos elegidos",
-                                   "ET-M660285WW", "Supuestos", "<th scope=\"row\""})
+        for (const char* propio :
+             {"<html lang=\"es\">", "size: 210.0mm 297.0mm", "<svg", "Datos de los modelos elegidos",
+              "ET-M660285WW", "Supuestos", "<th scope=\"row\""})
             EXPECT_NE(html.find(propio), std::string::npos) << propio;
     }
 }
