@@ -25,6 +25,7 @@ namespace efv::orden {
 namespace {
 
 constexpr std::size_t kMaximoPuntos = 10'000;
+constexpr const char *kGuardar = "--guardar", *kSvg = "--svg";
 
 // "1..15", "1..15:0,5", "2;3,5;6".
 std::vector<double> LeerBarrido(const char* opcion, const std::string& texto, double dMinimo)
@@ -94,10 +95,7 @@ public:
                                const char* tipo) { linea.add_option(nombre, valor, ayuda)->type_name(tipo); };
         texto("--barrido", m_barrido, "Lo mismo con otras potencias, kWp: 1..15, 1..6:0,5 o 2;3;4", "kWp");
         texto("--baterias", m_baterias, "Y con otras capacidades de batería, kWh; 0, sin ella", "kWh");
-        texto("--informe", m_informe,
-              "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF; con «-», la "
-              "página por la salida estándar",
-              "FICHERO");
+        m_informe.Declarar(linea);
         texto("--svg", m_svg, "Dibuja el barrido", "FICHERO");
         texto("--guardar", m_guardar,
               "Guarda el registro del estudio como archivo, que los diálogos y otro programa pueden abrir",
@@ -134,11 +132,11 @@ private:
         std::vector<std::string> entradas = FicherosDelEstudio(json, fichero);
         entradas.insert(entradas.end(), m_estudios.begin(), m_estudios.end());
         Salidas salidas(std::move(entradas));
-        for (const auto& [opcion, ruta] :
-             {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}, {"--svg", &m_svg}}) {
-            if (*ruta)
-                salidas.Anadir(opcion, lote.Ruta(opcion, **ruta, fichero));
-        }
+        if (m_guardar)
+            salidas.Anadir(kGuardar, lote.Ruta(kGuardar, *m_guardar, fichero), Salidas::Contenido::bytes);
+        m_informe.Anadir(salidas, lote, fichero);
+        if (m_svg)
+            salidas.Anadir(kSvg, lote.Ruta(kSvg, *m_svg, fichero));
         if (salidas.EnLaSalida() && (m_bJson || m_bCsv))
             throw ErrorUso(fmt::format("{} y un fichero «-» se excluyen", m_bJson ? "--json" : "--csv"));
         return salidas;
@@ -181,8 +179,8 @@ private:
             const std::vector<std::byte> bytes = Archivar(estudio.registro);
             contenidos.emplace_back(reinterpret_cast<const char*>(bytes.data()), bytes.size());
         }
-        if (m_informe)
-            contenidos.push_back(Informe(documento, *m_informe));
+        if (m_informe.Ruta())
+            contenidos.push_back(m_informe.Escribir(documento));
         if (m_svg)
             contenidos.push_back(ui::EscribirSvg(report::GraficaBarrido(barrido)));
         const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
@@ -203,7 +201,8 @@ private:
 
     std::vector<std::string> m_estudios;
     std::string m_datos;
-    std::optional<std::string> m_barrido, m_baterias, m_informe, m_svg, m_guardar;
+    std::optional<std::string> m_barrido, m_baterias, m_svg, m_guardar;
+    OpcionesInforme m_informe;
     bool m_bJson = false, m_bCsv = false;
 };
 

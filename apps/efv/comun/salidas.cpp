@@ -17,6 +17,7 @@
 #include "comun/consola.h"
 #include "comun/entrada.h"
 #include "comun/salida_limpia.h"
+#include "comun/terminal.h"
 
 namespace efv::orden {
 
@@ -109,8 +110,14 @@ std::string NombreDeFichero(std::wstring_view texto)
     return nombre;
 }
 
-void Salidas::Anadir(std::string_view opcion, const std::string& ruta)
+void Salidas::Anadir(std::string_view opcion, const std::string& ruta, Contenido contenido)
 {
+    if (ruta == kSalida && contenido == Contenido::bytes && Forma().bTerminal) {
+        throw ErrorUso(fmt::format(
+            "{} -: lo que se escribe no es texto, y la salida es un terminal; llévela a un fichero (> FICHERO) "
+            "o a otro programa, o dé el nombre de un fichero",
+            opcion));
+    }
     if (ruta != kSalida && !fs::path(ruta).has_filename())
         throw ErrorUso(fmt::format("{}: falta el nombre del fichero", opcion));
     const auto esElMismo = [&](const std::string& otra) { return SonElMismo(ruta, otra); };

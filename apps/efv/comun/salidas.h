@@ -20,9 +20,11 @@ public:
     /// @param entradas paths of what the run reads; "-" is standard input
     explicit Salidas(std::vector<std::string> entradas) : m_entradas(std::move(entradas)) {}
 
+    /// What is written: text, which may go to a terminal, or bytes.
+    enum class Contenido { texto, bytes };
     /// @param opcion "--informe", for messages @throws ErrorUso when the path names no file, or the same as
-    /// what is read or another output
-    void Anadir(std::string_view opcion, const std::string& ruta);
+    /// what is read or another output, or bytes would go to a terminal
+    void Anadir(std::string_view opcion, const std::string& ruta, Contenido contenido = Contenido::texto);
 
     /// Whether one of them is the standard output.
     bool EnLaSalida() const;

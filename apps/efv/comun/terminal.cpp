@@ -68,9 +68,9 @@ report::FormaTexto& Forma()
 report::FormaTexto FormaDeSalida(int iDescriptor)
 {
     const std::string_view terminal = Entorno("TERM");
-    const bool bColor =
-        ::isatty(iDescriptor) == 1 && Entorno("NO_COLOR").empty() && !terminal.empty() && terminal != "dumb";
-    return {.nAnchura = AnchuraDe(iDescriptor), .bColor = bColor, .bMiles = true};
+    const bool bTerminal = ::isatty(iDescriptor) == 1;
+    const bool bColor = bTerminal && Entorno("NO_COLOR").empty() && !terminal.empty() && terminal != "dumb";
+    return {.nAnchura = AnchuraDe(iDescriptor), .bColor = bColor, .bMiles = true, .bTerminal = bTerminal};
 }
 
 std::string Prosa(std::string_view texto)

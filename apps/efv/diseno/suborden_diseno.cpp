@@ -27,6 +27,7 @@ namespace efv::orden {
 namespace {
 
 constexpr int kFaltas = 3;
+constexpr const char* kGuardar = "--guardar";
 
 // What tells one command from the other.
 struct Clase {
@@ -158,11 +159,7 @@ public:
                 "--guardar", m_guardar,
                 fmt::format("Guarda {} como archivo del registro, que otro programa puede abrir", m_clase.que))
             ->type_name("FICHERO");
-        linea
-            .add_option("--informe", m_informe,
-                        "Escribe un informe para imprimir: una página HTML o, si acaba en .pdf, un PDF; con "
-                        "«-», la página por la salida estándar")
-            ->type_name("FICHERO");
+        m_informe.Declarar(linea);
         linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         linea.footer(AyudaDeCampos(m_clase.registro()) + "\n\n" + m_clase.pie);
         return linea;
@@ -190,8 +187,8 @@ private:
         if (m_guardar)
             contenidos.emplace_back(reinterpret_cast<const char*>(diseno.archivo.data()),
                                     diseno.archivo.size());
-        if (m_informe)
-            contenidos.push_back(Informe(diseno.documento, *m_informe));
+        if (m_informe.Ruta())
+            contenidos.push_back(m_informe.Escribir(diseno.documento));
         const std::vector<std::string> escritos = salidas.Escribir(contenidos, salida);
         ResultadoProyecto resultado{.bCumple = diseno.bCumple};
         if (!salidas.EnLaSalida())
@@ -217,9 +214,9 @@ private:
         std::vector<std::string> entradas = m_proyectos;
         std::ranges::copy(FicherosLeidos(proyecto), std::back_inserter(entradas));
         Salidas salidas(std::move(entradas));
-        for (const auto& [opcion, ruta] : {std::pair("--guardar", &m_guardar), {"--informe", &m_informe}})
-            if (*ruta)
-                salidas.Anadir(opcion, lote.Ruta(opcion, **ruta, fichero));
+        if (m_guardar)
+            salidas.Anadir(kGuardar, lote.Ruta(kGuardar, *m_guardar, fichero), Salidas::Contenido::bytes);
+        m_informe.Anadir(salidas, lote, fichero);
         if (salidas.EnLaSalida() && (m_bJson || m_bCsv))
             throw ErrorUso(fmt::format("{} y un fichero «-» se excluyen", m_bJson ? "--json" : "--csv"));
         return salidas;
@@ -237,7 +234,8 @@ private:
     const Clase& m_clase;
     std::vector<std::string> m_proyectos;
     std::string m_datos;
-    std::optional<std::string> m_guardar, m_informe;
+    std::optional<std::string> m_guardar;
+    OpcionesInforme m_informe;
     bool m_bJson = false, m_bCsv = false, m_bEstricto = false;
 };
 

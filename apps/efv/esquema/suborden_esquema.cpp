@@ -19,6 +19,7 @@
 #include "comun/salidas.h"
 #include "comun/terminal.h"
 #include "diseno/diseno.h"
+#include "diseno/informe.h"
 #include "diseno/proyecto.h"
 #include "diseno/proyecto_estudio.h"
 #include "diseno/salida.h"
@@ -31,6 +32,7 @@ namespace {
 struct FormatoFichero {
     const char* nombre;
     std::string (*escribir)(const report::Plano&);
+    Salidas::Contenido contenido;
 };
 
 std::string Pdf(const report::Plano& plano)
@@ -43,9 +45,9 @@ std::string Pdf(const report::Plano& plano)
 }
 
 constexpr auto kFormatosFichero = std::to_array<FormatoFichero>({
-    {"DXF", &report::EscribirDxf},
-    {"SVG", [](const report::Plano& plano) { return report::EscribirSvg(plano); }},
-    {"PDF", &Pdf},
+    {"DXF", &report::EscribirDxf, Salidas::Contenido::texto},
+    {"SVG", [](const report::Plano& plano) { return report::EscribirSvg(plano); }, Salidas::Contenido::texto},
+    {"PDF", &Pdf, Salidas::Contenido::bytes},
 });
 
 bool MismoNombre(std::string_view a, std::string_view b)
@@ -71,14 +73,7 @@ public:
                 "--tipo", m_tipo,
                 "aislada o red, de un proyecto de efv-estudio; si falta, el de red y, si no lo hay, el otro")
             ->type_name("TIPO");
-        linea.add_option("--papel", m_papel, "A4, A3, A2, A1 o A0; si falta, A4")->type_name("PAPEL");
-        linea.add_flag("--vertical", m_bVertical, "La hoja de pie; si falta, apaisada")
-            ->option_text(" ")
-            ->disable_flag_override();
-        linea
-            .add_option("--margen", m_dMargen,
-                        "Margen de los cuatro lados, 5 a 40 mm; si falta, 10 y, a la izquierda, 20")
-            ->type_name("MM");
+        m_pagina.Declarar(linea);
         linea.add_option("--revision", m_revision, "Revisión que dice el cajetín; si falta, la de la portada")
             ->type_name("TEXTO");
         linea.add_flag("--json", m_bJson, "Dice en JSON lo que se ha escrito")
@@ -102,12 +97,12 @@ public:
         if (m_salida.empty())
             throw ErrorUso("falta --salida FICHERO (ayuda: efv esquema --help)");
         const FormatoFichero& formato = LeerFormato();
-        const report::Pagina pagina = LeerPagina();
+        const report::Pagina pagina = m_pagina.Leer();
         const JsonLeido proyecto = LeerProyecto();
         std::vector<std::string> entradas = FicherosLeidos(proyecto);
         entradas.push_back(m_proyecto);
         Salidas salidas(std::move(entradas));
-        salidas.Anadir("--salida", m_salida);
+        salidas.Anadir("--salida", m_salida, formato.contenido);
         if (m_bJson && salidas.EnLaSalida())
             throw ErrorUso("--json y un fichero «-» se excluyen");
         Diseno diseno = Disenar(proyecto);
@@ -151,22 +146,6 @@ private:
                                          m_salida));
     }
 
-    report::Pagina LeerPagina() const
-    {
-        report::Pagina pagina;
-        const auto papel = std::ranges::find_if(
-            report::kFormatos, [&](const char* formato) { return MismoNombre(formato, m_papel); });
-        if (papel == std::end(report::kFormatos))
-            throw ErrorUso(fmt::format("--papel: se esperaba A4, A3, A2, A1 o A0, y no «{}»", m_papel));
-        pagina.formato = static_cast<report::Formato>(papel - std::begin(report::kFormatos));
-        pagina.bApaisada = !m_bVertical;
-        if (m_dMargen.empty())
-            return pagina;
-        const double dMargen = LeerAcotado("--margen", m_dMargen, report::kMargenMinimo, report::kMargenMaximo);
-        pagina.dIzquierdo = pagina.dSuperior = pagina.dDerecho = pagina.dInferior = dMargen;
-        return pagina;
-    }
-
     Diseno Disenar(const JsonLeido& proyecto) const
     {
         try {
@@ -195,14 +174,24 @@ private:
         const JsonLeido& tipo = proyecto["tipo"];
         if (m_tipo && tipo != *m_tipo)
             throw rpc::ErrorValor(fmt::format("tipo: el proyecto no es de «{}»", *m_tipo));
+        if (tipo == "venta" || tipo == "autoconsumo") {
+            throw rpc::ErrorValor(
+                fmt::format("tipo: un estudio de «{}» dice la potencia, pero no los módulos, el inversor ni "
+                            "los cables que lleva "
+                            "un esquema; con ellos se hace un proyecto de tipo «red» (efv red --help), y su "
+                            "esquema es el de la "
+                            "instalación",
+                            tipo.get<std::string>()));
+        }
         if (tipo != "aislada" && tipo != "red")
             throw rpc::ErrorValor("tipo: hay esquema de «aislada» y de «red»");
         return tipo == "aislada";
     }
 
-    std::string m_proyecto, m_salida, m_papel = "A4", m_dMargen, m_datos;
+    std::string m_proyecto, m_salida, m_datos;
     std::optional<std::string> m_formato, m_revision, m_tipo;
-    bool m_bVertical = false, m_bJson = false;
+    OpcionesPagina m_pagina{report::Pagina{}, report::kTodosLosFormatos};
+    bool m_bJson = false;
 };
 
 }  // namespace

@@ -48,6 +48,37 @@ TEST_F(InformePdf, LosEjemplosDanDocumentosEnterosQueSeRepiten)
     FijarReloj(std::nullopt);
 }
 
+TEST_F(InformePdf, ElPapelEsElPedido)
+{
+    const std::string proyecto = (kEjemplos / "cubierta-red.json").string();
+    // Millimetres in points: 297 by 210, and eleven by eight and a half inches.
+    for (const auto& [opciones, medida] :
+         {std::pair<std::vector<std::string>, const char*>{{"--apaisado"}, "841.8"},
+          {{"--papel", "CARTA", "--margen", "25;10;10,5;10"}, "612 792"}}) {
+        std::vector<std::string> argumentos = {"red", proyecto, "--informe", "-", "--formato", "pdf"};
+        argumentos.insert(argumentos.end(), opciones.begin(), opciones.end());
+        const Corrida pdf = Correr(argumentos);
+        EXPECT_TRUE(pdf.salida.starts_with("%PDF-")) << pdf.errores;
+        EXPECT_GT(Veces(pdf.salida, std::string("/MediaBox [ 0 0 ") + medida), 3U) << medida;
+    }
+    const Corrida pagina = Correr({"red", proyecto, "--informe", "-", "--papel", "carta", "--apaisado"});
+    EXPECT_NE(pagina.salida.find("size: 279.4mm 215.9mm;"), std::string::npos);
+
+    const std::string fichero = (m_carpeta.Ruta() / "x.pdf").string();
+    for (const std::vector<std::string>& malas :
+         std::vector<std::vector<std::string>>{{"--papel", "A4"},
+                                               {"--informe", fichero, "--formato", "html"},
+                                               {"--informe", fichero, "--formato", "dxf"},
+                                               {"--informe", fichero, "--papel", "A2"},
+                                               {"--informe", fichero, "--margen", "20;10;10"},
+                                               {"--informe", fichero, "--vertical", "--apaisado"}}) {
+        std::vector<std::string> argumentos = {"red", proyecto};
+        argumentos.insert(argumentos.end(), malas.begin(), malas.end());
+        EXPECT_EQ(Correr(argumentos).iEstado, 2) << malas.back();
+        EXPECT_FALSE(std::filesystem::exists(fichero));
+    }
+}
+
 TEST_F(InformePdf, LoQueFallaSeDice)
 {
     report::Documento documento;

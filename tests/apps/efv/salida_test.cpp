@@ -17,6 +17,7 @@
 #include "comun/mundo_de_prueba.h"
 #include "comun/salida_limpia.h"
 #include "comun/salidas.h"
+#include "comun/terminal.h"
 
 namespace efv::orden::pruebas {
 namespace {
@@ -214,6 +215,11 @@ TEST(Salidas, ALaSalidaVaElContenidoSoloYByteAByte)
     salidas.Escribir({bytes}, filtrada);
     EXPECT_EQ(salida.str(), "antes" + bytes);
     EXPECT_THROW(salidas.Anadir("--informe", "-"), ErrorUso);
+    // A terminal takes text alone.
+    Forma().bTerminal = true;
+    EXPECT_THROW(Salidas({}).Anadir("--salida", "-", Salidas::Contenido::bytes), ErrorUso);
+    EXPECT_NO_THROW(Salidas({}).Anadir("--salida", "-"));
+    Forma().bTerminal = false;
 }
 
 // Somebody reads at the other end; the pipe stays one, and a link leads where it led.
