@@ -87,7 +87,14 @@ const Lamina* LaminaALaVista(Ventana& ventana)
     const VistaEsquema* vista = ventana.EsquemaALaVista();
     if (vista != nullptr && !vista->Mostrado().trazos.empty())
         return &vista->Mostrado();
-    ui::MostrarAviso(L"No hay ningún esquema a la vista.", ui::Icono::informacion);
+    const std::string_view pestana = ventana.PestanaALaVista();
+    const bool bEstudio = pestana == kVenta || pestana == kAutoconsumo;
+    ui::MostrarAviso(bEstudio
+                         ? L"Este estudio dice potencia y energía, pero no los módulos, el inversor ni los "
+                           L"cables que lleva un esquema: el de la instalación está en la ficha «Conexión a "
+                           L"red»."
+                         : L"No hay ningún esquema a la vista.",
+                     ui::Icono::informacion);
     return nullptr;
 }
 
@@ -112,12 +119,19 @@ void ConEsquemaALaVista(Ventana& ventana, void (*hacer)(const CProyectoEstudio&,
         hacer(ventana.LaSesion().Proyecto(), *diseno);
 }
 
-void ConDisenoALaVista(Ventana& ventana, void (*hacer)(const CProyectoEstudio&, Diseno))
+// What the tab on view reports of, or a word about there being nothing.
+void ConInformeALaVista(Ventana& ventana, void (*hacer)(const report::Documento&))
 {
     if (!ventana.CamposValidos())
         return;
+    const CProyectoEstudio& proyecto = ventana.LaSesion().Proyecto();
+    const std::string_view pestana = ventana.PestanaALaVista();
     if (const auto diseno = ventana.DisenoALaVista())
-        hacer(ventana.LaSesion().Proyecto(), *diseno);
+        hacer(DocumentoDe(proyecto, *diseno));
+    else if (pestana == kVenta)
+        hacer(DocumentoDeVenta(proyecto));
+    else if (pestana == kAutoconsumo)
+        hacer(DocumentoDeAutoconsumo(proyecto));
     else
         ui::MostrarAviso(L"No hay ningún diseño a la vista.", ui::Icono::informacion);
 }
@@ -163,11 +177,12 @@ constexpr auto kOrdenes = std::to_array<Orden>({
     {kDiseno, "&Planos del campo…", nullptr, [](Ventana& v) { v.EditarPlanos(); }},
     {kDiseno, nullptr, nullptr, nullptr},
     {kDiseno, "Por&tada del informe…", nullptr, [](Ventana& v) { EditarPortada(v.LaSesion()); }},
-    {kDiseno, "I&nforme…", "Ctrl+I", [](Ventana& v) { ConDisenoALaVista(v, &GuardarInforme); }},
+    {kDiseno, "I&nforme…", "Ctrl+I", [](Ventana& v) { ConInformeALaVista(v, &GuardarInforme); }},
     {kDiseno, "Confi&gurar página del informe…", nullptr,
      [](Ventana&) { ConfigurarPagina(Impresion::informe); }},
-    {kDiseno, "&Vista preliminar del informe…", nullptr, [](Ventana& v) { ConDisenoALaVista(v, &VerInforme); }},
-    {kDiseno, "Imprimir in&forme…", "Ctrl+P", [](Ventana& v) { ConDisenoALaVista(v, &ImprimirInforme); }},
+    {kDiseno, "&Vista preliminar del informe…", nullptr,
+     [](Ventana& v) { ConInformeALaVista(v, &VerInforme); }},
+    {kDiseno, "Imprimir in&forme…", "Ctrl+P", [](Ventana& v) { ConInformeALaVista(v, &ImprimirInforme); }},
     {kEconomia, "&Venta a la red…", nullptr, &ConSuFicha<&EstudiarVenta, kVenta>},
     {kEconomia, "&Autoconsumo…", nullptr, &ConSuFicha<&EstudiarAutoconsumo, kAutoconsumo>},
     {kEconomia, "Autoconsumo &guiado…", nullptr, &ConSuFicha<&EstudiarAutoconsumoGuiado, kAutoconsumo>},

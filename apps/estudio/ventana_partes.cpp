@@ -113,7 +113,7 @@ void VentanaPrincipal::GuardarInformeDelDiseno()
         return;
     for (const Diseno diseno : {Diseno::red, Diseno::aislada})
         if (!EquipoDe(m_sesion.Proyecto(), diseno).empty())
-            return GuardarInforme(m_sesion.Proyecto(), diseno);
+            return GuardarInforme(DocumentoDe(m_sesion.Proyecto(), diseno));
     ui::MostrarAviso(L"Todavía no hay ningún diseño del que informar.", ui::Icono::informacion);
 }
 

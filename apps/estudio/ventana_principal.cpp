@@ -420,6 +420,11 @@ void VentanaPrincipal::MostrarComprobaciones(bool bMostrar)
         cuentas->setCurrentIndex(bMostrar ? kComprobaciones : 0);
 }
 
+std::string_view VentanaPrincipal::PestanaALaVista() const
+{
+    return FilasPestanas()[static_cast<std::size_t>(m_pestanas->currentIndex())].nombre;
+}
+
 std::optional<Diseno> VentanaPrincipal::DisenoALaVista() const
 {
     return FilasPestanas()[static_cast<std::size_t>(m_pestanas->currentIndex())].diseno;

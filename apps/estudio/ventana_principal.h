@@ -51,6 +51,8 @@ public:
     void MostrarComprobaciones(bool bMostrar);
     /// The schematic of the tab on view; null when it has none.
     VistaEsquema* EsquemaALaVista() const;
+    /// The name of the tab on view.
+    std::string_view PestanaALaVista() const;
     /// The design of the tab on view; nothing when it has none.
     std::optional<Diseno> DisenoALaVista() const;
     /// The help for the part that has the focus.

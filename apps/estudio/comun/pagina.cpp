@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <iterator>
 
 #include "comun/ajustes.h"
 
@@ -32,11 +31,10 @@ QString ClaveDe(Impresion impresion, const char* clave)
     return QString::fromLatin1(impresion == Impresion::esquema ? "pagina/" : "pagina-informe/") + clave;
 }
 
-// The first ones.
-int CuantosFormatos(Impresion impresion)
+std::span<const report::Formato> FormatosDe(Impresion impresion)
 {
-    return impresion == Impresion::esquema ? static_cast<int>(std::size(report::kFormatos))
-                                           : static_cast<int>(report::Formato::a3) + 1;
+    return impresion == Impresion::esquema ? std::span<const report::Formato>(report::kTodosLosFormatos)
+                                           : report::kFormatosDeInforme;
 }
 
 }  // namespace
@@ -44,18 +42,19 @@ int CuantosFormatos(Impresion impresion)
 DialogoPagina::DialogoPagina(Impresion impresion, const Pagina& inicial)
     : Dialogo("DialogoPagina", impresion == Impresion::esquema ? L"Configurar página del esquema"
                                                                : L"Configurar página del informe"),
-      m_iFormato(static_cast<int>(inicial.formato)),
+      m_formatos(FormatosDe(impresion)),
+      m_iFormato(static_cast<int>(std::ranges::find(m_formatos, inicial.formato) - m_formatos.begin())),
       m_iOrientacion(inicial.bApaisada ? kApaisada : kVertical),
       m_pagina(inicial)
 {
     auto& formato = Anadir<ui::Seleccion>("iFormato", L"&Papel:", ui::Seleccion::Forma::combo);
-    for (int i = 0; i < CuantosFormatos(impresion); ++i)
-        formato.acsEntradas.push_back(CadenaDesdeUtf8(report::kFormatos[i]));
+    formato.acsEntradas.reserve(m_formatos.size());
+    for (const report::Formato este : m_formatos)
+        formato.acsEntradas.push_back(CadenaDesdeUtf8(report::kFormatos[static_cast<std::size_t>(este)]));
     formato.destino = &m_iFormato;
     auto& orientacion = Anadir<ui::Seleccion>("iOrientacion", L"&Orientación:", ui::Seleccion::Forma::combo);
     orientacion.acsEntradas = {L"Apaisada", L"Vertical"};
     orientacion.destino = &m_iOrientacion;
-    orientacion.bHabilitado = impresion == Impresion::esquema;
     for (const Margen& margen : kMargenes) {
         auto& edicion = Anadir<ui::Edicion>(margen.clave, margen.csRotulo);
         edicion.destino = &(m_pagina.*margen.dMargen);
@@ -68,7 +67,7 @@ DialogoPagina::DialogoPagina(Impresion impresion, const Pagina& inicial)
 Pagina DialogoPagina::Elegida() const
 {
     Pagina pagina = m_pagina;
-    pagina.formato = static_cast<report::Formato>(m_iFormato);
+    pagina.formato = m_formatos[static_cast<std::size_t>(m_iFormato)];
     pagina.bApaisada = m_iOrientacion == kApaisada;
     return pagina;
 }
@@ -79,10 +78,10 @@ Pagina PaginaDeLaPersona(Impresion impresion)
     Pagina pagina = impresion == Impresion::esquema ? Pagina{} : report::PaginaDeInforme();
     // What another program wrote there may be anything.
     const int iFormato = ajustes.value(ClaveDe(impresion, kFormato), 0).toInt();
-    if (iFormato > 0 && iFormato < CuantosFormatos(impresion))
-        pagina.formato = static_cast<report::Formato>(iFormato);
-    if (impresion == Impresion::esquema)
-        pagina.bApaisada = ajustes.value(ClaveDe(impresion, kApaisadaDicha), true).toBool();
+    for (const report::Formato este : FormatosDe(impresion))
+        if (static_cast<int>(este) == iFormato)
+            pagina.formato = este;
+    pagina.bApaisada = ajustes.value(ClaveDe(impresion, kApaisadaDicha), pagina.bApaisada).toBool();
     for (const Margen& margen : kMargenes) {
         bool bNumero = false;
         const double d = ajustes.value(ClaveDe(impresion, margen.clave)).toDouble(&bNumero);

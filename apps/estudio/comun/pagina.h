@@ -1,12 +1,14 @@
 // Page set-up of schematics and reports on paper, which the program remembers.
 #pragma once
 
+#include <span>
+
 #include <quorvel/report/plano.h>
 #include <quorvel/ui.h>
 
 namespace efv::estudio {
 
-/// What is set up. A report stands always, on A4 or A3: its drawings are made for that.
+/// What is set up; each has its own.
 enum class Impresion { esquema, informe };
 
 class DialogoPagina final : public ui::Dialogo {
@@ -16,6 +18,7 @@ public:
     report::Pagina Elegida() const;
 
 private:
+    std::span<const report::Formato> m_formatos;  ///< that can be chosen
     int m_iFormato, m_iOrientacion;
     report::Pagina m_pagina;
 };

@@ -9,6 +9,7 @@
 #include "clima/estudios.h"
 #include "economia/horas.h"
 #include "efv/autoconsumo/estudio_de_texto.h"
+#include "informe/informe.h"
 
 namespace efv::estudio {
 
@@ -191,6 +192,15 @@ ResultadoAutoconsumo BorradorAutoconsumo::Calcular(const CProyectoEstudio& proye
     if (!adPotencias.empty())
         r.barrido = report::Barrer(r.proyecto, adPotencias, {});
     return r;
+}
+
+report::Documento BorradorAutoconsumo::Documento(const CProyectoEstudio& proyecto,
+                                                 std::span<const double> adPotencias) const
+{
+    const ResultadoAutoconsumo r = Calcular(proyecto, adPotencias);
+    report::Documento documento = report::EscribirDocumento(r.proyecto, r.estudio, r.avisos, r.barrido);
+    documento.portada = PortadaDe(proyecto).datos;
+    return documento;
 }
 
 std::vector<std::string> BorradorAutoconsumo::LeerConsumo(const CProyectoEstudio& proyecto) const

@@ -56,6 +56,8 @@ public:
     std::string Completo(const CProyectoEstudio& proyecto) const;
     /// @param adPotencias of the sweep, kWp; may be empty @throws std::exception with a Spanish text
     ResultadoAutoconsumo Calcular(const CProyectoEstudio& proyecto, std::span<const double> adPotencias) const;
+    /// The same told as a report.
+    report::Documento Documento(const CProyectoEstudio& proyecto, std::span<const double> adPotencias) const;
     /// What stands in the consumption, a line each. @throws std::exception with a Spanish text
     std::vector<std::string> LeerConsumo(const CProyectoEstudio& proyecto) const;
 

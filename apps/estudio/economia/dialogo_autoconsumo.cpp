@@ -531,10 +531,7 @@ void DialogoAutoconsumo::GuardarInforme()
     if (!Tomar())
         return;
     const auto adPotencias = PotenciasDelBarrido();
-    const ResultadoAutoconsumo r = m_borrador->Calcular(m_proyecto, adPotencias);
-    report::Documento documento = report::EscribirDocumento(r.proyecto, r.estudio, r.avisos, r.barrido);
-    documento.portada = PortadaDe(m_proyecto).datos;
-    GuardarDocumento(documento, L"autoconsumo");
+    GuardarDocumento(m_borrador->Documento(m_proyecto, adPotencias), L"autoconsumo");
 }
 
 // ---------------------------------------------------------------------------------------------------

@@ -1,10 +1,18 @@
 #include "economia/estudios.h"
 
 #include <memory>
+#include <stdexcept>
 #include <utility>
 
+#include <QuorvelEFV.h>
+
+#include <quorvel/registros.h>
+#include <quorvel/report/venta.h>
+
 #include "comun/numeros.h"
+#include "economia/borrador.h"
 #include "economia/horas.h"
+#include "informe/informe.h"
 
 namespace efv::estudio {
 
@@ -102,6 +110,36 @@ void EditarPrecios(Sesion& sesion)
     Economia& economia = sesion.Proyecto().economia;
     phPrecioEconomicoEnergetico(economia.adPrecioConsumo, economia.adPrecioVertido);
     sesion.Cambiado();
+}
+
+report::Documento DocumentoDeVenta(const CProyectoEstudio& proyecto)
+{
+    report::ProyectoVenta venta;
+    venta.titulo = CadenaUtf8(proyecto.csNombre);
+    venta.portada = PortadaDe(proyecto).datos;
+    venta.registro = proyecto.economia.venta;
+    const auto campo = CampoDe(proyecto);
+    if (campo)
+        Tomar(*campo, venta.registro);
+    if (!HayEnergia(campo, venta.registro))
+        throw std::runtime_error("Todavía no hay estudio de la venta del que informar.");
+    // The person has had all of them in front.
+    for (const auto& c : CamposDeRegistro(std::as_const(venta.registro)))
+        venta.fijados.emplace(c.nombre);
+    const report::EstudioVenta estudio = report::Calcular(venta, phGetBaseFactorK());
+    report::Documento documento = report::EscribirDocumento(venta, estudio, report::Avisos(venta, estudio));
+    if (campo)
+        MarcarDesfase(documento, proyecto, Diseno::red);
+    return documento;
+}
+
+report::Documento DocumentoDeAutoconsumo(const CProyectoEstudio& proyecto)
+{
+    if (proyecto.economia.csGuiado.empty())
+        throw std::runtime_error(
+            "El informe del autoconsumo es el de su estudio hora a hora: hágalo con «Economía, "
+            "Autoconsumo guiado…».");
+    return BorradorAutoconsumo(CadenaUtf8(proyecto.economia.csGuiado)).Documento(proyecto, {});
 }
 
 PanelResumen::Contenido VentaDe(const CProyectoEstudio& proyecto)

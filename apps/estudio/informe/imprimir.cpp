@@ -7,8 +7,10 @@
 #include <stdexcept>
 
 #include <QAction>
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QFontDatabase>
+#include <QLineEdit>
 #include <QPageLayout>
 #include <QPainter>
 #include <QPainterPath>
@@ -18,6 +20,8 @@
 #include <QPrinter>
 #include <QToolBar>
 
+#include <quorvel/marca_decimal.h>
+
 #include "comun/pagina.h"
 #include "pdf/pdf.h"
 
@@ -26,6 +30,7 @@ namespace efv::estudio {
 namespace {
 
 constexpr double kPuntosPorPulgada = 72.0;
+constexpr int kLetrasEscala = 7;                     // "1000,0%"
 constexpr int kAnchoVista = 1000, kAltoVista = 680;  // fits a small screen
 
 QColor ColorDe(ui::Color color)
@@ -201,6 +206,44 @@ void QuitarLasDePagina(const QPrintPreviewDialog& dialogo)
 
 }  // namespace
 
+namespace {
+
+// Qt writes and reads the preview's scale with a point whatever the language: a box in front of its own has the
+// mark that all other numbers have.
+void PonerEscala(const QPrintPreviewDialog& dialogo, QToolBar& barra)
+{
+    auto* suya = dialogo.findChild<QComboBox*>();
+    if (suya == nullptr || suya->lineEdit() == nullptr)
+        return;
+    const auto conMarca = [](QString texto) { return texto.replace('.', QChar(MarcaDecimal())); };
+    auto* escala = new QComboBox(&barra);
+    escala->setEditable(true);
+    escala->setInsertPolicy(QComboBox::NoInsert);
+    escala->setMinimumContentsLength(kLetrasEscala);
+    escala->setAccessibleName("Escala");
+    escala->setToolTip("Escala");
+    for (int i = 0; i < suya->count(); ++i)
+        escala->addItem(conMarca(suya->itemText(i)));
+    for (QAction* accion : barra.actions()) {
+        if (barra.widgetForAction(accion) != suya)
+            continue;
+        barra.insertWidget(accion, escala);
+        accion->setVisible(false);
+    }
+    const auto mostrar = [=] { escala->setEditText(conMarca(suya->currentText())); };
+    QObject::connect(suya->lineEdit(), &QLineEdit::textChanged, escala, mostrar);
+    const auto elegir = [=] {
+        suya->lineEdit()->setText(escala->currentText().remove(' ').replace(',', '.'));
+        emit suya->lineEdit()->editingFinished();
+        mostrar();
+    };
+    QObject::connect(escala->lineEdit(), &QLineEdit::editingFinished, escala, elegir);
+    QObject::connect(escala, qOverload<int>(&QComboBox::activated), escala, elegir);
+    mostrar();
+}
+
+}  // namespace
+
 void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel,
                  const std::vector<std::size_t>& paginas)
 {
@@ -222,10 +265,10 @@ void PintarHojas(const report::Impreso& impreso, QPagedPaintDevice& papel,
         throw std::runtime_error(kNoResponde);
 }
 
-report::Impreso HojasDe(const CProyectoEstudio& proyecto, Diseno diseno)
+report::Impreso HojasDe(const report::Documento& documento)
 {
     const pdf::Escritor medidor;
-    return report::Componer(DocumentoDe(proyecto, diseno), report::FechaDeHoy(), medidor, PapelDeInformes());
+    return report::Componer(documento, report::FechaDeHoy(), medidor, PapelDeInformes());
 }
 
 void Imprimir(const report::Impreso& impreso, const char* titulo)
@@ -259,6 +302,8 @@ void VerImpreso(const VistaImpresa& vista)
     });
     auto* barra = dialogo.findChild<QToolBar*>();
     auto* hojas = dialogo.findChild<QPrintPreviewWidget*>();
+    if (barra != nullptr)
+        PonerEscala(dialogo, *barra);
     if (vista.configurar && barra != nullptr && hojas != nullptr) {
         QObject::connect(barra->addAction("&Configurar página…"), &QAction::triggered, &dialogo, [&] {
             cuidar([&] {
@@ -275,14 +320,14 @@ void VerImpreso(const VistaImpresa& vista)
         std::rethrow_exception(fallo);
 }
 
-void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno)
+void ImprimirInforme(const report::Documento& documento)
 {
-    Imprimir(HojasDe(proyecto, diseno), "Imprimir informe");
+    Imprimir(HojasDe(documento), "Imprimir informe");
 }
 
-void VerInforme(const CProyectoEstudio& proyecto, Diseno diseno)
+void VerInforme(const report::Documento& documento)
 {
-    VerImpreso({"Vista preliminar del informe", [&] { return HojasDe(proyecto, diseno); },
+    VerImpreso({"Vista preliminar del informe", [&] { return HojasDe(documento); },
                 [] { ConfigurarPagina(Impresion::informe); }});
 }
 

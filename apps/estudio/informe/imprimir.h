@@ -16,8 +16,8 @@ QT_END_NAMESPACE
 
 namespace efv::estudio {
 
-/// The report of a design on sheets. @throws std::runtime_error with a Spanish text
-report::Impreso HojasDe(const CProyectoEstudio& proyecto, Diseno diseno);
+/// A report on the sheets that the person has set up. @throws std::runtime_error with a Spanish text
+report::Impreso HojasDe(const report::Documento& documento);
 
 /// Paints sheets, numbered from 0, a page each of the paper that the device has; on one of another size they
 /// are fitted. @throws std::runtime_error with a Spanish text
@@ -38,9 +38,9 @@ struct VistaImpresa {
 /// Shows the sheets as they will be printed. @throws std::runtime_error with a Spanish text
 void VerImpreso(const VistaImpresa& vista);
 
-/// Asks for the printer and prints the report of a design. @throws std::runtime_error with a Spanish text
-void ImprimirInforme(const CProyectoEstudio& proyecto, Diseno diseno);
+/// Asks for the printer and prints a report. @throws std::runtime_error with a Spanish text
+void ImprimirInforme(const report::Documento& documento);
 /// Shows it as it will be printed.
-void VerInforme(const CProyectoEstudio& proyecto, Diseno diseno);
+void VerInforme(const report::Documento& documento);
 
 }  // namespace efv::estudio

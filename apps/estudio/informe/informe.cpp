@@ -28,15 +28,6 @@ report::LugarDiseno LugarDelInforme(const Lugar& lugar)
     return del;
 }
 
-// Figures that don't go with the project any more don't leave the program unmarked.
-void MarcarDesfase(report::Documento& documento, const CString& csDesfase)
-{
-    if (csDesfase.empty())
-        return;
-    documento.titulo += " (desactualizado)";
-    documento.avisos.insert(documento.avisos.begin(), {true, CadenaUtf8(csDesfase)});
-}
-
 }  // namespace
 
 report::Portada PortadaDe(const CProyectoEstudio& proyecto)
@@ -64,8 +55,17 @@ report::Documento DocumentoDe(const CProyectoEstudio& proyecto, Diseno diseno)
         return report::InformeDe(registro, PortadaDe(proyecto), CatalogosDelModulo(), phGetBaseFactorK());
     };
     report::Documento documento = diseno == Diseno::aislada ? informe(proyecto.aislada) : informe(proyecto.red);
-    MarcarDesfase(documento, AvisoDeDesfase(proyecto, diseno));
+    MarcarDesfase(documento, proyecto, diseno);
     return documento;
+}
+
+void MarcarDesfase(report::Documento& documento, const CProyectoEstudio& proyecto, Diseno diseno)
+{
+    const CString csDesfase = AvisoDeDesfase(proyecto, diseno);
+    if (csDesfase.empty())
+        return;
+    documento.titulo += " (desactualizado)";
+    documento.avisos.insert(documento.avisos.begin(), {true, CadenaUtf8(csDesfase)});
 }
 
 report::Papel PapelDeInformes()
@@ -73,9 +73,9 @@ report::Papel PapelDeInformes()
     return report::PapelDe(PaginaDeLaPersona(Impresion::informe));
 }
 
-void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno)
+void GuardarInforme(const report::Documento& documento)
 {
-    GuardarDocumento(DocumentoDe(proyecto, diseno), L"informe");
+    GuardarDocumento(documento, L"informe");
 }
 
 void GuardarDocumento(const report::Documento& documento, const CString& csNombre)
@@ -90,7 +90,7 @@ void GuardarDocumento(const report::Documento& documento, const CString& csNombr
     const std::string fecha = report::FechaDeHoy();
     GuardarFichero(*csRuta, pdf::EsPdf(CadenaUtf8(*csRuta))
                                 ? pdf::InformePdf(documento, fecha, pdf::LetrasInstaladas(), PapelDeInformes())
-                                : report::DocumentoHtml(documento, fecha));
+                                : report::DocumentoHtml(documento, fecha, PapelDeInformes()));
 }
 
 }  // namespace efv::estudio

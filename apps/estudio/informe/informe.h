@@ -20,11 +20,14 @@ report::Portada PortadaDe(const CProyectoEstudio& proyecto);
 /// its catalogue
 report::Documento DocumentoDe(const CProyectoEstudio& proyecto, Diseno diseno);
 
+/// Says in a report that its figures don't go with the project any more, where they don't.
+void MarcarDesfase(report::Documento& documento, const CProyectoEstudio& proyecto, Diseno diseno);
+
 /// The sheets that the person has set up for reports.
 report::Papel PapelDeInformes();
 
 /// Asks for a file and writes the report into it. @throws std::runtime_error with a Spanish text
-void GuardarInforme(const CProyectoEstudio& proyecto, Diseno diseno);
+void GuardarInforme(const report::Documento& documento);
 
 /// Asks for a file, an HTML page or a PDF, and writes a document into it. @param csNombre proposed, without its
 /// ending @throws std::runtime_error with a Spanish text

@@ -419,7 +419,7 @@ TEST_F(Ventanas, ElInformeDelDisenoALaVistaSeGuarda)
 TEST_F(Ventanas, ElInformeSeImprimeHojaAHoja)
 {
     sesion.Nuevo(ProyectoDeEjemplo(sesion.LugarInicial()));
-    const report::Impreso impreso = HojasDe(sesion.Proyecto(), Diseno::red);
+    const report::Impreso impreso = HojasDe(DocumentoDe(sesion.Proyecto(), Diseno::red));
     for (const auto& [papelHay, paginas, medida] :
          {std::tuple<QPageSize::PageSizeId, std::vector<std::size_t>, const char*>{
               QPageSize::A4, {0, 1, 2, 3, 4}, "595"},
