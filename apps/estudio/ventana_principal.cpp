@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -51,15 +52,29 @@ constexpr double kParteLugar = 0.35, kPartePestanas = 0.5;
 constexpr int kComprobaciones = 1;  // tab below a schematic, behind the summary
 
 // The drawing for who can't see it: what stands in it, from left to right.
-QString Descripcion(const Lamina& lamina, const CString& csSinDiseno)
+QString Descripcion(const VistaEsquema& esquema, const CString& csSinDiseno)
 {
     QStringList elementos;
-    for (const Zona& zona : lamina.zonas)
-        if (const QString titulo = QString::fromStdWString(zona.csTitulo); !elementos.contains(titulo))
-            elementos << titulo;
+    for (const Zona& zona : esquema.Leidos()) {
+        QString elemento = QString::fromStdWString(zona.csTitulo);
+        // What the pointer is told over it.
+        if (!zona.csIndicacion.empty())
+            elemento += QStringLiteral(" (") +
+                        QString::fromStdWString(zona.csIndicacion).replace('\n', QStringLiteral("; ")) + ')';
+        if (!elementos.contains(elemento))
+            elementos << elemento;
+    }
     return elementos.isEmpty()
                ? QString::fromStdWString(csSinDiseno)
                : QStringLiteral("De los paneles a la salida: ") + elementos.join(QStringLiteral(", "));
+}
+
+// Its context menu, as by the key for it.
+void PedirMenu(QWidget& conFoco)
+{
+    const QPoint lugar = conFoco.inputMethodQuery(Qt::ImCursorRectangle).toRect().center();
+    QContextMenuEvent pedido(QContextMenuEvent::Keyboard, lugar, conFoco.mapToGlobal(lugar));
+    QApplication::sendEvent(&conFoco, &pedido);
 }
 
 // A design's summary with what keeps it from being up to date.
@@ -385,7 +400,7 @@ void VentanaPrincipal::MostrarDiseno(int iPestana, Diseno diseno)
         esquema.acsNotas.insert(esquema.acsNotas.begin(), csAviso);
     VistaEsquema& vista = *m_esquemas[static_cast<std::size_t>(iPestana)];
     vista.Poner(Dibujar(esquema), fila.sinLamina);
-    vista.setAccessibleDescription(Descripcion(vista.Mostrado(), fila.sinLamina));
+    vista.setAccessibleDescription(Descripcion(vista, fila.sinLamina));
     m_pestanas->setTabText(iPestana,
                            QString(fila.rotulo) + QString(csAviso.empty() ? "" : " (desactualizada)"));
     m_pestanas->setTabToolTip(iPestana, QString::fromStdWString(csAviso));
@@ -498,6 +513,14 @@ bool VentanaPrincipal::eventFilter(QObject* objeto, QEvent* evento)
         objeto->isWidgetType()) {
         MostrarAyudaDe(static_cast<QWidget*>(objeto));
         return true;
+    }
+    // Not every keyboard has the key of menus.
+    if (evento->type() == QEvent::KeyPress && objeto == QApplication::focusWidget()) {
+        const auto* tecla = static_cast<QKeyEvent*>(evento);
+        if (tecla->key() == Qt::Key_F10 && tecla->modifiers() == Qt::ShiftModifier) {
+            PedirMenu(*static_cast<QWidget*>(objeto));
+            return true;
+        }
     }
     // Whoever chose a tab by its letter goes on there.
     if (evento->type() == QEvent::Shortcut && qobject_cast<QTabBar*>(objeto) != nullptr)

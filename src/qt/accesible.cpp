@@ -66,12 +66,25 @@ private:
     QComboBox& Combo() const { return *static_cast<QComboBox*>(object()); }
 };
 
+// Its parts are for nobody: the ground of a view that has the focus would say that it has it too.
+class DibujoAccesible final : public QAccessibleWidget {
+public:
+    explicit DibujoAccesible(QWidget* widget) : QAccessibleWidget(widget, QAccessible::Graphic) {}
+
+    int childCount() const override { return 0; }
+    QAccessibleInterface* child(int /*i*/) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface* /*hijo*/) const override { return -1; }
+};
+
 QAccessibleInterface* Crear(const QString& clase, QObject* objeto)
 {
     auto* const widget = qobject_cast<QWidget*>(objeto);
     if (widget == nullptr)
         return nullptr;
-    if (const QVariant papel = widget->property(kPapel); papel.isValid())
+    const QVariant papel = widget->property(kPapel);
+    if (papel.toInt() == QAccessible::Graphic)
+        return new DibujoAccesible(widget);
+    if (papel.isValid())
         return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(papel.toInt()));
     auto* const combo = clase == QLatin1String("QComboBox") ? qobject_cast<QComboBox*>(objeto) : nullptr;
     return combo == nullptr || combo->isEditable() ? nullptr : new ComboAccesible(combo);

@@ -198,6 +198,9 @@ QVariant ModeloLista::data(const QModelIndex& indice, int papel) const
         return {};
     if (papel == Qt::DisplayRole)
         return Celda(iFila, indice.column());
+    // A dash alone is heard as nothing, or as a sign.
+    if (papel == Qt::AccessibleTextRole && Celda(iFila, indice.column()) == QStringLiteral("—"))
+        return QStringLiteral("sin dato");
     if (papel == Qt::TextAlignmentRole)
         return Alineacion(indice.column());
     // What doesn't fit its column is read whole.

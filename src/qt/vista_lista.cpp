@@ -41,6 +41,7 @@ public:
     using BASE::BASE;
     std::function<void()> alCambiarTamano;
     std::function<void(const QModelIndex&)> alPedirAbrir;
+    std::function<bool()> seAbre;
     std::function<void()> alPedirCopia;
     std::function<void(const QPoint& lugar)> alPedirMenu;
     QSize propuesto;
@@ -56,7 +57,10 @@ protected:
     }
     void keyPressEvent(QKeyEvent* evento) override
     {
-        if (evento->key() == Qt::Key_F2 && alPedirAbrir && BASE::currentIndex().isValid())
+        // Enter on a row does what a double click does, before it accepts the dialog.
+        const bool bRetorno = evento->key() == Qt::Key_Return || evento->key() == Qt::Key_Enter;
+        const bool bAbre = evento->key() == Qt::Key_F2 || (bRetorno && seAbre && seAbre());
+        if (bAbre && alPedirAbrir && BASE::currentIndex().isValid())
             alPedirAbrir(BASE::currentIndex());
         else if (evento->matches(QKeySequence::Copy) && alPedirCopia)
             alPedirCopia();
@@ -302,6 +306,7 @@ private:
                          [this](const QPoint& lugar) { AbrirMenuDeColumna(lugar); });
         const auto conectarPropias = [&](auto& rejilla) {
             rejilla.alPedirAbrir = abrir;
+            rejilla.seAbre = [this] { return m_lista.alAbrir && Arbol() == nullptr; };
             rejilla.alPedirCopia = [this] { Copiar(ui::Cabeceras::con); };
             rejilla.alPedirMenu = [this](const QPoint& lugar) { AbrirMenuDeTabla(lugar); };
             rejilla.alCambiarTamano = [this] {

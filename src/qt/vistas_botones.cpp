@@ -78,10 +78,14 @@ private:
         Pulsador().setText(bConImagen ? QString() : ConMnemonico(csRotulo));
         Pulsador().setToolTip(
             Indicacion(m_boton.csIndicacion.empty() && bConImagen ? m_boton.csRotulo : m_boton.csIndicacion));
-        // A few letters don't need a whole button's width.
+        // A few letters don't need a whole button's width; a name that comes later does.
         const bool bBreve = bConImagen || Pulsador().text().size() <= 3;
         if (bBreve && !m_boton.bImagenGrande)
             Pulsador().setFixedWidth(Pulsador().sizeHint().height() + (bConImagen ? 8 : 6));
+        else if (Pulsador().minimumWidth() == Pulsador().maximumWidth()) {
+            Pulsador().setMinimumWidth(0);
+            Pulsador().setMaximumWidth(QWIDGETSIZE_MAX);
+        }
     }
 
     const ui::Boton& m_boton;

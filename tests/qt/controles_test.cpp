@@ -146,8 +146,10 @@ TEST(MenuDeCelda, ElTecladoLoAbreYLasOtrasCeldasSeAbrenComoSiempre)
         QTest::keyClick(MenuAbierto(), Qt::Key_Return);
         QApplication::processEvents();
         EXPECT_EQ(d.filas.GetItemText(2, 2), L"Amarillo");
-        QTest::keyClick(&tabla, Qt::Key_Return);  // elsewhere it is the dialog's
-        EXPECT_TRUE(d.Terminado());
+        d.abierta = {-1, -1};
+        QTest::keyClick(&tabla, Qt::Key_Return);  // elsewhere it opens the cell, as F2 does
+        EXPECT_EQ(d.abierta.first, 2);
+        EXPECT_FALSE(d.Terminado());
     });
 }
 

@@ -69,8 +69,12 @@ TEST(Listas, ElegirYAbrirDanFilaYColumna)
         tabla.setFocus();
         QTest::keyClick(&tabla, Qt::Key_Down);
         EXPECT_EQ(d.tabla.iSeleccion, 3);
-        QTest::keyClick(&tabla, Qt::Key_F2);
-        EXPECT_EQ(d.abierta, std::pair(3, 1));
+        for (const Qt::Key tecla : {Qt::Key_F2, Qt::Key_Return}) {
+            d.abierta = {-1, -1};
+            QTest::keyClick(&tabla, tecla);
+            EXPECT_EQ(d.abierta, std::pair(3, 1));
+            EXPECT_FALSE(d.Terminado());
+        }
 
         // Fewer rows, and nothing chosen: the view follows and tells the dialog nothing.
         nElecciones = 0;

@@ -102,10 +102,17 @@ void VistaEsquema::LlenarMenu(QMenu& menu, Elemento::Clase clase)
         menu.addAction("&Rotulación…", this, [this, clase] { alRotular(clase); });
 }
 
+std::vector<Zona> VistaEsquema::Leidos() const
+{
+    std::vector<Zona> zonas = m_lamina.zonas;
+    std::ranges::stable_sort(zonas, {}, [](const Zona& zona) { return std::pair(zona.x, zona.y); });
+    return zonas;
+}
+
 void VistaEsquema::LlenarElementos(QMenu& menu)
 {
     std::set<Elemento::Clase> puestas = {Elemento::Clase::puntos};
-    for (const Zona& zona : m_lamina.zonas) {
+    for (const Zona& zona : Leidos()) {
         if (!puestas.insert(zona.clase).second)
             continue;
         QMenu* dentro = menu.addMenu(QString::fromStdWString(zona.csTitulo).replace('&', "&&"));
@@ -201,6 +208,7 @@ void VistaEsquema::drawForeground(QPainter* pintor, const QRectF& /*zona*/)
     }
     if (hasFocus()) {
         pintor->setPen(QPen(palette().color(QPalette::Highlight), kMarcoDeFoco));
+        pintor->setBrush(Qt::NoBrush);
         pintor->drawRect(viewport()->rect().adjusted(1, 1, -1, -1));
     }
 }

@@ -20,6 +20,8 @@ public:
     /// @param csSinDiseno what to say when there is nothing to draw
     void Poner(Lamina lamina, const CString& csSinDiseno);
     const Lamina& Mostrado() const { return m_lamina; }
+    /// Its elements as they are read, from left to right and then down.
+    std::vector<Zona> Leidos() const;
 
     /// What a double click on an element opens, and what its menu offers besides.
     std::function<void(Elemento::Clase)> alAbrir, alRotular;
