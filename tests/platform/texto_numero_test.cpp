@@ -28,6 +28,7 @@ TEST(Texto, Utf8MalFormadoSeSustituye)
 TEST(Texto, PlegarIgualaAcentosYCaja)
 {
     EXPECT_EQ(texto::Plegar(L"ÁVILA"), texto::Plegar(L"avila"));
+    EXPECT_EQ(texto::Plegar(L"Ca\u0301diz"), L"cadiz");
     EXPECT_EQ(texto::Plegar(L"Donostia/San Sebastián Ñ ß"), L"donostia/san sebastian n ß");
 }
 

@@ -113,6 +113,34 @@ void LeerCargas(Objeto& objeto, ProyectoAislada& proyecto, const Catalogos& cata
     AnotarCargas(proyecto, catalogos.receptores);
 }
 
+// What decides the sizes and has a value of the program's where the file is silent.
+struct Decisivo {
+    std::string_view campo;
+    const char* nombre;
+    double CSFVAsistenteAislada::*valor;
+    const char* unidad;
+};
+constexpr auto kDecisivos = std::to_array<Decisivo>({
+    {"dDiasAutonomia", "autonomía", &CSFVAsistenteAislada::dDiasAutonomia, "días"},
+    {"dTensionSistema", "tensión del sistema", &CSFVAsistenteAislada::dTensionSistema, "V"},
+    {"dProfundidadDescarga", "profundidad de descarga", &CSFVAsistenteAislada::dProfundidadDescarga, "%"},
+    {"dTensionMinFV", "tensión mínima del regulador", &CSFVAsistenteAislada::dTensionMinFV, "V"},
+    {"dTensionMaxFV", "tensión máxima del regulador", &CSFVAsistenteAislada::dTensionMaxFV, "V"},
+    {"dCorrienteMaxFV", "corriente máxima del regulador", &CSFVAsistenteAislada::dCorrienteMaxFV, "A"},
+});
+
+void AnotarPorDefecto(ProyectoAislada& proyecto)
+{
+    std::string lista;
+    for (const auto& [campo, nombre, valor, unidad] : kDecisivos) {
+        if (!proyecto.fijados.contains(std::string(campo)))
+            lista += fmt::format("{}{} ({}), {} {}", lista.empty() ? "" : "; ", nombre, campo,
+                                 DecimalExacto(proyecto.registro.*valor), unidad);
+    }
+    if (!lista.empty())
+        proyecto.notas.push_back(fmt::format("El fichero no lo da y se toma por defecto: {}.", lista));
+}
+
 ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, const std::string& csDatos)
 {
     Objeto objeto(j);
@@ -139,6 +167,7 @@ ProyectoAislada LeerProyecto(const JsonLeido& j, const Catalogos& catalogos, con
         if (proyecto.fijados.contains(std::string(campo)))
             proyecto.notas.push_back(
                 fmt::format("«{}» se calcula siempre: el valor del fichero no cuenta.", campo));
+    AnotarPorDefecto(proyecto);
     return proyecto;
 }
 

@@ -253,6 +253,8 @@ CString Plegar(std::wstring_view texto)
 
 void PlegarEnSuSitio(CString& texto)
 {
+    // Accents apart from their letters, as some systems write names of files.
+    std::erase_if(texto, [](wchar_t c) { return c >= 0x300 && c <= 0x36F; });
     for (wchar_t& c : texto)
         c = PlegarLetra(c);
 }
