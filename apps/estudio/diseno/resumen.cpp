@@ -87,8 +87,14 @@ std::vector<LineaResumen> ConEnergia(const DISENO& diseno, const std::optional<D
 std::vector<LineaResumen> ResumenDe(const CProyectoEstudio& proyecto, Diseno diseno,
                                     const std::optional<DisenoCalculado>& calculado)
 {
-    return diseno == Diseno::aislada ? ConEnergia(proyecto.aislada, calculado)
-                                     : ConEnergia(proyecto.red, calculado);
+    auto lineas = diseno == Diseno::aislada ? ConEnergia(proyecto.aislada, calculado)
+                                            : ConEnergia(proyecto.red, calculado);
+    // What no dialog shows, and counts.
+    if (!lineas.empty() && diseno == Diseno::red && proyecto.calculo.dRendimiento != Calculo().dRendimiento)
+        lineas.push_back({L"Rendimiento, el del fichero abierto", Decimal(proyecto.calculo.dRendimiento, 3)});
+    if (!lineas.empty() && !proyecto.calculo.csCableado.empty())
+        lineas.push_back({L"Cableado", L"con los criterios del fichero abierto"});
+    return lineas;
 }
 
 std::vector<LineaResumen> ResumenDe(const CSFVAsistenteAislada& diseno)
