@@ -38,11 +38,11 @@ TablaHoja Plegada(TablaHoja tabla, const Pliego& pliego)
         std::ranges::move(tabla.filas[f].celdas, std::back_inserter(celdas));
     }
     tabla.filas.resize(nMitad);
-    tabla.bJunta = true;  // it is read down one half and then the other
     return tabla;
 }
 
-BloqueTabla::BloqueTabla(TablaHoja tabla, const Pliego& pliego) : m_tabla(std::move(tabla))
+BloqueTabla::BloqueTabla(TablaHoja tabla, const Pliego& pliego)
+    : m_tabla(std::move(tabla)), m_bAncha(pliego.EsAncha())
 {
     // A number stays with its unit.
     for (FilaHoja& fila : m_tabla.filas) {
@@ -65,14 +65,16 @@ BloqueTabla::BloqueTabla(TablaHoja tabla, const Pliego& pliego) : m_tabla(std::m
     m_filas.reserve(m_tabla.filas.size());
     for (const FilaHoja& fila : m_tabla.filas)
         m_filas.push_back(Partir(fila, pliego.medidor));
-    m_bJunta = m_tabla.bJunta && AltoEntero() <= pliego.Entera() / 2;
+    // Halves beside each other are read down one and then the other; a low sheet has few rows of a table.
+    m_bJunta = m_bAncha && AltoEntero() <= pliego.Entera() / 2;
 }
 
 // A text stands clear of the number that ends before it.
 double BloqueTabla::Sangria(std::size_t c) const
 {
     constexpr double kTrasNumero = 7.0;
-    return c > 0 && m_tabla.columnas[c - 1].bNumero && !m_tabla.columnas[c].bNumero ? kTrasNumero : 0.0;
+    return m_bAncha && c > 0 && m_tabla.columnas[c - 1].bNumero && !m_tabla.columnas[c].bNumero ? kTrasNumero
+                                                                                                : 0.0;
 }
 
 // Captions stay near their values.
@@ -80,8 +82,7 @@ double BloqueTabla::AnchoEn(const Pliego& pliego) const
 {
     if (m_tabla.columnas.size() != kSuelta)
         return pliego.Ancho();
-    const double dParte = m_tabla.bCabecera ? 1.0 : kParteEstrecha;
-    return std::min(dParte * pliego.Ancho(), kParteEstrecha * papel::kAnchoLectura);
+    return (m_tabla.bCabecera ? 1.0 : kParteEstrecha) * std::min(pliego.Ancho(), papel::kAnchoLectura);
 }
 
 // Every column its longest word; what is left goes where whole cells ask for more, then to all alike. False
@@ -175,7 +176,7 @@ void BloqueTabla::PonerCabecera(Pliego& pliego, bool bContinua) const
     }
     if (!m_tabla.bCabecera)
         return;
-    pliego.Fondo(pliego.Izquierda(), pliego.y, pliego.Ancho(), m_cabecera.dAlto, papel::kFondo);
+    pliego.Fondo(pliego.Izquierda(), pliego.y, Ancho(), m_cabecera.dAlto, papel::kFondo);
     PonerFila(pliego, m_rotulos, m_cabecera, papel::kTenue);
 }
 
@@ -192,8 +193,7 @@ void BloqueTabla::PonerFila(Pliego& pliego, const FilaHoja& fila, const Celdas& 
         }
     }
     pliego.Bajar(celdas.dAlto);
-    const Columna& ultima = m_columnas.back();
-    pliego.Raya(pliego.Izquierda(), pliego.y, ultima.x + ultima.dAncho - pliego.Izquierda(), papel::kRaya);
+    pliego.Raya(pliego.Izquierda(), pliego.y, Ancho(), papel::kRaya);
 }
 
 void BloqueTabla::Poner(Pliego& pliego) const
@@ -207,9 +207,7 @@ void BloqueTabla::Poner(Pliego& pliego) const
         }
         const FilaHoja& fila = m_tabla.filas[f];
         if (fila.bTotal) {
-            const Columna& ultima = m_columnas.back();
-            pliego.Raya(pliego.Izquierda(), pliego.y, ultima.x + ultima.dAncho - pliego.Izquierda(),
-                        papel::kTenue, 0.9);
+            pliego.Raya(pliego.Izquierda(), pliego.y, Ancho(), papel::kTenue, 0.9);
         }
         PonerFila(pliego, fila, m_filas[f], papel::kTinta);
     }

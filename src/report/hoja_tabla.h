@@ -25,7 +25,6 @@ struct TablaHoja {
     std::vector<ColumnaHoja> columnas;
     bool bCabecera = true;
     std::vector<FilaHoja> filas = {};
-    bool bJunta = false;  ///< on one sheet where one holds it
 };
 
 /// On a wide sheet the two halves of a long table of captions and values, beside each other.
@@ -49,6 +48,7 @@ private:
     };
 
     double AnchoEn(const Pliego& pliego) const;
+    double Ancho() const { return m_columnas.back().x + m_columnas.back().dAncho - m_columnas.front().x; }
     double Sangria(std::size_t c) const;
     bool Repartir(double dCuerpo, const Pliego& pliego);
     Celdas Partir(const FilaHoja& fila, const MedidorLetra& medidor) const;
@@ -59,12 +59,13 @@ private:
     void PonerFila(Pliego& pliego, const FilaHoja& fila, const Celdas& celdas, ui::Color color) const;
 
     TablaHoja m_tabla;
+    bool m_bAncha;
     double m_dCuerpo = 0.0;
     std::vector<Columna> m_columnas;
     FilaHoja m_rotulos = {.bTotal = true};
     Celdas m_cabecera;
     std::vector<Celdas> m_filas;
-    bool m_bJunta = false;
+    bool m_bJunta = false;  // on one sheet
 };
 
 }  // namespace efv::report

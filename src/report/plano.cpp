@@ -51,8 +51,7 @@ CString Limpio(const CString& csTexto)
             continue;
         const bool bCifra = cs[i - 1] >= L'0' && cs[i - 1] <= L'9';
         const std::size_t nSiguiente = std::min(cs.find(L' ', i + 1), cs.size()) - i - 1;
-        if ((bCifra && nSiguiente <= kLetrasUnidad && cs[i + 1] != L'·') || cs[i - 1] == L'×' ||
-            cs[i - 1] == L'=' || cs[i + 1] == L'=')
+        if ((bCifra && nSiguiente <= kLetrasUnidad && cs[i + 1] != L'·') || cs[i - 1] == L'×')
             cs[i] = kFijo;
     }
     return cs;
@@ -369,8 +368,9 @@ Plano PlanoDe(const std::vector<Esquema>& esquemas, const Cajetin& cajetin, cons
     const double dAnchoNotas = pagina.Ancho() - pagina.dIzquierdo - pagina.dDerecho - 2 * kHolgura;
     const std::vector<Nota> notas = NotasDe(esquema, dAnchoNotas);
     const Area area = AreaDe(pagina, plano.cajetin, notas.size());
-    std::vector<Esquema> conFallosAbajo(esquemas.size());
-    std::ranges::transform(esquemas, conFallosAbajo.begin(), ConFallosAbajo);
+    std::vector<Esquema> conFallosAbajo(pagina.bUnoAUno ? 1 : esquemas.size());
+    std::transform(esquemas.begin(), esquemas.begin() + std::ssize(conFallosAbajo), conFallosAbajo.begin(),
+                   ConFallosAbajo);
     double dMilimetros = 0.0;  // of a unit
     for (const double dAltura :
          {kAlturaLetraPlano, (kAlturaLetraPlano + kAlturaLetraMinima) / 2, kAlturaLetraMinima}) {

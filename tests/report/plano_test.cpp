@@ -167,6 +167,16 @@ void ExigirLegible(const Lamina& hoja, const Pagina& pagina)
     }
 }
 
+// One for all rather than further sheets, unless the page asks for each.
+TEST(Plano, LaPaginaEligeEntreUnoPorTodosYMasHojas)
+{
+    const std::vector<Esquema> formas = {EsquemaDeFilas(5), EsquemaDeFilas(1)};
+    EXPECT_EQ(PlanoDe(formas, {}, Pagina{}).hojas.size(), 1U);
+    EXPECT_GT(PlanoDe(formas, {}, Pagina{.bUnoAUno = true}).hojas.size(), 1U);
+    EXPECT_EQ(PlanoDe(formas, {}, Pagina{.formato = Formato::a0}).hojas,
+              PlanoDe(formas, {}, Pagina{.formato = Formato::a0, .bUnoAUno = true}).hojas);
+}
+
 // Whatever the page set-up: it is laid out, over as many sheets as it takes, and can be read.
 TEST(Plano, CabeEnTodosLosPapelesYSeLee)
 {

@@ -74,6 +74,11 @@ public:
                 "aislada o red, de un proyecto de efv-estudio; si falta, el de red y, si no lo hay, el otro")
             ->type_name("TIPO");
         m_pagina.Declarar(linea);
+        linea
+            .add_flag("--uno-a-uno", m_bUnoAUno,
+                      "Cada inversor aparte, hasta doce, en las hojas que haga falta; si falta, en una hoja")
+            ->option_text(" ")
+            ->disable_flag_override();
         linea.add_option("--revision", m_revision, "Revisión que dice el cajetín; si falta, la de la portada")
             ->type_name("TEXTO");
         linea.add_flag("--json", m_bJson, "Dice en JSON lo que se ha escrito")
@@ -84,7 +89,8 @@ public:
             "El proyecto es el de «efv aislada» o «efv red», que dice su «tipo». Proyecto, lugar, autor,\n"
             "cliente y revisión del cajetín son los de su «titulo», «lugar» y «portada»; lo que falta sale\n"
             "como «—». Los inversores se dibujan uno a uno, hasta doce, si caben en una hoja; si no, uno por\n"
-            "todos, con su número. Lo que aun así no cabe sigue en otra hoja. Con «--salida -» se escribe por\n"
+            "todos, con su número, salvo con «--uno-a-uno». Lo que aun así no cabe sigue en otra hoja. Con "
+            "«--salida -» se escribe por\n"
             "la salida estándar.\n"
             "Ejemplo:\n  efv esquema cubierta-red.json --salida cubierta.dxf --papel A3");
         return linea;
@@ -97,7 +103,8 @@ public:
         if (m_salida.empty())
             throw ErrorUso("falta --salida FICHERO (ayuda: efv esquema --help)");
         const FormatoFichero& formato = LeerFormato();
-        const report::Pagina pagina = m_pagina.Leer();
+        report::Pagina pagina = m_pagina.Leer();
+        pagina.bUnoAUno = m_bUnoAUno;
         const JsonLeido proyecto = LeerProyecto();
         std::vector<std::string> entradas = FicherosLeidos(proyecto);
         entradas.push_back(m_proyecto);
@@ -191,7 +198,7 @@ private:
     std::string m_proyecto, m_salida, m_datos;
     std::optional<std::string> m_formato, m_revision, m_tipo;
     OpcionesPagina m_pagina{report::Pagina{}, report::kTodosLosFormatos};
-    bool m_bJson = false;
+    bool m_bUnoAUno = false, m_bJson = false;
 };
 
 }  // namespace

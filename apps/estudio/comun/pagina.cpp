@@ -24,6 +24,7 @@ constexpr auto kMargenes = std::to_array<Margen>({
 });
 constexpr const char* kFormato = "iFormato";
 constexpr const char* kApaisadaDicha = "bApaisada";
+constexpr const char* kUnoAUno = "bUnoAUno";
 constexpr int kApaisada = 0, kVertical = 1;
 
 QString ClaveDe(Impresion impresion, const char* clave)
@@ -45,6 +46,7 @@ DialogoPagina::DialogoPagina(Impresion impresion, const Pagina& inicial)
       m_formatos(FormatosDe(impresion)),
       m_iFormato(static_cast<int>(std::ranges::find(m_formatos, inicial.formato) - m_formatos.begin())),
       m_iOrientacion(inicial.bApaisada ? kApaisada : kVertical),
+      m_bUnoAUno(inicial.bUnoAUno ? 1 : 0),
       m_pagina(inicial)
 {
     auto& formato = Anadir<ui::Seleccion>("iFormato", L"&Papel:", ui::Seleccion::Forma::combo);
@@ -61,6 +63,12 @@ DialogoPagina::DialogoPagina(Impresion impresion, const Pagina& inicial)
         edicion.limites = ui::Intervalo{report::kMargenMinimo, report::kMargenMaximo};
         edicion.iDecimales = 1;
     }
+    if (impresion == Impresion::esquema) {
+        auto& unoAUno = Anadir<ui::Casilla>(kUnoAUno, L"Cada in&versor aparte, en las hojas que haga falta");
+        unoAUno.destino = &m_bUnoAUno;
+        unoAUno.csIndicacion =
+            L"Hasta doce. Si no, cuando no caben todos en una hoja, uno por todos con su número.";
+    }
     Volcar();
 }
 
@@ -69,6 +77,7 @@ Pagina DialogoPagina::Elegida() const
     Pagina pagina = m_pagina;
     pagina.formato = m_formatos[static_cast<std::size_t>(m_iFormato)];
     pagina.bApaisada = m_iOrientacion == kApaisada;
+    pagina.bUnoAUno = m_bUnoAUno != 0;
     return pagina;
 }
 
@@ -82,6 +91,7 @@ Pagina PaginaDeLaPersona(Impresion impresion)
         if (static_cast<int>(este) == iFormato)
             pagina.formato = este;
     pagina.bApaisada = ajustes.value(ClaveDe(impresion, kApaisadaDicha), pagina.bApaisada).toBool();
+    pagina.bUnoAUno = ajustes.value(ClaveDe(impresion, kUnoAUno), pagina.bUnoAUno).toBool();
     for (const Margen& margen : kMargenes) {
         bool bNumero = false;
         const double d = ajustes.value(ClaveDe(impresion, margen.clave)).toDouble(&bNumero);
@@ -100,6 +110,7 @@ void ConfigurarPagina(Impresion impresion)
     Ajustes ajustes;
     ajustes.setValue(ClaveDe(impresion, kFormato), static_cast<int>(pagina.formato));
     ajustes.setValue(ClaveDe(impresion, kApaisadaDicha), pagina.bApaisada);
+    ajustes.setValue(ClaveDe(impresion, kUnoAUno), pagina.bUnoAUno);
     for (const Margen& margen : kMargenes)
         ajustes.setValue(ClaveDe(impresion, margen.clave), pagina.*margen.dMargen);
 }

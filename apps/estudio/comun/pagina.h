@@ -19,7 +19,7 @@ public:
 
 private:
     std::span<const report::Formato> m_formatos;  ///< that can be chosen
-    int m_iFormato, m_iOrientacion;
+    int m_iFormato, m_iOrientacion, m_bUnoAUno;
     report::Pagina m_pagina;
 };
 

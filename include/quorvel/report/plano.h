@@ -32,6 +32,7 @@ struct EFV_API Pagina {
     bool bApaisada = true;
     double dIzquierdo = 20.0, dSuperior = 10.0, dDerecho = 10.0,
            dInferior = 10.0;  ///< margins; left for filing
+    bool bUnoAUno = false;    ///< of a schematic: the fullest form, over as many sheets as that takes
 
     double Ancho() const;
     double Alto() const;
@@ -65,8 +66,8 @@ struct Plano {
 };
 
 /// Lays a schematic out on sheets: the first of its forms that one sheet holds, else the last on as many as it
-/// takes; what is connected over sheets says where it goes on. Columns that don't fit beside each other go on
-/// below.
+/// takes, or the first where the page says so; what is connected over sheets says where it goes on. Columns
+/// that don't fit beside each other go on below.
 /// @param esquemas of one design, such as with each of kDetallesDePlano
 /// @throws std::invalid_argument with a Spanish text when a sheet is too small for one element
 EFV_API Plano PlanoDe(const std::vector<Esquema>& esquemas, const Cajetin& cajetin, const Pagina& pagina);
