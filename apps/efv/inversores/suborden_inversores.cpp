@@ -133,6 +133,11 @@ std::string InformeTexto(const Resultado& r, std::size_t nMaximo, bool bTodos)
 // JSON and CSV
 // ---------------------------------------------------------------------------------------------------
 
+int Fases(const CBaseInversorModelo& inversor)
+{
+    return inversor.iTipoSalida == 0 ? 1 : 3;
+}
+
 std::string InformeJson(const Resultado& r, bool bTodos)
 {
     const PanelesPedidos& p = r.pedido;
@@ -140,7 +145,7 @@ std::string InformeJson(const Resultado& r, bool bTodos)
     for (const InversorEnsayado& e : r.valen) {
         valen.push_back({{"csInversor", Id(*e.inversor)},
                          {"potencia_nominal_W", e.inversor->dPCANom},
-                         {"trifasico", e.inversor->iTipoSalida != 0},
+                         {"fases", Fases(*e.inversor)},
                          {"inversores", e.reparto.iInversores},
                          {"paneles_serie", e.reparto.iPanelesSerie},
                          {"ramales", e.reparto.iRamales},
@@ -165,19 +170,18 @@ std::string InformeJson(const Resultado& r, bool bTodos)
 std::string InformeCsv(const Resultado& r, bool bTodos)
 {
     std::string texto =
-        "csInversor;potencia_nominal_W;trifasico;inversores;paneles_serie;ramales;ramales_por_seguidor;"
+        "csInversor;potencia_nominal_W;fases;inversores;paneles_serie;ramales;ramales_por_seguidor;"
         "ratio_cc_ca;motivo\n";
     for (const InversorEnsayado& e : r.valen) {
         texto += fmt::format("{};{};{};{};{};{};{};{};\n", TextoCsv(Id(*e.inversor)),
-                             DecimalExacto(e.inversor->dPCANom), e.inversor->iTipoSalida != 0 ? "sí" : "no",
-                             e.reparto.iInversores, e.reparto.iPanelesSerie, e.reparto.iRamales,
-                             PorSeguidor(e, " + "), DecimalExacto(e.reparto.comprobacion.dRatioCCCA));
+                             DecimalExacto(e.inversor->dPCANom), Fases(*e.inversor), e.reparto.iInversores,
+                             e.reparto.iPanelesSerie, e.reparto.iRamales, PorSeguidor(e, " + "),
+                             DecimalExacto(e.reparto.comprobacion.dRatioCCCA));
     }
     if (bTodos) {
         for (const InversorEnsayado& e : r.noValen)
-            texto +=
-                fmt::format("{};{};{};;;;;;{}\n", TextoCsv(Id(*e.inversor)), DecimalExacto(e.inversor->dPCANom),
-                            e.inversor->iTipoSalida != 0 ? "sí" : "no", TextoCsv(e.motivo));
+            texto += fmt::format("{};{};{};;;;;;{}\n", TextoCsv(Id(*e.inversor)),
+                                 DecimalExacto(e.inversor->dPCANom), Fases(*e.inversor), TextoCsv(e.motivo));
     }
     return texto;
 }

@@ -1,5 +1,8 @@
 #include "tarifa/pedido.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include <fmt/format.h>
 
 #include "comun/consola.h"
@@ -40,8 +43,13 @@ economics::Tarifa HacerTarifa(const PedidoTarifa& pedido, const std::string& csD
     tarifa.dImpuestos = pedido.dImpuestos;
     if (pedido.tarifa == "plana")
         return tarifa;
-    const std::string periodos =
-        pedido.tarifa == "2.0TD" ? Enviado(csDatos, "tarifa_20td_horas.csv") : pedido.tarifa;
+    const bool bEnviada = pedido.tarifa == "2.0TD";
+    std::error_code fallo;
+    if (!bEnviada && pedido.tarifa != "-" && !std::filesystem::exists(pedido.tarifa, fallo)) {
+        throw ErrorEjecucion(fmt::format(
+            "la tarifa «{}» no es 2.0TD ni plana, ni un fichero de períodos que exista", pedido.tarifa));
+    }
+    const std::string periodos = bEnviada ? Enviado(csDatos, "tarifa_20td_horas.csv") : pedido.tarifa;
     tarifa.periodos =
         DeFichero(periodos, [&](std::string_view csv) { return economics::LeerPeriodos(csv, pedido.zona); });
     const std::string festivos =
