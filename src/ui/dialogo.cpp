@@ -85,8 +85,14 @@ void Dialogo::Elegir(Seleccion& control, int iEntrada)
 
 void Dialogo::Elegir(Lista& control, int iFila)
 {
+    Elegir(control, iFila, {});
+}
+
+void Dialogo::Elegir(Lista& control, int iFila, std::vector<int> aiFilas)
+{
     DejarLoTecleado(&control);
     control.iSeleccion = iFila;
+    control.aiElegidas = std::move(aiFilas);
     Avisar(control.alElegir);
 }
 

@@ -139,7 +139,7 @@ TEST(TorturaEdicion, UnCambioSinMemoriaNoDejaNadaAMedias)
                      {{L"csModelo", L"otro"}, {L"csFabricante", csLargo}});
         },
         [&](EdicionDocumento& e) { e.Duplicar(modelo(e)); },
-        [&](EdicionDocumento& e) { e.Retirar(modelo(e)); },
+        [&](EdicionDocumento& e) { e.Retirar({modelo(e)}); },
         [&](EdicionDocumento& e) { e.Deshacer(); },
     };
     EdicionDocumento edicion(std::move(*xml::DocumentoEditable::Leer(kAntes)));

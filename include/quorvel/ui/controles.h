@@ -260,6 +260,8 @@ public:
     std::vector<double> adPartes;               ///< of the width, one a column; empty: by their texts
     std::shared_ptr<const ModeloFilas> modelo;  ///< null: no rows
     int iSeleccion = -1;
+    bool bVarias = false;         ///< the owner wants to know which rows are selected beside the one at hand
+    std::vector<int> aiElegidas;  ///< those, with the one at hand; empty: that one alone
     int nFilasFijas = 0;    ///< at the end; they stay there in whatever order a view shows the others: totals
     unsigned uVersion = 0;  ///< raised with each change of the rows, so that a view knows
     std::function<void()> alElegir;

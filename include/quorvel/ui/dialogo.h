@@ -63,6 +63,8 @@ public:
     void Salir(Edicion& control);
     void Elegir(Seleccion& control, int iEntrada);
     void Elegir(Lista& control, int iFila);
+    /// Several rows at once, with `iFila` among them as the one at hand.
+    void Elegir(Lista& control, int iFila, std::vector<int> aiFilas);
     void Abrir(Lista& control, int iFila, int iColumna);
     void Ordenar(Lista& control, int iColumna);
     void Filtrar(Lista& control, int iColumna);

@@ -60,13 +60,18 @@ xml::NodoEditable EdicionDocumento::Duplicar(xml::NodoEditable elemento)
     return copia;
 }
 
-void EdicionDocumento::Retirar(xml::NodoEditable elemento)
+void EdicionDocumento::Retirar(const std::vector<xml::NodoEditable>& elementos)
 {
     HacerSitio();
-    const auto retirado = std::make_shared<DocumentoEditable::Retirado>();
-    Accion volver = [retirado](DocumentoEditable& d) { d.Reponer(*retirado); };
-    *retirado = m_documento.Retirar(elemento);
-    m_deshacer.push_back(std::move(volver));
+    const auto retirados = std::make_shared<std::vector<DocumentoEditable::Retirado>>();
+    retirados->reserve(elementos.size());
+    // What was next to one may have gone after it: the last one comes back first.
+    m_deshacer.emplace_back([retirados](DocumentoEditable& d) {
+        for (; !retirados->empty(); retirados->pop_back())
+            d.Reponer(retirados->back());
+    });
+    for (const xml::NodoEditable elemento : elementos)
+        retirados->push_back(m_documento.Retirar(elemento));
 }
 
 // Behind a change of the document nothing may fail that its way back needs.

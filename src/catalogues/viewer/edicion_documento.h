@@ -26,7 +26,8 @@ public:
     xml::NodoEditable Anadir(xml::NodoEditable padre, std::string_view nombre,
                              const xml::DocumentoEditable::Atributos& atributos);
     xml::NodoEditable Duplicar(xml::NodoEditable elemento);
-    void Retirar(xml::NodoEditable elemento);
+    /// Several are one change.
+    void Retirar(const std::vector<xml::NodoEditable>& elementos);
 
     /// Takes the last change back; nothing when there is none.
     void Deshacer();

@@ -245,8 +245,20 @@ const CModelo* DialogoDeModelos::Actual() const
     return m_filas != nullptr && i >= 0 && i < m_filas->Filas() ? &m_filas->Modelo(i) : nullptr;
 }
 
+DialogoDeModelos::Modelos DialogoDeModelos::Elegidos() const
+{
+    Modelos elegidos;
+    elegidos.reserve(m_tabla->aiElegidas.size());
+    for (const int iFila : m_tabla->aiElegidas)
+        elegidos.push_back(&m_filas->Modelo(iFila));
+    if (const CModelo* actual = Actual(); elegidos.empty() && actual != nullptr)
+        elegidos.push_back(actual);
+    return elegidos;
+}
+
 void DialogoDeModelos::IrAFila(int iFila)
 {
+    m_tabla->aiElegidas.clear();
     m_tabla->iSeleccion = std::min(iFila, m_filas->Filas() - 1);
     MostrarVista();
 }
@@ -256,6 +268,7 @@ void DialogoDeModelos::Enumerar(const CModelo* elegido)
 {
     m_filas = std::make_shared<FilasModelos>(ModelosQue(*m_tipo, m_todos, m_pregunta), m_columnas);
     m_tabla->modelo = m_filas;
+    m_tabla->aiElegidas.clear();
     ++m_tabla->uVersion;
     m_tabla->iSeleccion = m_filas->FilaDe(elegido);
     const auto nFilas = static_cast<std::size_t>(m_filas->Filas());

@@ -56,6 +56,8 @@ protected:
 
     /// Null when none is at hand.
     const CModelo* Actual() const;
+    /// Those selected together, or the one at hand.
+    Modelos Elegidos() const;
     /// The family asked for; empty: all.
     const CString& FamiliaPedida() const { return m_pregunta.csFamilia; }
 

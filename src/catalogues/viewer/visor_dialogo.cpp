@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <new>
+#include <set>
 #include <tuple>
 #include <utility>
 
@@ -77,6 +78,7 @@ void CDlgVisorXML::AnadirArbol()
 void CDlgVisorXML::AnadirTablaDe(const efv::TipoCatalogo& tipo)
 {
     AnadirTabla(tipo);
+    m_tabla->bVarias = m_peticion.bModificable;
     m_oculto = std::make_unique<ui::Lista>("arbol", m_peticion.rotulo, ui::Lista::Forma::arbol);
     m_arbol = m_oculto.get();
     AnadirBotones();
@@ -100,6 +102,9 @@ void CDlgVisorXML::AnadirBotones()
     m_deFamilia.front()->csIndicacion = L"Un modelo en la familia del que está marcado, o en la que se pide";
     if (!m_bTabla)
         return;
+    m_deFila.back()->csIndicacion =
+        L"Los modelos seleccionados, a la vez; Mayúsculas o Control con las flechas o "
+        L"el ratón seleccionan varios";
     AnadirBoton("NuevaFamilia", L"Nueva fa&milia...", &CDlgVisorXML::NuevaFamilia);
     for (const auto& [nombre, rotulo, orden] :
          {std::tuple("RenombrarFamilia", L"Ren&ombrar la familia...", &CDlgVisorXML::Renombrar),
@@ -348,18 +353,36 @@ void CDlgVisorXML::Renombrar()
 void CDlgVisorXML::Eliminar()
 {
     const FilaArbol fila = *FilaActual();
+    if (const Modelos modelos = m_bTabla && fila.bModelo ? Elegidos() : Modelos(); modelos.size() > 1)
+        return EliminarModelos(modelos);
     const int iFila = m_bTabla ? m_tabla->iSeleccion : m_arbol->iSeleccion;
     const CString csPregunta =
         fila.bModelo ? L"¿Desea eliminar el modelo " + fila.csNombre + L"?"
                      : L"¿Desea eliminar la familia " + fila.csNombre + L" con todos sus modelos?";
     if (!ui::Preguntar(csPregunta))
         return;
-    m_edicion.Retirar(fila.elemento);
+    m_edicion.Retirar({fila.elemento});
     Releer({});
     if (m_bTabla)
         return IrAFila(iFila);
     m_arbol->iSeleccion = std::min(iFila, m_visibles->Filas() - 1);
     Activar();
+}
+
+void CDlgVisorXML::EliminarModelos(const Modelos& modelos)
+{
+    if (!ui::Preguntar(L"¿Desea eliminar los " + std::to_wstring(modelos.size()) + L" modelos seleccionados?"))
+        return;
+    const std::set<const CModelo*> fuera(modelos.begin(), modelos.end());
+    std::vector<xml::NodoEditable> elementos;
+    elementos.reserve(modelos.size());
+    for (const ModeloLeido& leido : m_modelos)
+        if (fuera.contains(leido.modelo.get()))
+            elementos.push_back(leido.elemento);
+    const int iFila = std::ranges::min(m_tabla->aiElegidas);
+    m_edicion.Retirar(elementos);
+    Releer({});
+    IrAFila(iFila);
 }
 
 void CDlgVisorXML::Deshacer()

@@ -68,6 +68,7 @@ private:
     void Duplicar();
     void Renombrar();
     void Eliminar();
+    void EliminarModelos(const Modelos& modelos);
     void Deshacer();
     /// Whether the row's model isn't as the shipped catalogue has it.
     bool EsPropio(const efv::catalogues::FilaArbol& fila) const;
