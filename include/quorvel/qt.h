@@ -48,6 +48,9 @@ EFV_QT_API QWidget* CrearPanel(ui::Dialogo& dialogo, QWidget* padre = nullptr);
 /// Lets a panel's columns go below each other as far as that width asks for, and back again.
 EFV_QT_API void PlegarPanel(QWidget* panel, int iAncho);
 
+/// The width that a panel needs with all its columns below each other.
+EFV_QT_API int AnchoMinimoDePanel(QWidget* panel);
+
 /// From now on dialogs open as large and where the person left them, by their class's names, with the columns
 /// of their lists as wide; null, as at the start: as they are made. `ajustes` belongs to the host, and may go
 /// first.
@@ -55,7 +58,8 @@ EFV_QT_API void RecordarVentanas(QSettings* ajustes);
 
 /// The same for a window of the host's own, by its object name: its place, whether it is maximised, its
 /// dividers that have an object name. Never off the screen, nor larger.
-EFV_QT_API void RestaurarVentana(QWidget& ventana);
+/// @return whether there was a place to restore
+EFV_QT_API bool RestaurarVentana(QWidget& ventana);
 EFV_QT_API void GuardarVentana(const QWidget& ventana);
 
 /// Says it to whoever hears the screen, as a part of the control of these dialogs that has the focus, until

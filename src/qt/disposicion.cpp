@@ -16,7 +16,8 @@ namespace efv::qt {
 
 namespace {
 
-constexpr int kRenglones = 5;  // of a text of several lines that doesn't take the room
+constexpr std::size_t kRotuloLargo = 50;  // above what it is of, in lines
+constexpr int kRenglones = 5;             // of a text of several lines that doesn't take the room
 constexpr int kSeparacionColumnas = 18;
 constexpr int kSeparacion = 8;
 // Columns of the grid that a column of the form takes: caption, field, a gap to the next.
@@ -231,7 +232,9 @@ private:
         if (vista.control.csRotulo.empty() || vista.RotulaPorSiMisma())
             return aTodoLoAncho(vista.widget);
         auto* pila = new QVBoxLayout;
-        pila->addWidget(Rotulo(contenedor, vista));
+        QLabel* rotulo = Rotulo(contenedor, vista);
+        rotulo->setWordWrap(vista.control.csRotulo.size() > kRotuloLargo);
+        pila->addWidget(rotulo);
         pila->addWidget(vista.widget, 1);
         aTodoLoAncho(pila);
     }

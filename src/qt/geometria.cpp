@@ -138,11 +138,12 @@ void RecordarVentanas(QSettings* ajustes)
     Ajustes() = ajustes;
 }
 
-void RestaurarVentana(QWidget& ventana)
+bool RestaurarVentana(QWidget& ventana)
 {
     if (Ajustes().isNull())
-        return;
-    if (const QRect pedido = Ajustes()->value(Clave(ventana, "sitio")).toRect(); pedido.isValid())
+        return false;
+    const QRect pedido = Ajustes()->value(Clave(ventana, "sitio")).toRect();
+    if (pedido.isValid())
         ventana.setGeometry(EnPantalla(pedido, Sitios()));
     if (Ajustes()->value(Clave(ventana, "maximizada")).toBool())
         ventana.setWindowState(ventana.windowState() | Qt::WindowMaximized);
@@ -151,6 +152,7 @@ void RestaurarVentana(QWidget& ventana)
             division->restoreState(
                 Ajustes()->value(Clave(ventana, division->objectName().toLatin1().constData())).toByteArray());
     AnotarSitio(ventana);
+    return pedido.isValid();
 }
 
 void GuardarVentana(const QWidget& ventana)

@@ -14,6 +14,9 @@ namespace {
 
 // Something as wide as this part of the room may be why the rest doesn't fit.
 constexpr double kParteSospechosa = 0.5;
+// A fold that comes back needs so much more than it fits in: more than the bar that scrolls, whose coming and
+// going would fold and unfold without end.
+constexpr int kHolgura = 32;
 
 void Colocar(QGridLayout& rejilla, QLayoutItem* cosa, int iFila, int iColumna, int nFilas, int nColumnas)
 {
@@ -60,24 +63,55 @@ void Pliegues::Anadir(QGridLayout& rejilla, int nPorColumna)
     m_pliegues.push_back(std::move(pliegue));
 }
 
-void Pliegues::Ajustar(QWidget& contenedor, int iAncho)
+bool Pliegues::Ajustar(QWidget& contenedor, int iAncho)
 {
-    for (Pliegue& pliegue : m_pliegues)
-        Poner(pliegue, false, contenedor);
-    while (contenedor.minimumSizeHint().width() > iAncho) {
-        Pliegue* ancho = nullptr;
-        int iMayor = static_cast<int>(iAncho * kParteSospechosa);
-        for (Pliegue& pliegue : m_pliegues) {
-            const int i = pliegue.Disposicion().minimumSize().width();
-            if (!pliegue.bPlegado && i > iMayor) {
-                ancho = &pliegue;
-                iMayor = i;
-            }
-        }
-        if (ancho == nullptr)
-            return;
-        Poner(*ancho, true, contenedor);
+    std::vector<Pliegue*> antes;
+    for (const Plegado& plegado : m_plegados)
+        antes.push_back(plegado.pliegue);
+    while (!m_plegados.empty() && iAncho >= m_plegados.back().iNecesario + kHolgura) {
+        Poner(*m_plegados.back().pliegue, false, contenedor);
+        m_plegados.pop_back();
     }
+    for (int iNecesario = contenedor.minimumSizeHint().width(); iNecesario > iAncho;
+         iNecesario = contenedor.minimumSizeHint().width()) {
+        Pliegue* ancho = MasAncho(static_cast<int>(iAncho * kParteSospechosa));
+        if (ancho == nullptr)
+            ancho = MasAncho(0);
+        if (ancho == nullptr)
+            break;
+        Poner(*ancho, true, contenedor);
+        m_plegados.push_back({ancho, iNecesario});
+    }
+    return !std::ranges::equal(antes, m_plegados, {}, {}, &Plegado::pliegue);
+}
+
+Pliegues::Pliegue* Pliegues::MasAncho(int iMayorQue)
+{
+    Pliegue* ancho = nullptr;
+    for (Pliegue& pliegue : m_pliegues) {
+        const int i = pliegue.Disposicion().minimumSize().width();
+        if (!pliegue.bPlegado && i > iMayorQue) {
+            ancho = &pliegue;
+            iMayorQue = i;
+        }
+    }
+    return ancho;
+}
+
+void Pliegues::Desplegar(QWidget& contenedor)
+{
+    for (; !m_plegados.empty(); m_plegados.pop_back())
+        Poner(*m_plegados.back().pliegue, false, contenedor);
+}
+
+int Pliegues::AnchoMinimo(QWidget& contenedor)
+{
+    const std::vector<Plegado> antes = m_plegados;
+    Ajustar(contenedor, 0);
+    const int iAncho = contenedor.minimumSizeHint().width();
+    for (; m_plegados.size() > antes.size(); m_plegados.pop_back())
+        Poner(*m_plegados.back().pliegue, false, contenedor);
+    return iAncho;
 }
 
 void Pliegues::Poner(Pliegue& pliegue, bool bPlegado, QWidget& contenedor)

@@ -22,8 +22,14 @@ public:
     /// Columns of `nPorColumna` cells each that are read row by row.
     void Anadir(QGridLayout& rejilla, int nPorColumna);
 
-    /// Folds the widest until `contenedor` needs no more than that, and none that needn't be.
-    void Ajustar(QWidget& contenedor, int iAncho);
+    /// Unfolds what there is room for again, the last one folded first, and folds the widest until `contenedor`
+    /// needs no more than that. A width that a fold goes at is some way below the one that it comes back at.
+    /// @return whether anything moved
+    bool Ajustar(QWidget& contenedor, int iAncho);
+    /// Unfolds everything: letters have another size, and widths are no longer what they were.
+    void Desplegar(QWidget& contenedor);
+    /// The width that `contenedor` needs with everything folded.
+    int AnchoMinimo(QWidget& contenedor);
 
 private:
     struct Celda {
@@ -40,11 +46,18 @@ private:
         QLayout& Disposicion() const;
     };
 
+    struct Plegado {
+        Pliegue* pliegue;
+        int iNecesario;  // the width that `contenedor` asked for before it
+    };
+
+    Pliegue* MasAncho(int iMayorQue);
     static void Poner(Pliegue& pliegue, bool bPlegado, QWidget& contenedor);
     static void PlegarRejilla(Pliegue& pliegue);
     static void DesplegarRejilla(Pliegue& pliegue);
 
     std::vector<Pliegue> m_pliegues;
+    std::vector<Plegado> m_plegados;  // the last one last
 };
 
 }  // namespace efv::qt

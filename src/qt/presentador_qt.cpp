@@ -189,6 +189,12 @@ void PlegarPanel(QWidget* panel, int iAncho)
         propio->Plegar(iAncho);
 }
 
+int AnchoMinimoDePanel(QWidget* panel)
+{
+    auto* propio = dynamic_cast<VentanaDialogo*>(panel);
+    return propio != nullptr ? propio->AnchoMinimo() : panel->minimumSizeHint().width();
+}
+
 void RefrescarVentana(QWidget* ventana)
 {
     if (auto* propia = dynamic_cast<VentanaDialogo*>(ventana))

@@ -14,7 +14,6 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -44,7 +43,6 @@ constexpr double kParteDeAncho = 0.985, kParteDeAlto = 0.92;  // of the screen; 
 constexpr QSize kTamanoMinimo(300, 0);
 constexpr QSize kTamanoMaximizable(760, 540);  // of what is meant to be looked at large
 constexpr qsizetype kNotasDichas = 3;          // at once
-constexpr int kMargenDeBarra = 6;              // between the controls and the bar that scrolls them
 constexpr int kAdornosDeTitulo = 140;          // icon and buttons of a title bar
 
 }  // namespace
@@ -67,11 +65,14 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     m_disposicion = Disponer(m_controles, vistas, m_paginas);
     m_controles->layout()->setContentsMargins(0, 0, 0, 0);
     auto* pila = new QVBoxLayout(this);
-    pila->addWidget(m_controles, 1);
-    if (marco == Marco::ventana)
+    if (marco == Marco::ventana) {
+        m_rollo = new RolloDeControles(this);
+        pila->addWidget(m_rollo, 1);
         CrearBotones(*pila);
-    else
+    } else {
+        pila->addWidget(m_controles, 1);
         pila->setContentsMargins(0, 0, 0, 0);
+    }
     // Tab order is that of reading, which is the declaration's but for what shares a line or a group.
     QWidget* anterior = nullptr;
     const auto encadenar = [&](QWidget* siguiente) {
@@ -96,7 +97,7 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
             Actuar([](ui::Dialogo&) {});
     });
     m_tema.setSingleShot(true);
-    connect(&m_tema, &QTimer::timeout, this, &VentanaDialogo::Refrescar);
+    connect(&m_tema, &QTimer::timeout, this, &VentanaDialogo::AtenderAspecto);
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget* antes, QWidget* ahora) {
         if (Vista* dicha = VistaDe(antes))
             dicha->Anunciar({});
@@ -104,7 +105,7 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
     });
     Refrescar();
     if (marco == Marco::ventana) {
-        DarTamano(*pila);
+        DarTamano();
         RestaurarVentana(*this);
     }
     RecordarColumnas(*this);
@@ -170,30 +171,89 @@ void VentanaDialogo::CrearBotones(QVBoxLayout& pila)
     pila.addLayout(fila);
 }
 
-// Room for the controls and the title; on a screen too small for them they fold, and then scroll.
-void VentanaDialogo::DarTamano(QVBoxLayout& pila)
+QSize VentanaDialogo::Sitio() const
 {
     const QSize pantalla = screen()->availableSize();
-    const QSize sitio(static_cast<int>(pantalla.width() * kParteDeAncho),
-                      static_cast<int>(pantalla.height() * kParteDeAlto));
-    const int iBarra = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this) + kMargenDeBarra;
-    const QMargins margenes = pila.contentsMargins();
-    Plegar(sitio.width() - margenes.left() - margenes.right() - iBarra);
-    QSize pedido = sizeHint();
-    const QSize necesario = minimumSizeHint();
-    if (necesario.width() > sitio.width() || necesario.height() > sitio.height()) {
-        auto* rollo = new QScrollArea(this);
-        rollo->setFrameShape(QFrame::NoFrame);
-        rollo->setWidgetResizable(true);
-        rollo->setFocusPolicy(Qt::NoFocus);
-        delete pila.replaceWidget(m_controles, rollo);
-        m_controles->layout()->setContentsMargins(0, 0, kMargenDeBarra, 0);
-        rollo->setWidget(m_controles);
-        pedido += QSize(iBarra, 0);
-    }
+    return {static_cast<int>(pantalla.width() * kParteDeAncho),
+            static_cast<int>(pantalla.height() * kParteDeAlto)};
+}
+
+// Room for the controls and the title; on a screen too small for them they fold, and then scroll.
+void VentanaDialogo::DarTamano()
+{
+    // Not before the captions are there: what is shown keeps the sizes that it was found to have.
+    m_rollo->setWidget(m_controles);
+    const QSize sitio = Sitio();
+    const QSize alrededor = sizeHint() - m_rollo->sizeHint();
+    PonerAnchoMinimo();
+    Plegar(sitio.width() - alrededor.width() - m_rollo->AnchoDeBarra());
+    QSize pedido = m_controles->sizeHint() + alrededor;
+    if (!m_rollo->Cabe(sitio - alrededor))
+        pedido += QSize(m_rollo->AnchoDeBarra(), 0);
     const QSize minimo = m_dialogo.bMaximizable ? kTamanoMaximizable : kTamanoMinimo;
     const QSize titulo(fontMetrics().horizontalAdvance(windowTitle()) + kAdornosDeTitulo, 0);
     resize(pedido.expandedTo(minimo).expandedTo(titulo).boundedTo(sitio));
+    m_rollo->alCambiarTamano = [this] { PlegarEnElRollo(); };
+    m_rollo->alPedirSitio = [this] { HacerSitio(); };
+}
+
+// What nobody can pull it narrower than.
+void VentanaDialogo::PonerAnchoMinimo()
+{
+    const int iAlrededor = sizeHint().width() - m_rollo->sizeHint().width();
+    m_rollo->PonerAnchoMinimo(std::min(AnchoMinimo() + m_rollo->AnchoDeBarra(), Sitio().width() - iAlrededor));
+}
+
+int VentanaDialogo::AnchoMinimo()
+{
+    if (m_iAnchoMinimo == 0)
+        m_iAnchoMinimo = m_disposicion.pliegues.AnchoMinimo(*m_controles);
+    return m_iAnchoMinimo;
+}
+
+void VentanaDialogo::Plegar(int iAncho)
+{
+    m_iAncho = iAncho;
+    QWidget* conFoco = focusWidget();
+    if (m_disposicion.pliegues.Ajustar(*m_controles, iAncho) && m_rollo != nullptr && conFoco != nullptr &&
+        m_controles->isAncestorOf(conFoco) && conFoco->isVisible())
+        m_rollo->ensureWidgetVisible(conFoco);
+    // What came later may be wider than all there was.
+    if (const int iNecesario = m_controles->minimumSizeHint().width(); iNecesario > iAncho)
+        m_iAnchoMinimo = std::max(m_iAnchoMinimo, iNecesario);
+}
+
+// Its width, less a bar's where it has to scroll all the same.
+void VentanaDialogo::PlegarEnElRollo()
+{
+    Plegar(m_rollo->width());
+    if (!m_rollo->Cabe(m_rollo->size()))
+        Plegar(m_rollo->width() - m_rollo->AnchoDeBarra());
+    m_rollo->PonerHueco();
+    m_bCabe = m_rollo->Cabe(m_rollo->size());
+    if (m_rollo->minimumSizeHint().width() < m_iAnchoMinimo)
+        PonerAnchoMinimo();
+}
+
+void VentanaDialogo::Crecer(const QSize& mayor)
+{
+    const QRect marco(frameGeometry().topLeft(), frameGeometry().size() + mayor - size());
+    resize(mayor);
+    move(EnPantalla(marco, {screen()->availableGeometry()}).topLeft());
+}
+
+// A window that showed everything goes on doing so while the screen has room for it.
+void VentanaDialogo::HacerSitio()
+{
+    if (!isVisible())
+        return;
+    m_controles->layout()->activate();
+    const QSize falta = m_controles->minimumSizeHint() - m_rollo->size();
+    const QSize mayor = (size() + falta.expandedTo({0, 0})).boundedTo(Sitio().expandedTo(size()));
+    if (m_bCabe && mayor != size() && (windowState() & (Qt::WindowMaximized | Qt::WindowFullScreen)) == 0)
+        Crecer(mayor);
+    else
+        PlegarEnElRollo();
 }
 
 // ---------------------------------------------------------------------------------------------------
@@ -473,8 +533,8 @@ void VentanaDialogo::PonerFoco(bool bSeAviso)
         m_paginas->Mostrar(control->NumeroDePagina());
     }
     vista->Enfocar();
-    if (auto* rollo = findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly))
-        rollo->ensureWidgetVisible(vista->widget);
+    if (m_rollo != nullptr)
+        m_rollo->ensureWidgetVisible(vista->widget);
     m_dialogo.foco = control;
     m_bMoviendoFoco = false;
 }
@@ -518,8 +578,25 @@ void VentanaDialogo::changeEvent(QEvent* evento)
 {
     QDialog::changeEvent(evento);
     // From the loop: a theme reaches the widgets in no order, and colours are worked out from their parents'.
-    if (evento->type() == QEvent::PaletteChange)
+    m_bOtraLetra = m_bOtraLetra || evento->type() == QEvent::FontChange;
+    if (evento->type() == QEvent::PaletteChange || evento->type() == QEvent::FontChange)
         m_tema.start(0);
+}
+
+void VentanaDialogo::AtenderAspecto()
+{
+    Refrescar();
+    if (!std::exchange(m_bOtraLetra, false))
+        return;
+    m_disposicion.pliegues.Desplegar(*m_controles);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    m_iAnchoMinimo = 0;
+    if (m_rollo != nullptr) {
+        PonerAnchoMinimo();
+        HacerSitio();
+    } else if (m_iAncho > 0) {
+        Plegar(m_iAncho);
+    }
 }
 
 }  // namespace efv::qt

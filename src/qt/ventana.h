@@ -11,6 +11,7 @@
 #include <quorvel/ui/dialogo.h>
 
 #include "qt/disposicion.h"
+#include "qt/rollo.h"
 #include "qt/vistas.h"
 
 QT_BEGIN_NAMESPACE
@@ -39,8 +40,10 @@ public:
     /// Puts the focus into that control once the action that runs is over.
     void PedirFoco(ui::Control& control) { m_focoPedido = &control; }
 
-    /// Lets its columns go below each other as far as that width asks for.
-    void Plegar(int iAncho) { m_disposicion.pliegues.Ajustar(*m_controles, iAncho); }
+    /// Lets its columns go below each other as far as that width asks for, and beside each other again.
+    void Plegar(int iAncho);
+    /// The width that it needs with all of them below each other.
+    int AnchoMinimo();
 
     ~VentanaDialogo() override;
 
@@ -58,7 +61,13 @@ private:
 
     void CrearVistas();
     void CrearBotones(QVBoxLayout& pila);
-    void DarTamano(QVBoxLayout& pila);
+    void DarTamano();
+    QSize Sitio() const;
+    void PonerAnchoMinimo();
+    void PlegarEnElRollo();
+    void HacerSitio();
+    void Crecer(const QSize& mayor);
+    void AtenderAspecto();
 
     bool DejarConRetorno();
     bool UsarPropuesta();
@@ -79,18 +88,23 @@ private:
     std::vector<std::unique_ptr<Vista>> m_vistas;
     Disposicion m_disposicion;
     QWidget* m_controles = nullptr;
+    RolloDeControles* m_rollo = nullptr;  // of a window
+    int m_iAncho = 0;                     // that it is folded for
+    int m_iAnchoMinimo = 0;               // 0: not known yet
+    bool m_bCabe = false;                 // nothing scrolls
     VistaPaginas* m_paginas = nullptr;
     QPushButton* m_aceptar = nullptr;
     QPushButton* m_cancelar = nullptr;
     QTimer m_temporizador;
     QTimer m_salida;  // to the next turn of the loop, after a field was left
-    QTimer m_tema;    // the same after a change of theme
+    QTimer m_tema;    // the same after a change of theme or letters
 
     int m_nAcciones = 0;                // running now, one inside the other
     bool m_bMoviendoFoco = false;       // by us, not by the person
     ui::Edicion* m_porSalir = nullptr;  // left, and the dialog not told yet
     ui::Control* m_focoPedido = nullptr;
     bool m_bMostrada = false;
+    bool m_bOtraLetra = false;
     std::vector<CString> m_alMostrar;               // what was filled in when it came up
     std::map<const ui::Control*, CString> m_notas;  // texts without a caption, as last said
 };

@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kFilasMedidas = 40;  // rows that a column's width is taken from
 constexpr int kAnchoMinimo = 220;
-constexpr int kAnchoImprescindible = 400;
+constexpr int kAnchoImprescindible = 260;
 constexpr double kParteDeNombres = 0.65;
 constexpr int kLetrasDeValores = 56;  // of a table of names and values
 constexpr int kAireDeFila = 6;        // above and below a row's letters
@@ -40,6 +40,7 @@ class Rejilla final : public BASE {
 public:
     using BASE::BASE;
     std::function<void()> alCambiarTamano;
+    std::function<void()> alCambiarLetra;
     std::function<void(const QModelIndex&)> alPedirAbrir;
     std::function<bool()> seAbre;
     std::function<void()> alPedirCopia;
@@ -54,6 +55,12 @@ protected:
         BASE::resizeEvent(evento);
         if (alCambiarTamano)
             alCambiarTamano();
+    }
+    void changeEvent(QEvent* evento) override
+    {
+        BASE::changeEvent(evento);
+        if (evento->type() == QEvent::FontChange && alCambiarLetra)
+            alCambiarLetra();
     }
     void keyPressEvent(QKeyEvent* evento) override
     {
@@ -97,7 +104,6 @@ QTableView* NuevaTabla(QWidget* padre)
     auto* tabla = new Rejilla<QTableView>(padre);
     tabla->verticalHeader()->hide();
     tabla->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    tabla->verticalHeader()->setDefaultSectionSize(tabla->fontMetrics().height() + kAireDeFila);
     tabla->setWordWrap(false);
     tabla->setTabKeyNavigation(false);
     tabla->setAlternatingRowColors(true);
@@ -191,16 +197,22 @@ private:
         return trozos.isEmpty() ? -1 : ModeloLista::Fila(trozos.constFirst().topLeft());
     }
 
-    // The rows to be copied as they stand on screen: those selected, else all.
+    // The rows to be copied: those selected, else all.
     std::vector<int> FilasACopiar() const
+    {
+        std::vector<int> filas = FilasElegidas();
+        if (!filas.empty())
+            return filas;
+        for (int i = 0; i < m_lista.Filas(); ++i)
+            filas.push_back(Arbol() != nullptr ? i : ModeloLista::Fila(m_modelo->index(i, 0, {})));
+        return filas;
+    }
+
+    // As they stand on screen.
+    std::vector<int> FilasElegidas() const
     {
         QModelIndexList elegidas = Rejas().selectionModel()->selectedRows();
         std::vector<int> filas;
-        if (elegidas.isEmpty()) {
-            for (int i = 0; i < m_lista.Filas(); ++i)
-                filas.push_back(Arbol() != nullptr ? i : ModeloLista::Fila(m_modelo->index(i, 0, {})));
-            return filas;
-        }
         // The rows of a tree are numbered from top to bottom.
         const bool bArbol = Arbol() != nullptr;
         std::ranges::sort(elegidas, {}, [bArbol](const QModelIndex& indice) {
@@ -291,8 +303,15 @@ private:
     {
         QObject::connect(Rejas().selectionModel(), &QItemSelectionModel::selectionChanged, widget, [this] {
             const int iFila = FilaElegida();
-            if (!m_bRefrescando && iFila >= 0 && iFila != m_lista.iSeleccion)
-                m_accionador.Actuar([&](ui::Dialogo& dialogo) { dialogo.Elegir(m_lista, iFila); });
+            if (m_bRefrescando || iFila < 0)
+                return;
+            std::vector<int> filas = m_lista.bVarias ? FilasElegidas() : std::vector<int>();
+            if (filas.size() < 2)
+                filas.clear();
+            if (iFila != m_lista.iSeleccion || filas != m_lista.aiElegidas) {
+                m_accionador.Actuar(
+                    [&](ui::Dialogo& dialogo) { dialogo.Elegir(m_lista, iFila, std::move(filas)); });
+            }
         });
         const auto abrir = [this](const QModelIndex& indice) {
             m_accionador.Actuar([&](ui::Dialogo& dialogo) {
@@ -309,6 +328,7 @@ private:
             rejilla.seAbre = [this] { return m_lista.alAbrir && Arbol() == nullptr; };
             rejilla.alPedirCopia = [this] { Copiar(ui::Cabeceras::con); };
             rejilla.alPedirMenu = [this](const QPoint& lugar) { AbrirMenuDeTabla(lugar); };
+            rejilla.alCambiarLetra = [this] { PedirSitio(); };
             rejilla.alCambiarTamano = [this] {
                 RepartirColumnas();
                 MostrarElegida();
@@ -337,6 +357,8 @@ private:
         if (m_aiAnchos.size() == 2)
             iAncho = std::min(iAncho, kLetrasDeValores * widget->fontMetrics().averageCharWidth());
         const int iLinea = widget->fontMetrics().height() + kAireDeFila;
+        if (auto* tabla = qobject_cast<QTableView*>(widget))
+            tabla->verticalHeader()->setDefaultSectionSize(iLinea);
         const int iMarco =
             2 * Rejas().frameWidth() + (m_lista.acsColumnas.empty() ? 0 : Cabecera().sizeHint().height());
         const QSize propuesto(std::max(iAncho, kAnchoMinimo),

@@ -5,8 +5,11 @@
 #include <QFont>
 #include <QHeaderView>
 #include <QScreen>
+#include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTableView>
 #include <QTemporaryDir>
 
@@ -47,6 +50,39 @@ void SusBotonesSeVen(const QWidget& ventana, const std::string& nombre)
     }
 }
 
+// Nothing of these is out of sight: what is dragged is seen together with what comes of it.
+void NoSeRueda(const ui::Dialogo& dialogo, const QWidget& ventana)
+{
+    for (const char* clase : {"CDlgDatosReceptor", "CDlgDatosConsumo", "CDlgDatosConsumoDia"}) {
+        const auto* rollo = ventana.findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly);
+        EXPECT_TRUE(dialogo.clase != clase || rollo->verticalScrollBar()->maximum() == 0)
+            << clase << ": " << rollo->verticalScrollBar()->maximum();
+    }
+}
+
+// Pulled as narrow as it goes nothing scrolls sideways; pulled wide again all stands where it stood, and the
+// focus stays.
+void SePliegaAlTirarDeElla(QDialog& ventana, const std::string& nombre)
+{
+    const QWidget& controles =
+        *ventana.findChild<QScrollArea*>(QString(), Qt::FindDirectChildrenOnly)->widget();
+    const QWidget* conFoco = ventana.focusWidget();
+    const QSize abierta = ventana.size();
+    const auto tirar = [&](int iAncho) {
+        ventana.resize(iAncho, abierta.height());
+        QApplication::processEvents();
+    };
+    constexpr int kSobrado = 4000;
+    tirar(kSobrado);
+    const QSize antes = controles.minimumSizeHint();
+    tirar(0);
+    Cabe(ventana, nombre + ", narrow");
+    SusBotonesSeVen(ventana, nombre + ", narrow");
+    tirar(kSobrado);
+    EXPECT_EQ(controles.minimumSizeHint(), antes) << nombre;
+    EXPECT_TRUE(conFoco == nullptr || ventana.focusWidget() == conFoco) << nombre;
+}
+
 class ConLetras : public ConPantallas, public testing::WithParamInterface<double> {
 protected:
     ConLetras()
@@ -63,10 +99,13 @@ private:
 
 TEST_P(ConLetras, TodoCabeEnUnaPantallaPequena)
 {
-    Recorrer([](ui::Dialogo& dialogo, QDialog& vista) {
-        Cabe(vista, dialogo.clase);
-        SusBotonesSeVen(vista, dialogo.clase);
-    });
+    Recorrer(
+        [](ui::Dialogo& dialogo, QDialog& vista) {
+            Cabe(vista, dialogo.clase);
+            SusBotonesSeVen(vista, dialogo.clase);
+            NoSeRueda(dialogo, vista);
+        },
+        [](ui::Dialogo& dialogo, QDialog& vista) { SePliegaAlTirarDeElla(vista, dialogo.clase); });
     VentanaPrincipal otra(LeerLocalidades(CadenaDesdeUtf8(EFV_CARPETA_DATOS "/localidades.xml")));
     otra.LaSesion().Nuevo(ProyectoDeEjemplo(otra.LaSesion().LugarInicial()));
     otra.show();
@@ -75,6 +114,9 @@ TEST_P(ConLetras, TodoCabeEnUnaPantallaPequena)
         QApplication::processEvents();
         Cabe(otra, nombre);
     }
+    const auto& fichas = *Hijo<QTabWidget>(otra, "pestanas").tabBar();
+    for (int i = 0; i < fichas.count(); ++i)
+        EXPECT_TRUE(fichas.rect().contains(fichas.tabRect(i))) << fichas.tabText(i).toStdString();
 }
 INSTANTIATE_TEST_SUITE_P(Letras, ConLetras, testing::Values(9.0, 14.0));
 

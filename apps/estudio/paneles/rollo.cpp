@@ -40,8 +40,9 @@ int Rollo::AnchoDeBarra() const
 QSize Rollo::minimumSizeHint() const
 {
     const int iPermitido = static_cast<int>(screen()->availableSize().width() * m_dParte);
-    return {std::min(widget()->minimumSizeHint().width() + AnchoDeBarra(), iPermitido),
-            kLineasALaVista * fontMetrics().lineSpacing()};
+    const QMargins margenes = widget()->layout()->contentsMargins();
+    const int iPlegado = qt::AnchoMinimoDePanel(m_dentro) + margenes.left() + margenes.right();
+    return {std::min(iPlegado + AnchoDeBarra(), iPermitido), kLineasALaVista * fontMetrics().lineSpacing()};
 }
 
 QSize Rollo::sizeHint() const
