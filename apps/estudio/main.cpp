@@ -144,7 +144,9 @@ int Ejecutar(QApplication& programa)
     Ajustes ajustes;
     efv::qt::RecordarVentanas(&ajustes);
     VentanaPrincipal ventana(Lugares(carpetas));
-    efv::qt::RestaurarVentana(ventana);
+    // On a screen that is smaller than what it would like to have, all of it.
+    if (!efv::qt::RestaurarVentana(ventana) && ventana.EsMenorDeLoUsual())
+        ventana.setWindowState(ventana.windowState() | Qt::WindowMaximized);
     efv::qt::InstalarPresentadorQt(&ventana);
     Sesion& sesion = ventana.LaSesion();
     sesion.PonerRecientes(RecientesDeLaPersona());

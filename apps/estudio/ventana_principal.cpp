@@ -11,6 +11,7 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
 #include <QScreen>
@@ -18,6 +19,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolButton>
 #include <QUrl>
 
 #include <quorvel/qt.h>
@@ -77,6 +79,17 @@ void PedirMenu(QWidget& conFoco)
     QApplication::sendEvent(&conFoco, &pedido);
 }
 
+// One that unfolds its options below its buttons takes them off a small screen.
+void MantenerEnPantalla(QWidget& ventana)
+{
+    const QRect sitio = ventana.screen()->availableGeometry();
+    const QRect marco = ventana.frameGeometry();
+    const QPoint lugar(std::max(sitio.left(), std::min(marco.left(), sitio.right() - marco.width())),
+                       std::max(sitio.top(), std::min(marco.top(), sitio.bottom() - marco.height())));
+    if (ventana.isVisible() && lugar != marco.topLeft())
+        ventana.move(lugar);
+}
+
 // A design's summary with what keeps it from being up to date.
 PanelResumen::Contenido ConAviso(PanelResumen::Contenido contenido, const CProyectoEstudio& proyecto,
                                  Diseno diseno)
@@ -101,6 +114,7 @@ PanelResumen::Contenido ConMarca(PanelResumen::Contenido contenido, const CProye
 struct VentanaPrincipal::FilaPestana {
     const char* nombre;
     const char* rotulo;
+    const char* corto;  // where there is no room for all of them whole
     ui::Dialogo& (*panel)(VentanaPrincipal& ventana);
     const wchar_t* sinLamina;      // said in place of an empty schematic above the panel; null: there is none
     std::optional<Diseno> diseno;  // of which the tab is
@@ -110,17 +124,21 @@ std::span<const VentanaPrincipal::FilaPestana> VentanaPrincipal::FilasPestanas()
 {
     using Ventana = VentanaPrincipal;
     static constexpr auto kFilas = std::to_array<FilaPestana>({
-        {"inicio", "Primeros pasos", [](Ventana& v) -> ui::Dialogo& { return v.m_inicio; }, nullptr,
+        {"inicio", "Primeros pasos", "Inicio", [](Ventana& v) -> ui::Dialogo& { return v.m_inicio; }, nullptr,
          std::nullopt},
-        {"energia", "Ener&gía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr, std::nullopt},
-        {"aislada", "Ins&talación aislada", [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
+        {"energia", "Ener&gía", "Ener&gía", [](Ventana& v) -> ui::Dialogo& { return v.m_energia; }, nullptr,
+         std::nullopt},
+        {"aislada", "Ins&talación aislada", "Ins&t. aislada",
+         [](Ventana& v) -> ui::Dialogo& { return v.m_aislada; },
          L"Todavía no hay diseño.\n«Asistente de instalación aislada…» lo propone.", Diseno::aislada},
-        {"red", "Cone&xión a red", [](Ventana& v) -> ui::Dialogo& { return v.m_red; },
+        {"red", "Cone&xión a red", "Cone&xión", [](Ventana& v) -> ui::Dialogo& { return v.m_red; },
          L"Todavía no hay diseño.\n«Asistente de conexión a red…» lo propone.", Diseno::red},
-        {"consumo", "Con&sumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr, std::nullopt},
-        {"venta", "&Venta", [](Ventana& v) -> ui::Dialogo& { return v.m_venta; }, nullptr, std::nullopt},
-        {"autoconsumo", "Autoconsumo", [](Ventana& v) -> ui::Dialogo& { return v.m_autoconsumo; }, nullptr,
+        {"consumo", "Con&sumo", "Con&sumo", [](Ventana& v) -> ui::Dialogo& { return v.m_consumo; }, nullptr,
          std::nullopt},
+        {"venta", "&Venta", "&Venta", [](Ventana& v) -> ui::Dialogo& { return v.m_venta; }, nullptr,
+         std::nullopt},
+        {"autoconsumo", "Autoconsumo", "Autoconsumo",
+         [](Ventana& v) -> ui::Dialogo& { return v.m_autoconsumo; }, nullptr, std::nullopt},
     });
     return kFilas;
 }
@@ -180,11 +198,14 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     centro->addWidget(new Rollo(CrearPanel(m_lugar, centro), kParteLugar));
     m_pestanas = new QTabWidget(centro);
     m_pestanas->setObjectName("pestanas");
+    CrearListaDePestanas();
     for (const FilaPestana& fila : FilasPestanas())
         m_pestanas->addTab(CrearPestana(fila), fila.rotulo);
     centro->addWidget(m_pestanas);
     centro->setStretchFactor(1, 1);
-    centro->setSizes({kAnchoLugar, kAncho - kAnchoLugar});
+    const int iAncho = screen()->availableSize().width();
+    const int iLugar = std::min(kAnchoLugar, static_cast<int>(iAncho * kParteLugar));
+    centro->setSizes({iLugar, std::min(iAncho, kAncho) - iLugar});
     centro->setChildrenCollapsible(false);
     setCentralWidget(centro);
     CrearEstado();
@@ -193,6 +214,8 @@ VentanaPrincipal::VentanaPrincipal(const std::vector<Localidad>& localidades)
     m_copia.setSingleShot(true);
     m_copia.setInterval(kEntreCopias);
     connect(&m_copia, &QTimer::timeout, this, [this] { GuardarCopia(); });
+    m_rotulos.setSingleShot(true);
+    connect(&m_rotulos, &QTimer::timeout, this, [this] { RotularPestanas(); });
     m_frente.setSingleShot(true);
     connect(&m_frente, &QTimer::timeout, this, [this] { MirarFichero(); });
     m_soltado.setSingleShot(true);
@@ -211,6 +234,11 @@ VentanaPrincipal::~VentanaPrincipal()
     // The panels' windows go before the dialogs that they show.
     m_sesion.alCambiar = nullptr;
     delete takeCentralWidget();
+}
+
+bool VentanaPrincipal::EsMenorDeLoUsual() const
+{
+    return width() < kAncho || height() < kAlto;
 }
 
 QWidget* VentanaPrincipal::CrearPanel(ui::Dialogo& dialogo, QWidget* padre)
@@ -372,6 +400,7 @@ void VentanaPrincipal::Actualizar()
     for (std::size_t i = 0; i < m_esquemas.size(); ++i)
         if (const FilaPestana& fila = FilasPestanas()[i]; fila.diseno)
             MostrarDiseno(static_cast<int>(i), *fila.diseno);
+    RotularPestanas();
     m_inicio.Actualizar();
     for (QWidget* panel : m_paneles)
         qt::RefrescarVentana(panel);
@@ -401,9 +430,66 @@ void VentanaPrincipal::MostrarDiseno(int iPestana, Diseno diseno)
     VistaEsquema& vista = *m_esquemas[static_cast<std::size_t>(iPestana)];
     vista.Poner(Dibujar(esquema), fila.sinLamina);
     vista.setAccessibleDescription(Descripcion(vista, fila.sinLamina));
-    m_pestanas->setTabText(iPestana,
-                           QString(fila.rotulo) + QString(csAviso.empty() ? "" : " (desactualizada)"));
-    m_pestanas->setTabToolTip(iPestana, QString::fromStdWString(csAviso));
+    m_avisos.at(static_cast<std::size_t>(diseno)) = QString::fromStdWString(csAviso);
+}
+
+// What names them all where they have no room side by side.
+void VentanaPrincipal::CrearListaDePestanas()
+{
+    auto* menu = new QMenu(m_pestanas);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+        menu->clear();
+        for (std::size_t i = 0; i < FilasPestanas().size(); ++i) {
+            const auto n = static_cast<int>(i);
+            QAction* accion =
+                menu->addAction(FilasPestanas()[i].rotulo, this, [this, n] { m_pestanas->setCurrentIndex(n); });
+            accion->setCheckable(true);
+            accion->setChecked(n == m_pestanas->currentIndex());
+        }
+    });
+    m_listaDePestanas = new QToolButton(m_pestanas);
+    m_listaDePestanas->setObjectName("listaDePestanas");
+    m_listaDePestanas->setArrowType(Qt::DownArrow);
+    m_listaDePestanas->setPopupMode(QToolButton::InstantPopup);
+    m_listaDePestanas->setFocusPolicy(Qt::TabFocus);
+    m_listaDePestanas->setToolTip("Todas las fichas");
+    m_listaDePestanas->setAccessibleName("Todas las fichas");
+    m_listaDePestanas->setMenu(menu);
+    m_listaDePestanas->hide();
+    m_pestanas->setCornerWidget(m_listaDePestanas);
+}
+
+// Whole where they all have room, else short, the last letters cut off; where that is too much, the list of all
+// beside them.
+void VentanaPrincipal::RotularPestanas()
+{
+    const auto filas = FilasPestanas();
+    const auto rotular = [&](bool bCortos) {
+        for (std::size_t i = 0; i < filas.size(); ++i) {
+            const QString aviso =
+                filas[i].diseno ? m_avisos.at(static_cast<std::size_t>(*filas[i].diseno)) : "";
+            const QString marca = aviso.isEmpty() ? "" : bCortos ? " (!)" : " (desactualizada)";
+            const auto n = static_cast<int>(i);
+            if (const QString texto = (bCortos ? filas[i].corto : filas[i].rotulo) + marca;
+                m_pestanas->tabText(n) != texto)
+                m_pestanas->setTabText(n, texto);
+            const QString entera = QString(filas[i].rotulo).remove('&');
+            const bool bCalla = !bCortos || QString(filas[i].corto) == filas[i].rotulo;
+            m_pestanas->setTabToolTip(n, bCalla ? aviso : entera + (aviso.isEmpty() ? "" : "\n" + aviso));
+            m_pestanas->tabBar()->setAccessibleTabName(n, entera + (aviso.isEmpty() ? "" : ", desactualizada"));
+        }
+    };
+    rotular(false);
+    constexpr double kRecorte = 1.15;
+    const auto faltaSitio = [this](double dVeces) {
+        return isVisible() && m_pestanas->tabBar()->sizeHint().width() > dVeces * m_pestanas->width();
+    };
+    if (faltaSitio(1.0))
+        rotular(true);
+    const bool bLista = faltaSitio(kRecorte);
+    m_pestanas->setUsesScrollButtons(bLista);
+    m_pestanas->setElideMode(bLista ? Qt::ElideNone : Qt::ElideRight);
+    m_listaDePestanas->setVisible(bLista);
 }
 
 void VentanaPrincipal::MostrarPestana(std::string_view nombre)
@@ -525,6 +611,10 @@ bool VentanaPrincipal::eventFilter(QObject* objeto, QEvent* evento)
     // Whoever chose a tab by its letter goes on there.
     if (evento->type() == QEvent::Shortcut && qobject_cast<QTabBar*>(objeto) != nullptr)
         static_cast<QWidget*>(objeto)->setFocus(Qt::ShortcutFocusReason);
+    if (evento->type() == QEvent::Resize && objeto->inherits("QPrintDialog"))
+        MantenerEnPantalla(*static_cast<QWidget*>(objeto));
+    if (objeto == m_pestanas && (evento->type() == QEvent::Resize || evento->type() == QEvent::FontChange))
+        m_rotulos.start(0);
     if (evento->type() != QEvent::ShortcutOverride)
         return false;
     const auto* linea = qobject_cast<QLineEdit*>(objeto);

@@ -29,6 +29,7 @@
 QT_BEGIN_NAMESPACE
 class QLabel;
 class QTabWidget;
+class QToolButton;
 QT_END_NAMESPACE
 
 namespace efv::estudio {
@@ -40,6 +41,8 @@ public:
 
     Sesion& LaSesion() { return m_sesion; }
     const Sesion& LaSesion() const { return m_sesion; }
+    /// The screen has no room for its usual size.
+    bool EsMenorDeLoUsual() const;
     /// Names of the tabs, in their order.
     static std::vector<const char*> Pestanas();
     void MostrarPestana(std::string_view nombre);
@@ -102,6 +105,8 @@ private:
     void Actualizar();
     void ActualizarOrdenes();
     void MostrarDiseno(int iPestana, Diseno diseno);
+    void CrearListaDePestanas();
+    void RotularPestanas();
     void GuardarCopia();
     void MirarFichero();
     /// Panels of fields, and the tab that each stands in; empty outside them.
@@ -122,7 +127,8 @@ private:
     QTimer m_copia;    // to the next copy of unsaved work
     QTimer m_soltado;  // to the next turn of the loop, after a file was dropped
     CString m_csSoltado;
-    QTimer m_frente;  // to the next turn of the loop, after the window came to the front
+    QTimer m_rotulos;  // to the next turn of the loop, after the tabs have another size
+    QTimer m_frente;   // to the next turn of the loop, after the window came to the front
     struct OrdenConNombre {
         QAction* accion;
         const Orden* orden;
@@ -138,6 +144,8 @@ private:
     std::array<PanelComprobaciones, 2> m_comprobaciones;
     PanelResumen m_aislada, m_red, m_consumo, m_venta, m_autoconsumo;
     QTabWidget* m_pestanas = nullptr;
+    QToolButton* m_listaDePestanas = nullptr;
+    std::array<QString, 2> m_avisos;         // why a design is out of date; empty: it isn't
     std::array<QTabWidget*, 2> m_cuentas{};  // below the schematics, by design
     std::vector<VistaEsquema*> m_esquemas;   // by tab; null for one without
     std::vector<QWidget*> m_paneles;

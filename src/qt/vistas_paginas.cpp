@@ -1,7 +1,9 @@
 // The pages of a dialog.
+#include <QHelpEvent>
 #include <QSignalBlocker>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QToolTip>
 
 #include "qt/texto.h"
 #include "qt/vistas.h"
@@ -10,10 +12,42 @@ namespace efv::qt {
 
 namespace {
 
+// All in sight and none behind an arrow: what has no room is cut off, and the pointer over it says it whole.
+class Barra final : public QTabBar {
+public:
+    using QTabBar::QTabBar;
+
+protected:
+    bool event(QEvent* evento) override
+    {
+        if (evento->type() != QEvent::ToolTip)
+            return QTabBar::event(evento);
+        const auto* ayuda = static_cast<QHelpEvent*>(evento);
+        const int i = tabAt(ayuda->pos());
+        if (i >= 0 && tabRect(i).width() < tabSizeHint(i).width())
+            QToolTip::showText(ayuda->globalPos(), Indicacion(DeQt(SinMnemonico(DeQt(tabText(i))))), this);
+        else
+            QToolTip::hideText();
+        return true;
+    }
+};
+
+class Fichas final : public QTabWidget {
+public:
+    explicit Fichas(QWidget* padre) : QTabWidget(padre)
+    {
+        auto* barra = new Barra(this);
+        barra->setObjectName(tabBar()->objectName());
+        setTabBar(barra);
+        setUsesScrollButtons(false);
+        setElideMode(Qt::ElideRight);
+    }
+};
+
 class PaginasConPestanas final : public VistaPaginas {
 public:
     PaginasConPestanas(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
-        : VistaPaginas(seleccion, new QTabWidget(padre)), m_seleccion(seleccion)
+        : VistaPaginas(seleccion, new Fichas(padre)), m_seleccion(seleccion)
     {
         for (const CString& entrada : seleccion.acsEntradas)
             Pestanas().addTab(new QWidget, ConMnemonico(entrada));

@@ -18,6 +18,7 @@
 #include <QPrintPreviewDialog>
 #include <QPrintPreviewWidget>
 #include <QPrinter>
+#include <QScreen>
 #include <QToolBar>
 
 #include <quorvel/marca_decimal.h>
@@ -30,8 +31,9 @@ namespace efv::estudio {
 namespace {
 
 constexpr double kPuntosPorPulgada = 72.0;
-constexpr int kLetrasEscala = 7;                     // "1000,0%"
-constexpr int kAnchoVista = 1000, kAltoVista = 680;  // fits a small screen
+constexpr int kLetrasEscala = 7;  // "1000,0%"
+constexpr int kAnchoVista = 1000, kAltoVista = 680;
+constexpr double kParteDePantalla = 0.92;  // at most; the title bar takes some
 
 QColor ColorDe(ui::Color color)
 {
@@ -314,7 +316,8 @@ void VerImpreso(const VistaImpresa& vista)
             });
         });
     }
-    dialogo.resize(kAnchoVista, kAltoVista);
+    dialogo.resize(
+        QSize(kAnchoVista, kAltoVista).boundedTo(dialogo.screen()->availableSize() * kParteDePantalla));
     dialogo.exec();
     if (fallo)
         std::rethrow_exception(fallo);
