@@ -81,6 +81,7 @@ void PaginaPaneles::AnadirCampo()
     for (int m = 0; m < 15; ++m)
         mes.acsEntradas.emplace_back(solar::NombreMes(m));
     mes.destino = &m_asistente.datos.iMesCalculo;
+    mes.csIndicacion = L"El mes o el período para cuya radiación se dimensionan los paneles";
     mes.alElegir = [this] { m_asistente.Recalcular(false); };
     m_mesReferencia = &Anadir<ui::TextoFijo>(ui::NombreDeMiembro<V>(&V::csMesReferencia),
                                              L"Mes de referencia para el dimensionado:");

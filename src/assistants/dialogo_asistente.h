@@ -157,6 +157,7 @@ protected:
         radio.acsEntradas = {L"Vertical", L"Horizontal"};
         radio.destino = &this->datos.iDisposicion;
         radio.colocacion = colocacion;
+        radio.csIndicacion = L"De cada panel: de pie o tumbado";
         radio.alElegir = std::move(alElegir);
         return radio;
     }

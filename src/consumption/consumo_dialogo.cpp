@@ -31,8 +31,14 @@ constexpr auto kColumnasReceptores =
 
 constexpr auto kCampos = ui::Campos<P>({
     {&P::csReferencia, L"Referencia:"},
-    {.miembro = &P::iTipoEntrada, .rotulo = L"Entrada de datos de consumo anual:  ", .entradas = kTipos},
-    {.miembro = &P::bExcluir, .rotulo = L"Excluir del cálculo", .casilla = true},
+    {.miembro = &P::iTipoEntrada,
+     .rotulo = L"Entrada de datos de consumo anual:  ",
+     .entradas = kTipos,
+     .indicacion = L"Las 8760 horas del año, o una lista de receptores con sus horas de uso"},
+    {.miembro = &P::bExcluir,
+     .rotulo = L"Excluir del cálculo",
+     .casilla = true,
+     .indicacion = ui::kFueraDelCalculo},
     {&P::dPotMaxima, L"Potencia máx. simultánea (W):"},
 });
 
@@ -109,6 +115,7 @@ void CDlgDatosConsumo::AnadirSelectores()
     m_diaMes = &AnadirCombo(&P::iDiaMes, L"Día:", {}, &CDlgDatosConsumo::AlElegirDia);
     m_diaTipo = &AnadirCombo(&P::iDiaTipo, L"Tipo de día:", efv::consumption::NombresDeDias(),
                              &CDlgDatosConsumo::AlElegirDia);
+    m_diaMes->colocacion = m_diaTipo->colocacion = ui::JuntoA(*m_mes);
     // A choice that nobody gets to see.
     auto& rotulacion = Anadir<ui::Seleccion>(ui::NombreDeCampo(&P::iRotulacion), L"Rotulación ...",
                                              ui::Seleccion::Forma::menu);

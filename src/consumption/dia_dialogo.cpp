@@ -25,6 +25,9 @@ DialogoDia::DialogoDia(std::string_view nombreClase, std::wstring_view titulo, c
         Anadir<ui::Seleccion>("iAsignacion", L"Asignación del consumo: ", ui::Seleccion::Forma::radio);
     alcance.acsEntradas = TextosDeAlcance(iMes, iDia);
     alcance.destino = &m_iAlcance;
+    // Below the chart: there is more room than below the hours.
+    m_pegar.colocacion.iColumna = alcance.colocacion.iColumna = 2;
+    alcance.csIndicacion = L"Los días que reciben estas horas";
     std::ranges::copy(m_horasDelDia(iMes, iDia), m_horas.Valores().begin());
     Volcar();
     m_horas.Mostrar();

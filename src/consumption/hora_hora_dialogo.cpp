@@ -28,7 +28,10 @@ constexpr auto kPotencia = ui::Campos<P>({
     {&P::dPotMaxima, L"Pot. máxima (W):", {0.01, 1e10, [](const P& p) { return p.iOrigen == 1; }}},
 });
 constexpr auto kSeparador = ui::Campos<P>({
-    {.miembro = &P::iSeparador, .rotulo = L"Separador:", .entradas = kSeparadores},
+    {.miembro = &P::iSeparador,
+     .rotulo = L"Separador:",
+     .entradas = kSeparadores,
+     .indicacion = L"Lo que hay entre un valor y el siguiente"},
 });
 
 bool SonPeriodos(const int (&aiPeriodoHora)[24])
@@ -83,9 +86,11 @@ void CDlgDatosConsumoHoraHora::AnadirControles()
     std::vector<CString> acsPeriodos = efv::consumption::NombresDeMeses();
     acsPeriodos.emplace_back(L"Año completo");
     m_periodo = &AnadirEleccion(&P::iPeriodo, L"Período de datos de consumo:", Forma::combo, acsPeriodos);
+    m_periodo->csIndicacion = L"Las horas que ocupan los datos: las de un mes o las del año";
     m_origen = &AnadirEleccion(&P::iOrigen, L"", Forma::radio, {kOrigenes.begin(), kOrigenes.end()});
     m_patron = &AnadirEleccion(&P::iPatron, L"", Forma::combo, Titulos());
     m_patron->csIndicacion = L"Patrón de consumo tipo";
+    m_origen->csIndicacion = L"Lo que se escribe abajo, o el patrón por la potencia máxima";
     m_editar = &Anadir<ui::Boton>("", L"...");
     m_editar->colocacion = ui::JuntoA(*m_patron);
     m_editar->csIndicacion = L"Configurar el patrón";

@@ -89,7 +89,7 @@ void CDlgDatosReceptor::AnadirModelo()
     m_elegir = &Anadir<ui::Boton>("", L"...");
     m_elegir->colocacion = ui::JuntoA(modelo);
     m_elegir->csIndicacion = L"Elegir el modelo en el catálogo";
-    conModelo.csIndicacion = L"Con los datos de un modelo del catálogo";
+    conModelo.csIndicacion = ui::kDelCatalogo;
     m_elegir->bHabilitado = datos.bModelo != 0;
     m_elegir->alPulsar = [this] { AlElegirModelo(); };
     m_receptor.Anadir(*this, {&R::iCantidad, L"Cantidad:", {0, 10000}}).bVisible = datos.bPedirCantidad != 0;
@@ -100,6 +100,8 @@ void CDlgDatosReceptor::AnadirModelo()
     auto& excluir = Anadir<ui::Casilla>("bExcluir", L"Excluir del cálculo");
     excluir.destino = &datos.receptor.bNoCalcular;
     excluir.csIndicacion = L"Sigue en la lista y no cuenta en el consumo";
+    excluir.colocacion =
+        ui::JuntoA(fabricante.bVisible ? fabricante : m_receptor.De<ui::Edicion>(&R::iCantidad));
 }
 
 void CDlgDatosReceptor::AnadirDatosCatalogo()
@@ -111,8 +113,10 @@ void CDlgDatosReceptor::AnadirDatosCatalogo()
         campo.intercambio = ui::Intercambio::aMano;
         campo.bSoloLectura = true;
     }
+    m_receptor.De(&R::dRendimiento).colocacion = ui::JuntoA(m_receptor.De(&R::dPotencia));
     m_tipoRed = &Anadir<ui::TextoFijo>(ui::NombreDeCampo(&R::iTipoRed), L"Tipo de red:");
     m_luminaria = &Anadir<ui::TextoFijo>(ui::NombreDeCampo(&R::iLuminaria), L"Luminaria: ");
+    m_luminaria->colocacion = ui::JuntoA(*m_tipoRed);
 }
 
 ui::Seleccion& CDlgDatosReceptor::AnadirCombo(int D::*miembro, std::wstring_view rotulo,
@@ -133,12 +137,13 @@ void CDlgDatosReceptor::AnadirPlanificacion()
         &AnadirCombo(&D::iMes, L"Mes:", efv::consumption::NombresDeMeses(), &CDlgDatosReceptor::AlElegirMes);
     m_diaTipo = &AnadirCombo(&D::iDiaTipo, L"Tipo de día:", efv::consumption::NombresDeDias(),
                              &CDlgDatosReceptor::AlElegirDiaTipo);
+    m_diaTipo->colocacion = ui::JuntoA(*m_mes);
     m_unificar = &Anadir<ui::Seleccion>("", L"Unificar planificación", ui::Seleccion::Forma::menu);
     m_unificar->acsEntradas.assign(kUnificar.begin(), kUnificar.end());
     m_unificar->alElegir = [this] { AlUnificar(); };
     m_unificar->colocacion = kPlanificacion;
     m_unificar->csIndicacion = L"Copia las franjas que se ven a otros días o meses";
-    m_receptor.Anadir(*this, {&R::dHorasDia, L"Nº horas uso diario:", {0, 24}}, kPlanificacion);
+    m_receptor.Anadir(*this, {&R::dHorasDia, L"Nº horas uso diario:", {0, 24}}, ui::JuntoA(*m_unificar));
 }
 
 // The bands as a line, and how far a change of them reaches.
@@ -171,7 +176,8 @@ void CDlgDatosReceptor::AnadirLimites()
         deslizador.iPasoGrande = 60;
         deslizador.leer = LeerMinutos;
         deslizador.alMover = [this, i] { AlMover(i); };
-        deslizador.colocacion = kPlanificacion;
+        // Both ends of a band on one line.
+        deslizador.colocacion = i % 2 == 0 ? kPlanificacion : ui::JuntoA(*m_limites[i - 1].deslizador);
         auto& lectura = Anadir<ui::TextoFijo>(fmt::format("csLectura[{}]", i), L"");
         lectura.colocacion = ui::JuntoA(deslizador);
         m_limites[i] = {&deslizador, &lectura};

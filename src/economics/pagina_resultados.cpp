@@ -64,6 +64,7 @@ PaginaResultados::PaginaResultados(ui::Dialogo& dialogo, CCalculoEconomicoAutoSh
     m_dias.AnadirSelectores(*this, m_elemento);
     m_aportacion = &Anadir<ui::Casilla>("bAportacionFV", L"Aportación fotovoltaica");
     m_aportacion->bMarcada = true;
+    m_aportacion->csIndicacion = L"El gasto de los meses con lo que producen los paneles, o sin ello";
     m_aportacion->alCambiar = [this] { Mostrar(MesesBalance(m_balance, m_aportacion->bMarcada)); };
     m_aportacion->colocacion = ui::JuntoA(m_dias.Boton());
     m_dias.AnadirTabla(*this);

@@ -70,7 +70,11 @@ constexpr auto kPrestamo = ui::Campos<R>({
     {&R::dAniosPrestamo, L"Nº de años del prestamo solicitado:"},
 });
 constexpr auto kMetodo = ui::Campos<R>(
-    {{.miembro = &R::iTipoAmortizacion, .rotulo = L"Tipo de amortización: ", .entradas = kMetodos}});
+    {{.miembro = &R::iTipoAmortizacion,
+      .rotulo = L"Tipo de amortización: ",
+      .entradas = kMetodos,
+      .indicacion =
+          L"Con cuotas iguales (francés), o devolviendo cada año lo mismo más sus intereses (alemán)"}});
 constexpr auto kPagos = ui::Campos<R>({
     {&R::dTotalPagar, L"Total a pagar en el prestamos:"},
     {&R::dCuotaAnual, L"Cuota anual:"},
@@ -183,6 +187,7 @@ void CDlgCalculoEconomicoRed::AnadirEnergia()
 void CDlgCalculoEconomicoRed::AnadirPrima()
 {
     m_tipoPrima = &AnadirEleccion(&R::iTipoPrima, L"Prima:", {L"Fija", L"Variable"}, kPrima);
+    m_tipoPrima->csIndicacion = L"El precio de venta que se usa";
     AnadirTecleados(kPrimas, kPrima);
     AnadirCalculados(kPrimaSumada, ui::JuntoA(De(&R::dPrimaVariableA)));
     AnadirCalculados(kRendimiento, kPrima);
@@ -192,6 +197,7 @@ void CDlgCalculoEconomicoRed::AnadirCoste()
 {
     m_tipoCoste =
         &AnadirEleccion(&R::iTipoCoste, L"Coste:", {L"Según la repercusión", L"Según el coste"}, kCoste);
+    m_tipoCoste->csIndicacion = L"Se escribe uno de los dos y el otro se calcula";
     AnadirTecleados(kCostes, kCoste);
     AnadirCalculados(kCosteElegible, kCoste);
 }

@@ -53,24 +53,39 @@ constexpr int kMetodos = 9, kAislantesOfrecidos = 3, kMateriales = 2, kTramos = 
 
 constexpr auto kIdentidad = ui::Campos<D>({{&D::csReferencia, L"Referencia:"}});
 constexpr auto kLongitudes = ui::Campos<D>({
-    {.miembro = &D::bForzarLongitud, .rotulo = L"Forzar longitud (~LONG~):", .casilla = true},
+    {.miembro = &D::bForzarLongitud,
+     .rotulo = L"Forzar longitud (~LONG~):",
+     .casilla = true,
+     .indicacion = L"En lugar de la que mide el dibujo"},
     {.miembro = &D::dLongitudForzada, .rotulo = L"", .magnitud = kLongitud, .junto = &D::bForzarLongitud},
     {.miembro = &D::dLongitudAdicional, .rotulo = L"Añadir a la longitud (~LONG~):", .magnitud = kLongitud},
     {.miembro = &D::bNoContabilizar, .rotulo = L"No contabilizar el tramo de conductor.", .casilla = true},
 });
 constexpr auto kForzarSeccion = ui::Campos<D>({
-    {.miembro = &D::bForzarSeccion, .rotulo = L"Sección del conductor (mm²):", .casilla = true},
+    {.miembro = &D::bForzarSeccion,
+     .rotulo = L"Sección del conductor (mm²):",
+     .casilla = true,
+     .indicacion = L"Permite elegirla, en lugar de la que sale del cálculo"},
 });
 constexpr auto kConductores = ui::Campos<D>({
-    {.miembro = &D::bConductoresFase, .rotulo = L"Número de conductores por fase:", .casilla = true},
+    {.miembro = &D::bConductoresFase,
+     .rotulo = L"Número de conductores por fase:",
+     .casilla = true,
+     .indicacion = L"Permite escribirlo, en lugar del que sale del cálculo"},
     {.miembro = &D::iConductoresFase, .rotulo = L"", .limites = {1, 100}, .junto = &D::bConductoresFase},
     {&D::dFactorCorrector, L"Fct corrector [ Ical = ( 1 + Fc(%) ) * ( If / Nc) ]:", {0, 100}},
 });
 constexpr auto kElegirMaterial = ui::Campos<D>({
-    {.miembro = &D::bTipoCable, .rotulo = L"Tipo cable:", .casilla = true},
+    {.miembro = &D::bTipoCable,
+     .rotulo = L"Tipo cable:",
+     .casilla = true,
+     .indicacion = L"Permite elegir el material del conductor"},
 });
 constexpr auto kExcluir = ui::Campos<D>({
-    {.miembro = &D::bExcluir, .rotulo = L"Excluir del cálculo", .casilla = true},
+    {.miembro = &D::bExcluir,
+     .rotulo = L"Excluir del cálculo",
+     .casilla = true,
+     .indicacion = ui::kFueraDelCalculo},
 });
 
 std::vector<CString> Nombres(std::wstring_view (*nombre)(int), int iCuantos)
@@ -127,7 +142,6 @@ CDlgDatosConductor::CDlgDatosConductor(const electrical::ConductorDibujado& cond
     informacion.bSoloLectura = true;
     informacion.csTexto = Informacion(conductor);
     Volcar();
-    De(&D::bExcluir).csIndicacion = L"Sigue en el dibujo y no cuenta en el cálculo";
     for (const auto miembro : {&D::bForzarLongitud, &D::bForzarSeccion, &D::bConductoresFase, &D::bTipoCable})
         De<ui::Casilla>(miembro).alCambiar = [this] { Habilitar(); };
     Habilitar();

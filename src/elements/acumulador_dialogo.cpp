@@ -16,7 +16,10 @@ constexpr auto kCuantos = ui::Campos<D>({
     {&D::nParalelo, L"Nº ramales paralelo:", {1, 1000}},
 });
 constexpr auto kEscala = ui::Campos<D>({
-    {.miembro = &D::bEscala, .rotulo = L"Representar a escala", .casilla = true},
+    {.miembro = &D::bEscala,
+     .rotulo = L"Representar a escala",
+     .casilla = true,
+     .indicacion = L"En el dibujo, con sus medidas en lugar de un símbolo"},
 });
 constexpr auto kVida = ui::Campos<M>({{&M::iVidaUtil, L"Vida útil:"}});
 

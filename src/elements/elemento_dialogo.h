@@ -85,7 +85,10 @@ protected:
 
     void AnadirExcluir(const ui::Colocacion& colocacion = {})
     {
-        Anadir(ui::Campos<D>({{.miembro = &D::bExcluir, .rotulo = L"Excluir del cálculo", .casilla = true}}),
+        Anadir(ui::Campos<D>({{.miembro = &D::bExcluir,
+                               .rotulo = L"Excluir del cálculo",
+                               .casilla = true,
+                               .indicacion = ui::kFueraDelCalculo}}),
                colocacion);
     }
 
@@ -110,7 +113,8 @@ protected:
     /// outlive the dialog. The button goes by its caption where no name is given.
     void AnadirModelo(const catalogues::Elegir& elegir, std::string_view nombreBoton = {})
     {
-        this->Anadir(ui::Campos<D>({{.miembro = &D::bModelo, .rotulo = L"Modelo", .casilla = true}}));
+        this->Anadir(ui::Campos<D>(
+            {{.miembro = &D::bModelo, .rotulo = L"Modelo", .casilla = true, .indicacion = ui::kDelCatalogo}}));
         auto& conModelo = this->template De<ui::Casilla>(&D::bModelo);
         m_modelo = &AnadirTexto("csModelo", L"");
         m_modelo->colocacion = ui::JuntoA(conModelo);

@@ -16,7 +16,10 @@ using D = elements::DatosInversor;
 constexpr int kSinNumero = 0;
 
 constexpr auto kEscala = ui::Campos<D>({
-    {.miembro = &D::bEscala, .rotulo = L"Representar a escala", .casilla = true},
+    {.miembro = &D::bEscala,
+     .rotulo = L"Representar a escala",
+     .casilla = true,
+     .indicacion = L"En el dibujo, con sus medidas en lugar de un símbolo"},
 });
 
 }  // namespace

@@ -32,18 +32,34 @@ constexpr auto kRendimiento = ui::Campos<D>({
     {&D::dRendimiento, L"Coeficiente de rendimiento del panel (%):", {1, 200}},
 });
 constexpr auto kPosicion = ui::Campos<D>({
-    {.miembro = &D::iOrientacion, .rotulo = L"Posición:", .entradas = kOrientaciones},
-    {.miembro = &D::iMontaje, .rotulo = L"Agrupación:", .entradas = kMontajes},
-    {.miembro = &D::iConexion, .rotulo = L"Conexión:", .entradas = kConexiones},
+    {.miembro = &D::iOrientacion,
+     .rotulo = L"Posición:",
+     .entradas = kOrientaciones,
+     .indicacion = L"De cada panel: de pie o tumbado"},
+    {.miembro = &D::iMontaje,
+     .rotulo = L"Agrupación:",
+     .entradas = kMontajes,
+     .indicacion = L"Uno al lado de otro, uno sobre otro o en cuadro"},
+    {.miembro = &D::iConexion,
+     .rotulo = L"Conexión:",
+     .entradas = kConexiones,
+     .indicacion = L"S, en serie; P, en paralelo"},
 });
 constexpr auto kSombreado = ui::Campos<D>({
     {.miembro = &D::bNoSombras, .rotulo = L"No realizar estudio de sombras sobre el panel.", .casilla = true},
-    {.miembro = &D::bInformarSombra, .rotulo = L"Informar sombreado máximo diario (%):", .casilla = true},
+    {.miembro = &D::bInformarSombra,
+     .rotulo = L"Informar sombreado máximo diario (%):",
+     .casilla = true,
+     .indicacion = L"Permite escribirlo"},
     {.miembro = &D::dSombreado, .rotulo = L"", .limites = {0, 100}, .junto = &D::bInformarSombra},
 });
 constexpr auto kDeString = ui::Campos<D>({
     {&D::csString, L"String:"},
-    {.miembro = &D::bForzado, .rotulo = L"Forzado", .casilla = true, .junto = &D::csString},
+    {.miembro = &D::bForzado,
+     .rotulo = L"Forzado",
+     .casilla = true,
+     .junto = &D::csString,
+     .indicacion = L"El string lleva el color que se elige al lado"},
 });
 
 constexpr int kPaginaDelAviso = 1;  // that of the missing micro-inverter, which stands on the one after it

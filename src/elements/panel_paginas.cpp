@@ -16,7 +16,7 @@ using Micro = CBaseMicroInversorModelo;
 
 constexpr auto kOptimizador = ui::Campos<D>({
     {.miembro = &D::bOptimizador, .rotulo = L"Habilitar el uso de optimizadores", .casilla = true},
-    {.miembro = &D::bOptModelo, .rotulo = L"Modelo:", .casilla = true},
+    {.miembro = &D::bOptModelo, .rotulo = L"Modelo:", .casilla = true, .indicacion = ui::kDelCatalogo},
     {.miembro = &D::csIdOpt, .rotulo = L"", .junto = &D::bOptModelo},
 });
 constexpr auto kPerdidas = ui::Campos<D>({
@@ -26,7 +26,7 @@ constexpr auto kPerdidas = ui::Campos<D>({
 });
 constexpr auto kMicro = ui::Campos<D>({
     {.miembro = &D::bMicroInversor, .rotulo = L"Habilitar uso de microinversores", .casilla = true},
-    {.miembro = &D::bMicroModelo, .rotulo = L"Modelo:", .casilla = true},
+    {.miembro = &D::bMicroModelo, .rotulo = L"Modelo:", .casilla = true, .indicacion = ui::kDelCatalogo},
 });
 
 CString ConUnDecimal(double d)

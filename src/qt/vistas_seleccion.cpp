@@ -5,10 +5,14 @@
 #include <QButtonGroup>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHelpEvent>
 #include <QMenu>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "qt/accesible.h"
@@ -21,10 +25,34 @@ namespace efv::qt {
 
 namespace {
 
+// The pointer over it says what is longer than the form lets it be read, besides its own tip.
+class ComboQueDice final : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+protected:
+    bool event(QEvent* evento) override
+    {
+        if (evento->type() != QEvent::ToolTip)
+            return QComboBox::event(evento);
+        QStyleOptionComboBox aspecto;
+        initStyleOption(&aspecto);
+        const QRect sitio =
+            style()->subControlRect(QStyle::CC_ComboBox, &aspecto, QStyle::SC_ComboBoxEditField, this);
+        QStringList partes;
+        if (fontMetrics().horizontalAdvance(currentText()) > sitio.width())
+            partes << Indicacion(DeQt(currentText()));
+        if (!toolTip().isEmpty())
+            partes << toolTip();
+        QToolTip::showText(static_cast<QHelpEvent*>(evento)->globalPos(), partes.join('\n'), this);
+        return true;
+    }
+};
+
 class VistaCombo final : public Vista {
 public:
     VistaCombo(ui::Seleccion& seleccion, QWidget* padre, Accionador& accionador)
-        : Vista(seleccion, new QComboBox(padre)), m_seleccion(seleccion)
+        : Vista(seleccion, new ComboQueDice(padre)), m_seleccion(seleccion)
     {
         Combo().setFocusPolicy(Qt::StrongFocus);
         Combo().setMaxVisibleItems(20);
@@ -59,9 +87,6 @@ private:
             Combo().view()->setMinimumWidth(std::min(Combo().view()->sizeHintForColumn(0) + 24, 600));
         }
         Combo().setCurrentIndex(m_seleccion.iSeleccion);
-        // What is longer than the form lets it be read.
-        if (const QString elegida = Indicacion(DeQt(Combo().currentText())); Combo().toolTip() != elegida)
-            Combo().setToolTip(elegida);
     }
 
     const ui::Seleccion& m_seleccion;

@@ -79,6 +79,7 @@ void CDlgCalculoInclinacionPanel::AnadirControles()
     m_opcion = &Anadir<ui::Seleccion>("iOpcion", L"", ui::Seleccion::Forma::radio);
     m_opcion->acsEntradas = {L"Actual:", L"Óptima:"};
     m_opcion->destino = &datos.iOpcion;
+    m_opcion->csIndicacion = L"La inclinación que se toma al aceptar";
     m_opcion->alElegir = [this] { AlElegirOpcion(); };
     Anadir(kActual);
     auto& actual = De(&DatosInclinacion::dInclinacionActual);
@@ -94,6 +95,7 @@ void CDlgCalculoInclinacionPanel::AnadirControles()
     m_mes = &Anadir<ui::Seleccion>("iMes", L"", ui::Seleccion::Forma::combo);
     m_mes->colocacion = ui::JuntoA(optima);
     m_mes->acsEntradas = Meses();
+    m_mes->csIndicacion = L"El mes, o el año, en que esa inclinación recibe más radiación";
     m_mes->destino = &datos.iMes;
     m_mes->bHabilitado = false;
     m_mes->alElegir = [this] { AlElegirMes(); };

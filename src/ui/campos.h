@@ -145,7 +145,12 @@ struct Campo {
     std::wstring_view magnitud = {};                   ///< of a decimal that is shown in the person's unit
     bool casilla = false;                              ///< a check box over an int, 0 or 1
     std::optional<Miembro<P>> junto = {};              ///< the field, further up, on whose line it stands
+    std::wstring_view indicacion = {};                 ///< what the caption doesn't tell
 };
+
+/// Of ticks that more than one layer has: with a model, left out.
+inline constexpr std::wstring_view kDelCatalogo = L"Con los datos de un modelo del catálogo";
+inline constexpr std::wstring_view kFueraDelCalculo = L"Sigue en el dibujo y no cuenta en el cálculo";
 
 /// A table of rows; each member must have a name.
 template <class P, std::size_t N>
@@ -187,6 +192,7 @@ public:
     {
         Control& control = Crear(donde, nombre, campo);
         control.colocacion = colocacion;
+        control.csIndicacion = campo.indicacion;
         if (campo.junto)
             control.colocacion.junto = &De(*campo.junto);
         return control;

@@ -29,6 +29,7 @@ DialogoHE5::DialogoHE5(const Lugar& lugar)
     for (int i = 1; i <= solar::kZonasHE5; ++i)
         m_zona->acsEntradas.emplace_back(solar::NombreZona(i));
     m_zona->iSeleccion = m_edificio.iZona - 1;
+    m_zona->csIndicacion = L"Se abre en la que da la radiación del lugar";
     m_zona->alElegir = [this] { Calcular(); };
     m_uso1 = &AnadirUso("iUso1", L"&Uso:", false);
     AnadirSuperficie("dSuperficie1", L"&Superficie construida (m²):", m_edificio.adSuperficie[0]);

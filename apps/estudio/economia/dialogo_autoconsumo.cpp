@@ -207,6 +207,7 @@ void DialogoAutoconsumo::HacerConsumo()
     AnadirBoton(pagina, "AbrirEstudio", L"&Abrir estudio…", &DialogoAutoconsumo::AbrirEstudio);
     m_lugar = &pagina.Anadir<ui::Casilla>("bLugarDelProyecto", L"&Lugar, planos y clima del proyecto");
     m_lugar->alCambiar = [this] { Habilitar(); };
+    m_lugar->csIndicacion = L"O los del estudio que se ha abierto";
     m_origen = &pagina.Anadir<ui::Seleccion>("iOrigen", L"&De dónde sale:", ui::Seleccion::Forma::combo);
     m_origen->colocacion = {.grupo = kConsumo};
     m_origen->alElegir = [this] {
@@ -241,6 +242,8 @@ void DialogoAutoconsumo::HacerTarifa()
     AnadirCampos(pagina, kPrecios);
     m_pago = &pagina.Anadir<ui::Seleccion>("iPago", L"Pa&go del excedente:", ui::Seleccion::Forma::combo);
     m_pago->acsEntradas = {L"Compensación simplificada", L"Venta"};
+    m_pago->csIndicacion =
+        L"La compensación descuenta, como mucho, lo que cuesta la energía comprada en el mes";
 }
 
 void DialogoAutoconsumo::HacerInstalacion()
@@ -255,6 +258,8 @@ void DialogoAutoconsumo::HacerInstalacion()
     AnadirCampos(pagina, kBateria);
     m_regla = &pagina.Anadir<ui::Seleccion>("iRegla", L"Re&gla:", ui::Seleccion::Forma::combo);
     m_regla->acsEntradas = {L"Autoconsumo", L"Arbitraje de precios"};
+    m_regla->csIndicacion =
+        L"Guarda lo que sobra; con el arbitraje, además, compra en las horas baratas para las caras";
     m_regla->colocacion = {.grupo = kBateria, .iColumna = 1};
     m_prestamo = &pagina.Anadir<ui::Casilla>("bPrestamo", L"&Con préstamo");
     m_prestamo->colocacion = {.grupo = kPrestamo, .iColumna = 1};

@@ -94,6 +94,7 @@ void PanelLugar::AnadirLugar()
     m_seleccion->colocacion.grupo = kGrupoLugar;
     m_seleccion->destino = &m_iLugar;
     m_seleccion->alElegir = [this] { AlElegir(); };
+    m_seleccion->csIndicacion = L"Los que tienen lo que se busca; elegir uno trae sus datos";
     const auto campo = [this](const char* nombre, const wchar_t* csRotulo,
                               ui::Destino destino) -> ui::Edicion& {
         auto& edicion = Anadir<ui::Edicion>(nombre, csRotulo);

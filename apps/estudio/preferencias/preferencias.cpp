@@ -110,6 +110,7 @@ DialogoPreferencias::DialogoPreferencias(const Preferencias& iniciales)
     auto& marca = Anadir<ui::Seleccion>("iMarca", L"&Decimales:", ui::Seleccion::Forma::combo);
     marca.acsEntradas.assign(kMarcas.begin(), kMarcas.end());
     marca.destino = &preferencias.iMarca;
+    marca.csIndicacion = L"La marca que llevan los números en pantalla y en los informes";
     Anadir<ui::TextoFijo>("csNota", L"Al escribir valen siempre la coma y el punto.");
     Volcar();
 }

@@ -101,6 +101,7 @@ void CDlgItemDatosPanelFoto::AnadirCoeficiente(Coeficiente& coeficiente, std::ws
     auto& unidad = Anadir<ui::Seleccion>(nombreUnidad, L"", ui::Seleccion::Forma::combo);
     unidad.acsEntradas = {CString(unidadAbsoluta), L"%/ºC"};
     unidad.iSeleccion = coeficiente.iUnidad;
+    unidad.csIndicacion = L"La unidad en que se ve y se escribe; el valor se convierte";
     unidad.colocacion = ui::JuntoA(campo);
     unidad.alElegir = [this, &coeficiente] { AlCambiarUnidad(coeficiente); };
     coeficiente.unidad = &unidad;
