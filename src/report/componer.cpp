@@ -64,7 +64,7 @@ std::vector<DatoPortada> DatosQueCaben(const Documento& documento, const std::st
 void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& pliego)
 {
     constexpr double kCuerpoTitulo = 25.0, kRenglonTitulo = 31.0, kSobreTitulo = 151.0, kParteSobre = 0.21;
-    constexpr double kBajoFirma = 92.0, kAnchoFirma = 230.0;
+    constexpr double kBajoFirma = 92.0, kAnchoFirma = 230.0, kParaFirmar = 36.0;
     pliego.y = pliego.Arriba() + std::min(kSobreTitulo, kParteSobre * pliego.Entera());
     pliego.Fondo(pliego.Izquierda(), pliego.y - kRenglonTitulo - 14.0, 64.0, 4.0, papel::kAzul);
     for (const CString& csLinea :
@@ -74,8 +74,9 @@ void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& 
         pliego.Bajar(kRenglonTitulo);
     }
     pliego.Bajar(kRenglonTitulo);
-    const double dFirma = pliego.y + pliego.Resto() - kBajoFirma;
-    for (const DatoPortada& dato : DatosQueCaben(documento, fecha, dFirma - pliego.y, pliego)) {
+    const double dAbajo = pliego.y + pliego.Resto();
+    const double dResto = dAbajo - kBajoFirma - kParaFirmar - pliego.y;
+    for (const DatoPortada& dato : DatosQueCaben(documento, fecha, dResto, pliego)) {
         pliego.Escribir(pliego.Izquierda(), pliego.y, kRotulosPortada, dato.csRotulo, {kCuerpoDato},
                         papel::kTenue);
         for (const CString& csLinea : dato.lineas) {
@@ -87,12 +88,16 @@ void PonerPortada(const Documento& documento, const std::string& fecha, Pliego& 
     }
     if (documento.portada.firma.empty())
         return;
+    constexpr std::size_t kLineasFirma = 4;
+    const std::vector<CString> firma = Primeras(
+        EnLineas(EnHoja("Firma: " + documento.portada.firma), {kCuerpoDato}, kAnchoFirma, pliego.medidor),
+        kLineasFirma);
+    // Lower where a low sheet would leave no room to sign.
+    const double dFirma = std::min(std::max(dAbajo - kBajoFirma, pliego.y + kParaFirmar),
+                                   dAbajo - static_cast<double>(firma.size()) * kRenglonDato);
     pliego.Raya(pliego.Izquierda(), dFirma, kAnchoFirma, papel::kTinta, 0.7);
     double dBase = dFirma + kRenglonDato;
-    constexpr std::size_t kLineasFirma = 4;
-    for (const CString& csLinea : Primeras(
-             EnLineas(EnHoja("Firma: " + documento.portada.firma), {kCuerpoDato}, kAnchoFirma, pliego.medidor),
-             kLineasFirma)) {
+    for (const CString& csLinea : firma) {
         pliego.Escribir(pliego.Izquierda(), dBase, kAnchoFirma, csLinea, {kCuerpoDato}, papel::kTinta);
         dBase += kRenglonDato;
     }
