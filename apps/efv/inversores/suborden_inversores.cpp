@@ -244,11 +244,12 @@ public:
                    : m_bCsv ? InformeCsv(r, m_bTodos)
                             : InformeTexto(r, nMaximo, m_bTodos))
                << std::flush;
-        if (r.valen.empty())
+        if (r.valen.empty()) {
             throw ErrorEjecucion(fmt::format(
                 "ningún inversor vale para {} paneles en ramales iguales{}: pruebe otro número, --ratio o "
                 "--inversores",
                 r.pedido.iPaneles, m_bTodos ? "" : " (por qué: --todos)"));
+        }
         return 0;
     }
 
