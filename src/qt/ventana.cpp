@@ -14,6 +14,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScreen>
+#include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -90,6 +91,16 @@ VentanaDialogo::VentanaDialogo(ui::Dialogo& dialogo, Marco marco, QWidget* padre
         encadenar(m_cancelar);
     }
 
+    // From anywhere: a list that drops down keeps Ctrl+Tab for itself. A panel's host has keys of its own.
+    if (m_paginas != nullptr && marco == Marco::ventana) {
+        for (const auto& [teclas, bSiguiente] :
+             {std::pair(Qt::CTRL | Qt::Key_PageDown, true), std::pair(Qt::CTRL | Qt::Key_PageUp, false),
+              std::pair(Qt::CTRL | Qt::Key_Tab, true), std::pair(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab, false)}) {
+            const bool bHacia = bSiguiente;
+            connect(new QShortcut(teclas, this), &QShortcut::activated, this,
+                    [this, bHacia] { m_paginas->Pasar(bHacia); });
+        }
+    }
     connect(&m_temporizador, &QTimer::timeout, this, &VentanaDialogo::AtenderTemporizador);
     m_salida.setSingleShot(true);
     connect(&m_salida, &QTimer::timeout, this, [this] {
@@ -322,7 +333,8 @@ void VentanaDialogo::AnunciarNotas()
 
 void VentanaDialogo::Anunciar(const QString& texto)
 {
-    Vista* const conFoco = VistaDe(QApplication::focusWidget());
+    // A window whose work was in front has its focus back in a moment.
+    Vista* const conFoco = VistaDe(m_marco == Marco::ventana ? focusWidget() : QApplication::focusWidget());
     if (conFoco != nullptr)
         conFoco->Anunciar(texto);
 }

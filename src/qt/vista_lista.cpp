@@ -8,6 +8,7 @@
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMenu>
+#include <QPainter>
 #include <QScrollBar>
 #include <QTableView>
 #include <QToolTip>
@@ -16,6 +17,7 @@
 #include <quorvel/ui/filas.h>
 
 #include "qt/celdas_menu.h"
+#include "qt/colores.h"
 #include "qt/modelo_filas.h"
 #include "qt/texto.h"
 #include "qt/vistas_familias.h"
@@ -73,6 +75,28 @@ protected:
             alPedirCopia();
         else
             BASE::keyPressEvent(evento);
+    }
+    // The style's mark of the current cell is too faint to tell where the keyboard is.
+    void paintEvent(QPaintEvent* evento) override
+    {
+        BASE::paintEvent(evento);
+        if (!BASE::hasFocus())
+            return;
+        QPainter pintor(BASE::viewport());
+        const QPalette paleta = BASE::palette();
+        pintor.setPen(
+            QPen(Legible(paleta.color(QPalette::Highlight), paleta.color(QPalette::Base), Uso::dibujo), 2.0));
+        pintor.drawRect(BASE::viewport()->rect().adjusted(1, 1, -1, -1));
+        const QModelIndex actual = BASE::currentIndex();
+        if (actual.isValid() && !BASE::selectionModel()->isSelected(actual))
+            pintor.drawRect(BASE::visualRect(actual).adjusted(1, 1, -1, -1));
+    }
+    // The frame doesn't move with what scrolls.
+    void scrollContentsBy(int iX, int iY) override
+    {
+        BASE::scrollContentsBy(iX, iY);
+        if (BASE::hasFocus())
+            BASE::viewport()->update();
     }
     // What is cut off, whole.
     bool viewportEvent(QEvent* evento) override

@@ -98,6 +98,8 @@ public:
     virtual QWidget* Pagina(int iPagina) = 0;
     /// Shows that page without telling the dialog.
     virtual void Mostrar(int iPagina) = 0;
+    /// Goes to the next page, or the one before, as the person does.
+    virtual void Pasar(bool bSiguiente) = 0;
 };
 
 std::unique_ptr<VistaPaginas> CrearPaginas(ui::Seleccion& control, QWidget* padre, Accionador& accionador);

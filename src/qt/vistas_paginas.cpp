@@ -80,6 +80,17 @@ public:
         Pestanas().setCurrentIndex(iPagina);
     }
 
+    void Pasar(bool bSiguiente) override
+    {
+        const int n = Pestanas().count();
+        int i = Pestanas().currentIndex();
+        for (int iPaso = 0; iPaso < n; ++iPaso) {
+            i = (i + (bSiguiente ? 1 : n - 1)) % n;
+            if (Pestanas().isTabVisible(i) && Pestanas().isTabEnabled(i))
+                return Pestanas().setCurrentIndex(i);
+        }
+    }
+
 private:
     QTabWidget& Pestanas() const { return static_cast<QTabWidget&>(*widget); }
 
