@@ -49,7 +49,7 @@ constexpr int kEntreCopias = 5000;         // ms
 constexpr int kAncho = 1280, kAlto = 800, kAnchoLugar = 360, kAltoResumen = 270, kAltoEsquema = 120;
 
 // Of the screen's width, before a panel scrolls sideways.
-constexpr double kParteLugar = 0.35, kPartePestanas = 0.5;
+constexpr double kParteLugar = 0.42, kPartePestanas = 0.5;
 
 constexpr int kComprobaciones = 1;  // tab below a schematic, behind the summary
 

@@ -392,8 +392,8 @@ private:
         else if (auto* tabla = dynamic_cast<Rejilla<QTableView>*>(widget))
             tabla->propuesto = propuesto;
         // On a small screen it scrolls by itself rather than make the whole dialog scroll.
-        widget->setMinimumSize(std::min(propuesto.width(), kAnchoImprescindible),
-                               iMarco + kFilasImprescindibles * iLinea);
+        const int iFilas = kFilasImprescindibles + (m_lista.colocacion.bEstirar ? 1 : 0);
+        widget->setMinimumSize(std::min(propuesto.width(), kAnchoImprescindible), iMarco + iFilas * iLinea);
         RepartirColumnas();
     }
 
