@@ -206,7 +206,9 @@ void PanelLugar::DecirHallados()
     if (m_nResponden == 0)
         return;
     const CString csCuantos =
-        m_nResponden == 1 ? CString(L"1 lugar") : std::to_wstring(m_nResponden) + L" lugares";
+        m_nResponden == 1
+            ? CString(L"1 lugar")
+            : std::to_wstring(m_nResponden) + (m_nResponden < kOfrecidas ? L" lugares" : L" lugares o más");
     m_hallados->csTexto = csCuantos + L"; Intro elige " + NombreConProvincia(*m_ofrecidas.front()) + L".";
 }
 
