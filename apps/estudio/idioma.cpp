@@ -1,7 +1,7 @@
 #include "idioma.h"
 
+#include <array>
 #include <string_view>
-#include <utility>
 
 #include <QCoreApplication>
 #include <QLibraryInfo>
@@ -14,17 +14,33 @@ namespace efv::estudio {
 
 namespace {
 
-/// What Qt's own translation of its print dialogs lacks.
+struct Texto {
+    std::string_view contexto;  // how the class that asks begins
+    std::string_view ingles;
+    const char* espanol;
+};
+
+/// What Qt's own translation lacks: of its print dialogs, and of the column "Tipo" of its file dialogs.
+constexpr auto kTextos = std::to_array<Texto>({
+    {"QPrint", "Advanced", "Avanzado"},
+    {"QPrint", "Pages", "Páginas"},
+    {"QAbstractFileIconProvider", "Drive", "Unidad"},
+    {"QAbstractFileIconProvider", "Folder", "Carpeta"},
+    {"QAbstractFileIconProvider", "File Folder", "Carpeta"},
+    {"QAbstractFileIconProvider", "File", "Archivo"},
+    {"QAbstractFileIconProvider", "%1 File", "Archivo %1"},
+    {"QAbstractFileIconProvider", "Shortcut", "Acceso directo"},
+    {"QAbstractFileIconProvider", "Unknown", "Desconocido"},
+});
+
 class TextosQueFaltan final : public QTranslator {
 public:
     QString translate(const char* contexto, const char* texto, const char* /*distincion*/,
                       int /*iNumero*/) const override
     {
-        if (!std::string_view(contexto).starts_with("QPrint"))
-            return {};
-        for (const auto& [ingles, espanol] : {std::pair("Advanced", "Avanzado"), {"Pages", "Páginas"}})
-            if (std::string_view(texto) == ingles)
-                return QString::fromUtf8(espanol);
+        for (const auto& fila : kTextos)
+            if (std::string_view(contexto).starts_with(fila.contexto) && fila.ingles == texto)
+                return QString::fromUtf8(fila.espanol);
         return {};
     }
     bool isEmpty() const override { return false; }
