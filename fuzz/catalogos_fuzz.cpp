@@ -71,7 +71,7 @@ void Editar(const std::string& bytes)
         for (const auto familia : leido.Hijos(tabla, "Familia")) {
             edicion.PonerAtributo(familia, L"nombre", CString(L"a\"<&>\x1B") + leido.Nombre(familia));
             edicion.Duplicar(familia);
-            edicion.Retirar(familia);
+            edicion.Retirar({familia});
         }
         edicion.Anadir(tabla, "Familia", {{L"nombre", L"\xD800\t"}});
     }
