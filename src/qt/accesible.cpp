@@ -4,9 +4,11 @@
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 
 #include <quorvel/qt.h>
 
+#include "qt/texto_accesible.h"
 #include "qt/ventana.h"
 
 namespace efv::qt {
@@ -14,12 +16,28 @@ namespace efv::qt {
 namespace {
 
 constexpr const char* kPapel = "papelAccesible";
+constexpr const char* kAviso = "avisoHablado";
 
 // Qt gives what is chosen for a name where the caption is said by a relation; not every caption is a label.
-class ComboAccesible final : public QAccessibleWidget {
+// Readers that take the caption from the relation look for what is chosen in a text, as that of a field; of
+// another choice they hear nothing.
+class ComboAccesible final : public QAccessibleWidget, public LineaAccesible {
 public:
-    explicit ComboAccesible(QComboBox* combo) : QAccessibleWidget(combo, QAccessible::ComboBox) {}
+    explicit ComboAccesible(QComboBox* combo) : QAccessibleWidget(combo, QAccessible::ComboBox)
+    {
+        QObject::connect(combo, &QComboBox::currentTextChanged, combo, [combo](const QString& elegido) {
+            if (combo->hasFocus() && !combo->view()->isVisible())
+                Avisar(*combo, elegido);
+        });
+    }
 
+    void* interface_cast(QAccessible::InterfaceType tipo) override
+    {
+        return tipo == QAccessible::TextInterface ? static_cast<QAccessibleTextInterface*>(this)
+                                                  : QAccessibleWidget::interface_cast(tipo);
+    }
+
+    using LineaAccesible::text;
     QString text(QAccessible::Text que) const override
     {
         // Without a description of its own the tip would be said, which is what is chosen.
@@ -45,10 +63,11 @@ public:
         return estado;
     }
 
-    int childCount() const override { return 1; }
+    // What drops down is there while it is seen: else a reader looks in each of its rows for the one chosen.
+    int childCount() const override { return Combo().view()->isVisible() ? 1 : 0; }
     QAccessibleInterface* child(int i) const override
     {
-        return i == 0 ? QAccessible::queryAccessibleInterface(Combo().view()) : nullptr;
+        return i == 0 && childCount() == 1 ? QAccessible::queryAccessibleInterface(Combo().view()) : nullptr;
     }
     int indexOfChild(const QAccessibleInterface* hijo) const override
     {
@@ -62,7 +81,10 @@ public:
             Combo().view()->isVisible() ? Combo().hidePopup() : Combo().showPopup();
     }
 
+    QRect characterRect(int /*i*/) const override { return rect(); }
+
 private:
+    QString Linea() const override { return Combo().currentText(); }
     QComboBox& Combo() const { return *static_cast<QComboBox*>(object()); }
 };
 
@@ -76,6 +98,39 @@ public:
     int indexOfChild(const QAccessibleInterface* /*hijo*/) const override { return -1; }
 };
 
+// What a window says by itself. Never shown: readers ask for its name when they are told that it is. What comes
+// in one turn is said in one: of two, only the second would be found.
+class Aviso final : public QWidget {
+public:
+    explicit Aviso(QWidget& ventana) : QWidget(&ventana)
+    {
+        setObjectName(kAviso);
+        hide();
+        PonerPapel(*this, QAccessible::Notification);
+    }
+
+    void Decir(const QString& texto)
+    {
+        if (texto.isEmpty() || m_textos.contains(texto))
+            return;
+        m_textos << texto;
+        if (m_textos.size() == 1)
+            QMetaObject::invokeMethod(
+                this, [this] { Mostrarse(); }, Qt::QueuedConnection);
+    }
+
+private:
+    void Mostrarse()
+    {
+        setAccessibleName(m_textos.join(QStringLiteral(". ")));
+        m_textos.clear();
+        QAccessibleEvent visto(this, QAccessible::ObjectShow);
+        QAccessible::updateAccessibility(&visto);
+    }
+
+    QStringList m_textos;
+};
+
 QAccessibleInterface* Crear(const QString& clase, QObject* objeto)
 {
     auto* const widget = qobject_cast<QWidget*>(objeto);
@@ -86,6 +141,8 @@ QAccessibleInterface* Crear(const QString& clase, QObject* objeto)
         return new DibujoAccesible(widget);
     if (papel.isValid())
         return new QAccessibleWidget(widget, static_cast<QAccessible::Role>(papel.toInt()));
+    if (clase == QLatin1String("QLineEdit"))
+        return new CampoAccesible(qobject_cast<QLineEdit*>(objeto));
     auto* const combo = clase == QLatin1String("QComboBox") ? qobject_cast<QComboBox*>(objeto) : nullptr;
     return combo == nullptr || combo->isEditable() ? nullptr : new ComboAccesible(combo);
 }
@@ -100,6 +157,15 @@ void InstalarAccesibles()
 void PonerPapel(QWidget& widget, QAccessible::Role papel)
 {
     widget.setProperty(kPapel, static_cast<int>(papel));
+}
+
+void Avisar(const QWidget& quien, const QString& texto)
+{
+    QWidget& ventana = *quien.window();
+    auto* aviso = dynamic_cast<Aviso*>(ventana.findChild<QWidget*>(kAviso, Qt::FindDirectChildrenOnly));
+    if (aviso == nullptr)
+        aviso = new Aviso(ventana);
+    aviso->Decir(texto);
 }
 
 void EsDibujo(QWidget& widget)

@@ -16,4 +16,9 @@ void InstalarAccesibles();
 /// A plain widget is told as what it stands for, rather than passed over as room for others.
 void PonerPapel(QWidget& widget, QAccessible::Role papel);
 
+/// A screen reader says the text at once, wherever the focus is: as a notification that shows up in the window
+/// and that nobody sees. Of a changed name or description Qt 6.4 tells readers that it changed and not what it
+/// is now.
+void Avisar(const QWidget& quien, const QString& texto);
+
 }  // namespace efv::qt

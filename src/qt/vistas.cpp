@@ -9,6 +9,7 @@
 
 #include <quorvel/ui/campo.h>
 
+#include "qt/accesible.h"
 #include "qt/colores.h"
 #include "qt/texto.h"
 
@@ -109,11 +110,12 @@ void Vista::RefrescarDescripcion()
         widget->setAccessibleDescription(texto);
 }
 
-// A change of the description is said where the focus is; Qt 6.4 has no way to say something else.
+// Said now, and again when the focus comes back or a reader asks.
 void Vista::Anunciar(const QString& texto)
 {
     m_anuncio = texto;
     RefrescarDescripcion();
+    Avisar(*widget, texto);
 }
 
 void Vista::RefrescarColores()
