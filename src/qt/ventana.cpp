@@ -40,7 +40,8 @@ std::vector<VentanaDialogo*>& Abiertas()
     return abiertas;
 }
 
-constexpr double kParteDeAncho = 0.985, kParteDeAlto = 0.92;  // of the screen; title and frame take the rest
+constexpr double kParteDeAncho = 0.985, kParteDeAlto = 0.92;  // of the screen; title and frame take the rest,
+constexpr int kTituloYMarco = 42;                             // px, which is not more on a large one
 constexpr QSize kTamanoMinimo(300, 0);
 constexpr QSize kTamanoMaximizable(760, 540);  // of what is meant to be looked at large
 constexpr qsizetype kNotasDichas = 3;          // at once
@@ -186,7 +187,7 @@ QSize VentanaDialogo::Sitio() const
 {
     const QSize pantalla = screen()->availableSize();
     return {static_cast<int>(pantalla.width() * kParteDeAncho),
-            static_cast<int>(pantalla.height() * kParteDeAlto)};
+            std::max(static_cast<int>(pantalla.height() * kParteDeAlto), pantalla.height() - kTituloYMarco)};
 }
 
 // Room for the controls and the title; on a screen too small for them they fold, and then scroll.
