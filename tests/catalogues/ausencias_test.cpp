@@ -1,10 +1,12 @@
 // What a model's file doesn't say, for the six kinds.
+#include <map>
 #include <string>
 
 #include <gtest/gtest.h>
 
 #include <quorvel/tipos_catalogo.h>
 
+#include "catalogues/viewer/faltas.h"
 #include "comun/ficheros.h"
 
 namespace efv {
@@ -43,6 +45,24 @@ TEST(Ausencias, DeCadaModeloSeSabeQueAtributoLeFaltaYDeQuienEsSuValor)
         EXPECT_EQ(HeredadoDe(leidos, *leidos[0], campos[0]), nullptr);
         EXPECT_EQ(HeredadoDe(leidos, *leidos[3], campos[3]), leidos[2]);
         EXPECT_EQ(tipo->Valor(*leidos[3], 3), tipo->Valor(*leidos[2], 3));
+    }
+}
+
+// Two fields of one line share its caption: what one lacks isn't said of the other.
+TEST(Ausencias, LoQueFaltaSeNombraComoEnLaFicha)
+{
+    for (const TipoCatalogo* tipo : TiposDeCatalogo()) {
+        const auto dialogo = tipo->CrearDialogo(*tipo->CrearModelo());
+        std::map<CString, std::string> campos;
+        for (const auto& campo : tipo->Campos()) {
+            const catalogues::SinDato falta{campo.nombre, false};
+            const CString csTexto = catalogues::TextoDeFaltas(*dialogo, {&falta, 1});
+            if (csTexto.empty())
+                continue;
+            const auto [otro, bNuevo] = campos.try_emplace(csTexto, campo.nombre);
+            EXPECT_TRUE(bNuevo) << campo.nombre << " and " << otro->second << ": " << CadenaUtf8(csTexto);
+        }
+        EXPECT_FALSE(campos.empty()) << tipo->Nombre();
     }
 }
 

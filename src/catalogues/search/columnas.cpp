@@ -9,6 +9,7 @@
 #include <quorvel/catalogues/consulta.h>
 #include <quorvel/ui/como.h>
 
+#include "catalogues/search/rotulos.h"
 #include "catalogues/search/valores.h"
 #include "platform/numero/conversion.h"
 #include "platform/unidades/unidades.h"
@@ -31,28 +32,12 @@ constexpr auto kRotulos = std::to_array<RotuloCampo>({
     {"dICCMax", L"Corriente de entrada máxima (A)"},
     {"dICCMin", L"Corriente de entrada mínima (A)"},
     {"iNumEntradas", L"Número de entradas"},
+    {"iTipoSalida", L"Salida"},
     {"dICAMax", L"Corriente de salida máxima (A)"},
     {"dICAMin", L"Corriente de salida mínima (A)"},
     {"nColor", L"Color, código de la paleta"},
     {"csCodPrecio", L"Código de precios"},
 });
-
-CString RotuloPropio(std::string_view campo)
-{
-    constexpr std::string_view kCapacidad = "dCapC", kTension = "dVccC";
-    const auto rotulo = [&](const wchar_t* que, std::string_view comienzo, const wchar_t* unidad) {
-        CString cs = que;
-        cs += CadenaDesdeUtf8(std::string(campo.substr(comienzo.size())));
-        cs += unidad;
-        return cs;
-    };
-    if (campo.starts_with(kCapacidad))
-        return rotulo(L"Capacidad C", kCapacidad, L" (Ah)");
-    if (campo.starts_with(kTension))
-        return rotulo(L"Tensión al acabar la descarga C", kTension, L" (V)");
-    const auto fila = std::ranges::find(kRotulos, campo, &RotuloCampo::campo);
-    return fila == kRotulos.end() ? CString() : CString(fila->texto);
-}
 
 // A caption without its mark and its colon.
 CString SinMarcas(const CString& csRotulo)
@@ -106,6 +91,23 @@ AspectoCampo AspectoDe(const ui::Dialogo& ficha, std::string_view campo)
 
 }  // namespace
 
+CString catalogues::RotuloPropio(std::string_view campo)
+{
+    constexpr std::string_view kCapacidad = "dCapC", kTension = "dVccC";
+    const auto rotulo = [&](const wchar_t* que, std::string_view comienzo, const wchar_t* unidad) {
+        CString cs = que;
+        cs += CadenaDesdeUtf8(std::string(campo.substr(comienzo.size())));
+        cs += unidad;
+        return cs;
+    };
+    if (campo.starts_with(kCapacidad))
+        return rotulo(L"Capacidad C", kCapacidad, L" (Ah)");
+    if (campo.starts_with(kTension))
+        return rotulo(L"Tensión al acabar la descarga C", kTension, L" (V)");
+    const auto fila = std::ranges::find(kRotulos, campo, &RotuloCampo::campo);
+    return fila == kRotulos.end() ? CString() : CString(fila->texto);
+}
+
 std::wstring_view catalogues::MagnitudDe(const TipoCatalogo& tipo, std::size_t iCampo)
 {
     const CampoCatalogo& campo = tipo.Campos()[iCampo];
@@ -128,7 +130,7 @@ ColumnaCatalogo::ColumnaCatalogo(const TipoCatalogo& tipo, const ui::Dialogo& fi
         return;
     const CampoCatalogo& campo = tipo.Campos()[iCampo];
     AspectoCampo aspecto = AspectoDe(ficha, campo.nombre);
-    m_csRotulo = RotuloPropio(campo.nombre);
+    m_csRotulo = catalogues::RotuloPropio(campo.nombre);
     if (m_csRotulo.empty())
         m_csRotulo = SinMarcas(aspecto.csRotulo);
     if (m_csRotulo.empty())

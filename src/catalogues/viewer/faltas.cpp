@@ -6,6 +6,8 @@
 
 #include <quorvel/ui/como.h>
 
+#include "catalogues/search/rotulos.h"
+
 namespace efv::catalogues {
 
 namespace {
@@ -19,21 +21,26 @@ CString Nombre(CString csRotulo)
     return csRotulo;
 }
 
-// Fields by their captions: of a control without one that of the line, of a table's cells that of the row.
+// Fields by their captions, the same as in the data sheet; else of a control without one that of the line, of a
+// table's cells that of the row.
 std::unordered_map<std::string, CString> NombresDeCampos(const ui::Dialogo& dialogo)
 {
     std::unordered_map<std::string, CString> nombres;
+    const auto anadir = [&](const std::string& campo, const CString& csCompartido) {
+        const CString csPropio = Nombre(RotuloPropio(campo));
+        nombres.try_emplace(campo, csPropio.empty() ? csCompartido : csPropio);
+    };
     CString csUltimo;
     for (const auto& control : dialogo.Controles()) {
         if (!control->bVisible)
             continue;
         if (!control->csRotulo.empty())
             csUltimo = Nombre(control->csRotulo);
-        nombres.try_emplace(control->nombre, csUltimo);
+        anadir(control->nombre, csUltimo);
         const auto* lista = ui::Como<ui::Lista>(*control);
         for (int f = 0; lista != nullptr && f < lista->Filas(); ++f)
             for (int c = 1; c < static_cast<int>(lista->acsColumnas.size()); ++c)
-                nombres.try_emplace(std::string(lista->modelo->Campo(f, c)), lista->modelo->Celda(f, 0));
+                anadir(std::string(lista->modelo->Campo(f, c)), lista->modelo->Celda(f, 0));
     }
     return nombres;
 }
