@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QTimer>
 
 #include <quorvel/qt.h>
 
@@ -107,6 +108,9 @@ public:
         setObjectName(kAviso);
         hide();
         PonerPapel(*this, QAccessible::Notification);
+        m_turno.setSingleShot(true);
+        m_turno.setInterval(0);
+        connect(&m_turno, &QTimer::timeout, this, [this] { Mostrarse(); });
     }
 
     void Decir(const QString& texto)
@@ -114,9 +118,7 @@ public:
         if (texto.isEmpty() || m_textos.contains(texto))
             return;
         m_textos << texto;
-        if (m_textos.size() == 1)
-            QMetaObject::invokeMethod(
-                this, [this] { Mostrarse(); }, Qt::QueuedConnection);
+        m_turno.start();
     }
 
 private:
@@ -129,6 +131,7 @@ private:
     }
 
     QStringList m_textos;
+    QTimer m_turno;
 };
 
 QAccessibleInterface* Crear(const QString& clase, QObject* objeto)

@@ -191,8 +191,9 @@ void PlegarPanel(QWidget* panel, int iAncho)
 
 int AnchoMinimoDePanel(QWidget* panel)
 {
-    auto* propio = dynamic_cast<VentanaDialogo*>(panel);
-    return propio != nullptr ? propio->AnchoMinimo() : panel->minimumSizeHint().width();
+    if (auto* propio = dynamic_cast<VentanaDialogo*>(panel))
+        return propio->AnchoMinimo();
+    return panel != nullptr ? panel->minimumSizeHint().width() : 0;
 }
 
 void RefrescarVentana(QWidget* ventana)
