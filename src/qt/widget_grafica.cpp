@@ -251,8 +251,11 @@ void WidgetGrafica::Describir()
 {
     const QString texto = AQt(m_marcado ? ui::LecturaDePunto(m_datos, m_marcado->iSerie, m_marcado->iPunto)
                                         : ui::DescripcionDe(m_datos));
-    if (accessibleDescription() != texto)
-        setAccessibleDescription(texto);
+    if (accessibleDescription() == texto)
+        return;
+    setAccessibleDescription(texto);
+    if (m_marcado && hasFocus())
+        Avisar(*this, texto);
 }
 
 // Left and right along a series, a page a twentieth of it, to its ends; up and down to the next one that has a
