@@ -39,6 +39,17 @@ private:
     bool EsNota() const { return m_texto.csTexto.empty() && m_texto.csRotulo.size() > kRotuloLargo; }
     QLabel& Etiqueta() const { return static_cast<QLabel&>(*widget); }
 
+    // With what it says, which a name alone would hide.
+    QString NombreHablado() const override
+    {
+        const QString texto = Etiqueta().text();
+        const QString suyo = Vista::NombreHablado();
+        if (texto.isEmpty() || suyo.isEmpty() || suyo == texto)
+            return suyo.isEmpty() ? texto : suyo;
+        return suyo + QStringLiteral(": ") +
+               (texto == QStringLiteral("—") ? QStringLiteral("sin dato") : texto);
+    }
+
     void RefrescarContenido() override
     {
         QString texto = AQt(m_texto.csTexto);
