@@ -85,11 +85,7 @@ private:
         for (const CampoPedido& campo : CamposPedidos())
             if (std::ranges::find(campos, campo.nombre) != campos.end())
                 AnadirOpcion(orden, campo);
-        CLI::Option* json = orden.add_flag("--json", m_bJson, "Escribe JSON");
-        CLI::Option* csv = orden.add_flag(
-            "--csv", m_bCsv, "Escribe CSV con punto y coma y coma decimal, como lo leen las hojas de cálculo");
-        json->option_text(" ")->excludes(csv)->disable_flag_override();
-        csv->option_text(" ")->disable_flag_override();
+        DeclararSalidas(orden, m_bJson, m_bCsv);
         orden.footer(std::string(kTemperaturas) + "\n" + pie);
         return orden;
     }

@@ -105,21 +105,10 @@ private:
 
     int Buscar(std::ostream& salida) const
     {
-        const std::string texto = fmt::format("{}", fmt::join(m_palabras, " "));
-        const PalabrasBuscadas palabras(CadenaDesdeUtf8(texto));
-        if (palabras.Vacias() && !m_pregunta.ConCondiciones())
+        if (PalabrasBuscadas(CadenaDesdeUtf8(fmt::format("{}", fmt::join(m_palabras, " ")))).Vacias() &&
+            !m_pregunta.ConCondiciones())
             throw ErrorUso("falta el texto que se busca, o --donde (ayuda: efv catalogo buscar --help)");
-        const CatalogoAbierto catalogo = Abrir();
-        Modelos hallados;
-        std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados),
-                             [&](const auto* modelo) { return palabras.Estan(*modelo); });
-        if (hallados.empty())
-            throw ErrorEjecucion(
-                fmt::format("ningún modelo contiene «{}»{}", EnUnaLinea(texto), catalogo.Parecidos(texto)));
-        hallados = m_pregunta.Responder(Tipo(), hallados);
-        if (hallados.empty())
-            throw ErrorEjecucion("ningún modelo cumple las condiciones");
-        Escribir(salida, hallados);
+        Escribir(salida, m_pregunta.Buscar(Abrir(), m_palabras));
         return 0;
     }
 

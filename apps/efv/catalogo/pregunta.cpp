@@ -4,6 +4,7 @@
 #include <iterator>
 
 #include <fmt/format.h>
+#include <fmt/ranges.h>
 #include <CLI/CLI.hpp>
 
 #include "comun/consola.h"
@@ -131,6 +132,23 @@ std::vector<std::size_t> PreguntaCatalogo::NumerosDeCampo(const TipoCatalogo& ti
     for (const std::string& nombre : Partes(*m_columnas))
         numeros.push_back(Campo(tipo, "--columnas", nombre));
     return numeros;
+}
+
+Modelos PreguntaCatalogo::Buscar(const CatalogoAbierto& catalogo,
+                                 const std::vector<std::string>& palabras) const
+{
+    const std::string texto = fmt::format("{}", fmt::join(palabras, " "));
+    const PalabrasBuscadas buscadas(CadenaDesdeUtf8(texto));
+    Modelos hallados;
+    std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados),
+                         [&](const auto* modelo) { return buscadas.Estan(*modelo); });
+    if (hallados.empty())
+        throw ErrorEjecucion(
+            fmt::format("ningún modelo contiene «{}»{}", EnUnaLinea(texto), catalogo.Parecidos(texto)));
+    hallados = Responder(catalogo.Tipo(), hallados);
+    if (hallados.empty())
+        throw ErrorEjecucion("ningún modelo cumple las condiciones");
+    return hallados;
 }
 
 std::vector<ColumnaCatalogo> PreguntaCatalogo::Columnas(const TipoCatalogo& tipo) const

@@ -22,6 +22,9 @@ public:
     bool ConCondiciones() const { return !m_condiciones.empty(); }
     /// Those that keep to the conditions, in the order asked for. @throws ErrorUso for a field that isn't there
     Modelos Responder(const TipoCatalogo& tipo, const Modelos& modelos) const;
+    /// The models with all these words in their family or name that keep to the conditions; without words all.
+    /// @throws ErrorEjecucion when there is none
+    Modelos Buscar(const CatalogoAbierto& catalogo, const std::vector<std::string>& palabras) const;
     /// Those asked for, else the kind's own. @throws ErrorUso
     std::vector<ColumnaCatalogo> Columnas(const TipoCatalogo& tipo) const;
     /// Names of the fields asked for; nothing: all.

@@ -104,6 +104,15 @@ void Castellanizar(CLI::App& app)
     app.group("Órdenes");
 }
 
+void DeclararSalidas(CLI::App& orden, bool& bJson, bool& bCsv)
+{
+    CLI::Option* json = orden.add_flag("--json", bJson, "Escribe JSON");
+    CLI::Option* csv = orden.add_flag(
+        "--csv", bCsv, "Escribe CSV con punto y coma y coma decimal, como lo leen las hojas de cálculo");
+    json->option_text(" ")->excludes(csv)->disable_flag_override();
+    csv->option_text(" ")->disable_flag_override();
+}
+
 std::string TextoDeError(const CLI::App& raiz, const CLI::ParseError& error)
 {
     const std::string texto = error.what();

@@ -19,6 +19,9 @@ std::shared_ptr<CLI::Formatter> FormatoEspanol();
 /// Names the help option and the headings of `app` in Spanish.
 void Castellanizar(CLI::App& app);
 
+/// Adds --json and --csv, of which one goes.
+void DeclararSalidas(CLI::App& orden, bool& bJson, bool& bCsv);
+
 /// What the parser of `raiz` found wrong, as one line without the command's name; names that a misspelt one may
 /// have meant.
 std::string TextoDeError(const CLI::App& raiz, const CLI::ParseError& error);

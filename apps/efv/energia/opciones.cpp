@@ -173,11 +173,7 @@ void OpcionesEnergia::Declarar(CLI::App& linea)
         ->type_name("FICHERO");
     linea.add_option("--metodo", m_metodo, "correlacion, tabla o ambos; si falta, ambos")
         ->type_name("correlacion|tabla|ambos");
-    CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON");
-    CLI::Option* csv = linea.add_flag(
-        "--csv", m_bCsv, "Escribe CSV con punto y coma y coma decimal, como lo leen las hojas de cálculo");
-    json->option_text(" ")->excludes(csv)->disable_flag_override();
-    csv->option_text(" ")->disable_flag_override();
+    DeclararSalidas(linea, m_bJson, m_bCsv);
     linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
 }
 

@@ -1,14 +1,11 @@
 #include "inversores/suborden_inversores.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 
 #include <fmt/format.h>
 #include <fmt/ranges.h>
 #include <CLI/CLI.hpp>
-
-#include <quorvel/catalogues/consulta.h>
 
 #include "catalogo/ficha.h"
 #include "catalogo/pregunta.h"
@@ -216,11 +213,7 @@ public:
         linea.add_flag("--todos", m_bTodos, "También los que no valen, y por qué")
             ->option_text(" ")
             ->disable_flag_override();
-        CLI::Option* json = linea.add_flag("--json", m_bJson, "Escribe JSON");
-        CLI::Option* csv = linea.add_flag(
-            "--csv", m_bCsv, "Escribe CSV con punto y coma y coma decimal, como lo leen las hojas de cálculo");
-        json->option_text(" ")->excludes(csv)->disable_flag_override();
-        csv->option_text(" ")->disable_flag_override();
+        DeclararSalidas(linea, m_bJson, m_bCsv);
         linea.add_option("--datos", m_datos, kAyudaDatos)->type_name("CARPETA");
         linea.footer(kPie);
         return linea;
@@ -238,7 +231,7 @@ public:
         const CatalogoAbierto paneles = AbrirCatalogo("modulos", m_datos);
         const CatalogoAbierto inversores = AbrirCatalogo("inversores", m_datos);
         r.pedido.panel = &dynamic_cast<const CBasePanelFotoModelo&>(paneles.Buscar(*m_panel));
-        for (InversorEnsayado& e : EnsayarInversores(r.pedido, Elegidos(inversores)))
+        for (InversorEnsayado& e : EnsayarInversores(r.pedido, m_pregunta.Buscar(inversores, m_palabras)))
             (e.Vale() ? r.valen : r.noValen).push_back(std::move(e));
         salida << (m_bJson  ? InformeJson(r, m_bTodos)
                    : m_bCsv ? InformeCsv(r, m_bTodos)
@@ -275,22 +268,6 @@ private:
         pedido.dRatioMaximo = LeerAcotado("--ratio", m_ratio->substr(iHasta + 2), 0, 100);
         if (pedido.dRatioMinimo > pedido.dRatioMaximo)
             throw ErrorUso(fmt::format("--ratio: «{}» va de mayor a menor", EnUnaLinea(*m_ratio)));
-    }
-
-    Modelos Elegidos(const CatalogoAbierto& catalogo) const
-    {
-        const std::string texto = fmt::format("{}", fmt::join(m_palabras, " "));
-        const PalabrasBuscadas palabras(CadenaDesdeUtf8(texto));
-        Modelos hallados;
-        std::ranges::copy_if(catalogo.Todos(), std::back_inserter(hallados),
-                             [&](const auto* modelo) { return palabras.Estan(*modelo); });
-        if (hallados.empty())
-            throw ErrorEjecucion(
-                fmt::format("ningún inversor contiene «{}»{}", EnUnaLinea(texto), catalogo.Parecidos(texto)));
-        hallados = m_pregunta.Responder(catalogo.Tipo(), hallados);
-        if (hallados.empty())
-            throw ErrorEjecucion("ningún inversor cumple las condiciones de --donde");
-        return hallados;
     }
 
     PreguntaCatalogo m_pregunta;
