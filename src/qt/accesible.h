@@ -1,5 +1,5 @@
-// What a screen reader is told where Qt's own answer isn't enough: drawings, groups without a frame, lists that
-// drop down.
+// What a screen reader is told where Qt's own answer isn't enough: drawings, groups without a frame, fields,
+// lists that drop down; and what a window says by itself.
 #pragma once
 
 #include <QAccessible>
